@@ -1,0 +1,36 @@
+# How every target of ours is compiled.
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+option(TARVELIN_SANITIZER "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+
+add_library(tarvelin_optionen INTERFACE)
+target_compile_features(tarvelin_optionen INTERFACE cxx_std_20)
+target_include_directories(tarvelin_optionen INTERFACE ${PROJECT_SOURCE_DIR}/src)
+target_compile_definitions(tarvelin_optionen INTERFACE TARVELIN_VERSION="${PROJECT_VERSION}")
+
+# The order and precision of floating operations are part of the results: no fused multiply-add.
+# Nobody reads errno behind a mathematical function; without it the roundings are single
+# instructions.
+target_compile_options(tarvelin_optionen INTERFACE -ffp-contract=off -fno-math-errno)
+
+target_compile_options(
+  tarvelin_optionen
+  INTERFACE -Wall
+            -Wextra
+            -Wpedantic
+            -Wshadow
+            -Wconversion
+            -Wsign-conversion
+            -Wdouble-promotion
+            -Wold-style-cast
+            -Wnon-virtual-dtor
+            -Woverloaded-virtual
+            -Wcast-align
+            -Wformat=2
+            -Wimplicit-fallthrough)
+
+if(TARVELIN_SANITIZER)
+  set(sanitizer -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_compile_options(tarvelin_optionen INTERFACE ${sanitizer} -D_GLIBCXX_ASSERTIONS)
+  target_link_options(tarvelin_optionen INTERFACE ${sanitizer})
+endif()

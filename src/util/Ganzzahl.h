@@ -1,0 +1,34 @@
+// The whole-number kinds of the game model and their one rule for overflow: a value that leaves
+// its range is held at the end of that range.
+#pragma once
+
+#include <cstdint>
+#include <limits>
+
+#include "util/Rundung.h"
+
+namespace tarvelin {
+
+using Long = std::int32_t;
+using Integer = std::int16_t;
+using Byte = std::uint8_t;
+
+/// `wert` held within the range of T.
+template <class T>
+constexpr T Saettige(std::int64_t wert) {
+    constexpr auto kMin = static_cast<std::int64_t>(std::numeric_limits<T>::min());
+    constexpr auto kMax = static_cast<std::int64_t>(std::numeric_limits<T>::max());
+    return static_cast<T>(wert < kMin ? kMin : (wert > kMax ? kMax : wert));
+}
+
+/// Sum and difference of two whole numbers, held within the range of Long.
+constexpr Long LongSumme(std::int64_t a, std::int64_t b) {
+    return Saettige<Long>(a + b);
+}
+
+/// A floating value as a Long, half to even, held within the range.
+inline Long HalfEvenLong(double wert) {
+    return Saettige<Long>(Rundung::half_even(wert));
+}
+
+}  // namespace tarvelin

@@ -1,0 +1,36 @@
+// What a message box of the program shows. Messages are made where the facts are known and shown
+// at the edge.
+#pragma once
+
+#include <string>
+
+namespace tarvelin {
+
+/// A modal message with one OK button and the critical-stop icon.
+struct Meldung {
+    std::string Text;
+    /// Empty where a message has no title of its own.
+    std::string Titel;
+
+    friend bool operator==(const Meldung&, const Meldung&) = default;
+};
+
+/// The title that tells bad input.
+inline constexpr const char* kAusnahmefehler = "Schwerer Ausnahmefehler 1337 !";
+
+/// Who shows messages: the window by a box, the console on its error stream.
+class Meldungsausgabe {
+  public:
+    Meldungsausgabe() = default;
+    Meldungsausgabe(const Meldungsausgabe&) = delete;
+    Meldungsausgabe& operator=(const Meldungsausgabe&) = delete;
+    virtual ~Meldungsausgabe() = default;
+
+    /// Returns when the user has seen the message.
+    virtual void Zeige(const Meldung& meldung) = 0;
+
+    /// One beep, for what needs no words.
+    virtual void Piepton() = 0;
+};
+
+}  // namespace tarvelin
