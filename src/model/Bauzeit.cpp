@@ -1,0 +1,55 @@
+// Texts of the table of build times.
+#include "model/Bauzeit.h"
+
+#include <cmath>
+
+#include "util/Zahlentext.h"
+
+namespace tarvelin {
+
+namespace {
+
+std::string_view Rohstoff(Verzoegerung::Art art) {
+    switch (art) {
+        case Verzoegerung::Art::Metall:
+            return " Metall";
+        case Verzoegerung::Art::Kristall:
+            return " Kristall";
+        case Verzoegerung::Art::Deuterium:
+            return " Deuterium";
+        case Verzoegerung::Art::OhneAngabe:
+        case Verzoegerung::Art::Keine:
+            break;
+    }
+    return "";
+}
+
+}  // namespace
+
+std::string Verzoegerung::Text() const {
+    switch (Grund) {
+        case Art::OhneAngabe:
+            return "";
+        case Art::Keine:
+            return "Keine Verzögerung wegen der Ressourcen!";
+        default:
+            return "Es fehlten: " + Ganztext(std::floor(Fehlmenge)) + std::string(Rohstoff(Grund));
+    }
+}
+
+std::string Bauzeittext::Text() const {
+    if (Name.empty()) {
+        const auto prozent = [this](std::size_t i) { return std::to_string(Faktoren[i] * 10); };
+        return prozent(0) + "% " + prozent(1) + "% " + prozent(2) + "%";
+    }
+    std::string text(Name);
+    return Nummer == 0 ? text : text + std::to_string(Nummer);
+}
+
+std::string Bauzeit::Tag() const {
+    std::string tag = std::string(WochentagLang(m_moment)) + " " + Datumzeittext(m_moment);
+    const std::string grund = m_grund.Text();
+    return grund.size() > 1 ? tag + " | " + grund : tag;
+}
+
+}  // namespace tarvelin

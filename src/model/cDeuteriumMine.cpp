@@ -1,0 +1,34 @@
+// Figures of the deuterium mine.
+#include "model/cDeuteriumMine.h"
+
+namespace tarvelin {
+
+namespace {
+
+constexpr Kosten kBasis{.Metall = 150, .Kristall = 50, .Deuterium = 0};
+constexpr double kWachstum = 1.5;
+
+}  // namespace
+
+cDeuteriumMine::cDeuteriumMine(GlobaleVariablen& globale)
+    : cMine(globale, ItemId::DeutMine, "Deuteriummine: ", {.A = 10, .B = 0, .C = 20},
+            globale.Deuterium, globale.DeuteriumProStunde) {}
+
+Kosten cDeuteriumMine::Preis(Long stufe) const {
+    static const Stufentabelle<Kosten> kPreise(
+        [](Long s) { return WachsendeKosten(kBasis, kWachstum, s); });
+    return kPreise(stufe);
+}
+
+double cDeuteriumMine::GetUpgradeTime() const {
+    return HalfEvenLong(cMine::GetUpgradeTime());
+}
+
+/// The colder the planet, the more deuterium: 1.28 at 0 degrees, 0 at 640, negative above.
+double cDeuteriumMine::Temperaturfaktor() const {
+    constexpr double kBeiNullGrad = 1.28;
+    constexpr double kJeGrad = -0.002;
+    return kBeiNullGrad + Globale().Temperatur * kJeGrad;
+}
+
+}  // namespace tarvelin

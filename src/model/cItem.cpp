@@ -1,0 +1,137 @@
+// What is the same in all twenty items: start, finish, cost text and the stages of the wait.
+#include "model/cItem.h"
+
+#include <algorithm>
+
+#include "util/Zahlentext.h"
+
+namespace tarvelin {
+
+namespace {
+
+/// What is short of one resource, and until when.
+struct Mangel {
+    double Fehlmenge = 0;
+    Long Wartezeit = 0;
+};
+
+/// The wait for a resource whose stock is short, in seconds. One that never comes gives a wait so
+/// long that the next re-timing replaces it.
+Mangel MangelAn(double kosten, Festkomma vorrat, Festkomma proStunde) {
+    constexpr Long kOhneEnde = 1'000'000'000;
+    constexpr double kSekundenJeStunde = 3600;
+    const double fehlt = kosten - vorrat.AlsDouble();
+    if (proStunde <= Festkomma()) {
+        return {fehlt + 1, kOhneEnde};
+    }
+    const double proSekunde = proStunde.AlsDouble() / kSekundenJeStunde;
+    return {fehlt + 1, Saettige<Long>(Rundung::cut(1 + fehlt / proSekunde))};
+}
+
+Festkomma NachAbzug(Festkomma vorrat, double kosten) {
+    return vorrat - Festkomma::AusDouble(kosten);
+}
+
+}  // namespace
+
+void cItem::Init(Integer ExterneStufe) {
+    m_verzoegerungsGrund = Verzoegerung();
+    SetzeStufe(0);
+    NachInit();
+    while (Stufe() < ExterneStufe) {
+        UpgradeStart(nullptr);
+        UpgradeFinished();
+    }
+}
+
+void cItem::UpgradeStart(Bauzeiten* bauzeiten) {
+    NachStart();
+    if (bauzeiten != nullptr) {
+        bauzeiten->emplace_back(m_globale.Uhrzeit(m_globale.secsgone), ZeilenText(), ZeilenGrund());
+    }
+    m_globale.Metall = NachAbzug(m_globale.Metall, m_preis.Metall);
+    m_globale.Kristall = NachAbzug(m_globale.Kristall, m_preis.Kristall);
+    m_globale.Deuterium = NachAbzug(m_globale.Deuterium, m_preis.Deuterium);
+    m_globale.VerbauteRessourcen = HalfEvenLong(m_globale.VerbauteRessourcen + m_preis.Metall +
+                                                m_preis.Kristall + m_preis.Deuterium);
+}
+
+void cItem::UpgradeFinished() {
+    SetzeStufe(LongSumme(Stufe(), 1));
+    NachFinish();
+}
+
+Long cItem::GetTimeUntilUpgradeIsPossible() {
+    if (m_globale.secsgone < FreiAb()) {
+        return static_cast<Long>(Sperre::Vorerst);
+    }
+    return Wartezeit(0);
+}
+
+Long cItem::GetTimeUntilStart() {
+    return Wartezeit(FreiAb() - m_globale.secsgone);
+}
+
+std::string cItem::GetUpgradecostString(Long extStufe) const {
+    const Kosten kosten = GetKosten(extStufe);
+    return "Kosten:  Met: " + Ganztext(kosten.Metall) + "  Kris: " + Ganztext(kosten.Kristall) +
+           "  Deut: " + Ganztext(kosten.Deuterium);
+}
+
+bool cItem::FehltStufe(std::span<const Stufenbedarf> bedarf) const {
+    return std::ranges::any_of(bedarf, [this](const Stufenbedarf& eines) {
+        return m_globale.Stufe(eines.Item) < eines.Stufe;
+    });
+}
+
+Bauzeittext cItem::ZeilenText() const {
+    return {.Name = m_bauzeitName, .Nummer = LongSumme(Stufe(), 1)};
+}
+
+void cItem::SetzeStufe(Long stufe) {
+    m_globale.Stufen[m_id] = stufe;
+    m_preis = Preis(stufe);
+}
+
+/// The gates, then the wait for resources, at least `mindestens`, then the sleep windows.
+Long cItem::Wartezeit(Long mindestens) {
+    const Sperre sperre = Gates();
+    if (sperre != Sperre::Offen) {
+        return static_cast<Long>(sperre);
+    }
+    return NachSchlafzeiten(std::max(RohstoffWartezeit(), mindestens));
+}
+
+/// The longest wait for a resource; on a tie the earlier resource keeps the reason: metal before
+/// crystal before deuterium.
+Long cItem::RohstoffWartezeit() {
+    using Art = Verzoegerung::Art;
+    m_verzoegerungsGrund = Verzoegerung();
+    Long wartezeit = 0;
+    const auto pruefe = [&](double kosten, Festkomma vorrat, Festkomma proStunde, Art art) {
+        if (kosten > vorrat.AlsDouble()) {
+            const Mangel mangel = MangelAn(kosten, vorrat, proStunde);
+            if (mangel.Wartezeit > wartezeit) {
+                wartezeit = mangel.Wartezeit;
+                m_verzoegerungsGrund = {.Grund = art, .Fehlmenge = mangel.Fehlmenge};
+            }
+        }
+    };
+    pruefe(m_preis.Metall, m_globale.Metall, m_globale.MetallProStunde, Art::Metall);
+    pruefe(m_preis.Kristall, m_globale.Kristall, m_globale.KristallProStunde, Art::Kristall);
+    pruefe(m_preis.Deuterium, m_globale.Deuterium, m_globale.DeuteriumProStunde, Art::Deuterium);
+    return wartezeit;
+}
+
+/// Moves a wait that ends inside a sleep window to that window's end. Each window is asked once,
+/// with the wait as the windows before it left it.
+Long cItem::NachSchlafzeiten(Long wartezeit) const {
+    for (const cSchlafzeit& schlafzeit : m_globale.Schlafzeiten) {
+        if (schlafzeit.CheckifInside(m_globale.Uhrzeit(m_globale.secsgone + wartezeit))) {
+            wartezeit = schlafzeit.SecondsFrom_Insert_ToEnd(m_globale.Uhrzeit(m_globale.secsgone));
+        }
+    }
+    return wartezeit;
+}
+
+}  // namespace tarvelin

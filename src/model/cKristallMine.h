@@ -1,0 +1,16 @@
+// The crystal mine.
+#pragma once
+
+#include "model/cMine.h"
+
+namespace tarvelin {
+
+class cKristallMine final : public cMine {
+  public:
+    explicit cKristallMine(GlobaleVariablen& globale);
+
+  private:
+    [[nodiscard]] Kosten Preis(Long stufe) const override;
+};
+
+}  // namespace tarvelin

@@ -1,0 +1,16 @@
+// Figures of the light fighter.
+#include "model/cLeichterJaeger.h"
+
+namespace tarvelin {
+
+namespace {
+
+constexpr Kosten kStueckpreis{.Metall = 3000, .Kristall = 1000, .Deuterium = 0};
+constexpr std::array kBedarf{Stufenbedarf{ItemId::Werft, 1}, Stufenbedarf{ItemId::VerbTech, 1}};
+
+}  // namespace
+
+cLeichterJaeger::cLeichterJaeger(GlobaleVariablen& globale)
+    : cWerfteinheit(globale, ItemId::LJs, "Leichter Jäger Nr: ", kStueckpreis, kBedarf) {}
+
+}  // namespace tarvelin

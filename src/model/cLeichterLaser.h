@@ -1,0 +1,13 @@
+// The light laser.
+#pragma once
+
+#include "model/cWerfteinheit.h"
+
+namespace tarvelin {
+
+class cLeichterLaser final : public cWerfteinheit {
+  public:
+    explicit cLeichterLaser(GlobaleVariablen& globale);
+};
+
+}  // namespace tarvelin

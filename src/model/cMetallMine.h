@@ -1,0 +1,16 @@
+// The metal mine.
+#pragma once
+
+#include "model/cMine.h"
+
+namespace tarvelin {
+
+class cMetallMine final : public cMine {
+  public:
+    explicit cMetallMine(GlobaleVariablen& globale);
+
+  private:
+    [[nodiscard]] Kosten Preis(Long stufe) const override;
+};
+
+}  // namespace tarvelin

@@ -1,0 +1,17 @@
+// The robot factory, which makes buildings faster.
+#pragma once
+
+#include "model/cGebaeude.h"
+
+namespace tarvelin {
+
+class cRoboterFabrik final : public cGebaeude {
+  public:
+    explicit cRoboterFabrik(GlobaleVariablen& globale);
+
+  private:
+    [[nodiscard]] Kosten Preis(Long stufe) const override;
+    [[nodiscard]] Sperre Gates() const override;
+};
+
+}  // namespace tarvelin

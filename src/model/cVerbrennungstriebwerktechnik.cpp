@@ -1,0 +1,16 @@
+// Figures of combustion drive technology.
+#include "model/cVerbrennungstriebwerktechnik.h"
+
+namespace tarvelin {
+
+namespace {
+
+constexpr Kosten kErsteStufe{.Metall = 400, .Kristall = 0, .Deuterium = 600};
+constexpr std::array kBedarf{Stufenbedarf{ItemId::Folab, 1}, Stufenbedarf{ItemId::ENTech, 1}};
+
+}  // namespace
+
+cVerbrennungstriebwerktechnik::cVerbrennungstriebwerktechnik(GlobaleVariablen& globale)
+    : cForschung(globale, ItemId::VerbTech, "Verb.Triebwerk: ", kErsteStufe, kBedarf) {}
+
+}  // namespace tarvelin
