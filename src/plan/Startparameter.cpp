@@ -1,0 +1,81 @@
+// Checks and links of the start parameters.
+#include "plan/Startparameter.h"
+
+#include <limits>
+
+#include "util/Nuetzliches.h"
+#include "util/Zahlentext.h"
+
+namespace tarvelin {
+
+namespace {
+
+constexpr double kTemperaturspanne = 40;
+
+/// Writes a number text moved by `abstand` into the other input of the link. Whether it did.
+bool SetzeVerschoben(const std::string& von, double abstand, std::string& nach) {
+    constexpr int kStellen = 10;
+    const auto zahl = LiesZahl(von);
+    if (zahl) {
+        nach = Dezimaltext(*zahl + abstand, kStellen);
+    }
+    return zahl.has_value();
+}
+
+}  // namespace
+
+std::string Startparameter::Datumstext() const {
+    return UniStartZeitTag + "." + UniStartZeitMonat + "." + UniStartZeitJahr + " " +
+           UniStartZeitStunden + ":" + UniStartZeitMinuten + ":00";
+}
+
+Wochentagsanzeige RefreshWeekday(const Startparameter& parameter) {
+    const auto datum = LiesDatumzeit(parameter.Datumstext());
+    if (!datum) {
+        return {.Caption = "Err.", .Hint = ""};
+    }
+    return {.Caption = std::string(WochentagKurz(*datum)) + ".",
+            .Hint = std::string(WochentagLang(*datum))};
+}
+
+std::optional<Zeitpunkt> ReadUniStartZeit(Startparameter& parameter, Meldungsausgabe& meldungen) {
+    const auto datum = LiesDatumzeit(parameter.Datumstext());
+    parameter.UniStartZeitTag = PadIntegerDigits(parameter.UniStartZeitTag, 2);
+    parameter.UniStartZeitMonat = PadIntegerDigits(parameter.UniStartZeitMonat, 2);
+    if (!datum) {
+        meldungen.Zeige({.Text = "Kein gültiges Datum eingegeben...", .Titel = kAusnahmefehler});
+    }
+    return datum;
+}
+
+std::optional<Integer> LiesTemperatur(const Startparameter& parameter) {
+    const auto zahl = LiesZahl(parameter.TempMax);
+    if (!zahl) {
+        return std::nullopt;
+    }
+    const auto grad = Rundung::half_even(*zahl);
+    if (grad < std::numeric_limits<Integer>::min() || grad > std::numeric_limits<Integer>::max()) {
+        return std::nullopt;
+    }
+    return static_cast<Integer>(grad);
+}
+
+void AendereTempMax(Startparameter& parameter, std::string_view text) {
+    parameter.TempMax = text;
+    if (SetzeVerschoben(parameter.TempMax, -kTemperaturspanne, parameter.TempMin)) {
+        SetzeVerschoben(parameter.TempMin, kTemperaturspanne, parameter.TempMax);
+    }
+}
+
+void AendereTempMin(Startparameter& parameter, std::string_view text) {
+    parameter.TempMin = text;
+    if (SetzeVerschoben(parameter.TempMin, kTemperaturspanne, parameter.TempMax)) {
+        SetzeVerschoben(parameter.TempMax, -kTemperaturspanne, parameter.TempMin);
+    }
+}
+
+std::string KlickPufferText(int sekunden) {
+    return FormatDuration(sekunden, "s", "mm:ss", "d");
+}
+
+}  // namespace tarvelin

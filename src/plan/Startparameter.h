@@ -1,0 +1,63 @@
+// The parameters of a plan that are no rows: when and where the universe started, and how fast the
+// player and the universe are. All of it as the inputs hold it.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "util/Datumzeit.h"
+#include "util/Ganzzahl.h"
+#include "util/Meldung.h"
+
+namespace tarvelin {
+
+/// Longest click buffer, in seconds.
+inline constexpr int kMaxKlickPuffer = 600;
+
+struct Startparameter {
+    std::string TempMin = "-29";
+    std::string TempMax = "11";
+    std::string UniStartZeitTag;
+    std::string UniStartZeitMonat;
+    std::string UniStartZeitJahr;
+    std::string UniStartZeitStunden = "12";
+    std::string UniStartZeitMinuten = "30";
+    /// Seconds that the player gives himself for each click, 0 to `kMaxKlickPuffer`.
+    int KlickPuffer = 5;
+    bool SpeedfaktorX2 = false;
+
+    /// "18.11.2006 12:30:00", whatever the inputs hold.
+    [[nodiscard]] std::string Datumstext() const;
+
+    [[nodiscard]] Long Speedfaktor() const { return SpeedfaktorX2 ? 2 : 1; }
+};
+
+/// What the label of the weekday shows.
+struct Wochentagsanzeige {
+    std::string Caption;
+    std::string Hint;
+};
+
+/// "Mo." with the hint "Montag", or "Err." without one when the inputs are no date.
+[[nodiscard]] Wochentagsanzeige RefreshWeekday(const Startparameter& parameter);
+
+/// The start date, or nothing with a message. Day and month are padded to two digits in either
+/// case.
+[[nodiscard]] std::optional<Zeitpunkt> ReadUniStartZeit(Startparameter& parameter,
+                                                        Meldungsausgabe& meldungen);
+
+/// The temperature of a run: the highest one, a whole number half to even. Nothing if its text is
+/// no number, or one beyond the range of an Integer.
+[[nodiscard]] std::optional<Integer> LiesTemperatur(const Startparameter& parameter);
+
+/// The two temperatures are one value with a span of 40 between them: after a change of one the
+/// other follows, and both stand in their plainest form, with at most ten decimals. A text that is
+/// no number changes nothing on the other side.
+void AendereTempMax(Startparameter& parameter, std::string_view text);
+void AendereTempMin(Startparameter& parameter, std::string_view text);
+
+/// "00:05".
+[[nodiscard]] std::string KlickPufferText(int sekunden);
+
+}  // namespace tarvelin
