@@ -1,0 +1,30 @@
+// The run of a plan through simulated time.
+#pragma once
+
+#include "model/Bauzeit.h"
+#include "model/Startplanet.h"
+#include "plan/Plan.h"
+#include "util/Meldung.h"
+
+namespace tarvelin {
+
+/// What a run leaves behind: the shared state with the items, and the table of build times. It
+/// stands until the next run or reset.
+struct Lauf {
+    Startplanet Planet;
+    Bauzeiten LV_Bauzeiten;
+
+    /// The state before the first event of a run.
+    void ResetSimulation(Integer temperatur);
+};
+
+/// Whether a run got past its checks of the inputs.
+enum class Laufausgang { AnEingabenGescheitert, Gelaufen };
+
+/// Plays the plan from its first order to its last. `silent` keeps quiet about an empty list; all
+/// other messages come anyway. A run that fails at an input changes nothing of `lauf` but the
+/// speed factor and the sleep windows. Of the plan it changes nothing but the form of the start
+/// date's day and month, padded to two digits.
+Laufausgang RunSimulation(Plan& plan, Lauf& lauf, Meldungsausgabe& meldungen, bool silent);
+
+}  // namespace tarvelin
