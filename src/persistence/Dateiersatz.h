@@ -1,0 +1,15 @@
+// The one way in which the program writes a file: whole or not at all.
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+namespace tarvelin {
+
+/// Gives a file new bytes in one step: they are written beside it, flushed to disk and renamed over
+/// it, so that at any moment the old file or the new one stands there. A new file is made where
+/// none is. False, with nothing changed and nothing left behind, if that can't be done: the folder
+/// is missing, a folder stands in the file's place, file or folder can't be written.
+bool ErsetzeDatei(const std::filesystem::path& datei, std::string_view bytes);
+
+}  // namespace tarvelin

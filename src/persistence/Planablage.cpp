@@ -1,0 +1,189 @@
+// The save-file format.
+#include "persistence/Planablage.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <string_view>
+
+#include "persistence/Dateiersatz.h"
+#include "plan/ItemCode.h"
+#include "util/Nuetzliches.h"
+#include "util/Zahlentext.h"
+
+namespace tarvelin {
+
+namespace {
+
+constexpr std::string_view kEinstellungen = "Einstellungen";
+constexpr std::string_view kBauliste = "Bauliste";
+constexpr std::string_view kSchlafzeiten = "Schlafzeiten";
+constexpr std::string_view kItemCount = "ItemCount";
+
+constexpr std::int64_t kMeisteSchlafzeiten = 9999;
+
+/// "Item_007".
+std::string Zeilenkey(std::string_view name, std::size_t n) {
+    constexpr int kStellen = 3;
+    return std::string(name) + PadIntegerDigits(std::to_string(n), kStellen);
+}
+
+/// The keys of the section of settings that hold an input's text as typed, in the order in which
+/// they are written and read. The highest temperature is no row, as the lowest follows from it.
+struct Textkey {
+    std::string_view Key;
+    std::string Startparameter::*Text;
+};
+
+constexpr std::array<Textkey, 5> kDatumskeys{{
+    {"UniStartZeitTag", &Startparameter::UniStartZeitTag},
+    {"UniStartZeitMonat", &Startparameter::UniStartZeitMonat},
+    {"UniStartZeitJahr", &Startparameter::UniStartZeitJahr},
+    {"UniStartZeitStunden", &Startparameter::UniStartZeitStunden},
+    {"UniStartZeitMinuten", &Startparameter::UniStartZeitMinuten},
+}};
+
+/// The steps of a load; each answers whether it found usable values.
+class Leser {
+  public:
+    Leser(const Profil& profil, Plan& plan, const Startplanet& planet)
+        : m_profil(profil), m_plan(plan), m_planet(planet) {}
+
+    bool Lies() { return LiesEinstellungen() && LiesSchlafzeiten() && LiesBauliste(); }
+
+  private:
+    bool LiesEinstellungen() {
+        Startparameter& parameter = m_plan.Parameter;
+        parameter.SpeedfaktorX2 = m_profil.Lies(kEinstellungen, "Speedfaktor_X2", "0") == "1";
+        const auto klickPuffer =
+            LiesGanzzahl(m_profil.Lies(kEinstellungen, "KlickPuffer", ""), 0, kMaxKlickPuffer);
+        if (!klickPuffer) {
+            return false;
+        }
+        parameter.KlickPuffer = static_cast<int>(*klickPuffer);
+        for (const Textkey& textkey : kDatumskeys) {
+            parameter.*textkey.Text = m_profil.Lies(kEinstellungen, textkey.Key, "");
+        }
+        AendereTempMax(parameter, m_profil.Lies(kEinstellungen, "TempMax", ""));
+        const auto showDesc = LiesZahl(m_profil.Lies(kEinstellungen, "ShowDesc", ""));
+        m_plan.ShowDesc = showDesc ? *showDesc != 0 : m_plan.ShowDesc;
+        return showDesc.has_value();
+    }
+
+    bool LiesSchlafzeiten() {
+        m_plan.Schlafzeiten.clear();
+        const auto anzahl =
+            LiesGanzzahl(m_profil.Lies(kSchlafzeiten, kItemCount, ""), 0, kMeisteSchlafzeiten);
+        for (std::size_t n = 1; anzahl && n <= static_cast<std::size_t>(*anzahl); ++n) {
+            m_plan.Schlafzeiten.push_back(
+                {m_profil.Lies(kSchlafzeiten, Zeilenkey("Item_", n), ""),
+                 m_profil.Lies(kSchlafzeiten, Zeilenkey("SubItem_", n), "")});
+        }
+        return anzahl.has_value();
+    }
+
+    bool LiesBauliste() {
+        const auto anzahl = LiesGanzzahl(m_profil.Lies(kBauliste, kItemCount, ""), 0,
+                                         std::numeric_limits<std::int64_t>::max());
+        if (!anzahl) {
+            return false;
+        }
+        const auto zeilen = std::min(*anzahl, std::int64_t{Bauliste::kHoechstzahl});
+        for (std::int64_t n = 1; n <= zeilen; ++n) {
+            if (!Replay(m_profil.Lies(kBauliste, Zeilenkey("Item_", static_cast<std::size_t>(n)),
+                                      ""))) {
+                return false;
+            }
+        }
+        return *anzahl == zeilen;
+    }
+
+    bool Replay(std::string_view tag) {
+        if (const auto item = ItemVonCode(tag)) {
+            return !m_plan.Liste.DragDrop(ZeileVon(*item).Bild, m_planet);
+        }
+        const auto faktoren = LiesMinenfaktoren(tag);
+        if (faktoren) {
+            m_plan.Liste.ReplayProduktion(tag, *faktoren, m_planet);
+        }
+        return faktoren.has_value();
+    }
+
+    const Profil& m_profil;
+    Plan& m_plan;
+    const Startplanet& m_planet;
+};
+
+void ZeigeLadefehler(Meldungsausgabe& meldungen) {
+    meldungen.Zeige(
+        {.Text = "Die Bauliste konnte nicht geladen werden...", .Titel = kAusnahmefehler});
+}
+
+}  // namespace
+
+void SchreibePlan(const Plan& plan, Profil& profil) {
+    const Startparameter& parameter = plan.Parameter;
+    profil.Schreibe(kEinstellungen, "KlickPuffer", std::to_string(parameter.KlickPuffer));
+    for (const Textkey& textkey : kDatumskeys) {
+        profil.Schreibe(kEinstellungen, textkey.Key, parameter.*textkey.Text);
+    }
+    profil.Schreibe(kEinstellungen, "TempMax", parameter.TempMax);
+    profil.Schreibe(kEinstellungen, "ShowDesc", plan.ShowDesc ? "1" : "0");
+    profil.Schreibe(kEinstellungen, "Speedfaktor_X2", parameter.SpeedfaktorX2 ? "1" : "0");
+
+    const auto& zeilen = plan.Liste.Zeilen();
+    profil.Schreibe(kBauliste, kItemCount, std::to_string(zeilen.size()));
+    for (std::size_t i = 0; i < zeilen.size(); ++i) {
+        profil.Schreibe(kBauliste, Zeilenkey("Item_", i + 1), zeilen[i].Tag);
+    }
+
+    profil.Schreibe(kSchlafzeiten, kItemCount, std::to_string(plan.Schlafzeiten.size()));
+    for (std::size_t i = 0; i < plan.Schlafzeiten.size(); ++i) {
+        profil.Schreibe(kSchlafzeiten, Zeilenkey("Item_", i + 1), plan.Schlafzeiten[i].Startzeit);
+        profil.Schreibe(kSchlafzeiten, Zeilenkey("SubItem_", i + 1), plan.Schlafzeiten[i].Endzeit);
+    }
+}
+
+bool SaveBauliste(const std::filesystem::path& File, const Plan& plan) {
+    auto profil = Profil::LadeOderLeer(File);
+    if (!profil) {
+        return false;
+    }
+    SchreibePlan(plan, *profil);
+    return ErsetzeDatei(File, profil->Bytes());
+}
+
+Ladeergebnis LadePlan(const Profil& profil, bool Silent, Plan& plan, Lauf& lauf,
+                      Ergebnistexte& texte, Meldungsausgabe& meldungen) {
+    plan.Liste.Clear();
+    texte.NachClear();
+    if (!Leser(profil, plan, lauf.Planet).Lies()) {
+        ZeigeLadefehler(meldungen);
+        return {};
+    }
+    const bool gelaufen = RunSimulation(plan, lauf, meldungen, Silent) == Laufausgang::Gelaufen;
+    if (gelaufen) {
+        texte.NachLauf(lauf.Planet.Globale);
+    }
+    return {.Geladen = true, .Gelaufen = gelaufen};
+}
+
+Ladeergebnis LoadBauliste(const std::filesystem::path& File, bool Silent, Plan& plan, Lauf& lauf,
+                          Ergebnistexte& texte, Meldungsausgabe& meldungen) {
+    const auto profil = Profil::Lade(File);
+    if (!profil) {
+        ZeigeLadefehler(meldungen);
+        return {};
+    }
+    return LadePlan(*profil, Silent, plan, lauf, texte, meldungen);
+}
+
+std::string FenstertitelMit(const std::filesystem::path& File) {
+    const auto name = File.filename().u8string();
+    return "Tarvelin  |  Kelva Aufbau-Simulator      ( " + std::string(name.begin(), name.end()) +
+           " )";
+}
+
+}  // namespace tarvelin

@@ -1,0 +1,217 @@
+// Parsing and editing of profile files.
+#include "persistence/Profil.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <system_error>
+#include <utility>
+
+#include "util/Codepage1252.h"
+
+namespace tarvelin {
+
+namespace {
+
+constexpr std::string_view kZeilenende = "\r\n";
+constexpr std::string_view kBytemarke = "\xEF\xBB\xBF";
+constexpr std::size_t kHoechstlaenge = 255;
+
+std::string Klein(std::string_view text) {
+    std::string klein(text);
+    std::ranges::transform(klein, klein.begin(), [](char zeichen) {
+        return zeichen >= 'A' && zeichen <= 'Z' ? static_cast<char>(zeichen - 'A' + 'a') : zeichen;
+    });
+    return klein;
+}
+
+std::string_view OhneRand(std::string_view text, std::string_view rand = " \t\v\f") {
+    const auto anfang = text.find_first_not_of(rand);
+    if (anfang == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(anfang, text.find_last_not_of(rand) - anfang + 1);
+}
+
+/// A line without its end and the blanks around it.
+std::string_view Inhalt(std::string_view zeile) {
+    while (zeile.ends_with('\n') || zeile.ends_with('\r')) {
+        zeile.remove_suffix(1);
+    }
+    return OhneRand(zeile);
+}
+
+bool IstBeendet(std::string_view zeile) {
+    return zeile.ends_with('\n') || zeile.ends_with('\r');
+}
+
+void Beende(std::string& zeile) {
+    if (!IstBeendet(zeile)) {
+        zeile += kZeilenende;
+    }
+}
+
+/// The name of a section line, or nothing for another line.
+std::optional<std::string_view> Sectionname(std::string_view inhalt) {
+    if (!inhalt.starts_with('[')) {
+        return std::nullopt;
+    }
+    inhalt.remove_prefix(1);
+    return OhneRand(inhalt.substr(0, inhalt.find(']')));
+}
+
+/// Key and value of a key line, or nothing for another line.
+std::optional<std::pair<std::string_view, std::string_view>> Schluesselzeile(
+    std::string_view inhalt) {
+    const auto gleich = inhalt.find('=');
+    if (inhalt.starts_with(';') || gleich == std::string_view::npos) {
+        return std::nullopt;
+    }
+    return std::pair(OhneRand(inhalt.substr(0, gleich)), OhneRand(inhalt.substr(gleich + 1)));
+}
+
+std::string_view OhneAnfuehrung(std::string_view wert) {
+    const bool angefuehrt = wert.size() >= 2 && wert.front() == wert.back() &&
+                            (wert.front() == '"' || wert.front() == '\'');
+    return angefuehrt ? wert.substr(1, wert.size() - 2) : wert;
+}
+
+std::string_view BisNul(std::string_view wert) {
+    return wert.substr(0, wert.find('\0'));
+}
+
+/// A default is cut by characters, as each would be one byte of the file.
+std::string_view GekuerzterStandard(std::string_view utf8) {
+    std::size_t zeichen = 0;
+    for (std::size_t i = 0; i < utf8.size(); ++i) {
+        const bool beginntZeichen = (static_cast<unsigned char>(utf8[i]) & 0xC0U) != 0x80U;
+        if (beginntZeichen && ++zeichen > kHoechstlaenge) {
+            return BisNul(utf8.substr(0, i));
+        }
+    }
+    return BisNul(utf8);
+}
+
+/// Takes the first line, with its end, off the bytes: LF, CR LF or CR.
+std::string_view NimmZeile(std::string_view& bytes) {
+    auto ende = std::min(bytes.find_first_of(kZeilenende), bytes.size());
+    if (bytes.substr(ende).starts_with(kZeilenende)) {
+        ++ende;
+    }
+    const std::string_view zeile = bytes.substr(0, ende + 1);
+    bytes.remove_prefix(zeile.size());
+    return zeile;
+}
+
+}  // namespace
+
+Profil::Profil(std::string_view bytes) : m_abschnitte(1) {
+    if (bytes.starts_with(kBytemarke)) {
+        m_bytemarke = kBytemarke;
+        bytes.remove_prefix(kBytemarke.size());
+    }
+    while (!bytes.empty()) {
+        NimmZeileAuf(NimmZeile(bytes));
+    }
+}
+
+std::optional<Profil> Profil::Lade(const std::filesystem::path& datei) {
+    std::error_code fehler;
+    if (!std::filesystem::is_regular_file(datei, fehler)) {
+        return std::nullopt;
+    }
+    std::ifstream strom(datei, std::ios::binary);
+    std::string bytes;
+    std::array<char, std::size_t{64} << 10U> block{};
+    while (strom && bytes.size() <= kHoechstgroesse) {
+        strom.read(block.data(), block.size());
+        bytes.append(block.data(), static_cast<std::size_t>(strom.gcount()));
+    }
+    if (!strom.eof() || strom.bad() || bytes.size() > kHoechstgroesse) {
+        return std::nullopt;
+    }
+    return Profil(bytes);
+}
+
+std::optional<Profil> Profil::LadeOderLeer(const std::filesystem::path& datei) {
+    std::error_code fehler;
+    const auto art = std::filesystem::status(datei, fehler).type();
+    return art == std::filesystem::file_type::not_found ? Profil("") : Lade(datei);
+}
+
+std::string Profil::Lies(std::string_view section, std::string_view key,
+                         std::string_view standard) const {
+    if (const Abschnitt* const abschnitt = Suche(section)) {
+        const auto stelle = abschnitt->Stellen.find(Klein(Nach1252(key)));
+        if (stelle != abschnitt->Stellen.end()) {
+            const auto zeile = Schluesselzeile(Inhalt(abschnitt->Zeilen[stelle->second]));
+            const std::string_view wert = OhneAnfuehrung(zeile->second);
+            return Aus1252(BisNul(wert.substr(0, kHoechstlaenge)));
+        }
+    }
+    return std::string(GekuerzterStandard(standard));
+}
+
+void Profil::Schreibe(std::string_view section, std::string_view key, std::string_view value) {
+    Abschnitt& abschnitt = SucheOderMache(section);
+    auto& zeilen = abschnitt.Zeilen;
+    const std::string name = Nach1252(key);
+    const std::string rest = "=" + Nach1252(value) + std::string(kZeilenende);
+    const auto stelle = abschnitt.Stellen.find(Klein(name));
+    if (stelle != abschnitt.Stellen.end()) {
+        std::string& zeile = zeilen[stelle->second];
+        zeile = std::string(Schluesselzeile(Inhalt(zeile))->first) + rest;
+        return;
+    }
+    // Behind the last line that isn't blank; the section line itself never is.
+    std::size_t ort = zeilen.size();
+    while (Inhalt(zeilen[ort - 1]).empty()) {
+        --ort;
+    }
+    Beende(zeilen[ort - 1]);
+    zeilen.insert(zeilen.begin() + static_cast<std::ptrdiff_t>(ort), name + rest);
+    abschnitt.Stellen.emplace(Klein(name), ort);
+}
+
+std::string Profil::Bytes() const {
+    std::string bytes = m_bytemarke;
+    for (const Abschnitt& abschnitt : m_abschnitte) {
+        for (const std::string& zeile : abschnitt.Zeilen) {
+            bytes += zeile;
+        }
+    }
+    return bytes;
+}
+
+void Profil::NimmZeileAuf(std::string_view zeile) {
+    const std::string_view inhalt = Inhalt(zeile);
+    if (const auto name = Sectionname(inhalt)) {
+        m_abschnitte.push_back({.Name = Klein(*name), .Zeilen = {}, .Stellen = {}});
+    } else if (const auto paar = Schluesselzeile(inhalt)) {
+        Abschnitt& abschnitt = m_abschnitte.back();
+        abschnitt.Stellen.emplace(Klein(paar->first), abschnitt.Zeilen.size());
+    }
+    m_abschnitte.back().Zeilen.emplace_back(zeile);
+}
+
+const Profil::Abschnitt* Profil::Suche(std::string_view section) const {
+    const auto abschnitt = std::ranges::find(m_abschnitte.begin() + 1, m_abschnitte.end(),
+                                             Klein(Nach1252(section)), &Abschnitt::Name);
+    return abschnitt == m_abschnitte.end() ? nullptr : &*abschnitt;
+}
+
+Profil::Abschnitt& Profil::SucheOderMache(std::string_view section) {
+    if (const Abschnitt* const abschnitt = Suche(section)) {
+        return m_abschnitte[static_cast<std::size_t>(abschnitt - m_abschnitte.data())];
+    }
+    if (auto& letzte = m_abschnitte.back().Zeilen; !letzte.empty()) {
+        Beende(letzte.back());
+    }
+    const std::string name = Nach1252(section);
+    m_abschnitte.push_back({.Name = Klein(name),
+                            .Zeilen = {"[" + name + "]" + std::string(kZeilenende)},
+                            .Stellen = {}});
+    return m_abschnitte.back();
+}
+
+}  // namespace tarvelin

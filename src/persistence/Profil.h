@@ -1,0 +1,63 @@
+// A profile file in memory: sections of keys, as the platform's profile functions read and write
+// them.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace tarvelin {
+
+/// The bytes of one file, understood line by line. Section and key names match whole, ASCII letters
+/// without regard to case; only the first section of a name and the first key of a name in it
+/// count. Texts go in and out as UTF-8; the bytes are Windows-1252.
+class Profil {
+  public:
+    /// A larger file is no profile: the longest plan has less than 1 MiB.
+    static constexpr std::size_t kHoechstgroesse = std::size_t{16} << 20U;
+
+    explicit Profil(std::string_view bytes);
+
+    /// Nothing if the file isn't one, can't be read or is too large.
+    [[nodiscard]] static std::optional<Profil> Lade(const std::filesystem::path& datei);
+
+    /// The same, but a file that doesn't exist gives an empty profile.
+    [[nodiscard]] static std::optional<Profil> LadeOderLeer(const std::filesystem::path& datei);
+
+    /// The value of a key, at most 255 characters of it and nothing from its first NUL on; the
+    /// default, cut likewise, if the section or the key is missing. One pair of equal quotes around
+    /// the whole value goes.
+    [[nodiscard]] std::string Lies(std::string_view section, std::string_view key,
+                                   std::string_view standard) const;
+
+    /// Sets a key. A known one keeps its place and its spelling; a new one goes to the end of its
+    /// section, a new section to the end of the file. Every other line keeps its bytes, but for an
+    /// unended one that gets a line behind it.
+    void Schreibe(std::string_view section, std::string_view key, std::string_view value);
+
+    [[nodiscard]] std::string Bytes() const;
+
+  private:
+    struct Abschnitt {
+        /// In small letters.
+        std::string Name;
+        /// With their line ends, the section line first.
+        std::vector<std::string> Zeilen;
+        /// Where the first line of each key stands; the keys in small letters.
+        std::unordered_map<std::string, std::size_t> Stellen;
+    };
+
+    void NimmZeileAuf(std::string_view zeile);
+    [[nodiscard]] const Abschnitt* Suche(std::string_view section) const;
+    Abschnitt& SucheOderMache(std::string_view section);
+
+    std::string m_bytemarke;
+    /// In the order of the file; the first one holds the lines before any section line.
+    std::vector<Abschnitt> m_abschnitte;
+};
+
+}  // namespace tarvelin
