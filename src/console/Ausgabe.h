@@ -1,0 +1,22 @@
+// The three forms in which the console prints a plan that was run.
+#pragma once
+
+#include <ostream>
+#include <string>
+
+#include "console/Planlauf.h"
+
+namespace tarvelin {
+
+/// Aligned German text: the timetable, then duration, stocks, energy and points.
+void SchreibeText(std::ostream& strom, const Planlauf& lauf);
+
+/// The header row of the spreadsheet, with the byte-order mark that makes it UTF-8.
+void SchreibeCsvKopf(std::ostream& strom);
+/// The rows of the timetable, the plan's file name in front.
+void SchreibeCsv(std::ostream& strom, const Planlauf& lauf);
+
+/// One object with the whole plan and the whole result.
+[[nodiscard]] std::string JsonText(const Planlauf& lauf);
+
+}  // namespace tarvelin

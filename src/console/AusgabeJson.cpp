@@ -1,0 +1,111 @@
+// The JSON of a plan and its result.
+#include <nlohmann/json.hpp>
+
+#include "console/Ausgabe.h"
+#include "plan/ItemCode.h"
+
+namespace tarvelin {
+
+namespace {
+
+using nlohmann::json;
+
+json Meldungen(const Planlauf& lauf) {
+    json liste = json::array();
+    for (const Meldung& meldung : lauf.Meldungen) {
+        liste.push_back({{"Text", meldung.Text}, {"Titel", meldung.Titel}});
+    }
+    return liste;
+}
+
+json Zeilen(const Bauliste& bauliste) {
+    json liste = json::array();
+    for (const BaulistenZeile& zeile : bauliste.Zeilen()) {
+        liste.push_back({{"Text", zeile.Text},
+                         {"Tag", zeile.Tag},
+                         {"SubItems1", zeile.SubItems1},
+                         {"SubItems2", zeile.SubItems2},
+                         {"Farbe", static_cast<int>(zeile.SubItems2Farbe)}});
+    }
+    return liste;
+}
+
+/// An object from the item codes to what `wert` gives for each item.
+template <class Wert>
+json JeCode(Wert wert) {
+    json objekt = json::object();
+    for (const ItemZeile& zeile : ItemTabelle()) {
+        objekt[std::string(zeile.Code)] = wert(zeile.Item);
+    }
+    return objekt;
+}
+
+json Schlafzeiten(const Schlaftabelle& tabelle) {
+    json liste = json::array();
+    for (const SchlafzeitZeile& zeile : tabelle) {
+        liste.push_back({zeile.Startzeit, zeile.Endzeit});
+    }
+    return liste;
+}
+
+json Zeittabelle(const Bauzeiten& bauzeiten) {
+    json liste = json::array();
+    for (const Bauzeit& zeile : bauzeiten) {
+        liste.push_back({{"Wochentag", zeile.Wochentag()},
+                         {"Uhrzeit", zeile.Uhrzeit()},
+                         {"theText", zeile.theText()},
+                         {"Tag", zeile.Tag()}});
+    }
+    return liste;
+}
+
+void FuegeZustandAn(json& objekt, const GlobaleVariablen& globale) {
+    objekt["secsgone"] = globale.secsgone.Sekunden();
+    objekt["Metall"] = VierStellenText(globale.Metall);
+    objekt["Kristall"] = VierStellenText(globale.Kristall);
+    objekt["Deuterium"] = VierStellenText(globale.Deuterium);
+    objekt["ProdFaktor"] = VierStellenText(globale.ProdFaktor);
+    objekt["MetallProStunde"] = VierStellenText(globale.MetallProStunde);
+    objekt["KristallProStunde"] = VierStellenText(globale.KristallProStunde);
+    objekt["DeuteriumProStunde"] = VierStellenText(globale.DeuteriumProStunde);
+    objekt["EnergieProduktion"] = globale.EnergieProduktion;
+    objekt["EnergieVerbrauch"] = globale.EnergieVerbrauch;
+    objekt["VerbauteRessourcen"] = globale.VerbauteRessourcen;
+    objekt["Temperatur"] = globale.Temperatur;
+    objekt["Speedfaktor"] = globale.Speedfaktor;
+    objekt["GebaeudeFertigZeit"] = globale.GebaeudeFertigZeit.Sekunden();
+    objekt["WerftFertigZeit"] = globale.WerftFertigZeit.Sekunden();
+    objekt["ForschungFertigZeit"] = globale.ForschungFertigZeit.Sekunden();
+    objekt["Stufen"] = JeCode([&](ItemId item) { return globale.Stufe(item); });
+}
+
+void FuegeTexteAn(json& objekt, const Ergebnistexte& texte) {
+    objekt["LBL_Timegone"] = texte.LBL_Timegone;
+    objekt["LBL_Met"] = texte.LBL_Met;
+    objekt["LBL_Kris"] = texte.LBL_Kris;
+    objekt["LBL_Deut"] = texte.LBL_Deut;
+    objekt["LBL_ENergie"] = texte.LBL_ENergie;
+    objekt["LBL_Punkte"] = texte.LBL_Punkte;
+    objekt["LBL_Punkte_Hinweis"] = texte.LBL_Punkte_Hinweis;
+}
+
+}  // namespace
+
+std::string JsonText(const Planlauf& lauf) {
+    const Bauliste& liste = lauf.Geplant.Liste;
+    json objekt{{"Meldungen", Meldungen(lauf)},
+                {"Geladen", lauf.Ergebnis.Geladen},
+                {"Gelaufen", lauf.Ergebnis.Gelaufen},
+                {"Bauliste", Zeilen(liste)},
+                {"ListStufe", JeCode([&](ItemId item) { return liste.ListStufe(item); })},
+                {"ListFaktor", liste.ListFaktor()},
+                {"Schlafzeiten", Schlafzeiten(lauf.Geplant.Schlafzeiten)}};
+    if (lauf.Ergebnis.Gelaufen) {
+        FuegeZustandAn(objekt, lauf.Gelaufen.Planet.Globale);
+        FuegeTexteAn(objekt, lauf.Texte);
+        objekt["LV_Bauzeiten"] = Zeittabelle(lauf.Gelaufen.LV_Bauzeiten);
+    }
+    return objekt.dump(1);
+}
+
+}  // namespace tarvelin
