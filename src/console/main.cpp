@@ -21,17 +21,18 @@ struct Aufruf {
 
 /// What is wrong with a call, in one line.
 std::string Fehlertext(const CLI::ParseError& fehler) {
-    const std::string name = fehler.get_name();
-    if (name == "RequiredError") {
+    if (dynamic_cast<const CLI::RequiredError*>(&fehler) != nullptr) {
         return "es fehlt eine Plandatei";
     }
-    if (name == "ExcludesError") {
+    if (dynamic_cast<const CLI::ExcludesError*>(&fehler) != nullptr) {
         return "--json und --csv schließen einander aus";
     }
-    if (name == "ExtrasError") {
-        return "unbekannte Option";
+    if (dynamic_cast<const CLI::ExtrasError*>(&fehler) != nullptr) {
+        // The library names the arguments behind a colon.
+        const std::string text = fehler.what();
+        return "unbekannte Option:" + text.substr(text.rfind(':') + 1);
     }
-    return fehler.what();
+    return "eine Option hat keinen gültigen Wert";
 }
 
 bool FuehreAus(const Aufruf& aufruf) {
@@ -61,8 +62,11 @@ int main(int argc, char** argv) {
     Aufruf aufruf;
     app.set_help_flag("--hilfe,--help", "Diese Hilfe");
     app.set_version_flag("--version", "tarvelin-cli " TARVELIN_VERSION, "Die Version");
-    auto* const json = app.add_flag("--json", aufruf.Json, "Plan und Ergebnis als JSON");
-    app.add_flag("--csv", aufruf.Csv, "Die Bauzeiten für eine Tabellenkalkulation")->excludes(json);
+    auto* const json =
+        app.add_flag("--json", aufruf.Json, "Plan und Ergebnis als JSON")->disable_flag_override();
+    app.add_flag("--csv", aufruf.Csv, "Die Bauzeiten für eine Tabellenkalkulation")
+        ->disable_flag_override()
+        ->excludes(json);
     app.add_option("PLAN", aufruf.Dateien, "Plandateien (.tvf)")->required();
     try {
         app.parse(argc, argv);

@@ -37,17 +37,17 @@ std::string Verzoegerung::Text() const {
     }
 }
 
-std::string Bauzeittext::Text() const {
-    if (Name.empty()) {
-        const auto prozent = [this](std::size_t i) { return std::to_string(Faktoren[i] * 10); };
+std::string Bauzeit::theText() const {
+    if (m_name.empty()) {
+        const auto prozent = [this](std::size_t i) { return std::to_string(m_faktoren[i] * 10); };
         return prozent(0) + "% " + prozent(1) + "% " + prozent(2) + "%";
     }
-    std::string text(Name);
-    return Nummer == 0 ? text : text + std::to_string(Nummer);
+    std::string text(m_name);
+    return m_nummer == 0 ? text : text + std::to_string(m_nummer);
 }
 
 std::string Bauzeit::Tag() const {
-    std::string tag = std::string(WochentagLang(m_moment)) + " " + Datumzeittext(m_moment);
+    std::string tag = std::string(WochentagLang(m_zeit)) + " " + Datumzeittext(m_zeit);
     const std::string grund = m_grund.Text();
     return grund.size() > 1 ? tag + " | " + grund : tag;
 }

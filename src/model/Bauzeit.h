@@ -24,38 +24,36 @@ struct Verzoegerung {
     [[nodiscard]] std::string Text() const;
 };
 
-/// What the third column of a build-time row says, kept as figures.
-struct Bauzeittext {
-    /// The text of an item, and behind it, if not 0, the level or number that the order reaches.
-    std::string_view Name{};
-    Long Nummer = 0;
-    /// Without a name: the production factors of metal, crystal and deuterium in tenths.
-    std::array<Byte, 3> Faktoren{};
-
-    [[nodiscard]] std::string Text() const;
-};
-
 /// A row of `LV_Bauzeiten`. Its cells are worked out from figures when they are read.
 class Bauzeit {
   public:
-    Bauzeit(Zeitpunkt moment, const Bauzeittext& text, const Verzoegerung& grund)
-        : m_moment(moment), m_text(text), m_grund(grund) {}
+    /// The row of an item: its text and behind that, if it isn't 0, the level or number that the
+    /// order reaches.
+    Bauzeit(Zeitpunkt zeit, std::string_view name, Long nummer, const Verzoegerung& grund)
+        : m_zeit(zeit), m_name(name), m_nummer(nummer), m_grund(grund) {}
+
+    /// The row of a change of the production factors of metal, crystal and deuterium, in tenths.
+    Bauzeit(Zeitpunkt zeit, const std::array<Byte, 3>& faktoren)
+        : m_zeit(zeit), m_faktoren(faktoren), m_grund{.Grund = Verzoegerung::Art::OhneAngabe} {}
 
     /// Short name of the weekday.
-    [[nodiscard]] std::string Wochentag() const { return std::string(WochentagKurz(m_moment)); }
+    [[nodiscard]] std::string Wochentag() const { return std::string(WochentagKurz(m_zeit)); }
     /// "hh:mm:ss".
-    [[nodiscard]] std::string Uhrzeit() const { return Uhrzeittext(m_moment); }
-    [[nodiscard]] std::string theText() const { return m_text.Text(); }
+    [[nodiscard]] std::string Uhrzeit() const { return Uhrzeittext(m_zeit); }
+    /// "Metallmine: 1", or "80% 100% 50%".
+    [[nodiscard]] std::string theText() const;
     /// Full weekday, date and time; behind them " | " and the reason, if it has more than one
     /// character.
     [[nodiscard]] std::string Tag() const;
 
-    [[nodiscard]] Zeitpunkt Zeit() const { return m_moment; }
+    [[nodiscard]] Zeitpunkt Zeit() const { return m_zeit; }
     [[nodiscard]] const Verzoegerung& Grund() const { return m_grund; }
 
   private:
-    Zeitpunkt m_moment;
-    Bauzeittext m_text;
+    Zeitpunkt m_zeit;
+    std::string_view m_name{};
+    Long m_nummer = 0;
+    std::array<Byte, 3> m_faktoren{};
     Verzoegerung m_grund;
 };
 

@@ -3,13 +3,17 @@
 
 #include <cmath>
 
-#include "model/Kosten.h"
+#include "model/Stufentabelle.h"
 
 namespace tarvelin {
 
+namespace {
+
+const Stufentabelle kPotenzen([](Long stufe) { return std::pow(1.1, static_cast<double>(stufe)); });
+
+}  // namespace
+
 double HochEinsKommaEins(Long stufe) {
-    static const Stufentabelle<double> kPotenzen(
-        [](Long s) { return std::pow(1.1, static_cast<double>(s)); });
     return kPotenzen(stufe);
 }
 

@@ -35,6 +35,8 @@ struct GlobaleVariablen {
     Festkomma ProdFaktor;
     Long EnergieProduktion = 0;
     Long EnergieVerbrauch = 0;
+    /// Whether a level or factor on which the balance depends has changed since it was struck.
+    bool BilanzVeraltet = true;
 
     /// Degrees, of the start planet.
     Integer Temperatur = 0;

@@ -1,21 +1,45 @@
-// The two laws by which costs grow with the level.
+// The laws by which costs grow.
 #include "model/Kosten.h"
 
 #include <cmath>
 
+#include "model/Stufentabelle.h"
+
 namespace tarvelin {
 
-Kosten WachsendeKosten(const Kosten& basis, double wachstum, Long stufe) {
-    const double faktor = std::pow(wachstum, static_cast<double>(stufe) + 1.0);
-    return {std::trunc(basis.Metall * faktor), std::trunc(basis.Kristall * faktor),
-            std::trunc(basis.Deuterium * faktor)};
+namespace {
+
+const Stufentabelle kDoppelt([](Long stufe) { return std::pow(2.0, static_cast<double>(stufe)); });
+const Stufentabelle kAnderthalb([](Long stufe) {
+    return std::pow(1.5, static_cast<double>(stufe) + 1.0);
+});
+const Stufentabelle kEinsKommaSechs([](Long stufe) {
+    return std::pow(1.6, static_cast<double>(stufe) + 1.0);
+});
+
+double Faktor(Wachstum nach, Long stufe) {
+    switch (nach) {
+        case Wachstum::Keines:
+            break;
+        case Wachstum::Doppelt:
+            return kDoppelt(stufe);
+        case Wachstum::HochAnderthalb:
+            return kAnderthalb(stufe);
+        case Wachstum::HochEinsKommaSechs:
+            return kEinsKommaSechs(stufe);
+    }
+    return 1;
 }
 
-Kosten VerdoppelndeKosten(const Kosten& basis, Long stufe) {
-    static const Stufentabelle<double> kZweierpotenzen(
-        [](Long s) { return std::pow(2.0, static_cast<double>(s)); });
-    const double faktor = kZweierpotenzen(stufe);
-    return {basis.Metall * faktor, basis.Kristall * faktor, basis.Deuterium * faktor};
+}  // namespace
+
+Kosten Preisgesetz::Preis(Long stufe) const {
+    if (Nach == Wachstum::Keines) {
+        return Basis;
+    }
+    const double faktor = Faktor(Nach, stufe);
+    return {std::trunc(Basis.Metall * faktor), std::trunc(Basis.Kristall * faktor),
+            std::trunc(Basis.Deuterium * faktor)};
 }
 
 }  // namespace tarvelin

@@ -1,8 +1,7 @@
-// What one step of an item costs.
+// What the steps of an item cost.
 #pragma once
 
-#include <array>
-#include <cstddef>
+#include <cstdint>
 
 #include "util/Ganzzahl.h"
 
@@ -17,39 +16,24 @@ struct Kosten {
     friend bool operator==(const Kosten&, const Kosten&) = default;
 };
 
-/// Highest level for which costs and powers are worked out beforehand; a plan of 254 rows stays
-/// below it.
-inline constexpr std::size_t kTabellenStufen = 256;
-
-/// The values of a function of the level, worked out once: a look-up gives the number that the
-/// function gives.
-template <class T>
-class Stufentabelle {
-  public:
-    using Formel = T (*)(Long stufe);
-
-    explicit Stufentabelle(Formel formel) : m_formel(formel) {
-        for (std::size_t i = 0; i < kTabellenStufen; ++i) {
-            m_werte[i] = formel(static_cast<Long>(i));
-        }
-    }
-
-    [[nodiscard]] T operator()(Long stufe) const {
-        const auto i = static_cast<std::size_t>(stufe);
-        return i < kTabellenStufen ? m_werte[i] : m_formel(stufe);
-    }
-
-  private:
-    Formel m_formel;
-    std::array<T, kTabellenStufen> m_werte{};
+/// The laws by which costs grow with the level.
+enum class Wachstum : std::uint8_t {
+    /// The price of a unit is always the same.
+    Keines,
+    /// 2^level, the level being that before the step.
+    Doppelt,
+    /// 1.5^level and 1.6^level, the level being that which the step reaches; cut to whole amounts.
+    HochAnderthalb,
+    HochEinsKommaSechs,
 };
 
-/// Price of the step from `stufe` to the next one for what grows by the factor `wachstum`; each
-/// amount is cut to a whole one. The exponent is the level that the step reaches.
-[[nodiscard]] Kosten WachsendeKosten(const Kosten& basis, double wachstum, Long stufe);
+/// The prices of an item.
+struct Preisgesetz {
+    Kosten Basis;
+    Wachstum Nach = Wachstum::Keines;
 
-/// Price of the step from `stufe` to the next one for what doubles with each level. The exponent
-/// is the level before the step.
-[[nodiscard]] Kosten VerdoppelndeKosten(const Kosten& basis, Long stufe);
+    /// Of the step from `stufe` to the next one.
+    [[nodiscard]] Kosten Preis(Long stufe) const;
+};
 
 }  // namespace tarvelin

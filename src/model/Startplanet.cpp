@@ -30,6 +30,10 @@ void Startplanet::ResetSimulation(Integer temperatur) {
 }
 
 void Startplanet::EnergieBilanz() {
+    if (!Globale.BilanzVeraltet) {
+        return;
+    }
+    Globale.BilanzVeraltet = false;
     Globale.EnergieVerbrauch =
         HalfEvenLong(DeutMine.GetEnergieVerbrauch() + KrisMine.GetEnergieVerbrauch() +
                      MetMine.GetEnergieVerbrauch());
@@ -47,6 +51,9 @@ void Startplanet::EnergieBilanz() {
 }
 
 void Startplanet::VergeheZeit(Long SecondsToPass) {
+    if (SecondsToPass == 0) {
+        return;
+    }
     DeutMine.Passtime(SecondsToPass);
     KrisMine.Passtime(SecondsToPass);
     MetMine.Passtime(SecondsToPass);
@@ -54,6 +61,7 @@ void Startplanet::VergeheZeit(Long SecondsToPass) {
 }
 
 void Startplanet::InitAlle() {
+    Globale.BilanzVeraltet = true;
     for (cItem* item : m_items) {
         item->Init();
     }

@@ -61,7 +61,8 @@ class Startplanet {
     void ResetSimulation(Integer temperatur);
 
     /// Works out need, supply and factor of the energy from the levels as they stand, and from
-    /// the factor what the mines yield.
+    /// the factor what the mines yield. Most events of a run change nothing of it; the balance
+    /// stands then.
     void EnergieBilanz();
 
     /// Lets the mines produce and the clock go on by `SecondsToPass` seconds, which may be
@@ -70,7 +71,6 @@ class Startplanet {
 
   private:
     void InitAlle();
-
     JeItem<cItem*> m_items;
 };
 

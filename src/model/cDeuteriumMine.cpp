@@ -6,19 +6,15 @@ namespace tarvelin {
 namespace {
 
 constexpr Kosten kBasis{.Metall = 150, .Kristall = 50, .Deuterium = 0};
-constexpr double kWachstum = 1.5;
 
 }  // namespace
 
 cDeuteriumMine::cDeuteriumMine(GlobaleVariablen& globale)
-    : cMine(globale, ItemId::DeutMine, "Deuteriummine: ", {.A = 10, .B = 0, .C = 20},
-            globale.Deuterium, globale.DeuteriumProStunde) {}
-
-Kosten cDeuteriumMine::Preis(Long stufe) const {
-    static const Stufentabelle<Kosten> kPreise(
-        [](Long s) { return WachsendeKosten(kBasis, kWachstum, s); });
-    return kPreise(stufe);
-}
+    : cMine(globale,
+            {.Id = ItemId::DeutMine,
+             .Zeile = {"Deuteriummine: "},
+             .Preise = {kBasis, Wachstum::HochAnderthalb}},
+            {.A = 10, .B = 0, .C = 20}, globale.Deuterium, globale.DeuteriumProStunde) {}
 
 double cDeuteriumMine::GetUpgradeTime() const {
     return HalfEvenLong(cMine::GetUpgradeTime());

@@ -13,7 +13,6 @@ class cDeuteriumMine final : public cMine {
     [[nodiscard]] double GetUpgradeTime() const override;
 
   private:
-    [[nodiscard]] Kosten Preis(Long stufe) const override;
     [[nodiscard]] double Temperaturfaktor() const override;
 };
 

@@ -6,11 +6,11 @@ namespace tarvelin {
 namespace {
 
 constexpr Kosten kErsteStufe{.Metall = 0, .Kristall = 800, .Deuterium = 400};
-constexpr std::array kBedarf{Stufenbedarf{ItemId::Folab, 1}};
+constexpr Stufenbedarfe kBedarf{{{ItemId::Folab, 1}}};
 
 }  // namespace
 
 cEnergietechnik::cEnergietechnik(GlobaleVariablen& globale)
-    : cForschung(globale, ItemId::ENTech, "Energietechnik: ", kErsteStufe, kBedarf) {}
+    : cForschung(globale, ItemId::ENTech, {"Energietechnik: "}, kErsteStufe, kBedarf) {}
 
 }  // namespace tarvelin

@@ -1,4 +1,4 @@
-// Build time and gates of the research items.
+// Build time of the research items.
 #include "model/cForschung.h"
 
 #include "model/Bauzeitfaktor.h"
@@ -12,13 +12,6 @@ double cForschung::GetUpgradeTime() const {
     const Kosten& preis = NaechsterPreis();
     const Long divisor = 1000 * g.ForschungslaborStufe() + 1;
     return ((1.0 / g.Speedfaktor) * (preis.Kristall + preis.Metall)) / divisor * kSekundenJeStunde;
-}
-
-Sperre cForschung::Gates() const {
-    if (Globale().FolabUpgrading || FehltStufe(m_bedarf)) {
-        return Sperre::Voraussetzung;
-    }
-    return DeuteriumSperre();
 }
 
 }  // namespace tarvelin

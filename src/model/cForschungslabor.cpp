@@ -3,16 +3,20 @@
 
 namespace tarvelin {
 
+namespace {
+
+constexpr Kosten kErsteStufe{.Metall = 200, .Kristall = 400, .Deuterium = 200};
+
+}  // namespace
+
+// It can't be raised while research runs, nor started without deuterium production, whatever the
+// stock. Its rows never name a reason, even when the order had to wait.
 cForschungslabor::cForschungslabor(GlobaleVariablen& globale)
-    : cGebaeude(globale, ItemId::Folab, "Forschungslabor: ") {}
-
-Kosten cForschungslabor::Preis(Long stufe) const {
-    return VerdoppelndeKosten({.Metall = 200, .Kristall = 400, .Deuterium = 200}, stufe);
-}
-
-/// Without deuterium production it can't start, whatever the stock.
-Sperre cForschungslabor::Gates() const {
-    return FehltDeuteriumProduktion() ? Sperre::Vorerst : Sperre::Offen;
-}
+    : cGebaeude(globale, {.Id = ItemId::Folab,
+                          .Zeile = {.Name = "Forschungslabor: ", .MitGrund = false},
+                          .Preise = {kErsteStufe, Wachstum::Doppelt},
+                          .Braucht = {.OhneDeuteriumProduktion = Sperre::Vorerst},
+                          .Bedient = {.FreiAb = &globale.ForschungFertigZeit,
+                                      .Upgrading = &globale.FolabUpgrading}}) {}
 
 }  // namespace tarvelin

@@ -12,10 +12,6 @@ class cGebaeude : public cItem {
 
   protected:
     using cItem::cItem;
-
-    [[nodiscard]] bool FehltDeuteriumProduktion() const {
-        return NaechsterPreis().Deuterium > 0 && Globale().DeuteriumProStunde == Festkomma();
-    }
 };
 
 }  // namespace tarvelin

@@ -36,6 +36,7 @@ Festkomma NachAbzug(Festkomma vorrat, double kosten) {
 
 void cItem::Init(Integer ExterneStufe) {
     m_verzoegerungsGrund = Verzoegerung();
+    SetzeUpgrading(false);
     SetzeStufe(0);
     NachInit();
     while (Stufe() < ExterneStufe) {
@@ -45,9 +46,13 @@ void cItem::Init(Integer ExterneStufe) {
 }
 
 void cItem::UpgradeStart(Bauzeiten* bauzeiten) {
-    NachStart();
+    SetzeUpgrading(true);
     if (bauzeiten != nullptr) {
-        bauzeiten->emplace_back(m_globale.Uhrzeit(m_globale.secsgone), ZeilenText(), ZeilenGrund());
+        bauzeiten->emplace_back(m_globale.Uhrzeit(m_globale.secsgone), m_angaben.Zeile.Name,
+                                m_angaben.Zeile.MitNummer ? LongSumme(Stufe(), 1) : 0,
+                                m_angaben.Zeile.MitGrund
+                                    ? m_verzoegerungsGrund
+                                    : Verzoegerung{.Grund = Verzoegerung::Art::OhneAngabe});
     }
     m_globale.Metall = NachAbzug(m_globale.Metall, m_preis.Metall);
     m_globale.Kristall = NachAbzug(m_globale.Kristall, m_preis.Kristall);
@@ -57,6 +62,7 @@ void cItem::UpgradeStart(Bauzeiten* bauzeiten) {
 }
 
 void cItem::UpgradeFinished() {
+    SetzeUpgrading(false);
     SetzeStufe(LongSumme(Stufe(), 1));
     NachFinish();
 }
@@ -69,7 +75,8 @@ Long cItem::GetTimeUntilUpgradeIsPossible() {
 }
 
 Long cItem::GetTimeUntilStart() {
-    return Wartezeit(FreiAb() - m_globale.secsgone);
+    const Long bisFrei = FreiAb() - m_globale.secsgone;
+    return std::max(Wartezeit(bisFrei), bisFrei);
 }
 
 std::string cItem::GetUpgradecostString(Long extStufe) const {
@@ -78,19 +85,40 @@ std::string cItem::GetUpgradecostString(Long extStufe) const {
            "  Deut: " + Ganztext(kosten.Deuterium);
 }
 
-bool cItem::FehltStufe(std::span<const Stufenbedarf> bedarf) const {
-    return std::ranges::any_of(bedarf, [this](const Stufenbedarf& eines) {
-        return m_globale.Stufe(eines.Item) < eines.Stufe;
+Sperre cItem::Gates() const {
+    const Bedingungen& braucht = m_angaben.Braucht;
+    if (*braucht.Ausbau || FehltStufe()) {
+        return Sperre::Voraussetzung;
+    }
+    if (m_preis.Deuterium <= 0) {
+        return Sperre::Offen;
+    }
+    if (braucht.OhneDeuteriumProduktion != Sperre::Offen) {
+        return m_globale.DeuteriumProStunde == Festkomma() ? braucht.OhneDeuteriumProduktion
+                                                           : Sperre::Offen;
+    }
+    return FehltDeuteriumQuelle() ? Sperre::OhneDeuteriumQuelle : Sperre::Offen;
+}
+
+bool cItem::FehltStufe() const {
+    return std::ranges::any_of(m_angaben.Braucht.Stufen, [this](const Stufenbedarf& bedarf) {
+        return m_globale.Stufe(bedarf.Item) < bedarf.Stufe;
     });
 }
 
-Bauzeittext cItem::ZeilenText() const {
-    return {.Name = m_bauzeitName, .Nummer = LongSumme(Stufe(), 1)};
+bool cItem::FehltDeuteriumQuelle() const {
+    return m_globale.Stufe(ItemId::SKW) == 0 && m_globale.Stufe(ItemId::DeutMine) == 0;
 }
 
 void cItem::SetzeStufe(Long stufe) {
-    m_globale.Stufen[m_id] = stufe;
-    m_preis = Preis(stufe);
+    m_globale.Stufen[m_angaben.Id] = stufe;
+    m_preis = m_angaben.Preise.Preis(stufe);
+}
+
+void cItem::SetzeUpgrading(bool upgrading) {
+    if (m_angaben.Bedient.Upgrading != nullptr) {
+        *m_angaben.Bedient.Upgrading = upgrading;
+    }
 }
 
 /// The gates, then the wait for resources, at least `mindestens`, then the sleep windows.
@@ -126,9 +154,11 @@ Long cItem::RohstoffWartezeit() {
 /// Moves a wait that ends inside a sleep window to that window's end. Each window is asked once,
 /// with the wait as the windows before it left it.
 Long cItem::NachSchlafzeiten(Long wartezeit) const {
+    Zeitpunkt moment = m_globale.Uhrzeit(m_globale.secsgone + wartezeit);
     for (const cSchlafzeit& schlafzeit : m_globale.Schlafzeiten) {
-        if (schlafzeit.CheckifInside(m_globale.Uhrzeit(m_globale.secsgone + wartezeit))) {
+        if (schlafzeit.CheckifInside(moment)) {
             wartezeit = schlafzeit.SecondsFrom_Insert_ToEnd(m_globale.Uhrzeit(m_globale.secsgone));
+            moment = m_globale.Uhrzeit(m_globale.secsgone + wartezeit);
         }
     }
     return wartezeit;

@@ -3,7 +3,6 @@
 
 #include <array>
 #include <cstdint>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -25,10 +24,50 @@ enum class Sperre : Long {
     Voraussetzung = 1'000'000'000,
 };
 
-/// A level of another item that an item needs.
+/// What the build-time rows of an item say. The name stands in front of the level or number.
+struct Zeilenangabe {
+    std::string_view Name;
+    bool MitNummer = true;
+    bool MitGrund = true;
+};
+
+/// The order queue that a facility serves: from when on it is free, and the mark by which its items
+/// know that the facility is being raised. Items that serve none have neither.
+struct BedienteSchlange {
+    static constexpr Moment kImmerFrei{};
+
+    const Moment* FreiAb = &kImmerFrei;
+    bool* Upgrading = nullptr;
+};
+
+/// A level of another item that an item needs; level 0 asks for nothing.
 struct Stufenbedarf {
-    ItemId Item;
-    Byte Stufe;
+    ItemId Item{};
+    Byte Stufe = 0;
+};
+
+/// All levels that an item needs.
+using Stufenbedarfe = std::array<Stufenbedarf, 3>;
+
+/// What keeps an item from being started at all, in the order in which it is asked.
+struct Bedingungen {
+    static constexpr bool kNie = false;
+
+    /// Set while the facility that serves the item is being raised, if that is a hindrance.
+    const bool* Ausbau = &kNie;
+    Stufenbedarfe Stufen{};
+    /// Where not open, the item asks for deuterium production instead of a source of deuterium, and
+    /// this is what a lack of it means.
+    Sperre OhneDeuteriumProduktion = Sperre::Offen;
+};
+
+/// The facts of an item. Everything that is special about it and no formula stands here.
+struct Itemangaben {
+    ItemId Id;
+    Zeilenangabe Zeile;
+    Preisgesetz Preise;
+    Bedingungen Braucht{};
+    BedienteSchlange Bedient{};
 };
 
 /// One of the twenty things that a player can build. An object knows what its next step costs, how
@@ -60,66 +99,52 @@ class cItem {
     Long GetTimeUntilUpgradeIsPossible();
 
     /// The same for the run, which lets a facility whose queue is at work start when that falls
-    /// free: the wait is then at least as long as that.
+    /// free: the wait is never shorter than that, whatever the other gates say.
     Long GetTimeUntilStart();
 
     /// From when on the queue that this item serves lets it start; 0 for items that serve none.
-    [[nodiscard]] virtual Moment FreiAb() const { return Moment(); }
+    [[nodiscard]] Moment FreiAb() const { return *m_angaben.Bedient.FreiAb; }
 
-    [[nodiscard]] Byte GetStufe() const { return m_globale.Stufe(m_id); }
+    [[nodiscard]] Byte GetStufe() const { return m_globale.Stufe(m_angaben.Id); }
 
     /// "Kosten:  Met: 60  Kris: 15  Deut: 0", of the step from level `extStufe` to the next.
     [[nodiscard]] std::string GetUpgradecostString(Long extStufe) const;
 
     /// The price of the step from a level to the next.
     [[nodiscard]] Kosten GetKosten(Long extStufe) const {
-        return extStufe == kEigeneStufe ? m_preis : Preis(extStufe);
+        return extStufe == kEigeneStufe ? m_preis : m_angaben.Preise.Preis(extStufe);
     }
 
     [[nodiscard]] const Verzoegerung& VerzoegerungsGrund() const { return m_verzoegerungsGrund; }
 
   protected:
-    /// `bauzeitName` stands in front of the level in the item's build-time rows.
-    cItem(GlobaleVariablen& globale, ItemId id, std::string_view bauzeitName)
-        : m_globale(globale), m_id(id), m_bauzeitName(bauzeitName) {}
+    cItem(GlobaleVariablen& globale, const Itemangaben& angaben)
+        : m_globale(globale), m_angaben(angaben) {}
 
     [[nodiscard]] GlobaleVariablen& Globale() { return m_globale; }
     [[nodiscard]] const GlobaleVariablen& Globale() const { return m_globale; }
-    [[nodiscard]] Long Stufe() const { return m_globale.Stufen[m_id]; }
+    [[nodiscard]] Long Stufe() const { return m_globale.Stufen[m_angaben.Id]; }
 
     /// The price of the next step. It changes with the level only, and the gates, the wait, the
     /// start and the build time all ask for it, so it is kept.
     [[nodiscard]] const Kosten& NaechsterPreis() const { return m_preis; }
 
-    [[nodiscard]] bool FehltDeuteriumQuelle() const {
-        return m_preis.Deuterium > 0 && m_globale.Stufe(ItemId::SKW) == 0 &&
-               m_globale.Stufe(ItemId::DeutMine) == 0;
-    }
-    [[nodiscard]] Sperre DeuteriumSperre() const {
-        return FehltDeuteriumQuelle() ? Sperre::OhneDeuteriumQuelle : Sperre::Offen;
-    }
-    [[nodiscard]] bool FehltStufe(std::span<const Stufenbedarf> bedarf) const;
-
   private:
-    [[nodiscard]] virtual Kosten Preis(Long stufe) const = 0;
-    /// The gates of the item other than that of the queue that it serves.
-    [[nodiscard]] virtual Sperre Gates() const { return DeuteriumSperre(); }
-    /// What an item does beyond the common steps when its level changed or went back to 0.
+    /// What an item does beyond the common steps when its level went back to 0 or was raised.
     virtual void NachInit() {}
-    virtual void NachStart() {}
     virtual void NachFinish() {}
-    /// The build-time row of the next step.
-    [[nodiscard]] virtual Bauzeittext ZeilenText() const;
-    [[nodiscard]] virtual Verzoegerung ZeilenGrund() const { return m_verzoegerungsGrund; }
 
+    [[nodiscard]] Sperre Gates() const;
+    [[nodiscard]] bool FehltStufe() const;
+    [[nodiscard]] bool FehltDeuteriumQuelle() const;
     void SetzeStufe(Long stufe);
+    void SetzeUpgrading(bool upgrading);
     Long Wartezeit(Long mindestens);
     Long RohstoffWartezeit();
     [[nodiscard]] Long NachSchlafzeiten(Long wartezeit) const;
 
     GlobaleVariablen& m_globale;
-    ItemId m_id;
-    std::string_view m_bauzeitName;
+    Itemangaben m_angaben;
     Kosten m_preis;
     Verzoegerung m_verzoegerungsGrund;
 };

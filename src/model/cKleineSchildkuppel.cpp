@@ -5,17 +5,14 @@ namespace tarvelin {
 
 namespace {
 
-constexpr std::string_view kName = "Kleine Schildkuppel";
 constexpr Kosten kStueckpreis{.Metall = 10000, .Kristall = 10000, .Deuterium = 0};
-constexpr std::array kBedarf{Stufenbedarf{ItemId::Werft, 1}, Stufenbedarf{ItemId::SchTech, 2}};
+constexpr Stufenbedarfe kBedarf{{{ItemId::Werft, 1}, {ItemId::SchTech, 2}}};
 
 }  // namespace
 
+// Its rows have no number, however many are built.
 cKleineSchildkuppel::cKleineSchildkuppel(GlobaleVariablen& globale)
-    : cWerfteinheit(globale, ItemId::klSchK, kName, kStueckpreis, kBedarf) {}
-
-Bauzeittext cKleineSchildkuppel::ZeilenText() const {
-    return {.Name = kName};
-}
+    : cWerfteinheit(globale, ItemId::klSchK, {.Name = "Kleine Schildkuppel", .MitNummer = false},
+                    kStueckpreis, kBedarf) {}
 
 }  // namespace tarvelin

@@ -6,18 +6,14 @@ namespace tarvelin {
 namespace {
 
 constexpr Kosten kBasis{.Metall = 30, .Kristall = 15, .Deuterium = 0};
-constexpr double kWachstum = 1.6;
 
 }  // namespace
 
 cKristallMine::cKristallMine(GlobaleVariablen& globale)
-    : cMine(globale, ItemId::KrisMine, "Kristallmine: ", {.A = 20, .B = 10, .C = 10},
-            globale.Kristall, globale.KristallProStunde) {}
-
-Kosten cKristallMine::Preis(Long stufe) const {
-    static const Stufentabelle<Kosten> kPreise(
-        [](Long s) { return WachsendeKosten(kBasis, kWachstum, s); });
-    return kPreise(stufe);
-}
+    : cMine(globale,
+            {.Id = ItemId::KrisMine,
+             .Zeile = {"Kristallmine: "},
+             .Preise = {kBasis, Wachstum::HochEinsKommaSechs}},
+            {.A = 20, .B = 10, .C = 10}, globale.Kristall, globale.KristallProStunde) {}
 
 }  // namespace tarvelin

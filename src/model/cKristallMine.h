@@ -8,9 +8,6 @@ namespace tarvelin {
 class cKristallMine final : public cMine {
   public:
     explicit cKristallMine(GlobaleVariablen& globale);
-
-  private:
-    [[nodiscard]] Kosten Preis(Long stufe) const override;
 };
 
 }  // namespace tarvelin

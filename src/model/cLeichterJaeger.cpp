@@ -6,11 +6,11 @@ namespace tarvelin {
 namespace {
 
 constexpr Kosten kStueckpreis{.Metall = 3000, .Kristall = 1000, .Deuterium = 0};
-constexpr std::array kBedarf{Stufenbedarf{ItemId::Werft, 1}, Stufenbedarf{ItemId::VerbTech, 1}};
+constexpr Stufenbedarfe kBedarf{{{ItemId::Werft, 1}, {ItemId::VerbTech, 1}}};
 
 }  // namespace
 
 cLeichterJaeger::cLeichterJaeger(GlobaleVariablen& globale)
-    : cWerfteinheit(globale, ItemId::LJs, "Leichter Jäger Nr: ", kStueckpreis, kBedarf) {}
+    : cWerfteinheit(globale, ItemId::LJs, {"Leichter Jäger Nr: "}, kStueckpreis, kBedarf) {}
 
 }  // namespace tarvelin

@@ -8,9 +8,6 @@ namespace tarvelin {
 class cMetallMine final : public cMine {
   public:
     explicit cMetallMine(GlobaleVariablen& globale);
-
-  private:
-    [[nodiscard]] Kosten Preis(Long stufe) const override;
 };
 
 }  // namespace tarvelin

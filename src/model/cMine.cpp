@@ -8,9 +8,17 @@
 
 namespace tarvelin {
 
+void cMine::SetProdfaktor(float theFaktor) {
+    m_minenProdfaktor = theFaktor;
+    Globale().BilanzVeraltet = true;
+}
+
+// The shared rate is what `GetProduktion` gives at any moment at which time passes: a change of the
+// level refreshes it at once, one of the mine's factor or of the balance with the balance of the
+// same event.
 void cMine::Passtime(Long SecondsToPass) {
-    const Festkomma menge = GetProduktion() * SecondsToPass;
-    m_vorrat = m_vorrat + Festkomma::AusDouble(menge.AlsDouble() / kSekundenJeStunde);
+    m_vorrat = m_vorrat +
+               Festkomma::AusDouble((m_proStunde * SecondsToPass).AlsDouble() / kSekundenJeStunde);
 }
 
 double cMine::GetEnergieVerbrauch(Long ExterneStufe, float externerProduktionsfaktor) const {
@@ -41,6 +49,11 @@ Festkomma cMine::GetProduktion(Long ExterneStufe, float externerProduktionsfakto
 void cMine::NachInit() {
     m_minenProdfaktor = 1.0F;
     RefreshProduktion();
+}
+
+void cMine::NachFinish() {
+    RefreshProduktion();
+    Globale().BilanzVeraltet = true;
 }
 
 }  // namespace tarvelin

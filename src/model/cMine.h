@@ -9,7 +9,7 @@ namespace tarvelin {
 class cMine : public cGebaeude {
   public:
     /// Takes effect with the next `RefreshProduktion`.
-    void SetProdfaktor(float theFaktor) { m_minenProdfaktor = theFaktor; }
+    void SetProdfaktor(float theFaktor);
 
     /// Adds what the mine yields in `SecondsToPass` seconds, which may be negative, to its stock.
     /// Every call rounds, so the result depends on how time is cut into calls.
@@ -38,9 +38,9 @@ class cMine : public cGebaeude {
     };
 
     /// `vorrat` and `proStunde` are the shared stock and rate that the mine feeds.
-    cMine(GlobaleVariablen& globale, ItemId id, std::string_view bauzeitName,
-          const Kennzahlen& kennzahlen, Festkomma& vorrat, Festkomma& proStunde)
-        : cGebaeude(globale, id, bauzeitName),
+    cMine(GlobaleVariablen& globale, const Itemangaben& angaben, const Kennzahlen& kennzahlen,
+          Festkomma& vorrat, Festkomma& proStunde)
+        : cGebaeude(globale, angaben),
           m_kennzahlen(kennzahlen),
           m_vorrat(vorrat),
           m_proStunde(proStunde) {}
@@ -50,7 +50,7 @@ class cMine : public cGebaeude {
     [[nodiscard]] virtual double Temperaturfaktor() const { return 1; }
 
     void NachInit() override;
-    void NachFinish() override { RefreshProduktion(); }
+    void NachFinish() override;
 
     Kennzahlen m_kennzahlen;
     Festkomma& m_vorrat;

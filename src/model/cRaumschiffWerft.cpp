@@ -3,11 +3,18 @@
 
 namespace tarvelin {
 
-cRaumschiffWerft::cRaumschiffWerft(GlobaleVariablen& globale)
-    : cGebaeude(globale, ItemId::Werft, "Raumschiffwerft: ") {}
+namespace {
 
-Kosten cRaumschiffWerft::Preis(Long stufe) const {
-    return VerdoppelndeKosten({.Metall = 400, .Kristall = 200, .Deuterium = 100}, stufe);
-}
+constexpr Kosten kErsteStufe{.Metall = 400, .Kristall = 200, .Deuterium = 100};
+
+}  // namespace
+
+// It can't be raised while a ship or defence is being built.
+cRaumschiffWerft::cRaumschiffWerft(GlobaleVariablen& globale)
+    : cGebaeude(globale, {.Id = ItemId::Werft,
+                          .Zeile = {"Raumschiffwerft: "},
+                          .Preise = {kErsteStufe, Wachstum::Doppelt},
+                          .Bedient = {.FreiAb = &globale.WerftFertigZeit,
+                                      .Upgrading = &globale.WerftUpgrading}}) {}
 
 }  // namespace tarvelin

@@ -3,16 +3,17 @@
 
 namespace tarvelin {
 
+namespace {
+
+constexpr Kosten kErsteStufe{.Metall = 400, .Kristall = 120, .Deuterium = 200};
+
+}  // namespace
+
+// Without deuterium production it can't start, whatever the stock.
 cRoboterFabrik::cRoboterFabrik(GlobaleVariablen& globale)
-    : cGebaeude(globale, ItemId::Robo, "Roboterfabrik: ") {}
-
-Kosten cRoboterFabrik::Preis(Long stufe) const {
-    return VerdoppelndeKosten({.Metall = 400, .Kristall = 120, .Deuterium = 200}, stufe);
-}
-
-/// Without deuterium production it can't start, whatever the stock.
-Sperre cRoboterFabrik::Gates() const {
-    return FehltDeuteriumProduktion() ? Sperre::Voraussetzung : Sperre::Offen;
-}
+    : cGebaeude(globale, {.Id = ItemId::Robo,
+                          .Zeile = {"Roboterfabrik: "},
+                          .Preise = {kErsteStufe, Wachstum::Doppelt},
+                          .Braucht = {.OhneDeuteriumProduktion = Sperre::Voraussetzung}}) {}
 
 }  // namespace tarvelin

@@ -8,10 +8,6 @@ namespace tarvelin {
 class cRoboterFabrik final : public cGebaeude {
   public:
     explicit cRoboterFabrik(GlobaleVariablen& globale);
-
-  private:
-    [[nodiscard]] Kosten Preis(Long stufe) const override;
-    [[nodiscard]] Sperre Gates() const override;
 };
 
 }  // namespace tarvelin

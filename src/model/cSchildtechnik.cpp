@@ -6,11 +6,11 @@ namespace tarvelin {
 namespace {
 
 constexpr Kosten kErsteStufe{.Metall = 200, .Kristall = 600, .Deuterium = 0};
-constexpr std::array kBedarf{Stufenbedarf{ItemId::Folab, 6}, Stufenbedarf{ItemId::ENTech, 3}};
+constexpr Stufenbedarfe kBedarf{{{ItemId::Folab, 6}, {ItemId::ENTech, 3}}};
 
 }  // namespace
 
 cSchildtechnik::cSchildtechnik(GlobaleVariablen& globale)
-    : cForschung(globale, ItemId::SchTech, "SchildTechnik: ", kErsteStufe, kBedarf) {}
+    : cForschung(globale, ItemId::SchTech, {"SchildTechnik: "}, kErsteStufe, kBedarf) {}
 
 }  // namespace tarvelin

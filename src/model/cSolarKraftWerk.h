@@ -13,7 +13,7 @@ class cSolarKraftWerk final : public cGebaeude {
     [[nodiscard]] Festkomma GetProduktion(Long ExterneStufe = kEigeneStufe) const;
 
   private:
-    [[nodiscard]] Kosten Preis(Long stufe) const override;
+    void NachFinish() override { Globale().BilanzVeraltet = true; }
 };
 
 }  // namespace tarvelin

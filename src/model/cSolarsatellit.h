@@ -14,7 +14,7 @@ class cSolarsatellit final : public cWerfteinheit {
     [[nodiscard]] Festkomma GetProduktion(Long ExterneStufe = kEigeneStufe) const;
 
   private:
-    [[nodiscard]] Sperre Gates() const override;
+    void NachFinish() override { Globale().BilanzVeraltet = true; }
 };
 
 }  // namespace tarvelin

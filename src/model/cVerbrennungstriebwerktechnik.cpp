@@ -6,11 +6,11 @@ namespace tarvelin {
 namespace {
 
 constexpr Kosten kErsteStufe{.Metall = 400, .Kristall = 0, .Deuterium = 600};
-constexpr std::array kBedarf{Stufenbedarf{ItemId::Folab, 1}, Stufenbedarf{ItemId::ENTech, 1}};
+constexpr Stufenbedarfe kBedarf{{{ItemId::Folab, 1}, {ItemId::ENTech, 1}}};
 
 }  // namespace
 
 cVerbrennungstriebwerktechnik::cVerbrennungstriebwerktechnik(GlobaleVariablen& globale)
-    : cForschung(globale, ItemId::VerbTech, "Verb.Triebwerk: ", kErsteStufe, kBedarf) {}
+    : cForschung(globale, ItemId::VerbTech, {"Verb.Triebwerk: "}, kErsteStufe, kBedarf) {}
 
 }  // namespace tarvelin

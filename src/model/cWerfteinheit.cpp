@@ -1,4 +1,4 @@
-// Build time and gates of the units of the shipyard.
+// Build time of the units of the shipyard.
 #include "model/cWerfteinheit.h"
 
 #include "model/Bauzeitfaktor.h"
@@ -12,13 +12,6 @@ double cWerfteinheit::GetUpgradeTime() const {
     const Kosten& preis = NaechsterPreis();
     return (1.0 / g.Speedfaktor) * ((preis.Kristall + preis.Metall) / kRohstoffeJeStunde) *
            (2.0 / (1 + g.WerftStufe())) * HalbierFaktor(g.HalbierStufe) * kSekundenJeStunde;
-}
-
-Sperre cWerfteinheit::Gates() const {
-    if (Globale().WerftUpgrading || FehltStufe(m_bedarf)) {
-        return Sperre::Voraussetzung;
-    }
-    return DeuteriumSperre();
 }
 
 }  // namespace tarvelin

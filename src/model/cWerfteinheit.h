@@ -6,24 +6,25 @@
 namespace tarvelin {
 
 /// An item of the shipyard queue: one order is one unit at a fixed price. The shipyard makes it
-/// faster, and holds it back while it is being raised itself.
+/// faster, and holds most units back while it is being raised itself.
 class cWerfteinheit : public cItem {
   public:
     [[nodiscard]] double GetUpgradeTime() const override;
 
   protected:
-    cWerfteinheit(GlobaleVariablen& globale, ItemId id, std::string_view bauzeitName,
-                  const Kosten& stueckpreis, std::span<const Stufenbedarf> bedarf)
-        : cItem(globale, id, bauzeitName), m_stueckpreis(stueckpreis), m_bedarf(bedarf) {}
+    /// Whether the unit can be started while the shipyard is being raised.
+    enum class BeimAusbau : bool { Nein, Ja };
 
-    [[nodiscard]] std::span<const Stufenbedarf> Bedarf() const { return m_bedarf; }
-
-  private:
-    [[nodiscard]] Kosten Preis(Long /*stufe*/) const override { return m_stueckpreis; }
-    [[nodiscard]] Sperre Gates() const override;
-
-    Kosten m_stueckpreis;
-    std::span<const Stufenbedarf> m_bedarf;
+    cWerfteinheit(GlobaleVariablen& globale, ItemId id, const Zeilenangabe& zeile,
+                  const Kosten& stueckpreis, const Stufenbedarfe& bedarf,
+                  BeimAusbau beimAusbau = BeimAusbau::Nein)
+        : cItem(globale,
+                {.Id = id,
+                 .Zeile = zeile,
+                 .Preise = {stueckpreis, Wachstum::Keines},
+                 .Braucht = {.Ausbau = beimAusbau == BeimAusbau::Ja ? &Bedingungen::kNie
+                                                                    : &globale.WerftUpgrading,
+                             .Stufen = bedarf}}) {}
 };
 
 }  // namespace tarvelin

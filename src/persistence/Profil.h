@@ -18,7 +18,7 @@ namespace tarvelin {
 class Profil {
   public:
     /// A larger file is no profile: the longest plan has less than 1 MiB.
-    static constexpr std::size_t kHoechstgroesse = std::size_t{16} << 20U;
+    static constexpr std::size_t kHoechstgroesse = std::size_t{4} << 20U;
 
     explicit Profil(std::string_view bytes);
 

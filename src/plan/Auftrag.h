@@ -17,7 +17,7 @@ using Minenfaktoren = std::array<Byte, 3>;
 inline constexpr Byte kVollerFaktor = 10;
 
 /// The order queues.
-enum class Schlange : char { Keine = 0, Gebaeude = 'G', Werft = 'W', Forschung = 'F' };
+enum class Schlange : std::uint8_t { Gebaeude, Werft, Forschung, Keine };
 
 /// The `Tag` of a row, understood once when the row is made.
 struct Auftrag {

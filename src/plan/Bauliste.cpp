@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <ranges>
 
 #include "plan/ItemCode.h"
 #include "util/Nuetzliches.h"
@@ -96,11 +95,10 @@ void Bauliste::Undo() {
     if (letzter.Was == Auftrag::Art::Item) {
         --m_listStufe[letzter.Item];
     } else if (letzter.Was == Auftrag::Art::Produktion) {
-        auto darueber = m_zeilen | std::views::reverse;
-        const auto zeile = std::ranges::find_if(darueber, [](const BaulistenZeile& z) {
-            return z.Order.Was == Auftrag::Art::Produktion;
-        });
-        m_listFaktor = zeile == darueber.end() ? kVolleFaktoren : zeile->Order.Faktoren;
+        const auto zeile = std::find_if(
+            m_zeilen.crbegin(), m_zeilen.crend(),
+            [](const BaulistenZeile& z) { return z.Order.Was == Auftrag::Art::Produktion; });
+        m_listFaktor = zeile == m_zeilen.crend() ? kVolleFaktoren : zeile->Order.Faktoren;
     }
 }
 

@@ -8,38 +8,28 @@
 namespace tarvelin {
 
 void EventTabelle::SetEvent(Moment zeit, const BaulistenZeile& order, bool start) {
-    std::size_t zeile = start ? kStartzeile : kFinishzeile;
-    if (!IstFrei(zeile)) {
-        const auto frei = std::ranges::find(m_zeilen, kFrei, &Zeile::Schluessel);
-        zeile = static_cast<std::size_t>(frei - m_zeilen.begin());
-    }
-    m_zeilen.at(zeile) = {.Schluessel = Schluessel(zeit, start), .Order = &order};
-}
-
-std::size_t EventTabelle::SucheStart() const {
-    for (std::size_t zeile = 0; zeile < kZeilen; ++zeile) {
-        if (IstStart(zeile)) {
-            return zeile;
-        }
-    }
-    return kKeineZeile;
-}
-
-void EventTabelle::Sortiere() {
-    // Insertion, as it is stable and the rows are nearly in order already.
-    for (std::size_t i = 1; i < kZeilen; ++i) {
-        const Zeile zeile = m_zeilen[i];
-        std::size_t ort = i;
-        while (ort > 0 && m_zeilen[ort - 1].Schluessel > zeile.Schluessel) {
-            m_zeilen[ort] = m_zeilen[ort - 1];
-            --ort;
-        }
-        m_zeilen[ort] = zeile;
+    const auto* const frei = std::find(m_schluessel.begin(), m_schluessel.end(), kFrei);
+    const auto zeile = static_cast<std::size_t>(frei - m_schluessel.begin());
+    m_schluessel.at(zeile) = Schluessel(zeit, start ? kStart : kFinish, m_naechsteNummer++);
+    m_orders[zeile] = &order;
+    if (start) {
+        m_startzeile = zeile;
     }
 }
 
-std::string EventTabelle::Zelle(std::size_t zeile, std::size_t spalte) const {
-    constexpr int kZeitstellen = 12;
+void EventTabelle::ClearEvent(std::size_t zeile) {
+    m_schluessel[zeile] = kFrei;
+    if (IstStart(zeile)) {
+        m_startzeile = kZeilen;
+    }
+}
+
+std::string EventTabelle::Zelle(std::size_t rang, std::size_t spalte) const {
+    constexpr int kZeitziffern = 12;
+    auto sortiert = m_schluessel;
+    std::ranges::sort(sortiert);
+    const auto* const ort = std::ranges::find(m_schluessel, sortiert.at(rang));
+    const auto zeile = static_cast<std::size_t>(ort - m_schluessel.begin());
     if (IstFrei(zeile)) {
         return spalte == 0 ? "NONE" : "";
     }
@@ -48,7 +38,7 @@ std::string EventTabelle::Zelle(std::size_t zeile, std::size_t spalte) const {
     const bool produktion = detail.starts_with('X');
     switch (spalte) {
         case 0:
-            return PadIntegerDigits(std::to_string(Zeit(zeile).Sekunden()), kZeitstellen);
+            return PadIntegerDigits(std::to_string(Zeit(zeile).Sekunden()), kZeitziffern);
         case 1:
             return tag.substr(0, 1);
         case 2:

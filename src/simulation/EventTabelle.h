@@ -13,71 +13,70 @@
 
 namespace tarvelin {
 
-/// Five rows that exist for good; positions count from 0, the first row being the earliest after
-/// the last `Sortiere`. Rows are kept as figures; the cells of the product's table are given as
-/// texts on demand. The orders are rows of the build list, which must not change meanwhile.
+/// Five rows, which is all that a run ever has in use. Their order is that of their moments; at one
+/// moment finish rows come before the start row, and finish rows in the order in which they were
+/// entered. Rows are kept as figures and not moved about; the sorted table of the product is given
+/// as texts on demand. The orders are rows of the build list, which must not change meanwhile.
 class EventTabelle {
   public:
     static constexpr std::size_t kZeilen = 5;
     static constexpr std::size_t kSpalten = 5;
-    static constexpr std::size_t kKeineZeile = kZeilen;
 
-    /// The row to which a new start row goes, and that for a new finish row, if it is free.
-    static constexpr std::size_t kStartzeile = 3;
-    static constexpr std::size_t kFinishzeile = 4;
-
-    [[nodiscard]] bool IstFrei(std::size_t zeile) const {
-        return m_zeilen[zeile].Schluessel == kFrei;
-    }
-    /// Of a row in use.
-    [[nodiscard]] Moment Zeit(std::size_t zeile) const {
-        return Moment(static_cast<Long>(m_zeilen[zeile].Schluessel >> 1U));
-    }
-    [[nodiscard]] bool IstStart(std::size_t zeile) const {
-        return !IstFrei(zeile) && (m_zeilen[zeile].Schluessel & 1U) != 0;
-    }
-    [[nodiscard]] const BaulistenZeile& Order(std::size_t zeile) const {
-        return *m_zeilen[zeile].Order;
-    }
-
-    /// Writes a row: into its own one for new starts or finishes, or, if that is in use, into the
-    /// first free one. A run never uses more than five rows. `zeit` is 0 or later.
+    /// Enters a row. `zeit` is 0 or later; no second start row is entered while one waits.
     void SetEvent(Moment zeit, const BaulistenZeile& order, bool start);
 
-    /// Gives a start row another moment; it keeps its place until the next `Sortiere`.
-    void SetZeit(std::size_t zeile, Moment zeit) {
-        m_zeilen[zeile].Schluessel = Schluessel(zeit, true);
+    /// Whether no start row waits.
+    [[nodiscard]] bool NoStartPending() const { return m_startzeile == kZeilen; }
+    /// The order of the start row that waits.
+    [[nodiscard]] const BaulistenZeile& Wartende() const { return *m_orders[m_startzeile]; }
+    /// Gives the start row that waits another moment.
+    void SetStartzeit(Moment zeit) { m_schluessel[m_startzeile] = Schluessel(zeit, kStart, 0); }
+
+    /// The earliest row; a table without rows in use gives a free one.
+    [[nodiscard]] std::size_t Erste() const {
+        std::size_t erste = 0;
+        std::uint64_t kleinster = m_schluessel[0];
+        for (std::size_t zeile = 1; zeile < kZeilen; ++zeile) {
+            if (m_schluessel[zeile] < kleinster) {
+                kleinster = m_schluessel[zeile];
+                erste = zeile;
+            }
+        }
+        return erste;
     }
+    [[nodiscard]] bool IstFrei(std::size_t zeile) const { return m_schluessel[zeile] == kFrei; }
+    /// Of a row in use.
+    [[nodiscard]] Moment Zeit(std::size_t zeile) const {
+        return Moment(static_cast<Long>(m_schluessel[zeile] >> kZeitstelle));
+    }
+    [[nodiscard]] bool IstStart(std::size_t zeile) const { return zeile == m_startzeile; }
+    [[nodiscard]] const BaulistenZeile& Order(std::size_t zeile) const { return *m_orders[zeile]; }
 
-    void ClearEvent(std::size_t zeile) { m_zeilen[zeile] = Zeile(); }
+    void ClearEvent(std::size_t zeile);
 
-    /// The start row, or `kKeineZeile`.
-    [[nodiscard]] std::size_t SucheStart() const;
-    [[nodiscard]] bool NoStartPending() const { return SucheStart() == kKeineZeile; }
-
-    /// Ascending by moment, free rows last. At one moment finish rows come before start rows; rows
-    /// still equal keep their order.
-    void Sortiere();
-
-    /// The text of a cell: "000000000105" or "NONE", queue letter, detail, "1" start or "0"
-    /// finish, and for production rows the whole detail of the start row or "X".
-    [[nodiscard]] std::string Zelle(std::size_t zeile, std::size_t spalte) const;
+    /// The text of a cell of the sorted table, both from 0: "000000000105" or "NONE", queue letter,
+    /// detail, "1" start or "0" finish, and for production rows the whole detail of the start row
+    /// or "X".
+    [[nodiscard]] std::string Zelle(std::size_t rang, std::size_t spalte) const;
 
   private:
     static constexpr std::uint64_t kFrei = std::numeric_limits<std::uint64_t>::max();
+    static constexpr std::uint64_t kStart = 1;
+    static constexpr std::uint64_t kFinish = 0;
+    static constexpr unsigned kZeitstelle = 33;
+    static constexpr unsigned kArtstelle = 32;
 
-    /// `Schluessel` is what rows are sorted by: the moment and, as its lowest bit, whether the row
-    /// is a start.
-    struct Zeile {
-        std::uint64_t Schluessel = kFrei;
-        const BaulistenZeile* Order = nullptr;
-    };
-
-    static constexpr std::uint64_t Schluessel(Moment zeit, bool start) {
-        return (static_cast<std::uint64_t>(zeit.Sekunden()) << 1U) | (start ? 1U : 0U);
+    /// What rows are ordered by: moment, then kind, then number of entry.
+    static constexpr std::uint64_t Schluessel(Moment zeit, std::uint64_t art,
+                                              std::uint32_t nummer) {
+        return (static_cast<std::uint64_t>(zeit.Sekunden()) << kZeitstelle) | (art << kArtstelle) |
+               nummer;
     }
 
-    std::array<Zeile, kZeilen> m_zeilen;
+    std::array<std::uint64_t, kZeilen> m_schluessel{kFrei, kFrei, kFrei, kFrei, kFrei};
+    std::array<const BaulistenZeile*, kZeilen> m_orders{};
+    std::size_t m_startzeile = kZeilen;
+    std::uint32_t m_naechsteNummer = 0;
 };
 
 }  // namespace tarvelin

@@ -3,6 +3,7 @@
 #include "simulation/RunSimulation.h"
 
 #include <algorithm>
+#include <array>
 
 #include "simulation/EventTabelle.h"
 
@@ -24,18 +25,19 @@ class Durchlauf {
         m_bauzeiten.reserve(m_zeilen.size());
         // The first order is never timed: it starts at moment 0, whatever stocks and gates say.
         ReiheEin();
-        m_tabelle.Sortiere();
         // Each order goes through the table twice, as a start and as a finish.
         const std::size_t schritte = 2 * m_zeilen.size();
         for (std::size_t schritt = 0; schritt < schritte; ++schritt) {
-            FuehreErsteZeileAus();
+            const std::size_t erste = m_tabelle.Erste();
+            FuehreAus(erste);
             m_planet.EnergieBilanz();
-            m_tabelle.ClearEvent(0);
-            if (m_naechste < m_zeilen.size() && m_tabelle.NoStartPending()) {
+            m_tabelle.ClearEvent(erste);
+            if (m_tabelle.NoStartPending() && m_naechste < m_zeilen.size()) {
                 ReiheEin();
             }
-            TerminiereWartende();
-            m_tabelle.Sortiere();
+            if (!m_tabelle.NoStartPending()) {
+                TerminiereWartende();
+            }
         }
     }
 
@@ -43,22 +45,22 @@ class Durchlauf {
     /// Only one order at a time waits, in the order of the list.
     void ReiheEin() { m_tabelle.SetEvent(Moment(), m_zeilen[m_naechste++], true); }
 
-    void FuehreErsteZeileAus() {
-        if (m_tabelle.IstFrei(0)) {
+    void FuehreAus(std::size_t zeile) {
+        if (m_tabelle.IstFrei(zeile)) {
             // Only orders with unknown codes leave a step without an event.
             m_meldungen.Piepton();
             return;
         }
         // Negative where an order's click buffer has carried the clock past this row.
-        const Long differenz = m_tabelle.Zeit(0) - m_globale.secsgone;
-        const BaulistenZeile& zeile = m_tabelle.Order(0);
-        if (m_tabelle.IstStart(0)) {
+        const Long differenz = m_tabelle.Zeit(zeile) - m_globale.secsgone;
+        const BaulistenZeile& order = m_tabelle.Order(zeile);
+        if (m_tabelle.IstStart(zeile)) {
             m_planet.VergeheZeit(LongSumme(differenz, m_klickPuffer));
-            Starte(zeile);
+            Starte(order);
             PruefeNegativeRessourcen();
         } else {
             m_planet.VergeheZeit(differenz);
-            Beende(zeile.Order);
+            Beende(order.Order);
         }
     }
 
@@ -93,9 +95,7 @@ class Durchlauf {
         m_planet.MetMine.SetProdfaktor(static_cast<float>(faktoren[0]) / kZehntel);
         m_planet.KrisMine.SetProdfaktor(static_cast<float>(faktoren[1]) / kZehntel);
         m_planet.DeutMine.SetProdfaktor(static_cast<float>(faktoren[2]) / kZehntel);
-        m_bauzeiten.emplace_back(m_globale.Uhrzeit(m_globale.secsgone),
-                                 Bauzeittext{.Faktoren = faktoren},
-                                 Verzoegerung{.Grund = Verzoegerung::Art::OhneAngabe});
+        m_bauzeiten.emplace_back(m_globale.Uhrzeit(m_globale.secsgone), faktoren);
         m_tabelle.SetEvent(m_globale.secsgone, zeile, false);
     }
 
@@ -115,19 +115,11 @@ class Durchlauf {
     /// Times the waiting order from the state as it stands. An estimate made earlier counts for
     /// nothing.
     void TerminiereWartende() {
-        const std::size_t zeile = m_tabelle.SucheStart();
-        if (zeile == EventTabelle::kKeineZeile) {
-            return;
-        }
-        const Auftrag& order = m_tabelle.Order(zeile).Order;
-        Moment frei = order.Queue == Schlange::Keine ? Moment() : FertigZeit(order.Queue);
+        const Auftrag& order = m_tabelle.Wartende().Order;
         switch (order.Was) {
-            case Auftrag::Art::Item: {
-                cItem& item = m_planet.Item(order.Item);
-                m_bereitAb = m_globale.secsgone + item.GetTimeUntilStart();
-                frei = std::max(frei, item.FreiAb());
+            case Auftrag::Art::Item:
+                m_bereitAb = m_globale.secsgone + m_planet.Item(order.Item).GetTimeUntilStart();
                 break;
-            }
             case Auftrag::Art::Produktion:
                 m_bereitAb = m_globale.secsgone;
                 break;
@@ -135,7 +127,7 @@ class Durchlauf {
                 m_meldungen.Zeige({.Text = "UpgrdingensSAUFTRAG NICHT ERKANNT", .Titel = ""});
                 break;
         }
-        m_tabelle.SetZeit(zeile, std::max(m_bereitAb, frei));
+        m_tabelle.SetStartzeit(std::max(m_bereitAb, FertigZeit(order.Queue)));
     }
 
     /// A first order that costs more than the start stocks, or one without any source of
@@ -152,16 +144,8 @@ class Durchlauf {
         }
     }
 
-    Moment& FertigZeit(Schlange queue) {
-        switch (queue) {
-            case Schlange::Werft:
-                return m_globale.WerftFertigZeit;
-            case Schlange::Forschung:
-                return m_globale.ForschungFertigZeit;
-            default:
-                return m_globale.GebaeudeFertigZeit;
-        }
-    }
+    /// From when on a queue is free. An order of none waits for nothing.
+    Moment& FertigZeit(Schlange queue) { return *m_fertigZeiten[static_cast<std::size_t>(queue)]; }
 
     const std::vector<BaulistenZeile>& m_zeilen;
     Long m_klickPuffer;
@@ -169,6 +153,10 @@ class Durchlauf {
     GlobaleVariablen& m_globale;
     Bauzeiten& m_bauzeiten;
     Meldungsausgabe& m_meldungen;
+    /// In the order of `Schlange`.
+    std::array<Moment*, 4> m_fertigZeiten{&m_globale.GebaeudeFertigZeit, &m_globale.WerftFertigZeit,
+                                          &m_globale.ForschungFertigZeit, &m_ohneSchlange};
+    Moment m_ohneSchlange;
     EventTabelle m_tabelle;
     /// The next row of the list that has not yet entered the timetable.
     std::size_t m_naechste = 0;

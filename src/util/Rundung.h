@@ -14,7 +14,7 @@ namespace Rundung {
 template <class Runden>
 std::int64_t InGrenzen(double wert, Runden runden) {
     constexpr double kZweiHoch63 = 9223372036854775808.0;
-    if (wert >= -kZweiHoch63 && wert < kZweiHoch63) [[likely]] {
+    if (std::abs(wert) < kZweiHoch63) [[likely]] {
         return runden(wert);
     }
     if (std::isnan(wert)) {

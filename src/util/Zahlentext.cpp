@@ -70,7 +70,8 @@ std::optional<double> LiesZahl(std::string_view text) {
     if (!form) {
         return std::nullopt;
     }
-    std::string ziffern = "0" + std::string(form->ziffern);
+    std::string ziffern(1, '0');
+    ziffern += form->ziffern;
     std::ranges::replace(ziffern, ',', '.');
     double wert = 0;
     const auto ergebnis = std::from_chars(ziffern.data(), ziffern.data() + ziffern.size(), wert,
@@ -94,7 +95,8 @@ std::optional<std::int64_t> LiesGanzzahl(std::string_view text, std::int64_t min
     if (!form || form->mitKomma) {
         return std::nullopt;
     }
-    const std::string ziffern = (form->negativ ? "-" : "") + std::string(form->ziffern);
+    std::string ziffern(form->negativ ? 1 : 0, '-');
+    ziffern += form->ziffern;
     std::int64_t wert = 0;
     const auto ergebnis = std::from_chars(ziffern.data(), ziffern.data() + ziffern.size(), wert);
     if (ergebnis.ec == std::errc::result_out_of_range) {
@@ -120,7 +122,7 @@ std::string Dezimaltext(double wert, int stellen) {
     }
     std::string bruch = ziffern.substr(ziffern.size() - n);
     bruch.erase(bruch.find_last_not_of('0') + 1);
-    std::string text = gerundet < 0 ? "-" : "";
+    std::string text(gerundet < 0 ? 1 : 0, '-');
     text += ziffern.substr(0, ziffern.size() - n);
     return bruch.empty() ? text : text + "," + bruch;
 }

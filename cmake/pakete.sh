@@ -1,0 +1,41 @@
+# For run.sh and test.sh: Debian packages, and a build that does nothing twice.
+
+BAU_PAKETE=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
+TEST_PAKETE=(libgtest-dev libbenchmark-dev clang-format)
+
+# Installs those of the named packages that are missing: as root or by sudo; elsewhere it names them
+# and stops.
+stelle_bereit() {
+    local fehlende=() paket
+    for paket in "$@"; do
+        dpkg-query -W -f '${Status}\n' "$paket" 2>/dev/null | grep -q ' installed$' ||
+            fehlende+=("$paket")
+    done
+    [ ${#fehlende[@]} -eq 0 ] && return
+    local als=()
+    if [ "$(id -u)" -ne 0 ]; then
+        als=(sudo)
+    fi
+    if ! command -v apt-get >/dev/null || ! { [ "$(id -u)" -eq 0 ] || command -v sudo >/dev/null; }
+    then
+        echo "Please install these packages (names of Debian 12), then start again:" >&2
+        echo "  ${fehlende[*]}" >&2
+        exit 1
+    fi
+    echo "Installing: ${fehlende[*]}"
+    local apt=("${als[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q
+        -o DPkg::Lock::Timeout=500 -o Acquire::Retries=3)
+    "${apt[@]}" update
+    "${apt[@]}" install -y --no-install-recommends "${fehlende[@]}"
+}
+
+# Configures a preset once, then builds the named targets, or all of them.
+baue() {
+    local ordner=$1 preset=$2
+    shift 2
+    (
+        cd "$ordner"
+        [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >/dev/null
+        cmake --build --preset "$preset" ${1:+--target "$@"}
+    )
+}
