@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# Installs what is needed, builds Tarvelin and starts it: without an argument the program itself
+# (as long as it has no window, and without a screen: the timetable of the starter plan), with plan
+# files the timetable of each.
+set -euo pipefail
+ordner=$(cd "$(dirname "$0")" && pwd)
+. "$ordner/cmake/pakete.sh"
+
+stelle_bereit "${BAU_PAKETE[@]}"
+baue "$ordner" release tarvelin-cli tarvelin_daten
+
+programm="$ordner/build/release/bin"
+if [ $# -eq 0 ]; then
+    set -- "$programm/saves/basic.tvf"
+fi
+exec "$programm/tarvelin-cli" "$@"

@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# Installs what is needed, runs all tests under the sanitizers, then builds the release.
+set -euo pipefail
+ordner=$(cd "$(dirname "$0")" && pwd)
+. "$ordner/cmake/pakete.sh"
+
+stelle_bereit "${BAU_PAKETE[@]}" "${TEST_PAKETE[@]}"
+cd "$ordner"
+
+echo "== Format"
+git ls-files -- '*.cpp' '*.h' 2>/dev/null | xargs -r clang-format --dry-run --Werror
+
+echo "== Tests with AddressSanitizer and UndefinedBehaviorSanitizer"
+baue "$ordner" asan
+ctest --preset asan -j "$(nproc)"
+
+echo "== Release without warnings"
+baue "$ordner" release
+echo "Done."

@@ -1,0 +1,84 @@
+// What several tests share.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "persistence/Planablage.h"
+#include "plan/ItemCode.h"
+
+namespace tarvelin {
+
+/// Keeps messages and counts beeps.
+class Merker final : public Meldungsausgabe {
+  public:
+    void Zeige(const Meldung& meldung) override { Texte.push_back(meldung.Text); }
+    void Piepton() override { ++Pieptoene; }
+
+    std::vector<std::string> Texte;
+    int Pieptoene = 0;
+};
+
+/// A folder of its own for a test, gone at its end.
+class Ordner {
+  public:
+    Ordner() : m_pfad(std::filesystem::path(testing::TempDir()) / Name()) {
+        std::filesystem::remove_all(m_pfad);
+        std::filesystem::create_directories(m_pfad);
+    }
+    Ordner(const Ordner&) = delete;
+    Ordner& operator=(const Ordner&) = delete;
+    ~Ordner() { std::filesystem::remove_all(m_pfad); }
+
+    std::filesystem::path operator/(std::string_view name) const { return m_pfad / name; }
+    [[nodiscard]] std::size_t Eintraege() const {
+        return static_cast<std::size_t>(
+            std::distance(std::filesystem::directory_iterator(m_pfad), {}));
+    }
+
+  private:
+    static std::string Name() {
+        const auto* const info = testing::UnitTest::GetInstance()->current_test_info();
+        return std::string("tarvelin-") + info->test_suite_name() + "-" + info->name();
+    }
+    std::filesystem::path m_pfad;
+};
+
+inline std::string LiesDatei(const std::filesystem::path& datei) {
+    std::ifstream strom(datei, std::ios::binary);
+    return {std::istreambuf_iterator<char>(strom), {}};
+}
+
+inline void SchreibeDatei(const std::filesystem::path& datei, std::string_view bytes) {
+    std::ofstream(datei, std::ios::binary) << bytes;
+}
+
+/// A plan of 18.11.2006 12:30 without a click buffer, its rows by codes parted by blanks.
+inline Plan PlanAus(std::string_view codes, const Startplanet& planet = Startplanet()) {
+    Plan plan;
+    plan.Parameter.UniStartZeitTag = "18";
+    plan.Parameter.UniStartZeitMonat = "11";
+    plan.Parameter.UniStartZeitJahr = "2006";
+    plan.Parameter.KlickPuffer = 0;
+    while (!codes.empty()) {
+        const auto code = codes.substr(0, codes.find(' '));
+        if (const auto item = ItemVonCode(code)) {
+            EXPECT_FALSE(plan.Liste.DragDrop(ZeileVon(*item).Bild, planet));
+        } else if (const auto faktoren = LiesMinenfaktoren(code)) {
+            EXPECT_FALSE(plan.Liste.AddProdaenderungsevent(*faktoren, planet));
+        } else {
+            plan.Liste.HaengeZeileAn(code);
+        }
+        codes.remove_prefix(std::min(code.size() + 1, codes.size()));
+    }
+    return plan;
+}
+
+}  // namespace tarvelin

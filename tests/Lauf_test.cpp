@@ -1,0 +1,230 @@
+// The run: its clock, its timetable, its messages and what it leaves behind.
+#include <random>
+
+#include "Hilfen.h"
+#include "simulation/EventTabelle.h"
+
+namespace tarvelin {
+namespace {
+
+struct Probe {
+    Lauf Gelaufen;
+    Merker Meldungen;
+    Laufausgang Ausgang;
+
+    explicit Probe(Plan plan, bool silent = false)
+        : Ausgang(RunSimulation(plan, Gelaufen, Meldungen, silent)) {}
+
+    [[nodiscard]] const GlobaleVariablen& Globale() const { return Gelaufen.Planet.Globale; }
+    [[nodiscard]] Long Uhr() const { return Globale().secsgone.Sekunden(); }
+    [[nodiscard]] Long Start(std::size_t zeile) const {
+        return Gelaufen.LV_Bauzeiten.at(zeile).Zeit() - Globale().StartDate;
+    }
+};
+
+Plan MitPuffer(std::string_view codes, int puffer) {
+    Plan plan = PlanAus(codes);
+    plan.Parameter.KlickPuffer = puffer;
+    return plan;
+}
+
+TEST(Lauf, DerErsteAuftragUndSeineErgebnistexte) {
+    const Probe probe(MitPuffer("GM", 5));
+    EXPECT_EQ(probe.Uhr(), 113);
+    EXPECT_EQ(probe.Start(0), 5);
+    EXPECT_EQ(VierStellenText(probe.Globale().Metall), "440.6278");
+    Ergebnistexte texte;
+    texte.NachLauf(probe.Globale());
+    EXPECT_EQ(texte.LBL_Timegone, "Dauer: 00 Tage 00:01:53");
+    EXPECT_EQ(texte.LBL_Timegone2, texte.LBL_Timegone);
+    EXPECT_EQ(texte.LBL_Met + " " + texte.LBL_Kris + " " + texte.LBL_Deut, "440 485 0");
+    EXPECT_EQ(texte.LBL_ENergie, "-11 / 0");
+    EXPECT_EQ(texte.LBL_Punkte, "0,075 P");
+    EXPECT_EQ(texte.LBL_Punkte_Hinweis, "Inkl. Res.: 1,001 Punkte");
+    texte.NachClear();
+    EXPECT_EQ(texte.LBL_Timegone + texte.LBL_Met, "Dauer: dd:hh:mm:ss500");
+    EXPECT_EQ(texte.LBL_Punkte, "0,075 P");
+    texte.NachReset();
+    EXPECT_EQ(texte.LBL_Timegone2 + texte.LBL_Punkte, "Dauer: dd:hh:mm:ss0");
+    EXPECT_EQ(probe.Gelaufen.LV_Bauzeiten[0].Tag(),
+              "Samstag 18.11.2006 12:30:05 | Keine Verzögerung wegen der Ressourcen!");
+}
+
+TEST(Lauf, EineSchlangeReihtMitZweiPuffernUndEinerSekunde) {
+    for (const int k : {0, 1, 5, 600}) {
+        const Probe probe(MitPuffer("GS GM GK", k));
+        const Long bauzeiten = 151 + 108 + 104;  // 151.2, 108 and 103.68 seconds
+        EXPECT_NEAR(probe.Uhr(), bauzeiten + 2 * (2 * k + 1) + k, 1) << k;
+        EXPECT_EQ(probe.Start(1) - probe.Start(0), 152 + 2 * k) << k;
+    }
+}
+
+TEST(Lauf, SchlangenLaufenNebeneinanderInListenreihenfolge) {
+    // The launcher waits for the shipyard, the mine behind it waits for the launcher's start.
+    Plan plan = MitPuffer("GW WR GM", 0);
+    const Probe probe(plan);
+    EXPECT_GE(probe.Start(1), 864);
+    EXPECT_GE(probe.Start(2), probe.Start(1));
+    EXPECT_EQ(probe.Globale().Stufe(ItemId::Rakws), 1);
+    // A finish inside another order's click buffer takes the clock back.
+    const Probe zurueck(MitPuffer("GX:10:10:10 GX:0:0:0 GS", 300));
+    EXPECT_EQ(zurueck.Start(0), 300);
+    EXPECT_EQ(zurueck.Start(1), 600);
+}
+
+TEST(Lauf, ProduktionszeilenWirkenAbIhremStart) {
+    const Probe probe(MitPuffer("GX:8:10:5 GM GX:0:10:10", 0));
+    EXPECT_EQ(probe.Gelaufen.LV_Bauzeiten[0].theText(), "80% 100% 50%");
+    EXPECT_EQ(probe.Gelaufen.LV_Bauzeiten[0].Tag(), "Samstag 18.11.2006 12:30:00");
+    EXPECT_EQ(probe.Start(2), 109);  // waits for the building queue, but occupies it not
+    EXPECT_EQ(probe.Globale().EnergieVerbrauch, 0);
+    EXPECT_EQ(probe.Globale().GebaeudeFertigZeit, Moment(109));
+}
+
+TEST(Lauf, AnlagenStartenWennIhreSchlangeFreiFaellt) {
+    Plan plan = MitPuffer("GS GD GF FS GF", 0);
+    const Probe probe(plan);
+    EXPECT_EQ(probe.Start(4), std::max(probe.Start(3) + 4316, probe.Start(4)));
+    EXPECT_LT(probe.Start(4), 100'000'000);
+    EXPECT_EQ(probe.Gelaufen.LV_Bauzeiten[4].Grund().Text(), "");
+}
+
+TEST(Lauf, SchlafHaeltNurDenStartAuf) {
+    Plan plan = MitPuffer("GM GM GM GM GM", 5);
+    const Probe wach(plan);
+    const Long fuenfte = wach.Start(4) - 5;
+    const Zeitpunkt start = wach.Globale().StartDate;
+    const auto text = [&](Long s) { return Datumzeittext(start + s); };
+    plan.Schlafzeiten = {{"31.11.2006 22:00", "x"}, {text(fuenfte - 60), text(fuenfte + 600)}};
+    EXPECT_EQ(Probe(plan).Start(4), fuenfte + 600 + 5);
+    EXPECT_EQ(Probe(plan).Start(3), wach.Start(3));
+}
+
+TEST(Lauf, EingabenWerdenDerReiheNachGeprueft) {
+    struct Fall {
+        const char* codes;
+        const char* temperatur;
+        const char* tag;
+        std::vector<std::string> texte;
+    };
+    const std::vector<Fall> faelle{
+        {"", "x", "x", {"Die Bauliste ist leer..."}},
+        {"GM", "x", "x", {"Keine gültige Temperatur eingegeben..."}},
+        {"GM", "40000", "18", {"Keine gültige Temperatur eingegeben..."}},
+        {"GM", "11", "x", {"Kein gültiges Datum eingegeben..."}},
+        {"GM", "11", "18", {}}};
+    for (const Fall& fall : faelle) {
+        Plan plan = PlanAus(fall.codes);
+        plan.Parameter.TempMax = fall.temperatur;
+        plan.Parameter.UniStartZeitTag = fall.tag;
+        const Probe probe(plan);
+        EXPECT_EQ(probe.Meldungen.Texte, fall.texte);
+        EXPECT_EQ(probe.Ausgang == Laufausgang::Gelaufen, fall.texte.empty());
+        EXPECT_EQ(Probe(plan, true).Meldungen.Texte.empty(),
+                  fall.texte.empty() || *fall.codes == 0);
+    }
+    // A refused run leaves the last one's state, but for speed factor and sleep windows.
+    Lauf lauf;
+    Merker merker;
+    Plan plan = PlanAus("GM");
+    RunSimulation(plan, lauf, merker, false);
+    plan.Liste.Clear();
+    plan.Parameter.SpeedfaktorX2 = true;
+    RunSimulation(plan, lauf, merker, false);
+    EXPECT_EQ(lauf.LV_Bauzeiten.size(), 1U);
+    EXPECT_EQ(lauf.Planet.Globale.Speedfaktor, 2);
+}
+
+TEST(Lauf, NegativeRessourcenWerdenBeiJedemStartGemeldet) {
+    const Probe probe(MitPuffer("GW GM", 0));
+    ASSERT_EQ(probe.Meldungen.Texte.size(), 2U);
+    EXPECT_EQ(probe.Meldungen.Texte[0],
+              "Negative Ressourcen: Metall: 100    Kristall:300    Deuterium: -100");
+}
+
+TEST(Lauf, UnbekannteAuftraegeFallenWeg) {
+    const Probe probe(MitPuffer("GM Quatsch WZZ GK", 0));
+    EXPECT_EQ(probe.Gelaufen.LV_Bauzeiten.size(), 2U);
+    EXPECT_EQ(probe.Globale().Stufe(ItemId::KrisMine), 1);
+    EXPECT_EQ(probe.Meldungen.Pieptoene, 2);  // their finishes
+    const auto anzahl = [&](const char* text) {
+        return std::ranges::count(probe.Meldungen.Texte, text);
+    };
+    EXPECT_EQ(anzahl("STARTAUFTRAG NICHT ERKANNT"), 2);
+    EXPECT_EQ(anzahl("UpgrdingensSAUFTRAG NICHT ERKANNT"), 2);
+    // Timed at the moment of the order before: not before it, and not held back by any queue.
+    EXPECT_EQ(Probe(MitPuffer("Quatsch GM", 7)).Start(0), 14);
+}
+
+TEST(Lauf, HaeltDieUhrAmEndeIhresBereichs) {
+    const Probe probe(MitPuffer("GW WR GX:10:10:10 FS GX:5:5:5 FE GM GM", 600));
+    EXPECT_EQ(probe.Uhr(), 2147483647);
+    EXPECT_EQ(probe.Gelaufen.LV_Bauzeiten.size(), 8U);
+}
+
+TEST(Lauf, IstEineReineFunktionDesPlans) {
+    std::mt19937 zufall(42);
+    for (int n = 0; n < 30; ++n) {
+        std::string codes;
+        for (int i = 0; i < 40; ++i) {
+            codes += std::string(ItemTabelle()[zufall() % kItemAnzahl].Code) + " ";
+            codes += zufall() % 6 == 0 ? "GX:3:10:0 " : "";
+        }
+        codes.pop_back();
+        Plan plan = MitPuffer(codes, static_cast<int>(zufall() % 20));
+        Lauf lauf;
+        Merker merker;
+        RunSimulation(plan, lauf, merker, true);
+        const auto ende = lauf.Planet.Globale;
+        RunSimulation(plan, lauf, merker, true);
+        EXPECT_EQ(lauf.Planet.Globale.secsgone, ende.secsgone);
+        EXPECT_EQ(lauf.Planet.Globale.Metall, ende.Metall);
+        EXPECT_EQ(lauf.LV_Bauzeiten.size(), plan.Liste.Zeilen().size());
+        double ausgegeben = 0;
+        for (const auto& zeile : ItemTabelle()) {
+            EXPECT_EQ(ende.Stufe(zeile.Item), plan.Liste.ListStufe(zeile.Item));
+            for (int stufe = 0; stufe < plan.Liste.ListStufe(zeile.Item); ++stufe) {
+                const Kosten preis = lauf.Planet.Item(zeile.Item).GetKosten(stufe);
+                ausgegeben += preis.Metall + preis.Kristall + preis.Deuterium;
+            }
+        }
+        EXPECT_EQ(ende.VerbauteRessourcen, ausgegeben);
+    }
+}
+
+TEST(EventTabelle, OrdnetNachZeitArtUndEintritt) {
+    const Plan plan = PlanAus("GM FSCH GX:8:10:5 WR");
+    const auto& zeilen = plan.Liste.Zeilen();
+    EventTabelle tabelle;
+    EXPECT_TRUE(tabelle.IstFrei(tabelle.Erste()));
+    EXPECT_EQ(tabelle.Zelle(0, 0), "NONE");
+    tabelle.SetEvent(Moment(100), zeilen[2], true);
+    tabelle.SetEvent(Moment(100), zeilen[1], false);
+    tabelle.SetEvent(Moment(100), zeilen[0], false);
+    tabelle.SetEvent(Moment(99), zeilen[2], false);
+    const auto text = [&] {
+        std::string alles;
+        for (std::size_t rang = 0; rang < EventTabelle::kZeilen; ++rang) {
+            for (std::size_t spalte = 0; spalte < EventTabelle::kSpalten; ++spalte) {
+                alles += tabelle.Zelle(rang, spalte) + (spalte == 4 ? "\n" : " ");
+            }
+        }
+        return alles;
+    };
+    EXPECT_EQ(text(),
+              "000000000099 G X 0 X\n"
+              "000000000100 F SCH 0 \n"
+              "000000000100 G M 0 \n"
+              "000000000100 G X 1 X:8:10:5\n"
+              "NONE    \n");
+    tabelle.SetStartzeit(Moment(0));
+    EXPECT_TRUE(tabelle.IstStart(tabelle.Erste()));
+    tabelle.ClearEvent(tabelle.Erste());
+    EXPECT_TRUE(tabelle.NoStartPending());
+    tabelle.SetEvent(Moment(2147483647), zeilen[3], true);
+    EXPECT_EQ(tabelle.Zelle(3, 0), "002147483647");
+    EXPECT_EQ(&tabelle.Wartende(), &zeilen[3]);
+}
+
+}  // namespace
+}  // namespace tarvelin

@@ -1,0 +1,250 @@
+// The build list, its rules and hover texts, start parameters and sleep windows.
+#include <random>
+
+#include "Hilfen.h"
+#include "plan/Hovertexte.h"
+#include "plan/Regeln.h"
+
+namespace tarvelin {
+namespace {
+
+constexpr Minenfaktoren kVoll{10, 10, 10};
+
+/// What Undo has to put back.
+std::string Bild(const Bauliste& liste) {
+    std::string bild;
+    for (const auto& zeile : liste.Zeilen()) {
+        bild += zeile.Text + "|" + zeile.Tag + "|" + zeile.SubItems1 + "|" + zeile.SubItems2 + "|" +
+                (zeile.SubItems2Farbe == Farbe::Rot ? "rot\n" : "schwarz\n");
+    }
+    for (const auto& zeile : ItemTabelle()) {
+        bild += std::to_string(liste.ListStufe(zeile.Item)) + " ";
+    }
+    for (const Byte faktor : liste.ListFaktor()) {
+        bild += std::to_string(faktor) + " ";
+    }
+    return bild;
+}
+
+TEST(Bauliste, HaeltZeilenMitTextFaktorUndFarbe) {
+    const Plan plan = PlanAus("GS GM GK GD GX:10:10:0 WKSK WS WS WKT");
+    EXPECT_EQ(Bild(plan.Liste),
+              "1|GS|Solarkraftwerk Stufe: 1|1,00|schwarz\n"
+              "2|GM|MetallMine Stufe: 1|1,00|schwarz\n"
+              "3|GK|KristallMine Stufe: 1|1,00|schwarz\n"
+              "4|GD|DeuteriumMine Stufe: 1|0,50|rot\n"
+              "5|GX:10:10:0|M:100% K:100% D:0%|1,00|schwarz\n"
+              "6|WKSK|Kleine Schildkuppel|1,00|schwarz\n"
+              "7|WS|Solarsatellit Nr.: 1|1,00|schwarz\n"
+              "8|WS|Solarsatellit Nr.: 2|1,00|schwarz\n"
+              "9|WKT|Kl. Transporter Nr: 1|1,00|schwarz\n"
+              "1 1 1 1 0 0 0 2 0 1 0 0 0 0 1 0 0 0 0 0 10 10 0 ");
+    EXPECT_EQ(PlanAus("GM").Liste.Zeilen()[0].SubItems2, "0,00");
+    EXPECT_EQ(PlanAus("GX:0:0:0 GM GK GD").Liste.Zeilen()[3].SubItems2, "1,00");
+}
+
+TEST(Bauliste, FaktortextFolgtDerTemperaturDesLetztenLaufs) {
+    Startplanet kalt;
+    kalt.ResetSimulation(-100);
+    EXPECT_EQ(PlanAus("GM WS").Liste.Zeilen()[1].SubItems2, "1,00");
+    EXPECT_EQ(PlanAus("GM WS", kalt).Liste.Zeilen()[1].SubItems2, "-0,45");
+}
+
+TEST(Bauliste, UndoStelltDenZustandVorJederZeileWiederHer) {
+    std::mt19937 zufall(1337);
+    const Startplanet planet;
+    Bauliste liste;
+    std::vector<std::string> bilder;
+    while (liste.Zeilen().size() < 120) {
+        bilder.push_back(Bild(liste));
+        if (zufall() % 5 == 0) {
+            const auto faktor = [&] { return static_cast<Byte>(zufall() % 11); };
+            ASSERT_FALSE(liste.AddProdaenderungsevent({faktor(), faktor(), faktor()}, planet));
+        } else {
+            ASSERT_FALSE(liste.DragDrop(ItemTabelle()[zufall() % kItemAnzahl].Bild, planet));
+        }
+    }
+    for (; !bilder.empty(); bilder.pop_back()) {
+        liste.Undo();
+        ASSERT_EQ(Bild(liste), bilder.back());
+    }
+    liste.Undo();
+    EXPECT_EQ(Bild(liste), Bild(Bauliste()));
+}
+
+TEST(Bauliste, UndoNimmtAuchUnbekannteZeilen) {
+    Plan plan = PlanAus("GX:8:10:5 GM");
+    plan.Liste.HaengeZeileAn("Quatsch");
+    plan.Liste.Undo();
+    EXPECT_EQ(plan.Liste.Zeilen().size(), 2U);
+    EXPECT_EQ(plan.Liste.ListFaktor(), (Minenfaktoren{8, 10, 5}));
+    plan.Liste.Clear();
+    EXPECT_EQ(Bild(plan.Liste), Bild(Bauliste()));
+}
+
+TEST(Bauliste, WeistUnbekanntesUndDie255teZeileAb) {
+    const Startplanet planet;
+    Bauliste liste;
+    EXPECT_EQ(*liste.DragDrop("LV_Bauzeiten", planet), (Meldung{"KA", ""}));
+    while (!liste.IstVoll()) {
+        ASSERT_FALSE(liste.DragDrop("ImgDeutMine", planet));
+    }
+    const std::string voll = Bild(liste);
+    const Meldung absage{"Die Bauliste ist voll: mehr als 254 Einträge sind nicht möglich...",
+                         "Schwerer Ausnahmefehler 1337 !"};
+    EXPECT_EQ(liste.DragDrop("ImgSKW", planet), absage);
+    EXPECT_EQ(liste.AddProdaenderungsevent(kVoll, planet), absage);
+    EXPECT_EQ(Bild(liste), voll);
+    EXPECT_EQ(liste.Zeilen().size(), 254U);
+    EXPECT_EQ(liste.Zeilen().back().SubItems2, "0,00");  // a need beyond 32 bits
+}
+
+TEST(Auftrag, VerstehtNurGanzeFaktorenVonNullBisZehn) {
+    for (const char* tag : {"GX:8:10:5", "GX: 8 :+010:-0", "GXfoo:8:10:5:99", "GX8:1:2:3"}) {
+        EXPECT_EQ(Auftrag::AusTag(tag).Was, Auftrag::Art::Produktion) << tag;
+    }
+    for (const char* tag : {"GX", "GX:8:10", "GX:8:10:11", "GX:8:10:-1", "GX:8:10:5,0",
+                            "GX::8:10:5", "gx:8:10:5", "GX:8:10:", "gm", "GM ", "", "G"}) {
+        EXPECT_EQ(Auftrag::AusTag(tag).Was, Auftrag::Art::Unbekannt) << tag;
+    }
+}
+
+struct Regelfall {
+    const char* Liste;
+    ItemId Item;
+    const char* Absage;
+};
+
+TEST(Regeln, SagenWasFehlt) {
+    using enum ItemId;
+    // clang-format off
+    const std::vector<Regelfall> faelle{
+        {"", Robo, " Noch keine Deuteriummine oder kein Solarkraftwerk in der Bauliste, bauen wäre unmöglich! "},
+        {"GD", Folab, " Noch keine Deuteriummine oder kein Solarkraftwerk in der Bauliste, bauen wäre unmöglich! "},
+        {"GS GD", Robo, nullptr},
+        {"GR", Werft, " Weder eine Roboterfabrik (Stufe:2) noch eine Deuteriummine in der Bauliste, bauen wäre unmöglich! "},
+        {"GR GR", Werft, " Noch keine Deuteriummine in der Bauliste, bauen wäre unmöglich! "},
+        {"GD GR", Werft, " Noch keine Roboterfabrik (Stufe:2) in der Bauliste, bauen wäre unmöglich! "},
+        {"GR GD GR", Werft, nullptr},
+        {"", VerbTech, " Weder ein Forschungslabor noch Energietechnik(Stufe:1) in der Bauliste, bauen wäre unmöglich! "},
+        {"FE", VerbTech, " Noch keine Forschungslabor in der Bauliste, bauen wäre unmöglich! "},
+        {"GF", VerbTech, " Noch keine Energietechnik(Stufe:1) in der Bauliste, forschen wäre unmöglich! "},
+        {"GF FE", LaserTech, " Noch keine Energietechnik(Stufe:2) in der Bauliste, forschen wäre unmöglich! "},
+        {"GF GF", SpioTech, " Noch keine Forschungslabor(Stufe:3) in der Bauliste, bauen wäre unmöglich! "},
+        {"GW", LJs, " Noch keine Verbrennungstriebwerk(Stufe:1) in der Bauliste, bauen wäre unmöglich! "},
+        {"GW FV", KTs, " Weder eine Raumschiffwerft(Stufe:2) noch Verbrennungstriebwerk(Stufe: 2) in der Bauliste, bauen wäre unmöglich! "},
+        {"GW GW GW GW FL FL FL FL FL FL FE FE", sLasers, " Benötigt werden Raumschiffwerft(Stufe:4), Lasertechnik(Stufe: 6), Energietechnik(Stufe:3) "},
+        {"GW GW GW GW FL FL FL FL FL FL FE FE FE", sLasers, nullptr},
+        {"GW GW GW FV FV FV FS", Spios, " Es werden noch benötigt: Spionagetichnik(Stufe:2), Raumschiffwerft(Stufe:3), Verbrennungstriebwerk(Stufe:3) "},
+        {"GW FSCH", klSchK, " Noch keine Schildtechnik(Stufe:2) in der Bauliste, bauen wäre unmöglich! "},
+        {"WKSK", klSchK, " Bereits eine kleine Schildkuppel in der Bauliste vorhanden! "},
+        {"GW FSCH FSCH WKSK WKSK", klSchK, nullptr},
+        {"", MetMine, nullptr}, {"", KrisMine, nullptr}, {"", DeutMine, nullptr}, {"", SKW, nullptr}};
+    // clang-format on
+    for (const Regelfall& fall : faelle) {
+        const auto absage = Absage(fall.Item, PlanAus(fall.Liste).Liste);
+        EXPECT_EQ(absage.value_or("offen"), fall.Absage == nullptr ? "offen" : fall.Absage)
+            << fall.Liste;
+    }
+    int geschlossen = 0;
+    for (const auto& zeile : ItemTabelle()) {
+        geschlossen += Absage(zeile.Item, Bauliste()) ? 1 : 0;
+    }
+    EXPECT_EQ(geschlossen, 16);
+}
+
+TEST(Hovertexte, NennenKostenUndEnergieDerNaechstenZeile) {
+    using enum ItemId;
+    Startplanet planet;
+    const auto text = [&](const char* codes, ItemId item) {
+        return HoverInfo(item, PlanAus(codes).Liste, planet).Tooltip;
+    };
+    EXPECT_EQ(text("", DeutMine),
+              " Deuteriummine  |  Kosten:  Met: 225  Kris: 75  Deut: 0  |  Energie: -22");
+    EXPECT_EQ(text("GM GM GX:0:0:0 GM", MetMine),
+              " Metallmine  |  Kosten:  Met: 202  Kris: 50  Deut: 0  |  Energie: -19");
+    EXPECT_EQ(text("GS", SKW),
+              " Solarkraftwerk  |  Kosten:  Met: 112  Kris: 45  Deut: 0  |  Energie: +26");
+    EXPECT_EQ(text("GW WR WR", Rakws), " Rakentenwerfer  |  Kosten:  Met: 2000  Kris: 0  Deut: 0");
+    EXPECT_EQ(text("GW WS", Solsats),
+              " Solarsatellit  |  Kosten:  Met: 0  Kris: 2000  Deut: 500  |  Energie: +20");
+    planet.ResetSimulation(30);
+    EXPECT_TRUE(text("GW WS", Solsats).ends_with("  |  Energie: +27"));
+    const Hoverinfo zu = HoverInfo(Rakws, Bauliste(), planet);
+    EXPECT_FALSE(zu.DragOffen);
+    EXPECT_EQ(zu.Tooltip, " Noch keine Raumschiffwerft in der Bauliste, bauen wäre unmöglich! ");
+}
+
+TEST(Startparameter, WochentagUndStartdatum) {
+    Startparameter parameter = PlanAus("").Parameter;
+    EXPECT_EQ(RefreshWeekday(parameter).Caption, "Sa.");
+    EXPECT_EQ(RefreshWeekday(parameter).Hint, "Samstag");
+    parameter.UniStartZeitTag = "5";
+    Merker merker;
+    EXPECT_EQ(*ReadUniStartZeit(parameter, merker), *LiesDatumzeit("05.11.2006 12:30:00"));
+    EXPECT_EQ(parameter.UniStartZeitTag, "05");
+    parameter.UniStartZeitMonat = "2";
+    parameter.UniStartZeitTag = "30";
+    EXPECT_EQ(RefreshWeekday(parameter).Caption, "Err.");
+    EXPECT_FALSE(ReadUniStartZeit(parameter, merker));
+    EXPECT_EQ(parameter.UniStartZeitMonat, "02");
+    EXPECT_EQ(merker.Texte, std::vector<std::string>{"Kein gültiges Datum eingegeben..."});
+    EXPECT_EQ(KlickPufferText(600), "10:00");
+}
+
+TEST(Startparameter, TemperaturenHaengenZusammen) {
+    Startparameter parameter;
+    const auto max = [&](const char* text) {
+        AendereTempMax(parameter, text);
+        return parameter.TempMin + " " + parameter.TempMax;
+    };
+    EXPECT_EQ(max("011"), "-29 11");
+    EXPECT_EQ(max("+5"), "-35 5");
+    EXPECT_EQ(max("0,1"), "-39,9 0,1");
+    EXPECT_EQ(max("abc"), "-39,9 abc");
+    EXPECT_EQ(max(" 12,05 "), "-27,95 12,05");
+    AendereTempMin(parameter, "-10");
+    EXPECT_EQ(parameter.TempMax, "30");
+    AendereTempMin(parameter, "");
+    EXPECT_EQ(parameter.TempMax, "30");
+    const auto grad = [&](const char* text) {
+        parameter.TempMax = text;
+        return LiesTemperatur(parameter);
+    };
+    EXPECT_EQ(grad("25,5"), 26);
+    EXPECT_EQ(grad("24,5"), 24);
+    EXPECT_EQ(grad("-32768,5"), -32768);
+    for (const char* text : {"-32769", "32767,5", "99999999999999999999", "12a", ""}) {
+        EXPECT_FALSE(grad(text)) << text;
+    }
+}
+
+TEST(Schlaftabelle, NimmtNurWasSichNichtUeberschneidet) {
+    Schlaftabelle tabelle{{"kein", "Datum"}};
+    const auto fuege = [&](const char* stunde, const char* minute, const char* dauerStunden,
+                           const char* dauerMinuten) {
+        const auto meldung =
+            AddSchlafzeit({"18.11.2006", stunde, minute, dauerStunden, dauerMinuten}, tabelle);
+        return meldung ? meldung->Text : std::to_string(tabelle.size());
+    };
+    const std::string trifft = "Kein überschneidenden Zeiträumen eingegeben...";
+    EXPECT_EQ(fuege("10", "00", "2", "00"), "2");
+    EXPECT_EQ(tabelle.back(), (SchlafzeitZeile{"18.11.2006 10:00", "18.11.2006 12:00"}));
+    EXPECT_EQ(fuege("10", "00", "2", "00"), trifft);
+    EXPECT_EQ(fuege("11", "59", "0", "01"), trifft);
+    EXPECT_EQ(fuege("09", "00", "1", "00"), trifft);  // ends where the row begins
+    EXPECT_EQ(fuege("09", "00", "0", "59"), "3");
+    EXPECT_EQ(fuege("12", "00", "0", "00"), "4");     // begins where the row ends
+    EXPECT_EQ(fuege("08", "00", "9", "00"), trifft);  // around rows
+    EXPECT_EQ(fuege("23", "30", "1,5", "30"), "5");
+    EXPECT_EQ(tabelle.back(), (SchlafzeitZeile{"18.11.2006 23:30", "19.11.2006 01:30"}));
+    EXPECT_EQ(fuege("24", "00", "x", "00"), "Keine gültige Dauer eingegeben...");
+    EXPECT_EQ(fuege("24", "00", "1", "00"), "Kein gültiges Datum eingegeben...");
+    EXPECT_EQ(LiesSchlafzeiten(tabelle).size(), 4U);
+    EXPECT_EQ(SchlafendeText({"18.11.2006", "22", "30", "01", "00"}), "Sa.  18.11.2006 23:30");
+    EXPECT_EQ(SchlafendeText({"18.11.2006", "22", "30", "", "00"}), "Error");
+    EXPECT_EQ(SchlafendeText({"18.11.2006", "22", "60", "1", "00"}), "Error");
+}
+
+}  // namespace
+}  // namespace tarvelin

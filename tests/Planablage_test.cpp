@@ -1,0 +1,182 @@
+// Save files: format, laws of saving and loading, hostile bytes.
+#include <random>
+
+#include "Hilfen.h"
+
+namespace tarvelin {
+namespace {
+
+struct Ladung {
+    Plan Geladen;
+    Lauf Gelaufen;
+    Ergebnistexte Texte;
+    Merker Meldungen;
+    Ladeergebnis Ergebnis;
+
+    explicit Ladung(std::string_view bytes, bool silent = false)
+        : Ergebnis(LadePlan(Profil(bytes), silent, Geladen, Gelaufen, Texte, Meldungen)) {}
+};
+
+std::string Bytes(const Plan& plan, std::string_view vorher = "") {
+    Profil profil(vorher);
+    SchreibePlan(plan, profil);
+    return profil.Bytes();
+}
+
+Plan Beispiel() {
+    Plan plan = PlanAus("GM GS GX:8:10:5");
+    plan.Parameter.KlickPuffer = 5;
+    plan.Schlafzeiten = {{"18.11.2006 22:00", "19.11.2006 06:00"}};
+    return plan;
+}
+
+const std::string kBeispiel =
+    "[Einstellungen]\r\nKlickPuffer=5\r\nUniStartZeitTag=18\r\nUniStartZeitMonat=11\r\n"
+    "UniStartZeitJahr=2006\r\nUniStartZeitStunden=12\r\nUniStartZeitMinuten=30\r\nTempMax=11\r\n"
+    "ShowDesc=1\r\nSpeedfaktor_X2=0\r\n[Bauliste]\r\nItemCount=3\r\nItem_001=GM\r\nItem_002=GS\r\n"
+    "Item_003=GX:8:10:5\r\n[Schlafzeiten]\r\nItemCount=1\r\nItem_001=18.11.2006 22:00\r\n"
+    "SubItem_001=19.11.2006 06:00\r\n";
+
+/// The example with one line changed, or taken out where `neu` is empty.
+std::string Mit(const std::string& alt, const std::string& neu) {
+    std::string bytes = kBeispiel;
+    const auto ort = bytes.find(alt);
+    EXPECT_NE(ort, std::string::npos) << alt;
+    return bytes.replace(ort, alt.size() + 2, neu.empty() ? "" : neu + "\r\n");
+}
+
+TEST(Planablage, HatDasFormat) {
+    EXPECT_EQ(Bytes(Beispiel()), kBeispiel);
+    Plan kurz = Beispiel();
+    kurz.Liste.Undo();
+    const std::string ueber = Bytes(kurz, kBeispiel);
+    EXPECT_NE(ueber.find("ItemCount=2\r\nItem_001=GM\r\nItem_002=GS\r\nItem_003=GX:8:10:5"),
+              std::string::npos);
+    EXPECT_EQ(Ladung(ueber).Geladen.Liste.Zeilen().size(), 2U);
+    EXPECT_EQ(FenstertitelMit("/ein/Ordner/x.y.tvf"),
+              "Tarvelin  |  Kelva Aufbau-Simulator      ( x.y.tvf )");
+}
+
+TEST(Planablage, KommtVomSpeichernZurueckWieEsWar) {
+    std::mt19937 zufall(2006);
+    for (int n = 0; n < 40; ++n) {
+        std::string codes;
+        for (auto i = zufall() % 60; i > 0; --i) {
+            codes += std::string(ItemTabelle()[zufall() % kItemAnzahl].Code) + " ";
+            codes += zufall() % 4 == 0 ? "GX:0:10:7 " : "";
+        }
+        Plan plan = PlanAus(codes.substr(0, codes.find_last_not_of(' ') + 1));
+        plan.Parameter.KlickPuffer = static_cast<int>(zufall() % 601);
+        plan.Parameter.SpeedfaktorX2 = zufall() % 2 == 0;
+        plan.ShowDesc = zufall() % 2 == 0;
+        plan.Schlafzeiten.assign(zufall() % 4, {"18.11.2006 22:00", "Käse ="});
+        const std::string bytes = Bytes(plan);
+        const Ladung ladung(bytes, true);
+        EXPECT_TRUE(ladung.Ergebnis.Geladen);
+        EXPECT_EQ(Bytes(ladung.Geladen), bytes);
+        EXPECT_EQ(ladung.Geladen.Schlafzeiten, plan.Schlafzeiten);
+        ASSERT_EQ(ladung.Geladen.Liste.Zeilen().size(), plan.Liste.Zeilen().size());
+        for (std::size_t i = 0; i < plan.Liste.Zeilen().size(); ++i) {
+            EXPECT_EQ(ladung.Geladen.Liste.Zeilen()[i].SubItems1, plan.Liste.Zeilen()[i].SubItems1);
+            EXPECT_EQ(ladung.Geladen.Liste.Zeilen()[i].SubItems2, plan.Liste.Zeilen()[i].SubItems2);
+        }
+    }
+}
+
+TEST(Planablage, HoertAmErstenUnbrauchbarenWertAuf) {
+    struct Fall {
+        const char* Alt;
+        const char* Neu;
+        std::size_t Zeilen;
+        std::size_t Schlafzeiten;
+    };
+    const std::vector<Fall> faelle{{"KlickPuffer=5", "KlickPuffer=601", 0, 0},
+                                   {"KlickPuffer=5", "", 0, 0},
+                                   {"ShowDesc=1", "ShowDesc=ja", 0, 0},
+                                   {"ItemCount=1", "ItemCount=10000", 0, 0},
+                                   {"ItemCount=1", "ItemCount=1,0", 0, 0},
+                                   {"ItemCount=3", "ItemCount=-1", 0, 1},
+                                   {"ItemCount=3", "ItemCount=4", 3, 1},
+                                   {"Item_001=GM", "Item_001=gm", 0, 1},
+                                   {"Item_002=GS", "", 1, 1},
+                                   {"Item_003=GX:8:10:5", "Item_003=GX:8:10:11", 2, 1}};
+    for (const Fall& fall : faelle) {
+        SCOPED_TRACE(std::string(fall.Alt) + " " + fall.Neu);
+        const Ladung ladung(Mit(fall.Alt, fall.Neu));
+        EXPECT_FALSE(ladung.Ergebnis.Geladen);
+        EXPECT_EQ(ladung.Meldungen.Texte,
+                  std::vector<std::string>{"Die Bauliste konnte nicht geladen werden..."});
+        EXPECT_EQ(ladung.Geladen.Liste.Zeilen().size(), fall.Zeilen);
+        EXPECT_EQ(ladung.Geladen.Schlafzeiten.size(), fall.Schlafzeiten);
+        EXPECT_TRUE(ladung.Gelaufen.LV_Bauzeiten.empty());
+    }
+    const Ladung zuviel(Mit("ItemCount=3", "ItemCount=99999999999999999999"));
+    EXPECT_EQ(zuviel.Meldungen.Texte.size(), 1U);
+}
+
+TEST(Planablage, LiestWasBrauchbarIst) {
+    EXPECT_FALSE(Ladung(Mit("ShowDesc=1", "ShowDesc=0,0")).Geladen.ShowDesc);
+    EXPECT_TRUE(Ladung(Mit("ShowDesc=1", "ShowDesc=-7")).Geladen.ShowDesc);
+    EXPECT_TRUE(
+        Ladung(Mit("Speedfaktor_X2=0", "Speedfaktor_X2=1")).Geladen.Parameter.SpeedfaktorX2);
+    EXPECT_FALSE(
+        Ladung(Mit("Speedfaktor_X2=0", "Speedfaktor_X2=01")).Geladen.Parameter.SpeedfaktorX2);
+    EXPECT_FALSE(Ladung(Mit("Speedfaktor_X2=0", "")).Geladen.Parameter.SpeedfaktorX2);
+    const Ladung kalt(Mit("TempMax=11", "TempMax=-20,5"));
+    EXPECT_EQ(kalt.Geladen.Parameter.TempMin, "-60,5");
+    EXPECT_EQ(kalt.Gelaufen.Planet.Globale.Temperatur, -20);
+    const Ladung ohneDatum(Mit("UniStartZeitTag=18", "UniStartZeitTag=31"));
+    EXPECT_TRUE(ohneDatum.Ergebnis.Geladen);
+    EXPECT_FALSE(ohneDatum.Ergebnis.Gelaufen);
+    const Ladung vorzeichen(Mit("Item_003=GX:8:10:5", "Item_003=GX:+8:010: 5 :x"));
+    EXPECT_EQ(vorzeichen.Geladen.Liste.Zeilen()[2].Tag, "GX:+8:010: 5 :x");
+    EXPECT_EQ(vorzeichen.Geladen.Liste.Zeilen()[2].SubItems1, "M:80% K:100% D:50%");
+    EXPECT_EQ(vorzeichen.Gelaufen.LV_Bauzeiten[2].theText(), "80% 100% 50%");
+}
+
+TEST(Planablage, VerliertDenPlanNurAnEineLesbareDatei) {
+    const Ordner ordner;
+    Plan plan = Beispiel();
+    ASSERT_TRUE(SaveBauliste(ordner / "plan.tvf", plan));
+    EXPECT_EQ(LiesDatei(ordner / "plan.tvf"), kBeispiel);
+    EXPECT_FALSE(SaveBauliste(ordner / "", plan));
+    EXPECT_FALSE(SaveBauliste(ordner / "fehlt" / "plan.tvf", plan));
+    EXPECT_EQ(ordner.Eintraege(), 1U);
+    Lauf lauf;
+    Ergebnistexte texte;
+    Merker merker;
+    EXPECT_FALSE(LoadBauliste(ordner / "fehlt", false, plan, lauf, texte, merker).Geladen);
+    EXPECT_EQ(plan.Liste.Zeilen().size(), 3U);
+    EXPECT_TRUE(LoadBauliste(ordner / "plan.tvf", false, plan, lauf, texte, merker).Gelaufen);
+    EXPECT_EQ(texte.LBL_ENergie, "14 / 22");
+    EXPECT_EQ(merker.Texte.size(), 1U);
+}
+
+TEST(Planablage, UebersteltJedeDatei) {
+    // Bytes thrown into, taken out of and turned in a plan; the sanitizers watch.
+    std::mt19937 zufall(4711);
+    const std::string_view stoerer("[]=;\"'\0\r\n:,-9G\xEF\xBB\xBF", 17);
+    for (int n = 0; n < 400; ++n) {
+        std::string bytes = kBeispiel;
+        for (auto i = zufall() % 12; i > 0; --i) {
+            const auto ort = zufall() % bytes.size();
+            switch (zufall() % 3) {
+                case 0:
+                    bytes[ort] = stoerer[zufall() % stoerer.size()];
+                    break;
+                case 1:
+                    bytes.erase(ort, zufall() % 9);
+                    break;
+                default:
+                    bytes.insert(ort, std::string(1 + zufall() % 3, stoerer[zufall() % 17]));
+            }
+        }
+        const Ladung ladung(bytes);
+        EXPECT_TRUE(ladung.Ergebnis.Gelaufen || !ladung.Meldungen.Texte.empty()) << bytes;
+        Profil profil(bytes);
+        EXPECT_EQ(profil.Bytes(), bytes);
+    }
+}
+
+}  // namespace
+}  // namespace tarvelin

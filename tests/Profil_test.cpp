@@ -1,0 +1,140 @@
+// Profile files: reading, writing, replacing.
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "Hilfen.h"
+#include "persistence/Dateiersatz.h"
+#include "persistence/modINI.h"
+
+namespace tarvelin {
+namespace {
+
+struct Lesefall {
+    const char* Was;
+    std::string Bytes;
+    std::string Wert;
+};
+
+TEST(Profil, LiestWieDiePlattform) {
+    const std::string lang255(255, 'x');
+    const std::vector<Lesefall> faelle{
+        {"einfach", "[A]\r\nK=v\r\n", "v"},
+        {"LF und ohne Ende", "[A]\nK=v", "v"},
+        {"CR", "[A]\rK=v\rL=w", "v"},
+        {"Marke", "\xEF\xBB\xBF[A]\nK=v", "v"},
+        {"Ränder", "\t [ \ta\v] Rest\r\n \fk \t= \v v w \t\r\n", "v w"},
+        {"ohne Klammer", "[A\nK=v", "v"},
+        {"Schreibung", "[a]\nk=v", "v"},
+        {"Kommentar", "[A]\n;K=1\n ; K=2\nK=v", "v"},
+        {"leer", "[A]\nK=\nK=v", ""},
+        {"erster Schlüssel", "[A]\nK=v\nK=w", "v"},
+        {"erster Abschnitt", "[A]\nX=1\n[B]\nK=b\n[A]\nK=w", "Standard"},
+        {"ganzer Name", "[AA]\nK=1\n[A]\nKK=2\nK K=3", "Standard"},
+        {"vor Abschnitt", "K=v\n[B]\n", "Standard"},
+        {"erstes Gleich", "[A]\nK=a=b", "a=b"},
+        {"ohne Gleich", "[A]\nK\nK=v", "v"},
+        {"Anführung", "[A]\nK=\" v \"", " v "},
+        {"Hochkomma", "[A]\nK='v'", "v"},
+        {"gemischt", "[A]\nK=\"v'", "\"v'"},
+        {"ein Zeichen", "[A]\nK=\"", "\""},
+        {"doppelt", "[A]\nK=\"\"v\"\"", "\"v\""},
+        {"255 Bytes", "[A]\nK=" + lang255, lang255},
+        {"256 Bytes", "[A]\nK=" + lang255 + "y", lang255},
+        {"NUL", std::string("[A]\nK=v\0w", 10), "v"},
+        {"Umlaut", "[A]\nK=\xE4\x80", "ä€"},
+        {"leere Datei", "", "Standard"},
+        {"nur Klammer", "[", "Standard"},
+    };
+    for (const Lesefall& fall : faelle) {
+        EXPECT_EQ(Profil(fall.Bytes).Lies("A", "K", "Standard"), fall.Wert) << fall.Was;
+    }
+    std::string umlaute;
+    for (int i = 0; i < 300; ++i) {
+        umlaute += "ä";
+    }
+    EXPECT_EQ(Profil("").Lies("A", "K", umlaute), umlaute.substr(0, 510));
+}
+
+struct Schreibfall {
+    const char* Was;
+    std::string Vorher;
+    std::string Nachher;
+};
+
+TEST(Profil, SchreibtUndLaesstAllesAndereStehen) {
+    const std::vector<Schreibfall> faelle{
+        {"leer", "", "[A]\r\nK=v\r\n"},
+        {"nur Marke", "\xEF\xBB\xBF", "\xEF\xBB\xBF[A]\r\nK=v\r\n"},
+        {"neuer Abschnitt", "[B]\nx=1", "[B]\nx=1\r\n[A]\r\nK=v\r\n"},
+        {"neuer Schlüssel", "[A]\nx=1\n\n \t\n[B]\r\n", "[A]\nx=1\nK=v\r\n\n \t\n[B]\r\n"},
+        {"hinter Unbeendeter", "[A]\nx=1", "[A]\nx=1\r\nK=v\r\n"},
+        {"hinter Kommentar", "[a]\n;c\n", "[a]\n;c\nK=v\r\n"},
+        {"vor Leerem am Ende", "[A]\n  ", "[A]\nK=v\r\n  "},
+        {"alter Platz", "[A]\n \tk\t = alt\nx=1\n", "[A]\nk=v\r\nx=1\n"},
+        {"erster von zweien", "[A]\rk=1\rK=2\r[A]\rK=3", "[A]\rk=v\r\nK=2\r[A]\rK=3"},
+        {"fremde Zeilen", "Unsinn\n=\n[A\nK=\"x\"", "Unsinn\n=\n[A\nK=v\r\n"},
+    };
+    for (const Schreibfall& fall : faelle) {
+        Profil profil(fall.Vorher);
+        EXPECT_EQ(profil.Bytes(), fall.Vorher) << fall.Was;
+        profil.Schreibe("A", "K", "v");
+        EXPECT_EQ(profil.Bytes(), fall.Nachher) << fall.Was;
+        EXPECT_EQ(profil.Lies("a", "k", ""), "v") << fall.Was;
+        // The same key again changes no length, and what is written is what is read anew.
+        profil.Schreibe("A", "K", "ä漢");
+        EXPECT_EQ(Profil(profil.Bytes()).Lies("A", "K", ""), "ä?") << fall.Was;
+    }
+}
+
+TEST(ModINI, GehtBeiJedemAufrufAnDieDatei) {
+    const Ordner ordner;
+    const auto datei = ordner / "config.cfg";
+    EXPECT_EQ(ReadINI("Skinsettings", "WebPath", datei, "http://"), "http://");
+    EXPECT_EQ(ordner.Eintraege(), 0U);
+    WriteINI("Skinsettings", "WebPath", "x", datei);
+    EXPECT_EQ(LiesDatei(datei), "[Skinsettings]\r\nWebPath=x\r\n");
+    EXPECT_EQ(ReadINI("SkinSettings", "Webpath", datei, ""), "x");
+    WriteINI("A", "K", "v", ordner / "fehlt" / "config.cfg");
+    std::filesystem::create_directory(ordner / "verzeichnis");
+    WriteINI("A", "K", "v", ordner / "verzeichnis");
+    EXPECT_EQ(ReadINI("A", "K", ordner / "verzeichnis", "Standard"), "Standard");
+    EXPECT_EQ(ordner.Eintraege(), 2U);
+}
+
+TEST(Dateiersatz, ErsetztGanzOderGarNicht) {
+    const Ordner ordner;
+    const auto datei = ordner / "plan.tvf";
+    SchreibeDatei(datei, "alt");
+    ASSERT_EQ(::chmod(datei.c_str(), 0640), 0);
+    std::filesystem::create_symlink(datei, ordner / "zeiger");
+    ASSERT_TRUE(ErsetzeDatei(ordner / "zeiger", "neu"));
+    EXPECT_TRUE(std::filesystem::is_symlink(ordner / "zeiger"));
+    EXPECT_EQ(LiesDatei(datei), "neu");
+    struct stat status {};
+    ASSERT_EQ(::stat(datei.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0640U);
+    EXPECT_FALSE(ErsetzeDatei(ordner / "fehlt" / "plan.tvf", "x"));
+    EXPECT_FALSE(ErsetzeDatei("", "x"));
+    if (::geteuid() != 0) {
+        ASSERT_EQ(::chmod(datei.c_str(), 0440), 0);
+        EXPECT_FALSE(ErsetzeDatei(datei, "x"));
+        EXPECT_EQ(LiesDatei(datei), "neu");
+    }
+    EXPECT_EQ(ordner.Eintraege(), 2U);
+}
+
+TEST(Profil, WeistZuGrossesUndFremdesAb) {
+    const Ordner ordner;
+    std::filesystem::create_directory(ordner / "verzeichnis");
+    EXPECT_FALSE(Profil::Lade(ordner / "verzeichnis"));
+    EXPECT_FALSE(Profil::Lade(ordner / "fehlt"));
+    EXPECT_FALSE(Profil::Lade("/dev/zero"));
+    EXPECT_TRUE(Profil::LadeOderLeer(ordner / "fehlt"));
+    SchreibeDatei(ordner / "gross", std::string(Profil::kHoechstgroesse, 'x'));
+    EXPECT_TRUE(Profil::Lade(ordner / "gross"));
+    SchreibeDatei(ordner / "gross", std::string(Profil::kHoechstgroesse + 1, 'x'));
+    EXPECT_FALSE(Profil::LadeOderLeer(ordner / "gross"));
+}
+
+}  // namespace
+}  // namespace tarvelin

@@ -1,0 +1,218 @@
+// Number texts, fixed point, dates, small text helpers.
+#include <cmath>
+#include <limits>
+
+#include "Hilfen.h"
+#include "util/Codepage1252.h"
+#include "util/Datumzeit.h"
+#include "util/Festkomma.h"
+#include "util/Nuetzliches.h"
+#include "util/Zahlentext.h"
+
+namespace tarvelin {
+namespace {
+
+constexpr auto kMax64 = std::numeric_limits<std::int64_t>::max();
+constexpr auto kMin64 = std::numeric_limits<std::int64_t>::min();
+
+TEST(Rundung, NimmtDieRichtungIhresNamensUndHaeltAnDenEnden) {
+    struct Fall {
+        double wert;
+        std::int64_t halb, ab, runter;
+    };
+    for (const Fall& f :
+         {Fall{2.5, 2, 2, 2}, Fall{3.5, 4, 3, 3}, Fall{-2.5, -2, -2, -3}, Fall{-0.1, 0, 0, -1},
+          Fall{7, 7, 7, 7}, Fall{1e300, kMax64, kMax64, kMax64},
+          Fall{-9223372036854775808.0, kMin64, kMin64, kMin64},
+          Fall{-INFINITY, kMin64, kMin64, kMin64}, Fall{NAN, 0, 0, 0}}) {
+        EXPECT_EQ(Rundung::half_even(f.wert), f.halb) << f.wert;
+        EXPECT_EQ(Rundung::cut(f.wert), f.ab) << f.wert;
+        EXPECT_EQ(Rundung::floor(f.wert), f.runter) << f.wert;
+    }
+    EXPECT_EQ(LongSumme(kMax64 / 2, 5), std::numeric_limits<Long>::max());
+    EXPECT_EQ(LongSumme(-3'000'000'000, 5), std::numeric_limits<Long>::min());
+    EXPECT_EQ(Saettige<Byte>(300), 255);
+    EXPECT_EQ(Saettige<Byte>(-1), 0);
+}
+
+TEST(Festkomma, RechnetGenauUndHaeltAnDenEnden) {
+    const auto max = Festkomma::AusRohwert(kMax64);
+    const auto min = Festkomma::AusRohwert(kMin64);
+    EXPECT_EQ(max + Festkomma::AusRohwert(1), max);
+    EXPECT_EQ(min - Festkomma::AusRohwert(1), min);
+    EXPECT_EQ(max * -2, min);
+    EXPECT_EQ(min * -1, max);
+    EXPECT_EQ(Festkomma::AusDouble(1e30), max);
+    EXPECT_EQ(Festkomma::AusDouble(0.00005).Rohwert(), 0);
+    EXPECT_EQ(Festkomma::AusDouble(0.00035).Rohwert(), 4);
+    EXPECT_EQ(Festkomma::AusDouble(-12.9).GanzerTeil(), -12);
+    EXPECT_EQ(VierStellenText(Festkomma::AusDouble(-0.5)), "-0.5000");
+    EXPECT_EQ(VierStellenText(min), "-922337203685477.5808");
+    EXPECT_EQ(Dezimaltext(Festkomma::AusDouble(440.6278)), "440,6278");
+    EXPECT_EQ(Dezimaltext(Festkomma::AusDouble(-0.05)), "-0,05");
+    EXPECT_EQ(Dezimaltext(Festkomma::AusGanzzahl(500)), "500");
+    EXPECT_EQ(Dezimaltext(Festkomma()), "0");
+}
+
+TEST(Zahlentext, KenntNurDieEineForm) {
+    const std::vector<std::pair<std::string, double>> gute{
+        {"5", 5},    {"-12,5", -12.5},
+        {",5", .5},  {"+5", 5},
+        {" 5  ", 5}, {"-,5", -.5},
+        {"007", 7},  {std::string(400, '9'), 1.7976931348623157e308},
+        {"-0", 0},   {"0," + std::string(400, '0') + "1", 0}};
+    for (const auto& [text, wert] : gute) {
+        ASSERT_TRUE(IstZahl(text)) << text;
+        EXPECT_EQ(*LiesZahl(text), wert) << text;
+    }
+    for (const char* text : {"", " ", "+", ",", "5,", "1.5", "1e3", "1.000", "--5", "5 5", "1,2,3",
+                             "\t5", "½", "0x5", "inf", "- 5"}) {
+        EXPECT_FALSE(IstZahl(text)) << text;
+    }
+    EXPECT_EQ(LiesGanzzahl("600", 0, 600), 600);
+    EXPECT_EQ(LiesGanzzahl(" +05 ", 0, 600), 5);
+    EXPECT_EQ(LiesGanzzahl("-0", 0, 600), 0);
+    EXPECT_EQ(LiesGanzzahl("99999999999999999999", 0, kMax64), kMax64);
+    for (const char* text : {"601", "-1", "5,0", "", "x", "99999999999999999999"}) {
+        EXPECT_FALSE(LiesGanzzahl(text, 0, 600)) << text;
+    }
+}
+
+TEST(Zahlentext, SchreibtSchlichteDezimalzahlen) {
+    EXPECT_EQ(Dezimaltext(0.1 - 40 + 40, 10), "0,1");
+    EXPECT_EQ(Dezimaltext(-0.00004, 4), "0");
+    EXPECT_EQ(Dezimaltext(0.0625, 3), "0,062");
+    EXPECT_EQ(Dezimaltext(1234.5678, 0), "1235");
+    EXPECT_EQ(Dezimaltext(-27.95, 10), "-27,95");
+    EXPECT_EQ(Dezimaltext(1e22, 10), "10000000000000000000000");
+    EXPECT_EQ(Ganztext(-12.9), "-12");
+    EXPECT_EQ(Ganztext(-0.5), "0");
+    EXPECT_EQ(Ganztext(std::ldexp(1.0, 80)), "1208925819614629174706176");
+}
+
+TEST(Datumzeit, PrueftUndLiestDieLoseForm) {
+    const std::vector<std::pair<const char*, const char*>> gute{
+        {"18.11.2006 12:30:00", "18.11.2006 12:30:00"},
+        {"1.2.03 4:5", "01.02.2003 04:05:00"},
+        {"29.02.2024 23:59:59", "29.02.2024 23:59:59"},
+        {"01.01.30 00:00", "01.01.1930 00:00:00"},
+        {"31.12.29 0:0:0", "31.12.2029 00:00:00"},
+        {"01.01.0100 00:00", "01.01.0100 00:00:00"},
+        {"30.12.1899 0:00", "30.12.1899 00:00:00"},
+        {"31.12.9999 23:59", "31.12.9999 23:59:00"}};
+    for (const auto& [text, erwartet] : gute) {
+        const auto zeit = LiesDatumzeit(text);
+        ASSERT_TRUE(zeit) << text;
+        EXPECT_EQ(Datumzeittext(*zeit), erwartet);
+    }
+    for (const char* text : {"",
+                             "30.02.2006 12:30",
+                             "29.02.1900 12:30",
+                             "18.13.2006 12:30",
+                             "0.1.2006 12:30",
+                             "18.11.2006 24:00",
+                             "18.11.2006 12:60",
+                             "18.11.2006 12:30:60",
+                             "18.11.2006 12:30 ",
+                             " 18.11.2006 12:30",
+                             "18.11.2006  12:30",
+                             "18.11.206 12:30",
+                             "18.11.0099 12:30",
+                             "18.11.6 12:30",
+                             "18.11.2006",
+                             "18.11.2006 12",
+                             "18.11.2006 12:",
+                             "018.11.2006 12:30",
+                             "18.11.2006 12:30:",
+                             "18.11.12006 12:30",
+                             "18/11/2006 12:30",
+                             "18.11.2006 12:30:00:00"}) {
+        EXPECT_FALSE(LiesDatumzeit(text)) << text;
+    }
+}
+
+TEST(Datumzeit, KenntWochentageUndGrosseJahre) {
+    const Zeitpunkt samstag = *LiesDatumzeit("18.11.2006 23:59:59");
+    EXPECT_EQ(WochentagKurz(samstag), "Sa");
+    EXPECT_EQ(WochentagLang(samstag + 1), "Sonntag");
+    EXPECT_EQ(Wochentag(samstag + 1), 1);
+    EXPECT_EQ(Datumzeittext(*LiesDatumzeit("31.12.9999 23:59:59") + 1), "01.01.10000 00:00:00");
+    const Zeitpunkt alt = *LiesDatumzeit("29.12.1899 12:00");
+    EXPECT_EQ(Datumzeittext(alt), "29.12.1899 12:00:00");
+    EXPECT_EQ(WochentagKurz(alt), "Fr");
+    EXPECT_EQ(*LiesDatumzeit("01.01.9999 00:00") - samstag, std::numeric_limits<Long>::max());
+}
+
+TEST(Nuetzliches, SchneidetTexte) {
+    EXPECT_EQ(GetToken("GX:8:10:5", 1, ":"), "GX");
+    EXPECT_EQ(GetToken("GX:8:10:5", 4, ""), "5");
+    EXPECT_EQ(GetToken("GX:8:10:5", 5, ":"), "");
+    EXPECT_EQ(GetToken("GX:8:10:5", 0, ":"), "");
+    EXPECT_EQ(GetToken("GX:8", std::numeric_limits<int>::max(), ":"), "");
+    EXPECT_EQ(GetToken(":a:b", 1, ":"), "a");
+    EXPECT_EQ(GetToken("a::b", 2, ":"), "");
+    EXPECT_EQ(GetToken("a::b", 3, ":"), "b");
+    EXPECT_EQ(GetToken("", 1, ":"), "");
+    EXPECT_EQ(TextBefore("a:b:c", ":"), "a");
+    EXPECT_EQ(TextBefore("abc", ":"), "");
+    EXPECT_EQ(TextAfter("a:b:c", ":"), "b:c");
+    EXPECT_EQ(TextAfter("abc", ":"), "abc");
+    EXPECT_EQ(TextAfter("a | b", " | "), "| b");
+    EXPECT_EQ(TextAfter("xäy", "ä"), "y");
+}
+
+TEST(Nuetzliches, FuelltZahlenAuf) {
+    EXPECT_EQ(PadIntegerDigits("7", 3), "007");
+    EXPECT_EQ(PadIntegerDigits("1234", 3), "1234");
+    EXPECT_EQ(PadIntegerDigits("5,5", 3), "005,5");
+    EXPECT_EQ(PadIntegerDigits("-5", 4), "00-5");
+    EXPECT_EQ(PadIntegerDigits("DD", 2), "DD");
+    EXPECT_EQ(PadIntegerDigits("", 2), "");
+    EXPECT_EQ(PadIntegerDigits("7", -1), "7");
+    EXPECT_EQ(PadDecimals("1", 2), "1,00");
+    EXPECT_EQ(PadDecimals("0,5", 2), "0,50");
+    EXPECT_EQ(PadDecimals("1,234", 2), "1,234");
+    EXPECT_EQ(PadDecimals("abc", 2), "abc");
+    EXPECT_EQ(PadDecimals("1", 0), "1");
+}
+
+TEST(Nuetzliches, SchreibtDauern) {
+    EXPECT_EQ(FormatDuration(90061, "s", "d(0)h(1)m(2)s(3)(&)", "d"), "1 Tage 1h 1m 1s und");
+    EXPECT_EQ(FormatDuration(90061, "s", "hh:mm:ss", "h"), "25:01:01");
+    EXPECT_EQ(FormatDuration(3700, "s", "mm:ss", "d"), "01:40");
+    EXPECT_EQ(FormatDuration(3700, "s", "mm:ss", "m"), "61:40");
+    EXPECT_EQ(FormatDuration(3700, "s", "ss", "s"), "3700");
+    EXPECT_EQ(FormatDuration(100, "d", "dd(0)", "x"), "100 Tage ");
+    EXPECT_EQ(FormatDuration(2, "h", "m", "m"), "120");
+    EXPECT_EQ(FormatDuration(std::numeric_limits<Long>::max(), "d", "dd(0)hh:mm:ss", "d"),
+              "24855 Tage 03:14:07");
+    EXPECT_EQ(FormatDuration(5, "w", "ss", "d"), "");
+}
+
+TEST(Nuetzliches, SchautInOrdner) {
+    const Ordner ordner;
+    EXPECT_EQ(GetSubfolders(ordner / ""), std::vector<std::string>{""});
+    EXPECT_EQ(GetSubfolders(ordner / "fehlt"), std::vector<std::string>{""});
+    for (const char* name : {"standard", "blau", ".versteckt"}) {
+        std::filesystem::create_directory(ordner / name);
+    }
+    SchreibeDatei(ordner / "datei", "x");
+    std::filesystem::create_directory_symlink(ordner / "blau", ordner / "zeiger");
+    EXPECT_EQ(GetSubfolders(ordner / ""), (std::vector<std::string>{"blau", "standard"}));
+    EXPECT_TRUE(FileExists(ordner / "datei"));
+    EXPECT_FALSE(FileExists(ordner / "blau"));
+    EXPECT_FALSE(FileExists(ordner / "fehlt"));
+}
+
+TEST(Codepage1252, KommtMitJedemByteZurueck) {
+    std::string alle;
+    for (int byte = 0; byte < 256; ++byte) {
+        alle += static_cast<char>(byte);
+    }
+    EXPECT_EQ(Nach1252(Aus1252(alle)), alle);
+    EXPECT_EQ(Aus1252("\x80\xE4"), "€ä");
+    EXPECT_EQ(Nach1252("漢\xF0\x9F\x98\x80 \xFFx\xC3"), "?? ?x?");
+}
+
+}  // namespace
+}  // namespace tarvelin
