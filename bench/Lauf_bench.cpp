@@ -14,6 +14,7 @@
 #include "persistence/Planablage.h"
 #include "plan/ItemCode.h"
 #include "plan/Regeln.h"
+#include "simulation/RunSimulation.h"
 
 namespace {
 
@@ -85,8 +86,9 @@ void Laden(benchmark::State& state) {
     for (auto _ : state) {
         Plan plan;
         Lauf lauf;
-        Ergebnistexte texte;
-        benchmark::DoNotOptimize(LadePlan(Profil(bytes), true, plan, lauf, texte, meldungen));
+        benchmark::DoNotOptimize(LadePlan(Profil(bytes), plan, lauf.Planet, meldungen) &&
+                                 RunSimulation(plan, lauf, meldungen, true) ==
+                                     Laufausgang::Gelaufen);
     }
 }
 BENCHMARK(Laden)->Arg(60)->Arg(254);

@@ -46,16 +46,16 @@ TEST(Starterplan, HaeltDieRegelnUndLaeuftOhneMeldung) {
     std::ostringstream fehlerstrom;
     const Planlauf lauf(std::filesystem::path(TARVELIN_QUELLEN) / "data/saves/basic.tvf",
                         fehlerstrom);
-    EXPECT_TRUE(lauf.Ergebnis.Gelaufen);
+    EXPECT_TRUE(lauf.Gelaufen);
     EXPECT_EQ(fehlerstrom.str(), "");
-    const auto& zeilen = lauf.Geplant.Liste.Zeilen();
+    const auto& zeilen = lauf.Plan.Liste.Zeilen();
     EXPECT_GE(zeilen.size(), 30U);
     EXPECT_LE(zeilen.size(), 60U);
     Bauliste liste;
     for (const BaulistenZeile& zeile : zeilen) {
         ASSERT_EQ(zeile.Order.Was, Auftrag::Art::Item);
         EXPECT_FALSE(Absage(zeile.Order.Item, liste)) << zeile.Text;
-        ASSERT_FALSE(liste.DragDrop(ZeileVon(zeile.Order.Item).Bild, lauf.Gelaufen.Planet));
+        ASSERT_FALSE(liste.DragDrop(ZeileVon(zeile.Order.Item).Bild, lauf.Lauf.Planet));
     }
 }
 

@@ -13,6 +13,8 @@
 
 #include "persistence/Planablage.h"
 #include "plan/ItemCode.h"
+#include "simulation/Ergebnistexte.h"
+#include "simulation/RunSimulation.h"
 
 namespace tarvelin {
 

@@ -17,8 +17,8 @@ struct Aufruf {
 Aufruf Rufe(const Ordner& ordner, const std::string& argumente) {
     const auto ausgabe = ordner / "ausgabe";
     const auto fehler = ordner / "fehler";
-    const std::string befehl = std::string("'") + TARVELIN_CLI + "' " + argumente + " >'" +
-                               ausgabe.string() + "' 2>'" + fehler.string() + "'";
+    const std::string befehl = "cd '" + (ordner / "").string() + "' && '" + TARVELIN_CLI + "' >'" +
+                               ausgabe.string() + "' 2>'" + fehler.string() + "' " + argumente;
     const int status = std::system(befehl.c_str());
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, LiesDatei(ausgabe), LiesDatei(fehler)};
 }
@@ -44,15 +44,15 @@ TEST(Konsole, DrucktDenZeitplan) {
 
 TEST(Konsole, SchreibtEineTabelleFuerAlle) {
     const Ordner ordner;
-    const auto name = ordner / "mein;\"Plan\".tvf";
+    const auto name = ordner / "[\"a;b\"]";
     std::filesystem::copy_file(TARVELIN_GOLDEN "/fuenf-zeilen.tvf", name);
-    const Aufruf aufruf = Rufe(ordner, "--csv " + kPlan + " '" + name.string() + "'");
+    const Aufruf aufruf = Rufe(ordner, "--csv " + kPlan + " '[\"a;b\"]'");
     EXPECT_EQ(aufruf.Code, 0);
     EXPECT_TRUE(aufruf.Ausgabe.starts_with(
         "\xEF\xBB\xBFPlan;Nr.;Wochentag;Uhrzeit;theText;Zeitpunkt;Verzögerung\r\n"
         "regelwidrig-13.tvf;1;Do;00:00:00;"))
         << aufruf.Ausgabe;
-    EXPECT_NE(aufruf.Ausgabe.find("\r\n\"mein;\"\"Plan\"\".tvf\";1;Sa;"), std::string::npos);
+    EXPECT_NE(aufruf.Ausgabe.find("\r\n\"[\"\"a;b\"\"]\";1;Sa;"), std::string::npos);
     EXPECT_EQ(aufruf.Ausgabe.find("\xEF\xBB\xBF", 3), std::string::npos);
 }
 
@@ -71,6 +71,7 @@ TEST(Konsole, FaehrtNachEinemFehlerFort) {
 TEST(Konsole, ErklaertSichUndFalscheAufrufe) {
     const Ordner ordner;
     EXPECT_EQ(Rufe(ordner, "--version").Ausgabe, "tarvelin-cli " TARVELIN_VERSION "\n");
+    EXPECT_EQ(Rufe(ordner, kPlan + " >/dev/full").Code, 1);
     for (const char* hilfe : {"--hilfe", "--help"}) {
         EXPECT_EQ(Rufe(ordner, hilfe).Code, 0);
         EXPECT_NE(Rufe(ordner, hilfe).Ausgabe.find("--json"), std::string::npos);

@@ -84,6 +84,9 @@ TEST(Zahlentext, SchreibtSchlichteDezimalzahlen) {
     EXPECT_EQ(Dezimaltext(0.0625, 3), "0,062");
     EXPECT_EQ(Dezimaltext(1234.5678, 0), "1235");
     EXPECT_EQ(Dezimaltext(-27.95, 10), "-27,95");
+    EXPECT_EQ(Dezimaltext(999999999, 10), "999999999");
+    EXPECT_EQ(Dezimaltext(123456789.5, 10), "123456789,5");
+    EXPECT_EQ(Dezimaltext(-1e15 / 2, 10), "-500000000000000");
     EXPECT_EQ(Dezimaltext(1e22, 10), "10000000000000000000000");
     EXPECT_EQ(Ganztext(-12.9), "-12");
     EXPECT_EQ(Ganztext(-0.5), "0");
@@ -211,6 +214,7 @@ TEST(Codepage1252, KommtMitJedemByteZurueck) {
     }
     EXPECT_EQ(Nach1252(Aus1252(alle)), alle);
     EXPECT_EQ(Aus1252("\x80\xE4"), "€ä");
+    EXPECT_EQ(Nach1252("\xE0\x81\x81\xC0\xAF"), "?????");
     EXPECT_EQ(Nach1252("漢\xF0\x9F\x98\x80 \xFFx\xC3"), "?? ?x?");
 }
 

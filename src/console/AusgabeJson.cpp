@@ -1,7 +1,8 @@
 // The JSON of a plan and its result.
+#include "console/Ausgabe.h"
+
 #include <nlohmann/json.hpp>
 
-#include "console/Ausgabe.h"
 #include "plan/ItemCode.h"
 
 namespace tarvelin {
@@ -92,18 +93,18 @@ void FuegeTexteAn(json& objekt, const Ergebnistexte& texte) {
 }  // namespace
 
 std::string JsonText(const Planlauf& lauf) {
-    const Bauliste& liste = lauf.Geplant.Liste;
+    const Bauliste& liste = lauf.Plan.Liste;
     json objekt{{"Meldungen", Meldungen(lauf)},
-                {"Geladen", lauf.Ergebnis.Geladen},
-                {"Gelaufen", lauf.Ergebnis.Gelaufen},
+                {"Geladen", lauf.Geladen},
+                {"Gelaufen", lauf.Gelaufen},
                 {"Bauliste", Zeilen(liste)},
                 {"ListStufe", JeCode([&](ItemId item) { return liste.ListStufe(item); })},
                 {"ListFaktor", liste.ListFaktor()},
-                {"Schlafzeiten", Schlafzeiten(lauf.Geplant.Schlafzeiten)}};
-    if (lauf.Ergebnis.Gelaufen) {
-        FuegeZustandAn(objekt, lauf.Gelaufen.Planet.Globale);
+                {"Schlafzeiten", Schlafzeiten(lauf.Plan.Schlafzeiten)}};
+    if (lauf.Gelaufen) {
+        FuegeZustandAn(objekt, lauf.Lauf.Planet.Globale);
         FuegeTexteAn(objekt, lauf.Texte);
-        objekt["LV_Bauzeiten"] = Zeittabelle(lauf.Gelaufen.LV_Bauzeiten);
+        objekt["LV_Bauzeiten"] = Zeittabelle(lauf.Lauf.LV_Bauzeiten);
     }
     return objekt.dump(1);
 }

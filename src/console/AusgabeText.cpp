@@ -1,10 +1,11 @@
 // Timetable and figures as aligned text and as rows of a spreadsheet.
+#include "console/Ausgabe.h"
+
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <utility>
 #include <vector>
-
-#include "console/Ausgabe.h"
 
 namespace tarvelin {
 
@@ -58,18 +59,31 @@ void SchreibeTabelle(std::ostream& strom, std::vector<Zeile> zeilen) {
     }
 }
 
-void SchreibeFigur(std::ostream& strom, const std::string& name, const std::string& wert) {
-    constexpr std::size_t kNamensbreite = 20;
-    constexpr std::size_t kWertbreite = 16;
-    strom << Aufgefuellt(name + ":", kNamensbreite, false) << Aufgefuellt(wert, kWertbreite, true)
-          << '\n';
+/// Name and figure of what a run came to.
+using Figuren = std::vector<std::pair<std::string, std::string>>;
+
+Figuren Ergebnisfiguren(const Planlauf& lauf) {
+    const GlobaleVariablen& globale = lauf.Lauf.Planet.Globale;
+    return {{"Dauer:", Dauertext(globale)},
+            {"Metall:", lauf.Texte.LBL_Met},
+            {"Kristall:", lauf.Texte.LBL_Kris},
+            {"Deuterium:", lauf.Texte.LBL_Deut},
+            {"Energie:", lauf.Texte.LBL_ENergie},
+            {"Punkte:", Punktetext(globale)},
+            {"Punkte inkl. Res.:", PunkteMitVorratText(globale)}};
 }
 
-/// The figure in a label's text: what stands behind `vorsatz` and in front of `nachsatz`.
-std::string Figur(std::string_view text, std::string_view vorsatz, std::string_view nachsatz) {
-    text.remove_prefix(vorsatz.size());
-    text.remove_suffix(nachsatz.size());
-    return std::string(text);
+void SchreibeFiguren(std::ostream& strom, const Figuren& figuren) {
+    std::size_t namensbreite = 0;
+    std::size_t wertbreite = 0;
+    for (const auto& [name, wert] : figuren) {
+        namensbreite = std::max(namensbreite, Breite(name));
+        wertbreite = std::max(wertbreite, Breite(wert));
+    }
+    for (const auto& [name, wert] : figuren) {
+        strom << Aufgefuellt(name, namensbreite, false) << "  "
+              << Aufgefuellt(wert, wertbreite, true) << '\n';
+    }
 }
 
 std::string Csvfeld(const std::string& text) {
@@ -98,17 +112,9 @@ void SchreibeCsvZeile(std::ostream& strom, const std::string& plan, const Zeile&
 
 void SchreibeText(std::ostream& strom, const Planlauf& lauf) {
     strom << lauf.Name << "\n\n";
-    SchreibeTabelle(strom, Zeittabelle(lauf.Gelaufen.LV_Bauzeiten));
+    SchreibeTabelle(strom, Zeittabelle(lauf.Lauf.LV_Bauzeiten));
     strom << '\n';
-    const Ergebnistexte& texte = lauf.Texte;
-    SchreibeFigur(strom, "Dauer", Figur(texte.LBL_Timegone, "Dauer: ", ""));
-    SchreibeFigur(strom, "Metall", texte.LBL_Met);
-    SchreibeFigur(strom, "Kristall", texte.LBL_Kris);
-    SchreibeFigur(strom, "Deuterium", texte.LBL_Deut);
-    SchreibeFigur(strom, "Energie", texte.LBL_ENergie);
-    SchreibeFigur(strom, "Punkte", Figur(texte.LBL_Punkte, "", " P"));
-    SchreibeFigur(strom, "Punkte inkl. Res.",
-                  Figur(texte.LBL_Punkte_Hinweis, "Inkl. Res.: ", " Punkte"));
+    SchreibeFiguren(strom, Ergebnisfiguren(lauf));
 }
 
 void SchreibeCsvKopf(std::ostream& strom) {
@@ -117,7 +123,7 @@ void SchreibeCsvKopf(std::ostream& strom) {
 }
 
 void SchreibeCsv(std::ostream& strom, const Planlauf& lauf) {
-    for (const Zeile& zeile : Zeittabelle(lauf.Gelaufen.LV_Bauzeiten)) {
+    for (const Zeile& zeile : Zeittabelle(lauf.Lauf.LV_Bauzeiten)) {
         SchreibeCsvZeile(strom, lauf.Name, zeile);
     }
 }

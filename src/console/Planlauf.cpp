@@ -2,6 +2,7 @@
 #include "console/Planlauf.h"
 
 #include "console/Meldungsliste.h"
+#include "persistence/Planablage.h"
 
 namespace tarvelin {
 
@@ -9,7 +10,11 @@ Planlauf::Planlauf(const std::filesystem::path& datei, std::ostream& fehlerstrom
     const auto name = datei.filename().u8string();
     Name.assign(name.begin(), name.end());
     Meldungsliste meldungen(fehlerstrom);
-    Ergebnis = LoadBauliste(datei, false, Geplant, Gelaufen, Texte, meldungen);
+    Geladen = LadePlan(datei, Plan, Lauf.Planet, meldungen);
+    Gelaufen = Geladen && RunSimulation(Plan, Lauf, meldungen, false) == Laufausgang::Gelaufen;
+    if (Gelaufen) {
+        Texte.NachLauf(Lauf.Planet.Globale);
+    }
     Meldungen = meldungen.Meldungen();
 }
 

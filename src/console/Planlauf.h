@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "persistence/Planablage.h"
 #include "plan/Plan.h"
 #include "simulation/Ergebnistexte.h"
 #include "simulation/RunSimulation.h"
@@ -17,10 +16,13 @@ namespace tarvelin {
 struct Planlauf {
     /// The name of the file without its folders.
     std::string Name;
-    Plan Geplant;
-    Lauf Gelaufen;
+    tarvelin::Plan Plan;
+    tarvelin::Lauf Lauf;
     Ergebnistexte Texte;
-    Ladeergebnis Ergebnis;
+    /// The whole file was read, and the run was called.
+    bool Geladen = false;
+    /// The run got past its checks of the inputs.
+    bool Gelaufen = false;
     std::vector<Meldung> Meldungen;
 
     /// Loads and runs the plan of a file. Messages go to `fehlerstrom` as they come.

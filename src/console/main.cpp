@@ -1,5 +1,8 @@
 // tarvelin-cli: runs plan files and prints their timetables.
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cstdio>
+#include <exception>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -37,6 +40,7 @@ std::string Fehlertext(const CLI::ParseError& fehler) {
 
 bool FuehreAus(const Aufruf& aufruf) {
     bool alleGut = true;
+    bool erster = true;
     if (aufruf.Csv) {
         tarvelin::SchreibeCsvKopf(std::cout);
     }
@@ -46,35 +50,76 @@ bool FuehreAus(const Aufruf& aufruf) {
             std::cout << tarvelin::JsonText(lauf) << '\n';
         } else if (aufruf.Csv) {
             tarvelin::SchreibeCsv(std::cout, lauf);
-        } else if (lauf.Ergebnis.Gelaufen) {
+        } else if (lauf.Gelaufen) {
+            std::cout << (erster ? "" : "\n");
             tarvelin::SchreibeText(std::cout, lauf);
+            erster = false;
         }
-        alleGut = alleGut && lauf.Ergebnis.Gelaufen;
+        alleGut = alleGut && lauf.Gelaufen;
     }
     return alleGut;
 }
 
-}  // namespace
+void SprichDeutsch(CLI::App& app) {
+    const auto formatter = app.get_formatter();
+    formatter->label("Usage", "Aufruf");
+    formatter->label("OPTIONS", "OPTIONEN");
+    formatter->label("Positionals", "Dateien");
+    formatter->label("REQUIRED", "(mindestens eine)");
+    formatter->label("TEXT", "");
+    formatter->label("Excludes", "nicht mit");
+}
 
-int main(int argc, char** argv) {
+/// As the library wants them: from the last to the first. It takes a name in square brackets for a
+/// list; with its folder in front it is a name.
+std::vector<std::string> Argumente(int argc, char** argv) {
+    std::vector<std::string> argumente(argv + std::min(argc, 1), argv + argc);
+    for (std::string& argument : argumente) {
+        argument.insert(0, argument.starts_with('[') ? "./" : "");
+    }
+    std::ranges::reverse(argumente);
+    return argumente;
+}
+
+int Rufe(int argc, char** argv) {
     CLI::App app("Spielt Baupläne durch und gibt aus, wann welcher Auftrag gegeben werden kann.",
                  "tarvelin-cli");
+    SprichDeutsch(app);
     Aufruf aufruf;
-    app.set_help_flag("--hilfe,--help", "Diese Hilfe");
-    app.set_version_flag("--version", "tarvelin-cli " TARVELIN_VERSION, "Die Version");
-    auto* const json =
-        app.add_flag("--json", aufruf.Json, "Plan und Ergebnis als JSON")->disable_flag_override();
-    app.add_flag("--csv", aufruf.Csv, "Die Bauzeiten für eine Tabellenkalkulation")
-        ->disable_flag_override()
-        ->excludes(json);
+    const std::string gruppe = "Optionen";
+    app.set_help_flag("--hilfe,--help", "Diese Hilfe")->group(gruppe);
+    app.set_version_flag("--version", "tarvelin-cli " TARVELIN_VERSION, "Die Version")
+        ->group(gruppe);
+    auto* const json = app.add_flag("--json", aufruf.Json, "Plan und Ergebnis als JSON");
+    json->disable_flag_override()->group(gruppe);
+    auto* const csv =
+        app.add_flag("--csv", aufruf.Csv, "Die Bauzeiten für eine Tabellenkalkulation");
+    csv->disable_flag_override()->excludes(json)->group(gruppe);
     app.add_option("PLAN", aufruf.Dateien, "Plandateien (.tvf)")->required();
     try {
-        app.parse(argc, argv);
+        app.parse(Argumente(argc, argv));
     } catch (const CLI::Success& hilfe) {
         return app.exit(hilfe);
     } catch (const CLI::ParseError& fehler) {
         std::cerr << "tarvelin-cli: " << Fehlertext(fehler) << " (siehe --hilfe)\n";
         return kFalscherAufruf;
     }
-    return FuehreAus(aufruf) ? kGut : kPlanGescheitert;
+    const bool alleGut = FuehreAus(aufruf);
+    if (!std::cout.flush()) {
+        std::cerr << "tarvelin-cli: die Ausgabe konnte nicht geschrieben werden\n";
+        return kPlanGescheitert;
+    }
+    return alleGut ? kGut : kPlanGescheitert;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return Rufe(argc, argv);
+    } catch (const std::exception& fehler) {
+        // The memory ran out, or the system failed in a way that nobody foresees.
+        std::fputs(fehler.what(), stderr);
+        return kPlanGescheitert;
+    }
 }

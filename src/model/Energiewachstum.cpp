@@ -7,13 +7,9 @@
 
 namespace tarvelin {
 
-namespace {
-
-const Stufentabelle kPotenzen([](Long stufe) { return std::pow(1.1, static_cast<double>(stufe)); });
-
-}  // namespace
-
 double HochEinsKommaEins(Long stufe) {
+    static const Stufentabelle kPotenzen(
+        [](Long s) { return std::pow(1.1, static_cast<double>(s)); });
     return kPotenzen(stufe);
 }
 

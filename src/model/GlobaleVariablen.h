@@ -12,7 +12,7 @@
 namespace tarvelin {
 
 /// One object for each run side by side; it keeps the last run's values until the next reset.
-/// Before the first one all of it is 0. Stocks are units, rates units per hour with the speed
+/// Before the first one all figures are 0. Stocks are units, rates units per hour with the speed
 /// factor included, times seconds, energy a whole number without a unit of time.
 struct GlobaleVariablen {
     /// The sleep windows of this run, in the order of the table.
@@ -35,7 +35,9 @@ struct GlobaleVariablen {
     Festkomma ProdFaktor;
     Long EnergieProduktion = 0;
     Long EnergieVerbrauch = 0;
-    /// Whether a level or factor on which the balance depends has changed since it was struck.
+    /// Whether a level of the mines, power plant or satellites or a factor of the mines has changed
+    /// since the balance was struck. Temperature and speed factor change with a reset only, which
+    /// sets all levels.
     bool BilanzVeraltet = true;
 
     /// Degrees, of the start planet.

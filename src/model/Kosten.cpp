@@ -9,15 +9,13 @@ namespace tarvelin {
 
 namespace {
 
-const Stufentabelle kDoppelt([](Long stufe) { return std::pow(2.0, static_cast<double>(stufe)); });
-const Stufentabelle kAnderthalb([](Long stufe) {
-    return std::pow(1.5, static_cast<double>(stufe) + 1.0);
-});
-const Stufentabelle kEinsKommaSechs([](Long stufe) {
-    return std::pow(1.6, static_cast<double>(stufe) + 1.0);
-});
-
 double Faktor(Wachstum nach, Long stufe) {
+    static const Stufentabelle kDoppelt(
+        [](Long s) { return std::pow(2.0, static_cast<double>(s)); });
+    static const Stufentabelle kAnderthalb(
+        [](Long s) { return std::pow(1.5, static_cast<double>(s) + 1.0); });
+    static const Stufentabelle kEinsKommaSechs(
+        [](Long s) { return std::pow(1.6, static_cast<double>(s) + 1.0); });
     switch (nach) {
         case Wachstum::Keines:
             break;

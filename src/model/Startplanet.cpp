@@ -2,13 +2,19 @@
 #include "model/Startplanet.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tarvelin {
 
-Startplanet::Startplanet()
-    : m_items{{&DeutMine, &KrisMine, &MetMine,  &SKW,     &Robo,    &Werft,    &Folab,
-               &Solsats,  &Rakws,    &lLasers,  &sLasers, &ENTech,  &VerbTech, &LaserTech,
-               &Spios,    &LJs,      &SpioTech, &KTs,     &SchTech, &klSchK}} {
+Startplanet::Startplanet() {
+    const auto alle = std::to_array<cItem*>({&DeutMine, &KrisMine, &MetMine,  &SKW,       &Robo,
+                                             &Werft,    &Folab,    &Solsats,  &Rakws,     &lLasers,
+                                             &sLasers,  &ENTech,   &VerbTech, &LaserTech, &Spios,
+                                             &LJs,      &SpioTech, &KTs,      &SchTech,   &klSchK});
+    static_assert(alle.size() == kItemAnzahl);
+    for (cItem* const item : alle) {
+        m_items[item->Id()] = item;
+    }
     InitAlle();
 }
 
@@ -61,7 +67,6 @@ void Startplanet::VergeheZeit(Long SecondsToPass) {
 }
 
 void Startplanet::InitAlle() {
-    Globale.BilanzVeraltet = true;
     for (cItem* item : m_items) {
         item->Init();
     }

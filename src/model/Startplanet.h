@@ -61,8 +61,8 @@ class Startplanet {
     void ResetSimulation(Integer temperatur);
 
     /// Works out need, supply and factor of the energy from the levels as they stand, and from
-    /// the factor what the mines yield. Most events of a run change nothing of it; the balance
-    /// stands then.
+    /// the factor what the mines yield. Does nothing unless `Globale.BilanzVeraltet`: most events
+    /// of a run leave the balance as it is.
     void EnergieBilanz();
 
     /// Lets the mines produce and the clock go on by `SecondsToPass` seconds, which may be
@@ -71,7 +71,7 @@ class Startplanet {
 
   private:
     void InitAlle();
-    JeItem<cItem*> m_items;
+    JeItem<cItem*> m_items{};
 };
 
 }  // namespace tarvelin

@@ -13,7 +13,8 @@ cDeuteriumMine::cDeuteriumMine(GlobaleVariablen& globale)
     : cMine(globale,
             {.Id = ItemId::DeutMine,
              .Zeile = {"Deuteriummine: "},
-             .Preise = {kBasis, Wachstum::HochAnderthalb}},
+             .Preise = {kBasis, Wachstum::HochAnderthalb},
+             .InBilanz = true},
             {.A = 10, .B = 0, .C = 20}, globale.Deuterium, globale.DeuteriumProStunde) {}
 
 double cDeuteriumMine::GetUpgradeTime() const {

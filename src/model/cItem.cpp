@@ -113,6 +113,7 @@ bool cItem::FehltDeuteriumQuelle() const {
 void cItem::SetzeStufe(Long stufe) {
     m_globale.Stufen[m_angaben.Id] = stufe;
     m_preis = m_angaben.Preise.Preis(stufe);
+    m_globale.BilanzVeraltet |= m_angaben.InBilanz;
 }
 
 void cItem::SetzeUpgrading(bool upgrading) {

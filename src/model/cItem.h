@@ -66,6 +66,8 @@ struct Itemangaben {
     ItemId Id;
     Zeilenangabe Zeile;
     Preisgesetz Preise;
+    /// Whether the energy balance depends on the level.
+    bool InBilanz = false;
     Bedingungen Braucht{};
     BedienteSchlange Bedient{};
 };
@@ -105,6 +107,7 @@ class cItem {
     /// From when on the queue that this item serves lets it start; 0 for items that serve none.
     [[nodiscard]] Moment FreiAb() const { return *m_angaben.Bedient.FreiAb; }
 
+    [[nodiscard]] ItemId Id() const { return m_angaben.Id; }
     [[nodiscard]] Byte GetStufe() const { return m_globale.Stufe(m_angaben.Id); }
 
     /// "Kosten:  Met: 60  Kris: 15  Deut: 0", of the step from level `extStufe` to the next.

@@ -13,7 +13,8 @@ cKristallMine::cKristallMine(GlobaleVariablen& globale)
     : cMine(globale,
             {.Id = ItemId::KrisMine,
              .Zeile = {"Kristallmine: "},
-             .Preise = {kBasis, Wachstum::HochEinsKommaSechs}},
+             .Preise = {kBasis, Wachstum::HochEinsKommaSechs},
+             .InBilanz = true},
             {.A = 20, .B = 10, .C = 10}, globale.Kristall, globale.KristallProStunde) {}
 
 }  // namespace tarvelin

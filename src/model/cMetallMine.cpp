@@ -13,7 +13,8 @@ cMetallMine::cMetallMine(GlobaleVariablen& globale)
     : cMine(globale,
             {.Id = ItemId::MetMine,
              .Zeile = {"Metallmine: "},
-             .Preise = {kBasis, Wachstum::HochAnderthalb}},
+             .Preise = {kBasis, Wachstum::HochAnderthalb},
+             .InBilanz = true},
             {.A = 30, .B = 20, .C = 10}, globale.Metall, globale.MetallProStunde) {}
 
 }  // namespace tarvelin

@@ -15,7 +15,7 @@ void cMine::SetProdfaktor(float theFaktor) {
 
 // The shared rate is what `GetProduktion` gives at any moment at which time passes: a change of the
 // level refreshes it at once, one of the mine's factor or of the balance with the balance of the
-// same event.
+// same event, one of speed or temperature with the reset that brings it.
 void cMine::Passtime(Long SecondsToPass) {
     m_vorrat = m_vorrat +
                Festkomma::AusDouble((m_proStunde * SecondsToPass).AlsDouble() / kSekundenJeStunde);
@@ -38,7 +38,7 @@ double cMine::GetEnergieVerbrauch(Long ExterneStufe, float externerProduktionsfa
 Festkomma cMine::GetProduktion(Long ExterneStufe, float externerProduktionsfaktor) const {
     const bool eigene = ExterneStufe == kEigeneStufe;
     const Long stufe = eigene ? Stufe() : ExterneStufe;
-    const double faktor = eigene ? m_minenProdfaktor : externerProduktionsfaktor;
+    const auto faktor = static_cast<double>(eigene ? m_minenProdfaktor : externerProduktionsfaktor);
     const double ertrag =
         ((m_kennzahlen.A * stufe) * HochEinsKommaEins(stufe) * Temperaturfaktor()) *
         Globale().ProdFaktor.AlsDouble();
@@ -53,7 +53,6 @@ void cMine::NachInit() {
 
 void cMine::NachFinish() {
     RefreshProduktion();
-    Globale().BilanzVeraltet = true;
 }
 
 }  // namespace tarvelin

@@ -15,7 +15,8 @@ constexpr double kEnergieJeStufe = 20;
 cSolarKraftWerk::cSolarKraftWerk(GlobaleVariablen& globale)
     : cGebaeude(globale, {.Id = ItemId::SKW,
                           .Zeile = {"Solarkraftwerk: "},
-                          .Preise = {kBasis, Wachstum::HochAnderthalb}}) {}
+                          .Preise = {kBasis, Wachstum::HochAnderthalb},
+                          .InBilanz = true}) {}
 
 Festkomma cSolarKraftWerk::GetProduktion(Long ExterneStufe) const {
     const Long stufe = ExterneStufe == kEigeneStufe ? Stufe() : ExterneStufe;

@@ -11,9 +11,6 @@ class cSolarKraftWerk final : public cGebaeude {
 
     /// Energy that the plant delivers at a level, a whole number.
     [[nodiscard]] Festkomma GetProduktion(Long ExterneStufe = kEigeneStufe) const;
-
-  private:
-    void NachFinish() override { Globale().BilanzVeraltet = true; }
 };
 
 }  // namespace tarvelin

@@ -12,9 +12,13 @@ constexpr double kEnergieBeiNullGrad = 20;
 
 }  // namespace
 
+// Unlike the other units it can start while the shipyard is being raised.
 cSolarsatellit::cSolarsatellit(GlobaleVariablen& globale)
-    : cWerfteinheit(globale, ItemId::Solsats, {"Solarsatellit Nr: "}, kStueckpreis, kBedarf,
-                    BeimAusbau::Ja) {}
+    : cWerfteinheit(globale, {.Id = ItemId::Solsats,
+                              .Zeile = {"Solarsatellit Nr: "},
+                              .Preise = {kStueckpreis, Wachstum::Keines},
+                              .InBilanz = true,
+                              .Braucht = {.Stufen = kBedarf}}) {}
 
 // The floor acts on the product, so that fractions of the satellites add up before it.
 Festkomma cSolarsatellit::GetProduktion(Long ExterneStufe) const {

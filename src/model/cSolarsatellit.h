@@ -12,9 +12,6 @@ class cSolarsatellit final : public cWerfteinheit {
     /// Energy that a number of satellites delivers at the planet's temperature, a whole number;
     /// negative in great cold.
     [[nodiscard]] Festkomma GetProduktion(Long ExterneStufe = kEigeneStufe) const;
-
-  private:
-    void NachFinish() override { Globale().BilanzVeraltet = true; }
 };
 
 }  // namespace tarvelin

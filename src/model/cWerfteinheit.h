@@ -12,19 +12,15 @@ class cWerfteinheit : public cItem {
     [[nodiscard]] double GetUpgradeTime() const override;
 
   protected:
-    /// Whether the unit can be started while the shipyard is being raised.
-    enum class BeimAusbau : bool { Nein, Ja };
-
     cWerfteinheit(GlobaleVariablen& globale, ItemId id, const Zeilenangabe& zeile,
-                  const Kosten& stueckpreis, const Stufenbedarfe& bedarf,
-                  BeimAusbau beimAusbau = BeimAusbau::Nein)
-        : cItem(globale,
-                {.Id = id,
-                 .Zeile = zeile,
-                 .Preise = {stueckpreis, Wachstum::Keines},
-                 .Braucht = {.Ausbau = beimAusbau == BeimAusbau::Ja ? &Bedingungen::kNie
-                                                                    : &globale.WerftUpgrading,
-                             .Stufen = bedarf}}) {}
+                  const Kosten& stueckpreis, const Stufenbedarfe& bedarf)
+        : cItem(globale, {.Id = id,
+                          .Zeile = zeile,
+                          .Preise = {stueckpreis, Wachstum::Keines},
+                          .Braucht = {.Ausbau = &globale.WerftUpgrading, .Stufen = bedarf}}) {}
+
+    /// For a unit that has rules of its own.
+    using cItem::cItem;
 };
 
 }  // namespace tarvelin

@@ -62,9 +62,9 @@ class Nachbardatei {
 
     /// `alte`: the file that is replaced, if there is one; the new one keeps its rights.
     bool Fuelle(std::string_view bytes, const struct stat* alte) {
-        return m_liegtDa && m_deskriptor.Schreibe(bytes) &&
+        return m_liegtDa &&
                (alte == nullptr || m_deskriptor.SetzeRechte(alte->st_mode & kRechtebits)) &&
-               m_deskriptor.AufPlatte() && m_deskriptor.Schliesse();
+               m_deskriptor.Schreibe(bytes) && m_deskriptor.AufPlatte() && m_deskriptor.Schliesse();
     }
     bool NimmPlatzVon(const std::filesystem::path& datei) {
         const bool gelungen = ::rename(m_pfad.c_str(), datei.c_str()) == 0;

@@ -155,29 +155,24 @@ bool SaveBauliste(const std::filesystem::path& File, const Plan& plan) {
     return ErsetzeDatei(File, profil->Bytes());
 }
 
-Ladeergebnis LadePlan(const Profil& profil, bool Silent, Plan& plan, Lauf& lauf,
-                      Ergebnistexte& texte, Meldungsausgabe& meldungen) {
+bool LadePlan(const Profil& profil, Plan& plan, const Startplanet& planet,
+              Meldungsausgabe& meldungen) {
     plan.Liste.Clear();
-    texte.NachClear();
-    if (!Leser(profil, plan, lauf.Planet).Lies()) {
+    const bool brauchbar = Leser(profil, plan, planet).Lies();
+    if (!brauchbar) {
         ZeigeLadefehler(meldungen);
-        return {};
     }
-    const bool gelaufen = RunSimulation(plan, lauf, meldungen, Silent) == Laufausgang::Gelaufen;
-    if (gelaufen) {
-        texte.NachLauf(lauf.Planet.Globale);
-    }
-    return {.Geladen = true, .Gelaufen = gelaufen};
+    return brauchbar;
 }
 
-Ladeergebnis LoadBauliste(const std::filesystem::path& File, bool Silent, Plan& plan, Lauf& lauf,
-                          Ergebnistexte& texte, Meldungsausgabe& meldungen) {
+bool LadePlan(const std::filesystem::path& File, Plan& plan, const Startplanet& planet,
+              Meldungsausgabe& meldungen) {
     const auto profil = Profil::Lade(File);
     if (!profil) {
         ZeigeLadefehler(meldungen);
-        return {};
+        return false;
     }
-    return LadePlan(*profil, Silent, plan, lauf, texte, meldungen);
+    return LadePlan(*profil, plan, planet, meldungen);
 }
 
 std::string FenstertitelMit(const std::filesystem::path& File) {

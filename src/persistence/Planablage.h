@@ -4,10 +4,9 @@
 #include <filesystem>
 #include <string>
 
+#include "model/Startplanet.h"
 #include "persistence/Profil.h"
 #include "plan/Plan.h"
-#include "simulation/Ergebnistexte.h"
-#include "simulation/RunSimulation.h"
 #include "util/Meldung.h"
 
 namespace tarvelin {
@@ -19,24 +18,17 @@ void SchreibePlan(const Plan& plan, Profil& profil);
 /// The same into a file, in one step. False if it can't be written; the file is then as it was.
 bool SaveBauliste(const std::filesystem::path& File, const Plan& plan);
 
-/// What came of a load.
-struct Ladeergebnis {
-    /// The whole file was read, and the run was called.
-    bool Geladen = false;
-    /// The run got past its checks of the inputs.
-    bool Gelaufen = false;
-};
-
-/// Takes a plan from a profile and runs it. The former plan is gone at once. At the first value
-/// that can't be used the reading stops with a message: what was read up to there stays, and
-/// nothing runs. Rows are replayed without a look at the game's rules.
-Ladeergebnis LadePlan(const Profil& profil, bool Silent, Plan& plan, Lauf& lauf,
-                      Ergebnistexte& texte, Meldungsausgabe& meldungen);
+/// Takes a plan from a profile. The former plan is gone at once. At the first value that can't be
+/// used the reading stops with a message: what was read up to there stays, and false comes back.
+/// Rows are replayed without a look at the game's rules; their factor texts follow the temperature
+/// of `planet`, that of the last run or reset.
+[[nodiscard]] bool LadePlan(const Profil& profil, Plan& plan, const Startplanet& planet,
+                            Meldungsausgabe& meldungen);
 
 /// The same from a file. One that can't be opened and read gives the same message and leaves the
 /// plan as it was.
-Ladeergebnis LoadBauliste(const std::filesystem::path& File, bool Silent, Plan& plan, Lauf& lauf,
-                          Ergebnistexte& texte, Meldungsausgabe& meldungen);
+[[nodiscard]] bool LadePlan(const std::filesystem::path& File, Plan& plan,
+                            const Startplanet& planet, Meldungsausgabe& meldungen);
 
 /// The window's caption for a loaded plan.
 [[nodiscard]] std::string FenstertitelMit(const std::filesystem::path& File);

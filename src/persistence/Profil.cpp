@@ -186,31 +186,39 @@ std::string Profil::Bytes() const {
 void Profil::NimmZeileAuf(std::string_view zeile) {
     const std::string_view inhalt = Inhalt(zeile);
     if (const auto name = Sectionname(inhalt)) {
-        m_abschnitte.push_back({.Name = Klein(*name), .Zeilen = {}, .Stellen = {}});
-    } else if (const auto paar = Schluesselzeile(inhalt)) {
+        BeginneAbschnitt(Klein(*name));
+    } else if (const auto paar = Schluesselzeile(inhalt); paar && m_abschnitte.back().Erreichbar) {
         Abschnitt& abschnitt = m_abschnitte.back();
         abschnitt.Stellen.emplace(Klein(paar->first), abschnitt.Zeilen.size());
     }
     m_abschnitte.back().Zeilen.emplace_back(zeile);
 }
 
+/// A section of a known name is out of reach, and so are all that follow it in such a row.
+void Profil::BeginneAbschnitt(std::string_view name) {
+    const bool neu = m_namen.emplace(name, m_abschnitte.size()).second;
+    if (neu || m_abschnitte.back().Erreichbar) {
+        m_abschnitte.emplace_back();
+        m_abschnitte.back().Erreichbar = neu;
+    }
+}
+
 const Profil::Abschnitt* Profil::Suche(std::string_view section) const {
-    const auto abschnitt = std::ranges::find(m_abschnitte.begin() + 1, m_abschnitte.end(),
-                                             Klein(Nach1252(section)), &Abschnitt::Name);
-    return abschnitt == m_abschnitte.end() ? nullptr : &*abschnitt;
+    const auto ort = m_namen.find(Klein(Nach1252(section)));
+    return ort == m_namen.end() ? nullptr : &m_abschnitte[ort->second];
 }
 
 Profil::Abschnitt& Profil::SucheOderMache(std::string_view section) {
-    if (const Abschnitt* const abschnitt = Suche(section)) {
-        return m_abschnitte[static_cast<std::size_t>(abschnitt - m_abschnitte.data())];
+    const std::string name = Nach1252(section);
+    const auto ort = m_namen.find(Klein(name));
+    if (ort != m_namen.end()) {
+        return m_abschnitte[ort->second];
     }
     if (auto& letzte = m_abschnitte.back().Zeilen; !letzte.empty()) {
         Beende(letzte.back());
     }
-    const std::string name = Nach1252(section);
-    m_abschnitte.push_back({.Name = Klein(name),
-                            .Zeilen = {"[" + name + "]" + std::string(kZeilenende)},
-                            .Stellen = {}});
+    BeginneAbschnitt(Klein(name));
+    m_abschnitte.back().Zeilen.push_back("[" + name + "]" + std::string(kZeilenende));
     return m_abschnitte.back();
 }
 

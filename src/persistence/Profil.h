@@ -17,8 +17,8 @@ namespace tarvelin {
 /// count. Texts go in and out as UTF-8; the bytes are Windows-1252.
 class Profil {
   public:
-    /// A larger file is no profile: the longest plan has less than 1 MiB.
-    static constexpr std::size_t kHoechstgroesse = std::size_t{4} << 20U;
+    /// A larger file is no profile: the longest plan has less than 6 MiB.
+    static constexpr std::size_t kHoechstgroesse = std::size_t{16} << 20U;
 
     explicit Profil(std::string_view bytes);
 
@@ -42,22 +42,25 @@ class Profil {
     [[nodiscard]] std::string Bytes() const;
 
   private:
+    /// A run of lines: the first section of a name, or lines that no read reaches.
     struct Abschnitt {
-        /// In small letters.
-        std::string Name;
         /// With their line ends, the section line first.
         std::vector<std::string> Zeilen;
         /// Where the first line of each key stands; the keys in small letters.
         std::unordered_map<std::string, std::size_t> Stellen;
+        bool Erreichbar = false;
     };
 
     void NimmZeileAuf(std::string_view zeile);
+    void BeginneAbschnitt(std::string_view name);
     [[nodiscard]] const Abschnitt* Suche(std::string_view section) const;
     Abschnitt& SucheOderMache(std::string_view section);
 
     std::string m_bytemarke;
-    /// In the order of the file; the first one holds the lines before any section line.
+    /// In the order of the file.
     std::vector<Abschnitt> m_abschnitte;
+    /// Which of them is the first of a name; the names in small letters.
+    std::unordered_map<std::string, std::size_t> m_namen;
 };
 
 }  // namespace tarvelin

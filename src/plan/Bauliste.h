@@ -63,8 +63,8 @@ class Bauliste {
     void ReplayProduktion(std::string_view tag, const Minenfaktoren& faktoren,
                           const Startplanet& planet);
 
-    /// Adds a row with any `Tag` and nothing else; the counters don't follow. The caller has seen
-    /// to it that the list isn't full.
+    /// Adds a bare row with any `Tag`, as the table itself does: no texts, and the counters don't
+    /// follow. The caller has seen to it that the list isn't full. For orders that no rule knows.
     BaulistenZeile& HaengeZeileAn(std::string_view tag);
 
     /// Takes the last row out and puts back what it had changed.

@@ -24,7 +24,7 @@ std::string Energieanhang(ItemId item, Long stufe, const Startplanet& planet) {
         case Energietext::Ohne:
             break;
         case Energietext::Bedarf:
-            return Bedarfstext(static_cast<const cMine&>(planet.Item(item)), stufe);
+            return Bedarfstext(dynamic_cast<const cMine&>(planet.Item(item)), stufe);
         case Energietext::Stufenertrag:
             return Ertragstext(planet.SKW.GetProduktion(stufe + 1) -
                                planet.SKW.GetProduktion(stufe));

@@ -55,7 +55,7 @@ static_assert(std::ranges::all_of(kItemTabelle,
               "the first letter of a code is its order queue");
 
 std::optional<ItemId> Suche(std::string_view ItemZeile::*spalte, std::string_view text) {
-    const auto zeile = std::ranges::find(kItemTabelle, text, spalte);
+    const auto* const zeile = std::ranges::find(kItemTabelle, text, spalte);
     return zeile == kItemTabelle.end() ? std::nullopt : std::optional(zeile->Item);
 }
 

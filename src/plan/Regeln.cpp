@@ -87,7 +87,7 @@ std::optional<std::string_view> Absage(ItemId item, const Bauliste& bauliste) {
     if (item == ItemId::klSchK && bauliste.ListStufe(item) == 1) {
         return kKuppelVorhanden;
     }
-    const auto regel = std::ranges::find(kRegeln, item, &Regel::Item);
+    const auto* const regel = std::ranges::find(kRegeln, item, &Regel::Item);
     if (regel == kRegeln.end()) {
         return std::nullopt;
     }

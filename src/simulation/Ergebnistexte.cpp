@@ -8,13 +8,27 @@ namespace tarvelin {
 
 namespace {
 
-std::string Punktetext(double ressourcen) {
+std::string AlsPunkte(double ressourcen) {
     constexpr double kRessourcenJePunkt = 1000;
     constexpr int kStellen = 3;
     return Dezimaltext(ressourcen / kRessourcenJePunkt, kStellen);
 }
 
 }  // namespace
+
+std::string Dauertext(const GlobaleVariablen& globale) {
+    return FormatDuration(globale.secsgone.Sekunden(), "s", "dd(0)hh:mm:ss", "d");
+}
+
+std::string Punktetext(const GlobaleVariablen& globale) {
+    return AlsPunkte(globale.VerbauteRessourcen);
+}
+
+std::string PunkteMitVorratText(const GlobaleVariablen& globale) {
+    return AlsPunkte((Festkomma::AusGanzzahl(globale.VerbauteRessourcen) + globale.Deuterium +
+                      globale.Kristall + globale.Metall)
+                         .AlsDouble());
+}
 
 void Ergebnistexte::NachReset() {
     const Ergebnistexte anfang;
@@ -32,8 +46,7 @@ void Ergebnistexte::NachClear() {
 }
 
 void Ergebnistexte::NachLauf(const GlobaleVariablen& globale) {
-    LBL_Timegone =
-        "Dauer: " + FormatDuration(globale.secsgone.Sekunden(), "s", "dd(0)hh:mm:ss", "d");
+    LBL_Timegone = "Dauer: " + Dauertext(globale);
     LBL_Timegone2 = LBL_Timegone;
     LBL_Met = std::to_string(globale.Metall.GanzerTeil());
     LBL_Kris = std::to_string(globale.Kristall.GanzerTeil());
@@ -41,10 +54,8 @@ void Ergebnistexte::NachLauf(const GlobaleVariablen& globale) {
     LBL_ENergie = std::to_string(LongSumme(globale.EnergieProduktion,
                                            -std::int64_t{globale.EnergieVerbrauch})) +
                   " / " + std::to_string(globale.EnergieProduktion);
-    LBL_Punkte = Punktetext(globale.VerbauteRessourcen) + " P";
-    const Festkomma mitVorrat = Festkomma::AusGanzzahl(globale.VerbauteRessourcen) +
-                                globale.Deuterium + globale.Kristall + globale.Metall;
-    LBL_Punkte_Hinweis = "Inkl. Res.: " + Punktetext(mitVorrat.AlsDouble()) + " Punkte";
+    LBL_Punkte = Punktetext(globale) + " P";
+    LBL_Punkte_Hinweis = "Inkl. Res.: " + PunkteMitVorratText(globale) + " Punkte";
 }
 
 }  // namespace tarvelin

@@ -7,6 +7,13 @@
 
 namespace tarvelin {
 
+/// "01 Tage 01:01:01": the clock of a run.
+[[nodiscard]] std::string Dauertext(const GlobaleVariablen& globale);
+/// "75,3": a point is a thousand units of resources spent.
+[[nodiscard]] std::string Punktetext(const GlobaleVariablen& globale);
+/// The same with what lies unspent.
+[[nodiscard]] std::string PunkteMitVorratText(const GlobaleVariablen& globale);
+
 /// The captions, as the window starts with them. Each of the functions below writes the labels
 /// that its event touches and leaves the others.
 struct Ergebnistexte {
@@ -21,8 +28,6 @@ struct Ergebnistexte {
 
     void NachReset();
     void NachClear();
-    /// A point is a thousand units of resources spent; the hint of the points adds what lies
-    /// unspent.
     void NachLauf(const GlobaleVariablen& globale);
 };
 

@@ -13,10 +13,13 @@
 
 namespace tarvelin {
 
-/// Five rows, which is all that a run ever has in use. Their order is that of their moments; at one
-/// moment finish rows come before the start row, and finish rows in the order in which they were
-/// entered. Rows are kept as figures and not moved about; the sorted table of the product is given
-/// as texts on demand. The orders are rows of the build list, which must not change meanwhile.
+/// Five rows, which is all that a run ever has in use: the start row, one finish for each queue, as
+/// a queue's next order can't start before its finish, and the finish of a production row, which
+/// the next event carries out unless an order without a source of deuterium starts a second before.
+/// Their order is that of their moments; at one moment finish rows come before the start row, and
+/// finish rows in the order in which they were entered. Rows are kept as figures and not moved
+/// about; the sorted table of the product is given as texts on demand. The orders are rows of the
+/// build list, which must not change meanwhile.
 class EventTabelle {
   public:
     static constexpr std::size_t kZeilen = 5;

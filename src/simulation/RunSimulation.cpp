@@ -166,9 +166,9 @@ class Durchlauf {
 
 }  // namespace
 
-void Lauf::ResetSimulation(Integer temperatur) {
+void Lauf::ResetSimulation(const Startparameter& parameter) {
     LV_Bauzeiten.clear();
-    Planet.ResetSimulation(temperatur);
+    Planet.ResetSimulation(LiesTemperatur(parameter).value_or(Planet.Globale.Temperatur));
 }
 
 Laufausgang RunSimulation(Plan& plan, Lauf& lauf, Meldungsausgabe& meldungen, bool silent) {
@@ -181,8 +181,7 @@ Laufausgang RunSimulation(Plan& plan, Lauf& lauf, Meldungsausgabe& meldungen, bo
         }
         return Laufausgang::AnEingabenGescheitert;
     }
-    const auto temperatur = LiesTemperatur(plan.Parameter);
-    if (!temperatur) {
+    if (!LiesTemperatur(plan.Parameter)) {
         meldungen.Zeige(
             {.Text = "Keine gültige Temperatur eingegeben...", .Titel = kAusnahmefehler});
         return Laufausgang::AnEingabenGescheitert;
@@ -192,7 +191,7 @@ Laufausgang RunSimulation(Plan& plan, Lauf& lauf, Meldungsausgabe& meldungen, bo
         return Laufausgang::AnEingabenGescheitert;
     }
     globale.StartDate = *start;
-    lauf.ResetSimulation(*temperatur);
+    lauf.ResetSimulation(plan.Parameter);
     Durchlauf(plan, lauf, meldungen).Laufe();
     return Laufausgang::Gelaufen;
 }

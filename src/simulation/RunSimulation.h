@@ -14,8 +14,9 @@ struct Lauf {
     Startplanet Planet;
     Bauzeiten LV_Bauzeiten;
 
-    /// The state before the first event of a run.
-    void ResetSimulation(Integer temperatur);
+    /// The state before the first event of a run. A temperature that can't be used leaves the
+    /// former one.
+    void ResetSimulation(const Startparameter& parameter);
 };
 
 /// Whether a run got past its checks of the inputs.

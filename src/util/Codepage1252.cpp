@@ -64,6 +64,11 @@ char32_t NimmZeichen(std::string_view& rest) {
         }
         zeichen = (zeichen << 6U) | (byte & 0x3FU);
     }
+    // A character written longer than it need be is none.
+    constexpr std::array<char32_t, 4> kKleinste{0, 0x80, 0x800, 0x10000};
+    if (zeichen < kKleinste.at(folgende)) {
+        return kErsatz;
+    }
     rest.remove_prefix(folgende);
     return zeichen;
 }

@@ -129,7 +129,8 @@ std::optional<Zeitpunkt> LiesDatumzeit(std::string_view text) {
         return std::nullopt;
     }
     const std::int64_t tage = (sys_days{datum} - kTagNull).count();
-    return Zeitpunkt(tage * kSekundenJeTag + stunde * 3600 + minute * 60 + sekunde);
+    const int sekundeDesTages = stunde * 3600 + minute * 60 + sekunde;
+    return Zeitpunkt(tage * kSekundenJeTag + sekundeDesTages);
 }
 
 int Wochentag(Zeitpunkt zeitpunkt) {

@@ -6,7 +6,7 @@
 
 namespace tarvelin {
 
-/// A modal message with one OK button and the critical-stop icon.
+/// A modal message with an error icon and one OK button.
 struct Meldung {
     std::string Text;
     /// Empty where a message has no title of its own.

@@ -6,9 +6,7 @@
 #include <cstdint>
 #include <limits>
 
-namespace tarvelin {
-
-namespace Rundung {
+namespace tarvelin::Rundung {
 
 /// The whole number of `wert`, which has no fraction; held at the ends of the range, 0 for NaN.
 template <class Runden>
@@ -42,6 +40,4 @@ inline std::int64_t floor(double wert) {
     });
 }
 
-}  // namespace Rundung
-
-}  // namespace tarvelin
+}  // namespace tarvelin::Rundung

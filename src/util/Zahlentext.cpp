@@ -48,12 +48,13 @@ std::optional<Zahlform> Zerlege(std::string_view text) {
     return form;
 }
 
-/// The digits of a value without a fraction, none cut off.
-std::string AlleZiffern(double ganz) {
-    constexpr std::size_t kMeisteZiffern = std::numeric_limits<double>::max_exponent10 + 3;
-    std::string text(kMeisteZiffern, '\0');
-    const auto ende =
-        std::to_chars(text.data(), text.data() + text.size(), ganz, std::chars_format::fixed, 0);
+/// All digits in front of the point, and `stellen` behind it.
+std::string AlleZiffern(double wert, int stellen) {
+    constexpr auto kMeisteZiffern =
+        static_cast<std::size_t>(std::numeric_limits<double>::max_exponent10) + 4;
+    std::string text(kMeisteZiffern + static_cast<std::size_t>(stellen), '\0');
+    const auto ende = std::to_chars(text.data(), text.data() + text.size(), wert,
+                                    std::chars_format::fixed, stellen);
     text.resize(static_cast<std::size_t>(ende.ptr - text.data()));
     return text;
 }
@@ -111,25 +112,24 @@ std::string Dezimaltext(double wert, int stellen) {
     if (!(std::abs(wert) < kOhneBruch)) {
         return Ganztext(wert);
     }
-    // The product may lie beyond 2^63, where it is whole and needs no rounding.
-    const double produkt = wert * std::pow(10.0, stellen);
-    const double gerundet =
-        std::abs(produkt) < kOhneBruch ? static_cast<double>(Rundung::half_even(produkt)) : produkt;
-    std::string ziffern = AlleZiffern(std::abs(gerundet));
-    const auto n = static_cast<std::size_t>(stellen);
-    if (ziffern.size() <= n) {
-        ziffern.insert(0, n + 1 - ziffern.size(), '0');
+    const double zehnerpotenz = std::pow(10.0, stellen);
+    const double produkt = wert * zehnerpotenz;
+    // A product without a fraction needs no rounding, and the value as it is has fewer digits.
+    const double gerundet = std::abs(produkt) < kOhneBruch
+                                ? static_cast<double>(Rundung::half_even(produkt)) / zehnerpotenz
+                                : wert;
+    std::string text = AlleZiffern(gerundet == 0 ? 0.0 : gerundet, stellen);
+    if (const auto punkt = text.find('.'); punkt != std::string::npos) {
+        text[punkt] = ',';
+        text.erase(text.find_last_not_of('0') + 1);
+        text.erase(text.find_last_not_of(',') + 1);
     }
-    std::string bruch = ziffern.substr(ziffern.size() - n);
-    bruch.erase(bruch.find_last_not_of('0') + 1);
-    std::string text(gerundet < 0 ? 1 : 0, '-');
-    text += ziffern.substr(0, ziffern.size() - n);
-    return bruch.empty() ? text : text + "," + bruch;
+    return text;
 }
 
 std::string Ganztext(double wert) {
     const double ganz = std::trunc(InDoubleGrenzen(wert));
-    return AlleZiffern(ganz == 0 ? 0.0 : ganz);  // no "-0"
+    return AlleZiffern(ganz == 0 ? 0.0 : ganz, 0);  // no "-0"
 }
 
 }  // namespace tarvelin
