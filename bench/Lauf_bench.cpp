@@ -30,7 +30,8 @@ class Schweigend final : public Meldungsausgabe {
 /// an opening reaches, ships and defences in batches, now and then a production row, two nights of
 /// sleep.
 Plan MachePlan(std::size_t zeilen) {
-    constexpr int kHoechsteStufe = 14;
+    constexpr int kHoechsteMine = 20;
+    constexpr int kHoechsteStufe = 6;
     constexpr unsigned kProduktionJede = 40;
     constexpr int kStapel = 5;
     std::minstd_rand zufall(20061118);
@@ -43,11 +44,13 @@ Plan MachePlan(std::size_t zeilen) {
     const Startplanet planet;
     while (plan.Liste.Zeilen().size() < zeilen) {
         const ItemZeile& zeile = ItemTabelle()[zufall() % kItemAnzahl];
+        // The first four rows of the table are the mines and the power plant.
+        const int hoechste = &zeile < &ItemTabelle()[4] ? kHoechsteMine : kHoechsteStufe;
         const bool einheit = zeile.Code[0] == 'W' && zeile.Item != ItemId::klSchK;
         if (zufall() % kProduktionJede == 0) {
             (void)plan.Liste.AddProdaenderungsevent({10, 10, 8}, planet);
         } else if (!Absage(zeile.Item, plan.Liste) &&
-                   (einheit || plan.Liste.ListStufe(zeile.Item) < kHoechsteStufe)) {
+                   (einheit || plan.Liste.ListStufe(zeile.Item) < hoechste)) {
             for (int i = 0; i < (einheit ? kStapel : 1); ++i) {
                 (void)plan.Liste.DragDrop(zeile.Bild, planet);
             }
