@@ -8,7 +8,7 @@ stelle_bereit "${BAU_PAKETE[@]}" "${TEST_PAKETE[@]}"
 cd "$ordner"
 
 echo "== Format"
-git ls-files -- '*.cpp' '*.h' 2>/dev/null | xargs -r clang-format --dry-run --Werror
+find src tests bench -name '*.cpp' -o -name '*.h' | xargs clang-format --dry-run --Werror
 
 echo "== Tests with AddressSanitizer and UndefinedBehaviorSanitizer"
 baue "$ordner" asan

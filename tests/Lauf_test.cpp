@@ -84,7 +84,7 @@ TEST(Lauf, ProduktionszeilenWirkenAbIhremStart) {
 TEST(Lauf, AnlagenStartenWennIhreSchlangeFreiFaellt) {
     Plan plan = MitPuffer("GS GD GF FS GF", 0);
     const Probe probe(plan);
-    EXPECT_EQ(probe.Start(4), std::max(probe.Start(3) + 4316, probe.Start(4)));
+    EXPECT_GE(probe.Start(4), probe.Start(3) + 4317);  // 4315.68 s of research and one more
     EXPECT_LT(probe.Start(4), 100'000'000);
     EXPECT_EQ(probe.Gelaufen.LV_Bauzeiten[4].Grund().Text(), "");
 }
@@ -133,13 +133,6 @@ TEST(Lauf, EingabenWerdenDerReiheNachGeprueft) {
     RunSimulation(plan, lauf, merker, false);
     EXPECT_EQ(lauf.LV_Bauzeiten.size(), 1U);
     EXPECT_EQ(lauf.Planet.Globale.Speedfaktor, 2);
-}
-
-TEST(Lauf, NegativeRessourcenWerdenBeiJedemStartGemeldet) {
-    const Probe probe(MitPuffer("GW GM", 0));
-    ASSERT_EQ(probe.Meldungen.Texte.size(), 2U);
-    EXPECT_EQ(probe.Meldungen.Texte[0],
-              "Negative Ressourcen: Metall: 100    Kristall:300    Deuterium: -100");
 }
 
 TEST(Lauf, UnbekannteAuftraegeFallenWeg) {
