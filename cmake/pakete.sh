@@ -29,13 +29,14 @@ stelle_bereit() {
     "${apt[@]}" install -y --no-install-recommends "${fehlende[@]}"
 }
 
-# Configures a preset once, then builds the named targets, or all of them.
+# Configures a preset, which takes a moment when nothing changed, and builds the named targets, or all
+# of them. A package that was installed meanwhile is found.
 baue() {
     local ordner=$1 preset=$2
     shift 2
     (
         cd "$ordner"
-        [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >/dev/null
+        cmake --preset "$preset" >/dev/null
         cmake --build --preset "$preset" ${1:+--target "$@"}
     )
 }
