@@ -6,8 +6,9 @@ set -euo pipefail
 ordner=$(cd "$(dirname "$0")" && pwd)
 . "$ordner/cmake/pakete.sh"
 
-stelle_bereit "${BAU_PAKETE[@]}"
-baue "$ordner" release tarvelin-cli tarvelin_daten
+# The timetable alone goes to the output, so that it can be piped.
+stelle_bereit "${BAU_PAKETE[@]}" >&2
+baue "$ordner" release tarvelin-cli tarvelin_daten >&2
 
 programm="$ordner/build/release/bin"
 if [ $# -eq 0 ]; then
