@@ -119,7 +119,7 @@ int main(int argc, char** argv) {
         return Rufe(argc, argv);
     } catch (const std::exception& fehler) {
         // The memory ran out, or the system failed in a way that nobody foresees.
-        std::fputs(fehler.what(), stderr);
+        std::fprintf(stderr, "tarvelin-cli: %s\n", fehler.what());
         return kPlanGescheitert;
     }
 }

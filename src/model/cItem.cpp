@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "model/Bauzeitfaktor.h"
 #include "util/Zahlentext.h"
 
 namespace tarvelin {
@@ -19,7 +20,6 @@ struct Mangel {
 /// long that the next re-timing replaces it.
 Mangel MangelAn(double kosten, Festkomma vorrat, Festkomma proStunde) {
     constexpr Long kOhneEnde = 1'000'000'000;
-    constexpr double kSekundenJeStunde = 3600;
     const double fehlt = kosten - vorrat.AlsDouble();
     if (proStunde <= Festkomma()) {
         return {fehlt + 1, kOhneEnde};

@@ -61,7 +61,7 @@ struct Bedingungen {
     Sperre OhneDeuteriumProduktion = Sperre::Offen;
 };
 
-/// The facts of an item. Everything that is special about it and no formula stands here.
+/// The facts of an item: all that is special about it, its formulas aside.
 struct Itemangaben {
     ItemId Id;
     Zeilenangabe Zeile;

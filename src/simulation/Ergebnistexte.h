@@ -24,7 +24,7 @@ struct Ergebnistexte {
     std::string LBL_Deut = "0";
     std::string LBL_ENergie = "0 / 0";
     std::string LBL_Punkte = "0";
-    std::string LBL_Punkte_Hinweis = " Punkte ";
+    std::string LBL_Punkte_Hinweis;
 
     void NachReset();
     void NachClear();

@@ -25,7 +25,8 @@ class EventTabelle {
     static constexpr std::size_t kZeilen = 5;
     static constexpr std::size_t kSpalten = 5;
 
-    /// Enters a row. `zeit` is 0 or later; no second start row is entered while one waits.
+    /// Enters a row. `zeit` is 0 or later; no second start row is entered while one waits, nor a
+    /// sixth row, which would be an error of the run (std::out_of_range).
     void SetEvent(Moment zeit, const BaulistenZeile& order, bool start);
 
     /// Whether no start row waits.
