@@ -13,6 +13,8 @@ namespace tarvelin {
 namespace {
 
 constexpr auto kMax64 = std::numeric_limits<std::int64_t>::max();
+constexpr double kUnendlich = std::numeric_limits<double>::infinity();
+constexpr double kKeineZahl = std::numeric_limits<double>::quiet_NaN();
 constexpr auto kMin64 = std::numeric_limits<std::int64_t>::min();
 
 TEST(Rundung, NimmtDieRichtungIhresNamensUndHaeltAnDenEnden) {
@@ -24,7 +26,7 @@ TEST(Rundung, NimmtDieRichtungIhresNamensUndHaeltAnDenEnden) {
          {Fall{2.5, 2, 2, 2}, Fall{3.5, 4, 3, 3}, Fall{-2.5, -2, -2, -3}, Fall{-0.1, 0, 0, -1},
           Fall{7, 7, 7, 7}, Fall{1e300, kMax64, kMax64, kMax64},
           Fall{-9223372036854775808.0, kMin64, kMin64, kMin64},
-          Fall{-INFINITY, kMin64, kMin64, kMin64}, Fall{NAN, 0, 0, 0}}) {
+          Fall{-kUnendlich, kMin64, kMin64, kMin64}, Fall{kKeineZahl, 0, 0, 0}}) {
         EXPECT_EQ(Rundung::half_even(f.wert), f.halb) << f.wert;
         EXPECT_EQ(Rundung::cut(f.wert), f.ab) << f.wert;
         EXPECT_EQ(Rundung::floor(f.wert), f.runter) << f.wert;
