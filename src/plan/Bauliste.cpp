@@ -42,7 +42,7 @@ std::string ProduktionsListentext(const Minenfaktoren& faktoren) {
 std::optional<Meldung> Bauliste::DragDrop(std::string_view Source, const Startplanet& planet) {
     const auto item = ItemVonBild(Source);
     if (!item) {
-        return Meldung{.Text = "KA", .Titel = ""};
+        return Meldung{.Text = "KA", .Titel = "", .Symbol = Meldungssymbol::Ohne};
     }
     if (IstVoll()) {
         return ListeVoll();

@@ -29,6 +29,14 @@ std::string Startparameter::Datumstext() const {
            UniStartZeitStunden + ":" + UniStartZeitMinuten + ":00";
 }
 
+void SetzeStartdatum(Startparameter& parameter, Zeitpunkt tag) {
+    // "18.11.2006"
+    const std::string datum = Datumtext(tag);
+    parameter.UniStartZeitTag = datum.substr(0, 2);
+    parameter.UniStartZeitMonat = datum.substr(3, 2);
+    parameter.UniStartZeitJahr = datum.substr(6);
+}
+
 Wochentagsanzeige RefreshWeekday(const Startparameter& parameter) {
     const auto datum = LiesDatumzeit(parameter.Datumstext());
     if (!datum) {

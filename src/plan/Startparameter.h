@@ -33,6 +33,9 @@ struct Startparameter {
     [[nodiscard]] Long Speedfaktor() const { return SpeedfaktorX2 ? 2 : 1; }
 };
 
+/// Day and month in two digits, and the year; the time of day stays.
+void SetzeStartdatum(Startparameter& parameter, Zeitpunkt tag);
+
 /// What the label of the weekday shows.
 struct Wochentagsanzeige {
     std::string Caption;

@@ -171,7 +171,7 @@ void Lauf::ResetSimulation(const Startparameter& parameter) {
     Planet.ResetSimulation(LiesTemperatur(parameter).value_or(Planet.Globale.Temperatur));
 }
 
-Laufausgang RunSimulation(Plan& plan, Lauf& lauf, Meldungsausgabe& meldungen, bool silent) {
+Laufausgang BeginneLauf(Plan& plan, Lauf& lauf, Meldungsausgabe& meldungen, bool silent) {
     GlobaleVariablen& globale = lauf.Planet.Globale;
     globale.Speedfaktor = plan.Parameter.Speedfaktor();
     globale.Schlafzeiten = LiesSchlafzeiten(plan.Schlafzeiten);
@@ -192,8 +192,19 @@ Laufausgang RunSimulation(Plan& plan, Lauf& lauf, Meldungsausgabe& meldungen, bo
     }
     globale.StartDate = *start;
     lauf.ResetSimulation(plan.Parameter);
-    Durchlauf(plan, lauf, meldungen).Laufe();
     return Laufausgang::Gelaufen;
+}
+
+void FuehreLaufDurch(const Plan& plan, Lauf& lauf, Meldungsausgabe& meldungen) {
+    Durchlauf(plan, lauf, meldungen).Laufe();
+}
+
+Laufausgang RunSimulation(Plan& plan, Lauf& lauf, Meldungsausgabe& meldungen, bool silent) {
+    const Laufausgang ausgang = BeginneLauf(plan, lauf, meldungen, silent);
+    if (ausgang == Laufausgang::Gelaufen) {
+        FuehreLaufDurch(plan, lauf, meldungen);
+    }
+    return ausgang;
 }
 
 }  // namespace tarvelin

@@ -28,4 +28,9 @@ enum class Laufausgang { AnEingabenGescheitert, Gelaufen };
 /// date's day and month, padded to two digits.
 Laufausgang RunSimulation(Plan& plan, Lauf& lauf, Meldungsausgabe& meldungen, bool silent);
 
+/// The two halves of a run, for who shows the state between them: the checks of the inputs with the
+/// reset, and if they were passed the way from the first order to the last.
+Laufausgang BeginneLauf(Plan& plan, Lauf& lauf, Meldungsausgabe& meldungen, bool silent);
+void FuehreLaufDurch(const Plan& plan, Lauf& lauf, Meldungsausgabe& meldungen);
+
 }  // namespace tarvelin

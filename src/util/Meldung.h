@@ -2,15 +2,20 @@
 // at the edge.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace tarvelin {
 
-/// A modal message with an error icon and one OK button.
+/// The icon of a message box.
+enum class Meldungssymbol : std::uint8_t { Ohne, Fehler, Frage };
+
+/// A modal message with one OK button.
 struct Meldung {
     std::string Text;
     /// Empty where a message has no title of its own.
     std::string Titel;
+    Meldungssymbol Symbol = Meldungssymbol::Fehler;
 
     friend bool operator==(const Meldung&, const Meldung&) = default;
 };

@@ -1,0 +1,45 @@
+// What the build list lets be dropped on it.
+#include "ui/Baulistenansicht.h"
+
+#include <QDragEnterEvent>
+
+#include "ui/Itembild.h"
+
+namespace tarvelin {
+
+namespace {
+
+/// A drag from another program has no source here.
+const Itembild* GezogenesBild(const QDropEvent& event) {
+    return qobject_cast<const Itembild*>(event.source());
+}
+
+void NimmBildAn(QDropEvent& event) {
+    event.setDropAction(Qt::CopyAction);
+    event.setAccepted(GezogenesBild(event) != nullptr);
+}
+
+}  // namespace
+
+Baulistenansicht::Baulistenansicht(QWidget* parent)
+    : Liste(QStringLiteral("LV_Bauliste"), QStringLiteral("Bauliste"), {494, 3658, 924}, parent) {
+    setHeaderHidden(true);
+    setAcceptDrops(true);
+}
+
+void Baulistenansicht::dragEnterEvent(QDragEnterEvent* event) {
+    NimmBildAn(*event);
+}
+
+void Baulistenansicht::dragMoveEvent(QDragMoveEvent* event) {
+    NimmBildAn(*event);
+}
+
+void Baulistenansicht::dropEvent(QDropEvent* event) {
+    NimmBildAn(*event);
+    if (const Itembild* const bild = GezogenesBild(*event)) {
+        emit DragDrop(bild->objectName());
+    }
+}
+
+}  // namespace tarvelin

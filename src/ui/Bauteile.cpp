@@ -1,0 +1,150 @@
+// Groups, inputs and labels with the habits that all of ours share.
+#include "ui/Bauteile.h"
+
+#include <QCursor>
+#include <QPainter>
+#include <QResizeEvent>
+#include <QToolTip>
+#include <algorithm>
+
+namespace tarvelin {
+
+namespace {
+
+constexpr int kTitelhoehe = 14;
+constexpr int kTitelrand = 3;
+
+}  // namespace
+
+QString AlsQString(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+void SetzeHinweis(QWidget& widget, const QString& text) {
+    if (widget.toolTip() == text) {
+        return;
+    }
+    widget.setToolTip(text);
+    if (QToolTip::isVisible() && widget.underMouse()) {
+        QToolTip::showText(QCursor::pos(), text, &widget);
+    }
+}
+
+Gruppe::Gruppe(const QString& name, const QString& titel, QWidget* parent)
+    : QGroupBox(titel, parent) {
+    setObjectName(name);
+}
+
+void Gruppe::SetzeEcke(QLabel* label) {
+    m_ecke = label;
+}
+
+// The style's own frame takes more room than the surface has.
+QSize Gruppe::sizeHint() const {
+    return QWidget::sizeHint();
+}
+
+QSize Gruppe::minimumSizeHint() const {
+    return QWidget::minimumSizeHint();
+}
+
+void Gruppe::resizeEvent(QResizeEvent* event) {
+    QGroupBox::resizeEvent(event);
+    setContentsMargins(1, kTitelhoehe + 1, 1, 1);
+    if (m_ecke != nullptr) {
+        const int breite = m_ecke->sizeHint().width();
+        m_ecke->setGeometry(width() - breite - kTitelrand, 0, breite, kTitelhoehe);
+    }
+}
+
+void Gruppe::paintEvent(QPaintEvent* /*event*/) {
+    constexpr int kRahmenfarbe = 70;
+    constexpr qreal kRundung = 3;
+    QPainter painter(this);
+    painter.setPen(palette().windowText().color());
+    painter.drawText(QRect(kTitelrand, 0, width(), kTitelhoehe),
+                     static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), title());
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QColor(0, 0, 0, kRahmenfarbe));
+    constexpr qreal kHalb = 0.5;
+    painter.drawRoundedRect(QRectF(rect()).adjusted(kHalb, kTitelhoehe + kHalb, -kHalb, -kHalb),
+                            kRundung, kRundung);
+}
+
+Eingabe::Eingabe(const QString& name, const QString& bedeutung, int grenze, QWidget* parent)
+    : QLineEdit(parent), m_grenze(grenze) {
+    setObjectName(name);
+    setAccessibleName(bedeutung);
+    setAlignment(Qt::AlignCenter);
+    constexpr int kHoehe = 18;
+    setFixedHeight(kHoehe);
+    setMaxLength(grenze);
+    connect(this, &QLineEdit::textEdited, this,
+            [this](const QString& neu) { BegrenzeAufs(neu.size()); });
+}
+
+bool Eingabe::Setze(const std::string& neu) {
+    const QString text = AlsQString(neu);
+    if (text == this->text()) {
+        return false;
+    }
+    BegrenzeAufs(text.size());
+    setText(text);
+    return true;
+}
+
+void Eingabe::BegrenzeAufs(qsizetype stehend) {
+    setMaxLength(std::max(m_grenze, static_cast<int>(stehend)));
+}
+
+QLabel* NeuesLabel(const QString& name, const QString& text, QWidget* parent) {
+    auto* const label = new QLabel(text, parent);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QLabel* NeuesBild(const QString& name, const QSize& groesse, const QString& hinweis,
+                  QWidget* parent) {
+    QLabel* const bild = NeuesLabel(name, {}, parent);
+    bild->setFixedSize(groesse);
+    bild->setScaledContents(true);
+    bild->setToolTip(hinweis);
+    bild->setAccessibleName(hinweis.trimmed());
+    return bild;
+}
+
+QLabel* NeueHoverInfo(const QString& name, const QString& hinweis, QWidget* parent) {
+    QLabel* const label = NeuesLabel(name, QStringLiteral("HoverInfo"), parent);
+    label->setToolTip(hinweis);
+    label->setAccessibleDescription(hinweis);
+    label->setCursor(Qt::WhatsThisCursor);
+    QFont schrift = label->font();
+    schrift.setUnderline(true);
+    label->setFont(schrift);
+    return label;
+}
+
+QPushButton* NeuerKnopf(const QString& name, const QString& text, QWidget* parent) {
+    auto* const knopf = new QPushButton(text, parent);
+    knopf->setObjectName(name);
+    knopf->setAutoDefault(true);
+    constexpr int kRand = 7;
+    constexpr int kHoehe = 20;
+    knopf->setFixedHeight(kHoehe);
+    knopf->setMinimumWidth(knopf->fontMetrics().horizontalAdvance(text) + 2 * kRand);
+    knopf->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    return knopf;
+}
+
+QSlider* NeuerRegler(const QString& name, const QString& bedeutung, int hoechstens,
+                     QWidget* parent) {
+    auto* const regler = new QSlider(Qt::Horizontal, parent);
+    regler->setObjectName(name);
+    regler->setAccessibleName(bedeutung);
+    regler->setRange(0, hoechstens);
+    regler->setSingleStep(1);
+    return regler;
+}
+
+}  // namespace tarvelin

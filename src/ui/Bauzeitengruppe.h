@@ -1,0 +1,41 @@
+// The group "Optimale Bauzeiten:": what the last run came to, and the alarm before each start.
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+
+#include "model/Bauzeit.h"
+#include "simulation/Ergebnistexte.h"
+#include "ui/Bauteile.h"
+#include "ui/Liste.h"
+#include "ui/Tabellenmodell.h"
+
+namespace tarvelin {
+
+class Bauzeitengruppe : public Gruppe {
+    Q_OBJECT
+
+  public:
+    /// Shows the rows of `bauzeiten`, which must outlive the group.
+    Bauzeitengruppe(const Bauzeiten& bauzeiten, QWidget* parent);
+
+    /// After a run or a reset.
+    void ZeigeBauzeiten() { m_modell->Aktualisiere(); }
+    void Zeige(const Ergebnistexte& texte);
+
+    Liste* const LV_Bauzeiten;
+    QCheckBox* const Chk_BauWeckfunktion;
+    /// Seconds of warning; can be typed into.
+    QComboBox* const Comb_Before;
+    QLabel* const ImgDonate_1;
+
+  private:
+    void LV_Bauzeiten_MouseMove(const QModelIndex& zeile);
+
+    const Bauzeiten& m_bauzeiten;
+    Tabellenmodell* m_modell;
+    QLabel* m_LBL_Punkte;
+    QLabel* m_LBL_Timegone2;
+};
+
+}  // namespace tarvelin

@@ -1,0 +1,21 @@
+// What the four red panels over the working surface have in common.
+#pragma once
+
+#include "ui/Bauteile.h"
+
+namespace tarvelin {
+
+/// A red panel that hides what lies under it.
+class Feld : public Gruppe {
+    Q_OBJECT
+
+  public:
+    /// Place and size in twips.
+    Feld(const QString& name, const QString& titel, const QRect& twips, QWidget* parent);
+
+  protected:
+    /// The button "Hide", which hides the panel.
+    [[nodiscard]] QPushButton* NeuerHideKnopf(const QString& name);
+};
+
+}  // namespace tarvelin

@@ -1,0 +1,47 @@
+// The panel "Schlaf/Pausen-zeiten:": when the player can't give orders.
+#pragma once
+
+#include <QCalendarWidget>
+#include <QCheckBox>
+
+#include "plan/Schlaftabelle.h"
+#include "ui/Feld.h"
+#include "ui/Liste.h"
+#include "ui/Tabellenmodell.h"
+#include "ui/Umgebung.h"
+
+namespace tarvelin {
+
+class Fra_Sleep : public Feld {
+    Q_OBJECT
+
+  public:
+    /// Edits `tabelle`, which must outlive the panel, as must `umgebung`.
+    Fra_Sleep(Schlaftabelle& tabelle, const Umgebung& umgebung, QWidget* parent);
+
+    /// After the program changed the table.
+    void Zeige() { m_modell->Aktualisiere(); }
+    void RefreshSchlafEnde();
+
+    Liste* const LV_Schlafzeiten;
+    QCheckBox* const Chk_Schlafzeitenwecker;
+
+  private:
+    void BaueAuf(QPushButton* add, QPushButton* loesche, QPushButton* leere);
+    [[nodiscard]] Schlafeingabe Lies() const;
+    void Cmd_AddSchlafzeit_Click();
+    void Cmd_RemoveSchlafzeit_Click();
+    void Cmd_ClearSchlafzeiten_Click();
+
+    Schlaftabelle& m_tabelle;
+    const Umgebung& m_umgebung;
+    Tabellenmodell* m_modell;
+    QCalendarWidget* m_SchlafKalender;
+    Eingabe* m_txt_SchlafStartStunden;
+    Eingabe* m_txt_SchlafStartMinuten;
+    Eingabe* m_txt_SchlafdauerStunden;
+    Eingabe* m_txt_SchlafdauerMinuten;
+    QLabel* m_LBL_Schlafendzeit;
+};
+
+}  // namespace tarvelin

@@ -1,0 +1,117 @@
+// Proportional columns and a head whose captions are never cut.
+#include "ui/Liste.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QResizeEvent>
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+namespace tarvelin {
+
+namespace {
+
+constexpr int kKopfrand = 2;
+
+}  // namespace
+
+Listenkopf::Listenkopf(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
+    setSectionsClickable(false);
+    setSectionsMovable(false);
+    setSectionResizeMode(QHeaderView::Fixed);
+    setMinimumSectionSize(1);
+    setStretchLastSection(false);
+}
+
+QString Listenkopf::Text(int spalte) const {
+    return model()->headerData(spalte, Qt::Horizontal, Qt::DisplayRole).toString();
+}
+
+bool Listenkopf::Passt(int spalte) const {
+    return fontMetrics().horizontalAdvance(Text(spalte)) + 2 * kKopfrand <= sectionSize(spalte);
+}
+
+bool Listenkopf::AllePassen() const {
+    for (int spalte = 0; spalte < count(); ++spalte) {
+        if (!Passt(spalte)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+QSize Listenkopf::sizeHint() const {
+    const int zeilen = AllePassen() ? 1 : 2;
+    return {QHeaderView::sizeHint().width(), zeilen * fontMetrics().height() + 2 * kKopfrand};
+}
+
+void Listenkopf::paintEvent(QPaintEvent* event) {
+    QPainter painter(viewport());
+    painter.fillRect(viewport()->rect(), palette().button());
+    painter.setPen(palette().mid().color());
+    painter.drawLine(0, height() - 1, width(), height() - 1);
+    painter.end();
+    QHeaderView::paintEvent(event);
+}
+
+void Listenkopf::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {
+    const QString text = Text(logicalIndex);
+    const int zeile = fontMetrics().height();
+    const int oben = AllePassen() || !Passt(logicalIndex) ? kKopfrand : kKopfrand + zeile;
+    const int breite =
+        std::max(rect.width(), fontMetrics().horizontalAdvance(text) + 2 * kKopfrand);
+    painter->setPen(palette().buttonText().color());
+    painter->drawText(QRect(rect.left() + kKopfrand, oben, breite, zeile),
+                      static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), text);
+}
+
+Liste::Liste(const QString& name, const QString& bedeutung, std::vector<int> anteile,
+             QWidget* parent)
+    : QTreeView(parent), m_anteile(std::move(anteile)) {
+    setObjectName(name);
+    setAccessibleName(bedeutung);
+    setHeader(new Listenkopf(this));
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setTextElideMode(Qt::ElideNone);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    setMouseTracking(true);
+    // Tab leaves a list; the arrow keys walk in it.
+    setTabKeyNavigation(false);
+}
+
+void Liste::setModel(QAbstractItemModel* model) {
+    QTreeView::setModel(model);
+    VerteileSpalten();
+}
+
+void Liste::mouseMoveEvent(QMouseEvent* event) {
+    QTreeView::mouseMoveEvent(event);
+    emit MouseMove(indexAt(event->position().toPoint()));
+}
+
+void Liste::resizeEvent(QResizeEvent* event) {
+    QTreeView::resizeEvent(event);
+    VerteileSpalten();
+}
+
+void Liste::VerteileSpalten() {
+    const int summe = std::accumulate(m_anteile.begin(), m_anteile.end(), 0);
+    int links = 0;
+    int anteil = 0;
+    for (int spalte = 0; spalte < std::min(header()->count(), static_cast<int>(m_anteile.size()));
+         ++spalte) {
+        anteil += m_anteile[static_cast<std::size_t>(spalte)];
+        const int rechts = (viewport()->width() * anteil + summe / 2) / summe;
+        header()->resizeSection(spalte, rechts - links);
+        links = rechts;
+    }
+    updateGeometries();
+}
+
+}  // namespace tarvelin

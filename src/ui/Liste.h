@@ -1,0 +1,55 @@
+// The list views of the window: rows of texts, columns that share the width.
+#pragma once
+
+#include <QHeaderView>
+#include <QTreeView>
+#include <vector>
+
+namespace tarvelin {
+
+/// The head of a list. A caption that is wider than its column runs on over its neighbours, on a
+/// line of its own, so that none is cut off.
+class Listenkopf : public QHeaderView {
+    Q_OBJECT
+
+  public:
+    explicit Listenkopf(QWidget* parent);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
+
+  private:
+    [[nodiscard]] QString Text(int spalte) const;
+    [[nodiscard]] bool Passt(int spalte) const;
+    [[nodiscard]] bool AllePassen() const;
+};
+
+/// A table of rows. The columns divide the width of the list in fixed proportions; there is never
+/// a horizontal bar.
+class Liste : public QTreeView {
+    Q_OBJECT
+
+  public:
+    /// `anteile`: one figure for each column of the model.
+    Liste(const QString& name, const QString& bedeutung, std::vector<int> anteile, QWidget* parent);
+
+    void setModel(QAbstractItemModel* model) override;
+
+  signals:
+    /// The pointer moved over the list, at this row; over none the index isn't valid.
+    void MouseMove(const QModelIndex& zeile);
+
+  protected:
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void VerteileSpalten();
+
+    std::vector<int> m_anteile;
+};
+
+}  // namespace tarvelin

@@ -1,0 +1,41 @@
+// Letters that entries of the menu bar share.
+#include "ui/Menueleiste.h"
+
+#include <QAction>
+#include <QShortcutEvent>
+
+namespace tarvelin {
+
+namespace {
+
+QList<QAction*> MitBuchstabe(const QList<QAction*>& eintraege, const QKeySequence& taste) {
+    QList<QAction*> treffer;
+    for (QAction* const eintrag : eintraege) {
+        if (QKeySequence::mnemonic(eintrag->text()) == taste) {
+            treffer.append(eintrag);
+        }
+    }
+    return treffer;
+}
+
+}  // namespace
+
+Menueleiste::Menueleiste(QWidget* parent) : QMenuBar(parent) {
+    constexpr int kHoehe = 22;
+    setFixedHeight(kHoehe);
+}
+
+bool Menueleiste::event(QEvent* event) {
+    if (event->type() == QEvent::Shortcut) {
+        const auto* const taste = static_cast<const QShortcutEvent*>(event);
+        const QList<QAction*> treffer = MitBuchstabe(actions(), taste->key());
+        if (treffer.size() > 1) {
+            setFocus(Qt::MenuBarFocusReason);
+            setActiveAction(treffer[(treffer.indexOf(activeAction()) + 1) % treffer.size()]);
+            return true;
+        }
+    }
+    return QMenuBar::event(event);
+}
+
+}  // namespace tarvelin
