@@ -33,6 +33,7 @@ void SetzeHinweis(QWidget& widget, const QString& text) {
 Gruppe::Gruppe(const QString& name, const QString& titel, QWidget* parent)
     : QGroupBox(titel, parent) {
     setObjectName(name);
+    setAccessibleName(titel);
 }
 
 void Gruppe::SetzeEcke(QLabel* label) {
@@ -95,6 +96,12 @@ bool Eingabe::Setze(const std::string& neu) {
 
 void Eingabe::BegrenzeAufs(qsizetype stehend) {
     setMaxLength(std::max(m_grenze, static_cast<int>(stehend)));
+}
+
+void ReiheAuf(const std::vector<QWidget*>& steuerelemente) {
+    for (std::size_t i = 1; i < steuerelemente.size(); ++i) {
+        QWidget::setTabOrder(steuerelemente[i - 1], steuerelemente[i]);
+    }
 }
 
 QLabel* NeuesLabel(const QString& name, const QString& text, QWidget* parent) {

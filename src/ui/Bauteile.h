@@ -8,6 +8,7 @@
 #include <QSlider>
 #include <QString>
 #include <string_view>
+#include <vector>
 
 namespace tarvelin {
 
@@ -63,6 +64,9 @@ class Eingabe : public QLineEdit {
 
     int m_grenze;
 };
+
+/// The order in which Tab goes through controls.
+void ReiheAuf(const std::vector<QWidget*>& steuerelemente);
 
 [[nodiscard]] QLabel* NeuesLabel(const QString& name, const QString& text, QWidget* parent);
 /// A picture of a fixed size, whatever the size of its file.

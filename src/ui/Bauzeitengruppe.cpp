@@ -44,13 +44,15 @@ Bauzeitengruppe::Bauzeitengruppe(const Bauzeiten& bauzeiten, QWidget* parent)
     connect(LV_Bauzeiten, &Liste::MouseMove, this, &Bauzeitengruppe::LV_Bauzeiten_MouseMove);
     Chk_BauWeckfunktion->setObjectName(QStringLiteral("Chk_BauWeckfunktion"));
     Comb_Before->setObjectName(QStringLiteral("Comb_Before"));
-    Comb_Before->setAccessibleName(QStringLiteral("Sekunden vor dem Baubeginn"));
     Comb_Before->setEditable(true);
     Comb_Before->setInsertPolicy(QComboBox::NoInsert);
     for (const char* const sekunden : {"1", "2", "5", "10", "15", "20", "30", "45", "60", "120"}) {
         Comb_Before->addItem(QString::fromLatin1(sekunden));
     }
     Comb_Before->setCurrentText(QStringLiteral("10"));
+    QLabel* const vorher = NeuesLabel({}, QStringLiteral("Sekunden vorher"), this);
+    vorher->setBuddy(Comb_Before);
+    m_LBL_Punkte->setAccessibleDescription(QStringLiteral("Punkte"));
     m_LBL_Timegone2->setAlignment(Qt::AlignCenter);
 
     auto* const layout = new QGridLayout(this);
@@ -59,7 +61,7 @@ Bauzeitengruppe::Bauzeitengruppe(const Bauzeiten& bauzeiten, QWidget* parent)
     layout->addWidget(LV_Bauzeiten, 0, 0, 1, 4);
     layout->addWidget(Chk_BauWeckfunktion, 1, 0, 1, 2);
     layout->addWidget(Comb_Before, 1, 2);
-    layout->addWidget(new QLabel(QStringLiteral("Sekunden vorher"), this), 1, 3);
+    layout->addWidget(vorher, 1, 3);
     layout->addWidget(
         NeuesBild(QStringLiteral("Images(4)"), {26, 26}, QStringLiteral(" Punkte "), this), 2, 0);
     layout->addWidget(m_LBL_Punkte, 2, 1, 1, 2);

@@ -39,22 +39,30 @@ Fra_Rest::Fra_Rest(const Bauliste& liste, const Lauf& lauf, QWidget* parent)
     : QWidget(parent),
       Frame8(new Baulistengruppe(liste, this)),
       Frame6(new Bauzeitengruppe(lauf.LV_Bauzeiten, this)),
-      m_liste(liste) {
+      m_liste(liste),
+      m_plaetze(BaueItemgruppen()) {
     setObjectName(QStringLiteral("Fra_Rest"));
     resize(Pixel(12735), Pixel(4335));
     Stelle(*Frame8, 0, 3375);
+    Stelle(*Frame6, 9360, 3375);
+    ReiheAuf({m_plaetze.back().Bild, Frame6->LV_Bauzeiten, Frame6->Chk_BauWeckfunktion,
+              Frame6->Comb_Before});
+}
+
+std::vector<Itemplatz> Fra_Rest::BaueItemgruppen() {
+    std::vector<Itemplatz> plaetze;
     for (const Gruppenplatz& platz : Itemgruppen()) {
         auto* const gruppe = new Itemgruppe(QString::fromUtf8(platz.Name),
                                             QString::fromUtf8(platz.Titel), platz.Items, this);
-        if (m_plaetze.empty()) {
+        if (plaetze.empty()) {
             gruppe->SetzeEcke(NeueHoverInfo(QStringLiteral("Label8"),
                                             QStringLiteral(" Drag'n'Drop in die linke Liste "),
                                             gruppe));
         }
         Stelle(*gruppe, platz.Links, platz.Breite);
-        m_plaetze.insert(m_plaetze.end(), gruppe->Plaetze().begin(), gruppe->Plaetze().end());
+        plaetze.insert(plaetze.end(), gruppe->Plaetze().begin(), gruppe->Plaetze().end());
     }
-    Stelle(*Frame6, 9360, 3375);
+    return plaetze;
 }
 
 void Fra_Rest::ZeigeListe() {

@@ -33,6 +33,8 @@ class Fra_Rest : public QWidget {
     Bauzeitengruppe* const Frame6;
 
   private:
+    std::vector<Itemplatz> BaueItemgruppen();
+
     const Bauliste& m_liste;
     std::vector<Itemplatz> m_plaetze;
 };

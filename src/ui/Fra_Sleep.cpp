@@ -3,7 +3,6 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QTableView>
 
 namespace tarvelin {
 
@@ -50,6 +49,12 @@ Fra_Sleep::Fra_Sleep(Schlaftabelle& tabelle, const Umgebung& umgebung, QWidget* 
         QStringLiteral(" Eine Minute vor jeder Endzeit ertönt ein Alarmton "));
     m_SchlafKalender->setObjectName(QStringLiteral("SchlafKalender"));
     m_SchlafKalender->setAccessibleName(QStringLiteral("Tag der Startzeit"));
+    for (const auto& [teil, bedeutung] : {std::pair("qt_calendar_prevmonth", "Voriger Monat"),
+                                          std::pair("qt_calendar_nextmonth", "Nächster Monat"),
+                                          std::pair("qt_calendar_yearedit", "Jahr")}) {
+        m_SchlafKalender->findChild<QWidget*>(QString::fromLatin1(teil))
+            ->setAccessibleName(QString::fromUtf8(bedeutung));
+    }
     m_SchlafKalender->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     m_SchlafKalender->setSelectedDate(AlsDatum(m_umgebung.Jetzt()));
     connect(m_SchlafKalender, &QCalendarWidget::selectionChanged, this,
@@ -96,11 +101,12 @@ void Fra_Sleep::BaueAuf(QPushButton* add, QPushButton* loesche, QPushButton* lee
     zeiten->addWidget(add, 0, 4, 2, 1);
     zeiten->setColumnStretch(4, 1);
 
+    QPushButton* const schliesse = NeuerHideKnopf(QStringLiteral("Cmd_HideSleep"));
     auto* const knoepfe = new QHBoxLayout;
     knoepfe->setSpacing(3);
     knoepfe->addWidget(loesche);
     knoepfe->addWidget(leere);
-    knoepfe->addWidget(NeuerHideKnopf(QStringLiteral("Cmd_HideSleep")));
+    knoepfe->addWidget(schliesse);
 
     auto* const layout = new QGridLayout(this);
     layout->setContentsMargins(4, 2, 4, 4);
@@ -112,6 +118,9 @@ void Fra_Sleep::BaueAuf(QPushButton* add, QPushButton* loesche, QPushButton* lee
     layout->addLayout(knoepfe, 2, 1);
     layout->setColumnStretch(0, 1);
     layout->setColumnStretch(1, 1);
+    ReiheAuf({m_SchlafKalender, m_txt_SchlafStartStunden, m_txt_SchlafStartMinuten,
+              m_txt_SchlafdauerStunden, m_txt_SchlafdauerMinuten, add, LV_Schlafzeiten,
+              Chk_Schlafzeitenwecker, loesche, leere, schliesse});
 }
 
 Schlafeingabe Fra_Sleep::Lies() const {

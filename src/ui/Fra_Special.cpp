@@ -53,12 +53,14 @@ Fra_Special::Fra_Special(QWidget* parent)
         zeilen->addWidget(regler, zeile, 1);
         m_regler[i] = regler;
     }
+    QPushButton* const schliesse = NeuerHideKnopf(QStringLiteral("Cmd_HideFraSpecial"));
     auto* const layout = new QGridLayout(this);
     layout->setContentsMargins(4, 1, 4, 3);
     layout->setSpacing(3);
     layout->addWidget(gruppe, 0, 0, 1, 2);
     layout->addWidget(Cmd_AddProdaenderungsevent, 1, 0);
-    layout->addWidget(NeuerHideKnopf(QStringLiteral("Cmd_HideFraSpecial")), 1, 1);
+    layout->addWidget(schliesse, 1, 1);
+    ReiheAuf({m_regler[0], m_regler[1], m_regler[2], Cmd_AddProdaenderungsevent, schliesse});
     hide();
 }
 

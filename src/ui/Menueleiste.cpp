@@ -30,12 +30,22 @@ bool Menueleiste::event(QEvent* event) {
         const auto* const taste = static_cast<const QShortcutEvent*>(event);
         const QList<QAction*> treffer = MitBuchstabe(actions(), taste->key());
         if (treffer.size() > 1) {
+            if (!hasFocus()) {
+                m_vorher = window()->focusWidget();
+            }
             setFocus(Qt::MenuBarFocusReason);
             setActiveAction(treffer[(treffer.indexOf(activeAction()) + 1) % treffer.size()]);
             return true;
         }
     }
     return QMenuBar::event(event);
+}
+
+void Menueleiste::keyPressEvent(QKeyEvent* event) {
+    QMenuBar::keyPressEvent(event);
+    if (activeAction() == nullptr && hasFocus() && m_vorher) {
+        m_vorher->setFocus(Qt::MenuBarFocusReason);
+    }
 }
 
 }  // namespace tarvelin

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMenuBar>
+#include <QPointer>
 
 namespace tarvelin {
 
@@ -15,6 +16,11 @@ class Menueleiste : public QMenuBar {
 
   protected:
     bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    /// What had the focus before the bar took it.
+    QPointer<QWidget> m_vorher;
 };
 
 }  // namespace tarvelin

@@ -61,6 +61,11 @@ frmMain::frmMain(const Umgebung& umgebung)
     m_Fra_Rest->ZeigeNamen(m_plan.ShowDesc);
 }
 
+// What the lists show must outlive them.
+frmMain::~frmMain() {
+    delete m_flaeche;
+}
+
 void frmMain::LegeAus() {
     constexpr int kBreite = 12870;
     constexpr int kHoehe = 5030;
@@ -211,27 +216,26 @@ void frmMain::Img_MouseMove(const Itemplatz& platz) {
 }
 
 void frmMain::LV_Bauliste_DragDrop(const QString& Source) {
-    const auto meldung = m_plan.Liste.DragDrop(Source.toStdString(), m_lauf.Planet);
-    // A box would come up inside the drag; it waits until the pointer is free.
-    QTimer::singleShot(0, this, [this, meldung] {
-        if (meldung) {
-            m_umgebung.Boxen.Zeige(*meldung);
-        }
-    });
-    ZeigeHinzugefuegtes({});
+    if (const auto meldung = m_plan.Liste.DragDrop(Source.toStdString(), m_lauf.Planet)) {
+        // A box would come up inside the drag; it waits until the pointer is free.
+        QTimer::singleShot(0, this, [this, text = *meldung] { m_umgebung.Boxen.Zeige(text); });
+        return;
+    }
+    ZeigeNeueZeile();
 }
 
 void frmMain::Cmd_AddProdaenderungsevent_Click() {
-    ZeigeHinzugefuegtes(
-        m_plan.Liste.AddProdaenderungsevent(m_Fra_Special->Faktoren(), m_lauf.Planet));
+    if (const auto meldung =
+            m_plan.Liste.AddProdaenderungsevent(m_Fra_Special->Faktoren(), m_lauf.Planet)) {
+        m_umgebung.Boxen.Zeige(*meldung);
+        return;
+    }
+    ZeigeNeueZeile();
 }
 
-void frmMain::ZeigeHinzugefuegtes(const std::optional<Meldung>& meldung) {
+void frmMain::ZeigeNeueZeile() {
     m_Fra_Rest->ZeigeListe();
     m_Fra_Rest->Frame8->MacheLetzteSichtbar();
-    if (meldung) {
-        m_umgebung.Boxen.Zeige(*meldung);
-    }
 }
 
 void frmMain::Cmd_Undo_Click() {
@@ -265,7 +269,7 @@ void frmMain::UebernimmPlan(Plan plan) {
     m_Fra_Sleep->Zeige();
     m_Fra_Rest->ZeigeNamen(m_plan.ShowDesc);
     m_Fra_Rest->Zeige(m_texte);
-    ZeigeHinzugefuegtes({});
+    ZeigeNeueZeile();
 }
 
 void frmMain::StarteSimulation(bool silent) {

@@ -25,6 +25,9 @@ class frmMain : public QMainWindow {
   public:
     /// `umgebung` must outlive the window, as must what it refers to.
     explicit frmMain(const Umgebung& umgebung);
+    frmMain(const frmMain&) = delete;
+    frmMain& operator=(const frmMain&) = delete;
+    ~frmMain() override;
 
     /// The plan and the state of the last run or reset.
     [[nodiscard]] const Plan& DerPlan() const { return m_plan; }
@@ -61,7 +64,7 @@ class frmMain : public QMainWindow {
     void Cmd_Clear_Click();
     void Cmd_Simulate_Click();
     void Chk_Speedfaktor_Click();
-    void ZeigeHinzugefuegtes(const std::optional<Meldung>& meldung);
+    void ZeigeNeueZeile();
 
     const Umgebung& m_umgebung;
     Plan m_plan;

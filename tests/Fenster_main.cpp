@@ -1,0 +1,14 @@
+// Starts the tests of the window, without a screen unless a platform is named.
+#include <gtest/gtest.h>
+
+#include "ui/Aussehen.h"
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    testing::InitGoogleTest(&argc, argv);
+    QApplication programm(argc, argv);
+    tarvelin::StelleAussehenEin(programm);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,532 @@
+// The window's controls: places, words, handlers, keys.
+#include <QAccessible>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDragEnterEvent>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QSet>
+
+#include "Fensterhilfen.h"
+#include "ui/Bauteile.h"
+
+namespace tarvelin {
+namespace {
+
+constexpr const char* kFelder[] = {"Fra_Einstellungen", "Fra_Special", "Fra_Skin", "Fra_Sleep"};
+
+TEST_F(Fenster, FlaecheGruppenUndFelderAnIhremPlatz) {
+    struct Platz {
+        const char* Name;
+        QRect Twips;
+    };
+    const std::vector<Platz> plaetze{
+        {"Fra_Rest", {0, 2, 12735, 4335}},     {"Frame8", {0, 0, 3375, 4300}},
+        {"Frame3", {3480, 0, 2175, 4300}},     {"Frame1", {5760, 0, 1155, 4300}},
+        {"Frame9", {6960, 0, 1155, 4300}},     {"Frame4", {8160, 0, 1155, 4300}},
+        {"Frame6", {9360, 0, 3375, 4300}},     {"Fra_Einstellungen", {0, 2, 2295, 3975}},
+        {"Fra_Special", {160, 2, 3255, 1635}}, {"Fra_Skin", {160, 2, 3615, 975}},
+        {"Fra_Sleep", {160, 2, 6855, 3615}},
+    };
+    const auto pixel = [](int twips) { return qRound(twips / 15.0); };
+    for (const auto& [name, t] : plaetze) {
+        EXPECT_EQ(Finde(name).geometry(),
+                  QRect(pixel(t.x()), pixel(t.y()), pixel(t.width()), pixel(t.height())))
+            << name;
+    }
+    EXPECT_EQ(m_fenster.size(), QSize(858, 335));
+    EXPECT_EQ(m_fenster.minimumSize(), m_fenster.maximumSize());
+}
+
+// Every widget that shows words has room for them, panels and groups in each state.
+TEST_F(Fenster, KeinWortIstAbgeschnitten) {
+    Lade("GD GS GR GR GW");
+    m_fenster.StarteSimulation(true);
+    for (const char* const feld : kFelder) {
+        Finde(feld).show();
+    }
+    QCoreApplication::processEvents();
+    for (const auto* const widget : m_fenster.findChildren<QWidget*>()) {
+        const QString text = widget->property("text").toString();
+        if (!widget->isVisible() || widget->parent()->inherits("QCalendarWidget")) {
+            continue;
+        }
+        const QFontMetrics schrift = widget->fontMetrics();
+        const int neben =
+            widget->inherits("QCheckBox") || widget->inherits("QRadioButton") ? 20 : 0;
+        EXPECT_LE(schrift.horizontalAdvance(text) + neben, widget->width()) << text.toStdString();
+        EXPECT_LE(text.isEmpty() ? 0 : schrift.ascent() + 2, widget->height())
+            << text.toStdString();
+        EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry()) ||
+                    widget->window() == widget || !widget->parent()->inherits("QGroupBox"))
+            << widget->objectName().toStdString() << " " << text.toStdString();
+        if (widget->inherits("QGroupBox")) {
+            const QString titel = widget->property("title").toString();
+            EXPECT_LE(schrift.horizontalAdvance(titel) + 3, widget->width()) << titel.toStdString();
+        }
+    }
+}
+
+TEST_F(Fenster, ListenFassenIhreLaengstenTexte) {
+    Plan plan = PlanAus("GX:10:10:10");
+    for (const ItemZeile& item : ItemTabelle()) {
+        for (int i = 0; i < 11; ++i) {
+            ASSERT_FALSE(plan.Liste.DragDrop(item.Bild, m_fenster.DerLauf().Planet));
+        }
+    }
+    plan.Schlafzeiten.assign(30, {.Startzeit = "28.12.2006 22:30", .Endzeit = "28.12.2006 23:30"});
+    m_fenster.UebernimmPlan(plan);
+    m_fenster.StarteSimulation(true);
+    Finde("Fra_Sleep").show();
+    QCoreApplication::processEvents();
+    for (const char* const name : {"LV_Bauliste", "LV_Bauzeiten", "LV_Schlafzeiten"}) {
+        const auto& liste = Finde<QTreeView>(name);
+        int summe = 0;
+        for (int spalte = 0; spalte < liste.model()->columnCount(); ++spalte) {
+            summe += liste.columnWidth(spalte);
+            for (int zeile = 0; zeile < liste.model()->rowCount(); ++zeile) {
+                const QString text = liste.model()->index(zeile, spalte).data().toString();
+                EXPECT_LE(liste.fontMetrics().horizontalAdvance(text), liste.columnWidth(spalte))
+                    << name << ": " << text.toStdString();
+            }
+        }
+        EXPECT_EQ(summe, liste.viewport()->width()) << name;
+    }
+}
+
+TEST_F(Fenster, FelderSchliessenSichAus) {
+    struct Schritt {
+        const char* Eintrag;
+        /// Which of the four panels stand open afterwards.
+        std::vector<bool> Offen;
+        /// What the pointer meets where all of them overlap.
+        const char* Vorn;
+    };
+    const std::vector<Schritt> schritte{
+        {"mnuSkin", {true, false, true, false}, "Fra_Skin"},
+        {"mnuSleep", {true, false, false, true}, "Fra_Sleep"},
+        {"mnu_SpecialEvents", {true, true, false, false}, "Fra_Special"},
+        {"mnuEinstellungen", {false, true, false, false}, "Fra_Special"},
+        {"mnuEinstellungen", {true, true, false, false}, "Fra_Einstellungen"},
+        {"mnuSkin", {true, false, true, false}, "Fra_Skin"},
+        {"mnuSkin", {true, false, false, false}, "Fra_Einstellungen"},
+    };
+    for (const auto& [eintrag, offen, vorn] : schritte) {
+        Waehle(eintrag);
+        for (std::size_t i = 0; i < offen.size(); ++i) {
+            EXPECT_EQ(Finde(kFelder[i]).isVisible(), offen[i]) << eintrag << " " << kFelder[i];
+        }
+        EXPECT_EQ(m_fenster.centralWidget()->childAt(12, 15)->objectName().toStdString(), vorn);
+    }
+    const std::vector<std::pair<const char*, const char*>> knoepfe{
+        {"Cmd_HideEinstellungen", "Fra_Einstellungen"},
+        {"Cmd_HideFraSpecial", "Fra_Special"},
+        {"Cmd_HideSchlafzeiten", "Fra_Skin"},
+        {"Cmd_HideSleep", "Fra_Sleep"}};
+    for (const auto& [knopf, feld] : knoepfe) {
+        Finde(feld).show();
+        Druecke(knopf);
+        EXPECT_FALSE(Finde(feld).isVisible()) << knopf;
+    }
+}
+
+TEST_F(Fenster, SkinlisteWirdBeiJedemOeffnenGelesen) {
+    Ordner ordner;
+    for (const char* const name : {"standard", "temp_webskin", "blau"}) {
+        std::filesystem::create_directories(ordner / "img" / "skins" / name);
+    }
+    Umgebung umgebung = m_umgebung;
+    umgebung.Programmordner = ordner / ".";
+    // Without any picture the window opens all the same.
+    frmMain fenster(umgebung);
+    auto* const skins = fenster.findChild<QComboBox*>(QStringLiteral("Comb_Skins"));
+    fenster.findChild<QAction*>(QStringLiteral("mnuSkin"))->trigger();
+    EXPECT_EQ(skins->count(), 1);
+    std::filesystem::create_directory(ordner / "img" / "skins" / "rot");
+    skins->setCurrentIndex(0);
+    fenster.findChild<QAction*>(QStringLiteral("mnu_SpecialEvents"))->trigger();
+    EXPECT_EQ(skins->count(), 2);
+    EXPECT_EQ(skins->currentText(), QStringLiteral("blau"));
+    EXPECT_EQ(fenster.findChild<QLabel*>(QStringLiteral("ImgSKW"))->cursor().shape(),
+              Qt::OpenHandCursor);
+}
+
+TEST_F(Fenster, GateFolgtDerListeBeiJederBewegung) {
+    auto& bild = Finde("ImgRobo");
+    const auto offen = bild.cursor().shape();
+    Zeige("ImgRobo");
+    EXPECT_EQ(bild.cursor().shape(), Qt::ForbiddenCursor);
+    EXPECT_EQ(bild.toolTip(), QStringLiteral(" Noch keine Deuteriummine oder kein Solarkraftwerk "
+                                             "in der Bauliste, bauen wäre unmöglich! "));
+    // A press on a closed picture starts nothing, nor does the keyboard.
+    QTest::mouseClick(&bild, Qt::LeftButton);
+    QTest::keyClick(&bild, Qt::Key_Space);
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 0);
+    Lade("GD GS");
+    EXPECT_EQ(bild.cursor().shape(), Qt::ForbiddenCursor) << "before the pointer moves";
+    Zeige("ImgRobo");
+    EXPECT_EQ(bild.cursor().shape(), offen);
+    EXPECT_TRUE(bild.toolTip().startsWith(QStringLiteral(" Roboterfabrik  |  Kosten:  Met: 400")));
+    QTest::keyClick(&bild, Qt::Key_Space);
+    EXPECT_EQ(Zelle("LV_Bauliste", 2, 1), "Robofabrik Stufe: 1");
+    EXPECT_EQ(Text("LBL_Robo_Stufe"), "1");
+    EXPECT_TRUE(bild.toolTip().contains(QStringLiteral("Met: 800"))) << "the next row's costs";
+}
+
+TEST_F(Fenster, FremdesWirdNirgendsAbgelegt) {
+    QMimeData daten;
+    daten.setText(QStringLiteral("ImgMetMine"));
+    daten.setUrls({QUrl::fromLocalFile(QStringLiteral("plan.tvf"))});
+    daten.setData(QStringLiteral("application/x-tarvelin-item"), "ImgMetMine");
+    const std::string stunden = Text("txt_UniStartZeitStunden");
+    for (auto* const ziel : m_fenster.findChildren<QWidget*>()) {
+        if (!ziel->isVisible() || !ziel->acceptDrops()) {
+            continue;
+        }
+        QDragEnterEvent hinein(QPoint(5, 5), Qt::CopyAction, &daten, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(ziel, &hinein);
+        EXPECT_FALSE(hinein.isAccepted()) << ziel->objectName().toStdString();
+        QDropEvent fallen(QPointF(5, 5), Qt::CopyAction, &daten, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(ziel, &fallen);
+    }
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 0);
+    EXPECT_TRUE(m_boxen.Texte.empty());
+    EXPECT_EQ(Text("txt_UniStartZeitStunden"), stunden);
+}
+
+TEST_F(Fenster, UnbekannteQuelleUnd255teZeileGebenEineMeldung) {
+    auto& liste = Finde<Baulistenansicht>("LV_Bauliste");
+    emit liste.DragDrop(QStringLiteral("ImgUnbekannt"));
+    for (int i = 0; i < 255; ++i) {
+        emit liste.DragDrop(QStringLiteral("ImgSKW"));
+    }
+    EXPECT_TRUE(m_boxen.Texte.empty()) << "no box inside a drag";
+    QCoreApplication::processEvents();
+    ASSERT_EQ(m_boxen.Texte.size(), 2U);
+    EXPECT_EQ(m_boxen.Texte[0], "KA");
+    EXPECT_NE(m_boxen.Texte[1].find("254"), std::string::npos);
+    Druecke("Cmd_AddProdaenderungsevent");
+    EXPECT_EQ(m_boxen.Texte.size(), 3U);
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 254);
+}
+
+TEST_F(Fenster, NeueZeilenKommenInsBildUndUndoRolltNicht) {
+    auto& liste = Finde<QTreeView>("LV_Bauliste");
+    for (int i = 0; i < 60; ++i) {
+        emit Finde<Baulistenansicht>("LV_Bauliste").DragDrop(QStringLiteral("ImgMetMine"));
+    }
+    const auto letzte = [&] { return liste.visualRect(liste.model()->index(59, 0)); };
+    EXPECT_TRUE(liste.viewport()->rect().contains(letzte()));
+    liste.scrollToTop();
+    Druecke("Cmd_Undo");
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 59);
+    EXPECT_TRUE(liste.viewport()->rect().contains(liste.visualRect(liste.model()->index(0, 0))));
+    EXPECT_EQ(Text("LBL_MetMine_Stufe"), "59");
+    const auto rot = liste.model()->index(0, 2).data(Qt::ForegroundRole).value<QColor>();
+    EXPECT_EQ(rot, QColor(255, 0, 0));
+}
+
+TEST_F(Fenster, ProduktionszeileNimmtDieReglerUndLaesstSieStehen) {
+    auto& kristall = Finde<QSlider>("HSC_Krisfaktor");
+    kristall.setValue(3);
+    QTest::keyClick(&Finde("HSC_Deutfaktor"), Qt::Key_Left);
+    EXPECT_EQ(Text("LBL_Krisfaktor"), "Kristallmine: 30%");
+    EXPECT_EQ(Text("LBL_Deutfaktor"), "Deutmine: 90%");
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 0);
+    Druecke("Cmd_AddProdaenderungsevent");
+    EXPECT_EQ(Zelle("LV_Bauliste", 0, 1), "M:100% K:30% D:90%");
+    Druecke("Cmd_Undo");
+    Druecke("Cmd_Undo");
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 0);
+    EXPECT_EQ(kristall.value(), 3);
+}
+
+TEST_F(Fenster, EingabenBegrenzenNurTippenUndEinfuegen) {
+    Tippe("txt_UniStartZeitTag", "123");
+    EXPECT_EQ(Text("txt_UniStartZeitTag"), "12");
+    QGuiApplication::clipboard()->setText(QStringLiteral("20061"));
+    auto& jahr = Finde<QLineEdit>("txt_UniStartZeitJahr");
+    jahr.selectAll();
+    jahr.paste();
+    EXPECT_EQ(Text("txt_UniStartZeitJahr"), "2006");
+    // A plan's text stands as it is, can be shortened, and then counts as typed.
+    Plan plan = PlanAus("GM");
+    plan.Parameter.UniStartZeitTag = "00018";
+    m_fenster.UebernimmPlan(plan);
+    EXPECT_EQ(Text("txt_UniStartZeitTag"), "00018");
+    auto& tag = Finde<QLineEdit>("txt_UniStartZeitTag");
+    QTest::keyClick(&tag, Qt::Key_End);
+    QTest::keyClicks(&tag, QStringLiteral("7"));
+    EXPECT_EQ(Text("txt_UniStartZeitTag"), "00018");
+    QTest::keyClick(&tag, Qt::Key_Backspace);
+    QTest::keyClicks(&tag, QStringLiteral("99"));
+    EXPECT_EQ(Text("txt_UniStartZeitTag"), "0001");
+}
+
+TEST_F(Fenster, TemperaturenSindVerbunden) {
+    Tippe("txt_TempMax", "+25");
+    EXPECT_EQ(Text("txt_TempMax"), "25");
+    EXPECT_EQ(Text("txt_TempMin"), "-15");
+    Tippe("txt_TempMin", "011");
+    EXPECT_EQ(Text("txt_TempMin"), "11");
+    EXPECT_EQ(Text("txt_TempMax"), "51");
+    Tippe("txt_TempMax", "abc");
+    EXPECT_EQ(Text("txt_TempMin"), "11");
+    Lade("GM");
+    Tippe("txt_TempMax", "");
+    m_fenster.StarteSimulation(false);
+    EXPECT_EQ(m_boxen.Texte.back(), "Keine gültige Temperatur eingegeben...");
+}
+
+TEST_F(Fenster, WochentagFolgtDemDatumUndNichtDerUhrzeit) {
+    Lade("GM");
+    EXPECT_EQ(Text("LBL_Weekday"), "Sa.");
+    Tippe("txt_UniStartZeitTag", "3");
+    EXPECT_EQ(Text("LBL_Weekday"), "Fr.");
+    EXPECT_EQ(Finde("LBL_Weekday").toolTip(), QStringLiteral("Freitag"));
+    Tippe("txt_UniStartZeitStunden", "25");
+    EXPECT_EQ(Text("LBL_Weekday"), "Fr.");
+    m_fenster.StarteSimulation(false);
+    EXPECT_EQ(m_boxen.Texte.back(), "Kein gültiges Datum eingegeben...");
+    EXPECT_EQ(Text("txt_UniStartZeitTag"), "03") << "padded although refused";
+    EXPECT_EQ(Text("LBL_Weekday"), "Err.") << "as the day's text changed";
+    Tippe("txt_UniStartZeitStunden", "12");
+    EXPECT_EQ(Text("LBL_Weekday"), "Err.");
+    m_fenster.StarteSimulation(false);
+    EXPECT_EQ(Text("LBL_Weekday"), "Fr.");
+    EXPECT_EQ(m_boxen.Texte.size(), 1U);
+    Tippe("txt_UniStartZeitStunden", "");
+    m_fenster.StarteSimulation(false);
+    EXPECT_EQ(Text("LBL_Weekday"), "Fr.") << "nothing that it follows has changed";
+}
+
+TEST_F(Fenster, KlickpufferSpeedfaktorUndBeschreibungen) {
+    auto& puffer = Finde<QSlider>("HSC_KlickPuffer");
+    QTest::keyClick(&puffer, Qt::Key_PageUp);
+    EXPECT_EQ(Text("LBL_KlickPuffer"), "00:15");
+    QTest::keyClick(&puffer, Qt::Key_End);
+    EXPECT_EQ(Text("LBL_KlickPuffer"), "10:00");
+    EXPECT_EQ(m_fenster.DerPlan().Parameter.KlickPuffer, 600);
+    Druecke("Chk_Speedfaktor");
+    EXPECT_EQ(m_fenster.DerLauf().Planet.Globale.Speedfaktor, 2);
+    Druecke("cmd_ShowDesc");
+    EXPECT_EQ(Text("cmd_ShowDesc"), "ein/AUS");
+    EXPECT_FALSE(Finde("LBLDesc(0)").isVisible() || Finde("LBLDesc(19)").isVisible());
+    EXPECT_TRUE(Finde("LBL_SKW_Stufe").isVisible());
+    Druecke("cmd_ShowDesc");
+    EXPECT_TRUE(Finde("LBLDesc(0)").isVisible() && Finde("LBLDesc(19)").isVisible());
+}
+
+TEST_F(Fenster, Schlafzeiten) {
+    Waehle("mnuSleep");
+    EXPECT_EQ(Text("LBL_Schlafendzeit"), "Sa.  18.11.2006 23:30");
+    Druecke("Cmd_RemoveSchlafzeit");
+    Druecke("Cmd_AddSchlafzeit");
+    EXPECT_EQ(Zelle("LV_Schlafzeiten", 0, 1), "18.11.2006 23:30");
+    Druecke("Cmd_AddSchlafzeit");
+    EXPECT_EQ(m_boxen.Texte.back(), "Kein überschneidenden Zeiträumen eingegeben...");
+    QTest::keyClick(
+        Finde("SchlafKalender").findChild<QWidget*>(QStringLiteral("qt_calendar_calendarview")),
+        Qt::Key_Right);
+    EXPECT_EQ(Text("LBL_Schlafendzeit"), "So.  19.11.2006 23:30");
+    Druecke("Cmd_AddSchlafzeit");
+    Tippe("txt_SchlafdauerMinuten", "x");
+    EXPECT_EQ(Text("LBL_Schlafendzeit"), "Error");
+    Druecke("Cmd_AddSchlafzeit");
+    EXPECT_EQ(m_boxen.Texte.back(), "Keine gültige Dauer eingegeben...");
+    Tippe("txt_SchlafdauerMinuten", "5");
+    Tippe("txt_SchlafStartStunden", "24");
+    Druecke("Cmd_AddSchlafzeit");
+    EXPECT_EQ(m_boxen.Texte.back(), "Kein gültiges Datum eingegeben...");
+    ASSERT_EQ(Zeilen("LV_Schlafzeiten"), 2);
+
+    auto& liste = Finde<QTreeView>("LV_Schlafzeiten");
+    liste.setCurrentIndex(liste.model()->index(0, 0));
+    Druecke("Cmd_RemoveSchlafzeit");
+    ASSERT_EQ(Zeilen("LV_Schlafzeiten"), 1);
+    EXPECT_EQ(Zelle("LV_Schlafzeiten", 0, 0), "19.11.2006 22:30");
+    liste.clearSelection();
+    Druecke("Cmd_RemoveSchlafzeit");
+    Druecke("Cmd_ClearSchlafzeiten");
+    EXPECT_EQ(Zeilen("LV_Schlafzeiten"), 1) << "answered with Nein";
+    m_boxen.Antwort = true;
+    Druecke("Cmd_ClearSchlafzeiten");
+    EXPECT_EQ(m_boxen.Texte.back(), "Wirklich alle löschen ?");
+    EXPECT_EQ(Zeilen("LV_Schlafzeiten"), 0);
+}
+
+// What the window shows of a stored plan is what the core makes of it.
+TEST_F(Fenster, ErgebnisIstDasDesKerns) {
+    Plan plan;
+    Lauf lauf;
+    Merker merker;
+    ASSERT_TRUE(
+        LadePlan(m_umgebung.Programmordner / "saves" / "basic.tvf", plan, lauf.Planet, merker));
+    m_fenster.UebernimmPlan(plan);
+    for (const char* const feld : kFelder) {
+        Finde(feld).show();
+    }
+    Druecke("Cmd_Simulate");
+    for (const char* const feld : kFelder) {
+        EXPECT_FALSE(Finde(feld).isVisible()) << feld;
+    }
+    ASSERT_EQ(RunSimulation(plan, lauf, merker, false), Laufausgang::Gelaufen);
+    Ergebnistexte texte;
+    texte.NachLauf(lauf.Planet.Globale);
+    EXPECT_EQ(Text("LBL_Timegone"), texte.LBL_Timegone);
+    EXPECT_EQ(Text("LBL_Timegone2"), texte.LBL_Timegone2);
+    EXPECT_EQ(Text("LBL_Met"), texte.LBL_Met);
+    EXPECT_EQ(Text("LBL_Kris"), texte.LBL_Kris);
+    EXPECT_EQ(Text("LBL_Deut"), texte.LBL_Deut);
+    EXPECT_EQ(Text("LBL_ENergie"), texte.LBL_ENergie);
+    EXPECT_EQ(Text("LBL_Punkte"), texte.LBL_Punkte);
+    EXPECT_EQ(Finde("LBL_Punkte").toolTip().toStdString(), texte.LBL_Punkte_Hinweis);
+    ASSERT_EQ(Zeilen("LV_Bauzeiten"), static_cast<int>(lauf.LV_Bauzeiten.size()));
+    auto& liste = Finde<QTreeView>("LV_Bauzeiten");
+    for (int i = 0; i < Zeilen("LV_Bauzeiten"); ++i) {
+        const Bauzeit& zeile = lauf.LV_Bauzeiten[static_cast<std::size_t>(i)];
+        EXPECT_EQ(Zelle("LV_Bauzeiten", i, 0), zeile.Wochentag());
+        EXPECT_EQ(Zelle("LV_Bauzeiten", i, 1), zeile.Uhrzeit());
+        EXPECT_EQ(Zelle("LV_Bauzeiten", i, 2), zeile.theText());
+    }
+    const QRect dritte = liste.visualRect(liste.model()->index(2, 0));
+    QTest::mouseMove(liste.viewport(), dritte.center());
+    EXPECT_EQ(liste.toolTip().toStdString(), lauf.LV_Bauzeiten[2].Tag());
+    Lade("GM");
+    m_fenster.StarteSimulation(true);
+    QTest::mouseMove(liste.viewport(), dritte.center() + QPoint(0, 1));
+    EXPECT_EQ(liste.toolTip(), QString()) << "no row there";
+}
+
+TEST_F(Fenster, ClearUndEingabefehlerLassenDenRestStehen) {
+    Lade("GM");
+    m_fenster.StarteSimulation(true);
+    const std::string punkte = Text("LBL_Punkte");
+    Druecke("Cmd_Clear");
+    EXPECT_EQ(Text("LBL_Timegone"), "Dauer: dd:hh:mm:ss");
+    EXPECT_NE(Text("LBL_Timegone2"), "Dauer: dd:hh:mm:ss");
+    EXPECT_EQ(Text("LBL_Met"), "500");
+    EXPECT_EQ(Text("LBL_MetMine_Stufe"), "0");
+    Druecke("Cmd_Simulate");
+    EXPECT_EQ(m_boxen.Texte.back(), "Die Bauliste ist leer...");
+    EXPECT_EQ(Text("LBL_Punkte"), punkte);
+    EXPECT_EQ(Zeilen("LV_Bauzeiten"), 1);
+}
+
+// A message in the middle of a run comes with the rows so far, and with what the reset wrote.
+TEST_F(Fenster, MeldungImLaufZeigtDenStandDesLaufs) {
+    class Zeuge final : public Dialoge {
+      public:
+        void Zeige(const Meldung&) override { BeiMeldung(); }
+        void Piepton() override {}
+        bool Stelle(const Frage&) override { return false; }
+        std::function<void()> BeiMeldung;
+    };
+    Zeuge zeuge;
+    Umgebung umgebung{zeuge, m_umgebung.Jetzt, m_umgebung.Programmordner};
+    frmMain fenster(umgebung);
+    const auto text = [&](const char* name) {
+        return fenster.findChild<QLabel*>(QString::fromUtf8(name))->text();
+    };
+    int meldungen = 0;
+    zeuge.BeiMeldung = [&] {
+        ++meldungen;
+        EXPECT_EQ(
+            fenster.findChild<QTreeView*>(QStringLiteral("LV_Bauzeiten"))->model()->rowCount(),
+            meldungen);
+        EXPECT_EQ(text("LBL_Punkte"), QStringLiteral("0"));
+        EXPECT_EQ(text("LBL_Timegone2"), QStringLiteral("Dauer: dd:hh:mm:ss"));
+    };
+    fenster.UebernimmPlan(PlanAus("GM"));
+    fenster.StarteSimulation(true);
+    // The lab costs deuterium, which nothing yields.
+    fenster.UebernimmPlan(PlanAus("GF GM"));
+    fenster.StarteSimulation(true);
+    EXPECT_EQ(meldungen, 2);
+}
+
+TEST_F(Fenster, EnterDruecktUeberallEinenKnopf) {
+    int laeufe = 0;
+    for (auto* const widget : m_fenster.findChildren<QWidget*>()) {
+        // A run closes the panels.
+        for (const char* const feld : kFelder) {
+            Finde(feld).show();
+        }
+        const auto* const knopf = qobject_cast<QAbstractButton*>(widget);
+        const bool druckknopf = knopf != nullptr && knopf->inherits("QPushButton");
+        if (!widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus) || druckknopf) {
+            continue;
+        }
+        m_boxen.Texte.clear();
+        widget->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        EXPECT_EQ(m_boxen.Texte, std::vector<std::string>{"Die Bauliste ist leer..."})
+            << widget->objectName().toStdString() << widget->metaObject()->className();
+        ++laeufe;
+    }
+    EXPECT_GT(laeufe, 40);
+    // A button that has the focus takes the key itself.
+    m_boxen.Texte.clear();
+    Finde("Fra_Special").show();
+    QTest::keyClick(&Finde("Cmd_AddProdaenderungsevent"), Qt::Key_Return);
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 1);
+    EXPECT_TRUE(m_boxen.Texte.empty());
+}
+
+TEST_F(Fenster, TabErreichtAllesDerReiheNachUndAllesHatEinenNamen) {
+    for (const char* const feld : kFelder) {
+        Finde(feld).show();
+    }
+    QSet<QWidget*> erreicht;
+    std::vector<std::string> reihe;
+    Finde("LV_Bauliste").setFocus();
+    while (!erreicht.contains(QApplication::focusWidget())) {
+        erreicht.insert(QApplication::focusWidget());
+        reihe.push_back(QApplication::focusWidget()->objectName().toStdString());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    for (auto* const widget : m_fenster.findChildren<QWidget*>()) {
+        const bool gewaehlt =
+            !widget->inherits("QRadioButton") || widget->property("checked").toBool();
+        if (!widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus) || !gewaehlt ||
+            !widget->isEnabled() || widget->focusProxy() != nullptr) {
+            continue;
+        }
+        EXPECT_TRUE(erreicht.contains(widget))
+            << widget->objectName().toStdString() << widget->metaObject()->className();
+        const auto* const zugang = QAccessible::queryAccessibleInterface(widget);
+        EXPECT_FALSE(zugang->text(QAccessible::Name).isEmpty() &&
+                     !widget->parent()->inherits("QCalendarWidget") &&
+                     !widget->parent()->inherits("QComboBox"))
+            << widget->objectName().toStdString();
+    }
+    const auto stelle = [&](const char* name) { return std::ranges::find(reihe, name); };
+    EXPECT_LT(stelle("Cmd_Simulate"), stelle("ImgMetMine"));
+    EXPECT_LT(stelle("ImgMetMine"), stelle("imgSpios"));
+    EXPECT_LT(stelle("imgSpios"), stelle("LV_Bauzeiten"));
+    EXPECT_LT(stelle("txt_SchlafStartStunden"), stelle("Cmd_AddSchlafzeit"));
+}
+
+TEST_F(Fenster, GeteilteBuchstabenWandernImMenue) {
+    auto* const menue = m_fenster.menuBar();
+    const auto druecke = [&](Qt::Key taste) {
+        QTest::keyClick(&m_fenster, taste, Qt::AltModifier);
+        return menue->activeAction() == nullptr ? std::string()
+                                                : menue->activeAction()->objectName().toStdString();
+    };
+    EXPECT_EQ(druecke(Qt::Key_E), "mnuEinstellungen");
+    EXPECT_EQ(druecke(Qt::Key_E), "mnu_SpecialEvents");
+    EXPECT_EQ(druecke(Qt::Key_E), "mnuEinstellungen");
+    EXPECT_TRUE(Finde("Fra_Einstellungen").isVisible()) << "nothing is carried out yet";
+    QTest::keyClick(menue, Qt::Key_Return);
+    EXPECT_FALSE(Finde("Fra_Einstellungen").isVisible());
+    EXPECT_EQ(QApplication::focusWidget(), &Finde("LV_Bauliste"));
+    EXPECT_EQ(druecke(Qt::Key_S), "mnuSleep");
+    EXPECT_EQ(druecke(Qt::Key_S), "mnuSkin");
+    QTest::keyClick(menue, Qt::Key_Escape);
+    EXPECT_EQ(QApplication::focusWidget(), &Finde("LV_Bauliste"));
+    EXPECT_FALSE(Finde("Fra_Skin").isVisible());
+}
+
+}  // namespace
+}  // namespace tarvelin

@@ -1,0 +1,68 @@
+// The real message boxes, pressed by a timer.
+#include "ui/Meldungsfenster.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QTimer>
+
+#include "Hilfen.h"
+
+namespace tarvelin {
+namespace {
+
+/// Presses a button of the box that comes up, and keeps what it showed.
+class Druecker {
+  public:
+    explicit Druecker(const QString& knopf) {
+        m_takt.setInterval(10);
+        QObject::connect(&m_takt, &QTimer::timeout, [this, knopf] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr) {
+                return;
+            }
+            Titel = box->windowTitle();
+            Symbol = box->icon();
+            Text = box->text();
+            Format = box->textFormat();
+            for (QAbstractButton* const b : box->buttons()) {
+                Knoepfe << b->text().remove(QLatin1Char('&'));
+                if (Knoepfe.back() == knopf) {
+                    b->click();
+                }
+            }
+        });
+        m_takt.start();
+    }
+
+    QString Titel;
+    QString Text;
+    QStringList Knoepfe;
+    QMessageBox::Icon Symbol{};
+    Qt::TextFormat Format{};
+
+  private:
+    QTimer m_takt;
+};
+
+TEST(Meldungsfenster, ZeigtMeldungenWieSieSind) {
+    Druecker druecker(QStringLiteral("OK"));
+    Meldungsfenster().Zeige({.Text = "a < b & <b>c</b>", .Titel = ""});
+    EXPECT_EQ(druecker.Titel, QStringLiteral("Tarvelin"));
+    EXPECT_EQ(druecker.Text, QStringLiteral("a < b & <b>c</b>"));
+    EXPECT_EQ(druecker.Format, Qt::PlainText);
+    EXPECT_EQ(druecker.Symbol, QMessageBox::Critical);
+    EXPECT_EQ(druecker.Knoepfe, QStringList{QStringLiteral("OK")});
+}
+
+TEST(Meldungsfenster, FragtAufDeutsch) {
+    for (const bool ja : {true, false}) {
+        Druecker druecker(ja ? QStringLiteral("Ja") : QStringLiteral("Nein"));
+        EXPECT_EQ(Meldungsfenster().Stelle({.Text = "Wirklich?", .Titel = "Frage..."}), ja);
+        EXPECT_EQ(druecker.Titel, QStringLiteral("Frage..."));
+        EXPECT_EQ(druecker.Knoepfe.size(), 2);
+    }
+}
+
+}  // namespace
+}  // namespace tarvelin
