@@ -1,16 +1,18 @@
 #!/usr/bin/env bash
-# Installs what is needed, builds Tarvelin and starts it: without an argument the program itself
-# (as long as it has no window, and without a screen: the timetable of the starter plan), with plan
-# files the timetable of each.
+# Installs what is needed, builds Tarvelin and starts it: without an argument its window (where there
+# is no screen, the timetable of the starter plan), with plan files the timetable of each.
 set -euo pipefail
 ordner=$(cd "$(dirname "$0")" && pwd)
 . "$ordner/cmake/pakete.sh"
 
 # The timetable alone goes to the output, so that it can be piped.
 stelle_bereit "${BAU_PAKETE[@]}" >&2
-baue "$ordner" release tarvelin-cli tarvelin_daten >&2
+baue "$ordner" release tarvelin tarvelin-cli tarvelin_daten >&2
 
 programm="$ordner/build/release/bin"
+if [ $# -eq 0 ] && [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    exec "$programm/tarvelin"
+fi
 if [ $# -eq 0 ]; then
     set -- "$programm/saves/basic.tvf"
 fi

@@ -20,10 +20,7 @@ QList<QAction*> MitBuchstabe(const QList<QAction*>& eintraege, const QKeySequenc
 
 }  // namespace
 
-Menueleiste::Menueleiste(QWidget* parent) : QMenuBar(parent) {
-    constexpr int kHoehe = 22;
-    setFixedHeight(kHoehe);
-}
+Menueleiste::Menueleiste(QWidget* parent) : QMenuBar(parent) {}
 
 bool Menueleiste::event(QEvent* event) {
     if (event->type() == QEvent::Shortcut) {

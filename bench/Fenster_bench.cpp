@@ -1,0 +1,104 @@
+// How long the window keeps the player waiting: start, a long plan, the hints.
+#include <benchmark/benchmark.h>
+
+#include <QLabel>
+#include <QTest>
+
+#include "plan/ItemCode.h"
+#include "ui/Aussehen.h"
+#include "ui/frmMain.h"
+
+namespace tarvelin {
+namespace {
+
+class Stumm final : public Dialoge {
+  public:
+    void Zeige(const Meldung& /*meldung*/) override {}
+    void Piepton() override {}
+    bool Stelle(const Frage& /*frage*/) override { return false; }
+};
+
+struct Welt {
+    Stumm Boxen;
+    tarvelin::Umgebung Umgebung{
+        .Boxen = Boxen,
+        .Jetzt = [] { return *LiesDatumzeit("18.11.2006 12:30:00"); },
+        .Programmordner = QCoreApplication::applicationDirPath().toStdString()};
+};
+
+/// Shown, with every event behind it that painting takes.
+void ZeigeGanz(frmMain& fenster) {
+    fenster.show();
+    while (!QTest::qWaitForWindowExposed(&fenster)) {
+    }
+    fenster.grab();
+}
+
+/// As many rows as a list can hold, all items in turn.
+void Fuelle(const frmMain& fenster) {
+    auto* const liste = fenster.findChild<Baulistenansicht*>();
+    for (std::size_t i = 0; i < Bauliste::kHoechstzahl; ++i) {
+        const std::string_view bild = ItemTabelle()[i % kItemAnzahl].Bild;
+        emit liste->DragDrop(QString::fromLatin1(bild.data(), static_cast<int>(bild.size())));
+    }
+}
+
+void Start(benchmark::State& state) {
+    const Welt welt;
+    for (auto _ : state) {
+        frmMain fenster(welt.Umgebung);
+        ZeigeGanz(fenster);
+    }
+}
+BENCHMARK(Start)->Unit(benchmark::kMillisecond);
+
+void LangerPlanZeileFuerZeile(benchmark::State& state) {
+    const Welt welt;
+    frmMain fenster(welt.Umgebung);
+    ZeigeGanz(fenster);
+    auto* const leeren = fenster.findChild<QPushButton*>(QStringLiteral("Cmd_Clear"));
+    for (auto _ : state) {
+        leeren->click();
+        Fuelle(fenster);
+        fenster.grab();
+    }
+}
+BENCHMARK(LangerPlanZeileFuerZeile)->Unit(benchmark::kMillisecond);
+
+void LangerPlanSimuliertUndGezeigt(benchmark::State& state) {
+    const Welt welt;
+    frmMain fenster(welt.Umgebung);
+    ZeigeGanz(fenster);
+    Fuelle(fenster);
+    for (auto _ : state) {
+        fenster.StarteSimulation(true);
+        fenster.grab();
+    }
+}
+BENCHMARK(LangerPlanSimuliertUndGezeigt)->Unit(benchmark::kMillisecond);
+
+void EineBewegungUeberEinemBild(benchmark::State& state) {
+    const Welt welt;
+    frmMain fenster(welt.Umgebung);
+    ZeigeGanz(fenster);
+    Fuelle(fenster);
+    auto* const bild = fenster.findChild<Itembild*>(QStringLiteral("ImgMetMine"));
+    for (auto _ : state) {
+        emit bild->MouseMove();
+    }
+}
+BENCHMARK(EineBewegungUeberEinemBild)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+}  // namespace tarvelin
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    benchmark::Initialize(&argc, argv);
+    QApplication programm(argc, argv);
+    tarvelin::StelleAussehenEin(programm);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

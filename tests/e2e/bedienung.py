@@ -1,0 +1,113 @@
+"""A player at the window: finds controls as a screen reader does, moves mouse and keys for real."""
+import os
+import shutil
+import subprocess
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi  # noqa: E402
+
+
+class Fehler(Exception):
+    """What the player was looking for did not come."""
+
+
+def warte(bedingung, was, sekunden=30):
+    """The first true value of `bedingung`."""
+    ende = time.monotonic() + sekunden
+    while time.monotonic() < ende:
+        try:
+            wert = bedingung()
+        except gi.repository.GLib.Error:  # the tree changes while we read it
+            wert = None
+        if wert:
+            return wert
+        time.sleep(0.05)
+    raise Fehler(f"{was}: nothing within {sekunden} s")
+
+
+def xdotool(*worte):
+    subprocess.run(["xdotool", *map(str, worte)], check=True)
+
+
+def baum(knoten):
+    yield knoten
+    for i in range(knoten.get_child_count()):
+        kind = knoten.get_child_at_index(i)
+        if kind is not None:
+            yield from baum(kind)
+
+
+class Programm:
+    """The program in a copy of its folder, from its start to its end."""
+
+    def __init__(self, bin_ordner, ordner):
+        shutil.copytree(bin_ordner, ordner, dirs_exist_ok=True)
+        umgebung = {**os.environ, "LC_ALL": "C.UTF-8"}
+        self.prozess = subprocess.Popen([os.path.join(ordner, "tarvelin")], env=umgebung)
+        self.fenster = warte(self._fenster, "the window")
+        self.nummer = subprocess.check_output(
+            ["xdotool", "search", "--sync", "--onlyvisible", "--name", "Kelva Aufbau"],
+            text=True).split()[-1]
+        xdotool("windowactivate", "--sync", self.nummer)
+
+    def _fenster(self):
+        tisch = Atspi.get_desktop(0)
+        for i in range(tisch.get_child_count()):
+            programm = tisch.get_child_at_index(i)
+            if programm and programm.get_process_id() == self.prozess.pid:
+                return programm.get_child_at_index(0)
+        return None
+
+    def finde(self, rolle, name, nummer=0):
+        """The control of a role and name; among several the one of this number."""
+        def suche():
+            treffer = [k for k in baum(self.fenster)
+                       if k.get_role_name() == rolle and k.get_name() == name]
+            return treffer[nummer] if len(treffer) > nummer else None
+        return warte(suche, f"{rolle} {name!r}")
+
+    @staticmethod
+    def mitte(knoten, anteil=0.5):
+        ort = knoten.get_extents(Atspi.CoordType.SCREEN)
+        pixel = float(os.environ.get("QT_SCALE_FACTOR", 1))
+        return int((ort.x + ort.width * anteil) * pixel), int((ort.y + ort.height / 2) * pixel)
+
+    def klicke(self, rolle, name, nummer=0, anteil=0.5):
+        xdotool("mousemove", *self.mitte(self.finde(rolle, name, nummer), anteil), "click", 1)
+
+    def tippe(self, name, text):
+        self.klicke("text", name)
+        xdotool("key", "ctrl+a", "type", text)
+        warte(lambda: self.text(name) == text, f"{text!r} in {name}")
+
+    def text(self, name):
+        knoten = self.finde("text", name)
+        return Atspi.Text.get_text(knoten, 0, -1)
+
+    def ziehe(self, bild, bis_zeilen):
+        """Drags a picture into the build list, which then has that many rows."""
+        x, y = self.mitte(self.finde("image", bild))
+        zu_x, zu_y = self.mitte(self.finde("tree", "Bauliste"))
+        # The pointer has to come over the picture, which opens it, before it can press there.
+        xdotool("mousemove", x - 3, y, "mousemove", x, y, "sleep", 0.05, "mousedown", 1,
+                "sleep", 0.05, "mousemove", zu_x, zu_y, "mousemove", zu_x + 3, zu_y,
+                "sleep", 0.05, "mouseup", 1)
+        warte(lambda: len(self.zeilen("Bauliste", 3)) == bis_zeilen, f"row of {bild}")
+
+    def zeilen(self, liste, spalten):
+        """The cells of a list, row by row."""
+        baumknoten = self.finde("tree", liste)
+        zellen = [baumknoten.get_child_at_index(i)
+                  for i in range(spalten, baumknoten.get_child_count())]
+        return [zellen[i:i + spalten] for i in range(0, len(zellen), spalten)]
+
+    def aufnahme(self, datei):
+        subprocess.run(["import", "-window", self.nummer, datei], check=True)
+
+    def beende(self):
+        """Closes the program by its menu. Its exit code."""
+        xdotool("windowactivate", "--sync", self.nummer, "key", "alt+d", "sleep", 0.3, "key", "b")
+        return self.prozess.wait(timeout=30)
