@@ -1,5 +1,6 @@
 // The rooms of the house: who may include whom, and that the build knows every source.
 #include <map>
+#include <regex>
 #include <set>
 #include <sstream>
 
@@ -84,6 +85,23 @@ TEST(Struktur, KeinKreisZwischenDateien) {
     for (const auto& [quelle, ziele] : pfeile) {
         ADD_FAILURE() << quelle << " stands in a circle of includes or leads into one";
     }
+}
+
+TEST(Struktur, JedesGenannteBildLiegtBeiDenDaten) {
+    std::set<std::string> daten;
+    for (const auto& e : std::filesystem::recursive_directory_iterator(kWurzel / "data")) {
+        daten.insert(e.path().filename().string());
+    }
+    const std::regex name("\"([^\"/]+\\.(gif|png|ico|wav))\"");
+    std::size_t genannt = 0;
+    for (const auto& quelle : Quellen()) {
+        const std::string text = LiesDatei(kWurzel / "src" / quelle);
+        for (std::sregex_iterator treffer(text.begin(), text.end(), name), ende; treffer != ende;
+             ++treffer, ++genannt) {
+            EXPECT_TRUE(daten.contains((*treffer)[1])) << quelle << " names " << (*treffer)[1];
+        }
+    }
+    EXPECT_GT(genannt, 0U);
 }
 
 TEST(Struktur, DerBauKenntJedeQuelle) {

@@ -46,7 +46,7 @@ QSize Gruppe::sizeHint() const {
 }
 
 QSize Gruppe::minimumSizeHint() const {
-    return QWidget::minimumSizeHint();
+    return QWidget::minimumSizeHint();  // NOLINT(bugprone-parent-virtual-call): passed on purpose
 }
 
 void Gruppe::resizeEvent(QResizeEvent* event) {

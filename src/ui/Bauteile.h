@@ -56,7 +56,7 @@ class Eingabe : public QLineEdit {
     Eingabe(const QString& name, const QString& bedeutung, int grenze, QWidget* parent);
 
     /// Sets a text of any length. Whether it differs from the one before.
-    bool Setze(const std::string& text);
+    bool Setze(const std::string& neu);
     [[nodiscard]] std::string Text() const { return text().toStdString(); }
 
   private:

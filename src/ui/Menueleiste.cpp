@@ -40,7 +40,7 @@ bool Menueleiste::event(QEvent* event) {
 
 void Menueleiste::keyPressEvent(QKeyEvent* event) {
     QMenuBar::keyPressEvent(event);
-    if (activeAction() == nullptr && hasFocus() && m_vorher) {
+    if (activeAction() == nullptr && hasFocus() && m_vorher != nullptr) {
         m_vorher->setFocus(Qt::MenuBarFocusReason);
     }
 }
