@@ -85,7 +85,7 @@ TEST(Bauliste, UndoNimmtAuchUnbekannteZeilen) {
 TEST(Bauliste, WeistUnbekanntesUndDie255teZeileAb) {
     const Startplanet planet;
     Bauliste liste;
-    EXPECT_EQ(*liste.DragDrop("LV_Bauzeiten", planet), (Meldung{"KA", ""}));
+    EXPECT_EQ(*liste.DragDrop("LV_Bauzeiten", planet), (Meldung{"KA", "", Meldungssymbol::Ohne}));
     while (!liste.IstVoll()) {
         ASSERT_FALSE(liste.DragDrop("ImgDeutMine", planet));
     }
