@@ -86,7 +86,11 @@ TEST_F(Fenster, ListenFassenIhreLaengstenTexte) {
             summe += liste.columnWidth(spalte);
             for (int zeile = 0; zeile < liste.model()->rowCount(); ++zeile) {
                 const QString text = liste.model()->index(zeile, spalte).data().toString();
-                EXPECT_LE(liste.fontMetrics().horizontalAdvance(text), liste.columnWidth(spalte))
+                // The style keeps at least one pixel on either side.
+                const int rand =
+                    liste.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &liste) + 1;
+                EXPECT_LE(liste.fontMetrics().horizontalAdvance(text) + 2 * rand,
+                          liste.columnWidth(spalte))
                     << name << ": " << text.toStdString();
             }
         }
@@ -158,8 +162,6 @@ TEST_F(Fenster, GateFolgtDerListeBeiJederBewegung) {
     EXPECT_EQ(bild.cursor().shape(), Qt::ForbiddenCursor);
     EXPECT_EQ(bild.toolTip(), QStringLiteral(" Noch keine Deuteriummine oder kein Solarkraftwerk "
                                              "in der Bauliste, bauen wäre unmöglich! "));
-    // A press on a closed picture starts nothing, nor does the keyboard.
-    QTest::mouseClick(&bild, Qt::LeftButton);
     QTest::keyClick(&bild, Qt::Key_Space);
     EXPECT_EQ(Zeilen("LV_Bauliste"), 0);
     Lade("GD GS");
@@ -171,6 +173,9 @@ TEST_F(Fenster, GateFolgtDerListeBeiJederBewegung) {
     EXPECT_EQ(Zelle("LV_Bauliste", 2, 1), "Robofabrik Stufe: 1");
     EXPECT_EQ(Text("LBL_Robo_Stufe"), "1");
     EXPECT_TRUE(bild.toolTip().contains(QStringLiteral("Met: 800"))) << "the next row's costs";
+    Lade("GM");
+    QTest::keyClick(&bild, Qt::Key_Space);
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 1) << "the list changed under the focus";
 }
 
 TEST_F(Fenster, FremdesWirdNirgendsAbgelegt) {
@@ -241,6 +246,21 @@ TEST_F(Fenster, ProduktionszeileNimmtDieReglerUndLaesstSieStehen) {
     EXPECT_EQ(kristall.value(), 3);
 }
 
+TEST_F(Fenster, EingabenLassenSichInDerMitteAendern) {
+    auto& jahr = Finde<QLineEdit>("txt_UniStartZeitJahr");
+    QTest::keyClick(&jahr, Qt::Key_Home);
+    QTest::keyClick(&jahr, Qt::Key_Delete);
+    QTest::keyClicks(&jahr, QStringLiteral("1"));
+    EXPECT_EQ(Text("txt_UniStartZeitJahr"), "1006");
+    QTest::keyClick(&jahr, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(&jahr, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Text("txt_UniStartZeitJahr"), "2006");
+    // As a screen reader sets it.
+    jahr.setText(QStringLiteral("2007"));
+    EXPECT_EQ(m_fenster.DerPlan().Parameter.UniStartZeitJahr, "2007");
+    EXPECT_EQ(Text("LBL_Weekday"), "So.");
+}
+
 TEST_F(Fenster, EingabenBegrenzenNurTippenUndEinfuegen) {
     Tippe("txt_UniStartZeitTag", "123");
     EXPECT_EQ(Text("txt_UniStartZeitTag"), "12");
@@ -300,6 +320,16 @@ TEST_F(Fenster, WochentagFolgtDemDatumUndNichtDerUhrzeit) {
     EXPECT_EQ(Text("LBL_Weekday"), "Fr.") << "nothing that it follows has changed";
 }
 
+// The day is padded before the message about the date comes up.
+TEST_F(Fenster, DatumsmeldungZeigtDenAufgefuelltenTag) {
+    Lade("GM");
+    Tippe("txt_UniStartZeitMinuten", "x");
+    Tippe("txt_UniStartZeitTag", "5");
+    m_boxen.BeiMeldung = [this] { EXPECT_EQ(Text("txt_UniStartZeitTag"), "05"); };
+    m_fenster.StarteSimulation(false);
+    EXPECT_EQ(m_boxen.Texte.size(), 1U);
+}
+
 TEST_F(Fenster, KlickpufferSpeedfaktorUndBeschreibungen) {
     auto& puffer = Finde<QSlider>("HSC_KlickPuffer");
     QTest::keyClick(&puffer, Qt::Key_PageUp);
@@ -325,9 +355,13 @@ TEST_F(Fenster, Schlafzeiten) {
     EXPECT_EQ(Zelle("LV_Schlafzeiten", 0, 1), "18.11.2006 23:30");
     Druecke("Cmd_AddSchlafzeit");
     EXPECT_EQ(m_boxen.Texte.back(), "Kein überschneidenden Zeiträumen eingegeben...");
-    QTest::keyClick(
-        Finde("SchlafKalender").findChild<QWidget*>(QStringLiteral("qt_calendar_calendarview")),
-        Qt::Key_Right);
+    // Another page takes the selected day along.
+    auto& kalender = Finde<QCalendarWidget>("SchlafKalender");
+    kalender.showNextMonth();
+    EXPECT_EQ(Text("LBL_Schlafendzeit"), "Mo.  18.12.2006 23:30");
+    kalender.showPreviousMonth();
+    QTest::keyClick(kalender.findChild<QWidget*>(QStringLiteral("qt_calendar_calendarview")),
+                    Qt::Key_Right);
     EXPECT_EQ(Text("LBL_Schlafendzeit"), "So.  19.11.2006 23:30");
     Druecke("Cmd_AddSchlafzeit");
     Tippe("txt_SchlafdauerMinuten", "x");
@@ -415,34 +449,33 @@ TEST_F(Fenster, ClearUndEingabefehlerLassenDenRestStehen) {
 
 // A message in the middle of a run comes with the rows so far, and with what the reset wrote.
 TEST_F(Fenster, MeldungImLaufZeigtDenStandDesLaufs) {
-    class Zeuge final : public Dialoge {
-      public:
-        void Zeige(const Meldung&) override { BeiMeldung(); }
-        void Piepton() override {}
-        bool Stelle(const Frage&) override { return false; }
-        std::function<void()> BeiMeldung;
-    };
-    Zeuge zeuge;
-    Umgebung umgebung{zeuge, m_umgebung.Jetzt, m_umgebung.Programmordner};
-    frmMain fenster(umgebung);
-    const auto text = [&](const char* name) {
-        return fenster.findChild<QLabel*>(QString::fromUtf8(name))->text();
-    };
+    Lade("GM");
+    m_fenster.StarteSimulation(true);
     int meldungen = 0;
-    zeuge.BeiMeldung = [&] {
-        ++meldungen;
-        EXPECT_EQ(
-            fenster.findChild<QTreeView*>(QStringLiteral("LV_Bauzeiten"))->model()->rowCount(),
-            meldungen);
-        EXPECT_EQ(text("LBL_Punkte"), QStringLiteral("0"));
-        EXPECT_EQ(text("LBL_Timegone2"), QStringLiteral("Dauer: dd:hh:mm:ss"));
+    m_boxen.BeiMeldung = [&] {
+        EXPECT_EQ(Zeilen("LV_Bauzeiten"), ++meldungen);
+        EXPECT_EQ(Text("LBL_Punkte"), "0");
+        EXPECT_EQ(Text("LBL_Timegone2"), "Dauer: dd:hh:mm:ss");
     };
-    fenster.UebernimmPlan(PlanAus("GM"));
-    fenster.StarteSimulation(true);
     // The lab costs deuterium, which nothing yields.
-    fenster.UebernimmPlan(PlanAus("GF GM"));
-    fenster.StarteSimulation(true);
+    Lade("GF GM");
+    m_fenster.StarteSimulation(true);
     EXPECT_EQ(meldungen, 2);
+}
+
+TEST_F(Fenster, NeuerLaufBeginntMitLeererListe) {
+    Plan plan;
+    for (int i = 0; i < 60; ++i) {
+        ASSERT_FALSE(plan.Liste.DragDrop("ImgSKW", m_fenster.DerLauf().Planet));
+    }
+    plan.Parameter = m_fenster.DerPlan().Parameter;
+    m_fenster.UebernimmPlan(plan);
+    m_fenster.StarteSimulation(true);
+    auto& liste = Finde<QTreeView>("LV_Bauzeiten");
+    liste.setCurrentIndex(liste.model()->index(59, 0));
+    m_fenster.StarteSimulation(true);
+    EXPECT_FALSE(liste.currentIndex().isValid());
+    EXPECT_TRUE(liste.viewport()->rect().contains(liste.visualRect(liste.model()->index(0, 0))));
 }
 
 TEST_F(Fenster, EnterDruecktUeberallEinenKnopf) {
@@ -520,12 +553,22 @@ TEST_F(Fenster, GeteilteBuchstabenWandernImMenue) {
     EXPECT_TRUE(Finde("Fra_Einstellungen").isVisible()) << "nothing is carried out yet";
     QTest::keyClick(menue, Qt::Key_Return);
     EXPECT_FALSE(Finde("Fra_Einstellungen").isVisible());
-    EXPECT_EQ(QApplication::focusWidget(), &Finde("LV_Bauliste"));
+    Finde("LV_Bauliste").setFocus();
     EXPECT_EQ(druecke(Qt::Key_S), "mnuSleep");
     EXPECT_EQ(druecke(Qt::Key_S), "mnuSkin");
     QTest::keyClick(menue, Qt::Key_Escape);
     EXPECT_EQ(QApplication::focusWidget(), &Finde("LV_Bauliste"));
     EXPECT_FALSE(Finde("Fra_Skin").isVisible());
+    // A click elsewhere ends the walk, and the focus never goes to what a panel took away.
+    druecke(Qt::Key_S);
+    QTest::mouseClick(&Finde("Frame9"), Qt::LeftButton);
+    EXPECT_EQ(menue->activeAction(), nullptr);
+    Finde("Fra_Sleep").show();
+    Finde("Cmd_ClearSchlafzeiten").setFocus();
+    druecke(Qt::Key_S);
+    QTest::keyClick(menue, Qt::Key_Return);
+    EXPECT_FALSE(Finde("Fra_Sleep").isVisible());
+    EXPECT_TRUE(QApplication::focusWidget() == nullptr || QApplication::focusWidget()->isVisible());
 }
 
 }  // namespace

@@ -16,7 +16,12 @@ namespace tarvelin {
 /// Keeps messages and questions, and answers at once.
 class Boxenmerker final : public Dialoge {
   public:
-    void Zeige(const Meldung& meldung) override { Texte.push_back(meldung.Text); }
+    void Zeige(const Meldung& meldung) override {
+        Texte.push_back(meldung.Text);
+        if (BeiMeldung) {
+            BeiMeldung();
+        }
+    }
     void Piepton() override {}
     bool Stelle(const Frage& frage) override {
         Texte.push_back(frage.Text);
@@ -24,6 +29,7 @@ class Boxenmerker final : public Dialoge {
     }
 
     std::vector<std::string> Texte;
+    std::function<void()> BeiMeldung;
     bool Antwort = false;
 };
 

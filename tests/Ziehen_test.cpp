@@ -9,7 +9,6 @@ namespace {
 using Ziehen = Fenster;
 
 TEST_F(Ziehen, VomBildInDieListe) {
-    m_fenster.StarteSimulation(true);
     Finde("Fra_Einstellungen").hide();
     const auto ziehe = [&](const char* bild, QPoint ziel) {
         QTimer::singleShot(0, &m_fenster, [this, ziel] {
@@ -20,6 +19,10 @@ TEST_F(Ziehen, VomBildInDieListe) {
     };
     auto& liste = Finde("LV_Bauliste");
     const QPoint mitten = liste.mapTo(&m_fenster, liste.rect().center());
+    const auto& robo = Finde("ImgRobo");
+    QTest::mouseMove(m_fenster.windowHandle(), robo.mapTo(&m_fenster, robo.rect().center()));
+    ziehe("ImgRobo", mitten);
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 0) << "its gate is closed";
     ziehe("ImgSKW", mitten);
     ziehe("ImgDeutMine", mitten);
     ziehe("ImgDeutMine", Finde("LV_Bauzeiten").mapTo(&m_fenster, QPoint(20, 20)));

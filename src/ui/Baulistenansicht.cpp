@@ -27,6 +27,19 @@ Baulistenansicht::Baulistenansicht(QWidget* parent)
     setAcceptDrops(true);
 }
 
+// The bar at the side belongs to the list as much as the rows do.
+bool Baulistenansicht::event(QEvent* event) {
+    switch (event->type()) {
+        case QEvent::DragEnter:
+        case QEvent::DragMove:
+        case QEvent::Drop:
+            return QWidget::event(
+                event);  // NOLINT(bugprone-parent-virtual-call): passed on purpose
+        default:
+            return Liste::event(event);
+    }
+}
+
 void Baulistenansicht::dragEnterEvent(QDragEnterEvent* event) {
     NimmBildAn(*event);
 }

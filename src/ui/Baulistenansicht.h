@@ -17,6 +17,7 @@ class Baulistenansicht : public Liste {
     void DragDrop(const QString& Source);
 
   protected:
+    bool event(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;

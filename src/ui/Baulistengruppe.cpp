@@ -34,10 +34,10 @@ Baulistengruppe::Baulistengruppe(const Bauliste& liste, QWidget* parent)
           NeuerKnopf(QStringLiteral("Cmd_Simulate"), QStringLiteral("Simulation starten"), this)),
       m_modell(new Tabellenmodell({{}, {}, {}}, QuelleVon(liste), this)),
       m_vorraete(new QGridLayout),
-      m_LBL_Met(NeuerVorrat(0, QStringLiteral(" Metall "), QStringLiteral("LBL_Met"))),
-      m_LBL_Kris(NeuerVorrat(1, QStringLiteral(" Kristall "), QStringLiteral("LBL_Kris"))),
-      m_LBL_Deut(NeuerVorrat(2, QStringLiteral(" Deuterium "), QStringLiteral("LBL_Deut"))),
-      m_LBL_ENergie(NeuerVorrat(3, QStringLiteral(" Energie "), QStringLiteral("LBL_ENergie"))),
+      m_LBL_Met(NeuerVorrat(0, 5, QStringLiteral(" Metall "), QStringLiteral("LBL_Met"))),
+      m_LBL_Kris(NeuerVorrat(1, 5, QStringLiteral(" Kristall "), QStringLiteral("LBL_Kris"))),
+      m_LBL_Deut(NeuerVorrat(2, 5, QStringLiteral(" Deuterium "), QStringLiteral("LBL_Deut"))),
+      m_LBL_ENergie(NeuerVorrat(3, 7, QStringLiteral(" Energie "), QStringLiteral("LBL_ENergie"))),
       m_LBL_Timegone(NeuesLabel(QStringLiteral("LBL_Timegone"), {}, this)) {
     LV_Bauliste->setModel(m_modell);
     QLabel* const prod =
@@ -62,17 +62,20 @@ Baulistengruppe::Baulistengruppe(const Bauliste& liste, QWidget* parent)
     layout->setColumnStretch(2, 5);
 }
 
-QLabel* Baulistengruppe::NeuerVorrat(int nummer, const QString& hinweis, const QString& name) {
+QLabel* Baulistengruppe::NeuerVorrat(int nummer, int breite, const QString& hinweis,
+                                     const QString& name) {
     QLabel* const bild =
         NeuesBild(QStringLiteral("Images(%1)").arg(nummer), {26, 26}, hinweis, this);
     QLabel* const label = NeuesLabel(name, {}, this);
     label->setAlignment(Qt::AlignCenter);
     label->setAccessibleDescription(hinweis.trimmed());
+    // However long a figure, the group keeps its form.
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_vorraete->setHorizontalSpacing(2);
     m_vorraete->setVerticalSpacing(1);
     m_vorraete->addWidget(bild, 0, nummer, Qt::AlignCenter);
     m_vorraete->addWidget(label, 1, nummer);
-    m_vorraete->setColumnStretch(nummer, 1);
+    m_vorraete->setColumnStretch(nummer, breite);
     return label;
 }
 

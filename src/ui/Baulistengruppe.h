@@ -29,7 +29,7 @@ class Baulistengruppe : public Gruppe {
     QPushButton* const Cmd_Simulate;
 
   private:
-    QLabel* NeuerVorrat(int nummer, const QString& hinweis, const QString& name);
+    QLabel* NeuerVorrat(int nummer, int breite, const QString& hinweis, const QString& name);
 
     Tabellenmodell* m_modell;
     QGridLayout* m_vorraete;

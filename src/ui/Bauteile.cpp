@@ -4,6 +4,7 @@
 #include <QCursor>
 #include <QPainter>
 #include <QResizeEvent>
+#include <QSignalBlocker>
 #include <QToolTip>
 #include <algorithm>
 
@@ -59,14 +60,13 @@ void Gruppe::resizeEvent(QResizeEvent* event) {
 }
 
 void Gruppe::paintEvent(QPaintEvent* /*event*/) {
-    constexpr int kRahmenfarbe = 70;
     constexpr qreal kRundung = 3;
     QPainter painter(this);
     painter.setPen(palette().windowText().color());
     painter.drawText(QRect(kTitelrand, 0, width(), kTitelhoehe),
                      static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), title());
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QColor(0, 0, 0, kRahmenfarbe));
+    painter.setPen(palette().mid().color());
     constexpr qreal kHalb = 0.5;
     painter.drawRoundedRect(QRectF(rect()).adjusted(kHalb, kTitelhoehe + kHalb, -kHalb, -kHalb),
                             kRundung, kRundung);
@@ -80,8 +80,8 @@ Eingabe::Eingabe(const QString& name, const QString& bedeutung, int grenze, QWid
     constexpr int kHoehe = 18;
     setFixedHeight(kHoehe);
     setMaxLength(grenze);
-    connect(this, &QLineEdit::textEdited, this,
-            [this](const QString& neu) { BegrenzeAufs(neu.size()); });
+    connect(this, &QLineEdit::textChanged, this,
+            [this](const QString& neu) { BegrenzeAuf(neu.size()); });
 }
 
 bool Eingabe::Setze(const std::string& neu) {
@@ -89,13 +89,20 @@ bool Eingabe::Setze(const std::string& neu) {
     if (text == this->text()) {
         return false;
     }
-    BegrenzeAufs(text.size());
+    const QSignalBlocker still(this);
+    BegrenzeAuf(text.size());
     setText(text);
     return true;
 }
 
-void Eingabe::BegrenzeAufs(qsizetype stehend) {
-    setMaxLength(std::max(m_grenze, static_cast<int>(stehend)));
+// A new limit sends the cursor to the end, so it is set only when it differs.
+void Eingabe::BegrenzeAuf(qsizetype stehend) {
+    const int grenze = std::max(m_grenze, static_cast<int>(stehend));
+    if (grenze != maxLength()) {
+        const int stelle = cursorPosition();
+        setMaxLength(grenze);
+        setCursorPosition(stelle);
+    }
 }
 
 void ReiheAuf(const std::vector<QWidget*>& steuerelemente) {

@@ -46,7 +46,8 @@ class Gruppe : public QGroupBox {
     QLabel* m_ecke = nullptr;
 };
 
-/// A text input that limits what is typed or pasted, and takes any text from the program.
+/// A text input that limits what is typed or pasted, and takes any text from the program. Its
+/// signal `textChanged` tells the user's changes alone.
 class Eingabe : public QLineEdit {
     Q_OBJECT
 
@@ -60,7 +61,7 @@ class Eingabe : public QLineEdit {
     [[nodiscard]] std::string Text() const { return text().toStdString(); }
 
   private:
-    void BegrenzeAufs(qsizetype stehend);
+    void BegrenzeAuf(qsizetype stehend);
 
     int m_grenze;
 };

@@ -27,9 +27,9 @@ Bauzeitengruppe::Bauzeitengruppe(const Bauzeiten& bauzeiten, QWidget* parent)
     : Gruppe(QStringLiteral("Frame6"), QStringLiteral("Optimale Bauzeiten:"), parent),
       LV_Bauzeiten(new Liste(QStringLiteral("LV_Bauzeiten"), QStringLiteral("Optimale Bauzeiten"),
                              {529, 1499, 2999}, this)),
-      Chk_BauWeckfunktion(new QCheckBox(QStringLiteral("Wecker"), this)),
+      Chk_BauWeckfunktion(new QCheckBox(QStringLiteral("Baustart-Alarm | X-sec vorher:"), this)),
       Comb_Before(new QComboBox(this)),
-      ImgDonate_1(NeuesBild(
+      ImgDonate_1(new Bildknopf(
           QStringLiteral("ImgDonate_1"), {88, 24},
           QStringLiteral(" Zeigt die Spendenmöglichkeiten an, durch welche du das Tarvelin-Projekt "
                          "unterstützen kannst "),
@@ -43,29 +43,40 @@ Bauzeitengruppe::Bauzeitengruppe(const Bauzeiten& bauzeiten, QWidget* parent)
     LV_Bauzeiten->setModel(m_modell);
     connect(LV_Bauzeiten, &Liste::MouseMove, this, &Bauzeitengruppe::LV_Bauzeiten_MouseMove);
     Chk_BauWeckfunktion->setObjectName(QStringLiteral("Chk_BauWeckfunktion"));
+    FuelleSekunden();
+    m_LBL_Punkte->setAccessibleDescription(QStringLiteral("Punkte"));
+    m_LBL_Timegone2->setAlignment(Qt::AlignCenter);
+    LegeAus();
+}
+
+void Bauzeitengruppe::FuelleSekunden() {
     Comb_Before->setObjectName(QStringLiteral("Comb_Before"));
     Comb_Before->setEditable(true);
     Comb_Before->setInsertPolicy(QComboBox::NoInsert);
+    constexpr int kBreite = 46;
+    Comb_Before->setFixedWidth(kBreite);
     for (const char* const sekunden : {"1", "2", "5", "10", "15", "20", "30", "45", "60", "120"}) {
         Comb_Before->addItem(QString::fromLatin1(sekunden));
     }
     Comb_Before->setCurrentText(QStringLiteral("10"));
-    QLabel* const vorher = NeuesLabel({}, QStringLiteral("Sekunden vorher"), this);
-    vorher->setBuddy(Comb_Before);
-    m_LBL_Punkte->setAccessibleDescription(QStringLiteral("Punkte"));
-    m_LBL_Timegone2->setAlignment(Qt::AlignCenter);
+    // The screen reader takes a drop-down list's name from its label; on the screen the words of
+    // the check box stand for it.
+    QLabel* const name = NeuesLabel({}, QStringLiteral("Sekunden vorher"), this);
+    name->setBuddy(Comb_Before);
+    name->hide();
+}
 
+void Bauzeitengruppe::LegeAus() {
     auto* const layout = new QGridLayout(this);
     layout->setContentsMargins(3, 2, 3, 3);
     layout->setSpacing(3);
     layout->addWidget(LV_Bauzeiten, 0, 0, 1, 4);
-    layout->addWidget(Chk_BauWeckfunktion, 1, 0, 1, 2);
-    layout->addWidget(Comb_Before, 1, 2);
-    layout->addWidget(vorher, 1, 3);
+    layout->addWidget(Chk_BauWeckfunktion, 1, 0, 1, 3);
+    layout->addWidget(Comb_Before, 1, 3);
     layout->addWidget(
         NeuesBild(QStringLiteral("Images(4)"), {26, 26}, QStringLiteral(" Punkte "), this), 2, 0);
-    layout->addWidget(m_LBL_Punkte, 2, 1, 1, 2);
-    layout->addWidget(ImgDonate_1, 2, 3, Qt::AlignRight);
+    layout->addWidget(m_LBL_Punkte, 2, 1);
+    layout->addWidget(ImgDonate_1, 2, 2, 1, 2, Qt::AlignRight);
     layout->addWidget(m_LBL_Timegone2, 3, 0, 1, 4);
     layout->setRowStretch(0, 1);
     layout->setColumnStretch(1, 1);

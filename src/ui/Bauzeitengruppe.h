@@ -7,6 +7,7 @@
 #include "model/Bauzeit.h"
 #include "simulation/Ergebnistexte.h"
 #include "ui/Bauteile.h"
+#include "ui/Bildknopf.h"
 #include "ui/Liste.h"
 #include "ui/Tabellenmodell.h"
 
@@ -27,9 +28,11 @@ class Bauzeitengruppe : public Gruppe {
     QCheckBox* const Chk_BauWeckfunktion;
     /// Seconds of warning; can be typed into.
     QComboBox* const Comb_Before;
-    QLabel* const ImgDonate_1;
+    Bildknopf* const ImgDonate_1;
 
   private:
+    void FuelleSekunden();
+    void LegeAus();
     void LV_Bauzeiten_MouseMove(const QModelIndex& zeile);
 
     const Bauzeiten& m_bauzeiten;

@@ -13,9 +13,17 @@ class Feld : public Gruppe {
     /// Place and size in twips.
     Feld(const QString& name, const QString& titel, const QRect& twips, QWidget* parent);
 
+    /// The keyboard goes to the panel's first control.
+    void NimmFokus() { m_erstes->setFocus(Qt::OtherFocusReason); }
+
   protected:
+    void paintEvent(QPaintEvent* event) override;
+    void SetzeErstes(QWidget* steuerelement) { m_erstes = steuerelement; }
     /// The button "Hide", which hides the panel.
     [[nodiscard]] QPushButton* NeuerHideKnopf(const QString& name);
+
+  private:
+    QWidget* m_erstes = this;
 };
 
 }  // namespace tarvelin

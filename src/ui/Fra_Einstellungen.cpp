@@ -20,6 +20,17 @@ QHBoxLayout* NeueZeile(Gruppe* gruppe, QLabel* hoverInfo) {
     return zeile;
 }
 
+QHBoxLayout* NeueMittelzeile(const std::vector<QWidget*>& teile) {
+    auto* const zeile = new QHBoxLayout;
+    zeile->setSpacing(2);
+    zeile->addStretch();
+    for (QWidget* const teil : teile) {
+        zeile->addWidget(teil);
+    }
+    zeile->addStretch();
+    return zeile;
+}
+
 }  // namespace
 
 Fra_Einstellungen::Fra_Einstellungen(Plan& plan, QWidget* parent)
@@ -36,6 +47,7 @@ Fra_Einstellungen::Fra_Einstellungen(Plan& plan, QWidget* parent)
     layout->addWidget(NeuerSpeedfaktor());
     layout->addStretch();
     layout->addWidget(NeuerHideKnopf(QStringLiteral("Cmd_HideEinstellungen")));
+    SetzeErstes(m_txt_TempMin);
     Zeige();
     RefreshWeekday();
 }
@@ -47,18 +59,17 @@ QWidget* Fra_Einstellungen::NeueTemperaturen() {
         NeueHoverInfo(QStringLiteral("Label7"),
                       QStringLiteral("  Minimal und Maximal-Temperatur des Startplaneten  "),
                       gruppe));
-    m_txt_TempMin = new Eingabe(QStringLiteral("txt_TempMin"), QStringLiteral("Minimaltemperatur"),
-                                Eingabe::kUnbegrenzt, gruppe);
-    m_txt_TempMax = new Eingabe(QStringLiteral("txt_TempMax"), QStringLiteral("Maximaltemperatur"),
-                                Eingabe::kUnbegrenzt, gruppe);
-    connect(m_txt_TempMin, &QLineEdit::textEdited, this, [this](const QString& text) {
-        AendereTempMin(m_plan.Parameter, text.toStdString());
-        ZeigeTemperaturen();
-    });
-    connect(m_txt_TempMax, &QLineEdit::textEdited, this, [this](const QString& text) {
-        AendereTempMax(m_plan.Parameter, text.toStdString());
-        ZeigeTemperaturen();
-    });
+    const auto neue = [&](const char* name, const char* bedeutung, auto aendere) {
+        auto* const eingabe = new Eingabe(QString::fromLatin1(name), QString::fromLatin1(bedeutung),
+                                          Eingabe::kUnbegrenzt, gruppe);
+        connect(eingabe, &QLineEdit::textChanged, this, [this, aendere](const QString& text) {
+            aendere(m_plan.Parameter, text.toStdString());
+            ZeigeTemperaturen();
+        });
+        return eingabe;
+    };
+    m_txt_TempMin = neue("txt_TempMin", "Minimaltemperatur", AendereTempMin);
+    m_txt_TempMax = neue("txt_TempMax", "Maximaltemperatur", AendereTempMax);
     zeile->addWidget(NeuesLabel({}, QStringLiteral("Min:"), gruppe));
     zeile->addWidget(m_txt_TempMin);
     zeile->addWidget(NeuesLabel({}, QStringLiteral("Max:"), gruppe));
@@ -72,7 +83,7 @@ Eingabe* Fra_Einstellungen::NeueStartzeitEingabe(const char* name, const char* b
     auto* const eingabe =
         new Eingabe(QString::fromLatin1(name), QString::fromLatin1(bedeutung), grenze, this);
     eingabe->setFixedWidth(breite);
-    connect(eingabe, &QLineEdit::textEdited, this,
+    connect(eingabe, &QLineEdit::textChanged, this,
             [this, wert](const QString& text) { m_plan.Parameter.*wert = text.toStdString(); });
     m_startzeit.push_back({eingabe, wert});
     return eingabe;
@@ -84,45 +95,41 @@ QWidget* Fra_Einstellungen::NeueStartzeit() {
         QStringLiteral("Label4"),
         QStringLiteral("  Zeitpunkt, an dem das Uni gestartet hat, bzw du eingestiegen bist "),
         gruppe));
-    m_LBL_Weekday = NeuesLabel(QStringLiteral("LBL_Weekday"), {}, gruppe);
-
-    const auto punkt = [&] { return NeuesLabel({}, QStringLiteral("."), gruppe); };
-    using P = Startparameter;
-    const std::vector<QWidget*> datumszeile{
-        m_LBL_Weekday,
-        NeueStartzeitEingabe("txt_UniStartZeitTag", "Tag", 2, kZweistellig, &P::UniStartZeitTag),
-        punkt(),
-        NeueStartzeitEingabe("txt_UniStartZeitMonat", "Monat", 2, kZweistellig,
-                             &P::UniStartZeitMonat),
-        punkt(),
-        NeueStartzeitEingabe("txt_UniStartZeitJahr", "Jahr", 4, kVierstellig,
-                             &P::UniStartZeitJahr)};
-    // Hour and minute leave the weekday as it is.
-    for (const Datumseingabe& eingabe : m_startzeit) {
-        connect(eingabe.Feld, &QLineEdit::textEdited, this, &Fra_Einstellungen::RefreshWeekday);
-    }
-    const std::vector<QWidget*> uhrzeile{
-        NeueStartzeitEingabe("txt_UniStartZeitStunden", "Stunden", 2, kZweistellig,
-                             &P::UniStartZeitStunden),
-        NeuesLabel({}, QStringLiteral(":"), gruppe),
-        NeueStartzeitEingabe("txt_UniStartZeitMinuten", "Minuten", 2, kZweistellig,
-                             &P::UniStartZeitMinuten),
-        NeuesLabel({}, QStringLiteral("Uhr"), gruppe)};
-
     auto* const layout = new QVBoxLayout(gruppe);
     layout->setContentsMargins(4, 2, 4, 3);
     layout->setSpacing(3);
-    for (const auto& widgets : {datumszeile, uhrzeile}) {
-        auto* const zeile = new QHBoxLayout;
-        zeile->setSpacing(2);
-        zeile->addStretch();
-        for (QWidget* const widget : widgets) {
-            zeile->addWidget(widget);
-        }
-        zeile->addStretch();
-        layout->addLayout(zeile);
-    }
+    layout->addLayout(NeueDatumszeile(gruppe));
+    layout->addLayout(NeueUhrzeile(gruppe));
     return gruppe;
+}
+
+QLayout* Fra_Einstellungen::NeueDatumszeile(QWidget* gruppe) {
+    using P = Startparameter;
+    m_LBL_Weekday = NeuesLabel(QStringLiteral("LBL_Weekday"), {}, gruppe);
+    QLayout* const zeile = NeueMittelzeile(
+        {m_LBL_Weekday,
+         NeueStartzeitEingabe("txt_UniStartZeitTag", "Tag", 2, kZweistellig, &P::UniStartZeitTag),
+         NeuesLabel({}, QStringLiteral("."), gruppe),
+         NeueStartzeitEingabe("txt_UniStartZeitMonat", "Monat", 2, kZweistellig,
+                              &P::UniStartZeitMonat),
+         NeuesLabel({}, QStringLiteral("."), gruppe),
+         NeueStartzeitEingabe("txt_UniStartZeitJahr", "Jahr", 4, kVierstellig,
+                              &P::UniStartZeitJahr)});
+    // Hour and minute leave the weekday as it is.
+    for (const Datumsteil& teil : m_startzeit) {
+        connect(teil.Input, &QLineEdit::textChanged, this, &Fra_Einstellungen::RefreshWeekday);
+    }
+    return zeile;
+}
+
+QLayout* Fra_Einstellungen::NeueUhrzeile(QWidget* gruppe) {
+    using P = Startparameter;
+    return NeueMittelzeile({NeueStartzeitEingabe("txt_UniStartZeitStunden", "Stunden", 2,
+                                                 kZweistellig, &P::UniStartZeitStunden),
+                            NeuesLabel({}, QStringLiteral(":"), gruppe),
+                            NeueStartzeitEingabe("txt_UniStartZeitMinuten", "Minuten", 2,
+                                                 kZweistellig, &P::UniStartZeitMinuten),
+                            NeuesLabel({}, QStringLiteral("Uhr"), gruppe)});
 }
 
 QWidget* Fra_Einstellungen::NeuerKlickPuffer() {
@@ -187,7 +194,7 @@ void Fra_Einstellungen::Zeige() {
     bool datumGeaendert = false;
     constexpr std::size_t kDatumsteile = 3;
     for (std::size_t i = 0; i < m_startzeit.size(); ++i) {
-        const bool geaendert = m_startzeit[i].Feld->Setze(m_plan.Parameter.*m_startzeit[i].Wert);
+        const bool geaendert = m_startzeit[i].Input->Setze(m_plan.Parameter.*m_startzeit[i].Wert);
         datumGeaendert |= geaendert && i < kDatumsteile;
     }
     if (datumGeaendert) {

@@ -26,6 +26,8 @@ class Fra_Einstellungen : public Feld {
   private:
     QWidget* NeueTemperaturen();
     QWidget* NeueStartzeit();
+    QLayout* NeueDatumszeile(QWidget* gruppe);
+    QLayout* NeueUhrzeile(QWidget* gruppe);
     QWidget* NeuerKlickPuffer();
     QWidget* NeueBeschreibungen();
     QWidget* NeuerSpeedfaktor();
@@ -37,12 +39,12 @@ class Fra_Einstellungen : public Feld {
 
     Plan& m_plan;
 
-    struct Datumseingabe {
-        Eingabe* Feld;
+    struct Datumsteil {
+        Eingabe* Input;
         std::string Startparameter::*Wert;
     };
     /// Day, month, year, hour and minute.
-    std::vector<Datumseingabe> m_startzeit;
+    std::vector<Datumsteil> m_startzeit;
     Eingabe* m_txt_TempMin = nullptr;
     Eingabe* m_txt_TempMax = nullptr;
     QLabel* m_LBL_Weekday = nullptr;

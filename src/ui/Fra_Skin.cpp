@@ -38,6 +38,12 @@ Fra_Skin::Fra_Skin(std::filesystem::path skins, QWidget* parent)
     txt_Pfad->setEnabled(false);
     txt_Pfad->hide();
 
+    LegeAus();
+    SetzeErstes(Opt_Standard);
+    hide();
+}
+
+void Fra_Skin::LegeAus() {
     // The lowest panel has room for three low lines.
     constexpr int kZeilenhoehe = 16;
     QPushButton* const schliesse = NeuerHideKnopf(QStringLiteral("Cmd_HideSchlafzeiten"));
@@ -60,7 +66,6 @@ Fra_Skin::Fra_Skin(std::filesystem::path skins, QWidget* parent)
     layout->addWidget(schliesse, 2, 2);
     layout->setColumnStretch(1, 1);
     layout->setColumnStretch(2, 1);
-    hide();
 }
 
 void Fra_Skin::FillSkinList() {

@@ -29,6 +29,8 @@ class Fra_Skin : public Feld {
     QPushButton* const Cmd_ApplySkin;
 
   private:
+    void LegeAus();
+
     std::filesystem::path m_skins;
 };
 

@@ -3,6 +3,8 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <algorithm>
+#include <array>
 
 namespace tarvelin {
 
@@ -17,8 +19,40 @@ Tabellenmodell::Quelle QuelleVon(const Schlaftabelle& tabelle) {
                 }};
 }
 
+/// Hours and minutes, first of the start, then of the duration.
+struct Zeitfeld {
+    const char* Name;
+    const char* Bedeutung;
+    std::string Schlafeingabe::*Wert;
+};
+
+constexpr std::array<Zeitfeld, 4> kZeitfelder{{
+    {"txt_SchlafStartStunden", "Startzeit, Stunden", &Schlafeingabe::StartStunden},
+    {"txt_SchlafStartMinuten", "Startzeit, Minuten", &Schlafeingabe::StartMinuten},
+    {"txt_SchlafdauerStunden", "Dauer, Stunden", &Schlafeingabe::DauerStunden},
+    {"txt_SchlafdauerMinuten", "Dauer, Minuten", &Schlafeingabe::DauerMinuten},
+}};
+
 QDate AlsDatum(Zeitpunkt zeitpunkt) {
     return QDate::fromString(AlsQString(Datumtext(zeitpunkt)), QStringLiteral("dd.MM.yyyy"));
+}
+
+QCalendarWidget* NeuerKalender(const QDate& tag, QWidget* parent) {
+    auto* const kalender = new QCalendarWidget(parent);
+    kalender->setObjectName(QStringLiteral("SchlafKalender"));
+    kalender->setAccessibleName(QStringLiteral("Tag der Startzeit"));
+    kalender->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    // Digits typed into the page would go to another month.
+    kalender->setDateEditEnabled(false);
+    kalender->setSelectedDate(tag);
+    for (const auto& [teil, bedeutung] : {std::pair("qt_calendar_prevmonth", "Voriger Monat"),
+                                          std::pair("qt_calendar_nextmonth", "Nächster Monat"),
+                                          std::pair("qt_calendar_yearedit", "Jahr")}) {
+        if (auto* const knopf = kalender->findChild<QWidget*>(QString::fromLatin1(teil))) {
+            knopf->setAccessibleName(QString::fromUtf8(bedeutung));
+        }
+    }
+    return kalender;
 }
 
 }  // namespace
@@ -33,74 +67,68 @@ Fra_Sleep::Fra_Sleep(Schlaftabelle& tabelle, const Umgebung& umgebung, QWidget* 
       m_umgebung(umgebung),
       m_modell(new Tabellenmodell({QStringLiteral("Startzeit"), QStringLiteral("Endzeit")},
                                   QuelleVon(tabelle), this)),
-      m_SchlafKalender(new QCalendarWidget(this)),
-      m_txt_SchlafStartStunden(new Eingabe(QStringLiteral("txt_SchlafStartStunden"),
-                                           QStringLiteral("Startzeit, Stunden"), 2, this)),
-      m_txt_SchlafStartMinuten(new Eingabe(QStringLiteral("txt_SchlafStartMinuten"),
-                                           QStringLiteral("Startzeit, Minuten"), 2, this)),
-      m_txt_SchlafdauerStunden(new Eingabe(QStringLiteral("txt_SchlafdauerStunden"),
-                                           QStringLiteral("Dauer, Stunden"), 2, this)),
-      m_txt_SchlafdauerMinuten(new Eingabe(QStringLiteral("txt_SchlafdauerMinuten"),
-                                           QStringLiteral("Dauer, Minuten"), 2, this)),
+      m_SchlafKalender(NeuerKalender(AlsDatum(umgebung.Jetzt()), this)),
       m_LBL_Schlafendzeit(NeuesLabel(QStringLiteral("LBL_Schlafendzeit"), {}, this)) {
     LV_Schlafzeiten->setModel(m_modell);
     Chk_Schlafzeitenwecker->setObjectName(QStringLiteral("Chk_Schlafzeitenwecker"));
     Chk_Schlafzeitenwecker->setToolTip(
         QStringLiteral(" Eine Minute vor jeder Endzeit ertönt ein Alarmton "));
-    m_SchlafKalender->setObjectName(QStringLiteral("SchlafKalender"));
-    m_SchlafKalender->setAccessibleName(QStringLiteral("Tag der Startzeit"));
-    for (const auto& [teil, bedeutung] : {std::pair("qt_calendar_prevmonth", "Voriger Monat"),
-                                          std::pair("qt_calendar_nextmonth", "Nächster Monat"),
-                                          std::pair("qt_calendar_yearedit", "Jahr")}) {
-        m_SchlafKalender->findChild<QWidget*>(QString::fromLatin1(teil))
-            ->setAccessibleName(QString::fromUtf8(bedeutung));
-    }
-    m_SchlafKalender->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    m_SchlafKalender->setSelectedDate(AlsDatum(m_umgebung.Jetzt()));
     connect(m_SchlafKalender, &QCalendarWidget::selectionChanged, this,
             &Fra_Sleep::RefreshSchlafEnde);
-
-    const Schlafeingabe anfang;
-    for (const auto& [eingabe, text] : {std::pair(m_txt_SchlafStartStunden, anfang.StartStunden),
-                                        std::pair(m_txt_SchlafStartMinuten, anfang.StartMinuten),
-                                        std::pair(m_txt_SchlafdauerStunden, anfang.DauerStunden),
-                                        std::pair(m_txt_SchlafdauerMinuten, anfang.DauerMinuten)}) {
-        constexpr int kBreite = 22;
-        eingabe->setFixedWidth(kBreite);
-        eingabe->Setze(text);
-        connect(eingabe, &QLineEdit::textChanged, this, &Fra_Sleep::RefreshSchlafEnde);
-    }
-
-    QPushButton* const add =
-        NeuerKnopf(QStringLiteral("Cmd_AddSchlafzeit"), QStringLiteral("Add"), this);
-    QPushButton* const loesche =
-        NeuerKnopf(QStringLiteral("Cmd_RemoveSchlafzeit"), QStringLiteral("Delete"), this);
-    QPushButton* const leere =
-        NeuerKnopf(QStringLiteral("Cmd_ClearSchlafzeiten"), QStringLiteral("Clear"), this);
-    connect(add, &QPushButton::clicked, this, &Fra_Sleep::Cmd_AddSchlafzeit_Click);
-    connect(loesche, &QPushButton::clicked, this, &Fra_Sleep::Cmd_RemoveSchlafzeit_Click);
-    connect(leere, &QPushButton::clicked, this, &Fra_Sleep::Cmd_ClearSchlafzeiten_Click);
-    BaueAuf(add, loesche, leere);
+    connect(m_SchlafKalender, &QCalendarWidget::currentPageChanged, this, &Fra_Sleep::Blaettere);
+    BaueEingaben();
+    LegeAus();
+    SetzeErstes(m_SchlafKalender);
     RefreshSchlafEnde();
     hide();
 }
 
-void Fra_Sleep::BaueAuf(QPushButton* add, QPushButton* loesche, QPushButton* leere) {
+void Fra_Sleep::BaueEingaben() {
+    for (const Zeitfeld& feld : kZeitfelder) {
+        auto* const eingabe = new Eingabe(QString::fromLatin1(feld.Name),
+                                          QString::fromLatin1(feld.Bedeutung), 2, this);
+        constexpr int kBreite = 22;
+        eingabe->setFixedWidth(kBreite);
+        eingabe->Setze(Schlafeingabe().*feld.Wert);
+        connect(eingabe, &QLineEdit::textChanged, this, &Fra_Sleep::RefreshSchlafEnde);
+        m_zeiten.push_back(eingabe);
+    }
+}
+
+QPushButton* Fra_Sleep::NeuerTabellenknopf(const char* name, const char* text,
+                                           void (Fra_Sleep::*handler)()) {
+    QPushButton* const knopf =
+        NeuerKnopf(QString::fromLatin1(name), QString::fromLatin1(text), this);
+    connect(knopf, &QPushButton::clicked, this, handler);
+    return knopf;
+}
+
+QLayout* Fra_Sleep::NeueZeiten(QPushButton* add) {
     auto* const zeiten = new QGridLayout;
     zeiten->setSpacing(3);
-    const auto zeile = [&](int nummer, const char* text, Eingabe* stunden, Eingabe* minuten) {
-        zeiten->addWidget(NeuesLabel({}, QString::fromLatin1(text), this), nummer, 0);
-        zeiten->addWidget(stunden, nummer, 1);
-        zeiten->addWidget(NeuesLabel({}, QStringLiteral(":"), this), nummer, 2);
-        zeiten->addWidget(minuten, nummer, 3);
-    };
-    zeile(0, "Startzeit:", m_txt_SchlafStartStunden, m_txt_SchlafStartMinuten);
-    zeile(1, "Dauer:", m_txt_SchlafdauerStunden, m_txt_SchlafdauerMinuten);
+    for (std::size_t i = 0; i < m_zeiten.size(); i += 2) {
+        const auto zeile = static_cast<int>(i / 2);
+        zeiten->addWidget(
+            NeuesLabel({}, i == 0 ? QStringLiteral("Startzeit:") : QStringLiteral("Dauer:"), this),
+            zeile, 0);
+        zeiten->addWidget(m_zeiten[i], zeile, 1);
+        zeiten->addWidget(NeuesLabel({}, QStringLiteral(":"), this), zeile, 2);
+        zeiten->addWidget(m_zeiten[i + 1], zeile, 3);
+    }
     zeiten->addWidget(NeuesLabel({}, QStringLiteral("Endzeit:"), this), 2, 0);
     zeiten->addWidget(m_LBL_Schlafendzeit, 2, 1, 1, 4);
     zeiten->addWidget(add, 0, 4, 2, 1);
     zeiten->setColumnStretch(4, 1);
+    return zeiten;
+}
 
+void Fra_Sleep::LegeAus() {
+    QPushButton* const add =
+        NeuerTabellenknopf("Cmd_AddSchlafzeit", "Add", &Fra_Sleep::Cmd_AddSchlafzeit_Click);
+    QPushButton* const loesche = NeuerTabellenknopf("Cmd_RemoveSchlafzeit", "Delete",
+                                                    &Fra_Sleep::Cmd_RemoveSchlafzeit_Click);
+    QPushButton* const leere = NeuerTabellenknopf("Cmd_ClearSchlafzeiten", "Clear",
+                                                  &Fra_Sleep::Cmd_ClearSchlafzeiten_Click);
     QPushButton* const schliesse = NeuerHideKnopf(QStringLiteral("Cmd_HideSleep"));
     auto* const knoepfe = new QHBoxLayout;
     knoepfe->setSpacing(3);
@@ -112,25 +140,33 @@ void Fra_Sleep::BaueAuf(QPushButton* add, QPushButton* loesche, QPushButton* lee
     layout->setContentsMargins(4, 2, 4, 4);
     layout->setSpacing(4);
     layout->addWidget(m_SchlafKalender, 0, 0);
-    layout->addLayout(zeiten, 1, 0, 2, 1);
+    layout->addLayout(NeueZeiten(add), 1, 0, 2, 1);
     layout->addWidget(LV_Schlafzeiten, 0, 1);
     layout->addWidget(Chk_Schlafzeitenwecker, 1, 1);
     layout->addLayout(knoepfe, 2, 1);
     layout->setColumnStretch(0, 1);
     layout->setColumnStretch(1, 1);
-    ReiheAuf({m_SchlafKalender, m_txt_SchlafStartStunden, m_txt_SchlafStartMinuten,
-              m_txt_SchlafdauerStunden, m_txt_SchlafdauerMinuten, add, LV_Schlafzeiten,
-              Chk_Schlafzeitenwecker, loesche, leere, schliesse});
+    ReiheAuf({m_SchlafKalender, m_zeiten[0], m_zeiten[1], m_zeiten[2], m_zeiten[3], add,
+              LV_Schlafzeiten, Chk_Schlafzeitenwecker, loesche, leere, schliesse});
 }
 
 Schlafeingabe Fra_Sleep::Lies() const {
-    return {
-        .Datum =
-            m_SchlafKalender->selectedDate().toString(QStringLiteral("dd.MM.yyyy")).toStdString(),
-        .StartStunden = m_txt_SchlafStartStunden->Text(),
-        .StartMinuten = m_txt_SchlafStartMinuten->Text(),
-        .DauerStunden = m_txt_SchlafdauerStunden->Text(),
-        .DauerMinuten = m_txt_SchlafdauerMinuten->Text()};
+    Schlafeingabe eingabe;
+    eingabe.Datum =
+        m_SchlafKalender->selectedDate().toString(QStringLiteral("dd.MM.yyyy")).toStdString();
+    for (std::size_t i = 0; i < kZeitfelder.size(); ++i) {
+        eingabe.*kZeitfelder[i].Wert = m_zeiten[i]->Text();
+    }
+    return eingabe;
+}
+
+// The selected day goes along, so that what is shown is what counts.
+void Fra_Sleep::Blaettere(int jahr, int monat) {
+    const QDate tag = m_SchlafKalender->selectedDate();
+    if (tag.year() != jahr || tag.month() != monat) {
+        const int letzter = QDate(jahr, monat, 1).daysInMonth();
+        m_SchlafKalender->setSelectedDate(QDate(jahr, monat, std::min(tag.day(), letzter)));
+    }
 }
 
 void Fra_Sleep::RefreshSchlafEnde() {

@@ -27,7 +27,12 @@ class Fra_Sleep : public Feld {
     QCheckBox* const Chk_Schlafzeitenwecker;
 
   private:
-    void BaueAuf(QPushButton* add, QPushButton* loesche, QPushButton* leere);
+    void BaueEingaben();
+    void LegeAus();
+    QLayout* NeueZeiten(QPushButton* add);
+    QPushButton* NeuerTabellenknopf(const char* name, const char* text,
+                                    void (Fra_Sleep::*handler)());
+    void Blaettere(int jahr, int monat);
     [[nodiscard]] Schlafeingabe Lies() const;
     void Cmd_AddSchlafzeit_Click();
     void Cmd_RemoveSchlafzeit_Click();
@@ -37,10 +42,8 @@ class Fra_Sleep : public Feld {
     const Umgebung& m_umgebung;
     Tabellenmodell* m_modell;
     QCalendarWidget* m_SchlafKalender;
-    Eingabe* m_txt_SchlafStartStunden;
-    Eingabe* m_txt_SchlafStartMinuten;
-    Eingabe* m_txt_SchlafdauerStunden;
-    Eingabe* m_txt_SchlafdauerMinuten;
+    /// Hours and minutes of the start, then of the duration.
+    std::vector<Eingabe*> m_zeiten;
     QLabel* m_LBL_Schlafendzeit;
 };
 

@@ -20,8 +20,6 @@ constexpr std::array<Regler, 3> kRegler{{
     {"HSC_Deutfaktor", "LBL_Deutfaktor", "Deutmine: "},
 }};
 
-constexpr int kVoll = kVollerFaktor;
-
 }  // namespace
 
 Fra_Special::Fra_Special(QWidget* parent)
@@ -39,14 +37,14 @@ Fra_Special::Fra_Special(QWidget* parent)
         const QString text = QString::fromLatin1(kRegler[i].Text);
         QSlider* const regler =
             NeuerRegler(QString::fromLatin1(kRegler[i].Name),
-                        text.chopped(2) + QStringLiteral(" in Zehnteln"), kVoll, gruppe);
+                        text.chopped(2) + QStringLiteral(" in Zehnteln"), kVollerFaktor, gruppe);
         QLabel* const label = NeuesLabel(QString::fromLatin1(kRegler[i].Label), {}, gruppe);
         const auto zeige = [label, text](int stellung) {
             label->setText(text + QString::number(10 * stellung) + QStringLiteral("%"));
         };
         connect(regler, &QSlider::valueChanged, label, zeige);
         regler->setPageStep(1);
-        regler->setValue(kVoll);
+        regler->setValue(kVollerFaktor);
         label->setFixedWidth(label->sizeHint().width());
         const auto zeile = static_cast<int>(i);
         zeilen->addWidget(label, zeile, 0);
@@ -61,6 +59,7 @@ Fra_Special::Fra_Special(QWidget* parent)
     layout->addWidget(Cmd_AddProdaenderungsevent, 1, 0);
     layout->addWidget(schliesse, 1, 1);
     ReiheAuf({m_regler[0], m_regler[1], m_regler[2], Cmd_AddProdaenderungsevent, schliesse});
+    SetzeErstes(m_regler.front());
     hide();
 }
 

@@ -62,7 +62,9 @@ void Itembild::keyPressEvent(QKeyEvent* event) {
         QLabel::keyPressEvent(event);
         return;
     }
-    if (m_dragOffen) {
+    // The list may have changed while the picture kept the focus.
+    emit MouseMove();
+    if (m_dragOffen && !event->isAutoRepeat()) {
         emit Gewaehlt();
         // The hint names what the next row costs.
         emit MouseMove();
@@ -71,6 +73,9 @@ void Itembild::keyPressEvent(QKeyEvent* event) {
 
 void Itembild::paintEvent(QPaintEvent* event) {
     QLabel::paintEvent(event);
+    if (pixmap(Qt::ReturnByValue).isNull()) {
+        QPainter(this).drawRect(rect().adjusted(0, 0, -1, -1));
+    }
     if (hasFocus()) {
         constexpr int kStrich = 3;
         QPainter painter(this);
@@ -91,6 +96,10 @@ void Itembild::Ziehe() {
         drag->setPixmap(grab());
         drag->setHotSpot(rect().center());
     } else {
+        // Nothing beside the pointer.
+        QPixmap leer(1, 1);
+        leer.fill(Qt::transparent);
+        drag->setPixmap(leer);
         drag->setDragCursor(m_zeiger.Gezogen, Qt::CopyAction);
         drag->setDragCursor(m_zeiger.Gezogen, Qt::IgnoreAction);
     }

@@ -22,9 +22,11 @@ QLabel* NeuesSchild(const QString& name, const QString& text, QWidget* parent) {
 Itemplatz NeuerPlatz(ItemId item, QWidget* parent) {
     const ItemZeile& zeile = ZeileVon(item);
     const auto nummer = &zeile - ItemTabelle().data();
+    QLabel* const stufe = NeuesSchild(AlsQString(zeile.Stufenlabel), QStringLiteral("0"), parent);
+    stufe->setAccessibleDescription(AlsQString(zeile.Hovername));
     return {.Item = item,
             .Bild = new Itembild(zeile, parent),
-            .Stufe = NeuesSchild(AlsQString(zeile.Stufenlabel), QStringLiteral("0"), parent),
+            .Stufe = stufe,
             .Desc = NeuesSchild(QStringLiteral("LBLDesc(%1)").arg(nummer),
                                 AlsQString(zeile.Bildunterschrift), parent)};
 }

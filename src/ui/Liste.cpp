@@ -3,6 +3,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QProxyStyle>
 #include <QResizeEvent>
 #include <algorithm>
 #include <numeric>
@@ -13,6 +14,17 @@ namespace tarvelin {
 namespace {
 
 constexpr int kKopfrand = 2;
+
+/// Cells without the style's margins, which the narrow columns have no room for.
+class Zellenstil : public QProxyStyle {
+  public:
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override {
+        // A cell's text keeps one pixel more than this on either side.
+        return metric == PM_FocusFrameHMargin ? 0
+                                              : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
 
 }  // namespace
 
@@ -72,6 +84,9 @@ Liste::Liste(const QString& name, const QString& bedeutung, std::vector<int> ant
     setObjectName(name);
     setAccessibleName(bedeutung);
     setHeader(new Listenkopf(this));
+    auto* const stil = new Zellenstil;
+    stil->setParent(this);
+    setStyle(stil);
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setUniformRowHeights(true);
@@ -93,6 +108,13 @@ void Liste::setModel(QAbstractItemModel* model) {
 void Liste::mouseMoveEvent(QMouseEvent* event) {
     QTreeView::mouseMoveEvent(event);
     emit MouseMove(indexAt(event->position().toPoint()));
+}
+
+bool Liste::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::Leave) {
+        emit MouseMove({});
+    }
+    return QTreeView::viewportEvent(event);
 }
 
 void Liste::resizeEvent(QResizeEvent* event) {

@@ -39,11 +39,13 @@ class Liste : public QTreeView {
     void setModel(QAbstractItemModel* model) override;
 
   signals:
-    /// The pointer moved over the list, at this row; over none the index isn't valid.
+    /// The pointer moved over the list, at this row; over none, or when it leaves the rows, the
+    /// index isn't valid.
     void MouseMove(const QModelIndex& zeile);
 
   protected:
     void mouseMoveEvent(QMouseEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
   private:

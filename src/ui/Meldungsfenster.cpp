@@ -1,7 +1,10 @@
 // QMessageBox for messages and questions.
 #include "ui/Meldungsfenster.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QGridLayout>
+#include <QMainWindow>
 
 #include "ui/Bauteile.h"
 
@@ -21,14 +24,45 @@ QMessageBox::Icon Symbol(Meldungssymbol symbol) {
     return QMessageBox::NoIcon;
 }
 
+/// Between two boxes no window is active for a moment.
+QWidget* Elternfenster() {
+    if (QWidget* const aktives = QApplication::activeWindow()) {
+        return aktives;
+    }
+    for (QWidget* const fenster : QApplication::topLevelWidgets()) {
+        if (qobject_cast<QMainWindow*>(fenster) != nullptr && fenster->isVisible()) {
+            return fenster;
+        }
+    }
+    return nullptr;
+}
+
+/// A box is as wide as its title, which the frame draws larger than our font, beside a button.
+void GibTitelRaum(QMessageBox& box, const QString& titel) {
+    if (auto* const raster = qobject_cast<QGridLayout*>(box.layout())) {
+        constexpr int kKnopf = 60;
+        const int breite = box.fontMetrics().horizontalAdvance(titel) * 3 / 2 + kKnopf;
+        raster->addItem(new QSpacerItem(breite, 0), raster->rowCount(), 0, 1,
+                        raster->columnCount());
+    }
+}
+
 QMessageBox::StandardButton Oeffne(const std::string& text, const std::string& titel,
                                    Meldungssymbol symbol, QMessageBox::StandardButtons knoepfe) {
-    QMessageBox box(QApplication::activeWindow());
-    box.setWindowTitle(titel.empty() ? QStringLiteral("Tarvelin") : AlsQString(titel));
+    QMessageBox box(Elternfenster());
+    const QString titelzeile = titel.empty() ? QStringLiteral("Tarvelin") : AlsQString(titel);
+    box.setWindowTitle(titelzeile);
     box.setTextFormat(Qt::PlainText);
     box.setText(AlsQString(text));
     box.setIcon(Symbol(symbol));
     box.setStandardButtons(knoepfe);
+    for (const auto& [knopf, aufschrift] : {std::pair(QMessageBox::Yes, QStringLiteral("&Ja")),
+                                            std::pair(QMessageBox::No, QStringLiteral("&Nein"))}) {
+        if (auto* const gezeigter = box.button(knopf)) {
+            gezeigter->setText(aufschrift);
+        }
+    }
+    GibTitelRaum(box, titelzeile);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 

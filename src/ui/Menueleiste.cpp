@@ -2,6 +2,7 @@
 #include "ui/Menueleiste.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QShortcutEvent>
 
 namespace tarvelin {
@@ -20,7 +21,12 @@ QList<QAction*> MitBuchstabe(const QList<QAction*>& eintraege, const QKeySequenc
 
 }  // namespace
 
-Menueleiste::Menueleiste(QWidget* parent) : QMenuBar(parent) {}
+Menueleiste::Menueleiste(QWidget* parent) : QMenuBar(parent) {
+    // A bar of the desktop would know nothing of entries without a menu.
+    setNativeMenuBar(false);
+    // A click anywhere else ends the walk by keys.
+    QCoreApplication::instance()->installEventFilter(this);
+}
 
 bool Menueleiste::event(QEvent* event) {
     if (event->type() == QEvent::Shortcut) {
@@ -40,8 +46,24 @@ bool Menueleiste::event(QEvent* event) {
 
 void Menueleiste::keyPressEvent(QKeyEvent* event) {
     QMenuBar::keyPressEvent(event);
-    if (activeAction() == nullptr && hasFocus() && m_vorher != nullptr) {
+    if (activeAction() == nullptr) {
+        GibFokusZurueck();
+    }
+}
+
+bool Menueleiste::eventFilter(QObject* ziel, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress && ziel != this && hasFocus()) {
+        setActiveAction(nullptr);
+        GibFokusZurueck();
+    }
+    return QMenuBar::eventFilter(ziel, event);
+}
+
+void Menueleiste::GibFokusZurueck() {
+    if (hasFocus() && m_vorher != nullptr && m_vorher->isVisible()) {
         m_vorher->setFocus(Qt::MenuBarFocusReason);
+    } else if (hasFocus()) {
+        clearFocus();
     }
 }
 

@@ -17,8 +17,11 @@ class Menueleiste : public QMenuBar {
   protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* ziel, QEvent* event) override;
 
   private:
+    void GibFokusZurueck();
+
     /// What had the focus before the bar took it.
     QPointer<QWidget> m_vorher;
 };

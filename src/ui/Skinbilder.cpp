@@ -60,10 +60,14 @@ QPixmap LadeZeiger(const std::filesystem::path& datei, qreal skalierung) {
 }  // namespace
 
 void LadeBild(QLabel& bild, const std::filesystem::path& datei) {
-    const QPixmap neues(AlsQString(datei));
+    const QPixmap neues = LadePixmap(datei);
     if (!neues.isNull()) {
         bild.setPixmap(neues);
     }
+}
+
+QPixmap LadePixmap(const std::filesystem::path& datei) {
+    return QPixmap(AlsQString(datei));
 }
 
 QIcon LadeSymbol(const std::filesystem::path& datei) {

@@ -12,6 +12,9 @@ namespace tarvelin {
 /// Sets the picture of a file. A file that can't be loaded leaves the picture as it was.
 void LadeBild(QLabel& bild, const std::filesystem::path& datei);
 
+/// The picture of a file, null if it can't be loaded.
+[[nodiscard]] QPixmap LadePixmap(const std::filesystem::path& datei);
+
 /// An icon file with all its sizes; null if it can't be loaded.
 [[nodiscard]] QIcon LadeSymbol(const std::filesystem::path& datei);
 

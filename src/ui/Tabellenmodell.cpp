@@ -47,7 +47,8 @@ QVariant Tabellenmodell::data(const QModelIndex& index, int role) const {
     if (role == Qt::ForegroundRole && m_quelle.Farbe) {
         return m_quelle.Farbe(zeile, index.column());
     }
-    if (role == Qt::AccessibleDescriptionRole && m_quelle.Beschreibung) {
+    if ((role == Qt::AccessibleDescriptionRole || role == Qt::ToolTipRole) &&
+        m_quelle.Beschreibung) {
         return m_quelle.Beschreibung(zeile);
     }
     return {};

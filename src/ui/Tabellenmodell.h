@@ -17,7 +17,8 @@ class Tabellenmodell : public QAbstractTableModel {
         std::function<std::size_t()> Zeilen;
         /// The text of a cell; row and column count from 0.
         std::function<QString(std::size_t, int)> Text;
-        /// Beside the text, where a list has them: colour of a cell, and what a screen reader adds.
+        /// Beside the text, where a list has them: colour of a cell, and the hint of a row, which a
+        /// screen reader adds.
         std::function<QColor(std::size_t, int)> Farbe = {};
         std::function<QString(std::size_t)> Beschreibung = {};
     };

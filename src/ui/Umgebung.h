@@ -15,7 +15,7 @@ struct Frage {
     std::string Text;
     /// Empty where a question has no title of its own.
     std::string Titel;
-    Meldungssymbol Symbol = Meldungssymbol::Frage;
+    Meldungssymbol Symbol = Meldungssymbol::Ohne;
 };
 
 /// The modal boxes of the window.

@@ -15,19 +15,20 @@ namespace tarvelin {
 
 namespace {
 
-/// Messages of a run come with the rows on the screen that the run has made so far.
+/// Messages of a run come up with what it has changed so far on the screen.
 class Laufmeldungen final : public Meldungsausgabe {
   public:
-    Laufmeldungen(Fra_Rest& flaeche, Dialoge& boxen) : m_flaeche(flaeche), m_boxen(boxen) {}
+    Laufmeldungen(std::function<void()> zeigeStand, Dialoge& boxen)
+        : m_zeigeStand(std::move(zeigeStand)), m_boxen(boxen) {}
 
     void Zeige(const Meldung& meldung) override {
-        m_flaeche.ZeigeBauzeiten();
+        m_zeigeStand();
         m_boxen.Zeige(meldung);
     }
     void Piepton() override { m_boxen.Piepton(); }
 
   private:
-    Fra_Rest& m_flaeche;
+    std::function<void()> m_zeigeStand;
     Dialoge& m_boxen;
 };
 
@@ -44,11 +45,11 @@ frmMain::frmMain(const Umgebung& umgebung)
     : m_umgebung(umgebung),
       m_plan(NeuerPlan(umgebung.Jetzt())),
       m_flaeche(new QWidget(this)),
-      m_Fra_Rest(new Fra_Rest(m_plan.Liste, m_lauf, m_flaeche)),
       m_Fra_Einstellungen(new Fra_Einstellungen(m_plan, m_flaeche)),
       m_Fra_Special(new Fra_Special(m_flaeche)),
       m_Fra_Skin(new Fra_Skin(umgebung.Programmordner / "img" / "skins", m_flaeche)),
       m_Fra_Sleep(new Fra_Sleep(m_plan.Schlafzeiten, umgebung, m_flaeche)),
+      m_Fra_Rest(new Fra_Rest(m_plan.Liste, m_lauf, m_flaeche)),
       m_TopLine(new QFrame(m_flaeche)),
       m_menue(new Menueleiste(this)) {
     setObjectName(QStringLiteral("frmMain"));
@@ -72,13 +73,14 @@ void frmMain::LegeAus() {
     setFixedSize(Pixel(kBreite), Pixel(kHoehe));
     setCentralWidget(m_flaeche);
     m_Fra_Rest->move(0, Pixel(2));
+    m_Fra_Rest->lower();
     m_TopLine->setObjectName(QStringLiteral("TopLine"));
     m_TopLine->setFrameStyle(QFrame::HLine | QFrame::Sunken);
     m_TopLine->setGeometry(0, 0, Pixel(kBreite), 1);
     m_TopLine->setAttribute(Qt::WA_TransparentForMouseEvents);
     setMenuBar(m_menue);
     m_Fra_Rest->Frame8->Cmd_Simulate->setDefault(true);
-    m_Fra_Rest->Frame8->LV_Bauliste->setFocus();
+    m_Fra_Einstellungen->NimmFokus();
     // No control takes what is dragged in from elsewhere.
     for (QLineEdit* const eingabe : findChildren<QLineEdit*>()) {
         eingabe->setAcceptDrops(false);
@@ -96,7 +98,7 @@ void frmMain::LadeBilder() {
         platz.Bild->SetzeZeiger(zeiger);
     }
     m_Fra_Rest->Frame6->ImgDonate_1->setCursor(zeiger.Offen);
-    LadeBild(*m_Fra_Rest->Frame6->ImgDonate_1, bilder / "spende.png");
+    m_Fra_Rest->Frame6->ImgDonate_1->SetzeBild(LadePixmap(bilder / "spende.png"));
     LadeStandardskin(*m_Fra_Rest, bilder);
 }
 
@@ -122,9 +124,13 @@ void frmMain::Verbinde() {
 QAction* frmMain::NeuerEintrag(QWidget* menue, const char* name, const QString& text) {
     auto* const eintrag = new QAction(text, this);
     eintrag->setObjectName(QString::fromLatin1(name));
-    eintrag->setSeparator(text == QStringLiteral("-"));
     menue->addAction(eintrag);
     return eintrag;
+}
+
+// The style would draw a separator's caption.
+void frmMain::NeuerStrich(QMenu* menue, const char* name) {
+    menue->addSeparator()->setObjectName(QString::fromLatin1(name));
 }
 
 void frmMain::BaueMenue() {
@@ -135,7 +141,7 @@ void frmMain::BaueMenue() {
         ->setShortcut(Qt::CTRL | Qt::Key_O);
     NeuerEintrag(datei, "mnu_Datei_Speichern", QStringLiteral("&Speichern"))
         ->setShortcut(Qt::CTRL | Qt::Key_S);
-    NeuerEintrag(datei, "mnu_Datei_Strich01", QStringLiteral("-"));
+    NeuerStrich(datei, "mnu_Datei_Strich01");
     connect(NeuerEintrag(datei, "mnu_Datei_Beenden", QStringLiteral("&Beenden")),
             &QAction::triggered, this, &QWidget::close);
 
@@ -152,7 +158,7 @@ void frmMain::BaueMenue() {
     info->menuAction()->setObjectName(QStringLiteral("mnu_Info"));
     NeuerEintrag(info, "mnu_DOnate", QStringLiteral("&Spenden..."));
     NeuerEintrag(info, "mnu_UpdateCheck", QStringLiteral("&Update-Check"));
-    NeuerEintrag(info, "strich_02", QStringLiteral("-"));
+    NeuerStrich(info, "strich_02");
     NeuerEintrag(info, "mnuAbout_TV", QStringLiteral("&About Tarvelin"));
 }
 
@@ -181,9 +187,12 @@ void frmMain::BringeNachVorn(QWidget& feld) {
     m_TopLine->raise();
 }
 
-void frmMain::Klappe(QWidget& feld) {
+void frmMain::Klappe(Feld& feld) {
     feld.setVisible(feld.isHidden());
     BringeNachVorn(feld);
+    if (feld.isVisible()) {
+        feld.NimmFokus();
+    }
 }
 
 void frmMain::mnuEinstellungen_Click() {
@@ -263,29 +272,33 @@ void frmMain::Chk_Speedfaktor_Click() {
 }
 
 void frmMain::UebernimmPlan(Plan plan) {
+    Cmd_Clear_Click();
     m_plan = std::move(plan);
-    m_texte.NachClear();
     m_Fra_Einstellungen->Zeige();
     m_Fra_Sleep->Zeige();
     m_Fra_Rest->ZeigeNamen(m_plan.ShowDesc);
-    m_Fra_Rest->Zeige(m_texte);
     ZeigeNeueZeile();
 }
 
 void frmMain::StarteSimulation(bool silent) {
-    Laufmeldungen meldungen(*m_Fra_Rest, m_umgebung.Boxen);
-    const Laufausgang ausgang = BeginneLauf(m_plan, m_lauf, meldungen, silent);
-    // Day and month may have been padded.
-    m_Fra_Einstellungen->Zeige();
-    if (ausgang == Laufausgang::AnEingabenGescheitert) {
+    Laufmeldungen meldungen([this] { ZeigeStandDesLaufs(); }, m_umgebung.Boxen);
+    if (BeginneLauf(m_plan, m_lauf, meldungen, silent) == Laufausgang::AnEingabenGescheitert) {
         return;
     }
-    m_Fra_Einstellungen->RefreshWeekday();
     m_texte.NachReset();
     m_Fra_Rest->Zeige(m_texte);
+    ZeigeStandDesLaufs();
+    m_Fra_Rest->Frame6->LV_Bauzeiten->scrollToTop();
+    m_Fra_Einstellungen->RefreshWeekday();
     FuehreLaufDurch(m_plan, m_lauf, meldungen);
     m_texte.NachLauf(m_lauf.Planet.Globale);
     m_Fra_Rest->Zeige(m_texte);
+    m_Fra_Rest->ZeigeBauzeiten();
+}
+
+void frmMain::ZeigeStandDesLaufs() {
+    // Day and month may have been padded.
+    m_Fra_Einstellungen->Zeige();
     m_Fra_Rest->ZeigeBauzeiten();
 }
 

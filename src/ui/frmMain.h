@@ -49,9 +49,10 @@ class frmMain : public QMainWindow {
     void Verbinde();
     void BaueMenue();
     QAction* NeuerEintrag(QWidget* menue, const char* name, const QString& text);
+    static void NeuerStrich(QMenu* menue, const char* name);
 
     void BringeNachVorn(QWidget& feld);
-    void Klappe(QWidget& feld);
+    void Klappe(Feld& feld);
     void mnuEinstellungen_Click();
     void mnu_SpecialEvents_Click();
     void mnuSkin_Click();
@@ -65,6 +66,7 @@ class frmMain : public QMainWindow {
     void Cmd_Simulate_Click();
     void Chk_Speedfaktor_Click();
     void ZeigeNeueZeile();
+    void ZeigeStandDesLaufs();
 
     const Umgebung& m_umgebung;
     Plan m_plan;
@@ -72,11 +74,12 @@ class frmMain : public QMainWindow {
     Ergebnistexte m_texte;
 
     QWidget* m_flaeche;
-    Fra_Rest* m_Fra_Rest;
+    // In the order in which Tab goes through them: what lies above comes first.
     Fra_Einstellungen* m_Fra_Einstellungen;
     Fra_Special* m_Fra_Special;
     Fra_Skin* m_Fra_Skin;
     Fra_Sleep* m_Fra_Sleep;
+    Fra_Rest* m_Fra_Rest;
     QFrame* m_TopLine;
     Menueleiste* m_menue;
 };

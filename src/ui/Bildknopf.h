@@ -1,0 +1,25 @@
+// A picture that can be clicked, or pressed by the space bar.
+#pragma once
+
+#include <QAbstractButton>
+#include <QPixmap>
+
+namespace tarvelin {
+
+class Bildknopf : public QAbstractButton {
+    Q_OBJECT
+
+  public:
+    Bildknopf(const QString& name, const QSize& groesse, const QString& hinweis, QWidget* parent);
+
+    /// Scaled to the size of the button. A null picture leaves the one before.
+    void SetzeBild(const QPixmap& bild);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    QPixmap m_bild;
+};
+
+}  // namespace tarvelin
