@@ -16,13 +16,34 @@ class Stumm final : public Dialoge {
     void Zeige(const Meldung& /*meldung*/) override {}
     void Piepton() override {}
     bool Stelle(const Frage& /*frage*/) override { return false; }
+    std::filesystem::path FragNachDatei(Zweck /*zweck*/,
+                                        const std::filesystem::path& /*ordner*/) override {
+        return {};
+    }
+};
+
+class KeinNetz final : public Abruf {
+  public:
+    std::optional<std::string> Hole(const std::string& /*adresse*/) override { return {}; }
+    void Atme() override {}
+    void BrichAb() override {}
+};
+
+class KeinTon final : public Klang {
+  public:
+    void Spiele(const std::filesystem::path& /*datei*/) override {}
 };
 
 struct Welt {
     Stumm Boxen;
+    KeinNetz Netz;
+    KeinTon Ton;
     tarvelin::Umgebung Umgebung{
         .Boxen = Boxen,
+        .Netz = Netz,
+        .Ton = Ton,
         .Jetzt = [] { return *LiesDatumzeit("18.11.2006 12:30:00"); },
+        .OeffneSeite = [](const std::string&) {},
         .Programmordner = QCoreApplication::applicationDirPath().toStdString()};
 };
 

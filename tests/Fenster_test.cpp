@@ -75,7 +75,7 @@ TEST_F(Fenster, ListenFassenIhreLaengstenTexte) {
         }
     }
     plan.Schlafzeiten.assign(30, {.Startzeit = "28.12.2006 22:30", .Endzeit = "28.12.2006 23:30"});
-    m_fenster.UebernimmPlan(plan);
+    Lade(plan);
     m_fenster.StarteSimulation(true);
     Finde("Fra_Sleep").show();
     QCoreApplication::processEvents();
@@ -272,7 +272,7 @@ TEST_F(Fenster, EingabenBegrenzenNurTippenUndEinfuegen) {
     // A plan's text stands as it is, can be shortened, and then counts as typed.
     Plan plan = PlanAus("GM");
     plan.Parameter.UniStartZeitTag = "00018";
-    m_fenster.UebernimmPlan(plan);
+    Lade(plan);
     EXPECT_EQ(Text("txt_UniStartZeitTag"), "00018");
     auto& tag = Finde<QLineEdit>("txt_UniStartZeitTag");
     QTest::keyClick(&tag, Qt::Key_End);
@@ -394,9 +394,9 @@ TEST_F(Fenster, ErgebnisIstDasDesKerns) {
     Plan plan;
     Lauf lauf;
     Merker merker;
-    ASSERT_TRUE(
-        LadePlan(m_umgebung.Programmordner / "saves" / "basic.tvf", plan, lauf.Planet, merker));
-    m_fenster.UebernimmPlan(plan);
+    ASSERT_TRUE(LadePlan(std::filesystem::path(TARVELIN_QUELLEN) / "data/saves/basic.tvf", plan,
+                         lauf.Planet, merker));
+    Lade(plan);
     for (const char* const feld : kFelder) {
         Finde(feld).show();
     }
@@ -469,7 +469,7 @@ TEST_F(Fenster, NeuerLaufBeginntMitLeererListe) {
         ASSERT_FALSE(plan.Liste.DragDrop("ImgSKW", m_fenster.DerLauf().Planet));
     }
     plan.Parameter = m_fenster.DerPlan().Parameter;
-    m_fenster.UebernimmPlan(plan);
+    Lade(plan);
     m_fenster.StarteSimulation(true);
     auto& liste = Finde<QTreeView>("LV_Bauzeiten");
     liste.setCurrentIndex(liste.model()->index(59, 0));

@@ -7,6 +7,7 @@
 #include <QSlider>
 #include <QTest>
 #include <QTreeView>
+#include <map>
 
 #include "Hilfen.h"
 #include "ui/frmMain.h"
@@ -25,19 +26,58 @@ class Boxenmerker final : public Dialoge {
     void Piepton() override {}
     bool Stelle(const Frage& frage) override {
         Texte.push_back(frage.Text);
-        return Antwort;
+        return Antworten.contains(frage.Text) ? Antworten.at(frage.Text) : Antwort;
+    }
+    std::filesystem::path FragNachDatei(Zweck /*zweck*/,
+                                        const std::filesystem::path& ordner) override {
+        return Datei.empty() ? Datei : ordner / Datei;
     }
 
     std::vector<std::string> Texte;
     std::function<void()> BeiMeldung;
     bool Antwort = false;
+    /// To certain questions another one.
+    std::map<std::string, bool> Antworten;
+    /// What the file dialogs answer, from their folder on.
+    std::filesystem::path Datei;
 };
 
-/// The window on Saturday, 18 November 2006, over the data of the repository.
+/// Has the files of a table and no others; keeps what was asked.
+class Netzmerker final : public Abruf {
+  public:
+    std::optional<std::string> Hole(const std::string& adresse) override {
+        Adressen.push_back(adresse);
+        const auto datei = Dateien.find(adresse);
+        return datei == Dateien.end() ? std::nullopt : std::optional(datei->second);
+    }
+    void Atme() override {}
+    void BrichAb() override {}
+
+    std::map<std::string, std::string> Dateien;
+    std::vector<std::string> Adressen;
+};
+
+class Klangmerker final : public Klang {
+  public:
+    void Spiele(const std::filesystem::path& datei) override { Gespielt.push_back(datei); }
+
+    std::vector<std::filesystem::path> Gespielt;
+};
+
+inline void LegeDatenAn(const std::filesystem::path& ordner) {
+    namespace fs = std::filesystem;
+    fs::copy(fs::path(TARVELIN_QUELLEN) / "data", ordner,
+             fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+    fs::remove(ordner / "saves" / "basic.tvf");
+}
+
+/// The window on Saturday, 18 November 2006, in a folder of its own with the data of the
+/// repository, but for the starter plan.
 class Fenster : public testing::Test {
   protected:
     Fenster() {
-        m_fenster.show();
+        LegeDatenAn(m_ordner / "");
+        m_fenster.Form_Load();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&m_fenster));
     }
 
@@ -71,14 +111,34 @@ class Fenster : public testing::Test {
         return modell->index(zeile, spalte).data().toString().toStdString();
     }
     int Zeilen(const char* liste) { return Finde<QTreeView>(liste).model()->rowCount(); }
+    /// Clears the list and drops items, told by their codes.
     void Lade(std::string_view codes) {
-        m_fenster.UebernimmPlan(PlanAus(codes, m_fenster.DerLauf().Planet));
+        Druecke("Cmd_Clear");
+        for (std::size_t anfang = 0; anfang < codes.size();) {
+            const std::size_t ende = std::min(codes.find(' ', anfang), codes.size());
+            const auto item = ItemVonCode(codes.substr(anfang, ende - anfang));
+            emit Finde<Baulistenansicht>("LV_Bauliste").DragDrop(AlsQString(ZeileVon(*item).Bild));
+            anfang = ende + 1;
+        }
+    }
+    /// Loads a plan through its file, which runs it.
+    void Lade(const Plan& plan) {
+        ASSERT_TRUE(SaveBauliste(m_ordner / "plan.tvf", plan));
+        m_fenster.LoadBauliste(m_ordner / "plan.tvf", true);
     }
 
+    Ordner m_ordner;
     Boxenmerker m_boxen;
+    Netzmerker m_netz;
+    Klangmerker m_ton;
+    Zeitpunkt m_jetzt = *LiesDatumzeit("18.11.2006 09:15:00");
+    std::vector<std::string> m_seiten;
     Umgebung m_umgebung{.Boxen = m_boxen,
-                        .Jetzt = [] { return *LiesDatumzeit("18.11.2006 09:15:00"); },
-                        .Programmordner = std::filesystem::path(TARVELIN_QUELLEN) / "data"};
+                        .Netz = m_netz,
+                        .Ton = m_ton,
+                        .Jetzt = [this] { return m_jetzt; },
+                        .OeffneSeite = [this](const std::string& s) { m_seiten.push_back(s); },
+                        .Programmordner = m_ordner / ""};
     frmMain m_fenster{m_umgebung};
 };
 

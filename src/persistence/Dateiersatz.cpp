@@ -115,4 +115,8 @@ bool ErsetzeDatei(const std::filesystem::path& datei, std::string_view bytes) {
     return true;
 }
 
+bool IstBeschreibbar(const std::filesystem::path& ordner) {
+    return ::access(ordner.c_str(), W_OK | X_OK) == 0;
+}
+
 }  // namespace tarvelin

@@ -12,4 +12,7 @@ namespace tarvelin {
 /// is missing, a folder stands in the file's place, file or folder can't be written.
 bool ErsetzeDatei(const std::filesystem::path& datei, std::string_view bytes);
 
+/// Whether files can be made in a folder.
+[[nodiscard]] bool IstBeschreibbar(const std::filesystem::path& ordner);
+
 }  // namespace tarvelin

@@ -116,12 +116,11 @@ class Leser {
     const Startplanet& m_planet;
 };
 
-void ZeigeLadefehler(Meldungsausgabe& meldungen) {
-    meldungen.Zeige(
-        {.Text = "Die Bauliste konnte nicht geladen werden...", .Titel = kAusnahmefehler});
-}
-
 }  // namespace
+
+Meldung Ladefehler() {
+    return {.Text = "Die Bauliste konnte nicht geladen werden...", .Titel = kAusnahmefehler};
+}
 
 void SchreibePlan(const Plan& plan, Profil& profil) {
     const Startparameter& parameter = plan.Parameter;
@@ -160,7 +159,7 @@ bool LadePlan(const Profil& profil, Plan& plan, const Startplanet& planet,
     plan.Liste.Clear();
     const bool brauchbar = Leser(profil, plan, planet).Lies();
     if (!brauchbar) {
-        ZeigeLadefehler(meldungen);
+        meldungen.Zeige(Ladefehler());
     }
     return brauchbar;
 }
@@ -169,7 +168,7 @@ bool LadePlan(const std::filesystem::path& File, Plan& plan, const Startplanet& 
               Meldungsausgabe& meldungen) {
     const auto profil = Profil::Lade(File);
     if (!profil) {
-        ZeigeLadefehler(meldungen);
+        meldungen.Zeige(Ladefehler());
         return false;
     }
     return LadePlan(*profil, plan, planet, meldungen);

@@ -18,6 +18,9 @@ void SchreibePlan(const Plan& plan, Profil& profil);
 /// The same into a file, in one step. False if it can't be written; the file is then as it was.
 bool SaveBauliste(const std::filesystem::path& File, const Plan& plan);
 
+/// What a player reads when a file holds no plan.
+[[nodiscard]] Meldung Ladefehler();
+
 /// Takes a plan from a profile. The former plan is gone at once. At the first value that can't be
 /// used the reading stops with a message: what was read up to there stays, and false comes back.
 /// Rows are replayed without a look at the game's rules; their factor texts follow the temperature

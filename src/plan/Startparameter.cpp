@@ -37,13 +37,14 @@ void SetzeStartdatum(Startparameter& parameter, Zeitpunkt tag) {
     parameter.UniStartZeitJahr = datum.substr(6);
 }
 
+Wochentagsanzeige WochentagVon(Zeitpunkt tag) {
+    return {.Caption = std::string(WochentagKurz(tag)) + ".",
+            .Hint = std::string(WochentagLang(tag))};
+}
+
 Wochentagsanzeige RefreshWeekday(const Startparameter& parameter) {
     const auto datum = LiesDatumzeit(parameter.Datumstext());
-    if (!datum) {
-        return {.Caption = "Err.", .Hint = ""};
-    }
-    return {.Caption = std::string(WochentagKurz(*datum)) + ".",
-            .Hint = std::string(WochentagLang(*datum))};
+    return datum ? WochentagVon(*datum) : Wochentagsanzeige{.Caption = "Err.", .Hint = ""};
 }
 
 std::optional<Zeitpunkt> ReadUniStartZeit(Startparameter& parameter, Meldungsausgabe& meldungen) {

@@ -42,6 +42,9 @@ struct Wochentagsanzeige {
     std::string Hint;
 };
 
+/// "Mo." with the hint "Montag".
+[[nodiscard]] Wochentagsanzeige WochentagVon(Zeitpunkt tag);
+
 /// "Mo." with the hint "Montag", or "Err." without one when the inputs are no date.
 [[nodiscard]] Wochentagsanzeige RefreshWeekday(const Startparameter& parameter);
 

@@ -3,6 +3,7 @@
 
 #include <QGridLayout>
 #include <QLineEdit>
+#include <QRegularExpressionValidator>
 
 namespace tarvelin {
 
@@ -59,6 +60,8 @@ void Bauzeitengruppe::FuelleSekunden() {
         Comb_Before->addItem(QString::fromLatin1(sekunden));
     }
     Comb_Before->setCurrentText(QStringLiteral("10"));
+    Comb_Before->setValidator(
+        new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), Comb_Before));
     // The screen reader takes a drop-down list's name from its label; on the screen the words of
     // the check box stand for it.
     QLabel* const name = NeuesLabel({}, QStringLiteral("Sekunden vorher"), this);

@@ -208,9 +208,12 @@ void Fra_Einstellungen::Zeige() {
 }
 
 void Fra_Einstellungen::RefreshWeekday() {
-    const Wochentagsanzeige anzeige = tarvelin::RefreshWeekday(m_plan.Parameter);
-    m_LBL_Weekday->setText(AlsQString(anzeige.Caption));
-    m_LBL_Weekday->setToolTip(AlsQString(anzeige.Hint));
+    Zeige(tarvelin::RefreshWeekday(m_plan.Parameter));
+}
+
+void Fra_Einstellungen::Zeige(const Wochentagsanzeige& wochentag) {
+    m_LBL_Weekday->setText(AlsQString(wochentag.Caption));
+    m_LBL_Weekday->setToolTip(AlsQString(wochentag.Hint));
 }
 
 void Fra_Einstellungen::ZeigeTemperaturen() {

@@ -18,6 +18,7 @@ class Fra_Einstellungen : public Feld {
     /// After the program changed the parameters.
     void Zeige();
     void RefreshWeekday();
+    void Zeige(const Wochentagsanzeige& wochentag);
 
   signals:
     void Chk_Speedfaktor_Click();

@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFileDialog>
 #include <QGridLayout>
 #include <QMainWindow>
 
@@ -18,6 +19,10 @@ QMessageBox::Icon Symbol(Meldungssymbol symbol) {
             return QMessageBox::Critical;
         case Meldungssymbol::Frage:
             return QMessageBox::Question;
+        case Meldungssymbol::Warnung:
+            return QMessageBox::Warning;
+        case Meldungssymbol::Hinweis:
+            return QMessageBox::Information;
         case Meldungssymbol::Ohne:
             break;
     }
@@ -53,7 +58,7 @@ QMessageBox::StandardButton Oeffne(const std::string& text, const std::string& t
     const QString titelzeile = titel.empty() ? QStringLiteral("Tarvelin") : AlsQString(titel);
     box.setWindowTitle(titelzeile);
     box.setTextFormat(Qt::PlainText);
-    box.setText(AlsQString(text));
+    box.setText(AlsQString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     box.setIcon(Symbol(symbol));
     box.setStandardButtons(knoepfe);
     for (const auto& [knopf, aufschrift] : {std::pair(QMessageBox::Yes, QStringLiteral("&Ja")),
@@ -79,6 +84,22 @@ void Meldungsfenster::Piepton() {
 bool Meldungsfenster::Stelle(const Frage& frage) {
     return Oeffne(frage.Text, frage.Titel, frage.Symbol, QMessageBox::Yes | QMessageBox::No) ==
            QMessageBox::Yes;
+}
+
+std::filesystem::path Meldungsfenster::FragNachDatei(Zweck zweck,
+                                                     const std::filesystem::path& ordner) {
+    QFileDialog dialog(Elternfenster());
+    const bool laden = zweck == Zweck::Laden;
+    dialog.setAcceptMode(laden ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+    dialog.setFileMode(laden ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilter(QStringLiteral("(*.tvf) Tarvelin Save-Files (*.tvf)"));
+    dialog.setDirectory(AlsQString(ordner.native()));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return {};
+    }
+    return dialog.selectedFiles().constFirst().toStdString();
 }
 
 }  // namespace tarvelin

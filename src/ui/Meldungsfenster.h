@@ -13,6 +13,8 @@ class Meldungsfenster final : public Dialoge {
     void Zeige(const Meldung& meldung) override;
     void Piepton() override;
     [[nodiscard]] bool Stelle(const Frage& frage) override;
+    [[nodiscard]] std::filesystem::path FragNachDatei(Zweck zweck,
+                                                      const std::filesystem::path& ordner) override;
 };
 
 }  // namespace tarvelin

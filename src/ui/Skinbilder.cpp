@@ -1,51 +1,16 @@
-// File names of the pictures.
+// Loading of pictures.
 #include "ui/Skinbilder.h"
 
 #include <QPixmap>
-#include <array>
+#include <string>
 
 #include "ui/Bauteile.h"
+#include "ui/Fra_Skin.h"
+#include "ui/Webskin.h"
 
 namespace tarvelin {
 
 namespace {
-
-struct Skinbild {
-    /// The folder in a skin, and the file there.
-    const char* Ordner;
-    const char* Datei;
-    /// The label that shows it.
-    const char* Bild;
-};
-
-// clang-format off
-constexpr std::array<Skinbild, 24> kSkinbilder{{
-    {"gebaeude", "1.gif", "ImgMetMine"},
-    {"gebaeude", "2.gif", "ImgKrisMine"},
-    {"gebaeude", "3.gif", "ImgDeutMine"},
-    {"gebaeude", "4.gif", "ImgSKW"},
-    {"gebaeude", "14.gif", "ImgRobo"},
-    {"gebaeude", "21.gif", "ImgWerft"},
-    {"gebaeude", "31.gif", "imgFolab"},
-    {"gebaeude", "401.gif", "imgRakws"},
-    {"gebaeude", "402.gif", "imglLasers"},
-    {"gebaeude", "403.gif", "imgsLasers"},
-    {"gebaeude", "212.gif", "imgSolsats"},
-    {"gebaeude", "210.gif", "imgSpios"},
-    {"gebaeude", "204.gif", "imgLJs"},
-    {"gebaeude", "113.gif", "imgENTech"},
-    {"gebaeude", "110.gif", "imgSchTech"},
-    {"gebaeude", "115.gif", "imgVerbTech"},
-    {"gebaeude", "120.gif", "imgLaserTech"},
-    {"gebaeude", "106.gif", "imgSpioTech"},
-    {"gebaeude", "202.gif", "imgKTs"},
-    {"gebaeude", "407.gif", "imgklSchK"},
-    {"images", "kristall.gif", "Images(1)"},
-    {"images", "metall.gif", "Images(0)"},
-    {"images", "deuterium.gif", "Images(2)"},
-    {"images", "energie.gif", "Images(3)"},
-}};
-// clang-format on
 
 QString AlsQString(const std::filesystem::path& datei) {
     return tarvelin::AlsQString(datei.native());
@@ -80,11 +45,19 @@ Ziehzeiger LadeZiehzeiger(const std::filesystem::path& bilder, qreal skalierung)
             .Gezogen = LadeZeiger(bilder / "hand.ico", skalierung)};
 }
 
-void LadeStandardskin(const QWidget& flaeche, const std::filesystem::path& bilder) {
-    LadeBild(*flaeche.findChild<QLabel*>(QStringLiteral("Images(4)")), bilder / "summe.gif");
+void ApplySkin(Byte Mode, const std::string& Path, const QWidget& flaeche,
+               const std::filesystem::path& programmordner) {
+    const auto lade = [&flaeche](const char* name, const std::filesystem::path& datei) {
+        LadeBild(*flaeche.findChild<QLabel*>(QString::fromLatin1(name)), datei);
+    };
+    const auto bilder = programmordner / "img";
+    lade("Images(4)", bilder / "summe.gif");
+    if (Mode != kStandardskin && Mode != kLokalerSkin) {
+        return;
+    }
+    const auto ordner = bilder / "skins" / (Mode == kStandardskin ? "standard" : Path);
     for (const Skinbild& bild : kSkinbilder) {
-        LadeBild(*flaeche.findChild<QLabel*>(QString::fromLatin1(bild.Bild)),
-                 bilder / "skins" / "standard" / bild.Ordner / bild.Datei);
+        lade(bild.Bild, ordner / bild.Ordner / (bild.Name + std::string(".gif")));
     }
 }
 

@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QLabel>
 #include <filesystem>
+#include <string>
 
 #include "ui/Itembild.h"
 
@@ -22,8 +23,10 @@ void LadeBild(QLabel& bild, const std::filesystem::path& datei);
 /// system's open hand, or the dragged picture itself.
 [[nodiscard]] Ziehzeiger LadeZiehzeiger(const std::filesystem::path& bilder, qreal skalierung);
 
-/// The twenty item pictures and the four stock symbols of the standard skin, and the symbol of the
-/// points, into the labels of these names below `flaeche`.
-void LadeStandardskin(const QWidget& flaeche, const std::filesystem::path& bilder);
+/// Shows the skin of a source: the standard skin, or the local one in the folder `Path`; any other
+/// mode shows none. The symbol of the points belongs to all of them. A picture that is missing
+/// leaves the one before. The labels lie below `flaeche`.
+void ApplySkin(Byte Mode, const std::string& Path, const QWidget& flaeche,
+               const std::filesystem::path& programmordner);
 
 }  // namespace tarvelin

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "util/Datumzeit.h"
@@ -23,13 +24,55 @@ class Dialoge : public Meldungsausgabe {
   public:
     /// Whether the user answered "Ja". Closing the box is a "Nein".
     [[nodiscard]] virtual bool Stelle(const Frage& frage) = 0;
+
+    enum class Zweck { Laden, Speichern };
+    /// A save file of the user's choice, from `ordner` on; empty if he chose none. Nothing is added
+    /// to the name, and nothing is asked about a file that is there already.
+    [[nodiscard]] virtual std::filesystem::path FragNachDatei(
+        Zweck zweck, const std::filesystem::path& ordner) = 0;
+};
+
+/// Fetches files by HTTP.
+class Abruf {
+  public:
+    Abruf() = default;
+    Abruf(const Abruf&) = delete;
+    Abruf& operator=(const Abruf&) = delete;
+    virtual ~Abruf() = default;
+
+    /// The bytes behind an address, or nothing if they didn't come whole and well. Returns at the
+    /// end of the fetch; meanwhile the screen lives on, and clicks and keys go nowhere.
+    [[nodiscard]] virtual std::optional<std::string> Hole(const std::string& adresse) = 0;
+
+    /// Lets the screen live between two fetches.
+    virtual void Atme() = 0;
+
+    /// Ends a fetch under way; it brings nothing.
+    virtual void BrichAb() = 0;
+};
+
+/// Plays sounds.
+class Klang {
+  public:
+    Klang() = default;
+    Klang(const Klang&) = delete;
+    Klang& operator=(const Klang&) = delete;
+    virtual ~Klang() = default;
+
+    /// Returns at once and cuts off a sound that still plays. A file that can't be played is
+    /// answered with a beep.
+    virtual void Spiele(const std::filesystem::path& datei) = 0;
 };
 
 struct Umgebung {
     Dialoge& Boxen;
+    Abruf& Netz;
+    Klang& Ton;
     /// The wall clock of the machine, in its local time.
     std::function<Zeitpunkt()> Jetzt;
-    /// Where `img`, `mfx` and `saves` lie.
+    /// Opens an address in the user's web browser.
+    std::function<void(const std::string&)> OeffneSeite;
+    /// Where `img`, `mfx`, `saves` and `config.cfg` lie.
     std::filesystem::path Programmordner;
 };
 

@@ -9,41 +9,31 @@
 #include <QTimer>
 #include <utility>
 
+#include "ui/Hersteller.h"
 #include "ui/Skinbilder.h"
+#include "ui/Standmeldungen.h"
+#include "ui/Webskin.h"
 
 namespace tarvelin {
 
 namespace {
 
-/// Messages of a run come up with what it has changed so far on the screen.
-class Laufmeldungen final : public Meldungsausgabe {
-  public:
-    Laufmeldungen(std::function<void()> zeigeStand, Dialoge& boxen)
-        : m_zeigeStand(std::move(zeigeStand)), m_boxen(boxen) {}
-
-    void Zeige(const Meldung& meldung) override {
-        m_zeigeStand();
-        m_boxen.Zeige(meldung);
+/// Brings up a window of its own, or the one that is open already.
+template <class F>
+void ZeigeEinmaliges(std::unique_ptr<F>& fenster, const Umgebung& umgebung) {
+    if (!fenster) {
+        fenster = std::make_unique<F>(umgebung);
     }
-    void Piepton() override { m_boxen.Piepton(); }
-
-  private:
-    std::function<void()> m_zeigeStand;
-    Dialoge& m_boxen;
-};
-
-/// The start parameters of a new plan: today, at the usual time of day.
-Plan NeuerPlan(Zeitpunkt heute) {
-    Plan plan;
-    SetzeStartdatum(plan.Parameter, heute);
-    return plan;
+    fenster->show();
+    fenster->raise();
+    fenster->activateWindow();
 }
 
 }  // namespace
 
 frmMain::frmMain(const Umgebung& umgebung)
     : m_umgebung(umgebung),
-      m_plan(NeuerPlan(umgebung.Jetzt())),
+      m_konfiguration(umgebung.Programmordner),
       m_flaeche(new QWidget(this)),
       m_Fra_Einstellungen(new Fra_Einstellungen(m_plan, m_flaeche)),
       m_Fra_Special(new Fra_Special(m_flaeche)),
@@ -51,13 +41,20 @@ frmMain::frmMain(const Umgebung& umgebung)
       m_Fra_Sleep(new Fra_Sleep(m_plan.Schlafzeiten, umgebung, m_flaeche)),
       m_Fra_Rest(new Fra_Rest(m_plan.Liste, m_lauf, m_flaeche)),
       m_TopLine(new QFrame(m_flaeche)),
-      m_menue(new Menueleiste(this)) {
+      m_menue(new Menueleiste(this)),
+      m_alarme(new Alarme({.LV_Bauzeiten = m_lauf.LV_Bauzeiten,
+                           .LV_Schlafzeiten = m_plan.Schlafzeiten,
+                           .Chk_BauWeckfunktion = *m_Fra_Rest->Frame6->Chk_BauWeckfunktion,
+                           .Chk_Schlafzeitenwecker = *m_Fra_Sleep->Chk_Schlafzeitenwecker,
+                           .Comb_Before = *m_Fra_Rest->Frame6->Comb_Before},
+                          umgebung, m_flaeche)) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Tarvelin  |  Kelva Aufbau-Simulator"));
     LegeAus();
     BaueMenue();
     Verbinde();
     LadeBilder();
+    SetzeHeute();
     m_Fra_Rest->Zeige(m_texte);
     m_Fra_Rest->ZeigeNamen(m_plan.ShowDesc);
 }
@@ -99,7 +96,6 @@ void frmMain::LadeBilder() {
     }
     m_Fra_Rest->Frame6->ImgDonate_1->setCursor(zeiger.Offen);
     m_Fra_Rest->Frame6->ImgDonate_1->SetzeBild(LadePixmap(bilder / "spende.png"));
-    LadeStandardskin(*m_Fra_Rest, bilder);
 }
 
 void frmMain::Verbinde() {
@@ -114,6 +110,9 @@ void frmMain::Verbinde() {
             &frmMain::Chk_Speedfaktor_Click);
     connect(m_Fra_Einstellungen, &Fra_Einstellungen::cmd_ShowDesc_Click, this,
             [this] { m_Fra_Rest->ZeigeNamen(m_plan.ShowDesc); });
+    connect(m_Fra_Skin->Cmd_ApplySkin, &QPushButton::clicked, this, &frmMain::Cmd_ApplySkin_Click);
+    connect(m_Fra_Rest->Frame6->ImgDonate_1, &QAbstractButton::clicked, this,
+            &frmMain::mnu_DOnate_Click);
     for (const Itemplatz& platz : m_Fra_Rest->Plaetze()) {
         connect(platz.Bild, &Itembild::MouseMove, this, [this, platz] { Img_MouseMove(platz); });
         connect(platz.Bild, &Itembild::Gewaehlt, this,
@@ -121,8 +120,8 @@ void frmMain::Verbinde() {
     }
 }
 
-QAction* frmMain::NeuerEintrag(QWidget* menue, const char* name, const QString& text) {
-    auto* const eintrag = new QAction(text, this);
+QAction* frmMain::NeuerEintrag(QWidget* menue, const char* name, const char* text) {
+    auto* const eintrag = new QAction(QString::fromLatin1(text), this);
     eintrag->setObjectName(QString::fromLatin1(name));
     menue->addAction(eintrag);
     return eintrag;
@@ -134,32 +133,46 @@ void frmMain::NeuerStrich(QMenu* menue, const char* name) {
 }
 
 void frmMain::BaueMenue() {
+    BaueDateimenue();
+    const auto felder = {
+        std::tuple("mnuEinstellungen", "&Einstellungen", &frmMain::mnuEinstellungen_Click),
+        std::tuple("mnu_SpecialEvents", "Special-&Events", &frmMain::mnu_SpecialEvents_Click),
+        std::tuple("mnuSleep", "&Schlafzeiten", &frmMain::mnuSleep_Click),
+        std::tuple("mnuSkin", "&Skin", &frmMain::mnuSkin_Click)};
+    for (const auto& [name, text, handler] : felder) {
+        connect(NeuerEintrag(m_menue, name, text), &QAction::triggered, this, handler);
+    }
+    BaueInfomenue();
+}
+
+void frmMain::BaueDateimenue() {
     QMenu* const datei = m_menue->addMenu(QStringLiteral("&Datei"));
     datei->menuAction()->setObjectName(QStringLiteral("mnu_Datei"));
-    NeuerEintrag(datei, "mnu_DateiNeu", QStringLiteral("&Neu"))->setShortcut(Qt::CTRL | Qt::Key_N);
-    NeuerEintrag(datei, "mnu_DateiLaden", QStringLiteral("&Laden"))
-        ->setShortcut(Qt::CTRL | Qt::Key_O);
-    NeuerEintrag(datei, "mnu_Datei_Speichern", QStringLiteral("&Speichern"))
-        ->setShortcut(Qt::CTRL | Qt::Key_S);
+    const auto eintraege = {
+        std::tuple("mnu_DateiNeu", "&Neu", Qt::Key_N, &frmMain::mnu_DateiNeu_Click),
+        std::tuple("mnu_DateiLaden", "&Laden", Qt::Key_O, &frmMain::mnu_DateiLaden_Click),
+        std::tuple("mnu_Datei_Speichern", "&Speichern", Qt::Key_S,
+                   &frmMain::mnu_Datei_Speichern_Click)};
+    for (const auto& [name, text, taste, handler] : eintraege) {
+        QAction* const eintrag = NeuerEintrag(datei, name, text);
+        eintrag->setShortcut(Qt::CTRL | taste);
+        connect(eintrag, &QAction::triggered, this, handler);
+    }
     NeuerStrich(datei, "mnu_Datei_Strich01");
-    connect(NeuerEintrag(datei, "mnu_Datei_Beenden", QStringLiteral("&Beenden")),
-            &QAction::triggered, this, &QWidget::close);
+    connect(NeuerEintrag(datei, "mnu_Datei_Beenden", "&Beenden"), &QAction::triggered, this,
+            &QWidget::close);
+}
 
-    connect(NeuerEintrag(m_menue, "mnuEinstellungen", QStringLiteral("&Einstellungen")),
-            &QAction::triggered, this, &frmMain::mnuEinstellungen_Click);
-    connect(NeuerEintrag(m_menue, "mnu_SpecialEvents", QStringLiteral("Special-&Events")),
-            &QAction::triggered, this, &frmMain::mnu_SpecialEvents_Click);
-    connect(NeuerEintrag(m_menue, "mnuSleep", QStringLiteral("&Schlafzeiten")), &QAction::triggered,
-            this, &frmMain::mnuSleep_Click);
-    connect(NeuerEintrag(m_menue, "mnuSkin", QStringLiteral("&Skin")), &QAction::triggered, this,
-            &frmMain::mnuSkin_Click);
-
+void frmMain::BaueInfomenue() {
     QMenu* const info = m_menue->addMenu(QStringLiteral("Info"));
     info->menuAction()->setObjectName(QStringLiteral("mnu_Info"));
-    NeuerEintrag(info, "mnu_DOnate", QStringLiteral("&Spenden..."));
-    NeuerEintrag(info, "mnu_UpdateCheck", QStringLiteral("&Update-Check"));
+    connect(NeuerEintrag(info, "mnu_DOnate", "&Spenden..."), &QAction::triggered, this,
+            &frmMain::mnu_DOnate_Click);
+    connect(NeuerEintrag(info, "mnu_UpdateCheck", "&Update-Check"), &QAction::triggered, this,
+            &frmMain::mnu_UpdateCheck_Click);
     NeuerStrich(info, "strich_02");
-    NeuerEintrag(info, "mnuAbout_TV", QStringLiteral("&About Tarvelin"));
+    connect(NeuerEintrag(info, "mnuAbout_TV", "&About Tarvelin"), &QAction::triggered, this,
+            &frmMain::mnuAbout_TV_Click);
 }
 
 void frmMain::keyPressEvent(QKeyEvent* event) {
@@ -180,6 +193,53 @@ bool frmMain::eventFilter(QObject* ziel, QEvent* event) {
         }
     }
     return QMainWindow::eventFilter(ziel, event);
+}
+
+void frmMain::SetzeHeute() {
+    const Zeitpunkt heute = m_umgebung.Jetzt();
+    SetzeStartdatum(m_plan.Parameter, heute);
+    m_Fra_Einstellungen->Zeige();
+    // Whatever the hour says.
+    m_Fra_Einstellungen->Zeige(WochentagVon(heute));
+}
+
+void frmMain::mnu_UpdateCheck_Click() {
+    const auto geladen = m_umgebung.Netz.Hole(Versionsdatei());
+    if (m_geschlossen) {
+        return;
+    }
+    if (!geladen) {
+        m_umgebung.Boxen.Zeige(Versionsfehler());
+    } else if (m_umgebung.Boxen.Stelle(Versionsfrage(*geladen))) {
+        m_umgebung.OeffneSeite(Downloadseite());
+    }
+}
+
+void frmMain::mnuAbout_TV_Click() {
+    ZeigeEinmaliges(m_frmAbout, m_umgebung);
+}
+
+void frmMain::mnu_DOnate_Click() {
+    ZeigeEinmaliges(m_frmDonate, m_umgebung);
+}
+
+void frmMain::Cmd_ApplySkin_Click() {
+    const Byte quelle = m_Fra_Skin->Quelle();
+    QLineEdit& pfad = *m_Fra_Skin->txt_Pfad;
+    if (quelle == kWebskin) {
+        const auto ordner = m_umgebung.Programmordner / "img" / "skins" / kLandeordner;
+        const auto ausgang = HoleWebskin(pfad.text().toStdString(), ordner, m_umgebung,
+                                         [this] { return !m_geschlossen; });
+        ApplySkin(ausgang == Webskinausgang::AmEnde ? kLokalerSkin : kStandardskin, kLandeordner,
+                  *m_Fra_Rest, m_umgebung.Programmordner);
+        if (pfad.text().endsWith(QLatin1Char('/'))) {
+            pfad.setText(pfad.text().chopped(1));
+        }
+    } else {
+        ApplySkin(quelle, m_Fra_Skin->Comb_Skins->currentText().toStdString(), *m_Fra_Rest,
+                  m_umgebung.Programmordner);
+    }
+    m_Fra_Skin->hide();
 }
 
 void frmMain::BringeNachVorn(QWidget& feld) {
@@ -271,17 +331,16 @@ void frmMain::Chk_Speedfaktor_Click() {
     m_lauf.Planet.Globale.Speedfaktor = m_plan.Parameter.Speedfaktor();
 }
 
-void frmMain::UebernimmPlan(Plan plan) {
-    Cmd_Clear_Click();
-    m_plan = std::move(plan);
+void frmMain::ZeigePlan() {
     m_Fra_Einstellungen->Zeige();
+    Chk_Speedfaktor_Click();
     m_Fra_Sleep->Zeige();
     m_Fra_Rest->ZeigeNamen(m_plan.ShowDesc);
     ZeigeNeueZeile();
 }
 
 void frmMain::StarteSimulation(bool silent) {
-    Laufmeldungen meldungen([this] { ZeigeStandDesLaufs(); }, m_umgebung.Boxen);
+    Standmeldungen meldungen([this] { ZeigeStandDesLaufs(); }, m_umgebung.Boxen);
     if (BeginneLauf(m_plan, m_lauf, meldungen, silent) == Laufausgang::AnEingabenGescheitert) {
         return;
     }

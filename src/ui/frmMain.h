@@ -5,10 +5,14 @@
 #include <QAction>
 #include <QFrame>
 #include <QMainWindow>
+#include <filesystem>
+#include <memory>
 
+#include "persistence/Konfiguration.h"
 #include "plan/Plan.h"
 #include "simulation/Ergebnistexte.h"
 #include "simulation/RunSimulation.h"
+#include "ui/Alarme.h"
 #include "ui/Fra_Einstellungen.h"
 #include "ui/Fra_Rest.h"
 #include "ui/Fra_Skin.h"
@@ -16,6 +20,8 @@
 #include "ui/Fra_Special.h"
 #include "ui/Menueleiste.h"
 #include "ui/Umgebung.h"
+#include "ui/frmAbout.h"
+#include "ui/frmDonate.h"
 
 namespace tarvelin {
 
@@ -33,8 +39,11 @@ class frmMain : public QMainWindow {
     [[nodiscard]] const Plan& DerPlan() const { return m_plan; }
     [[nodiscard]] const Lauf& DerLauf() const { return m_lauf; }
 
-    /// Takes another plan in the place of the present one; nothing is run.
-    void UebernimmPlan(Plan plan);
+    /// Reads the configuration, shows the window, and brings the starter plan or the last plan
+    /// back.
+    void Form_Load();
+    /// Takes the plan of a file and runs it. `Silent` keeps quiet about an empty list.
+    void LoadBauliste(const std::filesystem::path& File, bool Silent);
     /// Runs the plan and shows what it came to. `silent` keeps quiet about an empty list.
     void StarteSimulation(bool silent);
 
@@ -42,14 +51,34 @@ class frmMain : public QMainWindow {
     /// Enter presses the default button, unless what has the focus takes it.
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* ziel, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
   private:
     void LegeAus();
     void LadeBilder();
     void Verbinde();
     void BaueMenue();
-    QAction* NeuerEintrag(QWidget* menue, const char* name, const QString& text);
+    QAction* NeuerEintrag(QWidget* menue, const char* name, const char* text);
     static void NeuerStrich(QMenu* menue, const char* name);
+
+    void BaueDateimenue();
+    void BaueInfomenue();
+
+    void SetzeHeute();
+    void LiesSkin();
+    void ErsterStart();
+    void StelleWiederHer();
+    [[nodiscard]] std::filesystem::path Autosave() const;
+    void LadeLetzten();
+    void Form_Unload();
+
+    void mnu_DateiNeu_Click();
+    void mnu_DateiLaden_Click();
+    void mnu_Datei_Speichern_Click();
+    void mnu_UpdateCheck_Click();
+    void mnuAbout_TV_Click();
+    void mnu_DOnate_Click();
+    void Cmd_ApplySkin_Click();
 
     void BringeNachVorn(QWidget& feld);
     void Klappe(Feld& feld);
@@ -66,9 +95,11 @@ class frmMain : public QMainWindow {
     void Cmd_Simulate_Click();
     void Chk_Speedfaktor_Click();
     void ZeigeNeueZeile();
+    void ZeigePlan();
     void ZeigeStandDesLaufs();
 
     const Umgebung& m_umgebung;
+    Konfiguration m_konfiguration;
     Plan m_plan;
     Lauf m_lauf;
     Ergebnistexte m_texte;
@@ -82,6 +113,11 @@ class frmMain : public QMainWindow {
     Fra_Rest* m_Fra_Rest;
     QFrame* m_TopLine;
     Menueleiste* m_menue;
+    Alarme* m_alarme;
+    /// Windows of their own, made at their first use.
+    std::unique_ptr<frmAbout> m_frmAbout;
+    std::unique_ptr<frmDonate> m_frmDonate;
+    bool m_geschlossen = false;
 };
 
 }  // namespace tarvelin

@@ -1,8 +1,14 @@
 // Starts the window.
 #include <QDateTime>
+#include <QDesktopServices>
+#include <QStandardPaths>
+#include <QUrl>
 
+#include "persistence/Programmordner.h"
 #include "ui/Aussehen.h"
+#include "ui/Klangausgabe.h"
 #include "ui/Meldungsfenster.h"
+#include "ui/Netzabruf.h"
 #include "ui/frmMain.h"
 
 namespace {
@@ -17,17 +23,31 @@ tarvelin::Zeitpunkt Ortszeit() {
                                jetzt.time().msecsSinceStartOfDay() / kJeSekunde);
 }
 
+void OeffneSeite(const std::string& adresse) {
+    QDesktopServices::openUrl(QUrl::fromEncoded(QByteArray::fromStdString(adresse)));
+}
+
+std::filesystem::path Nutzerordner() {
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     QApplication programm(argc, argv);
     tarvelin::StelleAussehenEin(programm);
     tarvelin::Meldungsfenster boxen;
+    tarvelin::Netzabruf netz;
+    tarvelin::Klangausgabe ton;
     const tarvelin::Umgebung umgebung{
         .Boxen = boxen,
+        .Netz = netz,
+        .Ton = ton,
         .Jetzt = Ortszeit,
-        .Programmordner = QApplication::applicationDirPath().toStdString()};
+        .OeffneSeite = OeffneSeite,
+        .Programmordner = tarvelin::BestimmeProgrammordner(
+            QApplication::applicationDirPath().toStdString(), Nutzerordner())};
     tarvelin::frmMain fenster(umgebung);
-    fenster.show();
+    fenster.Form_Load();
     return QApplication::exec();
 }

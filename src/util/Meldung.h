@@ -8,7 +8,7 @@
 namespace tarvelin {
 
 /// The icon of a message box.
-enum class Meldungssymbol : std::uint8_t { Ohne, Fehler, Frage };
+enum class Meldungssymbol : std::uint8_t { Ohne, Fehler, Frage, Warnung, Hinweis };
 
 /// A modal message with one OK button.
 struct Meldung {

@@ -1,0 +1,56 @@
+// Keys of the configuration file.
+#include "persistence/Konfiguration.h"
+
+#include "persistence/Dateiersatz.h"
+#include "persistence/Profil.h"
+#include "persistence/modINI.h"
+#include "util/Zahlentext.h"
+
+namespace tarvelin {
+
+Konfiguration::Konfiguration(std::filesystem::path programmordner)
+    : m_programmordner(std::move(programmordner)), m_datei(m_programmordner / "config.cfg") {}
+
+std::string Konfiguration::Lies(const Konfigurationskey& key) const {
+    return ReadINI(key.Section, key.Key, m_datei, key.Standard);
+}
+
+bool Konfiguration::IstAn(const Konfigurationskey& key) const {
+    return Lies(key) == "1";
+}
+
+Byte Konfiguration::Skinmodus() const {
+    constexpr std::int64_t kHoechster = 255;
+    return static_cast<Byte>(LiesGanzzahl(Lies(kMode), 0, kHoechster).value_or(1));
+}
+
+std::filesystem::path Konfiguration::Alertsound() const {
+    // No file has this name; a default would come back cut to the length of a value.
+    constexpr std::string_view kFehlt = "*";
+    const std::string datei = ReadINI("SoundSettings", "Alertsound", m_datei, kFehlt);
+    return datei == kFehlt ? m_programmordner / "mfx" / "alert.wav"
+                           : std::filesystem::path(std::u8string(datei.begin(), datei.end()));
+}
+
+void Konfiguration::Schreibe(const Werte& werte) const {
+    auto profil = Profil::LadeOderLeer(m_datei);
+    if (!profil) {
+        return;
+    }
+    for (const auto& [key, wert] : werte) {
+        profil->Schreibe(key.Section, key.Key, wert);
+    }
+    ErsetzeDatei(m_datei, profil->Bytes());
+}
+
+Wiederherstellung EntscheideWiederherstellung(const Konfiguration& konfiguration) {
+    const std::string immer = konfiguration.Lies(Konfiguration::kAlwaysDoSo);
+    if (immer == "0") {
+        return Wiederherstellung::Fragen;
+    }
+    return immer == "1" && konfiguration.IstAn(Konfiguration::kRecover)
+               ? Wiederherstellung::Ungefragt
+               : Wiederherstellung::Nicht;
+}
+
+}  // namespace tarvelin

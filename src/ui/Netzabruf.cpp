@@ -1,0 +1,136 @@
+// Fetches that wait without letting the screen freeze.
+#include "ui/Netzabruf.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QEventLoop>
+#include <QTimer>
+#include <memory>
+
+#include "ui/Bauteile.h"
+
+namespace tarvelin {
+
+namespace {
+
+/// While it lives, clicks and keys go nowhere and the pointer tells that the program is busy.
+/// Painting, timers and the close of a window go on.
+class Eingabesperre : public QObject {
+  public:
+    Eingabesperre() {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+    Eingabesperre(const Eingabesperre&) = delete;
+    Eingabesperre& operator=(const Eingabesperre&) = delete;
+    ~Eingabesperre() override {
+        // What was clicked meanwhile must not come through afterwards.
+        QCoreApplication::processEvents();
+        QApplication::restoreOverrideCursor();
+    }
+
+  protected:
+    bool eventFilter(QObject* /*ziel*/, QEvent* event) override {
+        switch (event->type()) {
+            case QEvent::MouseButtonPress:
+            case QEvent::MouseButtonRelease:
+            case QEvent::MouseButtonDblClick:
+            case QEvent::Wheel:
+            case QEvent::KeyPress:
+            case QEvent::KeyRelease:
+            case QEvent::ShortcutOverride:
+            case QEvent::Shortcut:
+            case QEvent::ContextMenu:
+            case QEvent::TouchBegin:
+            case QEvent::TouchUpdate:
+            case QEvent::TouchEnd:
+            case QEvent::TabletPress:
+            case QEvent::TabletRelease:
+            case QEvent::DragEnter:
+            case QEvent::Drop:
+                return true;
+            default:
+                return false;
+        }
+    }
+};
+
+bool IstWebadresse(const QUrl& adresse) {
+    return adresse.isValid() && !adresse.host().isEmpty() &&
+           (adresse.scheme() == QStringLiteral("http") ||
+            adresse.scheme() == QStringLiteral("https"));
+}
+
+QNetworkRequest Anfrage(const QUrl& adresse) {
+    constexpr int kHoechstensUmgeleitet = 5;
+    QNetworkRequest anfrage(adresse);
+    anfrage.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                         QNetworkRequest::UserVerifiedRedirectPolicy);
+    anfrage.setMaximumRedirectsAllowed(kHoechstensUmgeleitet);
+    anfrage.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
+                         QNetworkRequest::AlwaysNetwork);
+    // As the file lies there: nothing that could swell when it is unpacked.
+    anfrage.setRawHeader("Accept-Encoding", "identity");
+    return anfrage;
+}
+
+bool IstGut(const QNetworkReply& antwort, qint64 erhalten) {
+    constexpr int kOk = 200;
+    const QVariant laenge = antwort.header(QNetworkRequest::ContentLengthHeader);
+    return antwort.error() == QNetworkReply::NoError &&
+           antwort.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() == kOk &&
+           (!laenge.isValid() || laenge.toLongLong() == erhalten);
+}
+
+}  // namespace
+
+Netzabruf::Netzabruf(Grenzen grenzen) : m_grenzen(grenzen) {}
+
+std::optional<std::string> Netzabruf::Hole(const std::string& adresse) {
+    const QUrl url(AlsQString(adresse));
+    if (!IstWebadresse(url)) {
+        return std::nullopt;
+    }
+    const Eingabesperre sperre;
+    const std::unique_ptr<QNetworkReply> antwort(m_netz.get(Anfrage(url)));
+    m_antwort = antwort.get();
+    std::string bytes;
+    QObject::connect(antwort.get(), &QNetworkReply::redirected, antwort.get(),
+                     [&](const QUrl& ziel) {
+                         if (IstWebadresse(ziel)) {
+                             emit antwort->redirectAllowed();
+                         } else {
+                             antwort->abort();
+                         }
+                     });
+    QObject::connect(antwort.get(), &QNetworkReply::readyRead, antwort.get(), [&] {
+        bytes += antwort->readAll().toStdString();
+        if (static_cast<qint64>(bytes.size()) > m_grenzen.Bytes) {
+            antwort->abort();
+        }
+    });
+    QEventLoop schleife;
+    QObject::connect(antwort.get(), &QNetworkReply::finished, &schleife, &QEventLoop::quit);
+    QTimer::singleShot(m_grenzen.Dauer, antwort.get(), [&] { antwort->abort(); });
+    if (!antwort->isFinished()) {
+        schleife.exec();
+    }
+    // The end of the program ends the loop too.
+    if (!antwort->isFinished() || !IstGut(*antwort, static_cast<qint64>(bytes.size()))) {
+        return std::nullopt;
+    }
+    return bytes;
+}
+
+void Netzabruf::Atme() {
+    const Eingabesperre sperre;
+    QCoreApplication::processEvents();
+}
+
+void Netzabruf::BrichAb() {
+    if (m_antwort != nullptr) {
+        m_antwort->abort();
+    }
+}
+
+}  // namespace tarvelin

@@ -1,0 +1,138 @@
+// Configuration, alarms' clockwork and the choice of the program's folder.
+#include "Hilfen.h"
+#include "persistence/Konfiguration.h"
+#include "persistence/Programmordner.h"
+#include "plan/Wecker.h"
+
+namespace tarvelin {
+namespace {
+
+TEST(Konfiguration, WiederherstellungNachDenFruehrenAntworten) {
+    const Ordner ordner;
+    const Konfiguration konfiguration(ordner / "");
+    EXPECT_EQ(EntscheideWiederherstellung(konfiguration), Wiederherstellung::Fragen);
+    struct Fall {
+        const char* Recover;
+        const char* AlwaysDoSo;
+        Wiederherstellung Erwartet;
+    };
+    for (const auto& [recover, immer, erwartet] :
+         {Fall{"1", "1", Wiederherstellung::Ungefragt}, Fall{"0", "1", Wiederherstellung::Nicht},
+          Fall{"0", "0", Wiederherstellung::Fragen}, Fall{"x", "0", Wiederherstellung::Fragen},
+          Fall{"x", "1", Wiederherstellung::Nicht}, Fall{"1", "ja", Wiederherstellung::Nicht}}) {
+        konfiguration.Schreibe(
+            {{Konfiguration::kRecover, recover}, {Konfiguration::kAlwaysDoSo, immer}});
+        EXPECT_EQ(EntscheideWiederherstellung(konfiguration), erwartet) << recover << immer;
+    }
+}
+
+TEST(Konfiguration, UnbrauchbareWerteZaehlenAlsStandard) {
+    const Ordner ordner;
+    const Konfiguration konfiguration(ordner / "");
+    for (const auto& [text, modus] :
+         {std::pair("2", 2), std::pair("0", 0), std::pair("255", 255), std::pair("256", 1),
+          std::pair("-1", 1), std::pair("", 1), std::pair("zwei", 1), std::pair("2,5", 1)}) {
+        konfiguration.Schreibe(
+            {{Konfiguration::kMode, text}, {Konfiguration::kBaulistenwecker, text}});
+        EXPECT_EQ(konfiguration.Skinmodus(), modus) << text;
+        EXPECT_FALSE(konfiguration.IstAn(Konfiguration::kBaulistenwecker)) << text;
+    }
+    // Both spellings of a key, and of a section, lead to one place.
+    SchreibeDatei(ordner / "config.cfg",
+                  "[Soundsettings]\r\nAlertsound=/tmp/gong.wav\r\n[skinsettings]\r\n"
+                  "webpath=http://x\r\n");
+    EXPECT_EQ(konfiguration.Alertsound(), "/tmp/gong.wav");
+    EXPECT_EQ(konfiguration.Lies(Konfiguration::kWebPath), "http://x");
+}
+
+TEST(Konfiguration, SchreibtNebenFremdeZeilenUndVerliertSichOhneOrdner) {
+    const Ordner ordner;
+    SchreibeDatei(ordner / "config.cfg", "; von Hand\r\n[Settings]\r\nEigenes=1\r\n");
+    Konfiguration(ordner / "").Schreibe({{Konfiguration::kFirststart, "0"}});
+    EXPECT_EQ(LiesDatei(ordner / "config.cfg"),
+              "; von Hand\r\n[Settings]\r\nEigenes=1\r\nFirststart=0\r\n");
+    const Konfiguration ohne(ordner / "fehlt");
+    ohne.Schreibe({{Konfiguration::kFirststart, "0"}});
+    EXPECT_EQ(ohne.Lies(Konfiguration::kFirststart), "1");
+    EXPECT_EQ(ohne.Alertsound(), ordner / "fehlt" / "mfx" / "alert.wav");
+}
+
+TEST(Wecker, KlingeltAufDieSekunde) {
+    const Zeitpunkt start = *LiesDatumzeit("18.11.2006 12:00:00");
+    const Bauzeiten bauzeiten{{start, "Metallmine: ", 1, {}},
+                              {start + 86400, "Metallmine: ", 2, {}},
+                              {start, {8, 10, 5}}};
+    struct Fall {
+        const char* Jetzt;
+        const char* Vorher;
+        std::size_t Erwartet;
+    };
+    for (const auto& [jetzt, vorher, erwartet] :
+         {Fall{"18.11.2006 11:59:50", "10", 2}, Fall{"18.11.2006 11:59:49", "10", 0},
+          Fall{"18.11.2006 11:59:51", "10", 0}, Fall{"18.11.2006 12:00:00", "0", 2},
+          Fall{"18.11.2006 12:00:00", "86400", 1}, Fall{"18.11.2006 11:59:59", "86401", 0},
+          Fall{"18.11.2006 12:00:00", "", 0}, Fall{"18.11.2006 11:59:59", "eins", 0},
+          Fall{"18.11.2006 12:00:00", "99999999999999999999", 0}}) {
+        EXPECT_EQ(FaelligeBauzeiten(bauzeiten, *LiesDatumzeit(jetzt), vorher), erwartet)
+            << jetzt << " " << vorher;
+    }
+    EXPECT_EQ(FaelligeBauzeiten({}, start, "0"), 0U);
+}
+
+TEST(Wecker, KlingeltEineMinuteVorDemAufwachen) {
+    const Schlaftabelle tabelle{{"17.11.2006 22:30", "18.11.2006 06:30"},
+                                {"x", "Unsinn"},
+                                {"17.11.2006 23:30", "18.11.2006 06:30"}};
+    EXPECT_EQ(FaelligeSchlafzeiten(tabelle, *LiesDatumzeit("18.11.2006 06:29:00")), 2U);
+    EXPECT_EQ(FaelligeSchlafzeiten(tabelle, *LiesDatumzeit("18.11.2006 06:29:01")), 0U);
+    EXPECT_EQ(FaelligeSchlafzeiten(tabelle, *LiesDatumzeit("18.11.2006 06:30:00")), 0U);
+}
+
+/// A folder with the data of a program, as small as it goes.
+void LegeDatenAn(const std::filesystem::path& ordner) {
+    for (const char* const unter : {"img/skins/temp_webskin/images", "mfx", "saves"}) {
+        std::filesystem::create_directories(ordner / unter);
+    }
+    SchreibeDatei(ordner / "img" / "icon.ico", "icon");
+    SchreibeDatei(ordner / "mfx" / "alert.wav", "ton");
+    SchreibeDatei(ordner / "saves" / "basic.tvf", "plan");
+}
+
+TEST(Programmordner, BeimProgrammWennDortGeschriebenWerdenKann) {
+    const Ordner ordner;
+    LegeDatenAn(ordner / "bin");
+    EXPECT_EQ(BestimmeProgrammordner(ordner / "bin", ordner / "nutzer"), ordner / "bin");
+    EXPECT_FALSE(std::filesystem::exists(ordner / "nutzer"));
+}
+
+TEST(Programmordner, EingerichtetesProgrammHatDieDateienBeimNutzer) {
+    const Ordner ordner;
+    LegeDatenAn(ordner / "share" / "tarvelin");
+    std::filesystem::create_directories(ordner / "bin");
+    const auto nutzer = ordner / "nutzer" / "Tarvelin";
+    EXPECT_EQ(BestimmeProgrammordner(ordner / "bin", nutzer), nutzer);
+    EXPECT_EQ(LiesDatei(nutzer / "saves" / "basic.tvf"), "plan");
+    EXPECT_TRUE(std::filesystem::is_directory(nutzer / "img/skins/temp_webskin/images"));
+
+    // The user's own files stay, a lost one comes back, the starter plan doesn't.
+    SchreibeDatei(nutzer / "mfx" / "alert.wav", "eigener Ton");
+    SchreibeDatei(nutzer / "config.cfg", "[Settings]\r\nFirststart=0\r\n");
+    std::filesystem::remove(nutzer / "img" / "icon.ico");
+    std::filesystem::remove(nutzer / "saves" / "basic.tvf");
+    EXPECT_EQ(BestimmeProgrammordner(ordner / "bin", nutzer), nutzer);
+    EXPECT_EQ(LiesDatei(nutzer / "mfx" / "alert.wav"), "eigener Ton");
+    EXPECT_EQ(LiesDatei(nutzer / "img" / "icon.ico"), "icon");
+    EXPECT_FALSE(std::filesystem::exists(nutzer / "saves" / "basic.tvf"));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(ordner / "bin"), {}), 0);
+}
+
+TEST(Programmordner, OhneDatenUndOhneRechteKommtDerNutzerordner) {
+    const Ordner ordner;
+    SchreibeDatei(ordner / "datei", "");
+    // Neither can be made below a file; nothing is thrown.
+    EXPECT_EQ(BestimmeProgrammordner(ordner / "bin", ordner / "datei" / "x"),
+              ordner / "datei" / "x");
+}
+
+}  // namespace
+}  // namespace tarvelin
