@@ -2,6 +2,7 @@
 #include "ui/Netzabruf.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QEvent>
 #include <QEventLoop>
 #include <QTimer>
@@ -62,11 +63,10 @@ bool IstWebadresse(const QUrl& adresse) {
 }
 
 QNetworkRequest Anfrage(const QUrl& adresse) {
-    constexpr int kHoechstensUmgeleitet = 5;
     QNetworkRequest anfrage(adresse);
+    // The toolkit loses its way at a second redirect whose server closes the connection.
     anfrage.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                         QNetworkRequest::UserVerifiedRedirectPolicy);
-    anfrage.setMaximumRedirectsAllowed(kHoechstensUmgeleitet);
+                         QNetworkRequest::ManualRedirectPolicy);
     anfrage.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
                          QNetworkRequest::AlwaysNetwork);
     // As the file lies there: nothing that could swell when it is unpacked.
@@ -77,8 +77,7 @@ QNetworkRequest Anfrage(const QUrl& adresse) {
 bool IstGut(const QNetworkReply& antwort, qint64 erhalten) {
     constexpr int kOk = 200;
     const QVariant laenge = antwort.header(QNetworkRequest::ContentLengthHeader);
-    return antwort.error() == QNetworkReply::NoError &&
-           antwort.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() == kOk &&
+    return antwort.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() == kOk &&
            (!laenge.isValid() || laenge.toLongLong() == erhalten);
 }
 
@@ -87,22 +86,25 @@ bool IstGut(const QNetworkReply& antwort, qint64 erhalten) {
 Netzabruf::Netzabruf(Grenzen grenzen) : m_grenzen(grenzen) {}
 
 std::optional<std::string> Netzabruf::Hole(const std::string& adresse) {
-    const QUrl url(AlsQString(adresse));
-    if (!IstWebadresse(url)) {
-        return std::nullopt;
-    }
+    constexpr int kHoechstensUmgeleitet = 5;
     const Eingabesperre sperre;
+    const QDeadlineTimer frist(m_grenzen.Dauer);
+    QUrl url(AlsQString(adresse));
+    for (int umgeleitet = 0; umgeleitet <= kHoechstensUmgeleitet && IstWebadresse(url);
+         ++umgeleitet) {
+        const Antwort antwort = Frage(url, frist);
+        if (antwort.Weiter.isEmpty()) {
+            return antwort.Bytes;
+        }
+        url = url.resolved(antwort.Weiter);
+    }
+    return std::nullopt;
+}
+
+Netzabruf::Antwort Netzabruf::Frage(const QUrl& url, const QDeadlineTimer& frist) {
     const std::unique_ptr<QNetworkReply> antwort(m_netz.get(Anfrage(url)));
     m_antwort = antwort.get();
     std::string bytes;
-    QObject::connect(antwort.get(), &QNetworkReply::redirected, antwort.get(),
-                     [&](const QUrl& ziel) {
-                         if (IstWebadresse(ziel)) {
-                             emit antwort->redirectAllowed();
-                         } else {
-                             antwort->abort();
-                         }
-                     });
     QObject::connect(antwort.get(), &QNetworkReply::readyRead, antwort.get(), [&] {
         bytes += antwort->readAll().toStdString();
         if (static_cast<qint64>(bytes.size()) > m_grenzen.Bytes) {
@@ -111,15 +113,20 @@ std::optional<std::string> Netzabruf::Hole(const std::string& adresse) {
     });
     QEventLoop schleife;
     QObject::connect(antwort.get(), &QNetworkReply::finished, &schleife, &QEventLoop::quit);
-    QTimer::singleShot(m_grenzen.Dauer, antwort.get(), [&] { antwort->abort(); });
+    QTimer::singleShot(std::chrono::milliseconds(frist.remainingTime()), antwort.get(),
+                       [&] { antwort->abort(); });
     if (!antwort->isFinished()) {
         schleife.exec();
     }
     // The end of the program ends the loop too.
-    if (!antwort->isFinished() || !IstGut(*antwort, static_cast<qint64>(bytes.size()))) {
-        return std::nullopt;
+    if (!antwort->isFinished() || antwort->error() != QNetworkReply::NoError) {
+        return {};
     }
-    return bytes;
+    const QUrl weiter = antwort->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
+    if (weiter.isEmpty() && IstGut(*antwort, static_cast<qint64>(bytes.size()))) {
+        return {.Bytes = bytes, .Weiter = {}};
+    }
+    return {.Bytes = std::nullopt, .Weiter = weiter};
 }
 
 void Netzabruf::Atme() {

@@ -1,6 +1,7 @@
 // The real fetch of files by HTTP.
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QPointer>
@@ -28,6 +29,13 @@ class Netzabruf final : public Abruf {
     void BrichAb() override;
 
   private:
+    struct Antwort {
+        std::optional<std::string> Bytes;
+        /// Where the server sends us instead; empty if nowhere.
+        QUrl Weiter;
+    };
+    [[nodiscard]] Antwort Frage(const QUrl& url, const QDeadlineTimer& frist);
+
     Grenzen m_grenzen;
     QNetworkAccessManager m_netz;
     QPointer<QNetworkReply> m_antwort;

@@ -44,7 +44,11 @@ class Programm:
     """The program in a copy of its folder, from its start to its end."""
 
     def __init__(self, bin_ordner, ordner):
-        shutil.copytree(bin_ordner, ordner, dirs_exist_ok=True)
+        """`ordner` becomes the program's folder, without a starter plan, unless it is one already."""
+        if not os.path.exists(ordner):
+            shutil.copytree(bin_ordner, ordner,
+                            ignore=shutil.ignore_patterns("config.cfg", "*.tvf", "*bench"))
+        self.ordner = ordner
         umgebung = {**os.environ, "LC_ALL": "C.UTF-8"}
         self.prozess = subprocess.Popen([os.path.join(ordner, "tarvelin")], env=umgebung)
         self.fenster = warte(self._fenster, "the window")
@@ -60,6 +64,17 @@ class Programm:
             if programm and programm.get_process_id() == self.prozess.pid:
                 return programm.get_child_at_index(0)
         return None
+
+    def antworte(self, frage, knopf):
+        """Presses a button of the box that asks this question."""
+        def box():
+            programm = self.fenster.get_application()
+            for i in range(programm.get_child_count()):
+                knoten = list(baum(programm.get_child_at_index(i)))
+                if any(k.get_name() == frage for k in knoten):
+                    return [k for k in knoten if k.get_name() == knopf]
+            return None
+        xdotool("mousemove", *self.mitte(warte(box, frage)[0]), "click", 1)
 
     def finde(self, rolle, name, nummer=0):
         """The control of a role and name; among several the one of this number."""

@@ -51,6 +51,21 @@ def erwartet(ergebnis):
     }
 
 
+def pruefe_neustart(programme, ordner, ergebnis):
+    """The exit has stored the plan, and the next start brings it back when it is told to."""
+    gespeichert = json.loads(subprocess.check_output(
+        [os.path.join(programme, "tarvelin-cli"), "--json",
+         os.path.join(ordner, "saves", "autosave.tvf")]))
+    assert gespeichert["LV_Bauzeiten"] == ergebnis["LV_Bauzeiten"], gespeichert
+    programm = Programm(programme, ordner)
+    programm.antworte("Möchtest du die letzte Bauliste wiederherstellen?", "Ja")
+    programm.antworte("Bei jedem Start so verfahren?", "Nein")
+    warte(lambda: len(programm.zeilen("Optimale Bauzeiten", 3)) == len(ergebnis["Bauliste"]),
+          "the plan of the last time")
+    assert gesehen(programm) == erwartet(ergebnis)
+    assert programm.beende() == 0
+
+
 def main(programme):
     with tempfile.TemporaryDirectory() as ordner:
         programm = Programm(programme, os.path.join(ordner, "Tarvelin"))
@@ -76,6 +91,7 @@ def main(programme):
         ende = schlafzeiten[0][1].split()[1]
         assert any(z["Uhrzeit"].startswith(ende) for z in ergebnis["LV_Bauzeiten"]), ergebnis
         assert programm.beende() == 0
+        pruefe_neustart(programme, programm.ordner, ergebnis)
 
 
 if __name__ == "__main__":

@@ -1,0 +1,422 @@
+// The window from its start to its end: plan files, recovery, alarms, skins, menu "Info".
+#include <QBuffer>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QRadioButton>
+
+#include "Fensterhilfen.h"
+#include "ui/Bildknopf.h"
+#include "ui/Hersteller.h"
+#include "ui/Webskin.h"
+
+namespace tarvelin {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Fensterleben = Fenster;
+
+fs::path Starterplan() {
+    return fs::path(TARVELIN_QUELLEN) / "data" / "saves" / "basic.tvf";
+}
+
+/// One more start of the program in the same folder.
+class NeuerStart {
+  public:
+    explicit NeuerStart(const Umgebung& umgebung) : m_fenster(umgebung) { m_fenster.Form_Load(); }
+    ~NeuerStart() { m_fenster.close(); }
+
+    frmMain* operator->() { return &m_fenster; }
+    std::size_t Zeilen() { return m_fenster.DerPlan().Liste.Zeilen().size(); }
+    bool EinstellungenOffen() {
+        return !m_fenster.findChild<QWidget*>(QStringLiteral("Fra_Einstellungen"))->isHidden();
+    }
+
+  private:
+    frmMain m_fenster;
+};
+
+TEST_F(Fensterleben, ErsterStartMitStarterplanUndOhneFrage) {
+    // The fixture was a first start without the plan.
+    EXPECT_EQ(LiesDatei(m_ordner / "config.cfg"), "[Settings]\r\nFirststart=0\r\n");
+    EXPECT_TRUE(m_boxen.Texte.empty());
+    fs::remove(m_ordner / "config.cfg");
+    fs::copy(Starterplan(), m_ordner / "saves" / "basic.tvf");
+    {
+        NeuerStart start(m_umgebung);
+        EXPECT_EQ(start.Zeilen(), 49U);
+        EXPECT_EQ(start->windowTitle(),
+                  QStringLiteral("Tarvelin  |  Kelva Aufbau-Simulator      ( basic.tvf )"));
+        EXPECT_TRUE(start.EinstellungenOffen());
+        EXPECT_FALSE(fs::exists(m_ordner / "saves" / "basic.tvf"));
+    }
+    EXPECT_TRUE(m_boxen.Texte.empty());
+    EXPECT_TRUE(fs::exists(m_ordner / "saves" / "autosave.tvf"));
+    // Later starts leave such a file alone.
+    fs::copy(Starterplan(), m_ordner / "saves" / "basic.tvf");
+    EXPECT_EQ(NeuerStart(m_umgebung).Zeilen(), 0U);
+    EXPECT_TRUE(fs::exists(m_ordner / "saves" / "basic.tvf"));
+}
+
+TEST_F(Fensterleben, WiederherstellungMerktSichDieAntworten) {
+    const char* const letzte = "Möchtest du die letzte Bauliste wiederherstellen?";
+    const char* const immer = "Bei jedem Start so verfahren?";
+    for (const bool ja : {true, false}) {
+        Lade("GM GM");
+        m_fenster.close();
+        fs::remove(m_ordner / "config.cfg");
+        SchreibeDatei(m_ordner / "config.cfg", "[Settings]\r\nFirststart=0\r\n");
+        for (const bool auf_dauer : {false, true}) {
+            m_boxen.Texte.clear();
+            m_boxen.Antworten = {{letzte, ja}, {immer, auf_dauer}};
+            NeuerStart start(m_umgebung);
+            EXPECT_EQ(m_boxen.Texte, (std::vector<std::string>{letzte, immer}));
+            EXPECT_EQ(start.Zeilen(), ja ? 2U : 0U);
+            EXPECT_EQ(start.EinstellungenOffen(), !ja);
+            // What a No leaves empty must not be stored over the plan.
+            Lade("GM GM");
+            ASSERT_TRUE(SaveBauliste(m_ordner / "saves" / "autosave.tvf", m_fenster.DerPlan()));
+            start->findChild<QPushButton*>(QStringLiteral("Cmd_Clear"))->click();
+            for (int i = 0; i < 2; ++i) {
+                emit start->findChild<Baulistenansicht*>()->DragDrop(QStringLiteral("ImgMetMine"));
+            }
+        }
+        m_boxen.Texte.clear();
+        NeuerStart start(m_umgebung);
+        EXPECT_TRUE(m_boxen.Texte.empty());
+        EXPECT_EQ(start.Zeilen(), ja ? 2U : 0U);
+    }
+}
+
+TEST_F(Fensterleben, LadenUndSpeichernUeberDenDialog) {
+    Lade("GS GM");
+    Waehle("mnu_Datei_Speichern");
+    EXPECT_EQ(fs::exists(m_ordner / "saves" / "meiner"), false) << "cancelled";
+    m_boxen.Datei = "meiner";
+    Waehle("mnu_Datei_Speichern");
+    EXPECT_EQ(m_fenster.windowTitle(), QStringLiteral("Tarvelin  |  Kelva Aufbau-Simulator"));
+    Druecke("Cmd_Clear");
+    Waehle("mnu_DateiLaden");
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 2);
+    EXPECT_EQ(Zeilen("LV_Bauzeiten"), 2);
+    EXPECT_TRUE(m_fenster.windowTitle().endsWith(QStringLiteral("      ( meiner )")));
+
+    SchreibeDatei(m_ordner / "saves" / "kaputt.tvf",
+                  "[Einstellungen]\r\nKlickPuffer=7\r\nTempMax=11\r\nShowDesc=0\r\n"
+                  "[Schlafzeiten]\r\nItemCount=0\r\n"
+                  "[Bauliste]\r\nItemCount=2\r\nItem_001=GK\r\nItem_002=gk\r\n");
+    m_boxen.Datei = "kaputt.tvf";
+    m_boxen.BeiMeldung = [this] { EXPECT_EQ(Zelle("LV_Bauliste", 0, 1), "KristallMine Stufe: 1"); };
+    Waehle("mnu_DateiLaden");
+    EXPECT_EQ(m_boxen.Texte,
+              std::vector<std::string>{"Die Bauliste konnte nicht geladen werden..."});
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 1);
+    EXPECT_EQ(Zeilen("LV_Bauzeiten"), 2) << "nothing was run";
+    EXPECT_EQ(Text("cmd_ShowDesc"), "ein/AUS");
+    EXPECT_EQ(Text("LBL_KlickPuffer"), "00:07");
+    EXPECT_TRUE(m_fenster.windowTitle().endsWith(QStringLiteral("      ( meiner )")));
+
+    // What can't be read at all leaves the plan.
+    for (const char* const datei : {"fehlt.tvf", "../saves"}) {
+        m_boxen.Datei = datei;
+        Waehle("mnu_DateiLaden");
+        EXPECT_EQ(Zeilen("LV_Bauliste"), 1) << datei;
+    }
+    EXPECT_EQ(m_boxen.Texte.size(), 3U);
+}
+
+TEST_F(Fensterleben, NeuBeginntHeuteUndLaesstDenRest) {
+    Plan plan = PlanAus("GM");
+    plan.Schlafzeiten = {{"18.11.2006 22:30", "18.11.2006 23:30"}};
+    plan.Parameter.UniStartZeitStunden = "x";
+    Lade(plan);
+    plan.Parameter.UniStartZeitStunden = "7";
+    Lade(plan);
+    Waehle("mnuSleep");
+    Waehle("mnuEinstellungen");
+    Druecke("Chk_BauWeckfunktion");
+    Tippe("txt_UniStartZeitStunden", "99");
+    m_jetzt = *LiesDatumzeit("05.03.2007 01:00:00");
+    Waehle("mnu_DateiNeu");
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 0);
+    EXPECT_EQ(Zeilen("LV_Bauzeiten"), 0);
+    EXPECT_EQ(Zeilen("LV_Schlafzeiten"), 1);
+    EXPECT_EQ(Text("LBL_Punkte"), "0");
+    EXPECT_EQ(Text("LBL_Timegone"), "Dauer: dd:hh:mm:ss");
+    EXPECT_EQ(Text("txt_UniStartZeitTag") + Text("txt_UniStartZeitMonat") +
+                  Text("txt_UniStartZeitJahr") + Text("txt_UniStartZeitStunden"),
+              "0503200799");
+    EXPECT_EQ(Text("LBL_Weekday"), "Mo.") << "whatever the hour says";
+    EXPECT_TRUE(Finde("Fra_Einstellungen").isVisible());
+    EXPECT_FALSE(Finde("Fra_Sleep").isVisible());
+    EXPECT_FALSE(Finde<QCheckBox>("Chk_BauWeckfunktion").isChecked()) << "as stored";
+    EXPECT_TRUE(m_fenster.windowTitle().endsWith(QStringLiteral("      ( plan.tvf )")));
+}
+
+TEST_F(Fensterleben, AlarmeKlingelnNurSolangeSieAnSind) {
+    Lade("GS GM");
+    Tippe("txt_UniStartZeitStunden", "12");
+    m_fenster.StarteSimulation(true);
+    m_jetzt = m_fenster.DerLauf().LV_Bauzeiten[1].Zeit() + -10;
+    auto& takt = Finde<QTimer>("Tmr_BauWeckfunktion");
+    const auto ticke = [&] { QMetaObject::invokeMethod(&takt, "timeout"); };
+    EXPECT_FALSE(takt.isActive());
+    Druecke("Chk_BauWeckfunktion");
+    EXPECT_TRUE(takt.isActive());
+    ticke();
+    EXPECT_EQ(m_ton.Gespielt, std::vector<fs::path>{m_ordner / "mfx" / "alert.wav"});
+    auto& vorher = Finde<QComboBox>("Comb_Before");
+    vorher.setCurrentText(QStringLiteral("9"));
+    ticke();
+    EXPECT_EQ(m_ton.Gespielt.size(), 1U);
+    m_jetzt = m_jetzt + 1;
+    SchreibeDatei(m_ordner / "config.cfg", "[SoundSettings]\r\nAlertsound=/gong.wav\r\n");
+    ticke();
+    EXPECT_EQ(m_ton.Gespielt.back(), "/gong.wav") << "read anew at each alarm";
+    vorher.lineEdit()->clear();
+    QTest::keyClicks(vorher.lineEdit(), QStringLiteral("1x5"));
+    EXPECT_EQ(vorher.currentText(), QStringLiteral("15"));
+    EXPECT_TRUE(takt.isActive()) << "a tick aims at the next second";
+    Druecke("Chk_BauWeckfunktion");
+    EXPECT_FALSE(takt.isActive());
+
+    auto& schlaf = Finde<QTimer>("Tmr_Schlafweckfunktion");
+    Druecke("Chk_Schlafzeitenwecker");
+    Druecke("Cmd_AddSchlafzeit");
+    m_jetzt = *LiesDatumzeit("18.11.2006 23:29:00");
+    QMetaObject::invokeMethod(&schlaf, "timeout");
+    EXPECT_EQ(m_ton.Gespielt.size(), 3U);
+    m_fenster.close();
+    EXPECT_FALSE(schlaf.isActive());
+    EXPECT_NE(LiesDatei(m_ordner / "config.cfg").find("Schlafzeitenwecker=1"), std::string::npos);
+}
+
+TEST_F(Fensterleben, TaktTrifftJedeSekundeEinmal) {
+    Sekundentakt takt(QStringLiteral("takt"), nullptr);
+    std::vector<int> sekunden;
+    QObject::connect(&takt, &QTimer::timeout,
+                     [&] { sekunden.push_back(QTime::currentTime().second()); });
+    takt.Schalte(true);
+    while (sekunden.size() < 3) {
+        QTest::qWait(10);
+    }
+    EXPECT_EQ(sekunden[1], (sekunden[0] + 1) % 60);
+    EXPECT_EQ(sekunden[2], (sekunden[1] + 1) % 60);
+}
+
+/// The picture on the screen, told by one pixel of it.
+class Skins : public Fenster {
+  protected:
+    QColor Farbe(const char* bild) {
+        return Finde<QLabel>(bild).pixmap(Qt::ReturnByValue).toImage().pixelColor(0, 0);
+    }
+    static std::string Bild(const QColor& farbe) {
+        QImage bild(2, 2, QImage::Format_RGB32);
+        bild.fill(farbe);
+        QByteArray bytes;
+        QBuffer puffer(&bytes);
+        puffer.open(QIODevice::WriteOnly);
+        bild.save(&puffer, "PNG");
+        return bytes.toStdString();
+    }
+    void WaehleQuelle(const char* option) { Finde<QRadioButton>(option).click(); }
+    fs::path Landeplatz() { return m_ordner / "img" / "skins" / "temp_webskin"; }
+    /// All pictures of a skin below an address, each in a colour of its own.
+    void StelleInsNetz(const std::string& adresse) {
+        int rot = 0;
+        for (const Skinbild& bild : kSkinbilder) {
+            m_netz.Dateien[adresse + "/" + bild.Ordner + "/" + bild.Name + ".gif"] =
+                Bild(QColor(rot += 5, 0, 0));
+        }
+    }
+};
+
+TEST_F(Skins, QuellenZeigenIhreEingaben) {
+    struct Fall {
+        const char* Option;
+        const char* Beschriftung;
+        bool Pfad;
+        bool Liste;
+    };
+    Waehle("mnuSkin");
+    const QColor vorher = Farbe("ImgSKW");
+    for (const auto& [option, beschriftung, pfad, liste] :
+         {Fall{"Opt_Web", " Web-Verzeichnis: ", true, false},
+          Fall{"Opt_Lokal", " Skin-Unterordner wählen: ", false, true},
+          Fall{"Opt_Standard", " Standard-Skin benutzen. ", false, false}}) {
+        WaehleQuelle(option);
+        EXPECT_EQ(Text("LBL_Skin"), beschriftung);
+        EXPECT_EQ(Finde("txt_Pfad").isVisible(), pfad) << option;
+        EXPECT_EQ(Finde("Comb_Skins").isVisible(), liste) << option;
+    }
+    EXPECT_EQ(Farbe("ImgSKW"), vorher);
+}
+
+TEST_F(Skins, LokalerSkinLaesstFehlendeBilderStehen) {
+    const auto blau = m_ordner / "img" / "skins" / "blau" / "gebaeude";
+    fs::create_directories(blau);
+    SchreibeDatei(blau / "4.gif", Bild(Qt::blue));
+    SchreibeDatei(blau / "1.gif", "kein Bild");
+    const QColor vorher = Farbe("ImgMetMine");
+    Waehle("mnuSkin");
+    WaehleQuelle("Opt_Lokal");
+    Druecke("Cmd_ApplySkin");
+    EXPECT_EQ(Farbe("ImgSKW"), QColor(Qt::blue));
+    EXPECT_EQ(Farbe("ImgMetMine"), vorher);
+    EXPECT_FALSE(Finde("Fra_Skin").isVisible());
+    m_fenster.close();
+    m_boxen.Antwort = false;
+    NeuerStart start(m_umgebung);
+    EXPECT_EQ(start->findChild<QLabel*>(QStringLiteral("ImgSKW"))
+                  ->pixmap(Qt::ReturnByValue)
+                  .toImage()
+                  .pixelColor(0, 0),
+              QColor(Qt::blue));
+    EXPECT_TRUE(start->findChild<QRadioButton*>(QStringLiteral("Opt_Lokal"))->isChecked());
+}
+
+TEST_F(Skins, WebskinKommtDateiFuerDateiAnSeinenPlatz) {
+    StelleInsNetz("http://skin.example/");
+    WaehleQuelle("Opt_Web");
+    Finde<QLineEdit>("txt_Pfad").setText(QStringLiteral("http://skin.example/"));
+    Druecke("Cmd_ApplySkin");
+    ASSERT_EQ(m_netz.Adressen.size(), 24U);
+    EXPECT_EQ(m_netz.Adressen[0], "http://skin.example//gebaeude/1.gif");
+    EXPECT_EQ(m_netz.Adressen[8], "http://skin.example//gebaeude/402.gif");
+    EXPECT_EQ(m_netz.Adressen[20], "http://skin.example//images/kristall.gif");
+    EXPECT_EQ(m_boxen.Texte.size(), 1U);
+    EXPECT_EQ(Text("txt_Pfad"), "http://skin.example");
+    EXPECT_EQ(Farbe("ImgMetMine"), QColor(5, 0, 0));
+    EXPECT_EQ(Farbe("imgklSchK"), QColor(100, 0, 0));
+    EXPECT_EQ(Farbe("Images(3)"), QColor(120, 0, 0));
+    m_fenster.close();
+    const std::string config = LiesDatei(m_ordner / "config.cfg");
+    EXPECT_NE(config.find("Mode=3\r\nPath=temp_webskin\r\nWebPath=http://skin.example\r\n"),
+              std::string::npos)
+        << config;
+    m_netz.Adressen.clear();
+    NeuerStart start(m_umgebung);
+    EXPECT_TRUE(m_netz.Adressen.empty()) << "a start fetches nothing";
+    EXPECT_TRUE(start->findChild<QRadioButton*>(QStringLiteral("Opt_Web"))->isChecked());
+}
+
+TEST_F(Skins, WebskinFragtBeiJederFehlendenDatei) {
+    StelleInsNetz("http://a");
+    m_netz.Dateien.erase("http://a/gebaeude/31.gif");
+    const QColor standard = Farbe("ImgMetMine");
+    SchreibeDatei(Landeplatz() / "gebaeude" / "31.gif", Bild(Qt::green));
+    SchreibeDatei(Landeplatz() / "gebaeude" / "401.gif", Bild(Qt::green));
+    WaehleQuelle("Opt_Web");
+    Finde<QLineEdit>("txt_Pfad").setText(QStringLiteral("http://a"));
+    const char* const frage =
+        "\"/gebaeude/31.gif\" konnte nicht von der angegebenen URL geladen werden...\r\n\r\n"
+        "Vorgang abbrechen ?";
+    m_boxen.Antworten = {{frage, true}};
+    Druecke("Cmd_ApplySkin");
+    EXPECT_EQ(m_boxen.Texte.back(), frage);
+    EXPECT_EQ(m_netz.Adressen.size(), 7U);
+    EXPECT_EQ(Farbe("ImgMetMine"), standard);
+    EXPECT_FALSE(fs::exists(Landeplatz() / "gebaeude" / "31.gif"));
+    EXPECT_EQ(LiesDatei(Landeplatz() / "gebaeude" / "401.gif"), Bild(Qt::green)) << "not reached";
+    EXPECT_TRUE(Finde<QRadioButton>("Opt_Web").isChecked());
+
+    m_boxen.Antworten = {{frage, false}};
+    const QColor labor = Farbe("imgFolab");
+    Druecke("Cmd_ApplySkin");
+    EXPECT_EQ(m_netz.Adressen.size(), 7U + 24U);
+    EXPECT_EQ(Farbe("ImgMetMine"), QColor(5, 0, 0));
+    EXPECT_EQ(Farbe("imgFolab"), labor) << "keeps what it showed";
+
+    // Nothing makes the landing folder.
+    fs::remove_all(Landeplatz());
+    m_boxen.Texte.clear();
+    Druecke("Cmd_ApplySkin");
+    EXPECT_EQ(m_boxen.Texte.size(), 1U + 24U);
+}
+
+TEST_F(Fensterleben, VersionsvergleichNimmtJedesZeichen) {
+    Waehle("mnu_UpdateCheck");
+    EXPECT_EQ(m_boxen.Texte.back(), "Die Versions-Datei konnte nicht geladen werden...");
+    const std::string adresse = m_netz.Adressen.at(0);
+    EXPECT_TRUE(adresse.ends_with("/tarvelinversion.txt"));
+    for (const auto& [inhalt, gleich] :
+         {std::pair("1.0.1", true), std::pair("1.0.1\r\n", false), std::pair("0.9.0", false),
+          std::pair("", false), std::pair("<b>1.0.1</b>", false)}) {
+        m_netz.Dateien[adresse] = inhalt;
+        Waehle("mnu_UpdateCheck");
+        const std::string& text = m_boxen.Texte.back();
+        EXPECT_EQ(text.find("NICHT") == std::string::npos, gleich) << inhalt;
+        EXPECT_TRUE(gleich ||
+                    text.find(std::string("(v") + inhalt + ")zu sein!\r\n") != std::string::npos);
+    }
+    std::string lang;
+    for (int i = 0; i < 100; ++i) {
+        lang += "ä";
+    }
+    EXPECT_NE(Versionsfrage(lang).Text.find("(v" + lang.substr(0, 128) + ")zu"), std::string::npos);
+    EXPECT_TRUE(m_seiten.empty());
+    m_boxen.Antwort = true;
+    Waehle("mnu_UpdateCheck");
+    ASSERT_EQ(m_seiten.size(), 1U);
+    EXPECT_TRUE(m_seiten[0].ends_with("/modules.php?name=Downloads&d_op=viewdownload&cid=9"));
+}
+
+TEST_F(Fensterleben, InfofensterSindEinmaligUndFuehrenAufDieSeiten) {
+    const auto fenster = [](const char* name) {
+        std::vector<QWidget*> gefunden;
+        for (QWidget* const w : QApplication::topLevelWidgets()) {
+            if (w->objectName() == QString::fromLatin1(name)) {
+                gefunden.push_back(w);
+            }
+        }
+        return gefunden;
+    };
+    Waehle("mnuAbout_TV");
+    Waehle("mnuAbout_TV");
+    ASSERT_EQ(fenster("frmAbout").size(), 1U);
+    QWidget& about = *fenster("frmAbout")[0];
+    EXPECT_EQ(about.findChild<QLabel*>(QStringLiteral("lblVersion"))->text(),
+              QStringLiteral(" Version 1.0.1"));
+    about.findChild<QAbstractButton*>(QStringLiteral("Label1"))->click();
+    EXPECT_EQ(m_seiten, std::vector<std::string>{Homepage()});
+    QTest::keyClick(&about, Qt::Key_Escape);
+    EXPECT_FALSE(about.isVisible());
+
+    Druecke("ImgDonate_1");
+    Waehle("mnu_DOnate");
+    ASSERT_EQ(fenster("frmDonate").size(), 1U);
+    QWidget& spenden = *fenster("frmDonate")[0];
+    m_seiten.clear();
+    for (auto* const knopf : spenden.findChildren<Bildknopf*>()) {
+        knopf->click();
+    }
+    ASSERT_EQ(m_seiten.size(), 6U);
+    const auto hat = [&](std::size_t i, const char* teil) {
+        return m_seiten[i].find(teil) != std::string::npos;
+    };
+    EXPECT_TRUE(hat(0,
+                    "&item_name=Spende%20f%c3%bcr%20das%20Tarvelin%2dProjekt"
+                    "&amount=0%2e50&no_shipping=1&cn="));
+    EXPECT_TRUE(hat(4, "&amount=10%2e00&"));
+    EXPECT_FALSE(hat(5, "amount"));
+    EXPECT_TRUE(hat(5, "&no_shipping=1&no_note=1&cn=Optionales"));
+    EXPECT_NE(m_seiten[5].substr(0, m_seiten[5].find("&item")),
+              m_seiten[4].substr(0, m_seiten[4].find("&item")));
+    // They stand beside the main window, and outlive its closing.
+    m_fenster.close();
+    EXPECT_TRUE(spenden.isVisible());
+}
+
+TEST_F(Fensterleben, EndeSchreibtAuchWoNichtsZuSchreibenIst) {
+    // A folder in the place of each file: nothing can be written, and nothing crashes.
+    fs::remove(m_ordner / "config.cfg");
+    fs::create_directories(m_ordner / "config.cfg");
+    fs::create_directories(m_ordner / "saves" / "autosave.tvf" / "x");
+    m_fenster.close();
+    NeuerStart start(m_umgebung);
+    EXPECT_TRUE(m_boxen.Texte.empty());
+    EXPECT_EQ(start.Zeilen(), 0U);
+}
+
+}  // namespace
+}  // namespace tarvelin
