@@ -36,6 +36,7 @@ frmAbout::frmAbout(const Umgebung& umgebung) {
     QFont gross = titel->font();
     gross.setPixelSize(2 * gross.pixelSize());
     titel->setFont(gross);
+    titel->setMinimumWidth(QFontMetrics(gross).boundingRect(titel->text()).width() + 4);
     QPushButton* const homepage =
         NeuerKnopf(QStringLiteral("Label1"), QStringLiteral("Homepage"), this);
     homepage->setFlat(true);

@@ -119,8 +119,13 @@ class Programm:
                   for i in range(spalten, baumknoten.get_child_count())]
         return [zellen[i:i + spalten] for i in range(0, len(zellen), spalten)]
 
-    def aufnahme(self, datei):
-        subprocess.run(["import", "-window", self.nummer, datei], check=True)
+    def aufnahme(self, datei, titel=None):
+        """A picture of the main window, or of the window with this title."""
+        nummer = self.nummer if titel is None else subprocess.check_output(
+            ["xdotool", "search", "--sync", "--onlyvisible", "--name", titel],
+            text=True).split()[-1]
+        subprocess.run(["import", "-window", nummer, "+dither", "-colors", "256", "-strip",
+                        f"PNG8:{datei}"], check=True)
 
     def beende(self):
         """Closes the program by its menu. Its exit code."""

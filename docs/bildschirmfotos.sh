@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# Takes the picture of the window that stands in the README: plays an opening on a virtual screen.
+# Takes the pictures of README and ANLEITUNG anew: plays an opening on a virtual screen.
 set -euo pipefail
 ordner=$(cd "$(dirname "$0")/.." && pwd)
 . "$ordner/cmake/pakete.sh"
 stelle_bereit "${BAU_PAKETE[@]}" "${BILDSCHIRM_PAKETE[@]}"
 baue "$ordner" release tarvelin tarvelin_daten
+mkdir -p "$ordner/docs/bilder"
 "$ordner/tests/e2e/bildschirm.sh" /usr/bin/python3 "$ordner/tests/e2e/aufnahme.py" \
-    "$ordner/build/release/bin" "$ordner/docs/fenster.png"
+    "$ordner/build/release/bin" "$ordner/docs/bilder"
