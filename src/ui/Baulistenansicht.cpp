@@ -33,8 +33,8 @@ bool Baulistenansicht::event(QEvent* event) {
         case QEvent::DragEnter:
         case QEvent::DragMove:
         case QEvent::Drop:
-            return QWidget::event(
-                event);  // NOLINT(bugprone-parent-virtual-call): passed on purpose
+            // NOLINTNEXTLINE(bugprone-parent-virtual-call): the rows' own road is passed by
+            return QWidget::event(event);
         default:
             return Liste::event(event);
     }

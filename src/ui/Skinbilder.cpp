@@ -32,7 +32,7 @@ void LadeBild(QLabel& bild, const std::filesystem::path& datei) {
 }
 
 QPixmap LadePixmap(const std::filesystem::path& datei) {
-    return QPixmap(AlsQString(datei));
+    return {AlsQString(datei)};
 }
 
 QIcon LadeSymbol(const std::filesystem::path& datei) {

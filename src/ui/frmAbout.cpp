@@ -3,6 +3,7 @@
 
 #include <QGridLayout>
 #include <QKeyEvent>
+#include <array>
 
 #include "ui/Bauteile.h"
 #include "ui/Hersteller.h"
@@ -12,7 +13,7 @@ namespace tarvelin {
 
 namespace {
 
-constexpr const char* kAutoren[] = {"Das Tarvelin-Team", "und seine Spieler"};
+constexpr std::array<const char*, 2> kAutoren{"Das Tarvelin-Team", "und seine Spieler"};
 
 QString Beschreibung() {
     QString text = QStringLiteral(" Programming:");
