@@ -7,8 +7,9 @@ import os
 import sys
 import tempfile
 
-from bedienung import Programm, warte, xdotool
-from eroeffnung import spiele
+sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "tests", "e2e"))
+from bedienung import Programm, warte, xdotool  # noqa: E402
+from eroeffnung import spiele  # noqa: E402
 
 
 def nimm_auf(programm, bilder):
