@@ -2,10 +2,12 @@
 #include "persistence/Dateiersatz.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <charconv>
 #include <string>
 #include <system_error>
 
@@ -45,6 +47,32 @@ class Deskriptor {
     int m_nummer;
 };
 
+constexpr std::string_view kVorsilbe = ".tarvelin-";
+constexpr std::string_view kEndung = ".tmp";
+
+/// Whether a file is what a process of ours left that was killed in the middle of a save.
+bool IstVerwaist(std::string_view name) {
+    if (!name.starts_with(kVorsilbe) || !name.ends_with(kEndung)) {
+        return false;
+    }
+    name.remove_prefix(kVorsilbe.size());
+    name.remove_suffix(kEndung.size());
+    pid_t prozess = 0;
+    const auto gelesen = std::from_chars(name.data(), name.data() + name.size(), prozess);
+    return gelesen.ec == std::errc() && gelesen.ptr == name.data() + name.size() && prozess > 0 &&
+           (prozess == ::getpid() || (::kill(prozess, 0) != 0 && errno == ESRCH));
+}
+
+void RaeumeVerwaistesAus(const std::filesystem::path& ordner) {
+    std::error_code fehler;
+    for (std::filesystem::directory_iterator eintrag(ordner, fehler), ende;
+         !fehler && eintrag != ende; eintrag.increment(fehler)) {
+        if (IstVerwaist(eintrag->path().filename().native())) {
+            ::unlink(eintrag->path().c_str());
+        }
+    }
+}
+
 /// A new file beside another one, deleted at the end unless it has taken that one's place.
 class Nachbardatei {
   public:
@@ -76,11 +104,10 @@ class Nachbardatei {
     static constexpr mode_t kNeueRechte = 0666;
     static constexpr mode_t kRechtebits = 07777;
 
-    /// What lies there under our name is what a killed process with our number left.
     static std::filesystem::path FreierName(const std::filesystem::path& datei) {
-        auto pfad = datei.parent_path() / (".tarvelin-" + std::to_string(::getpid()) + ".tmp");
-        ::unlink(pfad.c_str());
-        return pfad;
+        RaeumeVerwaistesAus(datei.parent_path());
+        return datei.parent_path() /
+               (std::string(kVorsilbe) + std::to_string(::getpid()) + std::string(kEndung));
     }
 
     std::filesystem::path m_pfad;

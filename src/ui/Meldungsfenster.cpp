@@ -42,11 +42,11 @@ QWidget* Elternfenster() {
     return nullptr;
 }
 
-/// A box is as wide as its title, which the frame draws larger than our font, beside a button.
+/// A box is as wide as its title, which the frame draws larger than our font, beside its buttons.
 void GibTitelRaum(QMessageBox& box, const QString& titel) {
     if (auto* const raster = qobject_cast<QGridLayout*>(box.layout())) {
-        constexpr int kKnopf = 60;
-        const int breite = box.fontMetrics().horizontalAdvance(titel) * 3 / 2 + kKnopf;
+        constexpr int kKnoepfe = 120;
+        const int breite = box.fontMetrics().horizontalAdvance(titel) * 3 / 2 + kKnoepfe;
         raster->addItem(new QSpacerItem(breite, 0), raster->rowCount(), 0, 1,
                         raster->columnCount());
     }
@@ -95,6 +95,8 @@ std::filesystem::path Meldungsfenster::FragNachDatei(Zweck zweck,
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilter(QStringLiteral("(*.tvf) Tarvelin Save-Files (*.tvf)"));
+    constexpr QSize kGroesse(720, 420);
+    dialog.resize(kGroesse);
     dialog.setDirectory(AlsQString(ordner.native()));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};

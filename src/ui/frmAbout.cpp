@@ -60,6 +60,9 @@ frmAbout::frmAbout(const Umgebung& umgebung) {
                       2);
     layout->addWidget(homepage, 3, 0);
     layout->addWidget(ok, 3, 1);
+    // Wide enough for the title in the frame.
+    constexpr int kTextbreite = 170;
+    layout->setColumnMinimumWidth(1, kTextbreite);
     layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 

@@ -90,6 +90,8 @@ void frmMain::LegeAus() {
 void frmMain::LadeBilder() {
     const auto bilder = m_umgebung.Programmordner / "img";
     setWindowIcon(LadeSymbol(bilder / "icon.ico"));
+    // What another skin lacks stays as it is in this one.
+    ApplySkin(kStandardskin, {}, *m_Fra_Rest, m_umgebung.Programmordner);
     const Ziehzeiger zeiger = LadeZiehzeiger(bilder, devicePixelRatioF());
     for (const Itemplatz& platz : m_Fra_Rest->Plaetze()) {
         platz.Bild->SetzeZeiger(zeiger);

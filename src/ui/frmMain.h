@@ -64,6 +64,7 @@ class frmMain : public QMainWindow {
     void BaueDateimenue();
     void BaueInfomenue();
 
+    void WarteAufBildschirm();
     void SetzeHeute();
     void LiesSkin();
     void ErsterStart();

@@ -1,5 +1,9 @@
 // The life of the window: start, plan files, stop.
 #include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QWindow>
 
 #include "persistence/Planablage.h"
 #include "ui/Skinbilder.h"
@@ -14,8 +18,20 @@ void frmMain::Form_Load() {
     m_alarme->LiesKonfiguration();
     LiesSkin();
     show();
+    WarteAufBildschirm();
     ErsterStart();
     StelleWiederHer();
+}
+
+// A box that comes up before the window has its place would lie beside it.
+void frmMain::WarteAufBildschirm() {
+    constexpr int kLaengstens = 500;
+    constexpr int kHappen = 10;
+    QDeadlineTimer frist(kLaengstens);
+    while (!windowHandle()->isExposed() && !frist.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kHappen);
+    }
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 // A web skin is shown as it landed; nothing is fetched at a start.

@@ -1,6 +1,7 @@
 // Starts the window.
 #include <QDateTime>
 #include <QDesktopServices>
+#include <QSettings>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -36,6 +37,8 @@ std::filesystem::path Nutzerordner() {
 int main(int argc, char** argv) {
     QApplication programm(argc, argv);
     tarvelin::StelleAussehenEin(programm);
+    // The toolkit's file dialog would keep a history of folders in the user's settings.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     tarvelin::Meldungsfenster boxen;
     tarvelin::Netzabruf netz;
     tarvelin::Klangausgabe ton;
