@@ -19,6 +19,7 @@ class Boxenmerker final : public Dialoge {
   public:
     void Zeige(const Meldung& meldung) override {
         Texte.push_back(meldung.Text);
+        Koepfe.emplace_back(meldung.Titel, meldung.Symbol);
         if (BeiMeldung) {
             BeiMeldung();
         }
@@ -26,6 +27,7 @@ class Boxenmerker final : public Dialoge {
     void Piepton() override {}
     bool Stelle(const Frage& frage) override {
         Texte.push_back(frage.Text);
+        Koepfe.emplace_back(frage.Titel, frage.Symbol);
         return Antworten.contains(frage.Text) ? Antworten.at(frage.Text) : Antwort;
     }
     std::filesystem::path FragNachDatei(Zweck /*zweck*/,
@@ -34,6 +36,8 @@ class Boxenmerker final : public Dialoge {
     }
 
     std::vector<std::string> Texte;
+    /// Title and icon of each.
+    std::vector<std::pair<std::string, Meldungssymbol>> Koepfe;
     std::function<void()> BeiMeldung;
     bool Antwort = false;
     /// To certain questions another one.
@@ -47,11 +51,17 @@ class Netzmerker final : public Abruf {
   public:
     std::optional<std::string> Hole(const std::string& adresse) override {
         Adressen.push_back(adresse);
+        if (BeiAbruf) {
+            BeiAbruf();
+        }
         const auto datei = Dateien.find(adresse);
         return datei == Dateien.end() ? std::nullopt : std::optional(datei->second);
     }
     void Atme() override {}
-    void BrichAb() override {}
+    void BrichAb() override { ++Abgebrochen; }
+
+    std::function<void()> BeiAbruf;
+    int Abgebrochen = 0;
 
     std::map<std::string, std::string> Dateien;
     std::vector<std::string> Adressen;

@@ -7,7 +7,9 @@
 #include "Fensterhilfen.h"
 #include "ui/Bildknopf.h"
 #include "ui/Hersteller.h"
+#include "ui/Klangausgabe.h"
 #include "ui/Webskin.h"
+#include "ui/Wellendatei.h"
 
 namespace tarvelin {
 namespace {
@@ -71,6 +73,8 @@ TEST_F(Fensterleben, WiederherstellungMerktSichDieAntworten) {
             m_boxen.Antworten = {{letzte, ja}, {immer, auf_dauer}};
             NeuerStart start(m_umgebung);
             EXPECT_EQ(m_boxen.Texte, (std::vector<std::string>{letzte, immer}));
+            EXPECT_EQ(m_boxen.Koepfe.back(),
+                      std::pair(std::string("Wiederherstellen..."), Meldungssymbol::Frage));
             EXPECT_EQ(start.Zeilen(), ja ? 2U : 0U);
             EXPECT_EQ(start.EinstellungenOffen(), !ja);
             // What a No leaves empty must not be stored over the plan.
@@ -174,8 +178,8 @@ TEST_F(Fensterleben, AlarmeKlingelnNurSolangeSieAnSind) {
     ticke();
     EXPECT_EQ(m_ton.Gespielt.back(), "/gong.wav") << "read anew at each alarm";
     vorher.lineEdit()->clear();
-    QTest::keyClicks(vorher.lineEdit(), QStringLiteral("1x5"));
-    EXPECT_EQ(vorher.currentText(), QStringLiteral("15"));
+    QTest::keyClicks(vorher.lineEdit(), QStringLiteral("3x"));
+    EXPECT_EQ(vorher.currentText(), QStringLiteral("3"));
     EXPECT_TRUE(takt.isActive()) << "a tick aims at the next second";
     Druecke("Chk_BauWeckfunktion");
     EXPECT_FALSE(takt.isActive());
@@ -191,15 +195,37 @@ TEST_F(Fensterleben, AlarmeKlingelnNurSolangeSieAnSind) {
     EXPECT_NE(LiesDatei(m_ordner / "config.cfg").find("Schlafzeitenwecker=1"), std::string::npos);
 }
 
+// A broken sound file must not reach the player of the toolkit, which would hang at the next one.
+TEST_F(Fensterleben, KlangSpieltNurGanzeWellen) {
+    const std::string gut = LiesDatei(m_ordner / "mfx" / "alert.wav");
+    std::string ohneFormat = gut;
+    ohneFormat.replace(ohneFormat.find("fmt "), 4, "xxx ");
+    const std::vector<std::pair<std::string, bool>> faelle{{gut, true},
+                                                           {"kein Ton", false},
+                                                           {"", false},
+                                                           {gut.substr(0, 30), false},
+                                                           {gut.substr(0, gut.size() - 1), false},
+                                                           {ohneFormat, false},
+                                                           {gut, true}};
+    Klangausgabe klang;
+    for (const auto& [bytes, spielbar] : faelle) {
+        SchreibeDatei(m_ordner / "ton.wav", bytes);
+        EXPECT_EQ(IstSpielbar(m_ordner / "ton.wav"), spielbar) << bytes.size();
+        klang.Spiele(m_ordner / "ton.wav");
+        QTest::qWait(50);
+    }
+    EXPECT_FALSE(IstSpielbar(m_ordner / "mfx"));
+    EXPECT_FALSE(IstSpielbar(m_ordner / "fehlt.wav"));
+}
+
 TEST_F(Fensterleben, TaktTrifftJedeSekundeEinmal) {
     Sekundentakt takt(QStringLiteral("takt"), nullptr);
     std::vector<int> sekunden;
     QObject::connect(&takt, &QTimer::timeout,
                      [&] { sekunden.push_back(QTime::currentTime().second()); });
     takt.Schalte(true);
-    while (sekunden.size() < 3) {
-        QTest::qWait(10);
-    }
+    constexpr int kLaengstens = 10000;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return sekunden.size() == 3; }, kLaengstens));
     EXPECT_EQ(sekunden[1], (sekunden[0] + 1) % 60);
     EXPECT_EQ(sekunden[2], (sekunden[1] + 1) % 60);
 }
@@ -314,6 +340,9 @@ TEST_F(Skins, WebskinFragtBeiJederFehlendenDatei) {
     m_boxen.Antworten = {{frage, true}};
     Druecke("Cmd_ApplySkin");
     EXPECT_EQ(m_boxen.Texte.back(), frage);
+    EXPECT_EQ(m_boxen.Koepfe,
+              (decltype(m_boxen.Koepfe){{"Fortsetzen...", Meldungssymbol::Hinweis},
+                                        {"Download-Fehler...", Meldungssymbol::Warnung}}));
     EXPECT_EQ(m_netz.Adressen.size(), 7U);
     EXPECT_EQ(Farbe("ImgMetMine"), standard);
     EXPECT_FALSE(fs::exists(Landeplatz() / "gebaeude" / "31.gif"));
@@ -334,9 +363,28 @@ TEST_F(Skins, WebskinFragtBeiJederFehlendenDatei) {
     EXPECT_EQ(m_boxen.Texte.size(), 1U + 24U);
 }
 
+// The close of the window ends a fetch, and nothing more is asked or shown.
+TEST_F(Skins, SchliessenBeendetDenAbruf) {
+    WaehleQuelle("Opt_Web");
+    m_netz.BeiAbruf = [this] {
+        if (m_netz.Adressen.size() == 3) {
+            m_fenster.close();
+        }
+    };
+    Druecke("Cmd_ApplySkin");
+    EXPECT_EQ(m_netz.Adressen.size(), 3U);
+    EXPECT_EQ(m_boxen.Texte.size(), 3U) << "one at the start, two for the missing files";
+    EXPECT_EQ(m_netz.Abgebrochen, 1);
+    EXPECT_TRUE(fs::exists(m_ordner / "saves" / "autosave.tvf"));
+    Waehle("mnu_UpdateCheck");
+    EXPECT_EQ(m_boxen.Texte.size(), 3U);
+}
+
 TEST_F(Fensterleben, VersionsvergleichNimmtJedesZeichen) {
     Waehle("mnu_UpdateCheck");
     EXPECT_EQ(m_boxen.Texte.back(), "Die Versions-Datei konnte nicht geladen werden...");
+    EXPECT_EQ(m_boxen.Koepfe.back(),
+              std::pair(std::string("Version-Check..."), Meldungssymbol::Fehler));
     const std::string adresse = m_netz.Adressen.at(0);
     EXPECT_TRUE(adresse.ends_with("/tarvelinversion.txt"));
     for (const auto& [inhalt, gleich] :
@@ -354,6 +402,10 @@ TEST_F(Fensterleben, VersionsvergleichNimmtJedesZeichen) {
         lang += "ä";
     }
     EXPECT_NE(Versionsfrage(lang).Text.find("(v" + lang.substr(0, 128) + ")zu"), std::string::npos);
+    // Bytes that are no text count one by one.
+    EXPECT_LT(Versionsfrage(std::string(1000, '\x80')).Text.size(), 300U);
+    EXPECT_EQ(m_boxen.Koepfe.back(),
+              std::pair(std::string("Version-Check..."), Meldungssymbol::Hinweis));
     EXPECT_TRUE(m_seiten.empty());
     m_boxen.Antwort = true;
     Waehle("mnu_UpdateCheck");

@@ -51,6 +51,10 @@ TEST(Konfiguration, SchreibtNebenFremdeZeilenUndVerliertSichOhneOrdner) {
     Konfiguration(ordner / "").Schreibe({{Konfiguration::kFirststart, "0"}});
     EXPECT_EQ(LiesDatei(ordner / "config.cfg"),
               "; von Hand\r\n[Settings]\r\nEigenes=1\r\nFirststart=0\r\n");
+    // A folder can have such a name.
+    Konfiguration(ordner / "").Schreibe({{Konfiguration::kPath, "a\n[Settings]\nFirststart=1"}});
+    EXPECT_EQ(Konfiguration(ordner / "").Lies(Konfiguration::kPath), "a");
+    EXPECT_EQ(Konfiguration(ordner / "").Lies(Konfiguration::kFirststart), "0");
     const Konfiguration ohne(ordner / "fehlt");
     ohne.Schreibe({{Konfiguration::kFirststart, "0"}});
     EXPECT_EQ(ohne.Lies(Konfiguration::kFirststart), "1");

@@ -1,6 +1,7 @@
 // The real fetch against a real server on this machine, with all its whims.
 #include <QApplication>
-#include <QElapsedTimer>
+#include <QInputMethodEvent>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -139,6 +140,7 @@ TEST(Netzabruf, EingabenGehenInsLeereUndDasEndeIstSauber) {
     QPushButton knopf(QStringLiteral("Knopf"));
     int gedrueckt = 0;
     QObject::connect(&knopf, &QPushButton::clicked, [&] { ++gedrueckt; });
+    QLineEdit eingabe;
     knopf.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&knopf));
     int takte = 0;
@@ -147,6 +149,9 @@ TEST(Netzabruf, EingabenGehenInsLeereUndDasEndeIstSauber) {
         ++takte;
         QTest::mouseClick(knopf.windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
         QTest::keyClick(knopf.windowHandle(), Qt::Key_Space);
+        QInputMethodEvent silbe;
+        silbe.setCommitString(QStringLiteral("é"));
+        QCoreApplication::sendEvent(&eingabe, &silbe);
         EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
         if (takte == 5) {
             netz.BrichAb();
@@ -158,6 +163,7 @@ TEST(Netzabruf, EingabenGehenInsLeereUndDasEndeIstSauber) {
     QCoreApplication::processEvents();
     EXPECT_EQ(takte, 5) << "timers go on";
     EXPECT_EQ(gedrueckt, 0);
+    EXPECT_EQ(eingabe.text(), QString());
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     QTest::mouseClick(knopf.windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
     EXPECT_EQ(gedrueckt, 1);

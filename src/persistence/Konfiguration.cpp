@@ -1,8 +1,6 @@
 // Keys of the configuration file.
 #include "persistence/Konfiguration.h"
 
-#include "persistence/Dateiersatz.h"
-#include "persistence/Profil.h"
 #include "persistence/modINI.h"
 #include "util/Zahlentext.h"
 
@@ -33,14 +31,9 @@ std::filesystem::path Konfiguration::Alertsound() const {
 }
 
 void Konfiguration::Schreibe(const Werte& werte) const {
-    auto profil = Profil::LadeOderLeer(m_datei);
-    if (!profil) {
-        return;
-    }
     for (const auto& [key, wert] : werte) {
-        profil->Schreibe(key.Section, key.Key, wert);
+        WriteINI(key.Section, key.Key, wert, m_datei);
     }
-    ErsetzeDatei(m_datei, profil->Bytes());
 }
 
 Wiederherstellung EntscheideWiederherstellung(const Konfiguration& konfiguration) {

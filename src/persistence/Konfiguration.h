@@ -46,7 +46,8 @@ class Konfiguration {
     /// The sound of the alarms; only the user enters another one than ours.
     [[nodiscard]] std::filesystem::path Alertsound() const;
 
-    /// Writes several keys in one step. A write that fails is lost without a word.
+    /// Writes keys one after the other, each in one step. A write that fails is lost without a
+    /// word.
     void Schreibe(const Werte& werte) const;
 
   private:

@@ -156,7 +156,9 @@ void Profil::Schreibe(std::string_view section, std::string_view key, std::strin
     Abschnitt& abschnitt = SucheOderMache(section);
     auto& zeilen = abschnitt.Zeilen;
     const std::string name = Nach1252(key);
-    const std::string rest = "=" + Nach1252(value) + std::string(kZeilenende);
+    // A value that went on in another line would be one of its own there.
+    const auto eineZeile = value.substr(0, value.find_first_of(std::string_view("\r\n\0", 3)));
+    const std::string rest = "=" + Nach1252(eineZeile) + std::string(kZeilenende);
     const auto stelle = abschnitt.Stellen.find(Klein(name));
     if (stelle != abschnitt.Stellen.end()) {
         std::string& zeile = zeilen[stelle->second];

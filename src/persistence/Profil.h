@@ -34,9 +34,10 @@ class Profil {
     [[nodiscard]] std::string Lies(std::string_view section, std::string_view key,
                                    std::string_view standard) const;
 
-    /// Sets a key. A known one keeps its place and its spelling; a new one goes to the end of its
-    /// section, a new section to the end of the file. Every other line keeps its bytes, but for an
-    /// unended one that gets a line behind it.
+    /// Sets a key to what stands in front of the value's first line end or NUL. A known one keeps
+    /// its place and its spelling; a new one goes to the end of its section, a new section to the
+    /// end of the file. Every other line keeps its bytes, but for an unended one that gets a line
+    /// behind it.
     void Schreibe(std::string_view section, std::string_view key, std::string_view value);
 
     [[nodiscard]] std::string Bytes() const;

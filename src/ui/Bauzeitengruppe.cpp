@@ -54,6 +54,8 @@ void Bauzeitengruppe::FuelleSekunden() {
     Comb_Before->setObjectName(QStringLiteral("Comb_Before"));
     Comb_Before->setEditable(true);
     Comb_Before->setInsertPolicy(QComboBox::NoInsert);
+    // What is typed stays as it is.
+    Comb_Before->setCompleter(nullptr);
     constexpr int kBreite = 46;
     Comb_Before->setFixedWidth(kBreite);
     for (const char* const sekunden : {"1", "2", "5", "10", "15", "20", "30", "45", "60", "120"}) {

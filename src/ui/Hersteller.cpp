@@ -1,6 +1,8 @@
 // Addresses, and the comparison of versions.
 #include "ui/Hersteller.h"
 
+#include <bit>
+
 namespace tarvelin {
 
 // clang-format off
@@ -18,16 +20,20 @@ namespace {
 
 constexpr const char* kZeilenende = "\r\n";
 
-/// The first characters of a UTF-8 text.
+/// The first characters of a text that should be UTF-8; a byte that isn't counts as one.
 std::string_view Anfang(std::string_view text, std::size_t zeichen) {
-    constexpr unsigned char kFolgebyte = 0x80;
-    constexpr unsigned char kMaske = 0xC0;
     std::size_t ende = 0;
+    int folgen = 0;
     for (; ende < text.size(); ++ende) {
-        const bool folgt = (static_cast<unsigned char>(text[ende]) & kMaske) == kFolgebyte;
-        if (!folgt && zeichen-- == 0) {
+        const int einsen = std::countl_one(static_cast<unsigned char>(text[ende]));
+        if (einsen == 1 && folgen > 0) {
+            --folgen;
+            continue;
+        }
+        if (zeichen-- == 0) {
             break;
         }
+        folgen = einsen >= 2 && einsen <= 4 ? einsen - 1 : 0;
     }
     return text.substr(0, ende);
 }

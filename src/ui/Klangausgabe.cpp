@@ -6,21 +6,26 @@
 #include <QUrl>
 
 #include "ui/Bauteile.h"
+#include "ui/Wellendatei.h"
 
 namespace tarvelin {
 
-Klangausgabe::Klangausgabe() = default;
+Klangausgabe::Klangausgabe() : m_effekt(std::make_unique<QSoundEffect>()) {
+    QObject::connect(m_effekt.get(), &QSoundEffect::statusChanged, m_effekt.get(), [this] {
+        if (m_effekt->status() == QSoundEffect::Error) {
+            QApplication::beep();
+        }
+    });
+}
+
 Klangausgabe::~Klangausgabe() = default;
 
 void Klangausgabe::Spiele(const std::filesystem::path& datei) {
-    // A new effect reads the file anew, and the end of the former one cuts it off.
-    m_effekt = std::make_unique<QSoundEffect>();
-    QObject::connect(m_effekt.get(), &QSoundEffect::statusChanged, m_effekt.get(),
-                     [effekt = m_effekt.get()] {
-                         if (effekt->status() == QSoundEffect::Error) {
-                             QApplication::beep();
-                         }
-                     });
+    m_effekt->stop();
+    if (!IstSpielbar(datei)) {
+        QApplication::beep();
+        return;
+    }
     m_effekt->setSource(QUrl::fromLocalFile(AlsQString(datei.native())));
     m_effekt->play();
 }

@@ -41,7 +41,9 @@ class Eingabesperre : public QObject {
             case QEvent::KeyRelease:
             case QEvent::ShortcutOverride:
             case QEvent::Shortcut:
+            case QEvent::InputMethod:
             case QEvent::ContextMenu:
+            case QEvent::NativeGesture:
             case QEvent::TouchBegin:
             case QEvent::TouchUpdate:
             case QEvent::TouchEnd:
@@ -113,8 +115,8 @@ Netzabruf::Antwort Netzabruf::Frage(const QUrl& url, const QDeadlineTimer& frist
     });
     QEventLoop schleife;
     QObject::connect(antwort.get(), &QNetworkReply::finished, &schleife, &QEventLoop::quit);
-    QTimer::singleShot(std::chrono::milliseconds(frist.remainingTime()), antwort.get(),
-                       [&] { antwort->abort(); });
+    QTimer::singleShot(std::chrono::milliseconds(frist.remainingTime()), Qt::PreciseTimer,
+                       antwort.get(), [&] { antwort->abort(); });
     if (!antwort->isFinished()) {
         schleife.exec();
     }

@@ -55,7 +55,9 @@ void ApplySkin(Byte Mode, const std::string& Path, const QWidget& flaeche,
     if (Mode != kStandardskin && Mode != kLokalerSkin) {
         return;
     }
-    const auto ordner = bilder / "skins" / (Mode == kStandardskin ? "standard" : Path);
+    // Whatever the name, the folder lies among the skins.
+    auto ordner = bilder / "skins";
+    ordner += "/" + (Mode == kStandardskin ? "standard" : Path);
     for (const Skinbild& bild : kSkinbilder) {
         lade(bild.Bild, ordner / bild.Ordner / (bild.Name + std::string(".gif")));
     }

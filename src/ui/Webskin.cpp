@@ -39,8 +39,10 @@ namespace {
 
 /// Whether the file lies there afterwards.
 bool HoleDatei(const std::string& adresse, const std::filesystem::path& datei, Abruf& netz) {
-    std::error_code ohneWort;
-    std::filesystem::remove(datei, ohneWort);
+    if (FileExists(datei)) {
+        std::error_code ohneWort;
+        std::filesystem::remove(datei, ohneWort);
+    }
     if (const auto bytes = netz.Hole(adresse)) {
         ErsetzeDatei(datei, *bytes);
     }

@@ -230,6 +230,7 @@ void frmMain::Cmd_ApplySkin_Click() {
     QLineEdit& pfad = *m_Fra_Skin->txt_Pfad;
     if (quelle == kWebskin) {
         const auto ordner = m_umgebung.Programmordner / "img" / "skins" / kLandeordner;
+        ApplySkin(kWebskin, {}, *m_Fra_Rest, m_umgebung.Programmordner);
         const auto ausgang = HoleWebskin(pfad.text().toStdString(), ordner, m_umgebung,
                                          [this] { return !m_geschlossen; });
         ApplySkin(ausgang == Webskinausgang::AmEnde ? kLokalerSkin : kStandardskin, kLandeordner,

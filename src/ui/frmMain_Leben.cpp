@@ -1,4 +1,6 @@
 // The life of the window: start, plan files, stop.
+#include "ui/frmMain.h"
+
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -8,7 +10,6 @@
 #include "persistence/Planablage.h"
 #include "ui/Skinbilder.h"
 #include "ui/Standmeldungen.h"
-#include "ui/frmMain.h"
 #include "util/Nuetzliches.h"
 
 namespace tarvelin {
@@ -155,7 +156,9 @@ void frmMain::LoadBauliste(const std::filesystem::path& File, bool Silent) {
     Standmeldungen meldungen([this] { ZeigePlan(); }, m_umgebung.Boxen);
     if (LadePlan(*profil, m_plan, m_lauf.Planet, meldungen)) {
         ZeigePlan();
-        setWindowTitle(AlsQString(FenstertitelMit(File)));
+        // The toolkit takes the lone sign for a place of its own.
+        setWindowTitle(AlsQString(FenstertitelMit(File))
+                           .replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
         StarteSimulation(Silent);
     }
 }
