@@ -381,14 +381,9 @@ TEST_F(Fenster, Schlafzeiten) {
     EXPECT_EQ(Zeilen("LV_Schlafzeiten"), 0);
 }
 
-// What the window shows of a stored plan is what the core makes of it.
-TEST_F(Fenster, ErgebnisIstDasDesKerns) {
-    Plan plan;
-    Lauf lauf;
-    Merker merker;
-    ASSERT_TRUE(LadePlan(std::filesystem::path(TARVELIN_QUELLEN) / "data/saves/basic.tvf", plan,
-                         lauf.Planet, merker));
-    Lade(plan);
+// The figures themselves are held against the console's in the play on a virtual screen.
+TEST_F(Fenster, SimulationSchliesstDieFelderUndJedeZeileNenntIhrenGrund) {
+    Lade("GS GM GM GM GM");
     for (const char* const feld : kFelder) {
         Finde(feld).show();
     }
@@ -396,28 +391,12 @@ TEST_F(Fenster, ErgebnisIstDasDesKerns) {
     for (const char* const feld : kFelder) {
         EXPECT_FALSE(Finde(feld).isVisible()) << feld;
     }
-    ASSERT_EQ(RunSimulation(plan, lauf, merker, false), Laufausgang::Gelaufen);
-    Ergebnistexte texte;
-    texte.NachLauf(lauf.Planet.Globale);
-    EXPECT_EQ(Text("LBL_Timegone"), texte.LBL_Timegone);
-    EXPECT_EQ(Text("LBL_Timegone2"), texte.LBL_Timegone2);
-    EXPECT_EQ(Text("LBL_Met"), texte.LBL_Met);
-    EXPECT_EQ(Text("LBL_Kris"), texte.LBL_Kris);
-    EXPECT_EQ(Text("LBL_Deut"), texte.LBL_Deut);
-    EXPECT_EQ(Text("LBL_ENergie"), texte.LBL_ENergie);
-    EXPECT_EQ(Text("LBL_Punkte"), texte.LBL_Punkte);
-    EXPECT_EQ(Finde("LBL_Punkte").toolTip().toStdString(), texte.LBL_Punkte_Hinweis);
-    ASSERT_EQ(Zeilen("LV_Bauzeiten"), static_cast<int>(lauf.LV_Bauzeiten.size()));
+    ASSERT_EQ(Zeilen("LV_Bauzeiten"), 5);
+    EXPECT_TRUE(Finde("LBL_Punkte").toolTip().startsWith(QStringLiteral("Inkl. Res.: ")));
     auto& liste = Finde<QTreeView>("LV_Bauzeiten");
-    for (int i = 0; i < Zeilen("LV_Bauzeiten"); ++i) {
-        const Bauzeit& zeile = lauf.LV_Bauzeiten[static_cast<std::size_t>(i)];
-        EXPECT_EQ(Zelle("LV_Bauzeiten", i, 0), zeile.Wochentag());
-        EXPECT_EQ(Zelle("LV_Bauzeiten", i, 1), zeile.Uhrzeit());
-        EXPECT_EQ(Zelle("LV_Bauzeiten", i, 2), zeile.theText());
-    }
     const QRect dritte = liste.visualRect(liste.model()->index(2, 0));
     QTest::mouseMove(liste.viewport(), dritte.center());
-    EXPECT_EQ(liste.toolTip().toStdString(), lauf.LV_Bauzeiten[2].Tag());
+    EXPECT_EQ(liste.toolTip().toStdString(), m_fenster.DerLauf().LV_Bauzeiten[2].Tag());
     Lade("GM");
     m_fenster.StarteSimulation(true);
     QTest::mouseMove(liste.viewport(), dritte.center() + QPoint(0, 1));
