@@ -2,12 +2,12 @@
 #include "persistence/Dateiersatz.h"
 
 #include <fcntl.h>
-#include <signal.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <charconv>
+#include <csignal>
 #include <string>
 #include <system_error>
 
