@@ -8,7 +8,6 @@
 #include "ui/Bildknopf.h"
 #include "ui/Hersteller.h"
 #include "ui/Klangausgabe.h"
-#include "ui/Webskin.h"
 #include "ui/Wellendatei.h"
 
 namespace tarvelin {
@@ -54,6 +53,8 @@ TEST_F(Fensterleben, ErsterStartMitStarterplanUndOhneFrage) {
     }
     EXPECT_TRUE(m_boxen.Texte.empty());
     EXPECT_TRUE(fs::exists(m_ordner / "saves" / "autosave.tvf"));
+    EXPECT_NE(LiesDatei(m_ordner / "config.cfg").find("[Bauliste]\r\nItemCount=49\r\n"),
+              std::string::npos);
     // Later starts leave such a file alone.
     fs::copy(Starterplan(), m_ordner / "saves" / "basic.tvf");
     EXPECT_EQ(NeuerStart(m_umgebung).Zeilen(), 0U);
@@ -230,6 +231,21 @@ TEST_F(Fensterleben, TaktTrifftJedeSekundeEinmal) {
     EXPECT_EQ(sekunden[2], (sekunden[1] + 1) % 60);
 }
 
+/// The files of a skin in the order of a fetch, and the picture that each is for.
+const std::vector<std::pair<const char*, const char*>> kSkindateien{
+    {"gebaeude/1", "ImgMetMine"},      {"gebaeude/2", "ImgKrisMine"},
+    {"gebaeude/3", "ImgDeutMine"},     {"gebaeude/4", "ImgSKW"},
+    {"gebaeude/14", "ImgRobo"},        {"gebaeude/21", "ImgWerft"},
+    {"gebaeude/31", "imgFolab"},       {"gebaeude/401", "imgRakws"},
+    {"gebaeude/402", "imglLasers"},    {"gebaeude/403", "imgsLasers"},
+    {"gebaeude/212", "imgSolsats"},    {"gebaeude/210", "imgSpios"},
+    {"gebaeude/204", "imgLJs"},        {"gebaeude/113", "imgENTech"},
+    {"gebaeude/110", "imgSchTech"},    {"gebaeude/115", "imgVerbTech"},
+    {"gebaeude/120", "imgLaserTech"},  {"gebaeude/106", "imgSpioTech"},
+    {"gebaeude/202", "imgKTs"},        {"gebaeude/407", "imgklSchK"},
+    {"images/kristall", "Images(1)"},  {"images/metall", "Images(0)"},
+    {"images/deuterium", "Images(2)"}, {"images/energie", "Images(3)"}};
+
 /// The picture on the screen, told by one pixel of it.
 class Skins : public Fenster {
   protected:
@@ -250,9 +266,8 @@ class Skins : public Fenster {
     /// All pictures of a skin below an address, each in a colour of its own.
     void StelleInsNetz(const std::string& adresse) {
         int rot = 0;
-        for (const Skinbild& bild : kSkinbilder) {
-            m_netz.Dateien[adresse + "/" + bild.Ordner + "/" + bild.Name + ".gif"] =
-                Bild(QColor(rot += 5, 0, 0));
+        for (const auto& [datei, bild] : kSkindateien) {
+            m_netz.Dateien[adresse + "/" + datei + ".gif"] = Bild(QColor(rot += 5, 0, 0));
         }
     }
 };
@@ -265,6 +280,7 @@ TEST_F(Skins, QuellenZeigenIhreEingaben) {
         bool Liste;
     };
     Waehle("mnuSkin");
+    EXPECT_FALSE(Finde<QLabel>("Images(4)").pixmap(Qt::ReturnByValue).isNull());
     const QColor vorher = Farbe("ImgSKW");
     for (const auto& [option, beschriftung, pfad, liste] :
          {Fall{"Opt_Web", " Web-Verzeichnis: ", true, false},
@@ -306,15 +322,14 @@ TEST_F(Skins, WebskinKommtDateiFuerDateiAnSeinenPlatz) {
     WaehleQuelle("Opt_Web");
     Finde<QLineEdit>("txt_Pfad").setText(QStringLiteral("http://skin.example/"));
     Druecke("Cmd_ApplySkin");
-    ASSERT_EQ(m_netz.Adressen.size(), 24U);
-    EXPECT_EQ(m_netz.Adressen[0], "http://skin.example//gebaeude/1.gif");
-    EXPECT_EQ(m_netz.Adressen[8], "http://skin.example//gebaeude/402.gif");
-    EXPECT_EQ(m_netz.Adressen[20], "http://skin.example//images/kristall.gif");
+    ASSERT_EQ(m_netz.Adressen.size(), kSkindateien.size());
+    for (std::size_t i = 0; i < kSkindateien.size(); ++i) {
+        const auto& [datei, bild] = kSkindateien[i];
+        EXPECT_EQ(m_netz.Adressen[i], std::string("http://skin.example//") + datei + ".gif");
+        EXPECT_EQ(Farbe(bild), QColor(5 * static_cast<int>(i + 1), 0, 0)) << bild;
+    }
     EXPECT_EQ(m_boxen.Texte.size(), 1U);
     EXPECT_EQ(Text("txt_Pfad"), "http://skin.example");
-    EXPECT_EQ(Farbe("ImgMetMine"), QColor(5, 0, 0));
-    EXPECT_EQ(Farbe("imgklSchK"), QColor(100, 0, 0));
-    EXPECT_EQ(Farbe("Images(3)"), QColor(120, 0, 0));
     m_fenster.close();
     const std::string config = LiesDatei(m_ordner / "config.cfg");
     EXPECT_NE(config.find("Mode=3\r\nPath=temp_webskin\r\nWebPath=http://skin.example\r\n"),
