@@ -1,4 +1,5 @@
 // The window's controls: places, words, handlers, keys.
+#include <QAbstractItemModelTester>
 #include <QAccessible>
 #include <QClipboard>
 #include <QComboBox>
@@ -165,6 +166,9 @@ TEST_F(Fenster, GateFolgtDerListeBeiJederBewegung) {
     EXPECT_EQ(Zelle("LV_Bauliste", 2, 1), "Robofabrik Stufe: 1");
     EXPECT_EQ(Text("LBL_Robo_Stufe"), "1");
     EXPECT_TRUE(bild.toolTip().contains(QStringLiteral("Met: 800"))) << "the next row's costs";
+    QKeyEvent gehalten(QEvent::KeyPress, Qt::Key_Space, {}, QStringLiteral(" "), true);
+    QCoreApplication::sendEvent(&bild, &gehalten);
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 3) << "a held key adds one row";
     Lade("GM");
     QTest::keyClick(&bild, Qt::Key_Space);
     EXPECT_EQ(Zeilen("LV_Bauliste"), 1) << "the list changed under the focus";
@@ -209,6 +213,8 @@ TEST_F(Fenster, UnbekannteQuelleUnd255teZeileGebenEineMeldung) {
 
 TEST_F(Fenster, NeueZeilenKommenInsBildUndUndoRolltNicht) {
     auto& liste = Finde<QTreeView>("LV_Bauliste");
+    const QAbstractItemModelTester pruefer(liste.model(),
+                                           QAbstractItemModelTester::FailureReportingMode::Fatal);
     for (int i = 0; i < 60; ++i) {
         emit Finde<Baulistenansicht>("LV_Bauliste").DragDrop(QStringLiteral("ImgMetMine"));
     }
@@ -221,6 +227,8 @@ TEST_F(Fenster, NeueZeilenKommenInsBildUndUndoRolltNicht) {
     EXPECT_EQ(Text("LBL_MetMine_Stufe"), "59");
     const auto rot = liste.model()->index(0, 2).data(Qt::ForegroundRole).value<QColor>();
     EXPECT_EQ(rot, QColor(255, 0, 0));
+    Druecke("Cmd_Clear");
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 0);
 }
 
 TEST_F(Fenster, ProduktionszeileNimmtDieReglerUndLaesstSieStehen) {
@@ -397,9 +405,12 @@ TEST_F(Fenster, SimulationSchliesstDieFelderUndJedeZeileNenntIhrenGrund) {
     const QRect dritte = liste.visualRect(liste.model()->index(2, 0));
     QTest::mouseMove(liste.viewport(), dritte.center());
     EXPECT_EQ(liste.toolTip().toStdString(), m_fenster.DerLauf().LV_Bauzeiten[2].Tag());
-    Lade("GM");
-    m_fenster.StarteSimulation(true);
-    QTest::mouseMove(liste.viewport(), dritte.center() + QPoint(0, 1));
+    QEvent weg(QEvent::Leave);
+    QCoreApplication::sendEvent(liste.viewport(), &weg);
+    EXPECT_EQ(liste.toolTip(), QString()) << "over the head or the bar";
+    QTest::mouseMove(liste.viewport(), dritte.center() + QPoint(1, 0));
+    EXPECT_NE(liste.toolTip(), QString());
+    QTest::mouseMove(liste.viewport(), liste.viewport()->rect().bottomLeft() - QPoint(-5, 2));
     EXPECT_EQ(liste.toolTip(), QString()) << "no row there";
 }
 

@@ -249,9 +249,10 @@ const std::vector<std::pair<const char*, const char*>> kSkindateien{
 /// The picture on the screen, told by one pixel of it.
 class Skins : public Fenster {
   protected:
-    QColor Farbe(const char* bild) {
-        return Finde<QLabel>(bild).pixmap(Qt::ReturnByValue).toImage().pixelColor(0, 0);
+    static QColor FarbeVon(const QLabel& bild) {
+        return bild.pixmap(Qt::ReturnByValue).toImage().pixelColor(0, 0);
     }
+    QColor Farbe(const char* bild) { return FarbeVon(Finde<QLabel>(bild)); }
     static std::string Bild(const QColor& farbe) {
         QImage bild(2, 2, QImage::Format_RGB32);
         bild.fill(farbe);
@@ -309,11 +310,7 @@ TEST_F(Skins, LokalerSkinLaesstFehlendeBilderStehen) {
     m_fenster.close();
     m_boxen.Antwort = false;
     NeuerStart start(m_umgebung);
-    EXPECT_EQ(start->findChild<QLabel*>(QStringLiteral("ImgSKW"))
-                  ->pixmap(Qt::ReturnByValue)
-                  .toImage()
-                  .pixelColor(0, 0),
-              QColor(Qt::blue));
+    EXPECT_EQ(FarbeVon(*start->findChild<QLabel*>(QStringLiteral("ImgSKW"))), QColor(Qt::blue));
     EXPECT_TRUE(start->findChild<QRadioButton*>(QStringLiteral("Opt_Lokal"))->isChecked());
 }
 
@@ -339,6 +336,8 @@ TEST_F(Skins, WebskinKommtDateiFuerDateiAnSeinenPlatz) {
     NeuerStart start(m_umgebung);
     EXPECT_TRUE(m_netz.Adressen.empty()) << "a start fetches nothing";
     EXPECT_TRUE(start->findChild<QRadioButton*>(QStringLiteral("Opt_Web"))->isChecked());
+    EXPECT_EQ(FarbeVon(*start->findChild<QLabel*>(QStringLiteral("ImgMetMine"))), QColor(5, 0, 0))
+        << "what landed is shown";
 }
 
 TEST_F(Skins, WebskinFragtBeiJederFehlendenDatei) {
