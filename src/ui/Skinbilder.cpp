@@ -24,13 +24,6 @@ QPixmap LadeZeiger(const std::filesystem::path& datei, qreal skalierung) {
 
 }  // namespace
 
-void LadeBild(QLabel& bild, const std::filesystem::path& datei) {
-    const QPixmap neues = LadePixmap(datei);
-    if (!neues.isNull()) {
-        bild.setPixmap(neues);
-    }
-}
-
 QPixmap LadePixmap(const std::filesystem::path& datei) {
     return {AlsQString(datei)};
 }
@@ -48,7 +41,10 @@ Ziehzeiger LadeZiehzeiger(const std::filesystem::path& bilder, qreal skalierung)
 void ApplySkin(Byte Mode, const std::string& Path, const QWidget& flaeche,
                const std::filesystem::path& programmordner) {
     const auto lade = [&flaeche](const char* name, const std::filesystem::path& datei) {
-        LadeBild(*flaeche.findChild<QLabel*>(QString::fromLatin1(name)), datei);
+        const QPixmap bild = LadePixmap(datei);
+        if (!bild.isNull()) {
+            flaeche.findChild<QLabel*>(QString::fromLatin1(name))->setPixmap(bild);
+        }
     };
     const auto bilder = programmordner / "img";
     lade("Images(4)", bilder / "summe.gif");

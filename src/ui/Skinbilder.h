@@ -10,9 +10,6 @@
 
 namespace tarvelin {
 
-/// Sets the picture of a file. A file that can't be loaded leaves the picture as it was.
-void LadeBild(QLabel& bild, const std::filesystem::path& datei);
-
 /// The picture of a file, null if it can't be loaded.
 [[nodiscard]] QPixmap LadePixmap(const std::filesystem::path& datei);
 
