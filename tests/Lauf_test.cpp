@@ -1,6 +1,4 @@
 // The run: its clock, its timetable, its messages and what it leaves behind.
-#include <random>
-
 #include "Hilfen.h"
 #include "simulation/EventTabelle.h"
 
@@ -149,36 +147,6 @@ TEST(Lauf, HaeltDieUhrAmEndeIhresBereichs) {
     const Probe probe(MitPuffer("GW WR GX:10:10:10 FS GX:5:5:5 FE GM GM", 600));
     EXPECT_EQ(probe.Uhr(), 2147483647);
     EXPECT_EQ(probe.Gelaufen.LV_Bauzeiten.size(), 8U);
-}
-
-TEST(Lauf, IstEineReineFunktionDesPlans) {
-    std::mt19937 zufall(42);
-    for (int n = 0; n < 30; ++n) {
-        std::string codes;
-        for (int i = 0; i < 40; ++i) {
-            codes += std::string(ItemTabelle()[zufall() % kItemAnzahl].Code) + " ";
-            codes += zufall() % 6 == 0 ? "GX:3:10:0 " : "";
-        }
-        codes.pop_back();
-        Plan plan = MitPuffer(codes, static_cast<int>(zufall() % 20));
-        Lauf lauf;
-        Merker merker;
-        RunSimulation(plan, lauf, merker, true);
-        const auto ende = lauf.Planet.Globale;
-        RunSimulation(plan, lauf, merker, true);
-        EXPECT_EQ(lauf.Planet.Globale.secsgone, ende.secsgone);
-        EXPECT_EQ(lauf.Planet.Globale.Metall, ende.Metall);
-        EXPECT_EQ(lauf.LV_Bauzeiten.size(), plan.Liste.Zeilen().size());
-        double ausgegeben = 0;
-        for (const auto& zeile : ItemTabelle()) {
-            EXPECT_EQ(ende.Stufe(zeile.Item), plan.Liste.ListStufe(zeile.Item));
-            for (int stufe = 0; stufe < plan.Liste.ListStufe(zeile.Item); ++stufe) {
-                const Kosten preis = lauf.Planet.Item(zeile.Item).GetKosten(stufe);
-                ausgegeben += preis.Metall + preis.Kristall + preis.Deuterium;
-            }
-        }
-        EXPECT_EQ(ende.VerbauteRessourcen, ausgegeben);
-    }
 }
 
 TEST(EventTabelle, OrdnetNachZeitArtUndEintritt) {

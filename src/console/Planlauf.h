@@ -2,10 +2,12 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
 
+#include "persistence/Profil.h"
 #include "plan/Plan.h"
 #include "simulation/Ergebnistexte.h"
 #include "simulation/RunSimulation.h"
@@ -27,6 +29,8 @@ struct Planlauf {
 
     /// Loads and runs the plan of a file. Messages go to `fehlerstrom` as they come.
     Planlauf(const std::filesystem::path& datei, std::ostream& fehlerstrom);
+    /// The same with what a file of that name held: nothing, if it couldn't be read.
+    Planlauf(std::string name, const std::optional<Profil>& profil, std::ostream& fehlerstrom);
 };
 
 }  // namespace tarvelin

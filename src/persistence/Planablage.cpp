@@ -164,16 +164,6 @@ bool LadePlan(const Profil& profil, Plan& plan, const Startplanet& planet,
     return brauchbar;
 }
 
-bool LadePlan(const std::filesystem::path& File, Plan& plan, const Startplanet& planet,
-              Meldungsausgabe& meldungen) {
-    const auto profil = Profil::Lade(File);
-    if (!profil) {
-        meldungen.Zeige(Ladefehler());
-        return false;
-    }
-    return LadePlan(*profil, plan, planet, meldungen);
-}
-
 std::string FenstertitelMit(const std::filesystem::path& File) {
     const auto name = File.filename().u8string();
     return "Tarvelin  |  Kelva Aufbau-Simulator      ( " + std::string(name.begin(), name.end()) +

@@ -28,11 +28,6 @@ bool SaveBauliste(const std::filesystem::path& File, const Plan& plan);
 [[nodiscard]] bool LadePlan(const Profil& profil, Plan& plan, const Startplanet& planet,
                             Meldungsausgabe& meldungen);
 
-/// The same from a file. One that can't be opened and read gives the same message and leaves the
-/// plan as it was.
-[[nodiscard]] bool LadePlan(const std::filesystem::path& File, Plan& plan,
-                            const Startplanet& planet, Meldungsausgabe& meldungen);
-
 /// The window's caption for a loaded plan.
 [[nodiscard]] std::string FenstertitelMit(const std::filesystem::path& File);
 

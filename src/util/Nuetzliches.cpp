@@ -12,10 +12,11 @@ namespace tarvelin {
 
 namespace {
 
-/// Length in bytes of the UTF-8 character that begins a text.
+/// Length in bytes of the UTF-8 character that begins a text; a stray byte is one of its own.
 std::size_t ErstesZeichen(std::string_view text) {
+    const bool mehrere = static_cast<unsigned char>(text.front()) >= 0xC0U;
     std::size_t n = 1;
-    while (n < text.size() && (static_cast<unsigned char>(text[n]) & 0xC0U) == 0x80U) {
+    while (mehrere && n < text.size() && (static_cast<unsigned char>(text[n]) & 0xC0U) == 0x80U) {
         ++n;
     }
     return n;

@@ -1,0 +1,44 @@
+// Any bytes as a plan file: loaded, run and printed in every form, under the laws of every plan.
+#include <sstream>
+
+#include "Eingabe.h"
+#include "Gesetze.h"
+#include "console/Ausgabe.h"
+#include "persistence/Planablage.h"
+#include "plan/Wecker.h"
+
+namespace tarvelin {
+namespace {
+
+/// The longest list that the laws are tried on; they build it anew after each row.
+constexpr std::size_t kHoechstzahl = 60;
+
+void Drucke(const Planlauf& lauf) {
+    std::ostringstream strom;
+    SchreibeText(strom, lauf);
+    SchreibeCsvKopf(strom);
+    SchreibeCsv(strom, lauf);
+    strom << JsonText(lauf) << RefreshWeekday(lauf.Plan.Parameter).Hint
+          << PunkteMitVorratText(lauf.Lauf.Planet.Globale);
+    for (const auto& bauzeit : lauf.Lauf.LV_Bauzeiten) {
+        strom << FaelligeBauzeiten(lauf.Lauf.LV_Bauzeiten, bauzeit.Zeit(), "0")
+              << FaelligeSchlafzeiten(lauf.Plan.Schlafzeiten, bauzeit.Zeit());
+    }
+    Verlange(lauf.Gelaufen || !lauf.Meldungen.empty(), "a plan runs or says why not");
+}
+
+}  // namespace
+}  // namespace tarvelin
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t laenge) {
+    using namespace tarvelin;
+    const std::string_view bytes(reinterpret_cast<const char*>(daten), laenge);
+    std::ostringstream fehlerstrom;
+    const Planlauf lauf("plan.tvf", Profil(bytes), fehlerstrom);
+    Drucke(lauf);
+    if (lauf.Geladen && lauf.Plan.Liste.Zeilen().size() <= kHoechstzahl) {
+        const Befund befund = PruefeGesetze(lauf.Plan);
+        Verlange(befund.empty(), "the laws of every plan", befund);
+    }
+    return 0;
+}
