@@ -19,7 +19,7 @@ Zeilen ZeilenVon(std::string_view bytes) {
     while (!bytes.empty()) {
         std::size_t ende = bytes.find_first_of("\r\n");
         ende = ende == std::string_view::npos ? bytes.size() : ende + 1;
-        ende += bytes.substr(ende - 1).starts_with("\r\n") ? 1 : 0;
+        ende += bytes.substr(ende - 1).starts_with("\r\n") ? 1U : 0U;
         zeilen.push_back(bytes.substr(0, ende));
         bytes.remove_prefix(ende);
     }

@@ -3,7 +3,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QRadioButton>
+#include <limits>
+#include <sstream>
 
+#include "Ausfall.h"
 #include "Fensterhilfen.h"
 #include "ui/Bildknopf.h"
 #include "ui/Hersteller.h"
@@ -90,6 +93,52 @@ TEST_F(Fensterleben, WiederherstellungMerktSichDieAntworten) {
         NeuerStart start(m_umgebung);
         EXPECT_TRUE(m_boxen.Texte.empty());
         EXPECT_EQ(start.Zeilen(), ja ? 2U : 0U);
+    }
+}
+
+TEST_F(Fensterleben, EinAusfallBeimBeendenLaesstJedeDateiAltOderNeu) {
+    m_fenster.close();
+    const auto autosave = m_ordner / "saves" / "autosave.tvf";
+    const auto config = m_ordner / "config.cfg";
+    const std::string alterPlan = LiesDatei(autosave);
+    const std::string alteConfig = "; von Hand\r\n[Settings]\r\nFirststart=0\r\n";
+    // Each key and the plan are written by the same steps; the strides meet each step at some file.
+    // Closes a window with one row whose n-th call of the platform fails.
+    const auto beende = [&](int n, Ausfallart art) {
+        SchreibeDatei(autosave, alterPlan);
+        SchreibeDatei(config, alteConfig);
+        Stoersystem system(std::numeric_limits<int>::max(), art);
+        Umgebung umgebung{.Boxen = m_boxen,
+                          .Netz = m_netz,
+                          .Ton = m_ton,
+                          .Jetzt = m_umgebung.Jetzt,
+                          .OeffneSeite = m_umgebung.OeffneSeite,
+                          .Programmordner = m_umgebung.Programmordner,
+                          .Dateien = system};
+        NeuerStart start(umgebung);
+        emit start->findChild<Baulistenansicht*>()->DragDrop(QStringLiteral("ImgMetMine"));
+        SchreibeDatei(config, alteConfig);
+        system.Beginne(n);
+        start->close();
+        return system.HatGestoert();
+    };
+    ASSERT_FALSE(beende(std::numeric_limits<int>::max(), Ausfallart::Einmal));
+    const std::string neuerPlan = LiesDatei(autosave);
+    const std::string neueConfig = LiesDatei(config);
+    ASSERT_NE(neuerPlan, alterPlan);
+    for (const auto& [art, schritt] :
+         {std::pair(Ausfallart::Einmal, 7), std::pair(Ausfallart::AllesFuerImmer, 17)}) {
+        for (int n = 1; beende(n, art); n += schritt) {
+            SCOPED_TRACE("call " + std::to_string(n));
+            const std::string plan = LiesDatei(autosave);
+            EXPECT_TRUE(plan == alterPlan || plan == neuerPlan) << plan;
+            // Each line of the file stood there before or stands there afterwards.
+            std::istringstream zeilen(LiesDatei(config));
+            for (std::string zeile; std::getline(zeilen, zeile);) {
+                EXPECT_NE((alteConfig + neueConfig).find(zeile + "\n"), std::string::npos) << zeile;
+            }
+            EXPECT_TRUE(LiesDatei(config).starts_with(alteConfig));
+        }
     }
 }
 

@@ -11,6 +11,9 @@ namespace tarvelin {
 /// What breaks a law, in a few words; empty where it holds.
 using Befund = std::string;
 
+/// All that a list shows and counts.
+[[nodiscard]] std::string Zustand(const Bauliste& liste);
+
 /// The whole result of a plan's run on a fresh planet, in every form in which it is printed.
 [[nodiscard]] std::string Ergebnis(const Plan& plan);
 

@@ -6,11 +6,13 @@
 
 namespace tarvelin {
 
-Konfiguration::Konfiguration(std::filesystem::path programmordner)
-    : m_programmordner(std::move(programmordner)), m_datei(m_programmordner / "config.cfg") {}
+Konfiguration::Konfiguration(std::filesystem::path programmordner, const Dateisystem& system)
+    : m_programmordner(std::move(programmordner)),
+      m_datei(m_programmordner / "config.cfg"),
+      m_system(system) {}
 
 std::string Konfiguration::Lies(const Konfigurationskey& key) const {
-    return ReadINI(key.Section, key.Key, m_datei, key.Standard);
+    return ReadINI(key.Section, key.Key, m_datei, key.Standard, m_system);
 }
 
 bool Konfiguration::IstAn(const Konfigurationskey& key) const {
@@ -25,14 +27,14 @@ Byte Konfiguration::Skinmodus() const {
 std::filesystem::path Konfiguration::Alertsound() const {
     // No file has this name; a default would come back cut to the length of a value.
     constexpr std::string_view kFehlt = "*";
-    const std::string datei = ReadINI("SoundSettings", "Alertsound", m_datei, kFehlt);
+    const std::string datei = ReadINI("SoundSettings", "Alertsound", m_datei, kFehlt, m_system);
     return datei == kFehlt ? m_programmordner / "mfx" / "alert.wav"
                            : std::filesystem::path(std::u8string(datei.begin(), datei.end()));
 }
 
 void Konfiguration::Schreibe(const Werte& werte) const {
     for (const auto& [key, wert] : werte) {
-        WriteINI(key.Section, key.Key, wert, m_datei);
+        WriteINI(key.Section, key.Key, wert, m_datei, m_system);
     }
 }
 

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "persistence/Dateisystem.h"
 #include "util/Ganzzahl.h"
 
 namespace tarvelin {
@@ -35,7 +36,8 @@ class Konfiguration {
 
     using Werte = std::vector<std::pair<Konfigurationskey, std::string>>;
 
-    explicit Konfiguration(std::filesystem::path programmordner);
+    explicit Konfiguration(std::filesystem::path programmordner,
+                           const Dateisystem& system = Platte());
 
     [[nodiscard]] std::string Lies(const Konfigurationskey& key) const;
     /// "1" is on, any other text off.
@@ -53,6 +55,7 @@ class Konfiguration {
   private:
     std::filesystem::path m_programmordner;
     std::filesystem::path m_datei;
+    const Dateisystem& m_system;
 };
 
 /// What a start does about the last plan, from the user's former answers.

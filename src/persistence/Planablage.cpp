@@ -145,13 +145,13 @@ void SchreibePlan(const Plan& plan, Profil& profil) {
     }
 }
 
-bool SaveBauliste(const std::filesystem::path& File, const Plan& plan) {
-    auto profil = Profil::LadeOderLeer(File);
+bool SaveBauliste(const std::filesystem::path& File, const Plan& plan, const Dateisystem& system) {
+    auto profil = Profil::LadeOderLeer(File, system);
     if (!profil) {
         return false;
     }
     SchreibePlan(plan, *profil);
-    return ErsetzeDatei(File, profil->Bytes());
+    return ErsetzeDatei(File, profil->Bytes(), system);
 }
 
 bool LadePlan(const Profil& profil, Plan& plan, const Startplanet& planet,

@@ -16,7 +16,8 @@ namespace tarvelin {
 void SchreibePlan(const Plan& plan, Profil& profil);
 
 /// The same into a file, in one step. False if it can't be written; the file is then as it was.
-bool SaveBauliste(const std::filesystem::path& File, const Plan& plan);
+bool SaveBauliste(const std::filesystem::path& File, const Plan& plan,
+                  const Dateisystem& system = Platte());
 
 /// What a player reads when a file holds no plan.
 [[nodiscard]] Meldung Ladefehler();

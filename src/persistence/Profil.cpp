@@ -2,9 +2,6 @@
 #include "persistence/Profil.h"
 
 #include <algorithm>
-#include <array>
-#include <fstream>
-#include <system_error>
 #include <utility>
 
 #include "util/Codepage1252.h"
@@ -115,28 +112,14 @@ Profil::Profil(std::string_view bytes) : m_abschnitte(1) {
     }
 }
 
-std::optional<Profil> Profil::Lade(const std::filesystem::path& datei) {
-    std::error_code fehler;
-    if (!std::filesystem::is_regular_file(datei, fehler)) {
-        return std::nullopt;
-    }
-    std::ifstream strom(datei, std::ios::binary);
-    std::string bytes;
-    std::array<char, std::size_t{64} << 10U> block{};
-    while (strom && bytes.size() <= kHoechstgroesse) {
-        strom.read(block.data(), block.size());
-        bytes.append(block.data(), static_cast<std::size_t>(strom.gcount()));
-    }
-    if (!strom.eof() || strom.bad() || bytes.size() > kHoechstgroesse) {
-        return std::nullopt;
-    }
-    return Profil(bytes);
+std::optional<Profil> Profil::Lade(const std::filesystem::path& datei, const Dateisystem& system) {
+    const auto bytes = LiesDatei(datei, kHoechstgroesse, system);
+    return bytes ? std::optional<Profil>(*bytes) : std::nullopt;
 }
 
-std::optional<Profil> Profil::LadeOderLeer(const std::filesystem::path& datei) {
-    std::error_code fehler;
-    const auto art = std::filesystem::status(datei, fehler).type();
-    return art == std::filesystem::file_type::not_found ? Profil("") : Lade(datei);
+std::optional<Profil> Profil::LadeOderLeer(const std::filesystem::path& datei,
+                                           const Dateisystem& system) {
+    return system.Sieh(datei) == Dateisystem::Art::Nichts ? Profil("") : Lade(datei, system);
 }
 
 std::string Profil::Lies(std::string_view section, std::string_view key,

@@ -10,6 +10,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "persistence/Dateisystem.h"
+
 namespace tarvelin {
 
 /// The bytes of one file, understood line by line. Section and key names match whole, ASCII letters
@@ -23,10 +25,12 @@ class Profil {
     explicit Profil(std::string_view bytes);
 
     /// Nothing if the file isn't one, can't be read or is too large.
-    [[nodiscard]] static std::optional<Profil> Lade(const std::filesystem::path& datei);
+    [[nodiscard]] static std::optional<Profil> Lade(const std::filesystem::path& datei,
+                                                    const Dateisystem& system = Platte());
 
     /// The same, but a file that doesn't exist gives an empty profile.
-    [[nodiscard]] static std::optional<Profil> LadeOderLeer(const std::filesystem::path& datei);
+    [[nodiscard]] static std::optional<Profil> LadeOderLeer(const std::filesystem::path& datei,
+                                                            const Dateisystem& system = Platte());
 
     /// The value of a key, at most 255 characters of it and nothing from its first NUL on; the
     /// default, cut likewise, if the section or the key is missing. One pair of equal quotes around

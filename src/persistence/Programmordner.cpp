@@ -1,10 +1,6 @@
 // Choice of the folder and the copies for a user of an installed program.
 #include "persistence/Programmordner.h"
 
-#include <fstream>
-#include <iterator>
-#include <string>
-
 #include "persistence/Dateiersatz.h"
 
 namespace tarvelin {
@@ -18,9 +14,9 @@ void KopiereFehlende(const fs::path& von, const fs::path& nach) {
     if (fs::exists(nach, fehler)) {
         return;
     }
-    std::ifstream strom(von, std::ios::binary);
-    if (strom) {
-        ErsetzeDatei(nach, std::string(std::istreambuf_iterator<char>(strom), {}));
+    constexpr std::size_t kHoechstgroesse = std::size_t{16} << 20U;
+    if (const auto bytes = LiesDatei(von, kHoechstgroesse, Platte())) {
+        ErsetzeDatei(nach, *bytes);
     }
 }
 
@@ -45,7 +41,7 @@ fs::path BestimmeProgrammordner(const fs::path& ordner_des_programms,
                                 const fs::path& nutzerordner) {
     std::error_code fehler;
     const bool mit_daten = fs::is_directory(ordner_des_programms / "img", fehler);
-    if (mit_daten && IstBeschreibbar(ordner_des_programms)) {
+    if (mit_daten && Platte().IstBeschreibbar(ordner_des_programms)) {
         return ordner_des_programms;
     }
     const fs::path quelle = mit_daten ? ordner_des_programms

@@ -9,7 +9,7 @@ Alarme::Alarme(const Quellen& quellen, const Umgebung& umgebung, QObject* parent
     : QObject(parent),
       m_quellen(quellen),
       m_umgebung(umgebung),
-      m_konfiguration(umgebung.Programmordner),
+      m_konfiguration(umgebung.Programmordner, umgebung.Dateien),
       m_Tmr_BauWeckfunktion(QStringLiteral("Tmr_BauWeckfunktion"), this),
       m_Tmr_Schlafweckfunktion(QStringLiteral("Tmr_Schlafweckfunktion"), this) {
     connect(&quellen.Chk_BauWeckfunktion, &QCheckBox::toggled, &m_Tmr_BauWeckfunktion,

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "persistence/Dateisystem.h"
 #include "util/Datumzeit.h"
 #include "util/Meldung.h"
 
@@ -74,6 +75,8 @@ struct Umgebung {
     std::function<void(const std::string&)> OeffneSeite;
     /// Where `img`, `mfx`, `saves` and `config.cfg` lie.
     std::filesystem::path Programmordner;
+    /// Through which plans and configuration are read and written.
+    const Dateisystem& Dateien = Platte();
 };
 
 }  // namespace tarvelin

@@ -38,13 +38,14 @@ const std::array<Skinbild, 24> kSkinbilder{{
 namespace {
 
 /// Whether the file lies there afterwards.
-bool HoleDatei(const std::string& adresse, const std::filesystem::path& datei, Abruf& netz) {
+bool HoleDatei(const std::string& adresse, const std::filesystem::path& datei,
+               const Umgebung& umgebung) {
     if (FileExists(datei)) {
         std::error_code ohneWort;
         std::filesystem::remove(datei, ohneWort);
     }
-    if (const auto bytes = netz.Hole(adresse)) {
-        ErsetzeDatei(datei, *bytes);
+    if (const auto bytes = umgebung.Netz.Hole(adresse)) {
+        ErsetzeDatei(datei, *bytes, umgebung.Dateien);
     }
     return FileExists(datei);
 }
@@ -68,8 +69,7 @@ Webskinausgang HoleWebskin(const std::string& adresse, const std::filesystem::pa
     for (const Skinbild& bild : kSkinbilder) {
         const std::string ort = std::string("/") + bild.Ordner + "/" + bild.Name + ".gif";
         umgebung.Netz.Atme();
-        const bool geholt =
-            offen() && HoleDatei(adresse + ort, ziel / ort.substr(1), umgebung.Netz);
+        const bool geholt = offen() && HoleDatei(adresse + ort, ziel / ort.substr(1), umgebung);
         if (!offen()) {
             return Webskinausgang::Abgebrochen;
         }

@@ -33,7 +33,7 @@ void ZeigeEinmaliges(std::unique_ptr<F>& fenster, const Umgebung& umgebung) {
 
 frmMain::frmMain(const Umgebung& umgebung)
     : m_umgebung(umgebung),
-      m_konfiguration(umgebung.Programmordner),
+      m_konfiguration(umgebung.Programmordner, umgebung.Dateien),
       m_flaeche(new QWidget(this)),
       m_Fra_Einstellungen(new Fra_Einstellungen(m_plan, m_flaeche)),
       m_Fra_Special(new Fra_Special(m_flaeche)),

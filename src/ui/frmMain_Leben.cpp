@@ -115,7 +115,7 @@ void frmMain::Form_Unload() {
          {Konfiguration::kBaulistenwecker, schalter(*m_Fra_Rest->Frame6->Chk_BauWeckfunktion)},
          {Konfiguration::kSchlafzeitenwecker, schalter(*m_Fra_Sleep->Chk_Schlafzeitenwecker)},
          {Konfiguration::kItemCount, std::to_string(m_plan.Liste.Zeilen().size())}});
-    SaveBauliste(Autosave(), m_plan);
+    SaveBauliste(Autosave(), m_plan, m_umgebung.Dateien);
 }
 
 void frmMain::mnu_DateiNeu_Click() {
@@ -142,12 +142,12 @@ void frmMain::mnu_Datei_Speichern_Click() {
     const auto datei = m_umgebung.Boxen.FragNachDatei(Dialoge::Zweck::Speichern,
                                                       m_umgebung.Programmordner / "saves");
     if (!datei.empty()) {
-        SaveBauliste(datei, m_plan);
+        SaveBauliste(datei, m_plan, m_umgebung.Dateien);
     }
 }
 
 void frmMain::LoadBauliste(const std::filesystem::path& File, bool Silent) {
-    const auto profil = Profil::Lade(File);
+    const auto profil = Profil::Lade(File, m_umgebung.Dateien);
     if (!profil) {
         m_umgebung.Boxen.Zeige(Ladefehler());
         return;

@@ -1,0 +1,74 @@
+// The system calls of the file layer, all of them: what the platform does for it, and the place at
+// which a test can let a call fail.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarvelin {
+
+/// One function for each call; none of them keeps anything between two calls. An open file is a
+/// number from 0; what can't be done answers -1, false or nothing.
+class Dateisystem {
+  public:
+    enum class Art : std::uint8_t { Nichts, Datei, Anderes };
+
+    Dateisystem() = default;
+    Dateisystem(const Dateisystem&) = delete;
+    Dateisystem& operator=(const Dateisystem&) = delete;
+    virtual ~Dateisystem() = default;
+
+    /// What lies at a path, links followed; nothing if that can't be told.
+    [[nodiscard]] virtual std::optional<Art> Sieh(const std::filesystem::path& pfad) const = 0;
+    /// The absolute path without links, as far as it exists.
+    [[nodiscard]] virtual std::optional<std::filesystem::path> LoeseAuf(
+        const std::filesystem::path& pfad) const = 0;
+    /// Whether this user can write a file, or make files in a folder.
+    [[nodiscard]] virtual bool IstBeschreibbar(const std::filesystem::path& pfad) const = 0;
+    [[nodiscard]] virtual std::vector<std::filesystem::path> Eintraege(
+        const std::filesystem::path& ordner) const = 0;
+
+    /// Opens a file for reading.
+    [[nodiscard]] virtual int Oeffne(const std::filesystem::path& datei) const = 0;
+    /// Makes a file that wasn't there, for writing.
+    [[nodiscard]] virtual int LegeAn(const std::filesystem::path& datei) const = 0;
+    /// How many bytes came; 0 at the end of the file.
+    [[nodiscard]] virtual std::ptrdiff_t Lies(int nummer, std::span<char> bytes) const = 0;
+    /// How many of the bytes went.
+    [[nodiscard]] virtual std::ptrdiff_t Schreibe(int nummer, std::string_view bytes) const = 0;
+    /// Gives an open file the access rights of another one.
+    [[nodiscard]] virtual bool UebernimmRechte(int nummer,
+                                               const std::filesystem::path& von) const = 0;
+    /// Returns when the bytes lie on the disk.
+    [[nodiscard]] virtual bool BringAufPlatte(int nummer) const = 0;
+    /// The number is free afterwards in any case.
+    virtual bool Schliesse(int nummer) const = 0;
+
+    /// In one step; a file with the new name gives way.
+    [[nodiscard]] virtual bool BenenneUm(const std::filesystem::path& von,
+                                         const std::filesystem::path& nach) const = 0;
+    /// Brings the names in a folder to the disk, where the platform knows such a thing.
+    virtual bool BringOrdnerAufPlatte(const std::filesystem::path& ordner) const = 0;
+    virtual bool Loesche(const std::filesystem::path& datei) const = 0;
+
+    /// The number of this process.
+    [[nodiscard]] virtual std::int64_t Prozess() const = 0;
+    /// Whether a process of this number runs, as far as can be told.
+    [[nodiscard]] virtual bool Laeuft(std::int64_t prozess) const = 0;
+};
+
+/// The platform's own.
+[[nodiscard]] const Dateisystem& Platte();
+
+/// The bytes of a file; nothing if it is none, can't be read or has more than `hoechstens`.
+[[nodiscard]] std::optional<std::string> LiesDatei(const std::filesystem::path& datei,
+                                                   std::size_t hoechstens,
+                                                   const Dateisystem& system);
+
+}  // namespace tarvelin

@@ -1,0 +1,92 @@
+// Saves under a platform that fails: each call once, each kind of call for good, all of them for
+// good.
+#include <set>
+
+#include "Ausfall.h"
+#include "Hilfen.h"
+#include "persistence/Dateiersatz.h"
+#include "persistence/Konfiguration.h"
+
+namespace tarvelin {
+namespace {
+
+constexpr std::string_view kAlt = "; von Hand\r\n[Einstellungen]\nTempMax=7\n[Eigenes]\nx=1";
+
+/// A save over a plan of somebody's own making.
+class Ausfall : public testing::TestWithParam<Ausfallart> {
+  protected:
+    /// Whether only what the call itself left can lie there: no deletion worked any more.
+    static constexpr bool BleibtLiegen(Ausfallart art) { return art == Ausfallart::AllesFuerImmer; }
+
+    /// Lets the n-th call of `tat` fail, for n from 1 until it has so many no more, and looks at
+    /// the folder after each. How often something failed.
+    template <class Tat, class Blick>
+    int Probiere(Tat tat, Blick blick) {
+        int n = 1;
+        for (bool gestoert = true; gestoert; ++n) {
+            SCOPED_TRACE("call " + std::to_string(n));
+            SchreibeDatei(m_ordner / "plan.tvf", kAlt);
+            SchreibeDatei(m_ordner / "config.cfg", kAlt);
+            const Stoersystem system(n, GetParam());
+            tat(system);
+            gestoert = system.HatGestoert();
+            blick();
+            if (!BleibtLiegen(GetParam())) {
+                EXPECT_EQ(m_ordner.Eintraege(), 2U);
+            }
+            // What a failed deletion left goes with the next save.
+            EXPECT_TRUE(ErsetzeDatei(m_ordner / "plan.tvf", kAlt));
+            EXPECT_EQ(m_ordner.Eintraege(), 2U);
+        }
+        return n - 2;
+    }
+
+    const Ordner m_ordner;
+    const Plan m_plan = PlanAus("GM GS GX:8:10:5 GK");
+};
+
+TEST_P(Ausfall, PlanIstDerAlteOderDerNeue) {
+    Profil erwartet(kAlt);
+    SchreibePlan(m_plan, erwartet);
+    bool gespeichert = false;
+    const int ausfaelle = Probiere(
+        [&](const Dateisystem& system) {
+            gespeichert = SaveBauliste(m_ordner / "plan.tvf", m_plan, system);
+        },
+        [&] {
+            EXPECT_EQ(LiesDatei(m_ordner / "plan.tvf"),
+                      gespeichert ? erwartet.Bytes() : std::string(kAlt));
+        });
+    EXPECT_TRUE(gespeichert);
+    EXPECT_GE(ausfaelle, 14);
+}
+
+TEST_P(Ausfall, KonfigurationStehtVorOderNachEinemKey) {
+    const Konfiguration::Werte werte{{Konfiguration::kMode, "3"},
+                                     {Konfiguration::kPath, "blau"},
+                                     {Konfiguration::kFirststart, "0"}};
+    // Every key is written or isn't, each on its own.
+    std::set<std::string> erlaubt;
+    for (unsigned welche = 0; welche < 8; ++welche) {
+        Profil profil(kAlt);
+        for (std::size_t i = 0; i < werte.size(); ++i) {
+            if ((welche >> i & 1U) != 0) {
+                profil.Schreibe(werte[i].first.Section, werte[i].first.Key, werte[i].second);
+            }
+        }
+        erlaubt.insert(profil.Bytes());
+    }
+    Probiere(
+        [&](const Dateisystem& system) { Konfiguration(m_ordner / "", system).Schreibe(werte); },
+        [&] {
+            EXPECT_TRUE(erlaubt.contains(LiesDatei(m_ordner / "config.cfg")))
+                << LiesDatei(m_ordner / "config.cfg");
+        });
+}
+
+INSTANTIATE_TEST_SUITE_P(Arten, Ausfall,
+                         testing::Values(Ausfallart::Einmal, Ausfallart::DieserAufrufFuerImmer,
+                                         Ausfallart::AllesFuerImmer));
+
+}  // namespace
+}  // namespace tarvelin

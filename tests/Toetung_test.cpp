@@ -1,0 +1,104 @@
+// Saves of a process that is killed: at each call of the platform, and at random moments.
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <random>
+#include <thread>
+
+#include "Ausfall.h"
+#include "Hilfen.h"
+#include "persistence/modINI.h"
+
+namespace tarvelin {
+namespace {
+
+/// Kills its process at the n-th call.
+class Todessystem final : public Stoersystem {
+  public:
+    explicit Todessystem(int n) : Stoersystem(n, Ausfallart::Einmal) {}
+
+  private:
+    void VorAusfall() const override { ::kill(::getpid(), SIGKILL); }
+};
+
+/// Runs `tat` in a process of its own; `daneben` gets its number meanwhile. Whether it was killed.
+template <class Tat, class Daneben>
+bool StirbtBei(Tat tat, Daneben daneben) {
+    const pid_t kind = ::fork();
+    if (kind == 0) {
+        tat();
+        ::_exit(0);
+    }
+    daneben(kind);
+    int status = 0;
+    EXPECT_EQ(::waitpid(kind, &status, 0), kind);
+    return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
+}
+
+/// Two plans in turn, and a key of the configuration.
+class Toetung : public testing::Test {
+  protected:
+    Toetung() {
+        Speichere(0, Platte());
+        for (std::size_t i = 0; i < m_plaene.size(); ++i) {
+            Profil profil(LiesDatei(Datei()));
+            SchreibePlan(m_plaene[i], profil);
+            m_bytes.push_back(profil.Bytes());
+            WriteINI("Settings", "Firststart", std::to_string(i), m_ordner / "config.cfg");
+            m_konfigurationen.push_back(LiesDatei(m_ordner / "config.cfg"));
+        }
+    }
+
+    [[nodiscard]] std::filesystem::path Datei() const { return m_ordner / "plan.tvf"; }
+    void Speichere(std::size_t welchen, const Dateisystem& system) const {
+        SaveBauliste(Datei(), m_plaene.at(welchen), system);
+        WriteINI("Settings", "Firststart", std::to_string(welchen), m_ordner / "config.cfg",
+                 system);
+    }
+    void PruefeOrdner() {
+        EXPECT_EQ(std::ranges::count(m_bytes, LiesDatei(Datei())), 1);
+        EXPECT_EQ(std::ranges::count(m_konfigurationen, LiesDatei(m_ordner / "config.cfg")), 1);
+        EXPECT_LE(m_ordner.Eintraege(), 3U);  // one that was being written
+        Speichere(0, Platte());
+        EXPECT_EQ(LiesDatei(Datei()), m_bytes[0]);
+        EXPECT_EQ(m_ordner.Eintraege(), 2U);
+    }
+
+    const Ordner m_ordner;
+    // Saved in turn over each other they give the same bytes each time.
+    const std::vector<Plan> m_plaene{PlanAus("GM GS GM GS"), PlanAus("GK GX:8:10:5 GD GD")};
+    std::vector<std::string> m_bytes;
+    std::vector<std::string> m_konfigurationen;
+};
+
+TEST_F(Toetung, BeiJedemAufrufLaesstDenAltenOderDenNeuenPlan) {
+    int n = 1;
+    while (StirbtBei([&] { Speichere(1, Todessystem(n)); }, [](pid_t /*kind*/) {})) {
+        SCOPED_TRACE("call " + std::to_string(n));
+        PruefeOrdner();
+        ++n;
+    }
+    EXPECT_GE(n, 28);
+}
+
+TEST_F(Toetung, ZuBeliebigerZeitLaesstDenAltenOderDenNeuenPlan) {
+    std::mt19937 zufall(200);
+    for (int n = 0; n < 200; ++n) {
+        const std::chrono::microseconds frist(zufall() % 4000);
+        const auto speichere = [&] {
+            for (std::size_t i = 0;; ++i) {
+                Speichere(i % 2, Platte());
+            }
+        };
+        EXPECT_TRUE(StirbtBei(speichere, [&](pid_t kind) {
+            std::this_thread::sleep_for(frist);
+            ::kill(kind, SIGKILL);
+        }));
+        PruefeOrdner();
+    }
+}
+
+}  // namespace
+}  // namespace tarvelin
