@@ -43,7 +43,7 @@ still() {
 # Everything of ours below a /usr, with the time and sum of each file.
 bestand() {
     local orte
-    mapfile -d '' orte < <(find "$1" -iname '*tarvelin*' -prune -print0)
+    mapfile -d '' orte < <(find "$1" -iname '*tarvelin*' -prune -print0 2>/dev/null)
     [ ${#orte[@]} -gt 0 ] || return 0
     find "${orte[@]}" -printf '%p %M %u %s %T@\n' | sort
     find "${orte[@]}" -type f -exec sha256sum {} + | sort
@@ -81,7 +81,7 @@ if [ -n "$installiert" ]; then
 else
     wurzel=$arbeit/wurzel
     dpkg-deb -x "$paket" "$wurzel"
-    update-mime-database "$wurzel/usr/share/mime"
+    still "types of files are entered" update-mime-database "$wurzel/usr/share/mime"
 fi
 teile=$wurzel/usr/share
 nachher=$(bestand "$wurzel/usr")
