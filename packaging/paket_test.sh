@@ -51,8 +51,11 @@ bestand() {
 
 echo "Package"
 baue "$quellen" release
+# A builder's umask doesn't reach the player.
+umask 077
 still "is built" cpack --config "$quellen/build/release/CPackConfig.cmake" -B "$arbeit/paket"
 paket=$(echo "$arbeit"/paket/*.deb)
+umask 022
 version=$(dpkg-deb -f "$paket" Version)
 gleich "bears the version of the program" "tarvelin-cli $version" \
     "$("$quellen/build/release/bin/tarvelin-cli" --version)"
