@@ -58,7 +58,8 @@ class Programm:
         self.nummer = subprocess.check_output(
             ["xdotool", "search", "--sync", "--onlyvisible", "--name", "Kelva Aufbau"],
             text=True).split()[-1]
-        xdotool("windowactivate", "--sync", self.nummer)
+        # A box in front of it would let nobody wait for this.
+        xdotool("windowactivate", self.nummer)
 
     def _fenster(self):
         tisch = Atspi.get_desktop(0)
