@@ -1,5 +1,6 @@
 #!/bin/bash
-# Draws every picture and sound of the program anew from the sources in this folder.
+# Draws every picture and sound of the program and the icons of its package anew from the sources in
+# this folder.
 # The fonts of the donation pictures are the only thing taken from the system.
 set -euo pipefail
 export LC_ALL=C
@@ -70,9 +71,22 @@ for hand in handopen hand; do
     convert "$tmp"/{32,64}.png -strip $bild/$hand.ico
 done
 
-# Small icons have a drawing of their own; scaled down, the large one is a blot.
-for kante in 16 24; do png icon_klein.svg $kante "$tmp/$kante.png"; done
-for kante in 32 48 64 128 256; do png icon.svg $kante "$tmp/$kante.png"; done
-convert "$tmp"/{16,24,32,48,64,128,256}.png -strip $bild/icon.ico
+# symbol DRAWING PLACE: in all sizes of a desktop. Small icons have a drawing of their own; scaled
+# down, the large one is a blot.
+symbol() {
+    local kante zeichnung ordner
+    for kante in 16 24 32 48 64 128 256 512; do
+        zeichnung=$1
+        ((kante > 24)) || zeichnung+=_klein
+        ordner=$symbole/${kante}x$kante/$(dirname "$2")
+        mkdir -p "$ordner"
+        png "$zeichnung.svg" $kante "$ordner/$(basename "$2").png"
+    done
+}
+symbole=../packaging/hicolor
+symbol icon apps/tarvelin
+symbol plan mimetypes/application-x-tarvelin-plan
+convert "$symbole"/{16x16,24x24,32x32,48x48,64x64,128x128,256x256}/apps/tarvelin.png -strip \
+    $bild/icon.ico
 
 python3 klang.py ../data/mfx/alert.wav

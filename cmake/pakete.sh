@@ -5,6 +5,9 @@ BAU_PAKETE=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev
 # A virtual screen with a player's hands and a screen reader's eyes.
 BILDSCHIRM_PAKETE=(xvfb xauth openbox xdotool imagemagick dbus at-spi2-core
     gir1.2-atspi-2.0 python3-gi)
+# Builds the Debian package, looks at it, and asks what a desktop asks of it.
+PAKET_PAKETE=(dpkg-dev file lintian desktop-file-utils appstream shared-mime-info man-db
+    "${BILDSCHIRM_PAKETE[@]}")
 TEST_PAKETE=(libgtest-dev libbenchmark-dev clang-format "${BILDSCHIRM_PAKETE[@]}")
 
 # Installs those of the named packages that are missing: as root or by sudo; elsewhere it names them

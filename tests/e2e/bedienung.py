@@ -49,13 +49,17 @@ class Programm:
             shutil.copytree(bin_ordner, ordner,
                             ignore=shutil.ignore_patterns("config.cfg", "*.tvf", "*bench"))
         self.ordner = ordner
-        umgebung = {**os.environ, "LC_ALL": "C.UTF-8"}
-        self.prozess = subprocess.Popen([os.path.join(ordner, "tarvelin")], env=umgebung)
+        self._starte(ordner)
+
+    def _starte(self, bin_ordner, **umgebung):
+        self.prozess = subprocess.Popen([os.path.join(bin_ordner, "tarvelin")],
+                                        env={**os.environ, "LC_ALL": "C.UTF-8", **umgebung})
         self.fenster = warte(self._fenster, "the window")
         self.nummer = subprocess.check_output(
             ["xdotool", "search", "--sync", "--onlyvisible", "--name", "Kelva Aufbau"],
             text=True).split()[-1]
-        xdotool("windowactivate", "--sync", self.nummer)
+        # A box in front of it would let nobody wait for this.
+        xdotool("windowactivate", self.nummer)
 
     def _fenster(self):
         tisch = Atspi.get_desktop(0)
@@ -131,3 +135,11 @@ class Programm:
         """Closes the program by its menu. Its exit code."""
         xdotool("windowactivate", "--sync", self.nummer, "key", "alt+d", "sleep", 0.3, "key", "b")
         return self.prozess.wait(timeout=30)
+
+
+class Installiertes(Programm):
+    """An installed program with a user's home folder."""
+
+    def __init__(self, bin_ordner, heim):
+        self.ordner = os.path.join(heim, ".local", "share", "Tarvelin")
+        self._starte(bin_ordner, HOME=heim)

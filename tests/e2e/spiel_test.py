@@ -51,13 +51,17 @@ def erwartet(ergebnis):
     }
 
 
-def pruefe_neustart(programme, ordner, ergebnis):
+def rechne(programme, datei):
+    """What the console program makes of a plan."""
+    return json.loads(subprocess.check_output(
+        [os.path.join(programme, "tarvelin-cli"), "--json", datei]))
+
+
+def pruefe_neustart(programme, ordner, ergebnis, starte):
     """The exit has stored the plan, and the next start brings it back when it is told to."""
-    gespeichert = json.loads(subprocess.check_output(
-        [os.path.join(programme, "tarvelin-cli"), "--json",
-         os.path.join(ordner, "saves", "autosave.tvf")]))
+    gespeichert = rechne(programme, os.path.join(ordner, "saves", "autosave.tvf"))
     assert gespeichert["LV_Bauzeiten"] == ergebnis["LV_Bauzeiten"], gespeichert
-    programm = Programm(programme, ordner)
+    programm = starte()
     programm.antworte("Möchtest du die letzte Bauliste wiederherstellen?", "Ja")
     programm.antworte("Bei jedem Start so verfahren?", "Nein")
     warte(lambda: len(programm.zeilen("Optimale Bauzeiten", 3)) == len(ergebnis["Bauliste"]),
@@ -80,8 +84,7 @@ def main(programme):
         datei = os.path.join(ordner, "plan.tvf")
         with open(datei, "w", encoding="cp1252", newline="") as strom:
             strom.write(plandatei(programm, codes, schlafzeiten))
-        ergebnis = json.loads(subprocess.check_output(
-            [os.path.join(programme, "tarvelin-cli"), "--json", datei]))
+        ergebnis = rechne(programme, datei)
         soll, ist = erwartet(ergebnis), gesehen(programm)
         assert soll == ist, f"console: {soll}\nwindow:  {ist}"
         for label in ["LBL_Timegone", "LBL_Met", "LBL_Kris", "LBL_Deut", "LBL_ENergie",
@@ -91,7 +94,8 @@ def main(programme):
         ende = schlafzeiten[0][1].split()[1]
         assert any(z["Uhrzeit"].startswith(ende) for z in ergebnis["LV_Bauzeiten"]), ergebnis
         assert programm.beende() == 0
-        pruefe_neustart(programme, programm.ordner, ergebnis)
+        pruefe_neustart(programme, programm.ordner, ergebnis,
+                        lambda: Programm(programme, programm.ordner))
 
 
 if __name__ == "__main__":

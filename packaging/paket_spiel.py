@@ -1,0 +1,40 @@
+#!/usr/bin/python3
+"""A new user's first two starts of an installed program: the starter plan is there, grows by some
+orders, and comes back.
+
+    paket_spiel.py FOLDER_OF_THE_PROGRAMS STARTER_PLAN HOME
+"""
+import os
+import sys
+
+from bedienung import Installiertes, warte, xdotool
+from spiel_test import erwartet, gesehen, pruefe_neustart, rechne
+
+BILDER = ["Metallmine", "Solarkraftwerk", "Kleiner Transporter"]
+
+
+def main(programme, starterplan, heim):
+    def starte():
+        return Installiertes(programme, heim)
+
+    start = rechne(programme, starterplan)
+    programm = starte()
+    warte(lambda: gesehen(programm) == erwartet(start), "the starter plan")
+    programm.klicke("push button", "Hide")
+    for zeilen, bild in enumerate(BILDER, len(start["Bauliste"]) + 1):
+        programm.ziehe(bild, zeilen)
+    programm.klicke("tree", "Optimale Bauzeiten")
+    xdotool("key", "Return")
+    warte(lambda: len(programm.zeilen("Optimale Bauzeiten", 3)) == zeilen, "build times")
+    ist = gesehen(programm)
+    assert programm.beende() == 0
+    ergebnis = rechne(programme, os.path.join(programm.ordner, "saves", "autosave.tvf"))
+    # The build list's "Prod %" is that of the moment in which a row came, so it may differ.
+    for was in ["Bauzeiten", "Tag"]:
+        soll = erwartet(ergebnis)[was]
+        assert ist[was] == soll, f"console: {soll}\nwindow:  {ist[was]}"
+    pruefe_neustart(programme, programm.ordner, ergebnis, starte)
+
+
+if __name__ == "__main__":
+    main(*sys.argv[1:])
