@@ -13,8 +13,11 @@ namespace {
 
 using Zeilen = std::vector<std::string_view>;
 
-/// The lines of a file with their ends: LF, CR LF or CR.
+constexpr std::string_view kBytemarke = "\xEF\xBB\xBF";
+
+/// The lines of a file with their ends, LF, CR LF or CR, behind a mark of its encoding.
 Zeilen ZeilenVon(std::string_view bytes) {
+    bytes.remove_prefix(bytes.starts_with(kBytemarke) ? kBytemarke.size() : 0);
     Zeilen zeilen;
     while (!bytes.empty()) {
         std::size_t ende = bytes.find_first_of("\r\n");
@@ -88,6 +91,8 @@ void PruefeSchreiben(const std::string& datei, const std::string& section, const
     profil.Schreibe(section, key, Aus1252(wert));
     const std::string nachher = profil.Bytes();
     const Zeilen zeilen = ZeilenVon(datei);
+    Verlange(nachher.starts_with(kBytemarke) == datei.starts_with(kBytemarke),
+             "the mark of the encoding stays", nachher);
     Verlange(NurEineStelle(zeilen, ZeilenVon(nachher)), "a write changes one line", nachher);
 
     const Profil vorher(datei);

@@ -18,6 +18,12 @@
 
 namespace tarvelin {
 
+#ifdef _WIN32
+inline constexpr bool kWindows = true;
+#else
+inline constexpr bool kWindows = false;
+#endif
+
 /// Keeps messages and counts beeps.
 class Merker final : public Meldungsausgabe {
   public:

@@ -61,17 +61,6 @@ TEST(Konfiguration, SchreibtNebenFremdeZeilenUndVerliertSichOhneOrdner) {
     EXPECT_EQ(ohne.Alertsound(), ordner / "fehlt" / "mfx" / "alert.wav");
 }
 
-TEST(Dateiersatz, RaeumtWegWasGetoeteteProzesseLiessen) {
-    const Ordner ordner;
-    // No process has the highest number; the one with the lowest always runs.
-    for (const char* const name : {".tarvelin-4194999.tmp", ".tarvelin-1.tmp", ".tarvelin-x.tmp"}) {
-        SchreibeDatei(ordner / name, "halb");
-    }
-    Konfiguration(ordner / "").Schreibe({{Konfiguration::kFirststart, "0"}});
-    EXPECT_FALSE(std::filesystem::exists(ordner / ".tarvelin-4194999.tmp"));
-    EXPECT_EQ(ordner.Eintraege(), 3U);
-}
-
 TEST(Wecker, KlingeltAufDieSekunde) {
     const Zeitpunkt start = *LiesDatumzeit("18.11.2006 12:00:00");
     const Bauzeiten bauzeiten{{start, "Metallmine: ", 1, {}},

@@ -113,7 +113,8 @@ TEST(Struktur, DerBauKenntJedeQuelle) {
         const std::string bau = LiesDatei(kWurzel / liste);
         for (const auto& e : std::filesystem::recursive_directory_iterator(kWurzel / ordner)) {
             if (e.path().extension() == ".cpp") {
-                const auto name = std::filesystem::relative(e.path(), kWurzel / ordner).string();
+                const auto name =
+                    std::filesystem::relative(e.path(), kWurzel / ordner).generic_string();
                 EXPECT_NE(bau.find(name), std::string::npos) << name;
             }
         }

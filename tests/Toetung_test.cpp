@@ -37,6 +37,17 @@ bool StirbtBei(Tat tat, Daneben daneben) {
     return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
 }
 
+TEST(Dateiersatz, RaeumtWegWasGetoeteteProzesseLiessen) {
+    const Ordner ordner;
+    // No process has the highest number; the one with the lowest always runs.
+    for (const char* const name : {".tarvelin-4194999.tmp", ".tarvelin-1.tmp", ".tarvelin-x.tmp"}) {
+        SchreibeDatei(ordner / name, "halb");
+    }
+    WriteINI("Settings", "Firststart", "0", ordner / "config.cfg");
+    EXPECT_FALSE(std::filesystem::exists(ordner / ".tarvelin-4194999.tmp"));
+    EXPECT_EQ(ordner.Eintraege(), 3U);
+}
+
 /// Two plans in turn, and a key of the configuration.
 class Toetung : public testing::Test {
   protected:

@@ -202,7 +202,9 @@ TEST(Nuetzliches, SchautInOrdner) {
         std::filesystem::create_directory(ordner / name);
     }
     SchreibeDatei(ordner / "datei", "x");
-    std::filesystem::create_directory_symlink(ordner / "blau", ordner / "zeiger");
+    if (!kWindows) {
+        std::filesystem::create_directory_symlink(ordner / "blau", ordner / "zeiger");
+    }
     EXPECT_EQ(GetSubfolders(ordner / ""), (std::vector<std::string>{"blau", "standard"}));
     EXPECT_TRUE(FileExists(ordner / "datei"));
     EXPECT_FALSE(FileExists(ordner / "blau"));

@@ -7,6 +7,15 @@
 #include <string>
 #include <vector>
 
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+
+#include <filesystem>
+#include <span>
+#endif
+
 #include "console/Ausgabe.h"
 #include "console/Planlauf.h"
 
@@ -45,7 +54,7 @@ bool FuehreAus(const Aufruf& aufruf) {
         tarvelin::SchreibeCsvKopf(std::cout);
     }
     for (const std::string& datei : aufruf.Dateien) {
-        const tarvelin::Planlauf lauf(datei, std::cerr);
+        const tarvelin::Planlauf lauf(std::u8string(datei.begin(), datei.end()), std::cerr);
         if (aufruf.Json) {
             std::cout << tarvelin::JsonText(lauf) << '\n';
         } else if (aufruf.Csv) {
@@ -70,10 +79,10 @@ void SprichDeutsch(CLI::App& app) {
     formatter->label("Excludes", "nicht mit");
 }
 
-/// As the library wants them: from the last to the first. It takes a name in square brackets for a
-/// list; with its folder in front it is a name.
-std::vector<std::string> Argumente(int argc, char** argv) {
-    std::vector<std::string> argumente(argv + std::min(argc, 1), argv + argc);
+/// As the library wants them: without the program's name, from the last to the first. It takes a
+/// name in square brackets for a list; with its folder in front it is a name.
+std::vector<std::string> FuerBibliothek(std::vector<std::string> argumente) {
+    argumente.erase(argumente.begin(), argumente.begin() + (argumente.empty() ? 0 : 1));
     for (std::string& argument : argumente) {
         argument.insert(0, argument.starts_with('[') ? "./" : "");
     }
@@ -81,10 +90,12 @@ std::vector<std::string> Argumente(int argc, char** argv) {
     return argumente;
 }
 
-int Rufe(int argc, char** argv) {
+int Rufe(const std::vector<std::string>& argumente) {
     CLI::App app("Spielt Baupläne durch und gibt aus, wann welcher Auftrag gegeben werden kann.",
                  "tarvelin-cli");
     SprichDeutsch(app);
+    // "/" begins a path everywhere.
+    app.allow_windows_style_options(false);
     Aufruf aufruf;
     const std::string gruppe = "Optionen";
     app.set_help_flag("--hilfe,--help", "Diese Hilfe")->group(gruppe);
@@ -97,7 +108,7 @@ int Rufe(int argc, char** argv) {
     csv->disable_flag_override()->excludes(json)->group(gruppe);
     app.add_option("PLAN", aufruf.Dateien, "Plandateien (.tvf)")->required();
     try {
-        app.parse(Argumente(argc, argv));
+        app.parse(FuerBibliothek(argumente));
     } catch (const CLI::Success& hilfe) {
         return app.exit(hilfe);
     } catch (const CLI::ParseError& fehler) {
@@ -112,14 +123,33 @@ int Rufe(int argc, char** argv) {
     return alleGut ? kGut : kPlanGescheitert;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int Starte(const std::vector<std::string>& argumente) {
     try {
-        return Rufe(argc, argv);
+        return Rufe(argumente);
     } catch (const std::exception& fehler) {
         // The memory ran out, or the system failed in a way that nobody foresees.
         std::fprintf(stderr, "tarvelin-cli: %s\n", fehler.what());
         return kPlanGescheitert;
     }
 }
+
+}  // namespace
+
+#ifdef _WIN32
+int wmain(int argc, wchar_t** argv) {
+    // The output is UTF-8 with the line ends that we write.
+    SetConsoleOutputCP(CP_UTF8);
+    _setmode(_fileno(stdout), _O_BINARY);
+    _setmode(_fileno(stderr), _O_BINARY);
+    std::vector<std::string> argumente;
+    for (const std::filesystem::path argument : std::span(argv, static_cast<std::size_t>(argc))) {
+        const auto utf8 = argument.u8string();
+        argumente.emplace_back(utf8.begin(), utf8.end());
+    }
+    return Starte(argumente);
+}
+#else
+int main(int argc, char** argv) {
+    return Starte({argv, argv + argc});
+}
+#endif

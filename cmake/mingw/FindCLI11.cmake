@@ -1,0 +1,4 @@
+# CLI11 for the cross compiler.
+include(Kopfbibliothek)
+kopfbibliothek(CLI11::CLI11 CLI)
+set(CLI11_FOUND TRUE)

@@ -1,0 +1,10 @@
+# GoogleTest for the cross compiler, from the sources that its package brings.
+set(quellen /usr/src/googletest/googletest)
+if(NOT TARGET GTest::gtest_main)
+  add_library(gtest_main STATIC ${quellen}/src/gtest-all.cc ${quellen}/src/gtest_main.cc)
+  target_compile_features(gtest_main PUBLIC cxx_std_20)
+  target_include_directories(gtest_main SYSTEM PUBLIC ${quellen}/include PRIVATE ${quellen})
+  set_target_properties(gtest_main PROPERTIES COMPILE_WARNING_AS_ERROR OFF)
+  add_library(GTest::gtest_main ALIAS gtest_main)
+endif()
+set(GTest_FOUND TRUE)
