@@ -1,23 +1,65 @@
 #!/usr/bin/env bash
 # Installs what is needed, runs all tests under the sanitizers, then builds the release and tries its
-# package.
+# package. With an argument it does something else instead:
+#   --tools     clang-tidy, cppcheck and a build by clang++, none of which may say a word
+#   --coverage  tells which lines below the window the tests run
+#   --windows   builds core and console program for Windows and runs their tests there
 set -euo pipefail
 ordner=$(cd "$(dirname "$0")" && pwd)
 . "$ordner/cmake/pakete.sh"
-
-stelle_bereit "${BAU_PAKETE[@]}" "${TEST_PAKETE[@]}" "${PAKET_PAKETE[@]}"
 cd "$ordner"
 
-echo "== Format"
-find src tests bench -name '*.cpp' -o -name '*.h' | xargs clang-format --dry-run --Werror
+teste() {
+    stelle_bereit "${BAU_PAKETE[@]}" "${TEST_PAKETE[@]}" "${PAKET_PAKETE[@]}"
+    echo "== Format"
+    find src tests bench fuzz -name '*.cpp' -o -name '*.h' | xargs clang-format --dry-run --Werror
 
-echo "== Tests with AddressSanitizer and UndefinedBehaviorSanitizer"
-baue "$ordner" asan
-ctest --preset asan -j "$(nproc)"
+    echo "== Tests with AddressSanitizer and UndefinedBehaviorSanitizer"
+    baue "$ordner" asan
+    ctest --preset asan -j "$(nproc)"
 
-echo "== Release without warnings"
-baue "$ordner" release
+    echo "== Release without warnings"
+    baue "$ordner" release
 
-echo "== Package: built, installed, played, removed"
-packaging/paket_test.sh
+    echo "== Package: built, installed, played, removed"
+    packaging/paket_test.sh
+}
+
+pruefe_mit_werkzeugen() {
+    stelle_bereit "${BAU_PAKETE[@]}" "${TEST_PAKETE[@]}" "${WERKZEUG_PAKETE[@]}"
+    echo "== clang++"
+    baue "$ordner" clang
+    echo "== clang-tidy"
+    run-clang-tidy -p build/clang -quiet '/(src|bench|fuzz)/[^/]*/?[^/]*\.cpp$'
+    echo "== cppcheck"
+    # Macros of the tests look to it like comparisons of a value with itself.
+    cppcheck --enable=warning,style,performance,portability --error-exitcode=1 --quiet \
+        --std=c++20 --library=qt --inline-suppr -I src -I tests -j "$(nproc)" src bench fuzz
+}
+
+miss_abdeckung() {
+    stelle_bereit "${BAU_PAKETE[@]}" "${TEST_PAKETE[@]}" "${ABDECKUNG_PAKETE[@]}"
+    baue "$ordner" coverage
+    find build/coverage -name '*.gcda' -delete
+    ctest --preset coverage -j "$(nproc)" -LE Bildschirm
+    gcovr --root . --object-directory build/coverage --exclude-throw-branches \
+        --filter 'src/(util|model|plan|simulation|persistence|console)/'
+}
+
+teste_fuer_windows() {
+    stelle_bereit "${BAU_PAKETE[@]}" "${WINDOWS_PAKETE[@]}"
+    baue "$ordner" mingw
+    ctest --preset mingw
+}
+
+case "${1:-}" in
+    "") teste ;;
+    --tools) pruefe_mit_werkzeugen ;;
+    --coverage) miss_abdeckung ;;
+    --windows) teste_fuer_windows ;;
+    *)
+        echo "test.sh: $1 is none of --tools, --coverage, --windows" >&2
+        exit 2
+        ;;
+esac
 echo "Done."

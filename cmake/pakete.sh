@@ -9,6 +9,9 @@ BILDSCHIRM_PAKETE=(xvfb xauth openbox xdotool imagemagick dbus at-spi2-core
 PAKET_PAKETE=(dpkg-dev file lintian desktop-file-utils appstream shared-mime-info man-db
     "${BILDSCHIRM_PAKETE[@]}")
 TEST_PAKETE=(libgtest-dev libbenchmark-dev clang-format "${BILDSCHIRM_PAKETE[@]}")
+WERKZEUG_PAKETE=(clang clang-tidy clang-tools cppcheck)
+ABDECKUNG_PAKETE=(gcovr)
+WINDOWS_PAKETE=(g++-mingw-w64-x86-64-posix wine64 googletest)
 
 # Installs those of the named packages that are missing: as root or by sudo; elsewhere it names them
 # and stops.

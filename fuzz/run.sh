@@ -1,0 +1,48 @@
+#!/usr/bin/env bash
+# Lets the fuzzer of clang run on each target, one after the other, or on those that are named:
+#   fuzz/run.sh SECONDS [Plan|Profil|Texte]...
+# It begins with the kept inputs and plans of the tests, and adds to build/fuzz/korpus what reaches
+# further. An input that breaks a promise is written to build/fuzz, its name told, and the run fails.
+# To keep the least inputs that reach all that was reached:
+#   fuzz/run.sh --merge
+set -euo pipefail
+ordner=$(cd "$(dirname "$0")/.." && pwd)
+. "$ordner/cmake/pakete.sh"
+stelle_bereit "${BAU_PAKETE[@]}" "${TEST_PAKETE[@]}" clang libclang-rt-14-dev
+cd "$ordner"
+sekunden=${1:?"fuzz/run.sh SECONDS [TARGET]..."}
+ziele=("${@:2}")
+[ ${#ziele[@]} -gt 0 ] || ziele=(Plan Profil Texte)
+baue "$ordner" fuzz tarvelin-fuzz-plan tarvelin-fuzz-profil tarvelin-fuzz-texte
+
+# saat TARGET FOLDER: plans of the tests in the form of the target.
+saat() {
+    local plan
+    mkdir -p "$2"
+    for plan in tests/data/golden/*.tvf data/saves/*.tvf; do
+        case $1 in
+            Plan) cp "$plan" "$2" ;;
+            Profil) { printf 'Bauliste\x1fItem_001\x1fGM\x1f' && cat "$plan"; } >"$2/${plan##*/}" ;;
+            Texte) ;; # its kept inputs are seed enough
+        esac
+    done
+}
+
+for ziel in "${ziele[@]}"; do
+    programm=build/fuzz/fuzz/tarvelin-fuzz-${ziel,,}
+    funde=build/fuzz/korpus/$ziel
+    saat "$ziel" "build/fuzz/saat/$ziel"
+    mkdir -p "$funde"
+    if [ "$sekunden" = --merge ]; then
+        neu=$(mktemp -d)
+        "$programm" -merge=1 -use_counters=0 -max_len=1500 "$neu" "fuzz/korpus/$ziel" "$funde"
+        rm -r "fuzz/korpus/$ziel"
+        mv "$neu" "fuzz/korpus/$ziel"
+        chmod 0755 "fuzz/korpus/$ziel"
+    else
+        echo "== $ziel, $sekunden s"
+        "$programm" "$funde" "fuzz/korpus/$ziel" "build/fuzz/saat/$ziel" -dict=fuzz/woerter.dict \
+            -max_len=3000 -max_total_time="$sekunden" -print_final_stats=1 \
+            -artifact_prefix="build/fuzz/$ziel-"
+    fi
+done
