@@ -3,6 +3,7 @@ hears what is played."""
 import array
 import collections
 import os
+import select
 import shutil
 import subprocess
 import threading
@@ -36,6 +37,13 @@ def xdotool(*worte):
     subprocess.run(["xdotool", *map(str, worte)], check=True)
 
 
+def fensternummer(titel):
+    """None where no window has this title, or one goes in the middle of the search."""
+    suche = ["xdotool", "search", "--onlyvisible", "--name", titel]
+    gefunden = subprocess.run(suche, capture_output=True, text=True, check=False).stdout.split()
+    return gefunden[-1] if gefunden else None
+
+
 def baum(knoten):
     yield knoten
     for i in range(knoten.get_child_count()):
@@ -43,6 +51,8 @@ def baum(knoten):
         if kind is not None:
             yield from baum(kind)
 
+
+STARTERPLAN = os.path.join(os.path.dirname(__file__), "..", "..", "data", "saves", "basic.tvf")
 
 Box = collections.namedtuple("Box", "titel text knoepfe")
 
@@ -69,14 +79,14 @@ class Programm:
             [os.path.join(ordner, "tarvelin")], stderr=fehlerstrom,
             env={**os.environ, "LC_ALL": "C.UTF-8", **(umgebung or {})})
         self.fenster = warte(self._fenster, "the window")
-        self.nummer = subprocess.check_output(
-            ["xdotool", "search", "--sync", "--onlyvisible", "--name", "Kelva Aufbau"],
-            text=True).split()[-1]
+        self.nummer = warte(lambda: self._fenster() and fensternummer("Kelva Aufbau"), "its number")
         # A box that asks at the start is active in the window's place.
         xdotool("windowactivate", self.nummer)
         warte(lambda: any(ist(k, Atspi.StateType.ACTIVE) for k in self.oberste()), "activation")
 
     def _fenster(self):
+        if self.prozess.poll() is not None:
+            raise Fehler(f"the program ended at its start with {self.prozess.returncode}")
         tisch = Atspi.get_desktop(0)
         for i in range(tisch.get_child_count()):
             programm = tisch.get_child_at_index(i)
@@ -94,7 +104,8 @@ class Programm:
     def lies_box(alert):
         knoten = list(baum(alert))
         texte = [k.get_name() for k in knoten if k.get_role_name() == "label"]
-        return Box(alert.get_name(), "\n".join(texte),
+        # A box without an icon has an empty label in its place.
+        return Box(alert.get_name(), "\n".join(filter(None, texte)),
                    {k.get_name(): k for k in knoten if k.get_role_name() == "push button"})
 
     def boxen(self):
@@ -161,9 +172,7 @@ class Programm:
 
     def aufnahme(self, datei, titel=None):
         """A picture of the main window, or of the window with this title."""
-        nummer = self.nummer if titel is None else subprocess.check_output(
-            ["xdotool", "search", "--sync", "--onlyvisible", "--name", titel],
-            text=True).split()[-1]
+        nummer = self.nummer if titel is None else warte(lambda: fensternummer(titel), titel)
         subprocess.run(["import", "-window", nummer, "+dither", "-colors", "256", "-strip",
                         f"PNG8:{datei}"], check=True)
 
@@ -201,10 +210,12 @@ class Haende:
 
     def __init__(self):
         self.prozess = subprocess.Popen(["xdotool", "-"], stdin=subprocess.PIPE,
-                                        stdout=subprocess.PIPE, text=True, bufsize=1)
+                                        stdout=subprocess.PIPE, text=True)
 
     def tu(self, worte):
-        """Returns when it is done."""
-        self.prozess.stdin.write(f"{worte}\ngetmouselocation\n")
+        """Returns when it is done, which an answer behind it tells."""
+        self.prozess.stdin.write(f"{worte}\ngetdisplaygeometry\n")
         self.prozess.stdin.flush()
+        if not select.select([self.prozess.stdout], [], [], 30)[0]:
+            raise Fehler(f"{worte}: not done within 30 s")
         self.prozess.stdout.readline()

@@ -17,7 +17,8 @@ class Skinserver(http.server.ThreadingHTTPServer):
     """Answers from its start on; keeps the paths that it was asked for."""
 
     def __init__(self, antworte):
-        """`antworte` tells of a path: the status, the bytes, and how many of them arrive."""
+        """`antworte` tells of a path: the status, the bytes, and how many of them arrive,
+        all for None."""
         super().__init__(("127.0.0.1", 0), Anfrage)
         self.antworte = antworte
         self.pfade = []
