@@ -8,7 +8,7 @@ import os
 import sys
 
 from bedienung import Installiertes, warte, xdotool
-from spiel_test import erwartet, gesehen, pruefe_neustart, rechne
+from vergleich import erwartet, gesehen, rechne
 
 BILDER = ["Metallmine", "Solarkraftwerk", "Kleiner Transporter"]
 
@@ -33,7 +33,11 @@ def main(programme, starterplan, heim):
     for was in ["Bauzeiten", "Tag"]:
         soll = erwartet(ergebnis)[was]
         assert ist[was] == soll, f"console: {soll}\nwindow:  {ist[was]}"
-    pruefe_neustart(programme, programm.ordner, ergebnis, starte)
+    programm = starte()
+    programm.antworte("Möchtest du die letzte Bauliste wiederherstellen?", "Ja")
+    programm.antworte("Bei jedem Start so verfahren?", "Nein")
+    warte(lambda: gesehen(programm) == erwartet(ergebnis), "the plan of the last time")
+    assert programm.beende() == 0
 
 
 if __name__ == "__main__":

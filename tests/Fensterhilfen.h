@@ -28,7 +28,7 @@ class Boxenmerker final : public Dialoge {
     bool Stelle(const Frage& frage) override {
         Texte.push_back(frage.Text);
         Koepfe.emplace_back(frage.Titel, frage.Symbol);
-        return Antworten.contains(frage.Text) ? Antworten.at(frage.Text) : Antwort;
+        return Antwort;
     }
     std::filesystem::path FragNachDatei(Zweck /*zweck*/,
                                         const std::filesystem::path& ordner) override {
@@ -40,8 +40,6 @@ class Boxenmerker final : public Dialoge {
     std::vector<std::pair<std::string, Meldungssymbol>> Koepfe;
     std::function<void()> BeiMeldung;
     bool Antwort = false;
-    /// To certain questions another one.
-    std::map<std::string, bool> Antworten;
     /// What the file dialogs answer, from their folder on.
     std::filesystem::path Datei;
 };

@@ -20,10 +20,6 @@ namespace fs = std::filesystem;
 
 using Fensterleben = Fenster;
 
-fs::path Starterplan() {
-    return fs::path(TARVELIN_QUELLEN) / "data" / "saves" / "basic.tvf";
-}
-
 /// One more start of the program in the same folder.
 class NeuerStart {
   public:
@@ -32,68 +28,21 @@ class NeuerStart {
 
     frmMain* operator->() { return &m_fenster; }
     std::size_t Zeilen() { return m_fenster.DerPlan().Liste.Zeilen().size(); }
-    bool EinstellungenOffen() {
-        return !m_fenster.findChild<QWidget*>(QStringLiteral("Fra_Einstellungen"))->isHidden();
-    }
 
   private:
     frmMain m_fenster;
 };
 
-TEST_F(Fensterleben, ErsterStartMitStarterplanUndOhneFrage) {
-    // The fixture was a first start without the plan.
+TEST_F(Fensterleben, ErsterStartOhneStarterplan) {
     EXPECT_EQ(LiesDatei(m_ordner / "config.cfg"), "[Settings]\r\nFirststart=0\r\n");
     EXPECT_TRUE(m_boxen.Texte.empty());
-    fs::remove(m_ordner / "config.cfg");
-    fs::copy(Starterplan(), m_ordner / "saves" / "basic.tvf");
-    {
-        NeuerStart start(m_umgebung);
-        EXPECT_EQ(start.Zeilen(), 49U);
-        EXPECT_EQ(start->windowTitle(),
-                  QStringLiteral("Tarvelin  |  Kelva Aufbau-Simulator      ( basic.tvf )"));
-        EXPECT_TRUE(start.EinstellungenOffen());
-        EXPECT_FALSE(fs::exists(m_ordner / "saves" / "basic.tvf"));
-    }
-    EXPECT_TRUE(m_boxen.Texte.empty());
-    EXPECT_TRUE(fs::exists(m_ordner / "saves" / "autosave.tvf"));
-    EXPECT_NE(LiesDatei(m_ordner / "config.cfg").find("[Bauliste]\r\nItemCount=49\r\n"),
+    Lade("GM GM");
+    m_fenster.close();
+    EXPECT_NE(LiesDatei(m_ordner / "config.cfg").find("[Bauliste]\r\nItemCount=2\r\n"),
               std::string::npos);
-    // Later starts leave such a file alone.
-    fs::copy(Starterplan(), m_ordner / "saves" / "basic.tvf");
-    EXPECT_EQ(NeuerStart(m_umgebung).Zeilen(), 0U);
-    EXPECT_TRUE(fs::exists(m_ordner / "saves" / "basic.tvf"));
-}
-
-TEST_F(Fensterleben, WiederherstellungMerktSichDieAntworten) {
-    const char* const letzte = "Möchtest du die letzte Bauliste wiederherstellen?";
-    const char* const immer = "Bei jedem Start so verfahren?";
-    for (const bool ja : {true, false}) {
-        Lade("GM GM");
-        m_fenster.close();
-        fs::remove(m_ordner / "config.cfg");
-        SchreibeDatei(m_ordner / "config.cfg", "[Settings]\r\nFirststart=0\r\n");
-        for (const bool auf_dauer : {false, true}) {
-            m_boxen.Texte.clear();
-            m_boxen.Antworten = {{letzte, ja}, {immer, auf_dauer}};
-            NeuerStart start(m_umgebung);
-            EXPECT_EQ(m_boxen.Texte, (std::vector<std::string>{letzte, immer}));
-            EXPECT_EQ(m_boxen.Koepfe.back(),
-                      std::pair(std::string("Wiederherstellen..."), Meldungssymbol::Frage));
-            EXPECT_EQ(start.Zeilen(), ja ? 2U : 0U);
-            EXPECT_EQ(start.EinstellungenOffen(), !ja);
-            // What a No leaves empty must not be stored over the plan.
-            Lade("GM GM");
-            ASSERT_TRUE(SaveBauliste(m_ordner / "saves" / "autosave.tvf", m_fenster.DerPlan()));
-            start->findChild<QPushButton*>(QStringLiteral("Cmd_Clear"))->click();
-            for (int i = 0; i < 2; ++i) {
-                emit start->findChild<Baulistenansicht*>()->DragDrop(QStringLiteral("ImgMetMine"));
-            }
-        }
-        m_boxen.Texte.clear();
-        NeuerStart start(m_umgebung);
-        EXPECT_TRUE(m_boxen.Texte.empty());
-        EXPECT_EQ(start.Zeilen(), ja ? 2U : 0U);
-    }
+    NeuerStart start(m_umgebung);
+    EXPECT_EQ(m_boxen.Koepfe,
+              std::vector(2, std::pair(std::string("Wiederherstellen..."), Meldungssymbol::Frage)));
 }
 
 TEST_F(Fensterleben, EinAusfallBeimBeendenLaesstJedeDateiAltOderNeu) {
@@ -389,41 +338,19 @@ TEST_F(Skins, WebskinKommtDateiFuerDateiAnSeinenPlatz) {
         << "what landed is shown";
 }
 
+// Nothing makes the landing folder.
 TEST_F(Skins, WebskinFragtBeiJederFehlendenDatei) {
     StelleInsNetz("http://a");
-    m_netz.Dateien.erase("http://a/gebaeude/31.gif");
-    const QColor standard = Farbe("ImgMetMine");
-    SchreibeDatei(Landeplatz() / "gebaeude" / "31.gif", Bild(Qt::green));
-    SchreibeDatei(Landeplatz() / "gebaeude" / "401.gif", Bild(Qt::green));
+    fs::remove_all(Landeplatz());
     WaehleQuelle("Opt_Web");
     Finde<QLineEdit>("txt_Pfad").setText(QStringLiteral("http://a"));
-    const char* const frage =
-        "\"/gebaeude/31.gif\" konnte nicht von der angegebenen URL geladen werden...\r\n\r\n"
-        "Vorgang abbrechen ?";
-    m_boxen.Antworten = {{frage, true}};
-    Druecke("Cmd_ApplySkin");
-    EXPECT_EQ(m_boxen.Texte.back(), frage);
-    EXPECT_EQ(m_boxen.Koepfe,
-              (decltype(m_boxen.Koepfe){{"Fortsetzen...", Meldungssymbol::Hinweis},
-                                        {"Download-Fehler...", Meldungssymbol::Warnung}}));
-    EXPECT_EQ(m_netz.Adressen.size(), 7U);
-    EXPECT_EQ(Farbe("ImgMetMine"), standard);
-    EXPECT_FALSE(fs::exists(Landeplatz() / "gebaeude" / "31.gif"));
-    EXPECT_EQ(LiesDatei(Landeplatz() / "gebaeude" / "401.gif"), Bild(Qt::green)) << "not reached";
-    EXPECT_TRUE(Finde<QRadioButton>("Opt_Web").isChecked());
-
-    m_boxen.Antworten = {{frage, false}};
-    const QColor labor = Farbe("imgFolab");
-    Druecke("Cmd_ApplySkin");
-    EXPECT_EQ(m_netz.Adressen.size(), 7U + 24U);
-    EXPECT_EQ(Farbe("ImgMetMine"), QColor(5, 0, 0));
-    EXPECT_EQ(Farbe("imgFolab"), labor) << "keeps what it showed";
-
-    // Nothing makes the landing folder.
-    fs::remove_all(Landeplatz());
-    m_boxen.Texte.clear();
+    m_boxen.Antwort = false;
     Druecke("Cmd_ApplySkin");
     EXPECT_EQ(m_boxen.Texte.size(), 1U + 24U);
+    EXPECT_EQ(m_boxen.Koepfe.front(),
+              std::pair(std::string("Fortsetzen..."), Meldungssymbol::Hinweis));
+    EXPECT_EQ(m_boxen.Koepfe.back(),
+              std::pair(std::string("Download-Fehler..."), Meldungssymbol::Warnung));
 }
 
 // The close of the window ends a fetch, and nothing more is asked or shown.

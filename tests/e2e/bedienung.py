@@ -1,7 +1,12 @@
-"""A player at the window: finds controls as a screen reader does, moves mouse and keys for real."""
+"""A player at the window: finds controls as a screen reader does, moves mouse and keys for real, and
+hears what is played."""
+import array
+import collections
 import os
+import select
 import shutil
 import subprocess
+import threading
 import time
 
 import gi
@@ -32,6 +37,13 @@ def xdotool(*worte):
     subprocess.run(["xdotool", *map(str, worte)], check=True)
 
 
+def fensternummer(titel):
+    """None where no window has this title, or one goes in the middle of the search."""
+    suche = ["xdotool", "search", "--onlyvisible", "--name", titel]
+    gefunden = subprocess.run(suche, capture_output=True, text=True, check=False).stdout.split()
+    return gefunden[-1] if gefunden else None
+
+
 def baum(knoten):
     yield knoten
     for i in range(knoten.get_child_count()):
@@ -40,28 +52,44 @@ def baum(knoten):
             yield from baum(kind)
 
 
+STARTERPLAN = os.path.join(os.path.dirname(__file__), "..", "..", "data", "saves", "basic.tvf")
+
+Box = collections.namedtuple("Box", "titel text knoepfe")
+
+
+def kopiere(bin_ordner, ordner):
+    """The program's folder as nobody has used it, without a starter plan."""
+    shutil.copytree(bin_ordner, ordner,
+                    ignore=shutil.ignore_patterns("config.cfg", "*.tvf", "*bench"))
+
+
+def ist(knoten, zustand):
+    return knoten.get_state_set().contains(zustand)
+
+
 class Programm:
     """The program in a copy of its folder, from its start to its end."""
 
-    def __init__(self, bin_ordner, ordner):
-        """`ordner` becomes the program's folder, without a starter plan, unless it is one already."""
+    def __init__(self, bin_ordner, ordner, umgebung=None, fehlerstrom=None):
+        """`ordner` becomes the program's folder, unless it is one already."""
         if not os.path.exists(ordner):
-            shutil.copytree(bin_ordner, ordner,
-                            ignore=shutil.ignore_patterns("config.cfg", "*.tvf", "*bench"))
+            kopiere(bin_ordner, ordner)
         self.ordner = ordner
-        self._starte(ordner)
+        self._starte(ordner, umgebung or {}, fehlerstrom)
 
-    def _starte(self, bin_ordner, **umgebung):
-        self.prozess = subprocess.Popen([os.path.join(bin_ordner, "tarvelin")],
-                                        env={**os.environ, "LC_ALL": "C.UTF-8", **umgebung})
+    def _starte(self, bin_ordner, umgebung, fehlerstrom=None):
+        self.prozess = subprocess.Popen(
+            [os.path.join(bin_ordner, "tarvelin")], stderr=fehlerstrom,
+            env={**os.environ, "LC_ALL": "C.UTF-8", **umgebung})
         self.fenster = warte(self._fenster, "the window")
-        self.nummer = subprocess.check_output(
-            ["xdotool", "search", "--sync", "--onlyvisible", "--name", "Kelva Aufbau"],
-            text=True).split()[-1]
-        # A box in front of it would let nobody wait for this.
+        self.nummer = warte(lambda: self._fenster() and fensternummer("Kelva Aufbau"), "its number")
+        # A box that asks at the start is active in the window's place.
         xdotool("windowactivate", self.nummer)
+        warte(lambda: any(ist(k, Atspi.StateType.ACTIVE) for k in self.oberste()), "activation")
 
     def _fenster(self):
+        if self.prozess.poll() is not None:
+            raise Fehler(f"the program ended at its start with {self.prozess.returncode}")
         tisch = Atspi.get_desktop(0)
         for i in range(tisch.get_child_count()):
             programm = tisch.get_child_at_index(i)
@@ -69,16 +97,30 @@ class Programm:
                 return programm.get_child_at_index(0)
         return None
 
+    def oberste(self):
+        """Windows, boxes and dialogs of the program that are open."""
+        programm = self.fenster.get_application()
+        kinder = [programm.get_child_at_index(i) for i in range(programm.get_child_count())]
+        return [k for k in kinder if k and ist(k, Atspi.StateType.SHOWING)]
+
+    @staticmethod
+    def lies_box(alert):
+        knoten = list(baum(alert))
+        texte = [k.get_name() for k in knoten if k.get_role_name() == "label"]
+        # A box without an icon has an empty label in its place.
+        return Box(alert.get_name(), "\n".join(filter(None, texte)),
+                   {k.get_name(): k for k in knoten if k.get_role_name() == "push button"})
+
+    def boxen(self):
+        """The message boxes that are open."""
+        return [self.lies_box(k) for k in self.oberste() if k.get_role_name() == "alert"]
+
     def antworte(self, frage, knopf):
-        """Presses a button of the box that asks this question."""
-        def box():
-            programm = self.fenster.get_application()
-            for i in range(programm.get_child_count()):
-                knoten = list(baum(programm.get_child_at_index(i)))
-                if any(k.get_name() == frage for k in knoten):
-                    return [k for k in knoten if k.get_name() == knopf]
-            return None
-        xdotool("mousemove", *self.mitte(warte(box, frage)[0]), "click", 1)
+        """Presses a button of the box that asks this question, which then goes. Its title."""
+        box = warte(lambda: [b for b in self.boxen() if b.text == frage], frage)[0]
+        xdotool("mousemove", *self.mitte(box.knoepfe[knopf]), "click", 1)
+        warte(lambda: not any(b.text == frage for b in self.boxen()), f"end of {frage!r}")
+        return box.titel
 
     def finde(self, rolle, name, nummer=0):
         """The control of a role and name; among several the one of this number."""
@@ -123,11 +165,17 @@ class Programm:
                   for i in range(spalten, baumknoten.get_child_count())]
         return [zellen[i:i + spalten] for i in range(0, len(zellen), spalten)]
 
+    def farben(self):
+        """The colour in the middle of each picture on the screen, by the picture's name."""
+        punkte = subprocess.check_output(["import", "-window", "root", "-depth", "8", "rgb:-"])
+        breite = int(subprocess.check_output(["xdotool", "getdisplaygeometry"]).split()[0])
+        orte = {k.get_name(): self.mitte(k) for k in baum(self.fenster)
+                if k.get_role_name() == "image"}
+        return {name: punkte[3 * (y * breite + x):][:3] for name, (x, y) in orte.items()}
+
     def aufnahme(self, datei, titel=None):
         """A picture of the main window, or of the window with this title."""
-        nummer = self.nummer if titel is None else subprocess.check_output(
-            ["xdotool", "search", "--sync", "--onlyvisible", "--name", titel],
-            text=True).split()[-1]
+        nummer = self.nummer if titel is None else warte(lambda: fensternummer(titel), titel)
         subprocess.run(["import", "-window", nummer, "+dither", "-colors", "256", "-strip",
                         f"PNG8:{datei}"], check=True)
 
@@ -142,4 +190,43 @@ class Installiertes(Programm):
 
     def __init__(self, bin_ordner, heim):
         self.ordner = os.path.join(heim, ".local", "share", "Tarvelin")
-        self._starte(bin_ordner, HOME=heim)
+        self._starte(bin_ordner, {"HOME": heim})
+
+
+class Ohr:
+    """Listens to the sound card without loudspeakers."""
+
+    LAUT = 1000
+
+    def __init__(self):
+        self.laut_um = []
+        self.prozess = subprocess.Popen(
+            ["parec", "-d", "stumm.monitor", "--latency-msec=20", "--format=s16le", "--rate=8000",
+             "--channels=1"], stdout=subprocess.PIPE)
+        threading.Thread(target=self._hoere, daemon=True).start()
+
+    def _hoere(self):
+        while stueck := self.prozess.stdout.read(400):
+            werte = array.array("h", stueck)
+            if (sum(w * w for w in werte) / len(werte)) ** 0.5 > self.LAUT:
+                self.laut_um.append(time.time())
+
+    def schliesse(self):
+        self.prozess.terminate()
+        self.prozess.wait()
+
+
+class Haende:
+    """Mouse and keys by one process that lasts, for many actions."""
+
+    def __init__(self):
+        self.prozess = subprocess.Popen(["xdotool", "-"], stdin=subprocess.PIPE,
+                                        stdout=subprocess.PIPE, text=True)
+
+    def tu(self, worte):
+        """Returns when it is done, which an answer behind it tells."""
+        self.prozess.stdin.write(f"{worte}\ngetdisplaygeometry\n")
+        self.prozess.stdin.flush()
+        if not select.select([self.prozess.stdout], [], [], 30)[0]:
+            raise Fehler(f"{worte}: not done within 30 s")
+        self.prozess.stdout.readline()

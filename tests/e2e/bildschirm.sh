@@ -1,12 +1,18 @@
 #!/usr/bin/env bash
-# Runs a command on a virtual screen with a window manager and the bus of the screen readers.
+# Runs a command on a virtual screen with a window manager, the bus of the screen readers and a sound
+# card without loudspeakers.
 # SKALIERUNG=2 doubles the program's pixels.
 set -euo pipefail
 export XDG_RUNTIME_DIR
 XDG_RUNTIME_DIR=$(mktemp -d)
 chmod 0700 "$XDG_RUNTIME_DIR"
-trap 'rm -rf "$XDG_RUNTIME_DIR"' EXIT
+trap 'pulseaudio -k || true; rm -rf "$XDG_RUNTIME_DIR"' EXIT
 export QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_SCALE_FACTOR=${SKALIERUNG:-1}
 # The bus library of the accessibility bridge keeps its connection until the end.
-export LSAN_OPTIONS="suppressions=$(cd "$(dirname "$0")" && pwd)/lsan.supp:print_suppressions=0"
-xvfb-run -a -s "-screen 0 1920x1080x24" dbus-run-session -- bash -c 'openbox & "$@"' bash "$@"
+ordner=$(cd "$(dirname "$0")" && pwd)
+export LSAN_OPTIONS="suppressions=$ordner/lsan.supp:print_suppressions=0"
+# -D waits until it can be spoken to.
+env HOME="$XDG_RUNTIME_DIR" pulseaudio -n -D --exit-idle-time=-1 --disable-shm --log-level=error \
+    -L "module-null-sink sink_name=stumm" -L "module-native-protocol-unix auth-anonymous=1"
+xvfb-run -a -s "-screen 0 1920x1080x24" dbus-run-session -- \
+    bash -c 'openbox --config-file "$0" & "$@"' "$ordner/openbox.xml" "$@"
