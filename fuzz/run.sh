@@ -15,23 +15,18 @@ ziele=("${@:2}")
 [ ${#ziele[@]} -gt 0 ] || ziele=(Plan Profil Texte)
 baue "$ordner" fuzz tarvelin-fuzz-plan tarvelin-fuzz-profil tarvelin-fuzz-texte
 
-# saat TARGET FOLDER: plans of the tests in the form of the target.
-saat() {
-    local plan
-    mkdir -p "$2"
-    for plan in tests/data/golden/*.tvf data/saves/*.tvf; do
-        case $1 in
-            Plan) cp "$plan" "$2" ;;
-            Profil) { printf 'Bauliste\x1fItem_001\x1fGM\x1f' && cat "$plan"; } >"$2/${plan##*/}" ;;
-            Texte) ;; # its kept inputs are seed enough
-        esac
-    done
-}
+# Plans of the tests in the form of the targets.
+saat=build/fuzz/saat
+mkdir -p "$saat"/{Plan,Profil}
+cp -r fuzz/saat/Texte "$saat"
+cp tests/data/golden/*.tvf data/saves/*.tvf "$saat/Plan"
+for plan in "$saat"/Plan/*; do
+    { printf 'Bauliste\x1fItem_001\x1fGM\x1f' && cat "$plan"; } >"$saat/Profil/${plan##*/}"
+done
 
 for ziel in "${ziele[@]}"; do
     programm=build/fuzz/fuzz/tarvelin-fuzz-${ziel,,}
     funde=build/fuzz/korpus/$ziel
-    saat "$ziel" "build/fuzz/saat/$ziel"
     mkdir -p "$funde"
     if [ "$sekunden" = --merge ]; then
         neu=$(mktemp -d)
@@ -41,7 +36,7 @@ for ziel in "${ziele[@]}"; do
         chmod 0755 "fuzz/korpus/$ziel"
     else
         echo "== $ziel, $sekunden s"
-        "$programm" "$funde" "fuzz/korpus/$ziel" "build/fuzz/saat/$ziel" -dict=fuzz/woerter.dict \
+        "$programm" "$funde" "fuzz/korpus/$ziel" "$saat/$ziel" -dict=fuzz/woerter.dict \
             -max_len=3000 -max_total_time="$sekunden" -print_final_stats=1 \
             -artifact_prefix="build/fuzz/$ziel-"
     fi

@@ -22,6 +22,8 @@ class Stoersystem : public Dateisystem {
         m_zaehler = 0;
     }
     [[nodiscard]] bool HatGestoert() const { return m_zaehler >= m_n; }
+    /// The name of the call that failed first.
+    [[nodiscard]] std::string_view Gestoert() const { return m_gestoert; }
 
     [[nodiscard]] std::optional<Art> Sieh(const std::filesystem::path& pfad) const override {
         return Stoert("Sieh") ? std::nullopt : Platte().Sieh(pfad);

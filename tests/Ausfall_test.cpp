@@ -29,6 +29,7 @@ class Ausfall : public testing::TestWithParam<Ausfallart> {
             SchreibeDatei(m_ordner / "config.cfg", kAlt);
             const Stoersystem system(n, GetParam());
             tat(system);
+            m_aufrufe += std::string(system.Gestoert()) + " ";
             gestoert = system.HatGestoert();
             blick();
             if (!BleibtLiegen(GetParam())) {
@@ -42,6 +43,8 @@ class Ausfall : public testing::TestWithParam<Ausfallart> {
     }
 
     const Ordner m_ordner;
+    /// Calls in their order.
+    std::string m_aufrufe;
     const Plan m_plan = PlanAus("GM GS GX:8:10:5 GK");
 };
 
@@ -59,6 +62,10 @@ TEST_P(Ausfall, PlanIstDerAlteOderDerNeue) {
         });
     EXPECT_TRUE(gespeichert);
     EXPECT_GE(ausfaelle, 14);
+    // The bytes lie on the disk before they get the name.
+    EXPECT_TRUE(
+        m_aufrufe.ends_with(" Schreibe BringAufPlatte Schliesse BenenneUm BringOrdnerAufPlatte  "))
+        << m_aufrufe;
 }
 
 TEST_P(Ausfall, KonfigurationStehtVorOderNachEinemKey) {
