@@ -21,6 +21,16 @@ QString AlsQString(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+QString Pfadtext(const std::filesystem::path& pfad) {
+    const std::u8string utf8 = pfad.u8string();
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+std::filesystem::path AlsPfad(const QString& pfad) {
+    const QByteArray utf8 = pfad.toUtf8();
+    return std::u8string(utf8.begin(), utf8.end());
+}
+
 void SetzeHinweis(QWidget& widget, const QString& text) {
     if (widget.toolTip() == text) {
         return;

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QString>
+#include <filesystem>
 #include <string_view>
 #include <vector>
 
@@ -20,6 +21,10 @@ constexpr int Pixel(int twips) {
 
 /// The text of the core, UTF-8, as the toolkit has it.
 [[nodiscard]] QString AlsQString(std::string_view text);
+
+/// Paths go to the toolkit and back by their UTF-8, on every platform.
+[[nodiscard]] QString Pfadtext(const std::filesystem::path& pfad);
+[[nodiscard]] std::filesystem::path AlsPfad(const QString& pfad);
 
 /// Gives a widget its hint. A hint that stands on the screen while the pointer is over the widget
 /// changes at once, where the toolkit alone would wait until the pointer rests.

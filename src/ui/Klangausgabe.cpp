@@ -26,7 +26,7 @@ void Klangausgabe::Spiele(const std::filesystem::path& datei) {
         QApplication::beep();
         return;
     }
-    m_effekt->setSource(QUrl::fromLocalFile(AlsQString(datei.native())));
+    m_effekt->setSource(QUrl::fromLocalFile(Pfadtext(datei)));
     m_effekt->play();
 }
 

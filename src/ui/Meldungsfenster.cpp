@@ -97,11 +97,11 @@ std::filesystem::path Meldungsfenster::FragNachDatei(Zweck zweck,
     dialog.setNameFilter(QStringLiteral("(*.tvf) Tarvelin Save-Files (*.tvf)"));
     constexpr QSize kGroesse(720, 420);
     dialog.resize(kGroesse);
-    dialog.setDirectory(AlsQString(ordner.native()));
+    dialog.setDirectory(Pfadtext(ordner));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};
     }
-    return dialog.selectedFiles().constFirst().toStdString();
+    return AlsPfad(dialog.selectedFiles().constFirst());
 }
 
 }  // namespace tarvelin

@@ -12,10 +12,6 @@ namespace tarvelin {
 
 namespace {
 
-QString AlsQString(const std::filesystem::path& datei) {
-    return tarvelin::AlsQString(datei.native());
-}
-
 /// A pointer picture of 32 pixels, drawn for the screen's scale.
 QPixmap LadeZeiger(const std::filesystem::path& datei, qreal skalierung) {
     constexpr int kSeite = 32;
@@ -25,11 +21,11 @@ QPixmap LadeZeiger(const std::filesystem::path& datei, qreal skalierung) {
 }  // namespace
 
 QPixmap LadePixmap(const std::filesystem::path& datei) {
-    return {AlsQString(datei)};
+    return {Pfadtext(datei)};
 }
 
 QIcon LadeSymbol(const std::filesystem::path& datei) {
-    return QIcon(AlsQString(datei));
+    return QIcon(Pfadtext(datei));
 }
 
 Ziehzeiger LadeZiehzeiger(const std::filesystem::path& bilder, qreal skalierung) {

@@ -7,6 +7,7 @@
 
 #include "persistence/Programmordner.h"
 #include "ui/Aussehen.h"
+#include "ui/Bauteile.h"
 #include "ui/Klangausgabe.h"
 #include "ui/Meldungsfenster.h"
 #include "ui/Netzabruf.h"
@@ -29,7 +30,7 @@ void OeffneSeite(const std::string& adresse) {
 }
 
 std::filesystem::path Nutzerordner() {
-    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
+    return tarvelin::AlsPfad(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
 }
 
 }  // namespace
@@ -49,7 +50,7 @@ int main(int argc, char** argv) {
         .Jetzt = Ortszeit,
         .OeffneSeite = OeffneSeite,
         .Programmordner = tarvelin::BestimmeProgrammordner(
-            QApplication::applicationDirPath().toStdString(), Nutzerordner())};
+            tarvelin::AlsPfad(QApplication::applicationDirPath()), Nutzerordner())};
     tarvelin::frmMain fenster(umgebung);
     fenster.Form_Load();
     return QApplication::exec();
