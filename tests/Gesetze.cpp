@@ -313,8 +313,21 @@ Befund PruefeBuchhaltung(const Plan& plan) {
     return Buchhaltung(plan, gelaufener.Ergebnis, gelaufener.Meldungen.Schulden).Pruefe();
 }
 
+Befund PruefeWiederholung(const Plan& plan) {
+    std::ostringstream strom;
+    Planlauf lauf("plan.tvf", Profil(Bytes(plan)), strom);
+    const std::string einmal = JsonText(lauf);
+    Schuldenzaehler meldungen;
+    if (lauf.Gelaufen) {
+        RunSimulation(lauf.Plan, lauf.Lauf, meldungen, true);
+        lauf.Texte.NachLauf(lauf.Lauf.Planet.Globale);
+    }
+    return JsonText(lauf) == einmal ? "" : "a second run has another result";
+}
+
 Befund PruefeGesetze(const Plan& plan) {
-    for (const auto gesetz : {PruefeSpeichern, PruefeUndo, PruefeZeitsprung, PruefeBuchhaltung}) {
+    for (const auto gesetz :
+         {PruefeSpeichern, PruefeUndo, PruefeZeitsprung, PruefeBuchhaltung, PruefeWiederholung}) {
         if (Befund befund = gesetz(plan); !befund.empty()) {
             return befund;
         }

@@ -33,6 +33,9 @@ using Befund = std::string;
 /// and to an order that starts in debt without any source of deuterium.
 [[nodiscard]] Befund PruefeBuchhaltung(const Plan& plan);
 
+/// The same run once more, on the planet that the first one left, gives the same.
+[[nodiscard]] Befund PruefeWiederholung(const Plan& plan);
+
 /// All of them.
 [[nodiscard]] Befund PruefeGesetze(const Plan& plan);
 

@@ -48,52 +48,6 @@ TEST(Lauf, DerErsteAuftragUndSeineErgebnistexte) {
               "Samstag 18.11.2006 12:30:05 | Keine Verzögerung wegen der Ressourcen!");
 }
 
-TEST(Lauf, EineSchlangeReihtMitZweiPuffernUndEinerSekunde) {
-    for (const int k : {0, 1, 5, 600}) {
-        const Probe probe(MitPuffer("GS GM GK", k));
-        const Long bauzeiten = 151 + 108 + 104;  // 151.2, 108 and 103.68 seconds
-        EXPECT_NEAR(probe.Uhr(), bauzeiten + 2 * (2 * k + 1) + k, 1) << k;
-        EXPECT_EQ(probe.Start(1) - probe.Start(0), 152 + 2 * k) << k;
-    }
-}
-
-TEST(Lauf, SchlangenLaufenNebeneinanderInListenreihenfolge) {
-    // The launcher waits for the shipyard, the mine behind it waits for the launcher's start.
-    Plan plan = MitPuffer("GW WR GM", 0);
-    const Probe probe(plan);
-    EXPECT_GE(probe.Start(1), 864);
-    EXPECT_GE(probe.Start(2), probe.Start(1));
-    EXPECT_EQ(probe.Globale().Stufe(ItemId::Rakws), 1);
-}
-
-TEST(Lauf, ProduktionszeilenWirkenAbIhremStart) {
-    const Probe probe(MitPuffer("GX:8:10:5 GM GX:0:10:10", 0));
-    EXPECT_EQ(probe.Gelaufen.LV_Bauzeiten[0].theText(), "80% 100% 50%");
-    EXPECT_EQ(probe.Gelaufen.LV_Bauzeiten[0].Tag(), "Samstag 18.11.2006 12:30:00");
-    EXPECT_EQ(probe.Start(2), 109);  // waits for the building queue, but occupies it not
-    EXPECT_EQ(probe.Globale().EnergieVerbrauch, 0);
-    EXPECT_EQ(probe.Globale().GebaeudeFertigZeit, Moment(109));
-}
-
-TEST(Lauf, AnlagenStartenWennIhreSchlangeFreiFaellt) {
-    Plan plan = MitPuffer("GS GD GF FS GF", 0);
-    const Probe probe(plan);
-    EXPECT_GE(probe.Start(4), probe.Start(3) + 4317);  // 4315.68 s of research and one more
-    EXPECT_LT(probe.Start(4), 100'000'000);
-    EXPECT_EQ(probe.Gelaufen.LV_Bauzeiten[4].Grund().Text(), "");
-}
-
-TEST(Lauf, SchlafHaeltNurDenStartAuf) {
-    Plan plan = MitPuffer("GM GM GM GM GM", 5);
-    const Probe wach(plan);
-    const Long fuenfte = wach.Start(4) - 5;
-    const Zeitpunkt start = wach.Globale().StartDate;
-    const auto text = [&](Long s) { return Datumzeittext(start + s); };
-    plan.Schlafzeiten = {{"31.11.2006 22:00", "x"}, {text(fuenfte - 60), text(fuenfte + 600)}};
-    EXPECT_EQ(Probe(plan).Start(4), fuenfte + 600 + 5);
-    EXPECT_EQ(Probe(plan).Start(3), wach.Start(3));
-}
-
 TEST(Lauf, EingabenWerdenDerReiheNachGeprueft) {
     struct Fall {
         const char* codes;
