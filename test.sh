@@ -32,9 +32,10 @@ pruefe_mit_werkzeugen() {
     echo "== clang-tidy"
     run-clang-tidy -p build/clang -quiet '/(src|bench|fuzz)/[^/]*/?[^/]*\.cpp$'
     echo "== cppcheck"
-    # Macros of the tests look to it like comparisons of a value with itself.
-    cppcheck --enable=warning,style,performance,portability --error-exitcode=1 --quiet \
-        --std=c++20 --library=qt --inline-suppr -I src -I tests -j "$(nproc)" src bench fuzz
+    # It doesn't see the use of a member in an aggregate.
+    cppcheck --enable=warning,style,performance,portability --suppress=unusedStructMember \
+        --error-exitcode=1 --quiet --std=c++20 --library=qt --inline-suppr -I src -I tests \
+        -j "$(nproc)" src bench fuzz
 }
 
 miss_abdeckung() {

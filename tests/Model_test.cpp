@@ -183,8 +183,11 @@ TEST(Gates, HaltenAnlagenUndIhreSchlangenAuseinander) {
     planet.Setze(ItemId::SKW, 1);
     EXPECT_EQ(planet.Robo.GetTimeUntilUpgradeIsPossible(), 1'000'000'000);
     EXPECT_EQ(planet.Folab.GetTimeUntilUpgradeIsPossible(), 100'000'000);
-    planet.Globale.DeuteriumProStunde = Festkomma::AusGanzzahl(5);
-    EXPECT_EQ(planet.Robo.GetTimeUntilUpgradeIsPossible(), 0);
+    // Hot planets lose deuterium; that is production too.
+    for (const int jeStunde : {-5, 5}) {
+        planet.Globale.DeuteriumProStunde = Festkomma::AusGanzzahl(jeStunde);
+        EXPECT_EQ(planet.Robo.GetTimeUntilUpgradeIsPossible(), 0);
+    }
     planet.Globale.WerftFertigZeit = planet.Globale.ForschungFertigZeit = Moment(100);
     planet.Globale.secsgone = Moment(99);
     EXPECT_EQ(planet.Werft.GetTimeUntilUpgradeIsPossible(), 100'000'000);
