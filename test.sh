@@ -30,7 +30,7 @@ pruefe_mit_werkzeugen() {
     echo "== clang++"
     baue "$ordner" clang
     echo "== clang-tidy"
-    run-clang-tidy -p build/clang -quiet '/(src|bench|fuzz)/[^/]*/?[^/]*\.cpp$'
+    run-clang-tidy -p build/clang -quiet "^$ordner/(src|bench|fuzz)/"
     echo "== cppcheck"
     # It doesn't see the use of a member in an aggregate.
     cppcheck --enable=warning,style,performance,portability --suppress=unusedStructMember \

@@ -83,6 +83,17 @@ TEST(Lauf, EingabenWerdenDerReiheNachGeprueft) {
     EXPECT_EQ(lauf.Planet.Globale.Speedfaktor, 2);
 }
 
+TEST(Lauf, SchuldenJedesRohstoffsWerdenGemeldet) {
+    const std::string vorn = "Negative Ressourcen: Metall: ";
+    for (const auto& [code, schulden] :
+         {std::pair("WR", "-1500    Kristall:500    Deuterium: 0"),
+          std::pair("WSS", "500    Kristall:-500    Deuterium: 0"),
+          std::pair("GW", "100    Kristall:300    Deuterium: -100")}) {
+        EXPECT_EQ(Probe(MitPuffer(code, 0)).Meldungen.Texte,
+                  std::vector<std::string>{vorn + schulden});
+    }
+}
+
 TEST(Lauf, UnbekannteAuftraegeFallenWeg) {
     const Probe probe(MitPuffer("GM Quatsch WZZ GK", 0));
     EXPECT_EQ(probe.Gelaufen.LV_Bauzeiten.size(), 2U);

@@ -19,27 +19,6 @@ struct Planet : Startplanet {
     }
 };
 
-TEST(Items, StartNimmtDenPreisUndErstDerFinishHebtDieStufe) {
-    for (const ItemZeile& zeile : ItemTabelle()) {
-        SCOPED_TRACE(zeile.Code);
-        Planet planet;
-        cItem& item = planet.Item(zeile.Item);
-        planet.Setze(zeile.Item, 2);
-        planet.Globale.VerbauteRessourcen = 0;
-        const Kosten preis = item.GetKosten(2);
-        EXPECT_EQ(item.GetKosten(cItem::kEigeneStufe), preis);
-        Bauzeiten bauzeiten;
-        item.UpgradeStart(&bauzeiten);
-        EXPECT_EQ(bauzeiten.at(0).theText().ends_with(": 3"), zeile.Code != "WKSK");
-        EXPECT_EQ(planet.Globale.VerbauteRessourcen,
-                  preis.Metall + preis.Kristall + preis.Deuterium);
-        EXPECT_EQ(planet.Globale.Deuterium.GanzerTeil(), 1'000'000 - preis.Deuterium);
-        EXPECT_EQ(item.GetStufe(), 2);
-        item.UpgradeFinished();
-        EXPECT_EQ(item.GetStufe(), 3);
-    }
-}
-
 TEST(Items, BauzeitenFolgenFabrikLaborUndTempo) {
     Planet planet;
     EXPECT_EQ(planet.MetMine.GetUpgradeTime(), 108);
@@ -76,24 +55,6 @@ TEST(Minen, EigeneStufeUndStufeVonAussenGebenDasselbe) {
     EXPECT_EQ(planet.MetMine.GetProduktion(200).GanzerTeil(), 40);
 }
 
-TEST(Minen, PasstimeRundetJedenAufruf) {
-    Planet planet;
-    planet.Setze(ItemId::MetMine, 1);
-    planet.Globale.ProdFaktor = Festkomma::AusGanzzahl(1);
-    planet.MetMine.RefreshProduktion();
-    const auto gewinn = [&](int aufrufe, Long sekunden) {
-        planet.Globale.Metall = Festkomma();
-        for (int i = 0; i < aufrufe; ++i) {
-            planet.MetMine.Passtime(sekunden);
-        }
-        return planet.Globale.Metall.Rohwert();
-    };
-    EXPECT_EQ(gewinn(1, 60), 8833);
-    EXPECT_EQ(gewinn(60, 1), 8820);
-    EXPECT_EQ(gewinn(1, -60), -8833);
-    EXPECT_EQ(gewinn(2, 3600), 1'060'000);  // a jump equals a walk where nothing is rounded
-}
-
 TEST(Energiebilanz, TeiltAngebotDurchBedarf) {
     Planet planet(-76);
     planet.EnergieBilanz();
@@ -107,7 +68,12 @@ TEST(Energiebilanz, TeiltAngebotDurchBedarf) {
     planet.DeutMine.SetProdfaktor(0.0F);
     planet.EnergieBilanz();
     EXPECT_EQ(VierStellenText(planet.Globale.ProdFaktor), "1.0000");
+    // A need of one unit is one.
+    planet.MetMine.SetProdfaktor(0.1F);
     planet.Setze(ItemId::SKW, 0);
+    planet.EnergieBilanz();
+    EXPECT_EQ(VierStellenText(planet.Globale.ProdFaktor), "0.0000");
+    planet.MetMine.SetProdfaktor(1.0F);
     planet.Setze(ItemId::Solsats, 1);
     planet.EnergieBilanz();
     EXPECT_EQ(VierStellenText(planet.Globale.ProdFaktor), "0.0909");
