@@ -43,8 +43,8 @@ miss_abdeckung() {
     baue "$ordner" coverage
     find build/coverage -name '*.gcda' -delete
     ctest --preset coverage -j "$(nproc)" -LE Bildschirm
-    gcovr --root . --object-directory build/coverage --exclude-throw-branches \
-        --filter 'src/(util|model|plan|simulation|persistence|console)/'
+    gcovr --root . --filter 'src/(util|model|plan|simulation|persistence|console)/' \
+        --exclude-directories '.*/CMakeFiles/[0-9.]*' build/coverage
 }
 
 teste_fuer_windows() {

@@ -14,6 +14,7 @@ import os
 import random
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -333,5 +334,11 @@ def main(programme, seed, aktionen):
 
 
 if __name__ == "__main__":
+    if sys.argv[-1] != "--selbst":
+        # The library that reads the screen can crash when a program goes while it reads: then, and
+        # only then, once more.
+        befehl = [sys.executable, *sys.argv, "--selbst"]
+        ende = subprocess.call(befehl)
+        sys.exit(subprocess.call(befehl) if ende == -signal.SIGSEGV else ende)
     heute = datetime.date.today().toordinal()
     main(sys.argv[1], heute if sys.argv[2] == "heute" else int(sys.argv[2]), int(sys.argv[3]))
