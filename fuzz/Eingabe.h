@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t lae
 namespace tarvelin {
 
 /// Ends the program with a word on what didn't hold; the fuzzer keeps the input.
-inline void Verlange(bool haelt, std::string_view gesetz, std::string_view ist = {}) {
+inline void Verlange(bool haelt, std::string_view gesetz, std::string_view ist = "") {
     if (!haelt) {
         std::fprintf(stderr, "BROKEN: %.*s: \"%.*s\"\n", static_cast<int>(gesetz.size()),
                      gesetz.data(), static_cast<int>(ist.size()), ist.data());

@@ -82,7 +82,9 @@ void SprichDeutsch(CLI::App& app) {
 /// As the library wants them: without the program's name, from the last to the first. It takes a
 /// name in square brackets for a list; with its folder in front it is a name.
 std::vector<std::string> FuerBibliothek(std::vector<std::string> argumente) {
-    argumente.erase(argumente.begin(), argumente.begin() + (argumente.empty() ? 0 : 1));
+    if (!argumente.empty()) {
+        argumente.erase(argumente.begin());
+    }
     for (std::string& argument : argumente) {
         argument.insert(0, argument.starts_with('[') ? "./" : "");
     }

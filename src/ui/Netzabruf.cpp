@@ -105,6 +105,8 @@ std::optional<std::string> Netzabruf::Hole(const std::string& adresse) {
 
 Netzabruf::Antwort Netzabruf::Frage(const QUrl& url, const QDeadlineTimer& frist) {
     const std::unique_ptr<QNetworkReply> antwort(m_netz.get(Anfrage(url)));
+    // A pointer that forgets the answer when it goes.
+    // cppcheck-suppress danglingLifetime
     m_antwort = antwort.get();
     std::string bytes;
     QObject::connect(antwort.get(), &QNetworkReply::readyRead, antwort.get(), [&] {
