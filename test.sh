@@ -42,8 +42,9 @@ miss_abdeckung() {
     baue "$ordner" coverage
     find build/coverage -name '*.gcda' -delete
     ctest --preset coverage -j "$(nproc)" -LE Bildschirm
-    gcovr --root . --filter 'src/(util|model|plan|simulation|persistence|console)/' \
-        --exclude-directories '.*/CMakeFiles/[0-9.]*' build/coverage
+    gcovr --root . --gcov-ignore-parse-errors \
+        --filter 'src/(util|model|plan|simulation|persistence|console)/' \
+        --exclude-directories '.*/CMakeFiles/[0-9]+[.].*' build/coverage
 }
 
 teste_fuer_windows() {
