@@ -2,8 +2,28 @@
 #include "persistence/Dateisystem.h"
 
 #include <array>
+#include <system_error>
+#include <utility>
 
 namespace tarvelin {
+
+std::optional<std::filesystem::path> Dateisystem::LoeseAuf(
+    const std::filesystem::path& pfad) const {
+    std::error_code fehler;
+    auto ziel = std::filesystem::weakly_canonical(std::filesystem::absolute(pfad, fehler), fehler);
+    return fehler ? std::nullopt : std::optional(std::move(ziel));
+}
+
+std::vector<std::filesystem::path> Dateisystem::Eintraege(
+    const std::filesystem::path& ordner) const {
+    std::vector<std::filesystem::path> eintraege;
+    std::error_code fehler;
+    for (std::filesystem::directory_iterator eintrag(ordner, fehler), ende;
+         !fehler && eintrag != ende; eintrag.increment(fehler)) {
+        eintraege.push_back(eintrag->path());
+    }
+    return eintraege;
+}
 
 std::optional<std::string> LiesDatei(const std::filesystem::path& datei, std::size_t hoechstens,
                                      const Dateisystem& system) {

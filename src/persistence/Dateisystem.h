@@ -28,11 +28,11 @@ class Dateisystem {
     [[nodiscard]] virtual std::optional<Art> Sieh(const std::filesystem::path& pfad) const = 0;
     /// The absolute path without links, as far as it exists.
     [[nodiscard]] virtual std::optional<std::filesystem::path> LoeseAuf(
-        const std::filesystem::path& pfad) const = 0;
+        const std::filesystem::path& pfad) const;
     /// Whether this user can write a file, or make files in a folder.
     [[nodiscard]] virtual bool IstBeschreibbar(const std::filesystem::path& pfad) const = 0;
     [[nodiscard]] virtual std::vector<std::filesystem::path> Eintraege(
-        const std::filesystem::path& ordner) const = 0;
+        const std::filesystem::path& ordner) const;
 
     /// Opens a file for reading.
     [[nodiscard]] virtual int Oeffne(const std::filesystem::path& datei) const = 0;

@@ -5,7 +5,6 @@
 
 #include <cerrno>
 #include <csignal>
-#include <system_error>
 
 #include "persistence/Dateisystem.h"
 
@@ -34,23 +33,9 @@ class Posix final : public Dateisystem {
         }
         return S_ISREG(status.st_mode) ? Art::Datei : Art::Anderes;
     }
-    [[nodiscard]] std::optional<fs::path> LoeseAuf(const fs::path& pfad) const override {
-        std::error_code fehler;
-        auto ziel = fs::weakly_canonical(fs::absolute(pfad, fehler), fehler);
-        return fehler ? std::nullopt : std::optional(std::move(ziel));
-    }
     [[nodiscard]] bool IstBeschreibbar(const fs::path& pfad) const override {
         const bool ordner = Sieh(pfad) == Art::Anderes;
         return ::access(pfad.c_str(), ordner ? W_OK | X_OK : W_OK) == 0;
-    }
-    [[nodiscard]] std::vector<fs::path> Eintraege(const fs::path& ordner) const override {
-        std::vector<fs::path> eintraege;
-        std::error_code fehler;
-        for (fs::directory_iterator eintrag(ordner, fehler), ende; !fehler && eintrag != ende;
-             eintrag.increment(fehler)) {
-            eintraege.push_back(eintrag->path());
-        }
-        return eintraege;
     }
 
     [[nodiscard]] int Oeffne(const fs::path& datei) const override {

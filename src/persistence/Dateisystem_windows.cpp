@@ -34,11 +34,6 @@ class Windows final : public Dateisystem {
                 return Art::Anderes;
         }
     }
-    [[nodiscard]] std::optional<fs::path> LoeseAuf(const fs::path& pfad) const override {
-        std::error_code fehler;
-        auto ziel = fs::weakly_canonical(fs::absolute(pfad, fehler), fehler);
-        return fehler ? std::nullopt : std::optional(std::move(ziel));
-    }
     /// A folder tells only when a file is made in it.
     [[nodiscard]] bool IstBeschreibbar(const fs::path& pfad) const override {
         if (Sieh(pfad) != Art::Anderes) {
@@ -47,15 +42,6 @@ class Windows final : public Dateisystem {
         const fs::path probe = pfad / (".tarvelin-" + std::to_string(Prozess()) + ".tmp");
         const int nummer = LegeAn(probe);
         return nummer >= 0 && Schliesse(nummer) && Loesche(probe);
-    }
-    [[nodiscard]] std::vector<fs::path> Eintraege(const fs::path& ordner) const override {
-        std::vector<fs::path> eintraege;
-        std::error_code fehler;
-        for (fs::directory_iterator eintrag(ordner, fehler), ende; !fehler && eintrag != ende;
-             eintrag.increment(fehler)) {
-            eintraege.push_back(eintrag->path());
-        }
-        return eintraege;
     }
 
     [[nodiscard]] int Oeffne(const fs::path& datei) const override {
