@@ -5,7 +5,8 @@
 
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM",
+                "offscreen:configfile=" TARVELIN_QUELLEN "/tests/data/bildschirm.json");
     }
     testing::InitGoogleTest(&argc, argv);
     QApplication programm(argc, argv);

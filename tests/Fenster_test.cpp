@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QSet>
+#include <QToolTip>
 
 #include "Fensterhilfen.h"
 #include "ui/Bauteile.h"
@@ -29,6 +30,29 @@ TEST_F(Fenster, GruppenStehenNebeneinanderUndFelderDarueber) {
         EXPECT_EQ(Finde(feld).pos(), QPoint(11, 0)) << feld;
     }
     EXPECT_EQ(m_fenster.minimumSize(), m_fenster.maximumSize());
+    EXPECT_EQ(m_fenster.size(), QSize(858, 335));
+    EXPECT_EQ(Finde("Fra_Rest").visibleRegion().boundingRect(), Finde("Fra_Rest").rect());
+}
+
+TEST_F(Fenster, KleinerBildschirmRolltDieFlaeche) {
+    struct Fall {
+        QSize Bildschirm;
+        QSize Fenstergroesse;
+    };
+    for (const auto& [bildschirm, groesse] :
+         {Fall{{858, 335}, {858, 335}}, Fall{{640, 400}, {632, 335}}, Fall{{640, 300}, {632, 264}},
+          Fall{{2000, 320}, {858, 284}}}) {
+        EXPECT_EQ(frmMain::GroesseAuf(bildschirm), groesse) << bildschirm.width();
+    }
+    m_fenster.setFixedSize(frmMain::GroesseAuf({640, 300}));
+    QCoreApplication::processEvents();
+    auto& alarm = Finde("Chk_BauWeckfunktion");
+    EXPECT_TRUE(alarm.visibleRegion().isEmpty());
+    Finde("LV_Bauzeiten").setFocus();
+    QTest::keyClick(&Finde("LV_Bauzeiten"), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &alarm);
+    EXPECT_EQ(alarm.visibleRegion().boundingRect(), alarm.rect())
+        << "what has the focus is in sight";
 }
 
 // Every widget that shows words has room for them, panels and groups in each state.
@@ -63,7 +87,7 @@ TEST_F(Fenster, KeinWortIstAbgeschnitten) {
 TEST_F(Fenster, ListenFassenIhreLaengstenTexte) {
     Plan plan = PlanAus("GX:10:10:10");
     for (const ItemZeile& item : ItemTabelle()) {
-        for (int i = 0; i < 11; ++i) {
+        for (int i = 0; i < 12; ++i) {
             ASSERT_FALSE(plan.Liste.DragDrop(item.Bild, m_fenster.DerLauf().Planet));
         }
     }
@@ -82,12 +106,25 @@ TEST_F(Fenster, ListenFassenIhreLaengstenTexte) {
                 // The style keeps at least one pixel on either side.
                 const int rand =
                     liste.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &liste) + 1;
-                EXPECT_LE(liste.fontMetrics().horizontalAdvance(text) + 2 * rand,
+                // A number and the name behind it stay apart.
+                const int abstand = spalte == 0 && liste.isHeaderHidden() ? 3 : 0;
+                EXPECT_LE(liste.fontMetrics().horizontalAdvance(text) + 2 * rand + abstand,
                           liste.columnWidth(spalte))
                     << name << ": " << text.toStdString();
             }
         }
         EXPECT_EQ(summe, liste.viewport()->width()) << name;
+    }
+    // A head has one line; what it cuts stands in its hint.
+    auto& kopf = *Finde<QTreeView>("LV_Bauzeiten").header();
+    EXPECT_LT(kopf.height(), 2 * kopf.fontMetrics().height());
+    for (const auto& [spalte, hinweis] : {std::pair(0, "Wochentag"), std::pair(1, "")}) {
+        const QPoint ort(kopf.sectionViewportPosition(spalte) + 2, 2);
+        QHelpEvent hilfe(QEvent::ToolTip, ort, kopf.mapToGlobal(ort));
+        QCoreApplication::sendEvent(kopf.viewport(), &hilfe);
+        EXPECT_TRUE(QTest::qWaitFor([&, text = QString::fromLatin1(hinweis)] {
+            return QToolTip::text() == text;
+        })) << spalte;
     }
 }
 
@@ -225,6 +262,10 @@ TEST_F(Fenster, NeueZeilenKommenInsBildUndUndoRolltNicht) {
     EXPECT_EQ(Zeilen("LV_Bauliste"), 59);
     EXPECT_TRUE(liste.viewport()->rect().contains(liste.visualRect(liste.model()->index(0, 0))));
     EXPECT_EQ(Text("LBL_MetMine_Stufe"), "59");
+    liste.setCurrentIndex(liste.model()->index(58, 0));
+    liste.scrollToTop();
+    Druecke("Cmd_Undo");
+    EXPECT_EQ(liste.indexAt(QPoint(1, 1)).row(), 0) << "the row that becomes the current one";
     const auto rot = liste.model()->index(0, 2).data(Qt::ForegroundRole).value<QColor>();
     EXPECT_EQ(rot, QColor(255, 0, 0));
     Druecke("Cmd_Clear");
@@ -237,6 +278,9 @@ TEST_F(Fenster, ProduktionszeileNimmtDieReglerUndLaesstSieStehen) {
     QTest::keyClick(&Finde("HSC_Deutfaktor"), Qt::Key_Left);
     EXPECT_EQ(Text("LBL_Krisfaktor"), "Kristallmine: 30%");
     EXPECT_EQ(Text("LBL_Deutfaktor"), "Deutmine: 90%");
+    QTest::keyClick(&Finde("HSC_MetFaktor"), Qt::Key_Home);
+    EXPECT_EQ(Text("LBL_MetFaktor"), "Metallmine: 0%");
+    QTest::keyClick(&Finde("HSC_MetFaktor"), Qt::Key_End);
     EXPECT_EQ(Zeilen("LV_Bauliste"), 0);
     Druecke("Cmd_AddProdaenderungsevent");
     EXPECT_EQ(Zelle("LV_Bauliste", 0, 1), "M:100% K:30% D:90%");
@@ -283,6 +327,18 @@ TEST_F(Fenster, EingabenBegrenzenNurTippenUndEinfuegen) {
     EXPECT_EQ(Text("txt_UniStartZeitTag"), "0001");
 }
 
+TEST_F(Fenster, EingefuegtesKommtNichtInDieSekunden) {
+    auto& sekunden = *Finde<QComboBox>("Comb_Before").lineEdit();
+    for (const char* const text : {"abc", "7x", "7"}) {
+        QGuiApplication::clipboard()->setText(QString::fromLatin1(text));
+        sekunden.selectAll();
+        QTest::keyClick(&sekunden, Qt::Key_V, Qt::ControlModifier);
+        QTest::keyClick(&sekunden, Qt::Key_Insert, Qt::ShiftModifier);
+        QTest::mouseClick(&sekunden, Qt::MiddleButton);
+        EXPECT_EQ(sekunden.text(), QStringLiteral("10")) << text;
+    }
+}
+
 TEST_F(Fenster, TemperaturenSindVerbunden) {
     Tippe("txt_TempMax", "+25");
     EXPECT_EQ(Text("txt_TempMax"), "25");
@@ -318,6 +374,13 @@ TEST_F(Fenster, WochentagFolgtDemDatumUndNichtDerUhrzeit) {
     Tippe("txt_UniStartZeitStunden", "");
     m_fenster.StarteSimulation(false);
     EXPECT_EQ(Text("LBL_Weekday"), "Fr.") << "nothing that it follows has changed";
+    // A load sets day, month and year before the hour, and refreshes at each.
+    Tippe("txt_UniStartZeitStunden", "12");
+    Plan plan = PlanAus("GM");
+    plan.Parameter.UniStartZeitTag = "16";
+    plan.Parameter.UniStartZeitStunden = "25";
+    Lade(plan);
+    EXPECT_EQ(Text("LBL_Weekday"), "Do.");
 }
 
 // The day is padded before the message about the date comes up.
@@ -334,6 +397,8 @@ TEST_F(Fenster, KlickpufferSpeedfaktorUndBeschreibungen) {
     auto& puffer = Finde<QSlider>("HSC_KlickPuffer");
     QTest::keyClick(&puffer, Qt::Key_PageUp);
     EXPECT_EQ(Text("LBL_KlickPuffer"), "00:15");
+    QTest::keyClick(&puffer, Qt::Key_Home);
+    EXPECT_EQ(Text("LBL_KlickPuffer"), "00:00");
     QTest::keyClick(&puffer, Qt::Key_End);
     EXPECT_EQ(Text("LBL_KlickPuffer"), "10:00");
     EXPECT_EQ(m_fenster.DerPlan().Parameter.KlickPuffer, 600);
@@ -375,6 +440,9 @@ TEST_F(Fenster, Schlafzeiten) {
     ASSERT_EQ(Zeilen("LV_Schlafzeiten"), 2);
 
     auto& liste = Finde<QTreeView>("LV_Schlafzeiten");
+    EXPECT_EQ(liste.currentIndex().row(), 1);
+    EXPECT_GT(liste.geometry().left(), Finde("SchlafKalender").geometry().right());
+    EXPECT_EQ(liste.geometry().top(), Finde("SchlafKalender").geometry().top());
     liste.setCurrentIndex(liste.model()->index(0, 0));
     Druecke("Cmd_RemoveSchlafzeit");
     ASSERT_EQ(Zeilen("LV_Schlafzeiten"), 1);
@@ -383,6 +451,15 @@ TEST_F(Fenster, Schlafzeiten) {
     Druecke("Cmd_RemoveSchlafzeit");
     Druecke("Cmd_ClearSchlafzeiten");
     EXPECT_EQ(Zeilen("LV_Schlafzeiten"), 1) << "answered with Nein";
+    Tippe("txt_SchlafStartStunden", "9");
+    Tippe("txt_SchlafdauerStunden", "00");
+    for (const char* const minuten : {"10", "15", "20", "25", "30", "35", "40", "45", "50", "55"}) {
+        Tippe("txt_SchlafStartMinuten", minuten);
+        Druecke("Cmd_AddSchlafzeit");
+        const QRect neue = liste.visualRect(liste.currentIndex());
+        EXPECT_EQ(liste.currentIndex().data().toString().right(2), QLatin1String(minuten));
+        EXPECT_TRUE(liste.viewport()->rect().contains(neue)) << minuten;
+    }
     m_boxen.Antwort = true;
     Druecke("Cmd_ClearSchlafzeiten");
     EXPECT_EQ(m_boxen.Texte.back(), "Wirklich alle löschen ?");
@@ -421,7 +498,7 @@ TEST_F(Fenster, ClearUndEingabefehlerLassenDenRestStehen) {
     Druecke("Cmd_Clear");
     EXPECT_EQ(Text("LBL_Timegone"), "Dauer: dd:hh:mm:ss");
     EXPECT_NE(Text("LBL_Timegone2"), "Dauer: dd:hh:mm:ss");
-    EXPECT_EQ(Text("LBL_Met"), "500");
+    EXPECT_EQ(Text("LBL_Met") + Text("LBL_Kris"), "500500");
     EXPECT_EQ(Text("LBL_MetMine_Stufe"), "0");
     Druecke("Cmd_Simulate");
     EXPECT_EQ(m_boxen.Texte.back(), "Die Bauliste ist leer...");
@@ -443,6 +520,16 @@ TEST_F(Fenster, MeldungImLaufZeigtDenStandDesLaufs) {
     Lade("GF GM");
     m_fenster.StarteSimulation(true);
     EXPECT_EQ(meldungen, 2);
+    // From the second one on the player can do without the rest of this run.
+    m_boxen.BeiMeldung = nullptr;
+    Lade("GF GM GM GM GM");
+    for (const int abstellen : {1, 2}) {
+        m_boxen.Texte.clear();
+        m_boxen.Abstellbare = 0;
+        m_boxen.Abstellen = abstellen;
+        m_fenster.StarteSimulation(true);
+        EXPECT_EQ(m_boxen.Texte.size(), 1U + static_cast<std::size_t>(abstellen));
+    }
 }
 
 TEST_F(Fenster, NeuerLaufBeginntMitLeererListe) {
@@ -486,6 +573,40 @@ TEST_F(Fenster, EnterDruecktUeberallEinenKnopf) {
     QTest::keyClick(&Finde("Cmd_AddProdaenderungsevent"), Qt::Key_Return);
     EXPECT_EQ(Zeilen("LV_Bauliste"), 1);
     EXPECT_TRUE(m_boxen.Texte.empty());
+}
+
+// A button that was clicked keeps the focus, but not Enter.
+TEST_F(Fenster, MausGibtEnterZurueck) {
+    const auto enter = [&] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); };
+    const auto tabZu = [&](const char* name) {
+        while (QApplication::focusWidget() != &Finde(name)) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+    };
+    QTest::mouseClick(&Finde("Cmd_Clear"), Qt::LeftButton);
+    ASSERT_EQ(QApplication::focusWidget(), &Finde("Cmd_Clear"));
+    for (const char* const bild : {"ImgSKW", "ImgMetMine"}) {
+        emit Finde<Baulistenansicht>("LV_Bauliste").DragDrop(QString::fromLatin1(bild));
+    }
+    enter();
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 2);
+    EXPECT_EQ(Zeilen("LV_Bauzeiten"), 2);
+    Waehle("mnu_SpecialEvents");
+    tabZu("Cmd_AddProdaenderungsevent");
+    enter();
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 3) << "who walks there presses it";
+    QTest::mouseClick(&Finde("Frame9"), Qt::LeftButton);
+    ASSERT_EQ(QApplication::focusWidget(), &Finde("Cmd_AddProdaenderungsevent"));
+    enter();
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 3);
+    EXPECT_EQ(Zeilen("LV_Bauzeiten"), 3);
+    tabZu("Cmd_Clear");
+    QTest::mouseClick(&Finde("Cmd_Undo"), Qt::LeftButton);
+    QTest::keyClick(&Finde("Cmd_Undo"), Qt::Key_Space);
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 1) << "the space bar goes on pressing it";
+    tabZu("Cmd_Clear");
+    enter();
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 0);
 }
 
 TEST_F(Fenster, TabErreichtAllesDerReiheNachUndAllesHatEinenNamen) {

@@ -7,6 +7,7 @@
 #include <QSlider>
 #include <QTest>
 #include <QTreeView>
+#include <limits>
 #include <map>
 
 #include "Hilfen.h"
@@ -18,30 +19,49 @@ namespace tarvelin {
 class Boxenmerker final : public Dialoge {
   public:
     void Zeige(const Meldung& meldung) override {
+        if (Beendet) {
+            return;
+        }
         Texte.push_back(meldung.Text);
         Koepfe.emplace_back(meldung.Titel, meldung.Symbol);
         if (BeiMeldung) {
             BeiMeldung();
         }
     }
+    bool ZeigeAbstellbar(const Meldung& meldung) override {
+        Zeige(meldung);
+        return ++Abstellbare < Abstellen;
+    }
     void Piepton() override {}
     bool Stelle(const Frage& frage) override {
+        if (Beendet) {
+            return false;
+        }
         Texte.push_back(frage.Text);
         Koepfe.emplace_back(frage.Titel, frage.Symbol);
-        return Antwort;
+        if (BeiFrage) {
+            BeiFrage();
+        }
+        return Antwort && !Beendet;
     }
     std::filesystem::path FragNachDatei(Zweck /*zweck*/,
                                         const std::filesystem::path& ordner) override {
-        return Datei.empty() ? Datei : ordner / Datei;
+        return Datei.empty() || Beendet ? std::filesystem::path() : ordner / Datei;
     }
+    void Beende() override { Beendet = true; }
 
     std::vector<std::string> Texte;
     /// Title and icon of each.
     std::vector<std::pair<std::string, Meldungssymbol>> Koepfe;
     std::function<void()> BeiMeldung;
+    std::function<void()> BeiFrage;
     bool Antwort = false;
+    /// The how manieth box with a check box gets it checked.
+    int Abstellen = std::numeric_limits<int>::max();
+    int Abstellbare = 0;
     /// What the file dialogs answer, from their folder on.
     std::filesystem::path Datei;
+    bool Beendet = false;
 };
 
 /// Has the files of a table and no others; keeps what was asked.

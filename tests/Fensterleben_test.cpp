@@ -23,7 +23,10 @@ using Fensterleben = Fenster;
 /// One more start of the program in the same folder.
 class NeuerStart {
   public:
-    explicit NeuerStart(const Umgebung& umgebung) : m_fenster(umgebung) { m_fenster.Form_Load(); }
+    explicit NeuerStart(const Umgebung& umgebung) : m_fenster(umgebung) {
+        static_cast<Boxenmerker&>(umgebung.Boxen).Beendet = false;
+        m_fenster.Form_Load();
+    }
     ~NeuerStart() { m_fenster.close(); }
 
     frmMain* operator->() { return &m_fenster; }
@@ -43,6 +46,138 @@ TEST_F(Fensterleben, ErsterStartOhneStarterplan) {
     NeuerStart start(m_umgebung);
     EXPECT_EQ(m_boxen.Koepfe,
               std::vector(2, std::pair(std::string("Wiederherstellen..."), Meldungssymbol::Frage)));
+}
+
+TEST_F(Fensterleben, WiederherstellungNachJederAntwort) {
+    Lade("GM GM");
+    m_fenster.close();
+    const auto saves = m_ordner / "saves";
+    const std::string plan = LiesDatei(saves / "autosave.tvf");
+    struct Fall {
+        bool Ja;
+        bool Immer;
+        const char* Config;
+    };
+    for (const auto& [ja, immer, config] :
+         {Fall{false, false, "[StartSettings]\r\nRecover=0\r\n"},
+          Fall{false, true, "[StartSettings]\r\nAlwaysDoSo=1\r\nRecover=0\r\n"},
+          Fall{true, false, "[StartSettings]\r\nRecover=1\r\n"},
+          Fall{true, true, "[StartSettings]\r\nAlwaysDoSo=1\r\nRecover=1\r\n"}}) {
+        SCOPED_TRACE(config);
+        SchreibeDatei(saves / "autosave.tvf", plan);
+        SchreibeDatei(m_ordner / "config.cfg", "[Settings]\r\nFirststart=0\r\n");
+        fs::remove(saves / "autosave-vorige.tvf");
+        m_boxen.Texte.clear();
+        m_boxen.BeiFrage = [&] { m_boxen.Antwort = m_boxen.Texte.size() == 1 ? ja : immer; };
+        NeuerStart start(m_umgebung);
+        EXPECT_EQ(m_boxen.Texte.size(), 2U);
+        EXPECT_EQ(start.Zeilen(), ja ? 2U : 0U);
+        EXPECT_EQ(start->findChild<QWidget*>(QStringLiteral("Fra_Einstellungen"))->isVisible(),
+                  !ja);
+        EXPECT_TRUE(LiesDatei(m_ordner / "config.cfg").ends_with(config));
+        EXPECT_EQ(LiesDatei(saves / "autosave.tvf"), plan) << "nothing has changed yet";
+        start->close();
+        EXPECT_EQ(LiesDatei(saves / "autosave-vorige.tvf"), ja ? "" : plan);
+    }
+}
+
+// The end of the program is no answer, whichever question stands open.
+TEST_F(Fensterleben, EndeBeiDenFragenLaesstPlanUndAntworten) {
+    Lade("GM GM");
+    m_fenster.close();
+    const std::string plan = LiesDatei(m_ordner / "saves" / "autosave.tvf");
+    for (const std::size_t frage : {1U, 2U}) {
+        m_boxen.Texte.clear();
+        m_boxen.Beendet = false;
+        m_boxen.Antwort = true;
+        frmMain fenster(m_umgebung);
+        m_boxen.BeiFrage = [&] {
+            if (m_boxen.Texte.size() == frage) {
+                fenster.close();
+            }
+        };
+        fenster.Form_Load();
+        EXPECT_EQ(m_boxen.Texte.size(), frage);
+        EXPECT_EQ(LiesDatei(m_ordner / "saves" / "autosave.tvf"), plan);
+        EXPECT_EQ(LiesDatei(m_ordner / "config.cfg").find("StartSettings"), std::string::npos);
+        EXPECT_FALSE(fenster.findChild<QTimer*>(QStringLiteral("Tmr_Autosave"))->isActive());
+    }
+}
+
+TEST_F(Fensterleben, GeaendertesGehtInWenigenSekundenAufDiePlatte) {
+    const auto autosave = m_ordner / "saves" / "autosave.tvf";
+    auto& takt = Finde<QTimer>("Tmr_Autosave");
+    const auto ticke = [&] { QMetaObject::invokeMethod(&takt, "timeout"); };
+    EXPECT_TRUE(takt.isActive());
+    EXPECT_LT(takt.interval(), 5000);
+    ticke();
+    EXPECT_FALSE(fs::exists(autosave)) << "nothing has changed";
+    const std::vector<std::pair<const char*, std::function<void()>>> aenderungen{
+        {"Item_002=GM", [&] { Lade("GS GM"); }},
+        {"UniStartZeitStunden=07", [&] { Tippe("txt_UniStartZeitStunden", "07"); }},
+        {"TempMax=25", [&] { Tippe("txt_TempMax", "25"); }},
+        {"KlickPuffer=15", [&] { QTest::keyClick(&Finde("HSC_KlickPuffer"), Qt::Key_PageUp); }},
+        {"ShowDesc=0", [&] { Druecke("cmd_ShowDesc"); }},
+        {"Speedfaktor_X2=1", [&] { Druecke("Chk_Speedfaktor"); }},
+        {"SubItem_001=18.11.2006 23:30", [&] { Druecke("Cmd_AddSchlafzeit"); }},
+        {"ItemCount=1\r\nItem_001=GS", [&] { Druecke("Cmd_Undo"); }}};
+    for (const auto& [zeile, aendere] : aenderungen) {
+        aendere();
+        ticke();
+        EXPECT_NE(LiesDatei(autosave).find(zeile), std::string::npos) << zeile;
+    }
+    // What can't be written is tried again at the next change, and nobody is told.
+    fs::remove(autosave);
+    fs::create_directories(autosave / "x");
+    Druecke("Cmd_Undo");
+    ticke();
+    fs::remove_all(autosave);
+    ticke();
+    EXPECT_FALSE(fs::exists(autosave));
+    Druecke("cmd_ShowDesc");
+    ticke();
+    EXPECT_TRUE(fs::exists(autosave));
+    EXPECT_TRUE(m_boxen.Texte.empty());
+    m_fenster.close();
+    EXPECT_FALSE(takt.isActive());
+}
+
+// The starter plan is stored before its file goes, and what was stored before isn't lost by it.
+TEST_F(Fensterleben, StarterplanUndLetzterPlanGehenNichtVerloren) {
+    m_fenster.close();
+    const auto saves = m_ordner / "saves";
+    const auto erster = [&](bool letzter, bool wieder) {
+        fs::remove(m_ordner / "config.cfg");
+        fs::remove(saves / "autosave.tvf");
+        fs::remove(saves / "autosave-vorige.tvf");
+        EXPECT_TRUE(SaveBauliste(saves / "basic.tvf", PlanAus("GM")));
+        EXPECT_TRUE(!letzter || SaveBauliste(saves / "autosave.tvf", PlanAus("GK GK")));
+        m_boxen.Texte.clear();
+        m_boxen.Antwort = wieder;
+        NeuerStart start(m_umgebung);
+        EXPECT_EQ(m_boxen.Texte.size(), letzter ? 2U : 0U);
+        EXPECT_FALSE(fs::exists(saves / "basic.tvf"));
+        EXPECT_EQ(start->windowTitle().endsWith(QStringLiteral("( autosave.tvf )")), wieder);
+        EXPECT_NE(LiesDatei(saves / "autosave.tvf").find("Item_001=GM"), std::string::npos);
+        EXPECT_EQ(LiesDatei(saves / "autosave-vorige.tvf").find("Item_002=GK") != std::string::npos,
+                  letzter);
+        QMetaObject::invokeMethod(start->findChild<QTimer*>(QStringLiteral("Tmr_Autosave")),
+                                  "timeout");
+        EXPECT_EQ(LiesDatei(saves / "autosave.tvf").find("Item_001=GK") != std::string::npos,
+                  wieder);
+        return start.Zeilen();
+    };
+    EXPECT_EQ(erster(false, false), 1U);
+    EXPECT_EQ(erster(true, false), 1U);
+    EXPECT_EQ(erster(true, true), 2U);
+}
+
+TEST_F(Fensterleben, HinweisZumStartKommtVorAllemAnderen) {
+    m_umgebung.Starthinweis = Meldung{.Text = "Hinweis", .Titel = "Tarvelin"};
+    EXPECT_TRUE(SaveBauliste(m_ordner / "saves" / "autosave.tvf", PlanAus("GM")));
+    const NeuerStart start(m_umgebung);
+    EXPECT_EQ(m_boxen.Texte.size(), 3U);
+    EXPECT_EQ(m_boxen.Texte.front(), "Hinweis");
 }
 
 TEST_F(Fensterleben, EinAusfallBeimBeendenLaesstJedeDateiAltOderNeu) {
@@ -118,6 +253,12 @@ TEST_F(Fensterleben, LadenUndSpeichernUeberDenDialog) {
     EXPECT_EQ(Text("cmd_ShowDesc"), "ein/AUS");
     EXPECT_EQ(Text("LBL_KlickPuffer"), "00:07");
     EXPECT_TRUE(m_fenster.windowTitle().endsWith(QStringLiteral("      ( meiner )")));
+
+    m_boxen.Datei = "fehlt/x.tvf";
+    Waehle("mnu_Datei_Speichern");
+    EXPECT_EQ(m_boxen.Texte.back(), "Die Bauliste konnte nicht gespeichert werden...");
+    EXPECT_EQ(m_boxen.Koepfe.back(), m_boxen.Koepfe.front());
+    m_boxen.Texte.pop_back();
 
     // What can't be read at all leaves the plan.
     for (const char* const datei : {"fehlt.tvf", "../saves"}) {
@@ -199,7 +340,23 @@ TEST_F(Fensterleben, KlangSpieltNurGanzeWellen) {
     const std::string gut = LiesDatei(m_ordner / "mfx" / "alert.wav");
     std::string ohneFormat = gut;
     ohneFormat.replace(ohneFormat.find("fmt "), 4, "xxx ");
+    // Format, rate, bits: as they stand in the head.
+    const auto mit = [&](std::size_t stelle, std::uint32_t wert, std::size_t laenge) {
+        std::string bytes = gut;
+        for (std::size_t i = 0; i < laenge; ++i) {
+            bytes[bytes.find("fmt ") + 8 + stelle + i] = static_cast<char>(wert >> 8 * i);
+        }
+        return bytes;
+    };
     const std::vector<std::pair<std::string, bool>> faelle{{gut, true},
+                                                           {mit(4, 10, 4), false},
+                                                           {mit(4, 41, 4), false},
+                                                           {mit(4, 7999, 4), false},
+                                                           {mit(4, 8000, 4), true},
+                                                           {mit(4, 192000, 4), true},
+                                                           {mit(4, 192001, 4), false},
+                                                           {mit(0, 3, 2), false},
+                                                           {mit(14, 24, 2), false},
                                                            {"kein Ton", false},
                                                            {"", false},
                                                            {gut.substr(0, 30), false},
@@ -421,8 +578,17 @@ TEST_F(Fensterleben, InfofensterSindEinmaligUndFuehrenAufDieSeiten) {
               QStringLiteral(" Version 1.0.1"));
     about.findChild<QAbstractButton*>(QStringLiteral("Label1"))->click();
     EXPECT_EQ(m_seiten, std::vector<std::string>{Homepage()});
-    QTest::keyClick(&about, Qt::Key_Escape);
-    EXPECT_FALSE(about.isVisible());
+    for (const Qt::Key taste : {Qt::Key_Escape, Qt::Key_Return}) {
+        about.findChild<QWidget*>(QStringLiteral("Label1"))->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), taste);
+        EXPECT_FALSE(about.isVisible());
+        Waehle("mnuAbout_TV");
+        about.showMinimized();
+        Waehle("mnuAbout_TV");
+        EXPECT_TRUE(about.isVisible() && !about.isMinimized());
+    }
+    EXPECT_EQ(m_seiten.size(), 1U);
+    about.close();
 
     Druecke("ImgDonate_1");
     Waehle("mnu_DOnate");

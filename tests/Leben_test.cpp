@@ -1,7 +1,12 @@
 // Configuration, alarms' clockwork and the choice of the program's folder.
+#include <optional>
+
+#include "Ausfall.h"
 #include "Hilfen.h"
+#include "persistence/Autosave.h"
 #include "persistence/Konfiguration.h"
 #include "persistence/Programmordner.h"
+#include "persistence/Schreibschutz.h"
 #include "plan/Wecker.h"
 
 namespace tarvelin {
@@ -105,7 +110,7 @@ void LegeDatenAn(const std::filesystem::path& ordner) {
 TEST(Programmordner, BeimProgrammWennDortGeschriebenWerdenKann) {
     const Ordner ordner;
     LegeDatenAn(ordner / "bin");
-    EXPECT_EQ(BestimmeProgrammordner(ordner / "bin", ordner / "nutzer"), ordner / "bin");
+    EXPECT_EQ(BestimmeProgrammordner(ordner / "bin", ordner / "nutzer").Ordner, ordner / "bin");
     EXPECT_FALSE(std::filesystem::exists(ordner / "nutzer"));
 }
 
@@ -114,7 +119,7 @@ TEST(Programmordner, EingerichtetesProgrammHatDieDateienBeimNutzer) {
     LegeDatenAn(ordner / "share" / "tarvelin");
     std::filesystem::create_directories(ordner / "bin");
     const auto nutzer = ordner / "nutzer" / "Tarvelin";
-    EXPECT_EQ(BestimmeProgrammordner(ordner / "bin", nutzer), nutzer);
+    EXPECT_EQ(BestimmeProgrammordner(ordner / "bin", nutzer).Ordner, nutzer);
     EXPECT_EQ(LiesDatei(nutzer / "saves" / "basic.tvf"), "plan");
     EXPECT_TRUE(std::filesystem::is_directory(nutzer / "img/skins/temp_webskin/images"));
 
@@ -123,19 +128,92 @@ TEST(Programmordner, EingerichtetesProgrammHatDieDateienBeimNutzer) {
     SchreibeDatei(nutzer / "config.cfg", "[Settings]\r\nFirststart=0\r\n");
     std::filesystem::remove(nutzer / "img" / "icon.ico");
     std::filesystem::remove(nutzer / "saves" / "basic.tvf");
-    EXPECT_EQ(BestimmeProgrammordner(ordner / "bin", nutzer), nutzer);
+    EXPECT_EQ(BestimmeProgrammordner(ordner / "bin", nutzer).Ordner, nutzer);
     EXPECT_EQ(LiesDatei(nutzer / "mfx" / "alert.wav"), "eigener Ton");
     EXPECT_EQ(LiesDatei(nutzer / "img" / "icon.ico"), "icon");
     EXPECT_FALSE(std::filesystem::exists(nutzer / "saves" / "basic.tvf"));
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(ordner / "bin"), {}), 0);
 }
 
-TEST(Programmordner, OhneDatenUndOhneRechteKommtDerNutzerordner) {
+TEST(Programmordner, OhneNutzerordnerDienenDieEigenenDateien) {
     const Ordner ordner;
+    const auto eigene = ordner / "share" / "tarvelin";
+    LegeDatenAn(eigene);
     SchreibeDatei(ordner / "datei", "");
-    // Neither can be made below a file; nothing is thrown.
-    EXPECT_EQ(BestimmeProgrammordner(ordner / "bin", ordner / "datei" / "x"),
-              ordner / "datei" / "x");
+    std::filesystem::create_directories(ordner / "voll" / "img");
+    SchreibeDatei(ordner / "voll" / "mfx", "");
+    // There is none, it can't be made, or has no room for all; nothing is thrown.
+    for (const auto& nutzer : {std::filesystem::path(), ordner / "datei" / "x", ordner / "voll"}) {
+        const Programmordner gewaehlt = BestimmeProgrammordner(ordner / "bin", nutzer);
+        EXPECT_EQ(gewaehlt.Ordner, eigene) << nutzer;
+        EXPECT_FALSE(gewaehlt.KannBehalten) << nutzer;
+    }
+    // Where plans lie the user keeps them in sight.
+    SchreibeDatei(ordner / "voll" / "saves" / "autosave.tvf", "plan");
+    EXPECT_EQ(BestimmeProgrammordner(ordner / "bin", ordner / "voll").Ordner, ordner / "voll");
+}
+
+TEST(Schreibschutz, AendertImOrdnerNichtsUndSonstAlles) {
+    const Ordner ordner;
+    LegeDatenAn(ordner / "eigene");
+    const Schreibschutz schutz(ordner / "eigene");
+    if (!kWindows) {
+        std::filesystem::create_directory_symlink(ordner / "eigene", ordner / "umweg");
+    }
+    for (const char* const wo : {"eigene", kWindows ? "eigene/." : "umweg"}) {
+        const auto plan = ordner / wo / "saves" / "basic.tvf";
+        EXPECT_FALSE(SaveBauliste(plan, PlanAus("GM"), schutz));
+        EXPECT_FALSE(SaveBauliste(ordner / wo / "neu.tvf", PlanAus("GM"), schutz));
+        EXPECT_FALSE(schutz.Loesche(plan));
+        EXPECT_FALSE(schutz.BenenneUm(plan, ordner / "weg.tvf"));
+        EXPECT_EQ(LiesDatei(plan, 100, schutz), "plan");
+    }
+    EXPECT_TRUE(SaveBauliste(ordner / "eigene-plaene.tvf", PlanAus("GM"), schutz));
+}
+
+/// The steps of a session, and the plans that lie there after each; "" for none.
+TEST(Autosave, BewahrtDenPlanDerLetztenSitzung) {
+    const Ordner ordner;
+    std::filesystem::create_directory(ordner / "saves");
+    const auto zeilen = [&](const char* datei) {
+        const auto profil = Profil::Lade(ordner / "saves" / datei);
+        return profil ? profil->Lies("Bauliste", "ItemCount", "?") : "";
+    };
+    struct Fall {
+        const char* Codes;
+        bool NeueSitzung;
+        const char* Plan;
+        const char* Vorige;
+    };
+    std::optional<Autosave> autosave(ordner / "");
+    for (const auto& [codes, neueSitzung, plan, vorige] :
+         {Fall{"GM", false, "1", ""}, Fall{"GM GM", false, "2", ""}, Fall{"GM GM", true, "2", ""},
+          Fall{"GM GM GM", false, "3", "2"}, Fall{"", false, "0", "2"}, Fall{"GM", true, "1", "2"},
+          Fall{"", true, "0", "1"}}) {
+        SCOPED_TRACE(std::string(codes) + " " + plan);
+        if (neueSitzung) {
+            autosave.emplace(ordner / "");
+        }
+        EXPECT_TRUE(autosave->Schreibe(PlanAus(codes)));
+        EXPECT_EQ(zeilen("autosave.tvf"), plan);
+        EXPECT_EQ(zeilen("autosave-vorige.tvf"), vorige);
+    }
+    // What was tried in vain is tried again when it changes, and at the end.
+    const auto datei = ordner / "saves" / "autosave.tvf";
+    const Stoersystem kaputt(1, Ausfallart::AllesFuerImmer);
+    Autosave gestoert(ordner / "", kaputt);
+    gestoert.SchreibeGeaenderten(PlanAus("GM"));
+    EXPECT_EQ(kaputt.Gestoert(), "Sieh");
+    // Where the last plan can't be kept it stays, until the end.
+    std::filesystem::remove(ordner / "saves" / "autosave-vorige.tvf");
+    std::filesystem::create_directories(ordner / "saves" / "autosave-vorige.tvf" / "x");
+    ASSERT_TRUE(autosave->Schreibe(PlanAus("GM GM")));
+    Autosave ohneVorige(ordner / "");
+    EXPECT_FALSE(ohneVorige.Schreibe(PlanAus("GM")));
+    EXPECT_EQ(zeilen("autosave.tvf"), "2");
+    ohneVorige.SchreibeGeaenderten(PlanAus("GM"));
+    ohneVorige.SchreibeZuletzt(PlanAus("GM"));
+    EXPECT_EQ(zeilen("autosave.tvf"), "1");
 }
 
 }  // namespace

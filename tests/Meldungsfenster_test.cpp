@@ -3,7 +3,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QTimer>
 
 #include "Hilfen.h"
@@ -30,6 +33,9 @@ class Druecker {
             Symbol = box->icon();
             Text = box->text();
             Format = box->textFormat();
+            if (box->checkBox() != nullptr) {
+                box->checkBox()->setChecked(Kaestchen);
+            }
             for (QAbstractButton* const b : box->buttons()) {
                 Knoepfe << b->text().remove(QLatin1Char('&'));
                 if (Knoepfe.back() == knopf) {
@@ -45,6 +51,7 @@ class Druecker {
     QStringList Knoepfe;
     QMessageBox::Icon Symbol{};
     Qt::TextFormat Format{};
+    bool Kaestchen = false;
 
   private:
     QTimer m_takt;
@@ -68,6 +75,36 @@ TEST(Meldungsfenster, FragtAufDeutsch) {
         EXPECT_EQ(druecker.Titel, QStringLiteral("Frage..."));
         EXPECT_EQ(druecker.Knoepfe.size(), 2);
     }
+}
+
+TEST(Meldungsfenster, AbstellbareHabenEinKaestchen) {
+    for (const bool ab : {true, false}) {
+        Druecker druecker(QStringLiteral("OK"));
+        druecker.Kaestchen = ab;
+        EXPECT_EQ(Meldungsfenster().ZeigeAbstellbar({.Text = "Nochmal", .Titel = ""}), !ab);
+    }
+}
+
+TEST(Meldungsfenster, NimmtAuchDenNamenEinerDateiDieFehlt) {
+    Meldungsfenster boxen;
+    QTimer::singleShot(0, [] {
+        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))
+            ->setText(QStringLiteral("fehlt.tvf"));
+        dialog->accept();
+    });
+    const std::filesystem::path ordner = testing::TempDir();
+    EXPECT_EQ(boxen.FragNachDatei(Dialoge::Zweck::Laden, ordner), ordner / "fehlt.tvf");
+}
+
+TEST(Meldungsfenster, AmEndeGehtZuWasOffenIst) {
+    Meldungsfenster boxen;
+    QTimer::singleShot(0, [&] { boxen.Beende(); });
+    EXPECT_FALSE(boxen.Stelle({.Text = "Wirklich?", .Titel = ""}));
+    // None of them waits for anybody.
+    boxen.Zeige({.Text = "Noch eine", .Titel = ""});
+    EXPECT_FALSE(boxen.Stelle({.Text = "Und noch eine?", .Titel = ""}));
+    EXPECT_TRUE(boxen.FragNachDatei(Dialoge::Zweck::Laden, ".").empty());
 }
 
 }  // namespace

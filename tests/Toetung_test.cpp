@@ -64,7 +64,7 @@ class Toetung : public testing::Test {
 
     [[nodiscard]] std::filesystem::path Datei() const { return m_ordner / "plan.tvf"; }
     void Speichere(std::size_t welchen, const Dateisystem& system) const {
-        SaveBauliste(Datei(), m_plaene.at(welchen), system);
+        static_cast<void>(SaveBauliste(Datei(), m_plaene.at(welchen), system));
         WriteINI("Settings", "Firststart", std::to_string(welchen), m_ordner / "config.cfg",
                  system);
     }

@@ -122,6 +122,16 @@ Meldung Ladefehler() {
     return {.Text = "Die Bauliste konnte nicht geladen werden...", .Titel = kAusnahmefehler};
 }
 
+Meldung Speicherfehler() {
+    return {.Text = "Die Bauliste konnte nicht gespeichert werden...", .Titel = kAusnahmefehler};
+}
+
+bool HatZeilen(const Profil& profil) {
+    return LiesGanzzahl(profil.Lies(kBauliste, kItemCount, ""), 1,
+                        std::numeric_limits<std::int64_t>::max())
+        .has_value();
+}
+
 void SchreibePlan(const Plan& plan, Profil& profil) {
     const Startparameter& parameter = plan.Parameter;
     profil.Schreibe(kEinstellungen, "KlickPuffer", std::to_string(parameter.KlickPuffer));

@@ -16,11 +16,15 @@ namespace tarvelin {
 void SchreibePlan(const Plan& plan, Profil& profil);
 
 /// The same into a file, in one step. False if it can't be written; the file is then as it was.
-bool SaveBauliste(const std::filesystem::path& File, const Plan& plan,
-                  const Dateisystem& system = Platte());
+[[nodiscard]] bool SaveBauliste(const std::filesystem::path& File, const Plan& plan,
+                                const Dateisystem& system = Platte());
 
-/// What a player reads when a file holds no plan.
+/// Whether a profile holds a plan with at least one row.
+[[nodiscard]] bool HatZeilen(const Profil& profil);
+
+/// What a player reads when a file holds no plan, and when his plan can't be written into one.
 [[nodiscard]] Meldung Ladefehler();
+[[nodiscard]] Meldung Speicherfehler();
 
 /// Takes a plan from a profile. The former plan is gone at once. At the first value that can't be
 /// used the reading stops with a message: what was read up to there stays, and false comes back.

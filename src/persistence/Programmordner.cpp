@@ -9,50 +9,76 @@ namespace fs = std::filesystem;
 
 namespace {
 
-void KopiereFehlende(const fs::path& von, const fs::path& nach) {
+/// False if there is no room for the file.
+bool KopiereFehlende(const fs::path& von, const fs::path& nach) {
     std::error_code fehler;
     if (fs::exists(nach, fehler)) {
-        return;
+        return true;
     }
     constexpr std::size_t kHoechstgroesse = std::size_t{16} << 20U;
-    if (const auto bytes = LiesDatei(von, kHoechstgroesse, Platte())) {
-        ErsetzeDatei(nach, *bytes);
-    }
+    const auto bytes = LiesDatei(von, kHoechstgroesse, Platte());
+    return !bytes || ErsetzeDatei(nach, *bytes);
 }
 
-void ErgaenzeOrdner(const fs::path& von, const fs::path& nach) {
+/// Whether the folder lies there afterwards, and had room for all files.
+bool ErgaenzeOrdner(const fs::path& von, const fs::path& nach) {
     std::error_code fehler;
     fs::create_directories(nach, fehler);
+    bool ganz = fs::is_directory(nach, fehler);
     for (fs::recursive_directory_iterator eintrag(von, fehler), ende; !fehler && eintrag != ende;
          eintrag.increment(fehler)) {
         const fs::path ziel = nach / eintrag->path().lexically_relative(von);
         if (eintrag->is_directory(fehler)) {
             fs::create_directories(ziel, fehler);
         } else {
-            KopiereFehlende(eintrag->path(), ziel);
+            ganz = KopiereFehlende(eintrag->path(), ziel) && ganz;
         }
         fehler.clear();
     }
+    return ganz;
+}
+
+/// Whether there was room for all that is ours.
+bool RichteEin(const fs::path& quelle, const fs::path& ordner) {
+    const bool bilder = ErgaenzeOrdner(quelle / "img", ordner / "img");
+    const bool klaenge = ErgaenzeOrdner(quelle / "mfx", ordner / "mfx");
+    std::error_code fehler;
+    fs::create_directories(ordner / "saves", fehler);
+    const fs::path starterplan = fs::path("saves") / "basic.tvf";
+    const bool plan = fs::exists(ordner / "config.cfg", fehler) ||
+                      !fs::exists(quelle / starterplan, fehler) ||
+                      KopiereFehlende(quelle / starterplan, ordner / starterplan);
+    return bilder && klaenge && plan;
+}
+
+bool HatPlaene(const fs::path& ordner) {
+    std::error_code fehler;
+    return fs::exists(ordner / "config.cfg", fehler) ||
+           fs::exists(ordner / "saves" / "autosave.tvf", fehler);
 }
 
 }  // namespace
 
-fs::path BestimmeProgrammordner(const fs::path& ordner_des_programms,
-                                const fs::path& nutzerordner) {
+Programmordner BestimmeProgrammordner(const fs::path& ordner_des_programms,
+                                      const fs::path& nutzerordner) {
     std::error_code fehler;
     const bool mit_daten = fs::is_directory(ordner_des_programms / "img", fehler);
     if (mit_daten && Platte().IstBeschreibbar(ordner_des_programms)) {
-        return ordner_des_programms;
+        return {.Ordner = ordner_des_programms};
     }
     const fs::path quelle = mit_daten ? ordner_des_programms
                                       : ordner_des_programms.parent_path() / "share" / "tarvelin";
-    ErgaenzeOrdner(quelle / "img", nutzerordner / "img");
-    ErgaenzeOrdner(quelle / "mfx", nutzerordner / "mfx");
-    fs::create_directories(nutzerordner / "saves", fehler);
-    if (!fs::exists(nutzerordner / "config.cfg", fehler)) {
-        KopiereFehlende(quelle / "saves" / "basic.tvf", nutzerordner / "saves" / "basic.tvf");
+    if (nutzerordner.empty()) {
+        return {.Ordner = quelle, .KannBehalten = false};
     }
-    return nutzerordner;
+    const bool eingerichtet = RichteEin(quelle, nutzerordner);
+    const bool beschreibbar =
+        Platte().IstBeschreibbar(nutzerordner) && Platte().IstBeschreibbar(nutzerordner / "saves");
+    // Who has plans there keeps them in sight, whatever has no room beside them.
+    if (HatPlaene(nutzerordner) || (eingerichtet && beschreibbar)) {
+        return {.Ordner = nutzerordner, .KannBehalten = beschreibbar};
+    }
+    return {.Ordner = quelle, .KannBehalten = false};
 }
 
 }  // namespace tarvelin

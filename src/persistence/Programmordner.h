@@ -5,12 +5,20 @@
 
 namespace tarvelin {
 
-/// The folder of `config.cfg`, `saves`, `img` and `mfx` for this start. It is the folder of the
-/// running program if `img` lies there and it can be written. Else it is `nutzerordner`, to which
-/// the files of ours that are missing are added, from the program's folder or from
-/// `share/tarvelin` beside the program's `bin`; the starter plan only as long as no configuration
-/// lies there. No other place is ever written. What can't be copied is passed over.
-[[nodiscard]] std::filesystem::path BestimmeProgrammordner(
+/// The folder of `config.cfg`, `saves`, `img` and `mfx` for this start.
+struct Programmordner {
+    std::filesystem::path Ordner;
+    /// Whether the user's plans and settings can be kept there. Where they can't, nothing of it
+    /// must be changed.
+    bool KannBehalten = true;
+};
+
+/// It is the folder of the running program if `img` lies there and it can be written. Else it is
+/// `nutzerordner` (empty where the user has none), to which the files of ours that are missing are
+/// added, from the program's folder or from `share/tarvelin` beside the program's `bin`; the
+/// starter plan only as long as no configuration lies there. If that folder can't be made, and no
+/// plan lies in it, the files of ours serve where they are. No other place is ever written.
+[[nodiscard]] Programmordner BestimmeProgrammordner(
     const std::filesystem::path& ordner_des_programms, const std::filesystem::path& nutzerordner);
 
 }  // namespace tarvelin

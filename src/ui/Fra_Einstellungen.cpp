@@ -191,14 +191,12 @@ QWidget* Fra_Einstellungen::NeuerSpeedfaktor() {
 }
 
 void Fra_Einstellungen::Zeige() {
-    bool datumGeaendert = false;
     constexpr std::size_t kDatumsteile = 3;
     for (std::size_t i = 0; i < m_startzeit.size(); ++i) {
         const bool geaendert = m_startzeit[i].Input->Setze(m_plan.Parameter.*m_startzeit[i].Wert);
-        datumGeaendert |= geaendert && i < kDatumsteile;
-    }
-    if (datumGeaendert) {
-        RefreshWeekday();
+        if (geaendert && i < kDatumsteile) {
+            RefreshWeekday();
+        }
     }
     ZeigeTemperaturen();
     m_HSC_KlickPuffer->setValue(m_plan.Parameter.KlickPuffer);
@@ -207,8 +205,13 @@ void Fra_Einstellungen::Zeige() {
     ZeigeShowDesc();
 }
 
+// Of what the inputs show: a part of the date that comes next doesn't count yet.
 void Fra_Einstellungen::RefreshWeekday() {
-    Zeige(tarvelin::RefreshWeekday(m_plan.Parameter));
+    Startparameter gezeigte;
+    for (const Datumsteil& teil : m_startzeit) {
+        gezeigte.*teil.Wert = teil.Input->Text();
+    }
+    Zeige(tarvelin::RefreshWeekday(gezeigte));
 }
 
 void Fra_Einstellungen::Zeige(const Wochentagsanzeige& wochentag) {

@@ -3,9 +3,11 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QMainWindow>
+#include <QMessageBox>
 
 #include "ui/Bauteile.h"
 
@@ -52,29 +54,62 @@ void GibTitelRaum(QMessageBox& box, const QString& titel) {
     }
 }
 
-QMessageBox::StandardButton Oeffne(const std::string& text, const std::string& titel,
-                                   Meldungssymbol symbol, QMessageBox::StandardButtons knoepfe) {
-    QMessageBox box(Elternfenster());
-    const QString titelzeile = titel.empty() ? QStringLiteral("Tarvelin") : AlsQString(titel);
-    box.setWindowTitle(titelzeile);
-    box.setTextFormat(Qt::PlainText);
-    box.setText(AlsQString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
-    box.setIcon(Symbol(symbol));
-    box.setStandardButtons(knoepfe);
-    for (const auto& [knopf, aufschrift] : {std::pair(QMessageBox::Yes, QStringLiteral("&Ja")),
-                                            std::pair(QMessageBox::No, QStringLiteral("&Nein"))}) {
-        if (auto* const gezeigter = box.button(knopf)) {
-            gezeigter->setText(aufschrift);
+/// A message box as ours look.
+class Box : public QMessageBox {
+  public:
+    Box(const std::string& text, const std::string& titel, Meldungssymbol symbol,
+        QMessageBox::StandardButtons knoepfe)
+        : QMessageBox(Elternfenster()) {
+        const QString titelzeile = titel.empty() ? QStringLiteral("Tarvelin") : AlsQString(titel);
+        setWindowTitle(titelzeile);
+        setTextFormat(Qt::PlainText);
+        setText(AlsQString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+        setIcon(Symbol(symbol));
+        setStandardButtons(knoepfe);
+        for (const auto& [knopf, aufschrift] :
+             {std::pair(QMessageBox::Yes, QStringLiteral("&Ja")),
+              std::pair(QMessageBox::No, QStringLiteral("&Nein"))}) {
+            if (auto* const gezeigter = button(knopf)) {
+                gezeigter->setText(aufschrift);
+            }
         }
+        GibTitelRaum(*this, titelzeile);
     }
-    GibTitelRaum(box, titelzeile);
-    return static_cast<QMessageBox::StandardButton>(box.exec());
-}
+    explicit Box(const Meldung& meldung)
+        : Box(meldung.Text, meldung.Titel, meldung.Symbol, QMessageBox::Ok) {}
+};
 
 }  // namespace
 
+int Meldungsfenster::Oeffne(QDialog& dialog) {
+    if (m_beendet) {
+        return QDialog::Rejected;
+    }
+    m_offene.push_back(&dialog);
+    const int antwort = dialog.exec();
+    m_offene.pop_back();
+    return antwort;
+}
+
+void Meldungsfenster::Beende() {
+    m_beendet = true;
+    for (auto dialog = m_offene.rbegin(); dialog != m_offene.rend(); ++dialog) {
+        (*dialog)->reject();
+    }
+}
+
 void Meldungsfenster::Zeige(const Meldung& meldung) {
-    Oeffne(meldung.Text, meldung.Titel, meldung.Symbol, QMessageBox::Ok);
+    Box box(meldung);
+    Oeffne(box);
+}
+
+bool Meldungsfenster::ZeigeAbstellbar(const Meldung& meldung) {
+    Box box(meldung);
+    // The box owns it.
+    auto* const abstellen = new QCheckBox(QStringLiteral("In diesem Lauf nicht mehr zeigen"));
+    box.setCheckBox(abstellen);
+    Oeffne(box);
+    return !abstellen->isChecked();
 }
 
 void Meldungsfenster::Piepton() {
@@ -82,8 +117,8 @@ void Meldungsfenster::Piepton() {
 }
 
 bool Meldungsfenster::Stelle(const Frage& frage) {
-    return Oeffne(frage.Text, frage.Titel, frage.Symbol, QMessageBox::Yes | QMessageBox::No) ==
-           QMessageBox::Yes;
+    Box box(frage.Text, frage.Titel, frage.Symbol, QMessageBox::Yes | QMessageBox::No);
+    return Oeffne(box) == QMessageBox::Yes;
 }
 
 std::filesystem::path Meldungsfenster::FragNachDatei(Zweck zweck,
@@ -91,14 +126,15 @@ std::filesystem::path Meldungsfenster::FragNachDatei(Zweck zweck,
     QFileDialog dialog(Elternfenster());
     const bool laden = zweck == Zweck::Laden;
     dialog.setAcceptMode(laden ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
-    dialog.setFileMode(laden ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    // A name that isn't there is answered by the load itself.
+    dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilter(QStringLiteral("(*.tvf) Tarvelin Save-Files (*.tvf)"));
     constexpr QSize kGroesse(720, 420);
     dialog.resize(kGroesse);
     dialog.setDirectory(Pfadtext(ordner));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    if (Oeffne(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};
     }
     return AlsPfad(dialog.selectedFiles().constFirst());

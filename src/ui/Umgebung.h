@@ -23,6 +23,9 @@ struct Frage {
 /// The modal boxes of the window.
 class Dialoge : public Meldungsausgabe {
   public:
+    /// As `Zeige`, with a check box by which the user wants no more of this kind. Whether he still
+    /// wants them.
+    [[nodiscard]] virtual bool ZeigeAbstellbar(const Meldung& meldung) = 0;
     /// Whether the user answered "Ja". Closing the box is a "Nein".
     [[nodiscard]] virtual bool Stelle(const Frage& frage) = 0;
 
@@ -31,6 +34,9 @@ class Dialoge : public Meldungsausgabe {
     /// to the name, and nothing is asked about a file that is there already.
     [[nodiscard]] virtual std::filesystem::path FragNachDatei(
         Zweck zweck, const std::filesystem::path& ordner) = 0;
+
+    /// Closes what is open, which answers as its close button does, and opens nothing any more.
+    virtual void Beende() = 0;
 };
 
 /// Fetches files by HTTP.
@@ -77,6 +83,8 @@ struct Umgebung {
     std::filesystem::path Programmordner;
     /// Through which plans and configuration are read and written.
     const Dateisystem& Dateien = Platte();
+    /// What the user has to know from the start on.
+    std::optional<Meldung> Starthinweis = std::nullopt;
 };
 
 }  // namespace tarvelin

@@ -41,8 +41,7 @@ namespace {
 bool HoleDatei(const std::string& adresse, const std::filesystem::path& datei,
                const Umgebung& umgebung) {
     if (FileExists(datei)) {
-        std::error_code ohneWort;
-        std::filesystem::remove(datei, ohneWort);
+        umgebung.Dateien.Loesche(datei);
     }
     if (const auto bytes = umgebung.Netz.Hole(adresse)) {
         ErsetzeDatei(datei, *bytes, umgebung.Dateien);

@@ -41,6 +41,8 @@ frmAbout::frmAbout(const Umgebung& umgebung) {
     QPushButton* const homepage =
         NeuerKnopf(QStringLiteral("Label1"), QStringLiteral("Homepage"), this);
     homepage->setFlat(true);
+    // Enter belongs to the other one, wherever the focus is.
+    homepage->setAutoDefault(false);
     homepage->setCursor(Qt::PointingHandCursor);
     homepage->setStyleSheet(QStringLiteral("color: rgb(255, 0, 0);"));
     homepage->setToolTip(QStringLiteral(" Visit "));

@@ -5,10 +5,12 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QScreen>
 #include <QTableView>
 #include <QTimer>
 #include <utility>
 
+#include "ui/Entertaste.h"
 #include "ui/Hersteller.h"
 #include "ui/Skinbilder.h"
 #include "ui/Standmeldungen.h"
@@ -18,12 +20,17 @@ namespace tarvelin {
 
 namespace {
 
+/// Of the window, in twips.
+constexpr int kBreite = 12870;
+constexpr int kHoehe = 5030;
+
 /// Brings up a window of its own, or the one that is open already.
 template <class F>
 void ZeigeEinmaliges(std::unique_ptr<F>& fenster, const Umgebung& umgebung) {
     if (!fenster) {
         fenster = std::make_unique<F>(umgebung);
     }
+    fenster->setWindowState(fenster->windowState() & ~Qt::WindowMinimized);
     fenster->show();
     fenster->raise();
     fenster->activateWindow();
@@ -34,6 +41,8 @@ void ZeigeEinmaliges(std::unique_ptr<F>& fenster, const Umgebung& umgebung) {
 frmMain::frmMain(const Umgebung& umgebung)
     : m_umgebung(umgebung),
       m_konfiguration(umgebung.Programmordner, umgebung.Dateien),
+      m_autosave(umgebung.Programmordner, umgebung.Dateien),
+      m_rollflaeche(new QScrollArea(this)),
       m_flaeche(new QWidget(this)),
       m_Fra_Einstellungen(new Fra_Einstellungen(m_plan, m_flaeche)),
       m_Fra_Special(new Fra_Special(m_flaeche)),
@@ -57,6 +66,9 @@ frmMain::frmMain(const Umgebung& umgebung)
     SetzeHeute();
     m_Fra_Rest->Zeige(m_texte);
     m_Fra_Rest->ZeigeNamen(m_plan.ShowDesc);
+    m_Tmr_Autosave.setObjectName(QStringLiteral("Tmr_Autosave"));
+    connect(&m_Tmr_Autosave, &QTimer::timeout, this,
+            [this] { m_autosave.SchreibeGeaenderten(m_plan); });
 }
 
 // What the lists show must outlive them.
@@ -65,18 +77,24 @@ frmMain::~frmMain() {
 }
 
 void frmMain::LegeAus() {
-    constexpr int kBreite = 12870;
-    constexpr int kHoehe = 5030;
-    setFixedSize(Pixel(kBreite), Pixel(kHoehe));
-    setCentralWidget(m_flaeche);
+    m_rollflaeche->setObjectName(QStringLiteral("Rollflaeche"));
+    m_rollflaeche->setFrameShape(QFrame::NoFrame);
+    m_rollflaeche->setFocusPolicy(Qt::NoFocus);
+    m_rollflaeche->setWidgetResizable(true);
+    m_rollflaeche->setWidget(m_flaeche);
+    setCentralWidget(m_rollflaeche);
+    PasseAnBildschirmAn();
     m_Fra_Rest->move(0, Pixel(2));
     m_Fra_Rest->lower();
+    m_flaeche->setMinimumSize(Pixel(kBreite), m_Fra_Rest->geometry().bottom() + 1);
     m_TopLine->setObjectName(QStringLiteral("TopLine"));
     m_TopLine->setFrameStyle(QFrame::HLine | QFrame::Sunken);
     m_TopLine->setGeometry(0, 0, Pixel(kBreite), 1);
     m_TopLine->setAttribute(Qt::WA_TransparentForMouseEvents);
     setMenuBar(m_menue);
     m_Fra_Rest->Frame8->Cmd_Simulate->setDefault(true);
+    // The button owns it.
+    new Entertaste(m_Fra_Rest->Frame8->Cmd_Simulate);
     m_Fra_Einstellungen->NimmFokus();
     // No control takes what is dragged in from elsewhere.
     for (QLineEdit* const eingabe : findChildren<QLineEdit*>()) {
@@ -85,6 +103,19 @@ void frmMain::LegeAus() {
     for (QTableView* const kalenderblatt : findChildren<QTableView*>()) {
         kalenderblatt->installEventFilter(this);
     }
+}
+
+QSize frmMain::GroesseAuf(const QSize& bildschirm) {
+    const QSize ganz(Pixel(kBreite), Pixel(kHoehe));
+    if (ganz.boundedTo(bildschirm) == ganz) {
+        return ganz;
+    }
+    constexpr QSize kRahmen(8, 36);
+    return ganz.boundedTo(bildschirm - kRahmen);
+}
+
+void frmMain::PasseAnBildschirmAn() {
+    setFixedSize(GroesseAuf(screen()->availableSize()));
 }
 
 void frmMain::LadeBilder() {
@@ -207,9 +238,6 @@ void frmMain::SetzeHeute() {
 
 void frmMain::mnu_UpdateCheck_Click() {
     const auto geladen = m_umgebung.Netz.Hole(Versionsdatei());
-    if (m_geschlossen) {
-        return;
-    }
     if (!geladen) {
         m_umgebung.Boxen.Zeige(Versionsfehler());
     } else if (m_umgebung.Boxen.Stelle(Versionsfrage(*geladen))) {
@@ -232,7 +260,7 @@ void frmMain::Cmd_ApplySkin_Click() {
         const auto ordner = m_umgebung.Programmordner / "img" / "skins" / kLandeordner;
         ApplySkin(kWebskin, {}, *m_Fra_Rest, m_umgebung.Programmordner);
         const auto ausgang = HoleWebskin(pfad.text().toStdString(), ordner, m_umgebung,
-                                         [this] { return !m_geschlossen; });
+                                         [this] { return !IstGeschlossen(); });
         ApplySkin(ausgang == Webskinausgang::AmEnde ? kLokalerSkin : kStandardskin, kLandeordner,
                   *m_Fra_Rest, m_umgebung.Programmordner);
         if (pfad.text().endsWith(QLatin1Char('/'))) {

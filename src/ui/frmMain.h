@@ -5,9 +5,12 @@
 #include <QAction>
 #include <QFrame>
 #include <QMainWindow>
+#include <QScrollArea>
+#include <QTimer>
 #include <filesystem>
 #include <memory>
 
+#include "persistence/Autosave.h"
 #include "persistence/Konfiguration.h"
 #include "plan/Plan.h"
 #include "simulation/Ergebnistexte.h"
@@ -39,11 +42,15 @@ class frmMain : public QMainWindow {
     [[nodiscard]] const Plan& DerPlan() const { return m_plan; }
     [[nodiscard]] const Lauf& DerLauf() const { return m_lauf; }
 
+    /// The window's size on a screen with this much room, in pixels: its own, or what there is.
+    [[nodiscard]] static QSize GroesseAuf(const QSize& bildschirm);
+
     /// Reads the configuration, shows the window, and brings the starter plan or the last plan
     /// back.
     void Form_Load();
-    /// Takes the plan of a file and runs it. `Silent` keeps quiet about an empty list.
-    void LoadBauliste(const std::filesystem::path& File, bool Silent);
+    /// Takes the plan of a file and runs it. `Silent` keeps quiet about an empty list. False, with
+    /// a message, if the file holds no plan.
+    bool LoadBauliste(const std::filesystem::path& File, bool Silent);
     /// Runs the plan and shows what it came to. `silent` keeps quiet about an empty list.
     void StarteSimulation(bool silent);
 
@@ -55,6 +62,7 @@ class frmMain : public QMainWindow {
 
   private:
     void LegeAus();
+    void PasseAnBildschirmAn();
     void LadeBilder();
     void Verbinde();
     void BaueMenue();
@@ -67,11 +75,16 @@ class frmMain : public QMainWindow {
     void WarteAufBildschirm();
     void SetzeHeute();
     void LiesSkin();
-    void ErsterStart();
-    void StelleWiederHer();
-    [[nodiscard]] std::filesystem::path Autosave() const;
-    void LadeLetzten();
-    void Form_Unload();
+    void BringePlan();
+    /// Whether a starter plan was loaded and stored.
+    bool ErsterStart();
+    /// Whether the last plan was loaded.
+    bool StelleWiederHer(const std::optional<Profil>& letzter);
+    void LadeLetzten(const std::optional<Profil>& letzter);
+    bool LoadBauliste(const std::optional<Profil>& profil, const std::filesystem::path& File,
+                      bool Silent);
+    void Form_Unload(bool mitPlan);
+    [[nodiscard]] bool IstGeschlossen() const { return m_abschnitt == Abschnitt::Geschlossen; }
 
     void mnu_DateiNeu_Click();
     void mnu_DateiLaden_Click();
@@ -101,10 +114,14 @@ class frmMain : public QMainWindow {
 
     const Umgebung& m_umgebung;
     Konfiguration m_konfiguration;
+    Autosave m_autosave;
+    QTimer m_Tmr_Autosave{this};
     Plan m_plan;
     Lauf m_lauf;
     Ergebnistexte m_texte;
 
+    /// Moves the surface on a screen that has no room for it.
+    QScrollArea* m_rollflaeche;
     QWidget* m_flaeche;
     // In the order in which Tab goes through them: what lies above comes first.
     Fra_Einstellungen* m_Fra_Einstellungen;
@@ -118,7 +135,9 @@ class frmMain : public QMainWindow {
     /// Windows of their own, made at their first use.
     std::unique_ptr<frmAbout> m_frmAbout;
     std::unique_ptr<frmDonate> m_frmDonate;
-    bool m_geschlossen = false;
+    /// How far the window has come. The plan is the user's own when the start is over.
+    enum class Abschnitt { Vorher, Start, Arbeit, Geschlossen };
+    Abschnitt m_abschnitt = Abschnitt::Vorher;
 };
 
 }  // namespace tarvelin

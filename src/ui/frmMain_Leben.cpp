@@ -6,6 +6,8 @@
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QWindow>
+#include <chrono>
+#include <utility>
 
 #include "persistence/Planablage.h"
 #include "ui/Skinbilder.h"
@@ -15,13 +17,38 @@
 namespace tarvelin {
 
 void frmMain::Form_Load() {
+    if (IstGeschlossen()) {
+        return;
+    }
     m_Fra_Skin->FillSkinList();
     m_alarme->LiesKonfiguration();
     LiesSkin();
+    m_abschnitt = Abschnitt::Start;
     show();
+    connect(windowHandle(), &QWindow::screenChanged, this, &frmMain::PasseAnBildschirmAn);
     WarteAufBildschirm();
-    ErsterStart();
-    StelleWiederHer();
+    if (m_umgebung.Starthinweis) {
+        m_umgebung.Boxen.Zeige(*m_umgebung.Starthinweis);
+    }
+    if (!IstGeschlossen()) {
+        BringePlan();
+    }
+    if (!IstGeschlossen()) {
+        m_abschnitt = Abschnitt::Arbeit;
+        constexpr std::chrono::seconds kTakt(4);
+        m_Tmr_Autosave.start(kTakt);
+    }
+}
+
+// The starter plan takes the place of the last plan's file before the player is asked about that.
+void frmMain::BringePlan() {
+    const bool lagDa = FileExists(m_autosave.Datei());
+    const auto letzter = Profil::Lade(m_autosave.Datei(), m_umgebung.Dateien);
+    const bool starterplan = ErsterStart();
+    const bool wieder = lagDa && StelleWiederHer(letzter);
+    if (!(starterplan && wieder)) {
+        m_autosave.GiltAlsGeschrieben(m_plan);
+    }
 }
 
 // A box that comes up before the window has its place would lie beside it.
@@ -44,62 +71,71 @@ void frmMain::LiesSkin() {
               *m_Fra_Rest, m_umgebung.Programmordner);
 }
 
-void frmMain::ErsterStart() {
+bool frmMain::ErsterStart() {
     if (!m_konfiguration.IstAn(Konfiguration::kFirststart)) {
-        return;
+        return false;
     }
     const auto starterplan = m_umgebung.Programmordner / "saves" / "basic.tvf";
+    bool gespeichert = false;
     if (FileExists(starterplan)) {
-        LoadBauliste(starterplan, false);
-        std::error_code ohneWort;
-        std::filesystem::remove(starterplan, ohneWort);
+        const bool geladen = LoadBauliste(starterplan, false);
+        gespeichert = geladen && m_autosave.Schreibe(m_plan);
+        // Where it can't be stored it stays.
+        if (gespeichert || !geladen) {
+            m_umgebung.Dateien.Loesche(starterplan);
+        }
     }
     m_konfiguration.Schreibe({{Konfiguration::kFirststart, "0"}});
+    return gespeichert;
 }
 
-void frmMain::StelleWiederHer() {
-    if (!FileExists(Autosave())) {
-        return;
-    }
+bool frmMain::StelleWiederHer(const std::optional<Profil>& letzter) {
     const auto entscheidung = EntscheideWiederherstellung(m_konfiguration);
     if (entscheidung == Wiederherstellung::Ungefragt) {
-        LadeLetzten();
+        LadeLetzten(letzter);
     }
-    if (entscheidung != Wiederherstellung::Fragen) {
-        return;
+    if (entscheidung != Wiederherstellung::Fragen || IstGeschlossen()) {
+        return entscheidung == Wiederherstellung::Ungefragt;
     }
     const auto frage = [this](const char* text) {
         return m_umgebung.Boxen.Stelle(
             {.Text = text, .Titel = "Wiederherstellen...", .Symbol = Meldungssymbol::Frage});
     };
     const bool ja = frage("Möchtest du die letzte Bauliste wiederherstellen?");
-    if (frage("Bei jedem Start so verfahren?")) {
+    const bool immer = frage("Bei jedem Start so verfahren?");
+    if (IstGeschlossen()) {
+        // The end of the program is no answer.
+        return false;
+    }
+    if (immer) {
         m_konfiguration.Schreibe({{Konfiguration::kAlwaysDoSo, "1"}});
     }
     if (ja) {
-        LadeLetzten();
+        LadeLetzten(letzter);
     }
     m_konfiguration.Schreibe({{Konfiguration::kRecover, ja ? "1" : "0"}});
+    return ja;
 }
 
-std::filesystem::path frmMain::Autosave() const {
-    return m_umgebung.Programmordner / "saves" / "autosave.tvf";
-}
-
-void frmMain::LadeLetzten() {
-    LoadBauliste(Autosave(), true);
+void frmMain::LadeLetzten(const std::optional<Profil>& letzter) {
+    LoadBauliste(letzter, m_autosave.Datei(), true);
     m_Fra_Einstellungen->hide();
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-    if (!m_geschlossen) {
-        m_geschlossen = true;
-        Form_Unload();
+    const Abschnitt bisher = std::exchange(m_abschnitt, Abschnitt::Geschlossen);
+    if (bisher != Abschnitt::Geschlossen) {
+        m_umgebung.Boxen.Beende();
+    }
+    if (bisher == Abschnitt::Start || bisher == Abschnitt::Arbeit) {
+        // Until the start is over the plan isn't the user's.
+        Form_Unload(bisher == Abschnitt::Arbeit);
     }
     QMainWindow::closeEvent(event);
 }
 
-void frmMain::Form_Unload() {
+void frmMain::Form_Unload(bool mitPlan) {
+    m_Tmr_Autosave.stop();
     m_alarme->Verstumme();
     m_umgebung.Netz.BrichAb();
     const Byte quelle = m_Fra_Skin->Quelle();
@@ -115,7 +151,9 @@ void frmMain::Form_Unload() {
          {Konfiguration::kBaulistenwecker, schalter(*m_Fra_Rest->Frame6->Chk_BauWeckfunktion)},
          {Konfiguration::kSchlafzeitenwecker, schalter(*m_Fra_Sleep->Chk_Schlafzeitenwecker)},
          {Konfiguration::kItemCount, std::to_string(m_plan.Liste.Zeilen().size())}});
-    SaveBauliste(Autosave(), m_plan, m_umgebung.Dateien);
+    if (mitPlan) {
+        m_autosave.SchreibeZuletzt(m_plan);
+    }
 }
 
 void frmMain::mnu_DateiNeu_Click() {
@@ -141,26 +179,32 @@ void frmMain::mnu_DateiLaden_Click() {
 void frmMain::mnu_Datei_Speichern_Click() {
     const auto datei = m_umgebung.Boxen.FragNachDatei(Dialoge::Zweck::Speichern,
                                                       m_umgebung.Programmordner / "saves");
-    if (!datei.empty()) {
-        SaveBauliste(datei, m_plan, m_umgebung.Dateien);
+    if (!datei.empty() && !SaveBauliste(datei, m_plan, m_umgebung.Dateien)) {
+        m_umgebung.Boxen.Zeige(Speicherfehler());
     }
 }
 
-void frmMain::LoadBauliste(const std::filesystem::path& File, bool Silent) {
-    const auto profil = Profil::Lade(File, m_umgebung.Dateien);
+bool frmMain::LoadBauliste(const std::filesystem::path& File, bool Silent) {
+    return LoadBauliste(Profil::Lade(File, m_umgebung.Dateien), File, Silent);
+}
+
+bool frmMain::LoadBauliste(const std::optional<Profil>& profil, const std::filesystem::path& File,
+                           bool Silent) {
     if (!profil) {
         m_umgebung.Boxen.Zeige(Ladefehler());
-        return;
+        return false;
     }
     Cmd_Clear_Click();
     Standmeldungen meldungen([this] { ZeigePlan(); }, m_umgebung.Boxen);
-    if (LadePlan(*profil, m_plan, m_lauf.Planet, meldungen)) {
-        ZeigePlan();
-        // The toolkit takes the lone sign for a place of its own.
-        setWindowTitle(AlsQString(FenstertitelMit(File))
-                           .replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
-        StarteSimulation(Silent);
+    if (!LadePlan(*profil, m_plan, m_lauf.Planet, meldungen)) {
+        return false;
     }
+    ZeigePlan();
+    // The toolkit takes the lone sign for a place of its own.
+    setWindowTitle(
+        AlsQString(FenstertitelMit(File)).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+    StarteSimulation(Silent);
+    return true;
 }
 
 }  // namespace tarvelin

@@ -1,13 +1,17 @@
 // Starts the window.
 #include <QDateTime>
 #include <QDesktopServices>
+#include <QDir>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QUrl>
 
 #include "persistence/Programmordner.h"
+#include "persistence/Schreibschutz.h"
 #include "ui/Aussehen.h"
 #include "ui/Bauteile.h"
+#include "ui/Endesignale.h"
 #include "ui/Klangausgabe.h"
 #include "ui/Meldungsfenster.h"
 #include "ui/Netzabruf.h"
@@ -29,17 +33,35 @@ void OeffneSeite(const std::string& adresse) {
     QDesktopServices::openUrl(QUrl::fromEncoded(QByteArray::fromStdString(adresse)));
 }
 
+/// Empty for a user without a home.
 std::filesystem::path Nutzerordner() {
+    if (QDir::homePath() == QDir::rootPath() && !qEnvironmentVariableIsSet("XDG_DATA_HOME")) {
+        return {};
+    }
     return tarvelin::AlsPfad(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+}
+
+tarvelin::Meldung OhneNutzerordner() {
+    return {.Text =
+                "Für deine Baulisten und Einstellungen kann kein Ordner angelegt werden: sie "
+                "werden beim Beenden nicht behalten.\r\n\r\nSpeichere deine Bauliste selbst "
+                "(Datei, Speichern) an einem Ort, an dem du schreiben kannst.",
+            .Titel = "Tarvelin",
+            .Symbol = tarvelin::Meldungssymbol::Warnung};
 }
 
 }  // namespace
 
-int main(int argc, char** argv) {
-    QApplication programm(argc, argv);
+int main(int /*argc*/, char** argv) {
+    // The toolkit would take arguments of its own.
+    int anzahl = 1;
+    QApplication programm(anzahl, argv);
     tarvelin::StelleAussehenEin(programm);
     // The toolkit's file dialog would keep a history of folders in the user's settings.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
+    const tarvelin::Programmordner ordner = tarvelin::BestimmeProgrammordner(
+        tarvelin::AlsPfad(QApplication::applicationDirPath()), Nutzerordner());
+    const tarvelin::Schreibschutz schutz(ordner.Ordner);
     tarvelin::Meldungsfenster boxen;
     tarvelin::Netzabruf netz;
     tarvelin::Klangausgabe ton;
@@ -49,9 +71,20 @@ int main(int argc, char** argv) {
         .Ton = ton,
         .Jetzt = Ortszeit,
         .OeffneSeite = OeffneSeite,
-        .Programmordner = tarvelin::BestimmeProgrammordner(
-            tarvelin::AlsPfad(QApplication::applicationDirPath()), Nutzerordner())};
+        .Programmordner = ordner.Ordner,
+        .Dateien = ordner.KannBehalten ? tarvelin::Platte() : schutz,
+        .Starthinweis = ordner.KannBehalten ? std::nullopt : std::optional(OhneNutzerordner())};
     tarvelin::frmMain fenster(umgebung);
-    fenster.Form_Load();
+    // Whatever is open closes with the window, and every event loop ends.
+    const auto beende = [&fenster] {
+        fenster.close();
+        QApplication::closeAllWindows();
+        QApplication::exit();
+    };
+    const tarvelin::Endesignale signale(beende);
+    QObject::connect(&programm, &QGuiApplication::commitDataRequest, &fenster, beende,
+                     Qt::DirectConnection);
+    // Within the event loop, which a signal can end.
+    QTimer::singleShot(0, &fenster, &tarvelin::frmMain::Form_Load);
     return QApplication::exec();
 }

@@ -1,0 +1,47 @@
+// The plan that outlasts a session, and the one of the session before.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "persistence/Planablage.h"
+
+namespace tarvelin {
+
+/// Keeps the user's plan in `saves/autosave.tvf`, each time in one step. Before its first change in
+/// a session the plan of the last one, if it has a row, goes to `saves/autosave-vorige.tvf` beside
+/// it.
+class Autosave {
+  public:
+    /// `system` must outlive it.
+    explicit Autosave(const std::filesystem::path& programmordner,
+                      const Dateisystem& system = Platte());
+
+    [[nodiscard]] const std::filesystem::path& Datei() const { return m_datei; }
+
+    /// Takes the plan for what is written.
+    void GiltAlsGeschrieben(const Plan& plan);
+
+    /// Writes the plan if it isn't the one that was written, or tried in vain, last.
+    void SchreibeGeaenderten(const Plan& plan);
+
+    /// Writes the plan. False if it can't be written; the file is then as it was.
+    bool Schreibe(const Plan& plan);
+
+    /// As `Schreibe`, at the last chance: even if the former plan can't be kept.
+    void SchreibeZuletzt(const Plan& plan);
+
+  private:
+    bool BewahreVorige(const Profil& vorige);
+    bool Schreibe(const Plan& plan, bool auchOhneVorige);
+
+    std::filesystem::path m_datei;
+    std::filesystem::path m_vorige;
+    const Dateisystem& m_system;
+    bool m_vorigeBewahrt = false;
+    /// The plan that was written or tried last, as a profile of its own.
+    std::optional<std::string> m_letzter;
+};
+
+}  // namespace tarvelin
