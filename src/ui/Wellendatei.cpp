@@ -23,17 +23,20 @@ std::uint32_t Zahl(std::string_view bytes, std::size_t stelle, std::size_t laeng
     return wert;
 }
 
-/// Samples as whole numbers or floats, one or two channels.
+/// Whole numbers as samples, in one or two channels, at a rate that a sound card knows.
 bool IstGutesFormat(std::string_view chunk) {
     constexpr std::size_t kFormatlaenge = 16;
+    constexpr std::uint32_t kLangsamste = 8000;
+    constexpr std::uint32_t kSchnellste = 192000;
     if (chunk.size() < kFormatlaenge) {
         return false;
     }
     const auto art = Zahl(chunk, 0, 2);
     const auto kanaele = Zahl(chunk, 2, 2);
+    const auto rate = Zahl(chunk, 4, 4);
     const auto bits = Zahl(chunk, 14, 2);
-    return (art == 1 || art == 3) && (kanaele == 1 || kanaele == 2) && Zahl(chunk, 4, 4) > 0 &&
-           (bits == 8 || bits == 16 || bits == 32);
+    return art == 1 && (kanaele == 1 || kanaele == 2) && rate >= kLangsamste &&
+           rate <= kSchnellste && (bits == 8 || bits == 16 || bits == 32);
 }
 
 bool IstWelle(std::string_view bytes) {
