@@ -22,7 +22,7 @@ void NimmBildAn(QDropEvent& event) {
 }  // namespace
 
 Baulistenansicht::Baulistenansicht(QWidget* parent)
-    : Liste(QStringLiteral("LV_Bauliste"), QStringLiteral("Bauliste"), {494, 3658, 924}, parent) {
+    : Liste(QStringLiteral("LV_Bauliste"), QStringLiteral("Bauliste"), {640, 3636, 800}, parent) {
     setHeaderHidden(true);
     setAcceptDrops(true);
 }

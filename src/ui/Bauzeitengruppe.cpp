@@ -2,7 +2,9 @@
 #include "ui/Bauzeitengruppe.h"
 
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QRegularExpressionValidator>
 
 namespace tarvelin {
@@ -21,6 +23,26 @@ Tabellenmodell::Quelle QuelleVon(const Bauzeiten& bauzeiten) {
             .Beschreibung =
                 [&bauzeiten](std::size_t zeile) { return AlsQString(bauzeiten[zeile].Tag()); }};
 }
+
+/// Takes what is typed and nothing that is pasted.
+class Sekundenfeld : public QLineEdit {
+  public:
+    explicit Sekundenfeld(QWidget* parent) : QLineEdit(parent) {
+        setContextMenuPolicy(Qt::NoContextMenu);
+    }
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (!event->matches(QKeySequence::Paste)) {
+            QLineEdit::keyPressEvent(event);
+        }
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        if (event->button() != Qt::MiddleButton) {
+            QLineEdit::mouseReleaseEvent(event);
+        }
+    }
+};
 
 }  // namespace
 
@@ -52,7 +74,7 @@ Bauzeitengruppe::Bauzeitengruppe(const Bauzeiten& bauzeiten, QWidget* parent)
 
 void Bauzeitengruppe::FuelleSekunden() {
     Comb_Before->setObjectName(QStringLiteral("Comb_Before"));
-    Comb_Before->setEditable(true);
+    Comb_Before->setLineEdit(new Sekundenfeld(Comb_Before));
     Comb_Before->setInsertPolicy(QComboBox::NoInsert);
     // What is typed stays as it is.
     Comb_Before->setCompleter(nullptr);

@@ -1,10 +1,11 @@
-// Proportional columns and a head whose captions are never cut.
+// Proportional columns and their head.
 #include "ui/Liste.h"
 
 #include <QMouseEvent>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QResizeEvent>
+#include <QToolTip>
 #include <algorithm>
 #include <numeric>
 #include <utility>
@@ -40,22 +41,24 @@ QString Listenkopf::Text(int spalte) const {
     return model()->headerData(spalte, Qt::Horizontal, Qt::DisplayRole).toString();
 }
 
-bool Listenkopf::Passt(int spalte) const {
-    return fontMetrics().horizontalAdvance(Text(spalte)) + 2 * kKopfrand <= sectionSize(spalte);
-}
-
-bool Listenkopf::AllePassen() const {
-    for (int spalte = 0; spalte < count(); ++spalte) {
-        if (!Passt(spalte)) {
-            return false;
-        }
-    }
-    return true;
+QString Listenkopf::Gekuerzt(int spalte) const {
+    return fontMetrics().elidedText(Text(spalte), Qt::ElideRight,
+                                    sectionSize(spalte) - 2 * kKopfrand);
 }
 
 QSize Listenkopf::sizeHint() const {
-    const int zeilen = AllePassen() ? 1 : 2;
-    return {QHeaderView::sizeHint().width(), zeilen * fontMetrics().height() + 2 * kKopfrand};
+    return {QHeaderView::sizeHint().width(), fontMetrics().height() + 2 * kKopfrand};
+}
+
+bool Listenkopf::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) {
+        return QHeaderView::viewportEvent(event);
+    }
+    const auto* const hilfe = static_cast<QHelpEvent*>(event);
+    const int spalte = logicalIndexAt(hilfe->pos());
+    const bool gekuerzt = spalte >= 0 && Gekuerzt(spalte) != Text(spalte);
+    QToolTip::showText(hilfe->globalPos(), gekuerzt ? Text(spalte) : QString(), this);
+    return true;
 }
 
 void Listenkopf::paintEvent(QPaintEvent* event) {
@@ -68,14 +71,9 @@ void Listenkopf::paintEvent(QPaintEvent* event) {
 }
 
 void Listenkopf::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {
-    const QString text = Text(logicalIndex);
-    const int zeile = fontMetrics().height();
-    const int oben = AllePassen() || !Passt(logicalIndex) ? kKopfrand : kKopfrand + zeile;
-    const int breite =
-        std::max(rect.width(), fontMetrics().horizontalAdvance(text) + 2 * kKopfrand);
     painter->setPen(palette().buttonText().color());
-    painter->drawText(QRect(rect.left() + kKopfrand, oben, breite, zeile),
-                      static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), text);
+    painter->drawText(rect.adjusted(kKopfrand, 0, -kKopfrand, 0),
+                      static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), Gekuerzt(logicalIndex));
 }
 
 Liste::Liste(const QString& name, const QString& bedeutung, std::vector<int> anteile,
@@ -120,6 +118,13 @@ bool Liste::viewportEvent(QEvent* event) {
 void Liste::resizeEvent(QResizeEvent* event) {
     QTreeView::resizeEvent(event);
     VerteileSpalten();
+}
+
+// The row that takes the place of a current one that goes isn't brought to sight.
+void Liste::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) {
+    setAutoScroll(false);
+    QTreeView::rowsAboutToBeRemoved(parent, start, end);
+    setAutoScroll(true);
 }
 
 void Liste::VerteileSpalten() {

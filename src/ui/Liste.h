@@ -7,8 +7,8 @@
 
 namespace tarvelin {
 
-/// The head of a list. A caption that is wider than its column runs on over its neighbours, on a
-/// line of its own, so that none is cut off.
+/// The head of a list, a line high. A caption that is wider than its column is shortened, and whole
+/// in a hint.
 class Listenkopf : public QHeaderView {
     Q_OBJECT
 
@@ -18,13 +18,13 @@ class Listenkopf : public QHeaderView {
     [[nodiscard]] QSize sizeHint() const override;
 
   protected:
+    bool viewportEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
 
   private:
     [[nodiscard]] QString Text(int spalte) const;
-    [[nodiscard]] bool Passt(int spalte) const;
-    [[nodiscard]] bool AllePassen() const;
+    [[nodiscard]] QString Gekuerzt(int spalte) const;
 };
 
 /// A table of rows. The columns divide the width of the list in fixed proportions; there is never
@@ -47,6 +47,7 @@ class Liste : public QTreeView {
     void mouseMoveEvent(QMouseEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
 
   private:
     void VerteileSpalten();
