@@ -1,6 +1,8 @@
 // Starts the tests of the window, without a screen unless a platform is named.
 #include <gtest/gtest.h>
 
+#include <QTemporaryDir>
+
 #include "ui/Aussehen.h"
 
 int main(int argc, char** argv) {
@@ -8,6 +10,9 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM",
                 "offscreen:configfile=" TARVELIN_QUELLEN "/tests/data/bildschirm.json");
     }
+    // The toolkit would make a folder that stays.
+    const QTemporaryDir laufzeit;
+    qputenv("XDG_RUNTIME_DIR", laufzeit.path().toUtf8());
     testing::InitGoogleTest(&argc, argv);
     QApplication programm(argc, argv);
     tarvelin::StelleAussehenEin(programm);

@@ -49,7 +49,7 @@ class Sekundenfeld : public QLineEdit {
 Bauzeitengruppe::Bauzeitengruppe(const Bauzeiten& bauzeiten, QWidget* parent)
     : Gruppe(QStringLiteral("Frame6"), QStringLiteral("Optimale Bauzeiten:"), parent),
       LV_Bauzeiten(new Liste(QStringLiteral("LV_Bauzeiten"), QStringLiteral("Optimale Bauzeiten"),
-                             {529, 1499, 2999}, this)),
+                             {720, 1450, 2857}, this)),
       Chk_BauWeckfunktion(new QCheckBox(QStringLiteral("Baustart-Alarm | X-sec vorher:"), this)),
       Comb_Before(new QComboBox(this)),
       ImgDonate_1(new Bildknopf(

@@ -8,6 +8,7 @@ namespace tarvelin {
 namespace {
 
 constexpr QColor kRand(110, 0, 0);
+constexpr QColor kLicht(255, 150, 150);
 
 }  // namespace
 
@@ -25,8 +26,10 @@ void Feld::paintEvent(QPaintEvent* event) {
     Gruppe::paintEvent(event);
     // Where panels lie over each other, this tells them apart.
     QPainter painter(this);
-    painter.setPen(kRand);
+    painter.setPen(Qt::black);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.setPen(kLicht);
+    painter.drawRect(rect().adjusted(1, 1, -2, -2));
 }
 
 QPushButton* Feld::NeuerHideKnopf(const QString& name) {

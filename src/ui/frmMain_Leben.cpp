@@ -149,9 +149,10 @@ void frmMain::Form_Unload(bool mitPlan) {
          {Konfiguration::kPath, pfad},
          {Konfiguration::kWebPath, m_Fra_Skin->txt_Pfad->text().toStdString()},
          {Konfiguration::kBaulistenwecker, schalter(*m_Fra_Rest->Frame6->Chk_BauWeckfunktion)},
-         {Konfiguration::kSchlafzeitenwecker, schalter(*m_Fra_Sleep->Chk_Schlafzeitenwecker)},
-         {Konfiguration::kItemCount, std::to_string(m_plan.Liste.Zeilen().size())}});
+         {Konfiguration::kSchlafzeitenwecker, schalter(*m_Fra_Sleep->Chk_Schlafzeitenwecker)}});
     if (mitPlan) {
+        m_konfiguration.Schreibe(
+            {{Konfiguration::kItemCount, std::to_string(m_plan.Liste.Zeilen().size())}});
         m_autosave.SchreibeZuletzt(m_plan);
     }
 }

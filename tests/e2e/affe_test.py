@@ -3,12 +3,9 @@
 crash, hang, or say what the program never says.
 
     affe_test.py FOLDER_OF_THE_PROGRAMS SEED ACTIONS
-
-The seed "heute" is another one each day.
 """
 import collections
 import contextlib
-import datetime
 import glob
 import os
 import random
@@ -48,9 +45,7 @@ TEXTE = [
     "Deine Version \\(v[\\d.]+\\) scheint (die aktuelle|NICHT die aktuelle \\(v.{0,256}\\))\\s?zu sein!\n"
     "Möglicherweise habe ich aber auch nur vergessen die Versions-Datei auf dem Server zu ändern"
     "\\.\\.\\.\n\nHersteller-Homepage aufrufen \\?",
-    # The toolkit's dialog for files.
-    ".*\nDatei nicht gefunden\\..*",
-    ".*\nDie Datei konnte nicht gefunden werden\\..*",
+    "Die Bauliste konnte nicht gespeichert werden\\.\\.\\.",
 ]
 KNOEPFE = {frozenset(["OK"]), frozenset(["Ja", "Nein"])}
 
@@ -195,6 +190,14 @@ class Affe:
             self.programm.prozess.wait(2)
         return ""
 
+    def beende_durch_signal(self):
+        """Asks it to end, whatever is open."""
+        zeichen = self.wuerfel.choice([signal.SIGTERM, signal.SIGHUP, signal.SIGINT])
+        self.zaehler[zeichen.name] += 1
+        self.programm.prozess.send_signal(zeichen)
+        self.programm.prozess.wait(30)
+        return ""
+
     def toete(self):
         """Kills it, now or while it saves."""
         if self.wuerfel.random() < 0.5:
@@ -206,7 +209,7 @@ class Affe:
 
     AKTIONEN = {klicke: 28, klicke_irgendwo: 12, klicke_doppelt: 4, ziehe_bild: 18, ziehe: 4,
                 drehe_rad: 5, tippe: 12, taste: 14, kuerzel: 2, info: 0.6, webskin: 0.3,
-                schliesse: 0.4, toete: 0.15}
+                schliesse: 0.4, beende_durch_signal: 0.2, toete: 0.15}
 
     # What the monkey's keeper looks at before each action.
 
@@ -340,5 +343,4 @@ if __name__ == "__main__":
         befehl = [sys.executable, *sys.argv, "--selbst"]
         ende = subprocess.call(befehl)
         sys.exit(subprocess.call(befehl) if ende == -signal.SIGSEGV else ende)
-    heute = datetime.date.today().toordinal()
-    main(sys.argv[1], heute if sys.argv[2] == "heute" else int(sys.argv[2]), int(sys.argv[3]))
+    main(sys.argv[1], int(sys.argv[2]), int(sys.argv[3]))

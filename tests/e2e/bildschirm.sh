@@ -3,9 +3,11 @@
 # card without loudspeakers.
 # SKALIERUNG=2 doubles the program's pixels.
 set -euo pipefail
-export XDG_RUNTIME_DIR
+export XDG_RUNTIME_DIR TMPDIR
 XDG_RUNTIME_DIR=$(mktemp -d)
 chmod 0700 "$XDG_RUNTIME_DIR"
+# Whatever is left there goes at the end.
+TMPDIR=$XDG_RUNTIME_DIR
 trap 'pulseaudio -k || true; rm -rf "$XDG_RUNTIME_DIR"' EXIT
 export QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_SCALE_FACTOR=${SKALIERUNG:-1}
 # The bus library of the accessibility bridge keeps its connection until the end.
