@@ -68,6 +68,17 @@ inline void SchreibeDatei(const std::filesystem::path& datei, std::string_view b
     std::ofstream(datei, std::ios::binary) << bytes;
 }
 
+/// A file in 16-bit units behind its mark, the low byte of each first or the high one.
+inline std::string InUtf16(const std::u16string& text, bool hochVorn) {
+    std::string bytes;
+    for (const char16_t einheit : u'\xFEFF' + text) {
+        const auto hoch = static_cast<char>(einheit >> 8U);
+        const auto niedrig = static_cast<char>(einheit & 0xFFU);
+        bytes += {hochVorn ? hoch : niedrig, hochVorn ? niedrig : hoch};
+    }
+    return bytes;
+}
+
 /// A plan of 18.11.2006 12:30 without a click buffer, its rows by codes parted by blanks.
 inline Plan PlanAus(std::string_view codes, const Startplanet& planet = Startplanet()) {
     Plan plan;
