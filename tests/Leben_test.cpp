@@ -2,6 +2,7 @@
 #include "Hilfen.h"
 #include "persistence/Konfiguration.h"
 #include "persistence/Programmordner.h"
+#include "persistence/modINI.h"
 #include "plan/Wecker.h"
 
 namespace tarvelin {
@@ -37,12 +38,34 @@ TEST(Konfiguration, UnbrauchbareWerteZaehlenAlsStandard) {
         EXPECT_EQ(konfiguration.Skinmodus(), modus) << text;
         EXPECT_FALSE(konfiguration.IstAn(Konfiguration::kBaulistenwecker)) << text;
     }
-    // Both spellings of a key, and of a section, lead to one place.
-    SchreibeDatei(ordner / "config.cfg",
-                  "[Soundsettings]\r\nAlertsound=/tmp/gong.wav\r\n[skinsettings]\r\n"
-                  "webpath=http://x\r\n");
-    EXPECT_EQ(konfiguration.Alertsound(), "/tmp/gong.wav");
-    EXPECT_EQ(konfiguration.Lies(Konfiguration::kWebPath), "http://x");
+}
+
+TEST(Konfiguration, KlangVomProgrammordnerOderGanzerPfad) {
+    const Ordner ordner;
+    const Konfiguration konfiguration(ordner / "");
+    EXPECT_EQ(konfiguration.Alertsound(), ordner / "mfx/alert.wav");
+    struct Fall {
+        const char* Wert;
+        /// From the program's folder; empty if the path stays.
+        const char* Posix;
+        const char* Windows;
+    };
+    for (const auto& [wert, posix, windows] :
+         {Fall{"mfx/gong.wav", "mfx/gong.wav", "mfx/gong.wav"},
+          Fall{"mfx\\gong.wav", "mfx/gong.wav", "mfx/gong.wav"},
+          Fall{"\\mfx\\gong.wav", "mfx/gong.wav", "mfx/gong.wav"},
+          Fall{"..\\gong.wav", "../gong.wav", "../gong.wav"},
+          Fall{"/töne/a\\b.wav", "", "töne/a/b.wav"}, Fall{"C:\\töne\\x.wav", "C:/töne/x.wav", ""},
+          Fall{"C:x.wav", "C:x.wav", "x.wav"}, Fall{"\\\\rechner\\x.wav", "rechner/x.wav", ""}}) {
+        WriteINI("Soundsettings", "alertsound", wert, ordner / "config.cfg");
+        const std::string_view ziel = kWindows ? windows : posix;
+        const auto alsPfad = [](std::string_view text) {
+            return std::filesystem::path(std::u8string(text.begin(), text.end()));
+        };
+        EXPECT_EQ(konfiguration.Alertsound(),
+                  ziel.empty() ? alsPfad(wert) : (ordner / "") / alsPfad(ziel))
+            << wert;
+    }
 }
 
 TEST(Konfiguration, SchreibtNebenFremdeZeilenUndVerliertSichOhneOrdner) {
@@ -58,7 +81,6 @@ TEST(Konfiguration, SchreibtNebenFremdeZeilenUndVerliertSichOhneOrdner) {
     const Konfiguration ohne(ordner / "fehlt");
     ohne.Schreibe({{Konfiguration::kFirststart, "0"}});
     EXPECT_EQ(ohne.Lies(Konfiguration::kFirststart), "1");
-    EXPECT_EQ(ohne.Alertsound(), ordner / "fehlt" / "mfx" / "alert.wav");
 }
 
 TEST(Wecker, KlingeltAufDieSekunde) {
