@@ -8,23 +8,47 @@
 namespace tarvelin {
 namespace {
 
-TEST(Konfiguration, WiederherstellungNachDenFruehrenAntworten) {
+TEST(Konfiguration, WiederherstellungNachDenFrueherenAntworten) {
+    using enum Wiederherstellung;
     const Ordner ordner;
     const Konfiguration konfiguration(ordner / "");
-    EXPECT_EQ(EntscheideWiederherstellung(konfiguration), Wiederherstellung::Fragen);
-    struct Fall {
-        const char* Recover;
-        const char* AlwaysDoSo;
-        Wiederherstellung Erwartet;
-    };
-    for (const auto& [recover, immer, erwartet] :
-         {Fall{"1", "1", Wiederherstellung::Ungefragt}, Fall{"0", "1", Wiederherstellung::Nicht},
-          Fall{"0", "0", Wiederherstellung::Fragen}, Fall{"x", "0", Wiederherstellung::Fragen},
-          Fall{"x", "1", Wiederherstellung::Nicht}, Fall{"1", "ja", Wiederherstellung::Nicht}}) {
-        konfiguration.Schreibe(
-            {{Konfiguration::kRecover, recover}, {Konfiguration::kAlwaysDoSo, immer}});
-        EXPECT_EQ(EntscheideWiederherstellung(konfiguration), erwartet) << recover << immer;
+    // By `AlwaysDoSo` from left to right; nothing stands for a key that is missing.
+    const std::array<const char*, 5> immer{nullptr, "0", "1", "ja", ""};
+    const std::vector<std::pair<const char*, std::array<Wiederherstellung, 5>>> faelle{
+        {nullptr, {Fragen, Fragen, Ungefragt, Nicht, Nicht}},
+        {"1", {Fragen, Fragen, Ungefragt, Nicht, Nicht}},
+        {"0", {Fragen, Fragen, Nicht, Nicht, Nicht}},
+        {"ja", {Fragen, Fragen, Nicht, Nicht, Nicht}},
+        {"", {Fragen, Fragen, Nicht, Nicht, Nicht}}};
+    for (const auto& [recover, erwartet] : faelle) {
+        for (std::size_t i = 0; i < immer.size(); ++i) {
+            SchreibeDatei(ordner / "config.cfg", "");
+            for (const auto& [key, wert] : {std::pair(Konfiguration::kRecover, recover),
+                                            std::pair(Konfiguration::kAlwaysDoSo, immer.at(i))}) {
+                if (wert != nullptr) {
+                    konfiguration.Schreibe({{key, wert}});
+                }
+            }
+            EXPECT_EQ(EntscheideWiederherstellung(konfiguration), erwartet.at(i))
+                << LiesDatei(ordner / "config.cfg");
+        }
     }
+}
+
+TEST(Konfiguration, FehlendeKeysLesenSichAlsStandard) {
+    const Ordner ordner;
+    const Konfiguration konfiguration(ordner / "");
+    for (const auto& [key, standard] :
+         {std::pair(Konfiguration::kBaulistenwecker, "0"),
+          std::pair(Konfiguration::kSchlafzeitenwecker, "0"), std::pair(Konfiguration::kMode, "1"),
+          std::pair(Konfiguration::kPath, "~"), std::pair(Konfiguration::kWebPath, "http://"),
+          std::pair(Konfiguration::kFirststart, "1"), std::pair(Konfiguration::kRecover, "1"),
+          std::pair(Konfiguration::kAlwaysDoSo, "0")}) {
+        EXPECT_EQ(konfiguration.Lies(key), standard) << key.Key;
+    }
+    // Another spelling leads to the same place.
+    SchreibeDatei(ordner / "config.cfg", "[skinsettings]\nwebpath=http://x\n");
+    EXPECT_EQ(konfiguration.Lies(Konfiguration::kWebPath), "http://x");
 }
 
 TEST(Konfiguration, UnbrauchbareWerteZaehlenAlsStandard) {
