@@ -34,16 +34,23 @@ class Merker final : public Meldungsausgabe {
     int Pieptoene = 0;
 };
 
-/// A folder of its own for a test, gone at its end.
+/// A new folder of its own, gone at the end of the test. Other runs of the tests share the place.
 class Ordner {
   public:
-    Ordner() : m_pfad(std::filesystem::path(testing::TempDir()) / Name()) {
-        std::filesystem::remove_all(m_pfad);
-        std::filesystem::create_directories(m_pfad);
+    Ordner() {
+        const std::filesystem::path ort = testing::TempDir();
+        const std::string name = "tarvelin-test-" + std::to_string(Platte().Prozess()) + "-";
+        int n = 0;
+        do {
+            m_pfad = ort / (name + std::to_string(++n));
+        } while (!std::filesystem::create_directory(m_pfad));
     }
     Ordner(const Ordner&) = delete;
     Ordner& operator=(const Ordner&) = delete;
-    ~Ordner() { std::filesystem::remove_all(m_pfad); }
+    ~Ordner() {
+        std::error_code fehler;
+        std::filesystem::remove_all(m_pfad, fehler);
+    }
 
     std::filesystem::path operator/(std::string_view name) const { return m_pfad / name; }
     [[nodiscard]] std::size_t Eintraege() const {
@@ -52,10 +59,6 @@ class Ordner {
     }
 
   private:
-    static std::string Name() {
-        const auto* const info = testing::UnitTest::GetInstance()->current_test_info();
-        return std::string("tarvelin-") + info->test_suite_name() + "-" + info->name();
-    }
     std::filesystem::path m_pfad;
 };
 
