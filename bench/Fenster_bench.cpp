@@ -14,12 +14,14 @@ namespace {
 class Stumm final : public Dialoge {
   public:
     void Zeige(const Meldung& /*meldung*/) override {}
+    bool ZeigeAbstellbar(const Meldung& /*meldung*/) override { return true; }
     void Piepton() override {}
     bool Stelle(const Frage& /*frage*/) override { return false; }
     std::filesystem::path FragNachDatei(Zweck /*zweck*/,
                                         const std::filesystem::path& /*ordner*/) override {
         return {};
     }
+    void Beende() override {}
 };
 
 class KeinNetz final : public Abruf {

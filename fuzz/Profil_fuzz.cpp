@@ -1,5 +1,6 @@
 // Any bytes as a profile file: what a write may change, and what comes back from it.
 #include <algorithm>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -7,17 +8,40 @@
 #include "Gesetze.h"
 #include "persistence/Profil.h"
 #include "util/Codepage1252.h"
+#include "util/Utf16.h"
 
 namespace tarvelin {
 namespace {
 
 using Zeilen = std::vector<std::string_view>;
 
-constexpr std::string_view kBytemarke = "\xEF\xBB\xBF";
+/// The mark of a file's encoding; empty for a file without one.
+std::string_view Bytemarke(std::string_view bytes) {
+    for (const std::string_view marke : {"\xEF\xBB\xBF", "\xFF\xFE", "\xFE\xFF"}) {
+        if (bytes.starts_with(marke)) {
+            return marke;
+        }
+    }
+    return {};
+}
 
-/// The lines of a file with their ends, LF, CR LF or CR, behind a mark of its encoding.
+std::optional<Bytefolge> Utf16(std::string_view bytes) {
+    const std::string_view marke = Bytemarke(bytes);
+    if (marke.size() != 2) {
+        return std::nullopt;
+    }
+    return marke.front() == '\xFF' ? Bytefolge::KleinesEndeVorn : Bytefolge::GrossesEndeVorn;
+}
+
+/// What stands behind the mark of a file, in 8 bits.
+std::string Inhalt(std::string_view bytes) {
+    const auto folge = Utf16(bytes);
+    bytes.remove_prefix(Bytemarke(bytes).size());
+    return folge ? AusUtf16(bytes, *folge) : std::string(bytes);
+}
+
+/// The lines of a text with their ends, LF, CR LF or CR.
 Zeilen ZeilenVon(std::string_view bytes) {
-    bytes.remove_prefix(bytes.starts_with(kBytemarke) ? kBytemarke.size() : 0);
     Zeilen zeilen;
     while (!bytes.empty()) {
         std::size_t ende = bytes.find_first_of("\r\n");
@@ -52,14 +76,17 @@ bool NurEineStelle(const Zeilen& alt, const Zeilen& neu) {
 }
 
 /// Names of sections and keys that stand in a file, as near as a glance finds them.
-std::vector<std::pair<std::string, std::string>> Namen(const Zeilen& zeilen) {
+std::vector<std::pair<std::string, std::string>> Namen(const Zeilen& zeilen, bool utf16) {
+    const auto name = [utf16](std::string_view text) {
+        return Aus1252(utf16 ? Nach1252(text) : std::string(text));
+    };
     std::vector<std::pair<std::string, std::string>> namen;
     std::string section;
     for (const std::string_view zeile : zeilen) {
         if (zeile.starts_with('[')) {
-            section = Aus1252(zeile.substr(1, zeile.find(']') - 1));
+            section = name(zeile.substr(1, zeile.find(']') - 1));
         } else if (const auto gleich = zeile.find('='); gleich != std::string_view::npos) {
-            namen.emplace_back(section, Aus1252(zeile.substr(0, gleich)));
+            namen.emplace_back(section, name(zeile.substr(0, gleich)));
         }
     }
     return namen;
@@ -90,14 +117,15 @@ void PruefeSchreiben(const std::string& datei, const std::string& section, const
     Profil profil(datei);
     profil.Schreibe(section, key, Aus1252(wert));
     const std::string nachher = profil.Bytes();
-    const Zeilen zeilen = ZeilenVon(datei);
-    Verlange(nachher.starts_with(kBytemarke) == datei.starts_with(kBytemarke),
-             "the mark of the encoding stays", nachher);
-    Verlange(NurEineStelle(zeilen, ZeilenVon(nachher)), "a write changes one line", nachher);
+    const std::string inhalt = Inhalt(datei);
+    const Zeilen zeilen = ZeilenVon(inhalt);
+    Verlange(Bytemarke(nachher) == Bytemarke(datei), "the mark of the encoding stays", nachher);
+    Verlange(NurEineStelle(zeilen, ZeilenVon(Inhalt(nachher))), "a write changes one line",
+             nachher);
 
     const Profil vorher(datei);
     const Profil gelesen(nachher);
-    for (const auto& [s, k] : Namen(zeilen)) {
+    for (const auto& [s, k] : Namen(zeilen, Utf16(datei).has_value())) {
         const bool selbst = Klein(s) == Klein(section) && Klein(k) == Klein(key);
         Verlange(
             selbst || gelesen.Lies(s, k, "-") == vorher.Lies(s, k, "-") || HatRand(s) || HatRand(k),
@@ -111,6 +139,24 @@ void PruefeSchreiben(const std::string& datei, const std::string& section, const
     Verlange(profil.Bytes() == nachher, "the same write again changes nothing", profil.Bytes());
 }
 
+/// The same file in 16 bits is changed and read alike.
+void PruefeUtf16(const std::string& datei, const std::string& section, const std::string& key,
+                 const std::string& wert) {
+    for (const auto folge : {Bytefolge::KleinesEndeVorn, Bytefolge::GrossesEndeVorn}) {
+        const auto in16 = [&](const std::string& bytes) {
+            return NachUtf16("\xEF\xBB\xBF" + Aus1252(bytes), folge);
+        };
+        Profil acht(datei);
+        Profil sechzehn(in16(datei));
+        Verlange(sechzehn.Lies(section, key, "-") == acht.Lies(section, key, "-"),
+                 "16 bits are read like 8", sechzehn.Lies(section, key, "-"));
+        acht.Schreibe(section, key, Aus1252(wert));
+        sechzehn.Schreibe(section, key, Aus1252(wert));
+        Verlange(sechzehn.Bytes() == in16(acht.Bytes()), "16 bits are written like 8",
+                 sechzehn.Bytes());
+    }
+}
+
 }  // namespace
 }  // namespace tarvelin
 
@@ -120,8 +166,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t lae
     const std::string section = eingabe.NimmTeil();
     const std::string key = eingabe.NimmTeil();
     const std::string wert = eingabe.NimmTeil();
-    const std::string datei(eingabe.Rest());
-    const Profil profil(datei);
+    std::string datei(eingabe.Rest());
+    if (Utf16(datei)) {
+        datei.resize(datei.size() - datei.size() % 2);
+    }
+    const Profil profil(eingabe.Rest());
     Verlange(profil.Bytes() == datei, "a profile keeps its bytes", datei);
     Verlange(Nach1252(profil.Lies(section, key, Aus1252(wert))).size() <= 255,
              "a value is 255 at most");
@@ -129,6 +178,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t lae
     static_cast<void>(Aus1252(Nach1252(datei)));
     if (IstName(section) && IstName(key)) {
         PruefeSchreiben(datei, Aus1252(section), Aus1252(key), wert);
+        if (Bytemarke(datei).empty()) {
+            PruefeUtf16(datei, Aus1252(section), Aus1252(key), wert);
+        }
     }
     return 0;
 }

@@ -20,6 +20,8 @@ saat=build/fuzz/saat
 mkdir -p "$saat"/{Plan,Profil}
 cp -r fuzz/saat/Texte "$saat"
 cp tests/data/golden/*.tvf data/saves/*.tvf "$saat/Plan"
+# One more in the encoding that its mark tells.
+{ printf '\xff\xfe' && iconv -f CP1252 -t UTF-16LE data/saves/basic.tvf; } >"$saat/Plan/utf16.tvf"
 for plan in "$saat"/Plan/*; do
     { printf 'Bauliste\x1fItem_001\x1fGM\x1f' && cat "$plan"; } >"$saat/Profil/${plan##*/}"
 done

@@ -558,9 +558,12 @@ TEST_F(Fensterleben, VersionsvergleichNimmtJedesZeichen) {
               std::pair(std::string("Version-Check..."), Meldungssymbol::Fehler));
     const std::string adresse = m_netz.Adressen.at(0);
     EXPECT_TRUE(adresse.ends_with("/tarvelinversion.txt"));
-    for (const auto& [inhalt, gleich] :
-         {std::pair("1.0.1", true), std::pair("1.0.1\r\n", false), std::pair("0.9.0", false),
-          std::pair("", false), std::pair("<b>1.0.1</b>", false)}) {
+    for (const auto& [inhalt, gleich] : std::vector<std::pair<std::string, bool>>{
+             {kVersion, true},
+             {kVersion + std::string("\r\n"), false},
+             {"0.9.0", false},
+             {"", false},
+             {std::string("<b>") + kVersion + "</b>", false}}) {
         m_netz.Dateien[adresse] = inhalt;
         Waehle("mnu_UpdateCheck");
         const std::string& text = m_boxen.Texte.back();
@@ -599,7 +602,7 @@ TEST_F(Fensterleben, InfofensterSindEinmaligUndFuehrenAufDieSeiten) {
     ASSERT_EQ(fenster("frmAbout").size(), 1U);
     QWidget& about = *fenster("frmAbout")[0];
     EXPECT_EQ(about.findChild<QLabel*>(QStringLiteral("lblVersion"))->text(),
-              QStringLiteral(" Version 1.0.1"));
+              QStringLiteral(" Version ") + QString::fromLatin1(kVersion));
     about.findChild<QAbstractButton*>(QStringLiteral("Label1"))->click();
     EXPECT_EQ(m_seiten, std::vector<std::string>{Homepage()});
     for (const Qt::Key taste : {Qt::Key_Escape, Qt::Key_Return}) {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <map>
 #include <numeric>
 #include <optional>
 #include <sstream>
@@ -107,7 +108,8 @@ class Buchhaltung {
     [[nodiscard]] Long Startzeile() const { return LongSumme(Start(), -m_puffer); }
 
     Befund Beginne() {
-        const Auftrag& order = m_zeilen[m_naechste].Order;
+        const BaulistenZeile& zeile = m_zeilen[m_naechste];
+        const Auftrag& order = zeile.Order;
         const Long start = Start();
         m_planet.VergeheZeit(LongSumme(start, -m_planet.Globale.secsgone.Sekunden()));
         if (order.Was == Auftrag::Art::Produktion) {
@@ -116,7 +118,7 @@ class Buchhaltung {
             m_planet.KrisMine.SetProdfaktor(static_cast<float>(order.Faktoren[1]) / kZehntel);
             m_planet.DeutMine.SetProdfaktor(static_cast<float>(order.Faktoren[2]) / kZehntel);
             m_offen.push_back({start, std::nullopt});
-        } else if (const Befund befund = BeginneItem(order, start); !befund.empty()) {
+        } else if (const Befund befund = BeginneItem(zeile, start); !befund.empty()) {
             return befund;
         }
         const GlobaleVariablen& globale = m_planet.Globale;
@@ -127,14 +129,15 @@ class Buchhaltung {
         return {};
     }
 
-    Befund BeginneItem(const Auftrag& order, Long start) {
+    Befund BeginneItem(const BaulistenZeile& zeile, Long start) {
         GlobaleVariablen& globale = m_planet.Globale;
-        cItem& item = m_planet.Item(order.Item);
+        cItem& item = m_planet.Item(zeile.Order.Item);
         const Kosten preis = item.GetKosten(item.GetStufe());
         m_unklar = start == kEndeDerUhr ||
                    (preis.Deuterium > 0 && globale.DeuteriumProStunde <= Festkomma() &&
                     globale.Stufe(ItemId::SKW) == 0 && globale.Stufe(ItemId::DeutMine) == 0);
-        Long& frei = m_frei[static_cast<std::size_t>(order.Queue)];
+        // The code's first letter names the queue, whatever the run thinks.
+        Long& frei = m_frei[zeile.Tag.front()];
         if (!m_unklar && start < frei) {
             return "row " + std::to_string(m_naechste + 1) + " starts within its queue's last one";
         }
@@ -143,7 +146,7 @@ class Buchhaltung {
         globale.Deuterium = globale.Deuterium - Festkomma::AusDouble(preis.Deuterium);
         m_ausgegeben += preis.Metall + preis.Kristall + preis.Deuterium;
         frei = HalfEvenLong(start + item.GetUpgradeTime());
-        m_offen.push_back({frei, order.Item});
+        m_offen.push_back({frei, zeile.Order.Item});
         return {};
     }
 
@@ -185,7 +188,7 @@ class Buchhaltung {
     int m_schulden;
     Startplanet m_planet;
     std::vector<Finish> m_offen;
-    std::array<Long, 4> m_frei{};
+    std::map<char, Long> m_frei;
     std::size_t m_naechste = 0;
     double m_ausgegeben = 0;
     bool m_unklar = false;

@@ -34,16 +34,23 @@ class Merker final : public Meldungsausgabe {
     int Pieptoene = 0;
 };
 
-/// A folder of its own for a test, gone at its end.
+/// A new folder of its own, gone at the end of the test. Other runs of the tests share the place.
 class Ordner {
   public:
-    Ordner() : m_pfad(std::filesystem::path(testing::TempDir()) / Name()) {
-        std::filesystem::remove_all(m_pfad);
-        std::filesystem::create_directories(m_pfad);
+    Ordner() {
+        const std::filesystem::path ort = testing::TempDir();
+        const std::string name = "tarvelin-test-" + std::to_string(Platte().Prozess()) + "-";
+        int n = 0;
+        do {
+            m_pfad = ort / (name + std::to_string(++n));
+        } while (!std::filesystem::create_directory(m_pfad));
     }
     Ordner(const Ordner&) = delete;
     Ordner& operator=(const Ordner&) = delete;
-    ~Ordner() { std::filesystem::remove_all(m_pfad); }
+    ~Ordner() {
+        std::error_code fehler;
+        std::filesystem::remove_all(m_pfad, fehler);
+    }
 
     std::filesystem::path operator/(std::string_view name) const { return m_pfad / name; }
     [[nodiscard]] std::size_t Eintraege() const {
@@ -52,10 +59,6 @@ class Ordner {
     }
 
   private:
-    static std::string Name() {
-        const auto* const info = testing::UnitTest::GetInstance()->current_test_info();
-        return std::string("tarvelin-") + info->test_suite_name() + "-" + info->name();
-    }
     std::filesystem::path m_pfad;
 };
 
@@ -66,6 +69,17 @@ inline std::string LiesDatei(const std::filesystem::path& datei) {
 
 inline void SchreibeDatei(const std::filesystem::path& datei, std::string_view bytes) {
     std::ofstream(datei, std::ios::binary) << bytes;
+}
+
+/// A file in 16-bit units behind its mark, the low byte of each first or the high one.
+inline std::string InUtf16(const std::u16string& text, bool hochVorn) {
+    std::string bytes;
+    for (const char16_t einheit : u'\xFEFF' + text) {
+        const auto hoch = static_cast<char>(einheit >> 8U);
+        const auto niedrig = static_cast<char>(einheit & 0xFFU);
+        bytes += {hochVorn ? hoch : niedrig, hochVorn ? niedrig : hoch};
+    }
+    return bytes;
 }
 
 /// A plan of 18.11.2006 12:30 without a click buffer, its rows by codes parted by blanks.

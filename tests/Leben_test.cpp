@@ -7,28 +7,53 @@
 #include "persistence/Konfiguration.h"
 #include "persistence/Programmordner.h"
 #include "persistence/Schreibschutz.h"
+#include "persistence/modINI.h"
 #include "plan/Wecker.h"
 
 namespace tarvelin {
 namespace {
 
-TEST(Konfiguration, WiederherstellungNachDenFruehrenAntworten) {
+TEST(Konfiguration, WiederherstellungNachDenFrueherenAntworten) {
+    using enum Wiederherstellung;
     const Ordner ordner;
     const Konfiguration konfiguration(ordner / "");
-    EXPECT_EQ(EntscheideWiederherstellung(konfiguration), Wiederherstellung::Fragen);
-    struct Fall {
-        const char* Recover;
-        const char* AlwaysDoSo;
-        Wiederherstellung Erwartet;
-    };
-    for (const auto& [recover, immer, erwartet] :
-         {Fall{"1", "1", Wiederherstellung::Ungefragt}, Fall{"0", "1", Wiederherstellung::Nicht},
-          Fall{"0", "0", Wiederherstellung::Fragen}, Fall{"x", "0", Wiederherstellung::Fragen},
-          Fall{"x", "1", Wiederherstellung::Nicht}, Fall{"1", "ja", Wiederherstellung::Nicht}}) {
-        konfiguration.Schreibe(
-            {{Konfiguration::kRecover, recover}, {Konfiguration::kAlwaysDoSo, immer}});
-        EXPECT_EQ(EntscheideWiederherstellung(konfiguration), erwartet) << recover << immer;
+    // By `AlwaysDoSo` from left to right; nothing stands for a key that is missing.
+    const std::array<const char*, 5> immer{nullptr, "0", "1", "ja", ""};
+    const std::vector<std::pair<const char*, std::array<Wiederherstellung, 5>>> faelle{
+        {nullptr, {Fragen, Fragen, Ungefragt, Nicht, Nicht}},
+        {"1", {Fragen, Fragen, Ungefragt, Nicht, Nicht}},
+        {"0", {Fragen, Fragen, Nicht, Nicht, Nicht}},
+        {"ja", {Fragen, Fragen, Nicht, Nicht, Nicht}},
+        {"", {Fragen, Fragen, Nicht, Nicht, Nicht}}};
+    for (const auto& [recover, erwartet] : faelle) {
+        for (std::size_t i = 0; i < immer.size(); ++i) {
+            SchreibeDatei(ordner / "config.cfg", "");
+            for (const auto& [key, wert] : {std::pair(Konfiguration::kRecover, recover),
+                                            std::pair(Konfiguration::kAlwaysDoSo, immer.at(i))}) {
+                if (wert != nullptr) {
+                    konfiguration.Schreibe({{key, wert}});
+                }
+            }
+            EXPECT_EQ(EntscheideWiederherstellung(konfiguration), erwartet.at(i))
+                << LiesDatei(ordner / "config.cfg");
+        }
     }
+}
+
+TEST(Konfiguration, FehlendeKeysLesenSichAlsStandard) {
+    const Ordner ordner;
+    const Konfiguration konfiguration(ordner / "");
+    for (const auto& [key, standard] :
+         {std::pair(Konfiguration::kBaulistenwecker, "0"),
+          std::pair(Konfiguration::kSchlafzeitenwecker, "0"), std::pair(Konfiguration::kMode, "1"),
+          std::pair(Konfiguration::kPath, "~"), std::pair(Konfiguration::kWebPath, "http://"),
+          std::pair(Konfiguration::kFirststart, "1"), std::pair(Konfiguration::kRecover, "1"),
+          std::pair(Konfiguration::kAlwaysDoSo, "0")}) {
+        EXPECT_EQ(konfiguration.Lies(key), standard) << key.Key;
+    }
+    // Another spelling leads to the same place.
+    SchreibeDatei(ordner / "config.cfg", "[skinsettings]\nwebpath=http://x\n");
+    EXPECT_EQ(konfiguration.Lies(Konfiguration::kWebPath), "http://x");
 }
 
 TEST(Konfiguration, UnbrauchbareWerteZaehlenAlsStandard) {
@@ -42,12 +67,34 @@ TEST(Konfiguration, UnbrauchbareWerteZaehlenAlsStandard) {
         EXPECT_EQ(konfiguration.Skinmodus(), modus) << text;
         EXPECT_FALSE(konfiguration.IstAn(Konfiguration::kBaulistenwecker)) << text;
     }
-    // Both spellings of a key, and of a section, lead to one place.
-    SchreibeDatei(ordner / "config.cfg",
-                  "[Soundsettings]\r\nAlertsound=/tmp/gong.wav\r\n[skinsettings]\r\n"
-                  "webpath=http://x\r\n");
-    EXPECT_EQ(konfiguration.Alertsound(), "/tmp/gong.wav");
-    EXPECT_EQ(konfiguration.Lies(Konfiguration::kWebPath), "http://x");
+}
+
+TEST(Konfiguration, KlangVomProgrammordnerOderGanzerPfad) {
+    const Ordner ordner;
+    const Konfiguration konfiguration(ordner / "");
+    EXPECT_EQ(konfiguration.Alertsound(), ordner / "mfx/alert.wav");
+    struct Fall {
+        const char* Wert;
+        /// From the program's folder; empty if the path stays.
+        const char* Posix;
+        const char* Windows;
+    };
+    for (const auto& [wert, posix, windows] :
+         {Fall{"mfx/gong.wav", "mfx/gong.wav", "mfx/gong.wav"},
+          Fall{"mfx\\gong.wav", "mfx/gong.wav", "mfx/gong.wav"},
+          Fall{"\\mfx\\gong.wav", "mfx/gong.wav", "mfx/gong.wav"},
+          Fall{"..\\gong.wav", "../gong.wav", "../gong.wav"},
+          Fall{"/töne/a\\b.wav", "", "töne/a/b.wav"}, Fall{"C:\\töne\\x.wav", "C:/töne/x.wav", ""},
+          Fall{"C:x.wav", "C:x.wav", "x.wav"}, Fall{"\\\\rechner\\x.wav", "rechner/x.wav", ""}}) {
+        WriteINI("Soundsettings", "alertsound", wert, ordner / "config.cfg");
+        const std::string_view ziel = kWindows ? windows : posix;
+        const auto alsPfad = [](std::string_view text) {
+            return std::filesystem::path(std::u8string(text.begin(), text.end()));
+        };
+        EXPECT_EQ(konfiguration.Alertsound(),
+                  ziel.empty() ? alsPfad(wert) : (ordner / "") / alsPfad(ziel))
+            << wert;
+    }
 }
 
 TEST(Konfiguration, SchreibtNebenFremdeZeilenUndVerliertSichOhneOrdner) {
@@ -63,7 +110,6 @@ TEST(Konfiguration, SchreibtNebenFremdeZeilenUndVerliertSichOhneOrdner) {
     const Konfiguration ohne(ordner / "fehlt");
     ohne.Schreibe({{Konfiguration::kFirststart, "0"}});
     EXPECT_EQ(ohne.Lies(Konfiguration::kFirststart), "1");
-    EXPECT_EQ(ohne.Alertsound(), ordner / "fehlt" / "mfx" / "alert.wav");
 }
 
 TEST(Wecker, KlingeltAufDieSekunde) {

@@ -1,4 +1,5 @@
 // Save files: format, laws of saving and loading, hostile bytes.
+#include "Gesetze.h"
 #include "Hilfen.h"
 
 namespace tarvelin {
@@ -116,6 +117,24 @@ TEST(Planablage, SchreibtInDieDateiOderGarNicht) {
     EXPECT_FALSE(SaveBauliste(ordner / "", plan));
     EXPECT_FALSE(SaveBauliste(ordner / "fehlt" / "plan.tvf", plan));
     EXPECT_EQ(ordner.Eintraege(), 1U);
+}
+
+TEST(Planablage, BleibtUtf16) {
+    const Ordner ordner;
+    const auto datei = ordner / "plan.tvf";
+    const std::string golden = LiesDatei(TARVELIN_GOLDEN "/regelwidrig-13.tvf");
+    const Ladung original(golden);
+    Profil ueber(golden);
+    SchreibePlan(Beispiel(), ueber);
+    const std::string neu = ueber.Bytes();
+    for (const bool hochVorn : {false, true}) {
+        SchreibeDatei(datei, InUtf16({golden.begin(), golden.end()}, hochVorn));
+        const Ladung ladung(LiesDatei(datei));
+        EXPECT_TRUE(ladung.Durchgelaufen);
+        EXPECT_EQ(Ergebnis(ladung.Geladen), Ergebnis(original.Geladen));
+        ASSERT_TRUE(SaveBauliste(datei, Beispiel()));
+        EXPECT_EQ(LiesDatei(datei), InUtf16({neu.begin(), neu.end()}, hochVorn));
+    }
 }
 
 }  // namespace

@@ -83,6 +83,40 @@ TEST(Profil, SchreibtUndLaesstAllesAndereStehen) {
     }
 }
 
+struct Utf16fall {
+    const char* Was;
+    std::u16string Vorher;
+    std::string Wert;
+    std::u16string Nachher;
+};
+
+TEST(Profil, HaeltUtf16MitJedemZeichen) {
+    // clang-format off
+    const std::vector<Utf16fall> faelle{
+        {"nur Marke", u"", "Standard", u"[Ä?]\r\nK=ü?\r\n"},
+        {"Umlaute", u"[Ä漢]\r\nK=äß€\r\n", "äß€", u"[Ä漢]\r\nK=ü?\r\n"},
+        {"nicht in der Codepage", u"[Ä😀]\n[Ä?]\nK=a漢b😀\n;漢", "a?b??", u"[Ä😀]\n[Ä?]\nK=ü?\r\n;漢"},
+        {"halbe Zeichen", u"\xDC00\n[Ä\xD800]\n\xD800=1\nK=a\xD83D", "a?", u"\xDC00\n[Ä\xD800]\n\xD800=1\nK=ü?\r\n"},
+        {"Bytes eines Zeilenendes", u"[Ä?]\nK=\x0A0D\x0D0A.", "??.", u"[Ä?]\nK=ü?\r\n"},
+        {"255 Zeichen", u"[Ä?]\nk=" + std::u16string(255, u'漢') + u"x", std::string(255, '?'), u"[Ä?]\nk=ü?\r\n"},
+        {"NUL", u"[Ä?]\nL=1\r\n\r\nK=v" + std::u16string(2, u'\0'), "v", u"[Ä?]\nL=1\r\n\r\nK=ü?\r\n"},
+        {"neue Zeile", u"[Ä?]\n\n;漢", "Standard", u"[Ä?]\n\n;漢\r\nK=ü?\r\n"},
+    };
+    // clang-format on
+    for (const Utf16fall& fall : faelle) {
+        for (const bool hochVorn : {false, true}) {
+            SCOPED_TRACE(std::string(fall.Was) + (hochVorn ? ", BE" : ", LE"));
+            const std::string vorher = InUtf16(fall.Vorher, hochVorn);
+            Profil profil(vorher + "x");  // half a unit, which goes
+            EXPECT_EQ(profil.Bytes(), vorher);
+            EXPECT_EQ(profil.Lies("Ä漢", "k", "Standard"), fall.Wert);
+            profil.Schreibe("Ä漢", "K", "ü漢");
+            EXPECT_EQ(profil.Bytes(), InUtf16(fall.Nachher, hochVorn));
+            EXPECT_EQ(profil.Lies("Ä?", "K", ""), "ü?");
+        }
+    }
+}
+
 TEST(ModINI, GehtBeiJedemAufrufAnDieDatei) {
     const Ordner ordner;
     const auto datei = ordner / "config.cfg";

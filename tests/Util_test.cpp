@@ -71,6 +71,49 @@ TEST(Zahlentext, SchreibtSchlichteDezimalzahlen) {
     EXPECT_EQ(Ganztext(std::ldexp(1.0, 80)), "1208925819614629174706176");
 }
 
+TEST(Datumzeit, LiestNurDieseTexte) {
+    const auto gelesen = [](const char* text) {
+        const auto zeit = LiesDatumzeit(text);
+        return zeit ? Datumzeittext(*zeit) : "-";
+    };
+    for (const auto& [text, zeit] : {std::pair("1.2.06 3:4", "01.02.2006 03:04:00"),
+                                     std::pair("01.02.2006 03:04:5", "01.02.2006 03:04:05"),
+                                     std::pair("29.02.29 23:59:59", "-"),
+                                     std::pair("28.02.29 23:59:59", "28.02.2029 23:59:59"),
+                                     std::pair("28.02.30 00:00:00", "28.02.1930 00:00:00"),
+                                     std::pair("29.02.2000 00:00", "29.02.2000 00:00:00"),
+                                     std::pair("01.01.0100 00:00", "01.01.0100 00:00:00")}) {
+        EXPECT_EQ(gelesen(text), zeit) << text;
+    }
+    for (const char* const text : {"18.11.206 12:30",
+                                   "18.11.0099 12:30",
+                                   "18.11.20006 12:30",
+                                   "18.11.6 12:30",
+                                   "018.11.2006 12:30",
+                                   "18.011.2006 12:30",
+                                   "18.11.2006 012:30",
+                                   "18.11.2006 12:030",
+                                   "18.11.2006 12:30:000",
+                                   "18.11.2006 12:30:",
+                                   "18.11.2006 24:00",
+                                   "18.11.2006 12:60",
+                                   "18.11.2006 12:30:60",
+                                   "00.11.2006 12:30",
+                                   "31.11.2006 12:30",
+                                   "18.13.2006 12:30",
+                                   "29.02.1900 12:30",
+                                   " 18.11.2006 12:30",
+                                   "18.11.2006 12:30 ",
+                                   "18.11.2006  12:30",
+                                   "18.11.2006",
+                                   "18.11.2006 12",
+                                   "-1.11.2006 12:30",
+                                   "18/11/2006 12:30",
+                                   ""}) {
+        EXPECT_EQ(gelesen(text), "-") << text;
+    }
+}
+
 TEST(Datumzeit, KenntWochentageUndGrosseJahre) {
     const Zeitpunkt samstag = *LiesDatumzeit("18.11.2006 23:59:59");
     EXPECT_EQ(WochentagKurz(samstag), "Sa");
@@ -130,7 +173,7 @@ TEST(Codepage1252, KommtMitJedemByteZurueck) {
     }
     EXPECT_EQ(Nach1252(Aus1252(alle)), alle);
     EXPECT_EQ(Aus1252("\x80\xE4"), "€ä");
-    EXPECT_EQ(Nach1252("\xE0\x81\x81\xC0\xAF"), "?????");
+    EXPECT_EQ(Nach1252("\xE0\x81\x81\xC0\xAF\xF4\x90\x80\x80"), "?????????");
     EXPECT_EQ(Nach1252("漢\xF0\x9F\x98\x80 \xFFx\xC3"), "?? ?x?");
 }
 

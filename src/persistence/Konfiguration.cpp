@@ -1,10 +1,29 @@
 // Keys of the configuration file.
 #include "persistence/Konfiguration.h"
 
+#include <algorithm>
+
 #include "persistence/modINI.h"
 #include "util/Zahlentext.h"
 
 namespace tarvelin {
+
+namespace {
+
+/// Where a path leads that a user wrote, with either separator: never by the current directory.
+std::filesystem::path VomOrdner(const std::filesystem::path& ordner, std::string text) {
+    const auto alsPfad = [&] {
+        return std::filesystem::path(std::u8string(text.begin(), text.end()));
+    };
+    if (alsPfad().is_absolute()) {
+        return alsPfad();
+    }
+    std::ranges::replace(text, '\\', '/');
+    // A root that is left names no place of its own: a leading separator, or a drive alone.
+    return ordner / alsPfad().relative_path();
+}
+
+}  // namespace
 
 Konfiguration::Konfiguration(std::filesystem::path programmordner, const Dateisystem& system)
     : m_programmordner(std::move(programmordner)),
@@ -29,7 +48,7 @@ std::filesystem::path Konfiguration::Alertsound() const {
     constexpr std::string_view kFehlt = "*";
     const std::string datei = ReadINI("SoundSettings", "Alertsound", m_datei, kFehlt, m_system);
     return datei == kFehlt ? m_programmordner / "mfx" / "alert.wav"
-                           : std::filesystem::path(std::u8string(datei.begin(), datei.end()));
+                           : VomOrdner(m_programmordner, datei);
 }
 
 void Konfiguration::Schreibe(const Werte& werte) const {

@@ -45,7 +45,9 @@ class Konfiguration {
     /// The kind of skin, from 0 to 255: 1 standard, 2 local, 3 web. A text that is no such number
     /// counts as 1.
     [[nodiscard]] Byte Skinmodus() const;
-    /// The sound of the alarms; only the user enters another one than ours.
+    /// The sound of the alarms; only the user enters another one than ours. A path that isn't an
+    /// absolute one of the platform, or begins with a backslash, is meant from the program's
+    /// folder.
     [[nodiscard]] std::filesystem::path Alertsound() const;
 
     /// Writes keys one after the other, each in one step. A write that fails is lost without a

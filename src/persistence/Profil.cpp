@@ -2,6 +2,7 @@
 #include "persistence/Profil.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "util/Codepage1252.h"
@@ -11,7 +12,10 @@ namespace tarvelin {
 namespace {
 
 constexpr std::string_view kZeilenende = "\r\n";
-constexpr std::string_view kBytemarke = "\xEF\xBB\xBF";
+constexpr std::array<std::pair<std::string_view, std::optional<Bytefolge>>, 3> kBytemarken{
+    {{"\xEF\xBB\xBF", std::nullopt},
+     {"\xFF\xFE", Bytefolge::KleinesEndeVorn},
+     {"\xFE\xFF", Bytefolge::GrossesEndeVorn}}};
 constexpr std::size_t kHoechstlaenge = 255;
 
 std::string Klein(std::string_view text) {
@@ -103,12 +107,17 @@ std::string_view NimmZeile(std::string_view& bytes) {
 }  // namespace
 
 Profil::Profil(std::string_view bytes) : m_abschnitte(1) {
-    if (bytes.starts_with(kBytemarke)) {
-        m_bytemarke = kBytemarke;
-        bytes.remove_prefix(kBytemarke.size());
+    for (const auto& [marke, folge] : kBytemarken) {
+        if (bytes.starts_with(marke)) {
+            m_bytemarke = marke;
+            m_utf16 = folge;
+        }
     }
-    while (!bytes.empty()) {
-        NimmZeileAuf(NimmZeile(bytes));
+    bytes.remove_prefix(m_bytemarke.size());
+    const std::string text = m_utf16 ? AusUtf16(bytes, *m_utf16) : std::string();
+    std::string_view rest = m_utf16 ? text : bytes;
+    while (!rest.empty()) {
+        NimmZeileAuf(NimmZeile(rest));
     }
 }
 
@@ -128,8 +137,8 @@ std::string Profil::Lies(std::string_view section, std::string_view key,
         const auto stelle = abschnitt->Stellen.find(Klein(Nach1252(key)));
         if (stelle != abschnitt->Stellen.end()) {
             const auto zeile = Schluesselzeile(Inhalt(abschnitt->Zeilen[stelle->second]));
-            const std::string_view wert = OhneAnfuehrung(zeile->second);
-            return Aus1252(BisNul(wert.substr(0, kHoechstlaenge)));
+            const std::string wert = Im1252(OhneAnfuehrung(zeile->second));
+            return Aus1252(BisNul(std::string_view(wert).substr(0, kHoechstlaenge)));
         }
     }
     return std::string(GekuerzterStandard(standard));
@@ -141,7 +150,7 @@ void Profil::Schreibe(std::string_view section, std::string_view key, std::strin
     const std::string name = Nach1252(key);
     // A value that went on in another line would be one of its own there.
     const auto eineZeile = value.substr(0, value.find_first_of(std::string_view("\r\n\0", 3)));
-    const std::string rest = "=" + Nach1252(eineZeile) + std::string(kZeilenende);
+    const std::string rest = "=" + AlsZeile(Nach1252(eineZeile)) + std::string(kZeilenende);
     const auto stelle = abschnitt.Stellen.find(Klein(name));
     if (stelle != abschnitt.Stellen.end()) {
         std::string& zeile = zeilen[stelle->second];
@@ -154,27 +163,27 @@ void Profil::Schreibe(std::string_view section, std::string_view key, std::strin
         --ort;
     }
     Beende(zeilen[ort - 1]);
-    zeilen.insert(zeilen.begin() + static_cast<std::ptrdiff_t>(ort), name + rest);
+    zeilen.insert(zeilen.begin() + static_cast<std::ptrdiff_t>(ort), AlsZeile(name) + rest);
     abschnitt.Stellen.emplace(Klein(name), ort);
 }
 
 std::string Profil::Bytes() const {
-    std::string bytes = m_bytemarke;
+    std::string text;
     for (const Abschnitt& abschnitt : m_abschnitte) {
         for (const std::string& zeile : abschnitt.Zeilen) {
-            bytes += zeile;
+            text += zeile;
         }
     }
-    return bytes;
+    return m_bytemarke + (m_utf16 ? NachUtf16(text, *m_utf16) : text);
 }
 
 void Profil::NimmZeileAuf(std::string_view zeile) {
     const std::string_view inhalt = Inhalt(zeile);
     if (const auto name = Sectionname(inhalt)) {
-        BeginneAbschnitt(Klein(*name));
+        BeginneAbschnitt(Klein(Im1252(*name)));
     } else if (const auto paar = Schluesselzeile(inhalt); paar && m_abschnitte.back().Erreichbar) {
         Abschnitt& abschnitt = m_abschnitte.back();
-        abschnitt.Stellen.emplace(Klein(paar->first), abschnitt.Zeilen.size());
+        abschnitt.Stellen.emplace(Klein(Im1252(paar->first)), abschnitt.Zeilen.size());
     }
     m_abschnitte.back().Zeilen.emplace_back(zeile);
 }
@@ -203,8 +212,16 @@ Profil::Abschnitt& Profil::SucheOderMache(std::string_view section) {
         Beende(letzte.back());
     }
     BeginneAbschnitt(Klein(name));
-    m_abschnitte.back().Zeilen.push_back("[" + name + "]" + std::string(kZeilenende));
+    m_abschnitte.back().Zeilen.push_back("[" + AlsZeile(name) + "]" + std::string(kZeilenende));
     return m_abschnitte.back();
+}
+
+std::string Profil::Im1252(std::string_view text) const {
+    return m_utf16 ? Nach1252(text) : std::string(text);
+}
+
+std::string Profil::AlsZeile(std::string_view im1252) const {
+    return m_utf16 ? Aus1252(im1252) : std::string(im1252);
 }
 
 }  // namespace tarvelin

@@ -11,15 +11,21 @@
 #include <vector>
 
 #include "persistence/Dateisystem.h"
+#include "util/Utf16.h"
 
 namespace tarvelin {
 
 /// The bytes of one file, understood line by line. Section and key names match whole, ASCII letters
 /// without regard to case; only the first section of a name and the first key of a name in it
-/// count. Texts go in and out as UTF-8; the bytes are Windows-1252.
+/// count. Texts go in and out as UTF-8; the bytes are Windows-1252, with or without a mark of
+/// UTF-8, or UTF-16 behind a mark of either byte order.
+///
+/// Whatever the bytes are, the platform hands out 8-bit text: what the code page doesn't have reads
+/// as "?", in names too. Lines that aren't written keep it all the same. Half a unit at the end of
+/// the file is dropped.
 class Profil {
   public:
-    /// A larger file is no profile: the longest plan has less than 6 MiB.
+    /// A larger file is no profile: the longest plan has less than 12 MiB in UTF-16.
     static constexpr std::size_t kHoechstgroesse = std::size_t{16} << 20U;
 
     explicit Profil(std::string_view bytes);
@@ -49,7 +55,7 @@ class Profil {
   private:
     /// A run of lines: the first section of a name, or lines that no read reaches.
     struct Abschnitt {
-        /// With their line ends, the section line first.
+        /// With their line ends, the section line first. As in the file, or as `AusUtf16` gives it.
         std::vector<std::string> Zeilen;
         /// Where the first line of each key stands; the keys in small letters.
         std::unordered_map<std::string, std::size_t> Stellen;
@@ -61,7 +67,13 @@ class Profil {
     [[nodiscard]] const Abschnitt* Suche(std::string_view section) const;
     Abschnitt& SucheOderMache(std::string_view section);
 
+    /// What the code page makes of a piece of a line.
+    [[nodiscard]] std::string Im1252(std::string_view text) const;
+    /// A piece of a line out of characters of the code page.
+    [[nodiscard]] std::string AlsZeile(std::string_view im1252) const;
+
     std::string m_bytemarke;
+    std::optional<Bytefolge> m_utf16;
     /// In the order of the file.
     std::vector<Abschnitt> m_abschnitte;
     /// Which of them is the first of a name; the names in small letters.

@@ -3,7 +3,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
+
+#include "util/Utf8.h"
 
 namespace tarvelin {
 
@@ -21,19 +22,6 @@ constexpr std::array<char32_t, 32> kEigene{
 
 constexpr unsigned kHinterEigenen = kErsterEigener + kEigene.size();
 
-void HaengeUtf8An(std::string& text, char32_t zeichen) {
-    if (zeichen < 0x80) {
-        text += static_cast<char>(zeichen);
-    } else if (zeichen < 0x800) {
-        text += static_cast<char>(0xC0U | (zeichen >> 6U));
-        text += static_cast<char>(0x80U | (zeichen & 0x3FU));
-    } else {
-        text += static_cast<char>(0xE0U | (zeichen >> 12U));
-        text += static_cast<char>(0x80U | ((zeichen >> 6U) & 0x3FU));
-        text += static_cast<char>(0x80U | (zeichen & 0x3FU));
-    }
-}
-
 char Byte1252(char32_t zeichen) {
     if (zeichen < kErsterEigener || (zeichen >= kHinterEigenen && zeichen <= 0xFF)) {
         return static_cast<char>(zeichen);
@@ -44,35 +32,6 @@ char Byte1252(char32_t zeichen) {
                : static_cast<char>(kErsterEigener + static_cast<unsigned>(ort - kEigene.begin()));
 }
 
-/// Takes the first character off a text; a byte that begins none counts as U+FFFD.
-char32_t NimmZeichen(std::string_view& rest) {
-    constexpr char32_t kErsatz = 0xFFFD;
-    const auto erstes = static_cast<unsigned char>(rest.front());
-    rest.remove_prefix(1);
-    if (erstes < 0x80) {
-        return erstes;
-    }
-    const std::size_t folgende = erstes >= 0xF0 ? 3 : (erstes >= 0xE0 ? 2 : 1);
-    if (erstes < 0xC2 || erstes > 0xF4 || rest.size() < folgende) {
-        return kErsatz;
-    }
-    char32_t zeichen = erstes & (0x3FU >> folgende);
-    for (std::size_t i = 0; i < folgende; ++i) {
-        const auto byte = static_cast<unsigned char>(rest[i]);
-        if ((byte & 0xC0U) != 0x80U) {
-            return kErsatz;
-        }
-        zeichen = (zeichen << 6U) | (byte & 0x3FU);
-    }
-    // A character written longer than it need be is none.
-    constexpr std::array<char32_t, 4> kKleinste{0, 0x80, 0x800, 0x10000};
-    if (zeichen < kKleinste.at(folgende)) {
-        return kErsatz;
-    }
-    rest.remove_prefix(folgende);
-    return zeichen;
-}
-
 }  // namespace
 
 std::string Aus1252(std::string_view bytes) {
@@ -81,7 +40,7 @@ std::string Aus1252(std::string_view bytes) {
     for (const char zeichen : bytes) {
         const auto byte = static_cast<unsigned char>(zeichen);
         const bool eigener = byte >= kErsterEigener && byte < kHinterEigenen;
-        HaengeUtf8An(text, eigener ? kEigene.at(byte - kErsterEigener) : byte);
+        HaengeZeichenAn(text, eigener ? kEigene.at(byte - kErsterEigener) : byte);
     }
     return text;
 }

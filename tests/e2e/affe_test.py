@@ -90,7 +90,9 @@ class Affe:
 
     def netz(self, pfad):
         """Whole pictures mostly; else nothing, half of it, or what is no picture."""
-        inhalt = b"1.0.1" if pfad.endswith(".txt") else bild(pfad)
+        befehl = [os.path.join(self.programme, "tarvelin-cli"), "--version"]
+        inhalt = (subprocess.check_output(befehl).split()[-1] if pfad.endswith(".txt")
+                  else bild(pfad))
         unsinn = self.netzwuerfel.randbytes(99).replace(b"\0", b"?")
         return self.netzwuerfel.choice([(200, inhalt, None)] * 12 + [
             (404, inhalt, 20), (200, inhalt, 3), (200, b"", 0), (302, inhalt, 5), (200, unsinn, 99)])
