@@ -2,33 +2,50 @@
 #include "ui/Klangausgabe.h"
 
 #include <QApplication>
-#include <QSoundEffect>
-#include <QUrl>
+#include <QAudioDevice>
+#include <QAudioFormat>
+#include <QAudioSink>
+#include <QMediaDevices>
 
-#include "ui/Bauteile.h"
 #include "ui/Wellendatei.h"
 
 namespace tarvelin {
 
+namespace {
+
+QAudioFormat FormatVon(const Welle& welle) {
+    QAudioFormat format;
+    format.setSampleRate(welle.Rate);
+    format.setChannelCount(welle.Kanaele);
+    format.setSampleFormat(welle.Bits == 8    ? QAudioFormat::UInt8
+                           : welle.Bits == 16 ? QAudioFormat::Int16
+                                              : QAudioFormat::Int32);
+    return format;
+}
+
+}  // namespace
+
 Klangausgabe::Klangausgabe() = default;
 Klangausgabe::~Klangausgabe() = default;
 
-// The player keeps what it read from a file under its name, and tells an error of it only once:
-// each sound gets one of its own, whose end cuts off the one before.
+// The toolkit's own player of files hangs at some, divides by nothing at others, and keeps what it
+// once read under a name. The file is read here, and the sound card gets samples.
 void Klangausgabe::Spiele(const std::filesystem::path& datei) {
-    m_effekt.reset();
-    if (!IstSpielbar(datei)) {
+    m_senke.reset();
+    m_abtastwerte.close();
+    const auto welle = LiesWelle(datei);
+    const QAudioDevice geraet = QMediaDevices::defaultAudioOutput();
+    if (!welle || geraet.isNull()) {
         QApplication::beep();
         return;
     }
-    m_effekt = std::make_unique<QSoundEffect>();
-    QObject::connect(m_effekt.get(), &QSoundEffect::statusChanged, m_effekt.get(), [this] {
-        if (m_effekt->status() == QSoundEffect::Error) {
-            QApplication::beep();
-        }
-    });
-    m_effekt->setSource(QUrl::fromLocalFile(Pfadtext(datei)));
-    m_effekt->play();
+    m_abtastwerte.setData(QByteArray::fromStdString(welle->Abtastwerte));
+    m_abtastwerte.open(QIODevice::ReadOnly);
+    m_senke = std::make_unique<QAudioSink>(geraet, FormatVon(*welle));
+    m_senke->start(&m_abtastwerte);
+    if (m_senke->error() != QAudio::NoError) {
+        QApplication::beep();
+    }
 }
 
 }  // namespace tarvelin

@@ -1,11 +1,12 @@
 // The real sound: by Qt Multimedia where it is built in, else the system's beep.
 #pragma once
 
+#include <QBuffer>
 #include <memory>
 
 #include "ui/Umgebung.h"
 
-class QSoundEffect;
+class QAudioSink;
 
 namespace tarvelin {
 
@@ -17,7 +18,9 @@ class Klangausgabe final : public Klang {
     void Spiele(const std::filesystem::path& datei) override;
 
   private:
-    std::unique_ptr<QSoundEffect> m_effekt;
+    /// The samples of the sound that plays.
+    QBuffer m_abtastwerte;
+    std::unique_ptr<QAudioSink> m_senke;
 };
 
 }  // namespace tarvelin

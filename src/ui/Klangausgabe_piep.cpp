@@ -3,7 +3,7 @@
 
 #include "ui/Klangausgabe.h"
 
-class QSoundEffect {};
+class QAudioSink {};
 
 namespace tarvelin {
 

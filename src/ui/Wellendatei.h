@@ -1,13 +1,25 @@
-// Whether a sound file is one that can be played.
+// The sound in a wave file.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
+#include <optional>
+#include <string>
 
 namespace tarvelin {
 
-/// A wave file with its format and all of its samples, of at most 64 MiB: whole numbers of 8, 16 or
-/// 32 bits, one or two channels, 8,000 to 192,000 a second. The toolkit's player would stay silent
-/// over a broken one, and hang at the next, and divide by nothing at a very slow one.
-[[nodiscard]] bool IstSpielbar(const std::filesystem::path& datei);
+/// Samples as whole numbers: unsigned ones of 8 bits, signed ones of 16 or 32.
+struct Welle {
+    /// Frames a second, 8,000 to 192,000.
+    int Rate = 0;
+    /// One or two.
+    int Kanaele = 0;
+    int Bits = 0;
+    /// At least one frame, and whole ones only.
+    std::string Abtastwerte;
+};
+
+/// Nothing if the file is no wave of the kinds above, lacks bytes, or has more than 64 MiB.
+[[nodiscard]] std::optional<Welle> LiesWelle(const std::filesystem::path& datei);
 
 }  // namespace tarvelin
