@@ -1,12 +1,13 @@
 // Fetches that wait without letting the screen freeze.
 #include "ui/Netzabruf.h"
 
+#include <curl/curl.h>
+
 #include <QApplication>
-#include <QDeadlineTimer>
 #include <QEvent>
-#include <QEventLoop>
-#include <QTimer>
+#include <QUrl>
 #include <memory>
+#include <string_view>
 
 #include "ui/Bauteile.h"
 
@@ -58,90 +59,134 @@ class Eingabesperre : public QObject {
     }
 };
 
-bool IstWebadresse(const QUrl& adresse) {
-    return adresse.isValid() && !adresse.host().isEmpty() &&
-           (adresse.scheme() == QStringLiteral("http") ||
-            adresse.scheme() == QStringLiteral("https"));
+/// The address as it goes over the line; empty if it is none of the web.
+std::string Webadresse(const std::string& adresse) {
+    const QUrl url(AlsQString(adresse));
+    const bool gut =
+        url.isValid() && !url.host().isEmpty() &&
+        (url.scheme() == QStringLiteral("http") || url.scheme() == QStringLiteral("https"));
+    return gut ? url.toEncoded().toStdString() : std::string();
 }
 
-QNetworkRequest Anfrage(const QUrl& adresse) {
-    QNetworkRequest anfrage(adresse);
-    // The toolkit loses its way at a second redirect whose server closes the connection.
-    anfrage.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                         QNetworkRequest::ManualRedirectPolicy);
-    anfrage.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
-                         QNetworkRequest::AlwaysNetwork);
-    // As the file lies there: nothing that could swell when it is unpacked.
-    anfrage.setRawHeader("Accept-Encoding", "identity");
-    return anfrage;
+/// What has come of an answer.
+struct Antwort {
+    std::size_t Hoechstens = 0;
+    std::string Bytes;
+    /// The head came to its end, a blank line. A connection that closes before it leaves an answer
+    /// that looks like an empty one.
+    bool KopfIstGanz = false;
+};
+
+// What is taken is fewer than what came when it is too much, which ends the fetch.
+std::size_t NimmBytes(const char* bytes, std::size_t /*eins*/, std::size_t anzahl, void* ziel) {
+    auto& antwort = *static_cast<Antwort*>(ziel);
+    if (anzahl > antwort.Hoechstens - antwort.Bytes.size()) {
+        return 0;
+    }
+    antwort.Bytes.append(bytes, anzahl);
+    return anzahl;
 }
 
-bool IstGut(const QNetworkReply& antwort, qint64 erhalten) {
-    constexpr int kOk = 200;
-    const QVariant laenge = antwort.header(QNetworkRequest::ContentLengthHeader);
-    return antwort.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() == kOk &&
-           (!laenge.isValid() || laenge.toLongLong() == erhalten);
+// Redirects and proxies have heads of their own before that of the answer; a body in chunks can
+// have further lines behind it.
+std::size_t NimmKopfzeile(const char* bytes, std::size_t /*eins*/, std::size_t anzahl, void* ziel) {
+    auto& antwort = *static_cast<Antwort*>(ziel);
+    const std::string_view zeile(bytes, anzahl);
+    if (zeile.starts_with("HTTP/")) {
+        antwort.KopfIstGanz = false;
+        antwort.Bytes.clear();
+    } else if (zeile == "\r\n" || zeile == "\n") {
+        antwort.KopfIstGanz = true;
+    }
+    return anzahl;
+}
+
+using Abfrage = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
+
+Abfrage NeueAbfrage(const std::string& adresse, std::chrono::milliseconds dauer, Antwort& antwort) {
+    constexpr long kHoechstensUmgeleitet = 5;
+    Abfrage abfrage(curl_easy_init(), &curl_easy_cleanup);
+    const auto setze = [&abfrage](CURLoption option, auto wert) {
+        curl_easy_setopt(abfrage.get(), option, wert);
+    };
+    setze(CURLOPT_URL, adresse.c_str());
+    setze(CURLOPT_PROTOCOLS_STR, "http,https");
+    setze(CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
+    setze(CURLOPT_FOLLOWLOCATION, 1L);
+    setze(CURLOPT_MAXREDIRS, kHoechstensUmgeleitet);
+    setze(CURLOPT_TIMEOUT_MS, static_cast<long>(dauer.count()));
+    setze(CURLOPT_USERAGENT, "Tarvelin");
+    setze(CURLOPT_ACCEPT_ENCODING, "identity");
+    setze(CURLOPT_WRITEFUNCTION, &NimmBytes);
+    setze(CURLOPT_WRITEDATA, static_cast<void*>(&antwort));
+    setze(CURLOPT_HEADERFUNCTION, &NimmKopfzeile);
+    setze(CURLOPT_HEADERDATA, static_cast<void*>(&antwort));
+    setze(CURLOPT_NOSIGNAL, 1L);
+    // A name server that never answers doesn't hold up the end of the program.
+    setze(CURLOPT_QUICK_EXIT, 1L);
+    return abfrage;
+}
+
+bool IstOk(CURL* abfrage) {
+    constexpr long kOk = 200;
+    long status = 0;
+    return curl_easy_getinfo(abfrage, CURLINFO_RESPONSE_CODE, &status) == CURLE_OK && status == kOk;
 }
 
 }  // namespace
 
-Netzabruf::Netzabruf(Grenzen grenzen) : m_grenzen(grenzen) {}
+class Netzabruf::Verbindungen {
+  public:
+    /// The result of the fetch, or nothing if `weiter` ended it. The screen lives on meanwhile.
+    template <class Weiter>
+    std::optional<CURLcode> FuehreAus(CURL* abfrage, Weiter weiter) {
+        constexpr int kHappen = 10;
+        curl_multi_add_handle(m_alle.get(), abfrage);
+        std::optional<CURLcode> ergebnis;
+        int laufende = 0;
+        while (curl_multi_perform(m_alle.get(), &laufende) == CURLM_OK && laufende > 0) {
+            QCoreApplication::processEvents();
+            if (!weiter()) {
+                break;
+            }
+            curl_multi_poll(m_alle.get(), nullptr, 0, kHappen, nullptr);
+        }
+        int uebrige = 0;
+        if (const CURLMsg* const nachricht = curl_multi_info_read(m_alle.get(), &uebrige)) {
+            ergebnis = nachricht->data.result;
+        }
+        curl_multi_remove_handle(m_alle.get(), abfrage);
+        return ergebnis;
+    }
+
+  private:
+    std::unique_ptr<CURLM, decltype(&curl_multi_cleanup)> m_alle{curl_multi_init(),
+                                                                 &curl_multi_cleanup};
+};
+
+Netzabruf::Netzabruf(Grenzen grenzen)
+    : m_grenzen(grenzen), m_verbindungen(std::make_unique<Verbindungen>()) {}
+
+Netzabruf::~Netzabruf() = default;
 
 std::optional<std::string> Netzabruf::Hole(const std::string& adresse) {
-    constexpr int kHoechstensUmgeleitet = 5;
+    const std::string url = Webadresse(adresse);
+    if (url.empty()) {
+        return std::nullopt;
+    }
     const Eingabesperre sperre;
-    const QDeadlineTimer frist(m_grenzen.Dauer);
-    QUrl url(AlsQString(adresse));
-    for (int umgeleitet = 0; umgeleitet <= kHoechstensUmgeleitet && IstWebadresse(url);
-         ++umgeleitet) {
-        const Antwort antwort = Frage(url, frist);
-        if (antwort.Weiter.isEmpty()) {
-            return antwort.Bytes;
-        }
-        url = url.resolved(antwort.Weiter);
-    }
-    return std::nullopt;
-}
-
-Netzabruf::Antwort Netzabruf::Frage(const QUrl& url, const QDeadlineTimer& frist) {
-    const std::unique_ptr<QNetworkReply> antwort(m_netz.get(Anfrage(url)));
-    // A pointer that forgets the answer when it goes.
-    // cppcheck-suppress danglingLifetime
-    m_antwort = antwort.get();
-    std::string bytes;
-    QObject::connect(antwort.get(), &QNetworkReply::readyRead, antwort.get(), [&] {
-        bytes += antwort->readAll().toStdString();
-        if (static_cast<qint64>(bytes.size()) > m_grenzen.Bytes) {
-            antwort->abort();
-        }
-    });
-    QEventLoop schleife;
-    QObject::connect(antwort.get(), &QNetworkReply::finished, &schleife, &QEventLoop::quit);
-    QTimer::singleShot(std::chrono::milliseconds(frist.remainingTime()), Qt::PreciseTimer,
-                       antwort.get(), [&] { antwort->abort(); });
-    if (!antwort->isFinished()) {
-        schleife.exec();
-    }
-    // The end of the program ends the loop too.
-    if (!antwort->isFinished() || antwort->error() != QNetworkReply::NoError) {
-        return {};
-    }
-    const QUrl weiter = antwort->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
-    if (weiter.isEmpty() && IstGut(*antwort, static_cast<qint64>(bytes.size()))) {
-        return {.Bytes = bytes, .Weiter = {}};
-    }
-    return {.Bytes = std::nullopt, .Weiter = weiter};
+    Antwort antwort{.Hoechstens = m_grenzen.Bytes, .Bytes = {}};
+    const Abfrage abfrage = NeueAbfrage(url, m_grenzen.Dauer, antwort);
+    m_abgebrochen = false;
+    const auto ergebnis =
+        m_verbindungen->FuehreAus(abfrage.get(), [this] { return !m_abgebrochen; });
+    const bool ganz = ergebnis == CURLE_OK && antwort.KopfIstGanz && IstOk(abfrage.get());
+    return ganz ? std::optional(std::move(antwort.Bytes)) : std::nullopt;
 }
 
 void Netzabruf::Atme() {
     const Eingabesperre sperre;
     QCoreApplication::processEvents();
-}
-
-void Netzabruf::BrichAb() {
-    if (m_antwort != nullptr) {
-        m_antwort->abort();
-    }
 }
 
 }  // namespace tarvelin
