@@ -3,7 +3,7 @@
 BAU_PAKETE=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev
     libcurl4-openssl-dev qt6-base-dev qt6-multimedia-dev qt6-translations-l10n fonts-liberation)
 # A virtual screen with a player's hands and ears and a screen reader's eyes.
-BILDSCHIRM_PAKETE=(xvfb xauth openbox xdotool imagemagick dbus at-spi2-core
+BILDSCHIRM_PAKETE=(xvfb openbox xdotool imagemagick dbus at-spi2-core
     gir1.2-atspi-2.0 python3-gi pulseaudio pulseaudio-utils)
 # Builds the Debian package, looks at it, and asks what a desktop asks of it.
 PAKET_PAKETE=(dpkg-dev file lintian desktop-file-utils appstream shared-mime-info man-db
