@@ -15,7 +15,10 @@ std::filesystem::path VomOrdner(const std::filesystem::path& ordner, std::string
     const auto alsPfad = [&] {
         return std::filesystem::path(std::u8string(text.begin(), text.end()));
     };
-    if (alsPfad().is_absolute()) {
+    // Not every standard library knows that a name of a computer makes a path absolute.
+    const bool vonRechner = std::filesystem::path::preferred_separator == '\\' &&
+                            (text.starts_with("\\\\") || text.starts_with("//"));
+    if (vonRechner || alsPfad().is_absolute()) {
         return alsPfad();
     }
     std::ranges::replace(text, '\\', '/');
