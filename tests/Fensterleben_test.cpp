@@ -60,26 +60,28 @@ TEST_F(Fensterleben, WiederherstellungNachJederAntwort) {
         bool Immer;
         const char* Config;
     };
-    for (const auto& [ja, immer, config] :
+    for (const Fall& fall :
          {Fall{false, false, "[StartSettings]\r\nRecover=0\r\n"},
           Fall{false, true, "[StartSettings]\r\nAlwaysDoSo=1\r\nRecover=0\r\n"},
           Fall{true, false, "[StartSettings]\r\nRecover=1\r\n"},
           Fall{true, true, "[StartSettings]\r\nAlwaysDoSo=1\r\nRecover=1\r\n"}}) {
-        SCOPED_TRACE(config);
+        SCOPED_TRACE(fall.Config);
         SchreibeDatei(saves / "autosave.tvf", plan);
         SchreibeDatei(m_ordner / "config.cfg", "[Settings]\r\nFirststart=0\r\n");
         fs::remove(saves / "autosave-vorige.tvf");
         m_boxen.Texte.clear();
-        m_boxen.BeiFrage = [&] { m_boxen.Antwort = m_boxen.Texte.size() == 1 ? ja : immer; };
+        m_boxen.BeiFrage = [&] {
+            m_boxen.Antwort = m_boxen.Texte.size() == 1 ? fall.Ja : fall.Immer;
+        };
         NeuerStart start(m_umgebung);
         EXPECT_EQ(m_boxen.Texte.size(), 2U);
-        EXPECT_EQ(start.Zeilen(), ja ? 2U : 0U);
+        EXPECT_EQ(start.Zeilen(), fall.Ja ? 2U : 0U);
         EXPECT_EQ(start->findChild<QWidget*>(QStringLiteral("Fra_Einstellungen"))->isVisible(),
-                  !ja);
-        EXPECT_TRUE(LiesDatei(m_ordner / "config.cfg").ends_with(config));
+                  !fall.Ja);
+        EXPECT_TRUE(LiesDatei(m_ordner / "config.cfg").ends_with(fall.Config));
         EXPECT_EQ(LiesDatei(saves / "autosave.tvf"), plan) << "nothing has changed yet";
         start->close();
-        EXPECT_EQ(LiesDatei(saves / "autosave-vorige.tvf"), ja ? "" : plan);
+        EXPECT_EQ(LiesDatei(saves / "autosave-vorige.tvf"), fall.Ja ? "" : plan);
     }
 }
 
