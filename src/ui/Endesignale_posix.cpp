@@ -23,7 +23,7 @@ std::array<int, 2> pipeEnden{-1, -1};
 void Melde(int /*signal*/) {
     const int fehler = errno;
     // A pipe that is full has told it already.
-    static_cast<void>(::write(pipeEnden[1], "", 1));
+    [[maybe_unused]] const ssize_t geschrieben = ::write(pipeEnden[1], "", 1);
     errno = fehler;
 }
 

@@ -93,8 +93,8 @@ int Meldungsfenster::Oeffne(QDialog& dialog) {
 
 void Meldungsfenster::Beende() {
     m_beendet = true;
-    for (auto dialog = m_offene.rbegin(); dialog != m_offene.rend(); ++dialog) {
-        (*dialog)->reject();
+    for (QDialog* const dialog : m_offene) {
+        dialog->reject();
     }
 }
 
