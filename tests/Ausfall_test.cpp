@@ -1,6 +1,5 @@
 // Saves under a platform that fails: each call once, each kind of call for good, all of them for
 // good.
-#include <set>
 
 #include "Ausfall.h"
 #include "Hilfen.h"
@@ -68,26 +67,18 @@ TEST_P(Ausfall, PlanIstDerAlteOderDerNeue) {
         << m_aufrufe;
 }
 
-TEST_P(Ausfall, KonfigurationStehtVorOderNachEinemKey) {
+TEST_P(Ausfall, KonfigurationHatAlleOderKeinenNeuenWert) {
     const Konfiguration::Werte werte{{Konfiguration::kMode, "3"},
-                                     {Konfiguration::kPath, "blau"},
                                      {Konfiguration::kFirststart, "0"}};
-    // Every key is written or isn't, each on its own.
-    std::set<std::string> erlaubt;
-    for (unsigned welche = 0; welche < 8; ++welche) {
-        Profil profil(kAlt);
-        for (std::size_t i = 0; i < werte.size(); ++i) {
-            if ((welche >> i & 1U) != 0) {
-                profil.Schreibe(werte[i].first.Section, werte[i].first.Key, werte[i].second);
-            }
-        }
-        erlaubt.insert(profil.Bytes());
+    Profil neu(kAlt);
+    for (const auto& [key, wert] : werte) {
+        neu.Schreibe(key.Section, key.Key, wert);
     }
     Probiere(
         [&](const Dateisystem& system) { Konfiguration(m_ordner / "", system).Schreibe(werte); },
         [&] {
-            EXPECT_TRUE(erlaubt.contains(LiesDatei(m_ordner / "config.cfg")))
-                << LiesDatei(m_ordner / "config.cfg");
+            const std::string config = LiesDatei(m_ordner / "config.cfg");
+            EXPECT_TRUE(config == kAlt || config == neu.Bytes()) << config;
         });
 }
 

@@ -5,7 +5,6 @@
 #include <QRadioButton>
 #include <csignal>
 #include <limits>
-#include <sstream>
 
 #include "Ausfall.h"
 #include "Fensterhilfen.h"
@@ -190,7 +189,6 @@ TEST_F(Fensterleben, EinAusfallBeimBeendenLaesstJedeDateiAltOderNeu) {
     const auto config = m_ordner / "config.cfg";
     const std::string alterPlan = LiesDatei(autosave);
     const std::string alteConfig = "; von Hand\r\n[Settings]\r\nFirststart=0\r\n";
-    // Each key and the plan are written by the same steps; the strides meet each step at some file.
     // Closes a window with one row whose n-th call of the platform fails.
     const auto beende = [&](int n, Ausfallart art) {
         SchreibeDatei(autosave, alterPlan);
@@ -215,17 +213,13 @@ TEST_F(Fensterleben, EinAusfallBeimBeendenLaesstJedeDateiAltOderNeu) {
     const std::string neueConfig = LiesDatei(config);
     ASSERT_NE(neuerPlan, alterPlan);
     for (const auto& [art, schritt] :
-         {std::pair(Ausfallart::Einmal, 7), std::pair(Ausfallart::AllesFuerImmer, 17)}) {
+         {std::pair(Ausfallart::Einmal, 3), std::pair(Ausfallart::AllesFuerImmer, 7)}) {
         for (int n = 1; beende(n, art); n += schritt) {
             SCOPED_TRACE("call " + std::to_string(n));
             const std::string plan = LiesDatei(autosave);
             EXPECT_TRUE(plan == alterPlan || plan == neuerPlan) << plan;
-            // Each line of the file stood there before or stands there afterwards.
-            std::istringstream zeilen(LiesDatei(config));
-            for (std::string zeile; std::getline(zeilen, zeile);) {
-                EXPECT_NE((alteConfig + neueConfig).find(zeile + "\n"), std::string::npos) << zeile;
-            }
-            EXPECT_TRUE(LiesDatei(config).starts_with(alteConfig));
+            const std::string jetzt = LiesDatei(config);
+            EXPECT_TRUE(jetzt == alteConfig || jetzt == neueConfig) << jetzt;
         }
     }
 }

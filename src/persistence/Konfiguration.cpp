@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "persistence/Dateiersatz.h"
+#include "persistence/Profil.h"
 #include "persistence/modINI.h"
 #include "util/Zahlentext.h"
 
@@ -55,9 +57,14 @@ std::filesystem::path Konfiguration::Alertsound() const {
 }
 
 void Konfiguration::Schreibe(const Werte& werte) const {
-    for (const auto& [key, wert] : werte) {
-        WriteINI(key.Section, key.Key, wert, m_datei, m_system);
+    auto profil = Profil::LadeOderLeer(m_datei, m_system);
+    if (!profil) {
+        return;
     }
+    for (const auto& [key, wert] : werte) {
+        profil->Schreibe(key.Section, key.Key, wert);
+    }
+    ErsetzeDatei(m_datei, profil->Bytes(), m_system);
 }
 
 Wiederherstellung EntscheideWiederherstellung(const Konfiguration& konfiguration) {

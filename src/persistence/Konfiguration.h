@@ -50,8 +50,7 @@ class Konfiguration {
     /// folder.
     [[nodiscard]] std::filesystem::path Alertsound() const;
 
-    /// Writes keys one after the other, each in one step. A write that fails is lost without a
-    /// word.
+    /// Writes keys, all of them in one step. A write that fails is lost without a word.
     void Schreibe(const Werte& werte) const;
 
   private:

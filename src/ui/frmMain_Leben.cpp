@@ -144,15 +144,17 @@ void frmMain::Form_Unload(bool mitPlan) {
                                  ? kLandeordner
                                  : m_Fra_Skin->Comb_Skins->currentText().toStdString();
     const auto schalter = [](const QCheckBox& box) { return box.isChecked() ? "1" : "0"; };
-    m_konfiguration.Schreibe(
-        {{Konfiguration::kMode, std::to_string(quelle)},
-         {Konfiguration::kPath, pfad},
-         {Konfiguration::kWebPath, m_Fra_Skin->txt_Pfad->text().toStdString()},
-         {Konfiguration::kBaulistenwecker, schalter(*m_Fra_Rest->Frame6->Chk_BauWeckfunktion)},
-         {Konfiguration::kSchlafzeitenwecker, schalter(*m_Fra_Sleep->Chk_Schlafzeitenwecker)}});
+    Konfiguration::Werte werte{
+        {Konfiguration::kMode, std::to_string(quelle)},
+        {Konfiguration::kPath, pfad},
+        {Konfiguration::kWebPath, m_Fra_Skin->txt_Pfad->text().toStdString()},
+        {Konfiguration::kBaulistenwecker, schalter(*m_Fra_Rest->Frame6->Chk_BauWeckfunktion)},
+        {Konfiguration::kSchlafzeitenwecker, schalter(*m_Fra_Sleep->Chk_Schlafzeitenwecker)}};
     if (mitPlan) {
-        m_konfiguration.Schreibe(
-            {{Konfiguration::kItemCount, std::to_string(m_plan.Liste.Zeilen().size())}});
+        werte.emplace_back(Konfiguration::kItemCount, std::to_string(m_plan.Liste.Zeilen().size()));
+    }
+    m_konfiguration.Schreibe(werte);
+    if (mitPlan) {
         m_autosave.SchreibeZuletzt(m_plan);
     }
 }
