@@ -7,7 +7,6 @@
 #include "persistence/Konfiguration.h"
 #include "persistence/Programmordner.h"
 #include "persistence/Schreibschutz.h"
-#include "persistence/modINI.h"
 #include "plan/Wecker.h"
 
 namespace tarvelin {
@@ -86,7 +85,7 @@ TEST(Konfiguration, KlangVomProgrammordnerOderGanzerPfad) {
           Fall{"..\\gong.wav", "../gong.wav", "../gong.wav"},
           Fall{"/töne/a\\b.wav", "", "töne/a/b.wav"}, Fall{"C:\\töne\\x.wav", "C:/töne/x.wav", ""},
           Fall{"C:x.wav", "C:x.wav", "x.wav"}, Fall{"\\\\rechner\\x.wav", "rechner/x.wav", ""}}) {
-        WriteINI("Soundsettings", "alertsound", wert, ordner / "config.cfg");
+        konfiguration.Schreibe({{Konfiguration::kAlertsound, wert}});
         const std::string_view ziel = kWindows ? windows : posix;
         const auto alsPfad = [](std::string_view text) {
             return std::filesystem::path(std::u8string(text.begin(), text.end()));

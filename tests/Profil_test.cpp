@@ -1,7 +1,6 @@
 // Profile files: reading, writing, replacing.
 #include "Hilfen.h"
 #include "persistence/Dateiersatz.h"
-#include "persistence/modINI.h"
 
 namespace tarvelin {
 namespace {
@@ -115,21 +114,6 @@ TEST(Profil, HaeltUtf16MitJedemZeichen) {
             EXPECT_EQ(profil.Lies("Ä?", "Kö", ""), "ü?");
         }
     }
-}
-
-TEST(ModINI, GehtBeiJedemAufrufAnDieDatei) {
-    const Ordner ordner;
-    const auto datei = ordner / "config.cfg";
-    EXPECT_EQ(ReadINI("Skinsettings", "WebPath", datei, "http://"), "http://");
-    EXPECT_EQ(ordner.Eintraege(), 0U);
-    WriteINI("Skinsettings", "WebPath", "x", datei);
-    EXPECT_EQ(LiesDatei(datei), "[Skinsettings]\r\nWebPath=x\r\n");
-    EXPECT_EQ(ReadINI("SkinSettings", "Webpath", datei, ""), "x");
-    WriteINI("A", "K", "v", ordner / "fehlt" / "config.cfg");
-    std::filesystem::create_directory(ordner / "verzeichnis");
-    WriteINI("A", "K", "v", ordner / "verzeichnis");
-    EXPECT_EQ(ReadINI("A", "K", ordner / "verzeichnis", "Standard"), "Standard");
-    EXPECT_EQ(ordner.Eintraege(), 2U);
 }
 
 TEST(Dateiersatz, ErsetztGanzOderGarNicht) {

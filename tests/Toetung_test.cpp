@@ -9,7 +9,7 @@
 
 #include "Ausfall.h"
 #include "Hilfen.h"
-#include "persistence/modINI.h"
+#include "persistence/Konfiguration.h"
 
 namespace tarvelin {
 namespace {
@@ -43,7 +43,7 @@ TEST(Dateiersatz, RaeumtWegWasGetoeteteProzesseLiessen) {
     for (const char* const name : {".tarvelin-4194999.tmp", ".tarvelin-1.tmp", ".tarvelin-x.tmp"}) {
         SchreibeDatei(ordner / name, "halb");
     }
-    WriteINI("Settings", "Firststart", "0", ordner / "config.cfg");
+    Konfiguration(ordner / "").Schreibe({{Konfiguration::kFirststart, "0"}});
     EXPECT_FALSE(std::filesystem::exists(ordner / ".tarvelin-4194999.tmp"));
     EXPECT_EQ(ordner.Eintraege(), 3U);
 }
@@ -57,7 +57,7 @@ class Toetung : public testing::Test {
             Profil profil(LiesDatei(Datei()));
             SchreibePlan(m_plaene[i], profil);
             m_bytes.push_back(profil.Bytes());
-            WriteINI("Settings", "Firststart", std::to_string(i), m_ordner / "config.cfg");
+            SchreibeKonfiguration(i, Platte());
             m_konfigurationen.push_back(LiesDatei(m_ordner / "config.cfg"));
         }
     }
@@ -65,8 +65,11 @@ class Toetung : public testing::Test {
     [[nodiscard]] std::filesystem::path Datei() const { return m_ordner / "plan.tvf"; }
     void Speichere(std::size_t welchen, const Dateisystem& system) const {
         static_cast<void>(SaveBauliste(Datei(), m_plaene.at(welchen), system));
-        WriteINI("Settings", "Firststart", std::to_string(welchen), m_ordner / "config.cfg",
-                 system);
+        SchreibeKonfiguration(welchen, system);
+    }
+    void SchreibeKonfiguration(std::size_t welche, const Dateisystem& system) const {
+        Konfiguration(m_ordner / "", system)
+            .Schreibe({{Konfiguration::kFirststart, std::to_string(welche)}});
     }
     void PruefeOrdner() {
         EXPECT_EQ(std::ranges::count(m_bytes, LiesDatei(Datei())), 1);

@@ -5,7 +5,6 @@
 
 #include "persistence/Dateiersatz.h"
 #include "persistence/Profil.h"
-#include "persistence/modINI.h"
 #include "util/Zahlentext.h"
 
 namespace tarvelin {
@@ -36,7 +35,10 @@ Konfiguration::Konfiguration(std::filesystem::path programmordner, const Dateisy
       m_system(system) {}
 
 std::string Konfiguration::Lies(const Konfigurationskey& key) const {
-    return ReadINI(key.Section, key.Key, m_datei, key.Standard, m_system);
+    // Each time as the file holds it then: the user may have edited it.
+    return Profil::Lade(m_datei, m_system)
+        .value_or(Profil(""))
+        .Lies(key.Section, key.Key, key.Standard);
 }
 
 bool Konfiguration::IstAn(const Konfigurationskey& key) const {
@@ -49,11 +51,9 @@ Byte Konfiguration::Skinmodus() const {
 }
 
 std::filesystem::path Konfiguration::Alertsound() const {
-    // No file has this name; a default would come back cut to the length of a value.
-    constexpr std::string_view kFehlt = "*";
-    const std::string datei = ReadINI("SoundSettings", "Alertsound", m_datei, kFehlt, m_system);
-    return datei == kFehlt ? m_programmordner / "mfx" / "alert.wav"
-                           : VomOrdner(m_programmordner, datei);
+    const std::string datei = Lies(kAlertsound);
+    return datei == kAlertsound.Standard ? m_programmordner / "mfx" / "alert.wav"
+                                         : VomOrdner(m_programmordner, datei);
 }
 
 void Konfiguration::Schreibe(const Werte& werte) const {

@@ -25,6 +25,8 @@ class Konfiguration {
     // clang-format off
     static constexpr Konfigurationskey kBaulistenwecker   {"Soundsettings", "Baulistenwecker",    "0"};
     static constexpr Konfigurationskey kSchlafzeitenwecker{"Soundsettings", "Schlafzeitenwecker", "0"};
+    /// No file has the name of the default, which stands for ours.
+    static constexpr Konfigurationskey kAlertsound        {"SoundSettings", "Alertsound",         "*"};
     static constexpr Konfigurationskey kMode              {"Skinsettings",  "Mode",               "1"};
     static constexpr Konfigurationskey kPath              {"Skinsettings",  "Path",               "~"};
     static constexpr Konfigurationskey kWebPath           {"Skinsettings",  "WebPath",            "http://"};
