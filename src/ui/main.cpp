@@ -43,9 +43,9 @@ std::filesystem::path Nutzerordner() {
 
 tarvelin::Meldung OhneNutzerordner() {
     return {.Text =
-                "Für deine Baulisten und Einstellungen kann kein Ordner angelegt werden: sie "
-                "werden beim Beenden nicht behalten.\r\n\r\nSpeichere deine Bauliste selbst "
-                "(Datei, Speichern) an einem Ort, an dem du schreiben kannst.",
+                "Für deine Baulisten und Einstellungen gibt es keinen Ordner, in dem geschrieben "
+                "werden kann: sie werden beim Beenden nicht behalten.\r\n\r\nSpeichere deine "
+                "Bauliste selbst (Datei, Speichern) an einem Ort, an dem du schreiben kannst.",
             .Titel = "Tarvelin",
             .Symbol = tarvelin::Meldungssymbol::Warnung};
 }
