@@ -136,7 +136,7 @@ echo "Played"
 # The program has a home of its own; what the stage around it writes goes elsewhere.
 heim=$arbeit/heim
 mkdir -p "$heim" "$arbeit/buehne" "$arbeit/e2e"
-cp "$quellen"/tests/e2e/* "$quellen/packaging/paket_spiel.py" "$arbeit/e2e"
+cp "$quellen"/tests/e2e/*.* "$quellen/packaging/paket_spiel.py" "$arbeit/e2e"
 nutzer=()
 if [ "$(id -u)" -eq 0 ]; then
     chown nobody:nogroup "$heim" "$arbeit/buehne"

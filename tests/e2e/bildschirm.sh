@@ -8,6 +8,8 @@ XDG_RUNTIME_DIR=$(mktemp -d)
 chmod 0700 "$XDG_RUNTIME_DIR"
 # Whatever is left there goes at the end.
 TMPDIR=$XDG_RUNTIME_DIR
+# Nothing is left among the sources either.
+export PYTHONDONTWRITEBYTECODE=1
 raeume_auf() {
     pulseaudio -k || true
     [ -z "${schirm:-}" ] || kill "$schirm" || true
