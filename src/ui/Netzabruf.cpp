@@ -152,7 +152,8 @@ class Netzabruf::Verbindungen {
             curl_multi_poll(m_alle.get(), nullptr, 0, kHappen, nullptr);
         }
         int uebrige = 0;
-        if (const CURLMsg* const nachricht = curl_multi_info_read(m_alle.get(), &uebrige)) {
+        const CURLMsg* const nachricht = curl_multi_info_read(m_alle.get(), &uebrige);
+        if (nachricht != nullptr && nachricht->easy_handle == abfrage) {
             ergebnis = nachricht->data.result;
         }
         curl_multi_remove_handle(m_alle.get(), abfrage);

@@ -80,10 +80,11 @@ bool frmMain::ErsterStart() {
     if (FileExists(starterplan)) {
         const bool geladen = LoadBauliste(starterplan, false);
         gespeichert = geladen && m_autosave.Schreibe(m_plan);
-        // Where it can't be stored it stays.
-        if (gespeichert || !geladen) {
-            m_umgebung.Dateien.Loesche(starterplan);
+        if (geladen && !gespeichert) {
+            // It stays, and the next start is a first one again.
+            return false;
         }
+        m_umgebung.Dateien.Loesche(starterplan);
     }
     m_konfiguration.Schreibe({{Konfiguration::kFirststart, "0"}});
     return gespeichert;
