@@ -579,9 +579,11 @@ TEST_F(Fenster, EnterDruecktUeberallEinenKnopf) {
 TEST_F(Fenster, MausGibtEnterZurueck) {
     const auto enter = [&] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); };
     const auto tabZu = [&](const char* name) {
-        while (QApplication::focusWidget() != &Finde(name)) {
+        constexpr int kLaengstens = 200;
+        for (int i = 0; i < kLaengstens && QApplication::focusWidget() != &Finde(name); ++i) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         }
+        ASSERT_EQ(QApplication::focusWidget(), &Finde(name));
     };
     QTest::mouseClick(&Finde("Cmd_Clear"), Qt::LeftButton);
     ASSERT_EQ(QApplication::focusWidget(), &Finde("Cmd_Clear"));

@@ -194,8 +194,12 @@ TEST(Programmordner, OhneNutzerordnerDienenDieEigenenDateien) {
         EXPECT_FALSE(gewaehlt.KannBehalten) << nutzer;
     }
     // Where plans lie the user keeps them in sight.
-    SchreibeDatei(ordner / "voll" / "saves" / "autosave.tvf", "plan");
-    EXPECT_EQ(BestimmeProgrammordner(ordner / "bin", ordner / "voll").Ordner, ordner / "voll");
+    for (const char* const datei : {"basic.tvf", "meiner.tvf"}) {
+        SchreibeDatei(ordner / "voll" / "saves" / datei, "plan");
+        const Programmordner gewaehlt = BestimmeProgrammordner(ordner / "bin", ordner / "voll");
+        EXPECT_EQ(gewaehlt.Ordner == ordner / "voll", datei == std::string("meiner.tvf"));
+        EXPECT_FALSE(gewaehlt.KannBehalten) << "what is new there has no room";
+    }
 }
 
 TEST(Schreibschutz, AendertImOrdnerNichtsUndSonstAlles) {
@@ -249,10 +253,17 @@ TEST(Autosave, BewahrtDenPlanDerLetztenSitzung) {
     Autosave gestoert(ordner / "", kaputt);
     gestoert.SchreibeGeaenderten(PlanAus("GM"));
     EXPECT_EQ(kaputt.Gestoert(), "Sieh");
-    // Where the last plan can't be kept it stays, until the end.
-    std::filesystem::remove(ordner / "saves" / "autosave-vorige.tvf");
-    std::filesystem::create_directories(ordner / "saves" / "autosave-vorige.tvf" / "x");
-    ASSERT_TRUE(autosave->Schreibe(PlanAus("GM GM")));
+    // Where the last plan can't be kept under its name it gets another, and else stays until the
+    // end.
+    const auto versperre = [&](const char* name) {
+        std::filesystem::remove(ordner / "saves" / name);
+        std::filesystem::create_directories(ordner / "saves" / name / "x");
+    };
+    versperre("autosave-vorige.tvf");
+    ASSERT_TRUE(autosave->Schreibe(PlanAus("GM GM GM")));
+    EXPECT_TRUE(Autosave(ordner / "").Schreibe(PlanAus("GM GM")));
+    EXPECT_EQ(zeilen("autosave-vorige-2.tvf"), "3");
+    versperre("autosave-vorige-2.tvf");
     Autosave ohneVorige(ordner / "");
     EXPECT_FALSE(ohneVorige.Schreibe(PlanAus("GM")));
     EXPECT_EQ(zeilen("autosave.tvf"), "2");

@@ -1,6 +1,8 @@
 // When the plan is written, and what is kept first.
 #include "persistence/Autosave.h"
 
+#include <algorithm>
+
 #include "persistence/Dateiersatz.h"
 
 namespace tarvelin {
@@ -17,7 +19,8 @@ std::string AlsBytes(const Plan& plan) {
 
 Autosave::Autosave(const std::filesystem::path& programmordner, const Dateisystem& system)
     : m_datei(programmordner / "saves" / "autosave.tvf"),
-      m_vorige(programmordner / "saves" / "autosave-vorige.tvf"),
+      m_vorige{programmordner / "saves" / "autosave-vorige.tvf",
+               programmordner / "saves" / "autosave-vorige-2.tvf"},
       m_system(system) {}
 
 void Autosave::GiltAlsGeschrieben(const Plan& plan) {
@@ -55,7 +58,9 @@ bool Autosave::Schreibe(const Plan& plan, bool auchOhneVorige) {
 }
 
 bool Autosave::BewahreVorige(const Profil& vorige) {
-    return !HatZeilen(vorige) || ErsetzeDatei(m_vorige, vorige.Bytes(), m_system);
+    return !HatZeilen(vorige) || std::ranges::any_of(m_vorige, [&](const auto& datei) {
+        return ErsetzeDatei(datei, vorige.Bytes(), m_system);
+    });
 }
 
 }  // namespace tarvelin

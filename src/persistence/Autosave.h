@@ -1,6 +1,7 @@
 // The plan that outlasts a session, and the one of the session before.
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -11,7 +12,7 @@ namespace tarvelin {
 
 /// Keeps the user's plan in `saves/autosave.tvf`, each time in one step. Before its first change in
 /// a session the plan of the last one, if it has a row, goes to `saves/autosave-vorige.tvf` beside
-/// it.
+/// it, or to `saves/autosave-vorige-2.tvf` if that can't be written.
 class Autosave {
   public:
     /// `system` must outlive it.
@@ -37,7 +38,8 @@ class Autosave {
     bool Schreibe(const Plan& plan, bool auchOhneVorige);
 
     std::filesystem::path m_datei;
-    std::filesystem::path m_vorige;
+    /// The second takes the place of a first that can't be written.
+    std::array<std::filesystem::path, 2> m_vorige;
     const Dateisystem& m_system;
     bool m_vorigeBewahrt = false;
     /// The plan that was written or tried last, as a profile of its own.

@@ -48,8 +48,7 @@ class Konfiguration {
     /// counts as 1.
     [[nodiscard]] Byte Skinmodus() const;
     /// The sound of the alarms; only the user enters another one than ours. A path that isn't an
-    /// absolute one of the platform, or begins with a backslash, is meant from the program's
-    /// folder.
+    /// absolute one of the platform is meant from the program's folder.
     [[nodiscard]] std::filesystem::path Alertsound() const;
 
     /// Writes keys, all of them in one step. A write that fails is lost without a word.

@@ -1,6 +1,8 @@
 // Choice of the folder and the copies for a user of an installed program.
 #include "persistence/Programmordner.h"
 
+#include <algorithm>
+
 #include "persistence/Dateiersatz.h"
 
 namespace tarvelin {
@@ -53,8 +55,11 @@ bool RichteEin(const fs::path& quelle, const fs::path& ordner) {
 
 bool HatPlaene(const fs::path& ordner) {
     std::error_code fehler;
-    return fs::exists(ordner / "config.cfg", fehler) ||
-           fs::exists(ordner / "saves" / "autosave.tvf", fehler);
+    const fs::directory_iterator dateien(ordner / "saves", fehler);
+    // The starter plan alone is ours.
+    return !fehler && std::any_of(begin(dateien), end(dateien), [](const auto& datei) {
+        return datei.path().filename() != "basic.tvf";
+    });
 }
 
 }  // namespace
@@ -71,14 +76,13 @@ Programmordner BestimmeProgrammordner(const fs::path& ordner_des_programms,
     if (nutzerordner.empty()) {
         return {.Ordner = quelle, .KannBehalten = false};
     }
-    const bool eingerichtet = RichteEin(quelle, nutzerordner);
-    const bool beschreibbar =
-        Platte().IstBeschreibbar(nutzerordner) && Platte().IstBeschreibbar(nutzerordner / "saves");
     // Who has plans there keeps them in sight, whatever has no room beside them.
-    if (HatPlaene(nutzerordner) || (eingerichtet && beschreibbar)) {
-        return {.Ordner = nutzerordner, .KannBehalten = beschreibbar};
-    }
-    return {.Ordner = quelle, .KannBehalten = false};
+    const bool hatPlaene = HatPlaene(nutzerordner);
+    const bool kannBehalten = RichteEin(quelle, nutzerordner) &&
+                              Platte().IstBeschreibbar(nutzerordner) &&
+                              Platte().IstBeschreibbar(nutzerordner / "saves");
+    return {.Ordner = kannBehalten || hatPlaene ? nutzerordner : quelle,
+            .KannBehalten = kannBehalten};
 }
 
 }  // namespace tarvelin

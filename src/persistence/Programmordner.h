@@ -16,8 +16,9 @@ struct Programmordner {
 /// It is the folder of the running program if `img` lies there and it can be written. Else it is
 /// `nutzerordner` (empty where the user has none), to which the files of ours that are missing are
 /// added, from the program's folder or from `share/tarvelin` beside the program's `bin`; the
-/// starter plan only as long as no configuration lies there. If that folder can't be made, and no
-/// plan lies in it, the files of ours serve where they are. No other place is ever written.
+/// starter plan only as long as no configuration lies there. If that folder can't be made or has no
+/// room for them, and no plan lies in it, the files of ours serve where they are. No other place is
+/// ever written.
 [[nodiscard]] Programmordner BestimmeProgrammordner(
     const std::filesystem::path& ordner_des_programms, const std::filesystem::path& nutzerordner);
 

@@ -25,15 +25,25 @@ QAudioFormat FormatVon(const Welle& welle) {
 
 }  // namespace
 
-Klangausgabe::Klangausgabe() = default;
+Klangausgabe::Klangausgabe() {
+    m_gleich.setSingleShot(true);
+    m_gleich.callOnTimeout([this] { Beginne(); });
+}
+
 Klangausgabe::~Klangausgabe() = default;
+
+// Of many that are asked for at once only the last is opened.
+void Klangausgabe::Spiele(const std::filesystem::path& datei) {
+    m_datei = datei;
+    m_gleich.start(0);
+}
 
 // The toolkit's own player of files hangs at some, divides by nothing at others, and keeps what it
 // once read under a name. The file is read here, and the sound card gets samples.
-void Klangausgabe::Spiele(const std::filesystem::path& datei) {
+void Klangausgabe::Beginne() {
     m_senke.reset();
     m_abtastwerte.close();
-    const auto welle = LiesWelle(datei);
+    const auto welle = LiesWelle(m_datei);
     const QAudioDevice geraet = QMediaDevices::defaultAudioOutput();
     if (!welle || geraet.isNull()) {
         QApplication::beep();

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QBuffer>
+#include <QTimer>
+#include <filesystem>
 #include <memory>
 
 #include "ui/Umgebung.h"
@@ -18,6 +20,10 @@ class Klangausgabe final : public Klang {
     void Spiele(const std::filesystem::path& datei) override;
 
   private:
+    void Beginne();
+
+    std::filesystem::path m_datei;
+    QTimer m_gleich;
     /// The samples of the sound that plays.
     QBuffer m_abtastwerte;
     std::unique_ptr<QAudioSink> m_senke;

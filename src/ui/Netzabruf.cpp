@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QScopedValueRollback>
 #include <QUrl>
 #include <memory>
 #include <string_view>
@@ -16,7 +17,7 @@ namespace tarvelin {
 namespace {
 
 /// While it lives, clicks and keys go nowhere and the pointer tells that the program is busy.
-/// Painting, timers and the close of a window go on.
+/// Painting, timers and the close of a window go on, and a box that comes up takes its answer.
 class Eingabesperre : public QObject {
   public:
     Eingabesperre() {
@@ -33,6 +34,9 @@ class Eingabesperre : public QObject {
 
   protected:
     bool eventFilter(QObject* /*ziel*/, QEvent* event) override {
+        if (QApplication::activeModalWidget() != nullptr) {
+            return false;
+        }
         switch (event->type()) {
             case QEvent::MouseButtonPress:
             case QEvent::MouseButtonRelease:
@@ -135,6 +139,15 @@ bool IstOk(CURL* abfrage) {
 
 }  // namespace
 
+/// The library's own set-up.
+class Netzbibliothek {
+  public:
+    Netzbibliothek() { curl_global_init(CURL_GLOBAL_DEFAULT); }
+    Netzbibliothek(const Netzbibliothek&) = delete;
+    Netzbibliothek& operator=(const Netzbibliothek&) = delete;
+    ~Netzbibliothek() { curl_global_cleanup(); }
+};
+
 class Netzabruf::Verbindungen {
   public:
     /// The result of the fetch, or nothing if `weiter` ended it. The screen lives on meanwhile.
@@ -161,6 +174,7 @@ class Netzabruf::Verbindungen {
     }
 
   private:
+    Netzbibliothek m_bibliothek;
     std::unique_ptr<CURLM, decltype(&curl_multi_cleanup)> m_alle{curl_multi_init(),
                                                                  &curl_multi_cleanup};
 };
@@ -172,9 +186,10 @@ Netzabruf::~Netzabruf() = default;
 
 std::optional<std::string> Netzabruf::Hole(const std::string& adresse) {
     const std::string url = Webadresse(adresse);
-    if (url.empty()) {
+    if (url.empty() || m_laeuft) {
         return std::nullopt;
     }
+    const QScopedValueRollback laeuft(m_laeuft, true);
     const Eingabesperre sperre;
     Antwort antwort{.Hoechstens = m_grenzen.Bytes, .Bytes = {}};
     const Abfrage abfrage = NeueAbfrage(url, m_grenzen.Dauer, antwort);

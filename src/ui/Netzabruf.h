@@ -12,7 +12,7 @@ namespace tarvelin {
 /// Only http and https are asked, at most five redirects followed, to these two only. An answer
 /// counts with the status 200 alone, within the limits, and whole: with its head to the last line
 /// and its body as long as it was announced, or to the end of its last chunk; a body that announces
-/// neither, to a clean close of the connection.
+/// neither, to a clean close of the connection. One at a time: nothing is fetched during a fetch.
 class Netzabruf final : public Abruf {
   public:
     struct Grenzen {
@@ -36,6 +36,7 @@ class Netzabruf final : public Abruf {
     Grenzen m_grenzen;
     std::unique_ptr<Verbindungen> m_verbindungen;
     bool m_abgebrochen = false;
+    bool m_laeuft = false;
 };
 
 }  // namespace tarvelin

@@ -114,6 +114,13 @@ QSize frmMain::GroesseAuf(const QSize& bildschirm) {
     return ganz.boundedTo(bildschirm - kRahmen);
 }
 
+void frmMain::FolgeBildschirm() {
+    disconnect(m_bildschirm);
+    m_bildschirm =
+        connect(screen(), &QScreen::availableGeometryChanged, this, &frmMain::PasseAnBildschirmAn);
+    PasseAnBildschirmAn();
+}
+
 void frmMain::PasseAnBildschirmAn() {
     setFixedSize(GroesseAuf(screen()->availableSize()));
 }

@@ -53,6 +53,8 @@ class frmMain : public QMainWindow {
     bool LoadBauliste(const std::filesystem::path& File, bool Silent);
     /// Runs the plan and shows what it came to. `silent` keeps quiet about an empty list.
     void StarteSimulation(bool silent);
+    /// Keeps what the end of the program would keep, and goes on.
+    void Sichere();
 
   protected:
     /// Enter presses the default button, unless what has the focus takes it.
@@ -62,6 +64,7 @@ class frmMain : public QMainWindow {
 
   private:
     void LegeAus();
+    void FolgeBildschirm();
     void PasseAnBildschirmAn();
     void LadeBilder();
     void Verbinde();
@@ -76,14 +79,15 @@ class frmMain : public QMainWindow {
     void SetzeHeute();
     void LiesSkin();
     void BringePlan();
-    /// Whether a starter plan was loaded and stored.
-    bool ErsterStart();
     /// Whether the last plan was loaded.
     bool StelleWiederHer(const std::optional<Profil>& letzter);
     void LadeLetzten(const std::optional<Profil>& letzter);
     bool LoadBauliste(const std::optional<Profil>& profil, const std::filesystem::path& File,
                       bool Silent);
-    void Form_Unload(bool mitPlan);
+    /// How far the window has come. The plan is the user's own when the start is over.
+    enum class Abschnitt { Vorher, Start, Arbeit, Geschlossen };
+    void Form_Unload(Abschnitt bisher);
+    void Behalte(Abschnitt stand);
     [[nodiscard]] bool IstGeschlossen() const { return m_abschnitt == Abschnitt::Geschlossen; }
 
     void mnu_DateiNeu_Click();
@@ -122,6 +126,7 @@ class frmMain : public QMainWindow {
 
     /// Moves the surface on a screen that has no room for it.
     QScrollArea* m_rollflaeche;
+    QMetaObject::Connection m_bildschirm;
     QWidget* m_flaeche;
     // In the order in which Tab goes through them: what lies above comes first.
     Fra_Einstellungen* m_Fra_Einstellungen;
@@ -135,8 +140,6 @@ class frmMain : public QMainWindow {
     /// Windows of their own, made at their first use.
     std::unique_ptr<frmAbout> m_frmAbout;
     std::unique_ptr<frmDonate> m_frmDonate;
-    /// How far the window has come. The plan is the user's own when the start is over.
-    enum class Abschnitt { Vorher, Start, Arbeit, Geschlossen };
     Abschnitt m_abschnitt = Abschnitt::Vorher;
 };
 

@@ -25,7 +25,8 @@ void frmMain::Form_Load() {
     LiesSkin();
     m_abschnitt = Abschnitt::Start;
     show();
-    connect(windowHandle(), &QWindow::screenChanged, this, &frmMain::PasseAnBildschirmAn);
+    connect(windowHandle(), &QWindow::screenChanged, this, &frmMain::FolgeBildschirm);
+    FolgeBildschirm();
     WarteAufBildschirm();
     if (m_umgebung.Starthinweis) {
         m_umgebung.Boxen.Zeige(*m_umgebung.Starthinweis);
@@ -40,14 +41,22 @@ void frmMain::Form_Load() {
     }
 }
 
-// The starter plan takes the place of the last plan's file before the player is asked about that.
+// The last plan stays untouched until the player has answered for it.
 void frmMain::BringePlan() {
+    const bool ersterStart = m_konfiguration.IstAn(Konfiguration::kFirststart);
     const bool lagDa = FileExists(m_autosave.Datei());
     const auto letzter = Profil::Lade(m_autosave.Datei(), m_umgebung.Dateien);
-    const bool starterplan = ErsterStart();
+    const auto starterplan = m_umgebung.Programmordner / "saves" / "basic.tvf";
+    const bool geladen = ersterStart && FileExists(starterplan) && LoadBauliste(starterplan, false);
     const bool wieder = lagDa && StelleWiederHer(letzter);
-    if (!(starterplan && wieder)) {
-        m_autosave.GiltAlsGeschrieben(m_plan);
+    if (IstGeschlossen()) {
+        return;
+    }
+    const bool behalten = !geladen || wieder || m_autosave.Schreibe(m_plan);
+    m_autosave.GiltAlsGeschrieben(m_plan);
+    if (ersterStart && behalten) {
+        m_umgebung.Dateien.Loesche(starterplan);
+        m_konfiguration.Schreibe({{Konfiguration::kFirststart, "0"}});
     }
 }
 
@@ -71,32 +80,14 @@ void frmMain::LiesSkin() {
               *m_Fra_Rest, m_umgebung.Programmordner);
 }
 
-bool frmMain::ErsterStart() {
-    if (!m_konfiguration.IstAn(Konfiguration::kFirststart)) {
-        return false;
-    }
-    const auto starterplan = m_umgebung.Programmordner / "saves" / "basic.tvf";
-    bool gespeichert = false;
-    if (FileExists(starterplan)) {
-        const bool geladen = LoadBauliste(starterplan, false);
-        gespeichert = geladen && m_autosave.Schreibe(m_plan);
-        if (geladen && !gespeichert) {
-            // It stays, and the next start is a first one again.
-            return false;
-        }
-        m_umgebung.Dateien.Loesche(starterplan);
-    }
-    m_konfiguration.Schreibe({{Konfiguration::kFirststart, "0"}});
-    return gespeichert;
-}
-
 bool frmMain::StelleWiederHer(const std::optional<Profil>& letzter) {
     const auto entscheidung = EntscheideWiederherstellung(m_konfiguration);
+    if (IstGeschlossen() || entscheidung == Wiederherstellung::Nicht) {
+        return false;
+    }
     if (entscheidung == Wiederherstellung::Ungefragt) {
         LadeLetzten(letzter);
-    }
-    if (entscheidung != Wiederherstellung::Fragen || IstGeschlossen()) {
-        return entscheidung == Wiederherstellung::Ungefragt;
+        return true;
     }
     const auto frage = [this](const char* text) {
         return m_umgebung.Boxen.Stelle(
@@ -129,16 +120,27 @@ void frmMain::closeEvent(QCloseEvent* event) {
         m_umgebung.Boxen.Beende();
     }
     if (bisher == Abschnitt::Start || bisher == Abschnitt::Arbeit) {
-        // Until the start is over the plan isn't the user's.
-        Form_Unload(bisher == Abschnitt::Arbeit);
+        Form_Unload(bisher);
     }
     QMainWindow::closeEvent(event);
 }
 
-void frmMain::Form_Unload(bool mitPlan) {
+void frmMain::Form_Unload(Abschnitt bisher) {
     m_Tmr_Autosave.stop();
     m_alarme->Verstumme();
     m_umgebung.Netz.BrichAb();
+    Behalte(bisher);
+}
+
+void frmMain::Sichere() {
+    if (m_abschnitt == Abschnitt::Start || m_abschnitt == Abschnitt::Arbeit) {
+        Behalte(m_abschnitt);
+    }
+}
+
+void frmMain::Behalte(Abschnitt stand) {
+    // Until the start is over the plan isn't the user's.
+    const bool mitPlan = stand == Abschnitt::Arbeit;
     const Byte quelle = m_Fra_Skin->Quelle();
     const std::string pfad = quelle == kStandardskin ? "~"
                              : quelle == kWebskin

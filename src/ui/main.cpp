@@ -35,7 +35,8 @@ void OeffneSeite(const std::string& adresse) {
 
 /// Empty for a user without a home.
 std::filesystem::path Nutzerordner() {
-    if (QDir::homePath() == QDir::rootPath() && !qEnvironmentVariableIsSet("XDG_DATA_HOME")) {
+    if (QDir::homePath() == QDir::rootPath() &&
+        !qEnvironmentVariable("XDG_DATA_HOME").startsWith(QLatin1Char('/'))) {
         return {};
     }
     return tarvelin::AlsPfad(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
@@ -82,8 +83,9 @@ int main(int /*argc*/, char** argv) {
         QApplication::exit();
     };
     const tarvelin::Endesignale signale(beende);
-    QObject::connect(&programm, &QGuiApplication::commitDataRequest, &fenster, beende,
-                     Qt::DirectConnection);
+    // The session may go on after it; its end closes the windows.
+    QObject::connect(&programm, &QGuiApplication::commitDataRequest, &fenster,
+                     &tarvelin::frmMain::Sichere, Qt::DirectConnection);
     // Within the event loop, which a signal can end.
     QTimer::singleShot(0, &fenster, &tarvelin::frmMain::Form_Load);
     return QApplication::exec();

@@ -172,6 +172,7 @@ def pruefe_wecker(programm):
     for _ in range(5):
         ohr = Ohr()
         vorher = int((bauzeit - datetime.datetime.now()).total_seconds()) - 4
+        assert vorher >= 0, "no time is left"
         # The drop-down list's field has no name of its own.
         programm.tippe("", str(vorher))
         faellig = bauzeit.timestamp() - vorher
@@ -179,6 +180,8 @@ def pruefe_wecker(programm):
         ohr.schliesse()
         if ohr.laut_um:
             break
+        # What rings late must not be taken for the next.
+        time.sleep(2)
     assert ohr.laut_um and ohr.laut_um[0] >= faellig, (ohr.laut_um[:1], faellig)
 
 
@@ -190,7 +193,10 @@ def pruefe_ende_durch_signal(programm, autosave):
     programm.prozess.send_signal(signal.SIGTERM)
     code = programm.prozess.wait(timeout=30)
     assert code == 0, code
-    assert rechne(programm.ordner, autosave)["Bauliste"][-1]["Tag"] == "GM"
+    plan = rechne(programm.ordner, autosave)["Bauliste"]
+    assert plan[-1]["Tag"] == "GM"
+    with open(os.path.join(programm.ordner, "config.cfg"), encoding="cp1252") as datei:
+        assert f"ItemCount={len(plan)}\n" in datei.read(), "only the end writes it"
 
 
 def main(programme):
