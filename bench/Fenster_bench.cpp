@@ -4,9 +4,11 @@
 #include <QLabel>
 #include <QTest>
 
-#include "plan/ItemCode.h"
-#include "ui/Aussehen.h"
-#include "ui/frmMain.h"
+#include "ui/bauteile/Aussehen.h"
+#include "ui/bauteile/Bauteile.h"
+#include "ui/bauteile/Itemansicht.h"
+#include "ui/fenster/Baulistenansicht.h"
+#include "ui/fenster/frmMain.h"
 
 namespace tarvelin {
 namespace {
@@ -60,9 +62,8 @@ void ZeigeGanz(frmMain& fenster) {
 /// As many rows as a list can hold, all items in turn.
 void Fuelle(const frmMain& fenster) {
     auto* const liste = fenster.findChild<Baulistenansicht*>();
-    for (std::size_t i = 0; i < Bauliste::kHoechstzahl; ++i) {
-        const std::string_view bild = ItemTabelle()[i % kItemAnzahl].Bild;
-        emit liste->DragDrop(QString::fromLatin1(bild.data(), static_cast<int>(bild.size())));
+    for (std::size_t i = 0; i < Auftragsliste::kHoechstzahl; ++i) {
+        emit liste->DragDrop(AlsQString(Itemansichten()[i % kItemAnzahl].Bild));
     }
 }
 

@@ -2,19 +2,20 @@
 // the same on any machine.
 #include <benchmark/benchmark.h>
 
-#include <array>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <map>
 #include <random>
 #include <string>
+#include <utility>
 
 #include "Allokationen.h"
+#include "model/Itemtabelle.h"
 #include "persistence/Planablage.h"
-#include "plan/ItemCode.h"
 #include "plan/Regeln.h"
 #include "simulation/RunSimulation.h"
+#include "simulation/Simulation.h"
 
 namespace {
 
@@ -26,60 +27,140 @@ class Schweigend final : public Meldungsausgabe {
     void Piepton() override {}
 };
 
-/// A plan as a player would make it: within the rules, buildings and research up to levels that
-/// an opening reaches, ships and defences in batches, now and then a production row, two nights of
-/// sleep.
-Plan MachePlan(std::size_t zeilen) {
+/// Counts starts.
+class Zaehler final : public Laufbeobachter {
+  public:
+    void Start(const Startereignis& /*ereignis*/) override { ++Starts; }
+
+    std::size_t Starts = 0;
+};
+
+/// Orders as a player would give them: within the rules, buildings and research up to levels that
+/// an opening reaches, ships and defences in batches, now and then a production row.
+Auftragsliste MacheListe(std::size_t zeilen) {
     constexpr int kHoechsteMine = 20;
     constexpr int kHoechsteStufe = 6;
     constexpr unsigned kProduktionJede = 40;
     constexpr int kStapel = 5;
     std::minstd_rand zufall(20061118);
+    Auftragsliste liste;
+    while (liste.Zahl() < zeilen) {
+        const Itemzeile& zeile = ZeileVon(static_cast<ItemId>(zufall() % kItemAnzahl));
+        // The first four items are the mines and the power plant.
+        const int hoechste = zeile.Item < ItemId::Robo ? kHoechsteMine : kHoechsteStufe;
+        const bool einheit = zeile.Queue == Schlange::Werft && zeile.Item != ItemId::klSchK;
+        if (zufall() % kProduktionJede == 0) {
+            liste.HaengeAn(Auftrag::Fuer(Minenfaktoren{{10, 10, 8}}));
+        } else if (!Absage(zeile.Item, liste) &&
+                   (einheit || liste.ListStufe(zeile.Item) < hoechste)) {
+            for (int i = 0; i < (einheit ? kStapel : 1) && liste.Zahl() < zeilen; ++i) {
+                liste.HaengeAn(Auftrag::Fuer(zeile.Item));
+            }
+        }
+    }
+    return liste;
+}
+
+/// With two nights of sleep.
+Plan MachePlan(std::size_t zeilen) {
     Plan plan;
     plan.Parameter.UniStartZeitTag = "18";
     plan.Parameter.UniStartZeitMonat = "11";
     plan.Parameter.UniStartZeitJahr = "2006";
     plan.Schlafzeiten = {{"18.11.2006 23:00", "19.11.2006 07:00"},
                          {"19.11.2006 23:00", "20.11.2006 07:00"}};
-    const Startplanet planet;
-    while (plan.Liste.Zeilen().size() < zeilen) {
-        const ItemZeile& zeile = ItemTabelle()[zufall() % kItemAnzahl];
-        // The first four rows of the table are the mines and the power plant.
-        const int hoechste = &zeile < &ItemTabelle()[4] ? kHoechsteMine : kHoechsteStufe;
-        const bool einheit = zeile.Code[0] == 'W' && zeile.Item != ItemId::klSchK;
-        if (zufall() % kProduktionJede == 0) {
-            (void)plan.Liste.AddProdaenderungsevent({10, 10, 8}, planet);
-        } else if (!Absage(zeile.Item, plan.Liste) &&
-                   (einheit || plan.Liste.ListStufe(zeile.Item) < hoechste)) {
-            for (int i = 0; i < (einheit ? kStapel : 1); ++i) {
-                (void)plan.Liste.DragDrop(zeile.Bild, planet);
-            }
-        }
-    }
-    while (plan.Liste.Zeilen().size() > zeilen) {
-        plan.Liste.Undo();
+    const Auftragsliste liste = MacheListe(zeilen);
+    for (const Auftrag& order : liste.Alle()) {
+        (void)plan.Liste.Replay(order.Tag(), Startbedingungen());
     }
     return plan;
+}
+
+Startbedingungen Bedingungen() {
+    return std::get<Startbedingungen>(LiesStartbedingungen(MachePlan(1)));
 }
 
 std::size_t Zeilen(const benchmark::State& state) {
     return static_cast<std::size_t>(state.range(0));
 }
 
-void Laufen(benchmark::State& state) {
-    Plan plan = MachePlan(Zeilen(state));
-    Lauf lauf;
-    Schweigend meldungen;
-    const std::size_t vorher = Allokationen();
-    for (auto _ : state) {
-        // Each run with result rows of its own, as the first one after a start.
-        lauf.LV_Bauzeiten = Bauzeiten();
-        benchmark::DoNotOptimize(RunSimulation(plan, lauf, meldungen, true));
-    }
+void MerkeAllokationen(benchmark::State& state, std::size_t vorher) {
     state.counters["Allokationen"] = benchmark::Counter(
         static_cast<double>(Allokationen() - vorher), benchmark::Counter::kAvgIterations);
 }
+
+/// With the rows of its build times, as the window shows them.
+void Laufen(benchmark::State& state) {
+    const Auftragsliste liste = MacheListe(Zeilen(state));
+    const Startbedingungen bedingungen = Bedingungen();
+    Schweigend meldungen;
+    const std::size_t vorher = Allokationen();
+    for (auto _ : state) {
+        Lauf lauf;
+        lauf.Beginne(bedingungen);
+        RunSimulation(liste.Alle(), lauf, meldungen);
+        benchmark::DoNotOptimize(lauf.Stand);
+    }
+    MerkeAllokationen(state, vorher);
+}
 BENCHMARK(Laufen)->Arg(60)->Arg(254);
+
+/// With an observer that only counts.
+void Zaehlen(benchmark::State& state) {
+    const Auftragsliste liste = MacheListe(Zeilen(state));
+    const Startbedingungen bedingungen = Bedingungen();
+    const std::size_t vorher = Allokationen();
+    for (auto _ : state) {
+        Zaehler zaehler;
+        Simulation simulation(liste.Alle(), bedingungen);
+        simulation.Laufe(zaehler);
+        benchmark::DoNotOptimize(zaehler.Starts);
+    }
+    MerkeAllokationen(state, vorher);
+}
+BENCHMARK(Zaehlen)->Arg(60)->Arg(254);
+
+/// The last third of a run, from a copy of its state.
+void Fortsetzen(benchmark::State& state) {
+    const Auftragsliste liste = MacheListe(Zeilen(state));
+    const Startbedingungen bedingungen = Bedingungen();
+    Zaehler zaehler;
+    Simulation stand(liste.Alle(), bedingungen);
+    while (stand.Eingereiht() < liste.Zahl() * 2 / 3 || stand.WartetEiner()) {
+        stand.Schritt(zaehler);
+    }
+    for (auto _ : state) {
+        Simulation simulation = stand;
+        simulation.Laufe(zaehler);
+        benchmark::DoNotOptimize(zaehler.Starts);
+    }
+}
+BENCHMARK(Fortsetzen)->Arg(60);
+
+void Kopieren(benchmark::State& state) {
+    const Auftragsliste liste = MacheListe(1);
+    const Startbedingungen bedingungen = Bedingungen();
+    const Simulation simulation(liste.Alle(), bedingungen);
+    Simulation kopie = simulation;
+    for (auto _ : state) {
+        kopie = simulation;
+        benchmark::DoNotOptimize(kopie);
+    }
+}
+BENCHMARK(Kopieren);
+
+/// A list of orders, without a text.
+void Bauen(benchmark::State& state) {
+    const Auftragsliste vorlage = MacheListe(Zeilen(state));
+    for (auto _ : state) {
+        Auftragsliste liste;
+        for (const Auftrag& order : vorlage.Alle()) {
+            liste.HaengeAn(order);
+        }
+        benchmark::DoNotOptimize(liste);
+    }
+}
+BENCHMARK(Bauen)->Arg(60);
 
 void Laden(benchmark::State& state) {
     Profil profil("");
@@ -88,10 +169,7 @@ void Laden(benchmark::State& state) {
     Schweigend meldungen;
     for (auto _ : state) {
         Plan plan;
-        Lauf lauf;
-        benchmark::DoNotOptimize(LadePlan(Profil(bytes), plan, lauf.Planet, meldungen) &&
-                                 RunSimulation(plan, lauf, meldungen, true) ==
-                                     Laufausgang::Gelaufen);
+        benchmark::DoNotOptimize(LadePlan(Profil(bytes), plan, Startbedingungen(), meldungen));
     }
 }
 BENCHMARK(Laden)->Arg(60)->Arg(254);
@@ -149,6 +227,14 @@ int main(int argc, char** argv) {
             const double lauf = sammler.Zeit("Laufen/" + std::to_string(zeilen));
             std::printf("Ein Ereignis eines Laufs von %d Zeilen kostet %.2f Potenzen.\n", zeilen,
                         lauf / (2 * zeilen) / potenz);
+        }
+    }
+    const double sechzig = sammler.Zeit("Zaehlen/60");
+    if (sechzig > 0) {
+        for (const auto& [was, name] : {std::pair("Das letzte Drittel", "Fortsetzen/60"),
+                                        std::pair("Der Aufbau der Liste", "Bauen/60")}) {
+            std::printf("%s kostet %.1f %% eines Laufs von 60 Zeilen.\n", was,
+                        100 * sammler.Zeit(name) / sechzig);
         }
     }
     return EXIT_SUCCESS;

@@ -5,7 +5,7 @@
 #include "Gesetze.h"
 #include "console/Ausgabe.h"
 #include "persistence/Planablage.h"
-#include "plan/Wecker.h"
+#include "simulation/Wecker.h"
 
 namespace tarvelin {
 namespace {
@@ -19,10 +19,10 @@ void Drucke(const Planlauf& lauf) {
     SchreibeCsvKopf(strom);
     SchreibeCsv(strom, lauf);
     strom << JsonText(lauf) << RefreshWeekday(lauf.Plan.Parameter).Hint
-          << PunkteMitVorratText(lauf.Lauf.Planet.Globale);
+          << PunkteMitVorratText(lauf.Lauf.Stand);
     for (const auto& bauzeit : lauf.Lauf.LV_Bauzeiten) {
-        strom << FaelligeBauzeiten(lauf.Lauf.LV_Bauzeiten, bauzeit.Zeit(), "0")
-              << FaelligeSchlafzeiten(lauf.Plan.Schlafzeiten, bauzeit.Zeit());
+        strom << FaelligeBauzeiten(lauf.Lauf.LV_Bauzeiten, bauzeit.Start, "0")
+              << FaelligeSchlafzeiten(lauf.Plan.Schlafzeiten, bauzeit.Start);
     }
     Verlange(lauf.Gelaufen || !lauf.Meldungen.empty(), "a plan runs or says why not");
 }
@@ -33,8 +33,7 @@ void Drucke(const Planlauf& lauf) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t laenge) {
     using namespace tarvelin;
     const std::string_view bytes(reinterpret_cast<const char*>(daten), laenge);
-    std::ostringstream fehlerstrom;
-    const Planlauf lauf("plan.tvf", Profil(bytes), fehlerstrom);
+    const Planlauf lauf("plan.tvf", Profil(bytes));
     Drucke(lauf);
     if (lauf.Geladen && lauf.Plan.Liste.Zeilen().size() <= kHoechstzahl) {
         const Befund befund = PruefeGesetze(lauf.Plan);

@@ -3,7 +3,7 @@
 
 #include <QTemporaryDir>
 
-#include "ui/Aussehen.h"
+#include "ui/bauteile/Aussehen.h"
 
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {

@@ -10,7 +10,7 @@
 #include <QToolTip>
 
 #include "Fensterhilfen.h"
-#include "ui/Bauteile.h"
+#include "ui/bauteile/Bauteile.h"
 
 namespace tarvelin {
 namespace {
@@ -86,9 +86,9 @@ TEST_F(Fenster, KeinWortIstAbgeschnitten) {
 
 TEST_F(Fenster, ListenFassenIhreLaengstenTexte) {
     Plan plan = PlanAus("GX:10:10:10");
-    for (const ItemZeile& item : ItemTabelle()) {
+    for (const Itemzeile& item : Itemtabelle()) {
         for (int i = 0; i < 12; ++i) {
-            ASSERT_FALSE(plan.Liste.DragDrop(item.Bild, m_fenster.DerLauf().Planet));
+            ASSERT_FALSE(plan.Liste.AddItem(item.Item, m_fenster.DerLauf().Bedingungen));
         }
     }
     plan.Schlafzeiten.assign(30, {.Startzeit = "28.12.2006 22:30", .Endzeit = "28.12.2006 23:30"});
@@ -403,7 +403,7 @@ TEST_F(Fenster, KlickpufferSpeedfaktorUndBeschreibungen) {
     EXPECT_EQ(Text("LBL_KlickPuffer"), "10:00");
     EXPECT_EQ(m_fenster.DerPlan().Parameter.KlickPuffer, 600);
     Druecke("Chk_Speedfaktor");
-    EXPECT_EQ(m_fenster.DerLauf().Planet.Globale.Speedfaktor, 2);
+    EXPECT_EQ(m_fenster.DerLauf().Bedingungen.Speedfaktor, 2);
     Druecke("cmd_ShowDesc");
     EXPECT_EQ(Text("cmd_ShowDesc"), "ein/AUS");
     EXPECT_FALSE(Finde("LBLDesc(0)").isVisible() || Finde("LBLDesc(19)").isVisible());
@@ -535,7 +535,7 @@ TEST_F(Fenster, MeldungImLaufZeigtDenStandDesLaufs) {
 TEST_F(Fenster, NeuerLaufBeginntMitLeererListe) {
     Plan plan;
     for (int i = 0; i < 60; ++i) {
-        ASSERT_FALSE(plan.Liste.DragDrop("ImgSKW", m_fenster.DerLauf().Planet));
+        ASSERT_FALSE(plan.Liste.AddItem(ItemId::SKW, m_fenster.DerLauf().Bedingungen));
     }
     plan.Parameter = m_fenster.DerPlan().Parameter;
     Lade(plan);

@@ -11,7 +11,10 @@
 #include <map>
 
 #include "Hilfen.h"
-#include "ui/frmMain.h"
+#include "ui/bauteile/Bauteile.h"
+#include "ui/bauteile/Itemansicht.h"
+#include "ui/fenster/Baulistenansicht.h"
+#include "ui/fenster/frmMain.h"
 
 namespace tarvelin {
 
@@ -145,7 +148,8 @@ class Fenster : public testing::Test {
         for (std::size_t anfang = 0; anfang < codes.size();) {
             const std::size_t ende = std::min(codes.find(' ', anfang), codes.size());
             const auto item = ItemVonCode(codes.substr(anfang, ende - anfang));
-            emit Finde<Baulistenansicht>("LV_Bauliste").DragDrop(AlsQString(ZeileVon(*item).Bild));
+            emit Finde<Baulistenansicht>("LV_Bauliste")
+                .DragDrop(AlsQString(Itemansichten()[*item].Bild));
             anfang = ende + 1;
         }
     }

@@ -8,11 +8,11 @@
 
 #include "Ausfall.h"
 #include "Fensterhilfen.h"
-#include "ui/Bildknopf.h"
-#include "ui/Endesignale.h"
-#include "ui/Hersteller.h"
-#include "ui/Klangausgabe.h"
-#include "ui/Wellendatei.h"
+#include "ui/bauteile/Bildknopf.h"
+#include "ui/dienste/Endesignale.h"
+#include "ui/dienste/Klangausgabe.h"
+#include "ui/dienste/Wellendatei.h"
+#include "ui/fenster/Hersteller.h"
 
 namespace tarvelin {
 namespace {
@@ -317,7 +317,7 @@ TEST_F(Fensterleben, AlarmeKlingelnNurSolangeSieAnSind) {
     Lade("GS GM");
     Tippe("txt_UniStartZeitStunden", "12");
     m_fenster.StarteSimulation(true);
-    m_jetzt = m_fenster.DerLauf().LV_Bauzeiten[1].Zeit() + -10;
+    m_jetzt = m_fenster.DerLauf().LV_Bauzeiten[1].Start + -10;
     auto& takt = Finde<QTimer>("Tmr_BauWeckfunktion");
     const auto ticke = [&] { QMetaObject::invokeMethod(&takt, "timeout"); };
     EXPECT_FALSE(takt.isActive());

@@ -6,31 +6,46 @@
 #include <limits>
 #include <map>
 #include <numeric>
-#include <optional>
 #include <sstream>
 #include <vector>
 
 #include "console/Ausgabe.h"
+#include "model/Itemtabelle.h"
+#include "model/Kosten.h"
+#include "model/Planet.h"
 #include "persistence/Planablage.h"
-#include "plan/ItemCode.h"
 #include "simulation/RunSimulation.h"
+#include "simulation/Simulation.h"
+#include "simulation/Verlauf.h"
 #include "util/Codepage1252.h"
 
 namespace tarvelin {
 
 namespace {
 
-constexpr Long kEndeDerUhr = std::numeric_limits<Long>::max();
+constexpr Moment kEndeDerUhr(std::numeric_limits<Long>::max());
 
-/// Counts debts that are told.
-class Schuldenzaehler final : public Meldungsausgabe {
+class Stumm final : public Meldungsausgabe {
   public:
-    void Zeige(const Meldung& meldung) override {
-        Schulden += meldung.Text.starts_with("Negative Ressourcen") ? 1 : 0;
-    }
+    void Zeige(const Meldung& /*meldung*/) override {}
     void Piepton() override {}
+};
 
-    int Schulden = 0;
+/// All that a run tells, and the state behind each of its steps.
+class Mitschrift final : public Laufbeobachter {
+  public:
+    void Start(const Startereignis& ereignis) override {
+        Starts.push_back(ereignis);
+        StartIm.push_back(Staende.size());
+    }
+    void Schulden(const Spielstand& /*stand*/) override { SchuldenIm.push_back(Staende.size()); }
+    void NachSchritt(const Spielstand& stand) override { Staende.push_back(stand); }
+
+    std::vector<Startereignis> Starts;
+    /// The step of each start, and of each debt that was told.
+    std::vector<std::size_t> StartIm;
+    std::vector<std::size_t> SchuldenIm;
+    std::vector<Spielstand> Staende;
 };
 
 std::string Bytes(const Plan& plan) {
@@ -52,152 +67,96 @@ bool IstSpeicherbar(const Plan& plan) {
                                    return KommtZurueck(zeile.Startzeit) &&
                                           KommtZurueck(zeile.Endzeit);
                                }) &&
-           std::ranges::all_of(plan.Liste.Zeilen(), [](const BaulistenZeile& zeile) {
-               return KommtZurueck(zeile.Tag) && zeile.Order.Was != Auftrag::Art::Unbekannt;
-           });
+           std::ranges::all_of(plan.Liste.Zeilen(),
+                               [](const BaulistenZeile& zeile) { return KommtZurueck(zeile.Tag); });
 }
 
-/// A plan that was run, or nothing if its inputs can't be used.
-struct Gelaufener {
-    Lauf Ergebnis;
-    Schuldenzaehler Meldungen;
-    bool Gelungen;
+/// The conditions of a plan's run, or some where it has none.
+Startbedingungen BedingungenVon(const Plan& plan) {
+    const auto bedingungen = LiesStartbedingungen(plan);
+    const auto* const gelesen = std::get_if<Startbedingungen>(&bedingungen);
+    return gelesen == nullptr ? Startbedingungen{.Speedfaktor = 1} : *gelesen;
+}
 
-    explicit Gelaufener(Plan plan)
-        : Gelungen(RunSimulation(plan, Ergebnis, Meldungen, true) == Laufausgang::Gelaufen) {}
-};
-
-/// The books of a run. Starts are taken from its result, everything else is worked out anew.
-class Buchhaltung {
-  public:
-    Buchhaltung(const Plan& plan, const Lauf& lauf, int schulden)
-        : m_zeilen(plan.Liste.Zeilen()),
-          m_puffer(plan.Parameter.KlickPuffer),
-          m_lauf(lauf),
-          m_schulden(schulden) {
-        const GlobaleVariablen& globale = lauf.Planet.Globale;
-        m_planet.Globale.Speedfaktor = globale.Speedfaktor;
-        m_planet.Globale.StartDate = globale.StartDate;
-        m_planet.ResetSimulation(globale.Temperatur);
-    }
-
-    Befund Pruefe() {
-        while (m_naechste < m_zeilen.size() || !m_offen.empty()) {
-            const auto finish = std::ranges::min_element(m_offen, {}, &Finish::Wann);
-            const bool beginnt = m_naechste < m_zeilen.size() &&
-                                 (finish == m_offen.end() || Startzeile() < finish->Wann);
-            const Befund befund = beginnt ? Beginne() : Beende(finish);
-            if (!befund.empty() || m_unklar) {
-                return befund;
-            }
-            m_planet.EnergieBilanz();
+/// What goes on from a point of the history, less what the start of that step costs.
+JeRohstoff<Festkomma> VorratNachSchritt(const Spielstand& vorher, const Spielstand& nachher,
+                                        const Startereignis* start) {
+    const Verlauf verlauf(vorher);
+    auto vorrat = VorratNach(verlauf.Punkte().back(), nachher.secsgone - vorher.secsgone);
+    if (start != nullptr && start->Order.Was == Auftrag::Art::Item) {
+        const Kosten& preis = Preis(start->Order.Item, static_cast<Byte>(start->Nummer - 1));
+        for (const Rohstoff r : kRohstoffe) {
+            vorrat[r] = vorrat[r] - Festkomma::AusDouble(preis[r]);
         }
-        return Vergleiche();
     }
+    return vorrat;
+}
 
-  private:
-    struct Finish {
-        Long Wann = 0;
-        std::optional<ItemId> Was;
-    };
-
-    [[nodiscard]] Long Start() const {
-        return m_lauf.LV_Bauzeiten[m_naechste].Zeit() - m_lauf.Planet.Globale.StartDate;
-    }
-    /// Where the start stood in the timetable: the click comes on top.
-    [[nodiscard]] Long Startzeile() const { return LongSumme(Start(), -m_puffer); }
-
-    Befund Beginne() {
-        const BaulistenZeile& zeile = m_zeilen[m_naechste];
-        const Auftrag& order = zeile.Order;
-        const Long start = Start();
-        m_planet.VergeheZeit(LongSumme(start, -m_planet.Globale.secsgone.Sekunden()));
-        if (order.Was == Auftrag::Art::Produktion) {
-            constexpr float kZehntel = 10.0F;
-            m_planet.MetMine.SetProdfaktor(static_cast<float>(order.Faktoren[0]) / kZehntel);
-            m_planet.KrisMine.SetProdfaktor(static_cast<float>(order.Faktoren[1]) / kZehntel);
-            m_planet.DeutMine.SetProdfaktor(static_cast<float>(order.Faktoren[2]) / kZehntel);
-            m_offen.push_back({start, std::nullopt});
-        } else if (const Befund befund = BeginneItem(zeile, start); !befund.empty()) {
-            return befund;
+Befund PruefeVorraete(const Mitschrift& lauf, const Spielstand& anfang) {
+    std::size_t naechster = 0;
+    for (std::size_t i = 0; i < lauf.Staende.size(); ++i) {
+        const Spielstand& vorher = i == 0 ? anfang : lauf.Staende[i - 1];
+        const Spielstand& stand = lauf.Staende[i];
+        const bool start = naechster < lauf.StartIm.size() && lauf.StartIm[naechster] == i;
+        const auto soll =
+            VorratNachSchritt(vorher, stand, start ? &lauf.Starts[naechster] : nullptr);
+        naechster += start ? 1 : 0;
+        if (soll != stand.Vorrat && stand.secsgone != kEndeDerUhr) {
+            return "a stock is wrong behind step " + std::to_string(i);
         }
-        const GlobaleVariablen& globale = m_planet.Globale;
-        const bool schulden =
-            std::min({globale.Metall, globale.Kristall, globale.Deuterium}) < Festkomma();
-        m_schulden -= schulden ? 1 : 0;
-        ++m_naechste;
-        return {};
-    }
-
-    Befund BeginneItem(const BaulistenZeile& zeile, Long start) {
-        GlobaleVariablen& globale = m_planet.Globale;
-        cItem& item = m_planet.Item(zeile.Order.Item);
-        const Kosten preis = item.GetKosten(item.GetStufe());
-        m_unklar = start == kEndeDerUhr ||
-                   (preis.Deuterium > 0 && globale.DeuteriumProStunde <= Festkomma() &&
-                    globale.Stufe(ItemId::SKW) == 0 && globale.Stufe(ItemId::DeutMine) == 0);
-        // The code's first letter names the queue, whatever the run thinks.
-        Long& frei = m_frei[zeile.Tag.front()];
-        if (!m_unklar && start < frei) {
-            return "row " + std::to_string(m_naechste + 1) + " starts within its queue's last one";
+        if ((start && std::ranges::min(stand.Vorrat) < Festkomma()) !=
+            (std::ranges::count(lauf.SchuldenIm, i) == 1)) {
+            return "a debt isn't told in step " + std::to_string(i);
         }
-        globale.Metall = globale.Metall - Festkomma::AusDouble(preis.Metall);
-        globale.Kristall = globale.Kristall - Festkomma::AusDouble(preis.Kristall);
-        globale.Deuterium = globale.Deuterium - Festkomma::AusDouble(preis.Deuterium);
-        m_ausgegeben += preis.Metall + preis.Kristall + preis.Deuterium;
-        frei = HalfEvenLong(start + item.GetUpgradeTime());
-        m_offen.push_back({frei, zeile.Order.Item});
-        return {};
     }
+    return {};
+}
 
-    Befund Beende(std::vector<Finish>::iterator finish) {
-        m_planet.VergeheZeit(LongSumme(finish->Wann, -m_planet.Globale.secsgone.Sekunden()));
-        m_unklar = finish->Wann == kEndeDerUhr;
-        if (finish->Was) {
-            m_planet.Item(*finish->Was).UpgradeFinished();
+/// The code's first letter names the queue, whatever the run thinks.
+Befund PruefeSchlangen(const Mitschrift& lauf) {
+    std::map<char, Moment> frei;
+    for (const Startereignis& start : lauf.Starts) {
+        Moment& bis = frei[start.Order.Tag().front()];
+        if (start.Order.Was == Auftrag::Art::Item && start.Start < bis) {
+            return "row " + std::to_string(start.Zeile + 1) + " starts within its queue's last one";
         }
-        m_offen.erase(finish);
-        return {};
+        bis = std::max(bis, start.Finish);
     }
+    return {};
+}
 
-    [[nodiscard]] Befund Vergleiche() const {
-        const GlobaleVariablen& soll = m_planet.Globale;
-        const GlobaleVariablen& ist = m_lauf.Planet.Globale;
-        if (soll.secsgone != ist.secsgone) {
-            return "the clock says " + std::to_string(ist.secsgone.Sekunden());
-        }
-        if (soll.Stufen != ist.Stufen) {
+Befund PruefeSummen(const Auftragsliste& liste, const Spielstand& stand) {
+    double verbaut = 0;
+    for (const Itemzeile& zeile : Itemtabelle()) {
+        if (stand.Stufen[zeile.Item] != liste.ListStufe(zeile.Item)) {
             return "a level is wrong";
         }
-        for (const auto vorrat : {&GlobaleVariablen::Metall, &GlobaleVariablen::Kristall,
-                                  &GlobaleVariablen::Deuterium}) {
-            if (soll.*vorrat != ist.*vorrat) {
-                return "a stock is " + Dezimaltext(ist.*vorrat) + " and should be " +
-                       Dezimaltext(soll.*vorrat);
-            }
+        for (Byte stufe = 0; stufe < liste.ListStufe(zeile.Item); ++stufe) {
+            const Kosten& preis = Preis(zeile.Item, stufe);
+            verbaut = std::accumulate(preis.begin(), preis.end(), verbaut);
         }
-        if (m_ausgegeben < kEndeDerUhr && m_ausgegeben != ist.VerbauteRessourcen) {
-            return "spent is not " + std::to_string(ist.VerbauteRessourcen);
-        }
-        return m_schulden == 0 ? "" : "a debt was told too often, or not";
     }
+    return stand.VerbauteRessourcen == HalfEvenLong(verbaut) ? "" : "the sum of costs is wrong";
+}
 
-    const std::vector<BaulistenZeile>& m_zeilen;
-    Long m_puffer;
-    const Lauf& m_lauf;
-    int m_schulden;
-    Startplanet m_planet;
-    std::vector<Finish> m_offen;
-    std::map<char, Long> m_frei;
-    std::size_t m_naechste = 0;
-    double m_ausgegeben = 0;
-    bool m_unklar = false;
-};
+/// Whether a run that goes on tells and does what the whole one did from step `schritt` on.
+bool GehtWeiterWie(const Mitschrift& ganz, std::size_t schritt, const Mitschrift& rest) {
+    const auto starts = std::ranges::lower_bound(ganz.StartIm, schritt) - ganz.StartIm.begin();
+    return std::ranges::equal(ganz.Staende.begin() + static_cast<std::ptrdiff_t>(schritt),
+                              ganz.Staende.end(), rest.Staende.begin(), rest.Staende.end()) &&
+           std::ranges::equal(ganz.Starts.begin() + starts, ganz.Starts.end(), rest.Starts.begin(),
+                              rest.Starts.end());
+}
 
-bool NurBekannte(const Plan& plan) {
-    return std::ranges::none_of(plan.Liste.Zeilen(), [](const BaulistenZeile& zeile) {
-        return zeile.Order.Was == Auftrag::Art::Unbekannt;
-    });
+/// A run over the first `n` orders, up to the step that started the last of them.
+Simulation LaufBis(std::span<const Auftrag> auftraege, std::size_t n,
+                   const Startbedingungen& bedingungen) {
+    Simulation lauf(auftraege.first(n), bedingungen);
+    Mitschrift stumm;
+    while (lauf.Eingereiht() < n || lauf.WartetEiner()) {
+        lauf.Schritt(stumm);
+    }
+    return lauf;
 }
 
 }  // namespace
@@ -208,10 +167,10 @@ std::string Zustand(const Bauliste& liste) {
         text += zeile.Text + "|" + zeile.Tag + "|" + zeile.SubItems1 + "|" + zeile.SubItems2 + "|" +
                 (zeile.SubItems2Farbe == Farbe::Rot ? "rot\n" : "schwarz\n");
     }
-    for (const ItemZeile& zeile : ItemTabelle()) {
-        text += std::to_string(liste.ListStufe(zeile.Item)) + " ";
+    for (const Itemzeile& zeile : Itemtabelle()) {
+        text += std::to_string(liste.Auftraege().ListStufe(zeile.Item)) + " ";
     }
-    for (const Byte faktor : liste.ListFaktor()) {
+    for (const Byte faktor : liste.Auftraege().ListFaktor()) {
         text += std::to_string(faktor) + " ";
     }
     return text;
@@ -219,7 +178,7 @@ std::string Zustand(const Bauliste& liste) {
 
 std::string Ergebnis(const Plan& plan) {
     std::ostringstream strom;
-    const Planlauf lauf("plan.tvf", Profil(Bytes(plan)), strom);
+    const Planlauf lauf("plan.tvf", Profil(Bytes(plan)));
     SchreibeText(strom, lauf);
     SchreibeCsv(strom, lauf);
     strom << JsonText(lauf);
@@ -231,12 +190,12 @@ Befund PruefeSpeichern(const Plan& plan) {
         return {};
     }
     // Both lists are made on a planet of the same temperature.
-    const Startplanet planet;
-    Schuldenzaehler meldungen;
+    const Startbedingungen bedingungen;
+    Stumm meldungen;
     Plan vorher;
     Plan nachher;
-    if (!LadePlan(Profil(Bytes(plan)), vorher, planet, meldungen) ||
-        !LadePlan(Profil(Bytes(vorher)), nachher, planet, meldungen)) {
+    if (!LadePlan(Profil(Bytes(plan)), vorher, bedingungen, meldungen) ||
+        !LadePlan(Profil(Bytes(vorher)), nachher, bedingungen, meldungen)) {
         return "a saved plan can't be loaded";
     }
     if (Bytes(nachher) != Bytes(plan) || nachher.Schlafzeiten != plan.Schlafzeiten) {
@@ -249,27 +208,90 @@ Befund PruefeSpeichern(const Plan& plan) {
 }
 
 Befund PruefeUndo(const Plan& plan) {
-    const Gelaufener gelaufener(plan);
-    const Startplanet& planet = gelaufener.Ergebnis.Planet;
+    const Startbedingungen bedingungen = BedingungenVon(plan);
     Bauliste liste;
-    std::size_t n = 0;
     for (const BaulistenZeile& zeile : plan.Liste.Zeilen()) {
         const std::string vorher = Zustand(liste);
-        const ItemZeile& andere = ItemTabelle()[n++ % kItemAnzahl];
-        if (liste.DragDrop(andere.Bild, planet)) {
+        const auto anderes = static_cast<ItemId>(liste.Zeilen().size() % Itemtabelle().size());
+        if (liste.AddItem(anderes, bedingungen)) {
             return "a row can't be added";
         }
         liste.Undo();
-        if (!liste.AddProdaenderungsevent({1, 2, 3}, planet)) {
+        if (!liste.AddProdaenderungsevent({{1, 2, 3}}, bedingungen)) {
             liste.Undo();
         }
         if (Zustand(liste) != vorher) {
             return "an undo leaves\n" + Zustand(liste);
         }
-        if (zeile.Order.Was == Auftrag::Art::Item) {
-            static_cast<void>(liste.DragDrop(ZeileVon(zeile.Order.Item).Bild, planet));
-        } else if (zeile.Order.Was == Auftrag::Art::Produktion) {
-            liste.ReplayProduktion(zeile.Tag, zeile.Order.Faktoren, planet);
+        if (!liste.Replay(zeile.Tag, bedingungen)) {
+            return "a row can't be repeated";
+        }
+    }
+    return {};
+}
+
+Befund PruefeBuecher(const Plan& plan) {
+    if (std::holds_alternative<Meldung>(LiesStartbedingungen(plan))) {
+        return {};
+    }
+    const Startbedingungen bedingungen = BedingungenVon(plan);
+    const Auftragsliste& liste = plan.Liste.Auftraege();
+    Simulation simulation(liste.Alle(), bedingungen);
+    const Spielstand anfang = simulation.Stand();
+    Mitschrift lauf;
+    simulation.Laufe(lauf);
+    for (std::size_t i = 0; i < liste.Zahl(); ++i) {
+        if (lauf.Starts.size() != liste.Zahl() || lauf.Starts[i].Zeile != i ||
+            lauf.Starts[i].Order != liste.Alle()[i]) {
+            return "row " + std::to_string(i + 1) + " hasn't started in its turn";
+        }
+    }
+    for (const Befund& befund : {PruefeSchlangen(lauf), PruefeVorraete(lauf, anfang),
+                                 PruefeSummen(liste, simulation.Stand())}) {
+        if (!befund.empty()) {
+            return befund;
+        }
+    }
+    return {};
+}
+
+Befund PruefeWiederaufnahme(const Plan& plan) {
+    constexpr std::size_t kProben = 12;
+    const Startbedingungen bedingungen = BedingungenVon(plan);
+    const auto orders = plan.Liste.Auftraege().Alle();
+    std::vector<Auftrag> andere(orders.begin(), orders.end());
+    Simulation lauf(orders, bedingungen);
+    std::vector<Simulation> kopien;
+    Mitschrift ganz;
+    while (!lauf.IstFertig()) {
+        kopien.push_back(lauf);
+        lauf.Schritt(ganz);
+    }
+    for (std::size_t schritt = 0; schritt < kopien.size(); schritt += 1 + kopien.size() / kProben) {
+        const Spielstand vorher = kopien[schritt].Stand();
+        Simulation kopie = kopien[schritt];
+        Mitschrift rest;
+        kopie.Laufe(rest);
+        if (!GehtWeiterWie(ganz, schritt, rest) || kopie.Stand() != lauf.Stand()) {
+            return "a copy goes on otherwise from step " + std::to_string(schritt);
+        }
+        if (kopien[schritt].Stand() != vorher) {
+            return "a copy has changed what it was copied from";
+        }
+    }
+    for (std::size_t n = 1; n < orders.size(); n += 1 + orders.size() / kProben) {
+        std::ranges::copy(orders, andere.begin());
+        std::ranges::reverse(andere.begin() + static_cast<std::ptrdiff_t>(n), andere.end());
+        Simulation neu(andere, bedingungen);
+        Mitschrift vonVorn;
+        neu.Laufe(vonVorn);
+        Simulation fortgesetzt = LaufBis(orders, n, bedingungen);
+        fortgesetzt.WechsleAuftraege(andere);
+        Mitschrift rest;
+        fortgesetzt.Laufe(rest);
+        if (!GehtWeiterWie(vonVorn, vonVorn.Staende.size() - rest.Staende.size(), rest) ||
+            rest.Starts.size() != orders.size() - n) {
+            return "a run goes on otherwise behind row " + std::to_string(n);
         }
     }
     return {};
@@ -277,60 +299,46 @@ Befund PruefeUndo(const Plan& plan) {
 
 Befund PruefeZeitsprung(const Plan& plan) {
     constexpr Long kStuecke = 7;
-    constexpr std::int64_t kGenau = std::int64_t{1} << 40U;
     constexpr std::int64_t kStunde = 3600;
-    Gelaufener sprung(plan);
-    Gelaufener gang(plan);
-    GlobaleVariablen& gesprungen = sprung.Ergebnis.Planet.Globale;
-    const GlobaleVariablen& gegangen = gang.Ergebnis.Planet.Globale;
+    constexpr std::int64_t kGenau = std::int64_t{1} << 40U;
+    const Startbedingungen bedingungen = BedingungenVon(plan);
+    Simulation lauf(plan.Liste.Auftraege().Alle(), bedingungen);
+    Mitschrift stumm;
+    lauf.Laufe(stumm);
+    Spielstand gesprungen = lauf.Stand();
+    Spielstand gegangen = lauf.Stand();
     std::int64_t teiler = kStunde;
-    for (const Festkomma rate : {gesprungen.MetallProStunde, gesprungen.KristallProStunde,
-                                 gesprungen.DeuteriumProStunde}) {
+    for (const Festkomma rate : gesprungen.ProStunde) {
         teiler = std::gcd(teiler, rate.Rohwert());
-        if (std::abs(rate.AlsDouble()) > kGenau / Festkomma::kEinheit) {
+        if (std::abs(rate.Rohwert()) > kGenau) {
             return {};
         }
     }
     const auto stueck = static_cast<Long>(kStunde / teiler);
-    if (!sprung.Gelungen || gesprungen.secsgone + kStuecke * stueck == Moment(kEndeDerUhr)) {
-        return {};
-    }
-    sprung.Ergebnis.Planet.VergeheZeit(kStuecke * stueck);
+    VergeheZeit(kStuecke * stueck, gesprungen);
     for (Long i = 0; i < kStuecke; ++i) {
-        gang.Ergebnis.Planet.VergeheZeit(stueck);
+        VergeheZeit(stueck, gegangen);
     }
-    const bool gleich =
-        gesprungen.Metall == gegangen.Metall && gesprungen.Kristall == gegangen.Kristall &&
-        gesprungen.Deuterium == gegangen.Deuterium && gesprungen.secsgone == gegangen.secsgone;
-    return gleich ? "" : "a jump is no walk of " + std::to_string(stueck) + " s";
-}
-
-Befund PruefeBuchhaltung(const Plan& plan) {
-    const Gelaufener gelaufener(plan);
-    if (!gelaufener.Gelungen || !NurBekannte(plan)) {
-        return {};
-    }
-    if (gelaufener.Ergebnis.LV_Bauzeiten.size() != plan.Liste.Zeilen().size()) {
-        return "a row hasn't started";
-    }
-    return Buchhaltung(plan, gelaufener.Ergebnis, gelaufener.Meldungen.Schulden).Pruefe();
+    return gesprungen == gegangen || gesprungen.secsgone == kEndeDerUhr
+               ? ""
+               : "a jump is no walk of " + std::to_string(stueck) + " s";
 }
 
 Befund PruefeWiederholung(const Plan& plan) {
-    std::ostringstream strom;
-    Planlauf lauf("plan.tvf", Profil(Bytes(plan)), strom);
+    Planlauf lauf("plan.tvf", Profil(Bytes(plan)));
     const std::string einmal = JsonText(lauf);
-    Schuldenzaehler meldungen;
     if (lauf.Gelaufen) {
-        RunSimulation(lauf.Plan, lauf.Lauf, meldungen, true);
-        lauf.Texte.NachLauf(lauf.Lauf.Planet.Globale);
+        Stumm meldungen;
+        lauf.Lauf.Beginne(BedingungenVon(lauf.Plan));
+        RunSimulation(lauf.Plan.Liste.Auftraege().Alle(), lauf.Lauf, meldungen);
+        lauf.Texte.NachLauf(lauf.Lauf.Stand);
     }
     return JsonText(lauf) == einmal ? "" : "a second run has another result";
 }
 
 Befund PruefeGesetze(const Plan& plan) {
-    for (const auto gesetz :
-         {PruefeSpeichern, PruefeUndo, PruefeZeitsprung, PruefeBuchhaltung, PruefeWiederholung}) {
+    for (const auto gesetz : {PruefeSpeichern, PruefeUndo, PruefeBuecher, PruefeWiederaufnahme,
+                              PruefeZeitsprung, PruefeWiederholung}) {
         if (Befund befund = gesetz(plan); !befund.empty()) {
             return befund;
         }

@@ -24,16 +24,19 @@ using Befund = std::string;
 /// After each row of the plan: another row, taken back, leaves the list as it was.
 [[nodiscard]] Befund PruefeUndo(const Plan& plan);
 
+/// The books of a run: each order starts, and none within the one before it in its queue; each
+/// stock is what the history tells for that moment, less the costs; debts are told; at the end
+/// levels are the orders of the list, and what was spent is the sum of the costs.
+[[nodiscard]] Befund PruefeBuecher(const Plan& plan);
+
+/// A run goes on from a copy at any step, or over a list with another end, as one from the
+/// beginning does; the run that was copied stays as it was.
+[[nodiscard]] Befund PruefeWiederaufnahme(const Plan& plan);
+
 /// A jump through time equals the same time in pieces in which no fraction is lost.
 [[nodiscard]] Befund PruefeZeitsprung(const Plan& plan);
 
-/// The books of a run, kept anew from the moments of its starts alone: the orders of a queue follow
-/// each other; each stock is its start plus gains minus costs; `VerbauteRessourcen` is the sum of
-/// the costs; levels are the orders that were finished; debts are told. Up to the end of the clock,
-/// and to an order that starts in debt without any source of deuterium.
-[[nodiscard]] Befund PruefeBuchhaltung(const Plan& plan);
-
-/// The same run once more, on the planet that the first one left, gives the same.
+/// The same run once more, in the place of the first one, gives the same.
 [[nodiscard]] Befund PruefeWiederholung(const Plan& plan);
 
 /// All of them.

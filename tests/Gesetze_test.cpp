@@ -29,7 +29,7 @@ class Plangeber {
         plan.ShowDesc = Eins(2);
         AendereTempMax(plan.Parameter, std::to_string(Eins(8) ? Bis(4000) - 2000 : Bis(160) - 60));
         m_jedesBild = Eins(3);
-        FuelleListe(plan.Liste, Eins(10) ? Bis(Bauliste::kHoechstzahl) : 1 + Bis(60));
+        FuelleListe(plan.Liste, Eins(10) ? Bis(Auftragsliste::kHoechstzahl) : 1 + Bis(60));
         const Zeitpunkt start = *LiesDatumzeit("18.11.2006 12:30");
         for (int n = Eins(2) ? Bis(5) : 0; n > 0; --n) {
             const Zeitpunkt schlaf = start + 60 * Bis(6000);
@@ -47,19 +47,18 @@ class Plangeber {
 
     void FuelleListe(Bauliste& liste, int zeilen) {
         while (static_cast<int>(liste.Zeilen().size()) < zeilen) {
-            const ItemZeile& zeile = ItemTabelle()[m_zufall() % kItemAnzahl];
+            const auto item = static_cast<ItemId>(m_zufall() % Itemtabelle().size());
             if (Eins(12)) {
                 const auto faktor = [this] { return static_cast<Byte>(Bis(kVollerFaktor)); };
-                EXPECT_FALSE(
-                    liste.AddProdaenderungsevent({faktor(), faktor(), faktor()}, m_planet));
-            } else if (m_jedesBild || !Absage(zeile.Item, liste)) {
-                EXPECT_FALSE(liste.DragDrop(zeile.Bild, m_planet));
+                EXPECT_FALSE(liste.AddProdaenderungsevent({{faktor(), faktor(), faktor()}},
+                                                          Startbedingungen()));
+            } else if (m_jedesBild || !Absage(item, liste.Auftraege())) {
+                EXPECT_FALSE(liste.AddItem(item, Startbedingungen()));
             }
         }
     }
 
     std::mt19937 m_zufall;
-    Startplanet m_planet;
     bool m_jedesBild = false;
 };
 

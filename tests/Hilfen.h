@@ -11,8 +11,8 @@
 #include <string_view>
 #include <vector>
 
+#include "model/Itemtabelle.h"
 #include "persistence/Planablage.h"
-#include "plan/ItemCode.h"
 #include "simulation/Ergebnistexte.h"
 #include "simulation/RunSimulation.h"
 
@@ -82,25 +82,37 @@ inline std::string InUtf16(const std::u16string& text, bool hochVorn) {
     return bytes;
 }
 
-/// A plan of 18.11.2006 12:30 without a click buffer, its rows by codes parted by blanks.
-inline Plan PlanAus(std::string_view codes, const Startplanet& planet = Startplanet()) {
+/// A plan of 18.11.2006 12:30 without a click buffer, its rows by `Tag`s parted by blanks.
+inline Plan PlanAus(std::string_view tags, const Startbedingungen& bedingungen = {}) {
     Plan plan;
     plan.Parameter.UniStartZeitTag = "18";
     plan.Parameter.UniStartZeitMonat = "11";
     plan.Parameter.UniStartZeitJahr = "2006";
     plan.Parameter.KlickPuffer = 0;
-    while (!codes.empty()) {
-        const auto code = codes.substr(0, codes.find(' '));
-        if (const auto item = ItemVonCode(code)) {
-            EXPECT_FALSE(plan.Liste.DragDrop(ZeileVon(*item).Bild, planet));
-        } else if (const auto faktoren = LiesMinenfaktoren(code)) {
-            EXPECT_FALSE(plan.Liste.AddProdaenderungsevent(*faktoren, planet));
-        } else {
-            plan.Liste.HaengeZeileAn(code);
-        }
-        codes.remove_prefix(std::min(code.size() + 1, codes.size()));
+    while (!tags.empty()) {
+        const auto tag = tags.substr(0, tags.find(' '));
+        EXPECT_TRUE(plan.Liste.Replay(tag, bedingungen)) << tag;
+        tags.remove_prefix(std::min(tag.size() + 1, tags.size()));
     }
     return plan;
 }
+
+/// A plan that was run, unless its inputs can't be used.
+struct Probe {
+    Lauf Gelaufen;
+    Merker Meldungen;
+    bool Gelungen = false;
+
+    explicit Probe(const Plan& plan) {
+        const auto bedingungen = LiesStartbedingungen(plan);
+        if (const auto* const absage = std::get_if<Meldung>(&bedingungen)) {
+            Meldungen.Zeige(*absage);
+            return;
+        }
+        Gelaufen.Beginne(std::get<Startbedingungen>(bedingungen));
+        RunSimulation(plan.Liste.Auftraege().Alle(), Gelaufen, Meldungen);
+        Gelungen = true;
+    }
+};
 
 }  // namespace tarvelin

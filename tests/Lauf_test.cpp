@@ -1,86 +1,50 @@
 // The run: its clock, its timetable, its messages and what it leaves behind.
 #include "Hilfen.h"
 #include "simulation/EventTabelle.h"
+#include "simulation/Simulation.h"
 
 namespace tarvelin {
 namespace {
 
-struct Probe {
-    Lauf Gelaufen;
-    Merker Meldungen;
-    Laufausgang Ausgang;
-
-    explicit Probe(Plan plan, bool silent = false)
-        : Ausgang(RunSimulation(plan, Gelaufen, Meldungen, silent)) {}
-
-    [[nodiscard]] const GlobaleVariablen& Globale() const { return Gelaufen.Planet.Globale; }
-    [[nodiscard]] Long Uhr() const { return Globale().secsgone.Sekunden(); }
-    [[nodiscard]] Long Start(std::size_t zeile) const {
-        return Gelaufen.LV_Bauzeiten.at(zeile).Zeit() - Globale().StartDate;
-    }
-};
-
-Plan MitPuffer(std::string_view codes, int puffer) {
-    Plan plan = PlanAus(codes);
+Plan MitPuffer(std::string_view tags, int puffer) {
+    Plan plan = PlanAus(tags);
     plan.Parameter.KlickPuffer = puffer;
     return plan;
 }
 
-TEST(Lauf, DerErsteAuftragUndSeineErgebnistexte) {
+TEST(Ergebnistexte, FolgenLaufClearUndReset) {
     const Probe probe(MitPuffer("GM", 5));
-    EXPECT_EQ(probe.Uhr(), 113);
-    EXPECT_EQ(probe.Start(0), 5);
-    EXPECT_EQ(VierStellenText(probe.Globale().Metall), "440.6278");
     Ergebnistexte texte;
-    texte.NachLauf(probe.Globale());
-    EXPECT_EQ(texte.LBL_Timegone, "Dauer: 00 Tage 00:01:53");
-    EXPECT_EQ(texte.LBL_Timegone2, texte.LBL_Timegone);
-    EXPECT_EQ(texte.LBL_Met + " " + texte.LBL_Kris + " " + texte.LBL_Deut, "440 485 0");
-    EXPECT_EQ(texte.LBL_ENergie, "-11 / 0");
+    texte.NachLauf(probe.Gelaufen.Stand);
+    EXPECT_EQ(texte.LBL_Timegone2, "Dauer: 00 Tage 00:01:53");
     EXPECT_EQ(texte.LBL_Punkte, "0,075 P");
-    EXPECT_EQ(texte.LBL_Punkte_Hinweis, "Inkl. Res.: 1,001 Punkte");
     texte.NachClear();
     EXPECT_EQ(texte.LBL_Timegone + texte.LBL_Met, "Dauer: dd:hh:mm:ss500");
     EXPECT_EQ(texte.LBL_Punkte, "0,075 P");
     texte.NachReset();
     EXPECT_EQ(texte.LBL_Timegone2 + texte.LBL_Punkte, "Dauer: dd:hh:mm:ss0");
-    EXPECT_EQ(probe.Gelaufen.LV_Bauzeiten[0].Tag(),
-              "Samstag 18.11.2006 12:30:05 | Keine Verzögerung wegen der Ressourcen!");
 }
 
-TEST(Lauf, EingabenWerdenDerReiheNachGeprueft) {
+TEST(Startbedingungen, WerdenDerReiheNachGelesen) {
     struct Fall {
-        const char* codes;
-        const char* temperatur;
-        const char* tag;
-        std::vector<std::string> texte;
+        const char* Tags;
+        const char* Temperatur;
+        const char* Tag;
+        std::vector<std::string> Texte;
     };
-    const std::vector<Fall> faelle{
-        {"", "x", "x", {"Die Bauliste ist leer..."}},
-        {"GM", "x", "x", {"Keine gültige Temperatur eingegeben..."}},
-        {"GM", "40000", "18", {"Keine gültige Temperatur eingegeben..."}},
-        {"GM", "11", "x", {"Kein gültiges Datum eingegeben..."}},
-        {"GM", "11", "18", {}}};
-    for (const Fall& fall : faelle) {
-        Plan plan = PlanAus(fall.codes);
-        plan.Parameter.TempMax = fall.temperatur;
-        plan.Parameter.UniStartZeitTag = fall.tag;
+    for (const auto& [tags, temperatur, tag, texte] :
+         {Fall{"", "x", "x", {"Die Bauliste ist leer..."}},
+          Fall{"GM", "x", "x", {"Keine gültige Temperatur eingegeben..."}},
+          Fall{"GM", "40000", "18", {"Keine gültige Temperatur eingegeben..."}},
+          Fall{"GM", "11", "x", {"Kein gültiges Datum eingegeben..."}},
+          Fall{"GM", "11", "18", {}}}) {
+        Plan plan = PlanAus(tags);
+        plan.Parameter.TempMax = temperatur;
+        plan.Parameter.UniStartZeitTag = tag;
         const Probe probe(plan);
-        EXPECT_EQ(probe.Meldungen.Texte, fall.texte);
-        EXPECT_EQ(probe.Ausgang == Laufausgang::Gelaufen, fall.texte.empty());
-        EXPECT_EQ(Probe(plan, true).Meldungen.Texte.empty(),
-                  fall.texte.empty() || *fall.codes == 0);
+        EXPECT_EQ(probe.Meldungen.Texte, texte);
+        EXPECT_EQ(probe.Gelungen, texte.empty());
     }
-    // A refused run leaves the last one's state, but for speed factor and sleep windows.
-    Lauf lauf;
-    Merker merker;
-    Plan plan = PlanAus("GM");
-    RunSimulation(plan, lauf, merker, false);
-    plan.Liste.Clear();
-    plan.Parameter.SpeedfaktorX2 = true;
-    RunSimulation(plan, lauf, merker, false);
-    EXPECT_EQ(lauf.LV_Bauzeiten.size(), 1U);
-    EXPECT_EQ(lauf.Planet.Globale.Speedfaktor, 2);
 }
 
 TEST(Lauf, SchuldenJedesRohstoffsWerdenGemeldet) {
@@ -94,58 +58,75 @@ TEST(Lauf, SchuldenJedesRohstoffsWerdenGemeldet) {
     }
 }
 
+/// Counts what orders bring that no rule knows.
+class Fremdenzaehler final : public Laufbeobachter {
+  public:
+    void Start(const Startereignis& ereignis) override { Letzter = ereignis; }
+    void Unbekannt(Unbekanntes was) override { ++(was == Unbekanntes::Start ? Starts : Zeiten); }
+    void Piepton() override { ++Pieptoene; }
+
+    Startereignis Letzter;
+    int Starts = 0;
+    int Zeiten = 0;
+    int Pieptoene = 0;
+};
+
 TEST(Lauf, UnbekannteAuftraegeFallenWeg) {
-    const Probe probe(MitPuffer("GM Quatsch WZZ GK", 0));
-    EXPECT_EQ(probe.Gelaufen.LV_Bauzeiten.size(), 2U);
-    EXPECT_EQ(probe.Globale().Stufe(ItemId::KrisMine), 1);
-    EXPECT_EQ(probe.Meldungen.Pieptoene, 2);  // their finishes
-    const auto anzahl = [&](const char* text) {
-        return std::ranges::count(probe.Meldungen.Texte, text);
+    const auto laufe = [](const std::vector<Auftrag>& orders, Long puffer) {
+        const Startbedingungen bedingungen{.Speedfaktor = 1, .KlickPuffer = puffer};
+        Fremdenzaehler zaehler;
+        Simulation(orders, bedingungen).Laufe(zaehler);
+        EXPECT_EQ(zaehler.Letzter.Zeile, orders.size() - 1);
+        return std::array{zaehler.Starts, zaehler.Zeiten, zaehler.Pieptoene,
+                          static_cast<int>(zaehler.Letzter.Start.Sekunden())};
     };
-    EXPECT_EQ(anzahl("STARTAUFTRAG NICHT ERKANNT"), 2);
-    EXPECT_EQ(anzahl("UpgrdingensSAUFTRAG NICHT ERKANNT"), 2);
+    const Auftrag mine = Auftrag::Fuer(ItemId::MetMine);
+    const Auftrag quatsch = Auftrag::AusTag("Quatsch");
+    EXPECT_EQ(quatsch.Queue, Schlange::Keine);
+    EXPECT_EQ(Auftrag::AusTag("WZZ").Queue, Schlange::Werft);
+    // The finishes of both are beeps. The mines follow each other in their queue.
+    EXPECT_EQ(laufe({mine, quatsch, Auftrag::AusTag("WZZ"), mine}, 0), (std::array{2, 2, 2, 109}));
     // Timed at the moment of the order before: not before it, and not held back by any queue.
-    EXPECT_EQ(Probe(MitPuffer("Quatsch GM", 7)).Start(0), 14);
+    EXPECT_EQ(laufe({quatsch, mine}, 7), (std::array{1, 0, 1, 14}));
 }
 
 TEST(Lauf, HaeltDieUhrAmEndeIhresBereichs) {
     const Probe probe(MitPuffer("GW WR GX:10:10:10 FS GX:5:5:5 FE GM GM", 600));
-    EXPECT_EQ(probe.Uhr(), 2147483647);
+    EXPECT_EQ(probe.Gelaufen.Stand.secsgone.Sekunden(), 2147483647);
     EXPECT_EQ(probe.Gelaufen.LV_Bauzeiten.size(), 8U);
 }
 
-TEST(EventTabelle, OrdnetNachZeitArtUndEintritt) {
-    const Plan plan = PlanAus("GM FSCH GX:8:10:5 WR");
-    const auto& zeilen = plan.Liste.Zeilen();
-    EventTabelle tabelle;
-    EXPECT_TRUE(tabelle.IstFrei(tabelle.Erste()));
-    EXPECT_EQ(tabelle.Zelle(0, 0), "NONE");
-    tabelle.SetEvent(Moment(100), zeilen[2], true);
-    tabelle.SetEvent(Moment(100), zeilen[1], false);
-    tabelle.SetEvent(Moment(100), zeilen[0], false);
-    tabelle.SetEvent(Moment(99), zeilen[2], false);
-    const auto text = [&] {
-        std::string alles;
-        for (std::size_t rang = 0; rang < EventTabelle::kZeilen; ++rang) {
-            for (std::size_t spalte = 0; spalte < EventTabelle::kSpalten; ++spalte) {
-                alles += tabelle.Zelle(rang, spalte) + (spalte == 4 ? "\n" : " ");
-            }
+TEST(Lauf, NenntWasEinenAuftragAufhielt) {
+    const auto gruende = [](const Plan& plan) {
+        std::string text;
+        for (const Bauzeit& zeile : Probe(plan).Gelaufen.LV_Bauzeiten) {
+            constexpr std::array kBuchstaben{'-', 'l', 'a', 'd', 'r', 's', 'z'};
+            text += kBuchstaben.at(static_cast<std::size_t>(zeile.Grund.Was));
         }
-        return alles;
+        return text;
     };
-    EXPECT_EQ(text(),
-              "000000000099 G X 0 X\n"
-              "000000000100 F SCH 0 \n"
-              "000000000100 G M 0 \n"
-              "000000000100 G X 1 X:8:10:5\n"
-              "NONE    \n");
-    tabelle.SetStartzeit(Moment(0));
-    EXPECT_TRUE(tabelle.IstStart(tabelle.Erste()));
-    tabelle.ClearEvent(tabelle.Erste());
-    EXPECT_TRUE(tabelle.NoStartPending());
-    tabelle.SetEvent(Moment(2147483647), zeilen[3], true);
-    EXPECT_EQ(tabelle.Zelle(3, 0), "002147483647");
-    EXPECT_EQ(&tabelle.Wartende(), &zeilen[3]);
+    Plan plan = PlanAus("GM GM GM GM GS GM");
+    EXPECT_EQ(gruende(plan), "-sssrr");
+    plan.Schlafzeiten = {{"18.11.2006 12:31", "18.11.2006 20:00"}};
+    EXPECT_EQ(gruende(plan), "-zsssr");
+    const Probe gesperrt(PlanAus("GS GD GR FE"));
+    EXPECT_EQ(gesperrt.Gelaufen.LV_Bauzeiten.back().Grund,
+              (Aufenthalt{.Was = Hindernis::Stufe, .Fehlt = {ItemId::Folab, 1}}));
+}
+
+TEST(EventTabelle, OrdnetNachZeitArtUndEintritt) {
+    EventTabelle tabelle;
+    EXPECT_TRUE(tabelle.IstLeer());
+    tabelle.SetStart(4);
+    tabelle.SetStartzeit(Moment(100));
+    tabelle.SetFinish(Moment(100), 2);
+    tabelle.SetFinish(Moment(100), 1);
+    tabelle.SetFinish(Moment(99), 3);
+    EXPECT_EQ(tabelle.Wartender(), 4U);
+    for (const std::size_t order : {3U, 2U, 1U, 4U}) {
+        EXPECT_EQ(tabelle.NimmErste().Order, order);
+    }
+    EXPECT_TRUE(tabelle.NoStartPending() && tabelle.IstLeer());
 }
 
 }  // namespace

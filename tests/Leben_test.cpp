@@ -7,7 +7,7 @@
 #include "persistence/Konfiguration.h"
 #include "persistence/Programmordner.h"
 #include "persistence/Schreibschutz.h"
-#include "plan/Wecker.h"
+#include "simulation/Wecker.h"
 
 namespace tarvelin {
 namespace {
@@ -113,9 +113,7 @@ TEST(Konfiguration, SchreibtNebenFremdeZeilenUndVerliertSichOhneOrdner) {
 
 TEST(Wecker, KlingeltAufDieSekunde) {
     const Zeitpunkt start = *LiesDatumzeit("18.11.2006 12:00:00");
-    const Bauzeiten bauzeiten{{start, "Metallmine: ", 1, {}},
-                              {start + 86400, "Metallmine: ", 2, {}},
-                              {start, {8, 10, 5}}};
+    const Bauzeiten bauzeiten{{.Start = start}, {.Start = start + 86400}, {.Start = start}};
     struct Fall {
         const char* Jetzt;
         const char* Vorher;

@@ -1,5 +1,5 @@
 // The real message boxes, pressed by a timer.
-#include "ui/Meldungsfenster.h"
+#include "ui/dienste/Meldungsfenster.h"
 
 #include <QAbstractButton>
 #include <QApplication>

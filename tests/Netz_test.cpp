@@ -15,7 +15,7 @@
 #include <QTimer>
 
 #include "Hilfen.h"
-#include "ui/Netzabruf.h"
+#include "ui/dienste/Netzabruf.h"
 
 namespace tarvelin {
 namespace {

@@ -4,7 +4,7 @@
 #include <ostream>
 #include <string>
 
-#include "console/Planlauf.h"
+#include "persistence/Planlauf.h"
 
 namespace tarvelin {
 

@@ -3,7 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "plan/ItemCode.h"
+#include "model/Itemtabelle.h"
 
 namespace tarvelin {
 
@@ -35,7 +35,7 @@ json Zeilen(const Bauliste& bauliste) {
 template <class Wert>
 json JeCode(Wert wert) {
     json objekt = json::object();
-    for (const ItemZeile& zeile : ItemTabelle()) {
+    for (const Itemzeile& zeile : Itemtabelle()) {
         objekt[std::string(zeile.Code)] = wert(zeile.Item);
     }
     return objekt;
@@ -60,24 +60,24 @@ json Zeittabelle(const Bauzeiten& bauzeiten) {
     return liste;
 }
 
-void FuegeZustandAn(json& objekt, const GlobaleVariablen& globale) {
-    objekt["secsgone"] = globale.secsgone.Sekunden();
-    objekt["Metall"] = VierStellenText(globale.Metall);
-    objekt["Kristall"] = VierStellenText(globale.Kristall);
-    objekt["Deuterium"] = VierStellenText(globale.Deuterium);
-    objekt["ProdFaktor"] = VierStellenText(globale.ProdFaktor);
-    objekt["MetallProStunde"] = VierStellenText(globale.MetallProStunde);
-    objekt["KristallProStunde"] = VierStellenText(globale.KristallProStunde);
-    objekt["DeuteriumProStunde"] = VierStellenText(globale.DeuteriumProStunde);
-    objekt["EnergieProduktion"] = globale.EnergieProduktion;
-    objekt["EnergieVerbrauch"] = globale.EnergieVerbrauch;
-    objekt["VerbauteRessourcen"] = globale.VerbauteRessourcen;
-    objekt["Temperatur"] = globale.Temperatur;
-    objekt["Speedfaktor"] = globale.Speedfaktor;
-    objekt["GebaeudeFertigZeit"] = globale.GebaeudeFertigZeit.Sekunden();
-    objekt["WerftFertigZeit"] = globale.WerftFertigZeit.Sekunden();
-    objekt["ForschungFertigZeit"] = globale.ForschungFertigZeit.Sekunden();
-    objekt["Stufen"] = JeCode([&](ItemId item) { return globale.Stufe(item); });
+void FuegeZustandAn(json& objekt, const Spielstand& stand, const Startbedingungen& bedingungen) {
+    objekt["secsgone"] = stand.secsgone.Sekunden();
+    objekt["Metall"] = VierStellenText(stand.Vorrat[Rohstoff::Metall]);
+    objekt["Kristall"] = VierStellenText(stand.Vorrat[Rohstoff::Kristall]);
+    objekt["Deuterium"] = VierStellenText(stand.Vorrat[Rohstoff::Deuterium]);
+    objekt["ProdFaktor"] = VierStellenText(stand.ProdFaktor);
+    objekt["MetallProStunde"] = VierStellenText(stand.ProStunde[Rohstoff::Metall]);
+    objekt["KristallProStunde"] = VierStellenText(stand.ProStunde[Rohstoff::Kristall]);
+    objekt["DeuteriumProStunde"] = VierStellenText(stand.ProStunde[Rohstoff::Deuterium]);
+    objekt["EnergieProduktion"] = stand.EnergieProduktion;
+    objekt["EnergieVerbrauch"] = stand.EnergieVerbrauch;
+    objekt["VerbauteRessourcen"] = stand.VerbauteRessourcen;
+    objekt["Temperatur"] = bedingungen.Temperatur;
+    objekt["Speedfaktor"] = bedingungen.Speedfaktor;
+    objekt["GebaeudeFertigZeit"] = stand.FertigZeit[Schlange::Gebaeude].Sekunden();
+    objekt["WerftFertigZeit"] = stand.FertigZeit[Schlange::Werft].Sekunden();
+    objekt["ForschungFertigZeit"] = stand.FertigZeit[Schlange::Forschung].Sekunden();
+    objekt["Stufen"] = JeCode([&](ItemId item) { return stand.Stufen[item]; });
 }
 
 void FuegeTexteAn(json& objekt, const Ergebnistexte& texte) {
@@ -94,15 +94,16 @@ void FuegeTexteAn(json& objekt, const Ergebnistexte& texte) {
 
 std::string JsonText(const Planlauf& lauf) {
     const Bauliste& liste = lauf.Plan.Liste;
-    json objekt{{"Meldungen", Meldungen(lauf)},
-                {"Geladen", lauf.Geladen},
-                {"Gelaufen", lauf.Gelaufen},
-                {"Bauliste", Zeilen(liste)},
-                {"ListStufe", JeCode([&](ItemId item) { return liste.ListStufe(item); })},
-                {"ListFaktor", liste.ListFaktor()},
-                {"Schlafzeiten", Schlafzeiten(lauf.Plan.Schlafzeiten)}};
+    json objekt{
+        {"Meldungen", Meldungen(lauf)},
+        {"Geladen", lauf.Geladen},
+        {"Gelaufen", lauf.Gelaufen},
+        {"Bauliste", Zeilen(liste)},
+        {"ListStufe", JeCode([&](ItemId item) { return liste.Auftraege().ListStufe(item); })},
+        {"ListFaktor", liste.Auftraege().ListFaktor()},
+        {"Schlafzeiten", Schlafzeiten(lauf.Plan.Schlafzeiten)}};
     if (lauf.Gelaufen) {
-        FuegeZustandAn(objekt, lauf.Lauf.Planet.Globale);
+        FuegeZustandAn(objekt, lauf.Lauf.Stand, lauf.Lauf.Bedingungen);
         FuegeTexteAn(objekt, lauf.Texte);
         objekt["LV_Bauzeiten"] = Zeittabelle(lauf.Lauf.LV_Bauzeiten);
     }

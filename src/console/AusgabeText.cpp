@@ -24,8 +24,8 @@ std::vector<Zeile> Zeittabelle(const Bauzeiten& bauzeiten) {
     zeilen.reserve(bauzeiten.size());
     for (const Bauzeit& bauzeit : bauzeiten) {
         zeilen.push_back({std::to_string(zeilen.size() + 1), bauzeit.Wochentag(), bauzeit.Uhrzeit(),
-                          bauzeit.theText(), Datumzeittext(bauzeit.Zeit()),
-                          bauzeit.Grund().Text()});
+                          bauzeit.theText(), Datumzeittext(bauzeit.Start),
+                          bauzeit.VerzoegerungsGrund()});
     }
     return zeilen;
 }
@@ -63,14 +63,14 @@ void SchreibeTabelle(std::ostream& strom, std::vector<Zeile> zeilen) {
 using Figuren = std::vector<std::pair<std::string, std::string>>;
 
 Figuren Ergebnisfiguren(const Planlauf& lauf) {
-    const GlobaleVariablen& globale = lauf.Lauf.Planet.Globale;
-    return {{"Dauer:", Dauertext(globale)},
+    const Spielstand& stand = lauf.Lauf.Stand;
+    return {{"Dauer:", Dauertext(stand)},
             {"Metall:", lauf.Texte.LBL_Met},
             {"Kristall:", lauf.Texte.LBL_Kris},
             {"Deuterium:", lauf.Texte.LBL_Deut},
             {"Energie:", lauf.Texte.LBL_ENergie},
-            {"Punkte:", Punktetext(globale)},
-            {"Punkte inkl. Res.:", PunkteMitVorratText(globale)}};
+            {"Punkte:", Punktetext(stand)},
+            {"Punkte inkl. Res.:", PunkteMitVorratText(stand)}};
 }
 
 void SchreibeFiguren(std::ostream& strom, const Figuren& figuren) {

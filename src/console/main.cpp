@@ -17,7 +17,6 @@
 #endif
 
 #include "console/Ausgabe.h"
-#include "console/Planlauf.h"
 
 namespace {
 
@@ -47,6 +46,13 @@ std::string Fehlertext(const CLI::ParseError& fehler) {
     return "eine Option hat keinen gültigen Wert";
 }
 
+/// Each message as "Titel: Text", or the text alone without a title.
+void SchreibeMeldungen(const tarvelin::Planlauf& lauf) {
+    for (const tarvelin::Meldung& meldung : lauf.Meldungen) {
+        std::cerr << meldung.Titel << (meldung.Titel.empty() ? "" : ": ") << meldung.Text << '\n';
+    }
+}
+
 bool FuehreAus(const Aufruf& aufruf) {
     bool alleGut = true;
     bool erster = true;
@@ -54,7 +60,8 @@ bool FuehreAus(const Aufruf& aufruf) {
         tarvelin::SchreibeCsvKopf(std::cout);
     }
     for (const std::string& datei : aufruf.Dateien) {
-        const tarvelin::Planlauf lauf(std::u8string(datei.begin(), datei.end()), std::cerr);
+        const tarvelin::Planlauf lauf(std::u8string(datei.begin(), datei.end()));
+        SchreibeMeldungen(lauf);
         if (aufruf.Json) {
             std::cout << tarvelin::JsonText(lauf) << '\n';
         } else if (aufruf.Csv) {

@@ -1,49 +1,59 @@
-// The twenty things that a player can put into the build list.
+// The twenty things that a player can put into the build list, and the queues that they wait in.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 
+#include "util/Je.h"
+
 namespace tarvelin {
 
-/// Named after the objects of `Startplanet`, in the order in which a reset goes through them.
+/// In the order of the pictures on the window. Every table of the items has its rows in this order,
+/// and none compiles while it lacks one.
 enum class ItemId : std::uint8_t {
-    DeutMine,
-    KrisMine,
     MetMine,
+    KrisMine,
+    DeutMine,
     SKW,
     Robo,
     Werft,
     Folab,
     Solsats,
+    LJs,
+    KTs,
+    Spios,
     Rakws,
     lLasers,
     sLasers,
+    klSchK,
     ENTech,
     VerbTech,
     LaserTech,
-    Spios,
-    LJs,
     SpioTech,
-    KTs,
     SchTech,
-    klSchK,
+    Anzahl,
 };
 
-inline constexpr std::size_t kItemAnzahl = static_cast<std::size_t>(ItemId::klSchK) + 1;
+inline constexpr std::size_t kItemAnzahl = Index(ItemId::Anzahl);
 
-constexpr std::size_t Index(ItemId item) {
-    return static_cast<std::size_t>(item);
-}
-
-/// One value for each item.
 template <class T>
-class JeItem : public std::array<T, kItemAnzahl> {
-  public:
-    using std::array<T, kItemAnzahl>::operator[];
-    constexpr T& operator[](ItemId item) { return (*this)[Index(item)]; }
-    constexpr const T& operator[](ItemId item) const { return (*this)[Index(item)]; }
-};
+using JeItem = Je<ItemId, T>;
+
+/// The order queues.
+enum class Schlange : std::uint8_t { Gebaeude, Werft, Forschung, Keine, Anzahl };
+
+template <class T>
+using JeSchlange = Je<Schlange, T>;
+
+/// Whether a table has the row of each item, in the order of the items.
+template <class Tabelle>
+constexpr bool HatJedesItem(const Tabelle& tabelle) {
+    for (std::size_t i = 0; i < kItemAnzahl; ++i) {
+        if (tabelle[i].Item != static_cast<ItemId>(i)) {
+            return false;
+        }
+    }
+    return tabelle.size() == kItemAnzahl;
+}
 
 }  // namespace tarvelin

@@ -1,43 +1,46 @@
-// The laws by which costs grow.
+// The prices of all levels.
 #include "model/Kosten.h"
 
+#include <array>
 #include <cmath>
+#include <limits>
 
-#include "model/Stufentabelle.h"
+#include "model/Itemtabelle.h"
+#include "util/Zahlentext.h"
 
 namespace tarvelin {
 
 namespace {
 
-double Faktor(Wachstum nach, Long stufe) {
-    static const Stufentabelle kDoppelt(
-        [](Long s) { return std::pow(2.0, static_cast<double>(s)); });
-    static const Stufentabelle kAnderthalb(
-        [](Long s) { return std::pow(1.5, static_cast<double>(s) + 1.0); });
-    static const Stufentabelle kEinsKommaSechs(
-        [](Long s) { return std::pow(1.6, static_cast<double>(s) + 1.0); });
-    switch (nach) {
-        case Wachstum::Keines:
-            break;
-        case Wachstum::Doppelt:
-            return kDoppelt(stufe);
-        case Wachstum::HochAnderthalb:
-            return kAnderthalb(stufe);
-        case Wachstum::HochEinsKommaSechs:
-            return kEinsKommaSechs(stufe);
+constexpr std::size_t kStufen = std::numeric_limits<Byte>::max() + std::size_t{1};
+
+/// Every price there is, as each event of a run asks for some.
+using Preistafel = JeItem<std::array<Kosten, kStufen>>;
+
+Preistafel AllePreise() {
+    Preistafel tafel;
+    for (const Itemzeile& zeile : Itemtabelle()) {
+        for (std::size_t stufe = 0; stufe < kStufen; ++stufe) {
+            const double faktor = Kostenfaktor(zeile.Nach, static_cast<double>(stufe));
+            for (const Rohstoff r : kRohstoffe) {
+                tafel[zeile.Item][stufe][r] = std::trunc(zeile.Basis[r] * faktor);
+            }
+        }
     }
-    return 1;
+    return tafel;
 }
 
 }  // namespace
 
-Kosten Preisgesetz::Preis(Long stufe) const {
-    if (Nach == Wachstum::Keines) {
-        return Basis;
-    }
-    const double faktor = Faktor(Nach, stufe);
-    return {std::trunc(Basis.Metall * faktor), std::trunc(Basis.Kristall * faktor),
-            std::trunc(Basis.Deuterium * faktor)};
+const Kosten& Preis(ItemId item, Byte stufe) {
+    static const Preistafel kPreise = AllePreise();
+    return kPreise[item][stufe];
+}
+
+std::string Kostentext(const Kosten& kosten) {
+    return "Kosten:  Met: " + Ganztext(kosten[Rohstoff::Metall]) +
+           "  Kris: " + Ganztext(kosten[Rohstoff::Kristall]) +
+           "  Deut: " + Ganztext(kosten[Rohstoff::Deuterium]);
 }
 
 }  // namespace tarvelin

@@ -9,7 +9,6 @@
 #include <string_view>
 
 #include "persistence/Dateiersatz.h"
-#include "plan/ItemCode.h"
 #include "util/Nuetzliches.h"
 #include "util/Zahlentext.h"
 
@@ -48,8 +47,8 @@ constexpr std::array<Textkey, 5> kDatumskeys{{
 /// The steps of a load; each answers whether it found usable values.
 class Leser {
   public:
-    Leser(const Profil& profil, Plan& plan, const Startplanet& planet)
-        : m_profil(profil), m_plan(plan), m_planet(planet) {}
+    Leser(const Profil& profil, Plan& plan, const Startbedingungen& bedingungen)
+        : m_profil(profil), m_plan(plan), m_bedingungen(bedingungen) {}
 
     bool Lies() { return LiesEinstellungen() && LiesSchlafzeiten() && LiesBauliste(); }
 
@@ -90,30 +89,19 @@ class Leser {
         if (!anzahl) {
             return false;
         }
-        const auto zeilen = std::min(*anzahl, std::int64_t{Bauliste::kHoechstzahl});
+        const auto zeilen = std::min(*anzahl, std::int64_t{Auftragsliste::kHoechstzahl});
         for (std::int64_t n = 1; n <= zeilen; ++n) {
-            if (!Replay(m_profil.Lies(kBauliste, Zeilenkey("Item_", static_cast<std::size_t>(n)),
-                                      ""))) {
+            const auto key = Zeilenkey("Item_", static_cast<std::size_t>(n));
+            if (!m_plan.Liste.Replay(m_profil.Lies(kBauliste, key, ""), m_bedingungen)) {
                 return false;
             }
         }
         return *anzahl == zeilen;
     }
 
-    bool Replay(std::string_view tag) {
-        if (const auto item = ItemVonCode(tag)) {
-            return !m_plan.Liste.DragDrop(ZeileVon(*item).Bild, m_planet);
-        }
-        const auto faktoren = LiesMinenfaktoren(tag);
-        if (faktoren) {
-            m_plan.Liste.ReplayProduktion(tag, *faktoren, m_planet);
-        }
-        return faktoren.has_value();
-    }
-
     const Profil& m_profil;
     Plan& m_plan;
-    const Startplanet& m_planet;
+    const Startbedingungen& m_bedingungen;
 };
 
 }  // namespace
@@ -164,10 +152,10 @@ bool SaveBauliste(const std::filesystem::path& File, const Plan& plan, const Dat
     return ErsetzeDatei(File, profil->Bytes(), system);
 }
 
-bool LadePlan(const Profil& profil, Plan& plan, const Startplanet& planet,
+bool LadePlan(const Profil& profil, Plan& plan, const Startbedingungen& bedingungen,
               Meldungsausgabe& meldungen) {
     plan.Liste.Clear();
-    const bool brauchbar = Leser(profil, plan, planet).Lies();
+    const bool brauchbar = Leser(profil, plan, bedingungen).Lies();
     if (!brauchbar) {
         meldungen.Zeige(Ladefehler());
     }

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string>
 
-#include "model/Startplanet.h"
+#include "model/Startbedingungen.h"
 #include "persistence/Profil.h"
 #include "plan/Plan.h"
 #include "util/Meldung.h"
@@ -29,8 +29,8 @@ void SchreibePlan(const Plan& plan, Profil& profil);
 /// Takes a plan from a profile. The former plan is gone at once. At the first value that can't be
 /// used the reading stops with a message: what was read up to there stays, and false comes back.
 /// Rows are replayed without a look at the game's rules; their factor texts follow the temperature
-/// of `planet`, that of the last run or reset.
-[[nodiscard]] bool LadePlan(const Profil& profil, Plan& plan, const Startplanet& planet,
+/// of `bedingungen`, those of the last run or reset.
+[[nodiscard]] bool LadePlan(const Profil& profil, Plan& plan, const Startbedingungen& bedingungen,
                             Meldungsausgabe& meldungen);
 
 /// The window's caption for a loaded plan.

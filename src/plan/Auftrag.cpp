@@ -1,7 +1,9 @@
-// Understanding of a row's `Tag`.
+// Orders and their `Tag`s.
 #include "plan/Auftrag.h"
 
-#include "plan/ItemCode.h"
+#include <algorithm>
+
+#include "model/Itemtabelle.h"
 #include "util/Nuetzliches.h"
 #include "util/Zahlentext.h"
 
@@ -24,17 +26,44 @@ Schlange SchlangeVon(std::string_view tag) {
 
 }  // namespace
 
+Auftrag Auftrag::Fuer(ItemId item) {
+    return {.Was = Art::Item, .Queue = ZeileVon(item).Queue, .Item = item};
+}
+
+Auftrag Auftrag::Fuer(const Minenfaktoren& faktoren) {
+    return {.Was = Art::Produktion, .Queue = Schlange::Gebaeude, .Faktoren = faktoren};
+}
+
 Auftrag Auftrag::AusTag(std::string_view tag) {
-    Auftrag auftrag;
-    auftrag.Queue = SchlangeVon(tag);
     if (const auto item = ItemVonCode(tag)) {
-        auftrag.Was = Art::Item;
-        auftrag.Item = *item;
-    } else if (const auto faktoren = LiesMinenfaktoren(tag)) {
-        auftrag.Was = Art::Produktion;
-        auftrag.Faktoren = *faktoren;
+        return Fuer(*item);
     }
-    return auftrag;
+    if (const auto faktoren = LiesMinenfaktoren(tag)) {
+        return Fuer(*faktoren);
+    }
+    return {.Queue = SchlangeVon(tag)};
+}
+
+std::string Auftrag::Tag() const {
+    switch (Was) {
+        case Art::Item:
+            return std::string(ZeileVon(Item).Code);
+        case Art::Produktion: {
+            std::string tag(kProduktionscode);
+            for (const Byte faktor : Faktoren) {
+                tag += ":" + std::to_string(faktor);
+            }
+            return tag;
+        }
+        case Art::Unbekannt:
+            break;
+    }
+    return "";
+}
+
+std::optional<ItemId> ItemVonCode(std::string_view code) {
+    const auto* const zeile = std::ranges::find(Itemtabelle(), code, &Itemzeile::Code);
+    return zeile == Itemtabelle().end() ? std::nullopt : std::optional(zeile->Item);
 }
 
 std::optional<Minenfaktoren> LiesMinenfaktoren(std::string_view tag) {

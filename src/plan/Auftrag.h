@@ -1,25 +1,18 @@
 // What a row of the build list orders.
 #pragma once
 
-#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "model/ItemId.h"
-#include "util/Ganzzahl.h"
+#include "model/Rohstoff.h"
 
 namespace tarvelin {
 
-/// Production factors of the metal, crystal and deuterium mine in tenths, from 0 to 10.
-using Minenfaktoren = std::array<Byte, 3>;
-
-inline constexpr Byte kVollerFaktor = 10;
-
-/// The order queues.
-enum class Schlange : std::uint8_t { Gebaeude, Werft, Forschung, Keine };
-
-/// The `Tag` of a row, understood once when the row is made.
+/// An order, without a text.
 struct Auftrag {
     enum class Art : std::uint8_t { Unbekannt, Item, Produktion };
 
@@ -28,10 +21,23 @@ struct Auftrag {
     ItemId Item{};
     Minenfaktoren Faktoren{};
 
-    /// An item code, or a production row with three whole factors from 0 to 10; any other text
-    /// gives an unknown order of the queue that its first letter names.
+    static Auftrag Fuer(ItemId item);
+    static Auftrag Fuer(const Minenfaktoren& faktoren);
+    /// Of a `Tag`: an item code, or a production row with three whole factors from 0 to 10; any
+    /// other text gives an unknown order of the queue that its first letter names.
     static Auftrag AusTag(std::string_view tag);
+
+    /// The `Tag`: the item code, or "GX:8:10:5"; empty for an unknown order.
+    [[nodiscard]] std::string Tag() const;
+
+    friend bool operator==(const Auftrag&, const Auftrag&) = default;
 };
+
+inline constexpr std::size_t kAuftragsgroesse = 6;
+static_assert(sizeof(Auftrag) <= kAuftragsgroesse);
+
+/// Exact compare, with regard to case; nothing for any other text.
+[[nodiscard]] std::optional<ItemId> ItemVonCode(std::string_view code);
 
 /// The factors of a `Tag` that begins with "GX": its tokens 2, 3 and 4. Nothing if one of them is
 /// no whole number from 0 to 10.

@@ -1,7 +1,10 @@
 // Tooltips of the item pictures.
 #include "plan/Hovertexte.h"
 
-#include "plan/ItemCode.h"
+#include "model/Energie.h"
+#include "model/Itemtabelle.h"
+#include "model/Kosten.h"
+#include "model/Minen.h"
 #include "plan/Regeln.h"
 #include "util/Zahlentext.h"
 
@@ -10,41 +13,42 @@ namespace tarvelin {
 namespace {
 
 /// What the step from `stufe` to the next level needs, at full production.
-std::string Bedarfstext(const cMine& mine, Long stufe) {
-    const double bedarf = mine.GetEnergieVerbrauch(stufe + 1) - mine.GetEnergieVerbrauch(stufe);
-    return "  |  Energie: -" + Ganztext(bedarf);
+std::string Bedarfstext(Rohstoff mine, Byte stufe) {
+    const auto bedarf = [&](int s) {
+        return EnergiebedarfDerListe(mine, Saettige<Byte>(s), kVollerFaktor);
+    };
+    return "  |  Energie: -" + Ganztext(bedarf(stufe + 1) - bedarf(stufe));
 }
 
 std::string Ertragstext(Festkomma ertrag) {
     return "  |  Energie: +" + Dezimaltext(ertrag);
 }
 
-std::string Energieanhang(ItemId item, Long stufe, const Startplanet& planet) {
-    switch (ZeileVon(item).Energie) {
-        case Energietext::Ohne:
+std::string Energieanhang(ItemId item, Byte stufe, const Startbedingungen& bedingungen) {
+    switch (ZeileVon(item).Besonders.Energie) {
+        case Energierolle::Keine:
             break;
-        case Energietext::Bedarf:
-            return Bedarfstext(dynamic_cast<const cMine&>(planet.Item(item)), stufe);
-        case Energietext::Stufenertrag:
-            return Ertragstext(planet.SKW.GetProduktion(stufe + 1) -
-                               planet.SKW.GetProduktion(stufe));
-        case Energietext::Stueckertrag:
-            return Ertragstext(planet.Solsats.GetProduktion(1));
+        case Energierolle::Mine:
+            return Bedarfstext(RohstoffDer(item), stufe);
+        case Energierolle::Kraftwerk:
+            return Ertragstext(Kraftwerksertrag(Saettige<Byte>(stufe + 1)) -
+                               Kraftwerksertrag(stufe));
+        case Energierolle::Satellit:
+            return Ertragstext(Satellitenertrag(1, bedingungen.Temperatur));
     }
     return "";
 }
 
 }  // namespace
 
-Hoverinfo HoverInfo(ItemId item, const Bauliste& bauliste, const Startplanet& planet) {
-    if (const auto absage = Absage(item, bauliste)) {
+Hoverinfo HoverInfo(ItemId item, const Auftragsliste& liste, const Startbedingungen& bedingungen) {
+    if (const auto absage = Absage(item, liste)) {
         return {.DragOffen = false, .Tooltip = std::string(*absage)};
     }
-    const Long stufe = bauliste.ListStufe(item);
+    const Byte stufe = liste.ListStufe(item);
     return {.DragOffen = true,
             .Tooltip = " " + std::string(ZeileVon(item).Hovername) + "  |  " +
-                       planet.Item(item).GetUpgradecostString(stufe) +
-                       Energieanhang(item, stufe, planet)};
+                       Kostentext(Preis(item, stufe)) + Energieanhang(item, stufe, bedingungen)};
 }
 
 }  // namespace tarvelin

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "model/ItemId.h"
-#include "model/Startplanet.h"
-#include "plan/Bauliste.h"
+#include "model/Startbedingungen.h"
+#include "plan/Auftragsliste.h"
 
 namespace tarvelin {
 
@@ -16,7 +16,9 @@ struct Hoverinfo {
     std::string Tooltip;
 };
 
-/// `planet` is that of the last run or reset: the satellites' figure follows its temperature.
-[[nodiscard]] Hoverinfo HoverInfo(ItemId item, const Bauliste& bauliste, const Startplanet& planet);
+/// `bedingungen` are those of the last run or reset: the satellites' figure follows the
+/// temperature.
+[[nodiscard]] Hoverinfo HoverInfo(ItemId item, const Auftragsliste& liste,
+                                  const Startbedingungen& bedingungen);
 
 }  // namespace tarvelin

@@ -1,6 +1,9 @@
 // All that belongs to a plan: what the user edits and a save file keeps.
 #pragma once
 
+#include <variant>
+
+#include "model/Startbedingungen.h"
 #include "plan/Bauliste.h"
 #include "plan/Schlaftabelle.h"
 #include "plan/Startparameter.h"
@@ -14,5 +17,9 @@ struct Plan {
     /// Whether the names under the item pictures are shown.
     bool ShowDesc = true;
 };
+
+/// The conditions of the plan's run, or what keeps it from running: an empty list, then a
+/// temperature, then a date that can't be used.
+[[nodiscard]] std::variant<Startbedingungen, Meldung> LiesStartbedingungen(const Plan& plan);
 
 }  // namespace tarvelin

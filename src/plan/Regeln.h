@@ -5,12 +5,12 @@
 #include <string_view>
 
 #include "model/ItemId.h"
-#include "plan/Bauliste.h"
+#include "plan/Auftragsliste.h"
 
 namespace tarvelin {
 
 /// Why an item can't be added to the list as it stands: the refusal, or nothing if it can. The
 /// rules count rows of the list and nothing else. `GM`, `GK`, `GD` and `GS` have none.
-[[nodiscard]] std::optional<std::string_view> Absage(ItemId item, const Bauliste& bauliste);
+[[nodiscard]] std::optional<std::string_view> Absage(ItemId item, const Auftragsliste& liste);
 
 }  // namespace tarvelin

@@ -43,18 +43,19 @@ Wochentagsanzeige WochentagVon(Zeitpunkt tag) {
 }
 
 Wochentagsanzeige RefreshWeekday(const Startparameter& parameter) {
-    const auto datum = LiesDatumzeit(parameter.Datumstext());
+    const auto datum = ReadUniStartZeit(parameter);
     return datum ? WochentagVon(*datum) : Wochentagsanzeige{.Caption = "Err.", .Hint = ""};
 }
 
-std::optional<Zeitpunkt> ReadUniStartZeit(Startparameter& parameter, Meldungsausgabe& meldungen) {
-    const auto datum = LiesDatumzeit(parameter.Datumstext());
-    parameter.UniStartZeitTag = PadIntegerDigits(parameter.UniStartZeitTag, 2);
-    parameter.UniStartZeitMonat = PadIntegerDigits(parameter.UniStartZeitMonat, 2);
-    if (!datum) {
-        meldungen.Zeige({.Text = "Kein gültiges Datum eingegeben...", .Titel = kAusnahmefehler});
+std::optional<Zeitpunkt> ReadUniStartZeit(const Startparameter& parameter) {
+    return LiesDatumzeit(parameter.Datumstext());
+}
+
+void FuelleStartdatumAuf(Startparameter& parameter) {
+    if (LiesTemperatur(parameter)) {
+        parameter.UniStartZeitTag = PadIntegerDigits(parameter.UniStartZeitTag, 2);
+        parameter.UniStartZeitMonat = PadIntegerDigits(parameter.UniStartZeitMonat, 2);
     }
-    return datum;
 }
 
 std::optional<Integer> LiesTemperatur(const Startparameter& parameter) {

@@ -8,7 +8,6 @@
 
 #include "util/Datumzeit.h"
 #include "util/Ganzzahl.h"
-#include "util/Meldung.h"
 
 namespace tarvelin {
 
@@ -48,10 +47,12 @@ struct Wochentagsanzeige {
 /// "Mo." with the hint "Montag", or "Err." without one when the inputs are no date.
 [[nodiscard]] Wochentagsanzeige RefreshWeekday(const Startparameter& parameter);
 
-/// The start date, or nothing with a message. Day and month are padded to two digits in either
-/// case.
-[[nodiscard]] std::optional<Zeitpunkt> ReadUniStartZeit(Startparameter& parameter,
-                                                        Meldungsausgabe& meldungen);
+/// The start date; nothing if the inputs are none.
+[[nodiscard]] std::optional<Zeitpunkt> ReadUniStartZeit(const Startparameter& parameter);
+
+/// Pads day and month to two digits, as a run leaves them; one without a temperature doesn't come
+/// as far as the date.
+void FuelleStartdatumAuf(Startparameter& parameter);
 
 /// The temperature of a run: the highest one, a whole number half to even. Nothing if its text is
 /// no number, or one beyond the range of an Integer.

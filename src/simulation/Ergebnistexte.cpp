@@ -16,17 +16,18 @@ std::string AlsPunkte(double ressourcen) {
 
 }  // namespace
 
-std::string Dauertext(const GlobaleVariablen& globale) {
-    return FormatDuration(globale.secsgone.Sekunden(), "s", "dd(0)hh:mm:ss", "d");
+std::string Dauertext(const Spielstand& stand) {
+    return FormatDuration(stand.secsgone.Sekunden(), "s", "dd(0)hh:mm:ss", "d");
 }
 
-std::string Punktetext(const GlobaleVariablen& globale) {
-    return AlsPunkte(globale.VerbauteRessourcen);
+std::string Punktetext(const Spielstand& stand) {
+    return AlsPunkte(stand.VerbauteRessourcen);
 }
 
-std::string PunkteMitVorratText(const GlobaleVariablen& globale) {
-    return AlsPunkte((Festkomma::AusGanzzahl(globale.VerbauteRessourcen) + globale.Deuterium +
-                      globale.Kristall + globale.Metall)
+std::string PunkteMitVorratText(const Spielstand& stand) {
+    return AlsPunkte((Festkomma::AusGanzzahl(stand.VerbauteRessourcen) +
+                      stand.Vorrat[Rohstoff::Deuterium] + stand.Vorrat[Rohstoff::Kristall] +
+                      stand.Vorrat[Rohstoff::Metall])
                          .AlsDouble());
 }
 
@@ -45,17 +46,17 @@ void Ergebnistexte::NachClear() {
     LBL_ENergie = anfang.LBL_ENergie;
 }
 
-void Ergebnistexte::NachLauf(const GlobaleVariablen& globale) {
-    LBL_Timegone = "Dauer: " + Dauertext(globale);
+void Ergebnistexte::NachLauf(const Spielstand& stand) {
+    LBL_Timegone = "Dauer: " + Dauertext(stand);
     LBL_Timegone2 = LBL_Timegone;
-    LBL_Met = std::to_string(globale.Metall.GanzerTeil());
-    LBL_Kris = std::to_string(globale.Kristall.GanzerTeil());
-    LBL_Deut = std::to_string(globale.Deuterium.GanzerTeil());
-    LBL_ENergie = std::to_string(LongSumme(globale.EnergieProduktion,
-                                           -std::int64_t{globale.EnergieVerbrauch})) +
-                  " / " + std::to_string(globale.EnergieProduktion);
-    LBL_Punkte = Punktetext(globale) + " P";
-    LBL_Punkte_Hinweis = "Inkl. Res.: " + PunkteMitVorratText(globale) + " Punkte";
+    LBL_Met = std::to_string(stand.Vorrat[Rohstoff::Metall].GanzerTeil());
+    LBL_Kris = std::to_string(stand.Vorrat[Rohstoff::Kristall].GanzerTeil());
+    LBL_Deut = std::to_string(stand.Vorrat[Rohstoff::Deuterium].GanzerTeil());
+    LBL_ENergie =
+        std::to_string(LongSumme(stand.EnergieProduktion, -std::int64_t{stand.EnergieVerbrauch})) +
+        " / " + std::to_string(stand.EnergieProduktion);
+    LBL_Punkte = Punktetext(stand) + " P";
+    LBL_Punkte_Hinweis = "Inkl. Res.: " + PunkteMitVorratText(stand) + " Punkte";
 }
 
 }  // namespace tarvelin

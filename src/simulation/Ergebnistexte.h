@@ -3,16 +3,16 @@
 
 #include <string>
 
-#include "model/GlobaleVariablen.h"
+#include "model/Spielstand.h"
 
 namespace tarvelin {
 
 /// "01 Tage 01:01:01": the clock of a run.
-[[nodiscard]] std::string Dauertext(const GlobaleVariablen& globale);
+[[nodiscard]] std::string Dauertext(const Spielstand& stand);
 /// "75,3": a point is a thousand units of resources spent.
-[[nodiscard]] std::string Punktetext(const GlobaleVariablen& globale);
+[[nodiscard]] std::string Punktetext(const Spielstand& stand);
 /// The same with what lies unspent.
-[[nodiscard]] std::string PunkteMitVorratText(const GlobaleVariablen& globale);
+[[nodiscard]] std::string PunkteMitVorratText(const Spielstand& stand);
 
 /// The captions, as the window starts with them. Each of the functions below writes the labels
 /// that its event touches and leaves the others.
@@ -28,7 +28,7 @@ struct Ergebnistexte {
 
     void NachReset();
     void NachClear();
-    void NachLauf(const GlobaleVariablen& globale);
+    void NachLauf(const Spielstand& stand);
 };
 
 }  // namespace tarvelin

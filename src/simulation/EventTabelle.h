@@ -5,82 +5,51 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <limits>
-#include <string>
 
 #include "model/Moment.h"
-#include "plan/Bauliste.h"
 
 namespace tarvelin {
 
-/// Five rows, which is all that a run ever has in use: the start row, one finish for each queue, as
-/// a queue's next order can't start before its finish, and the finish of a production row, which
-/// the next event carries out unless an order without a source of deuterium starts a second before.
-/// Their order is that of their moments; at one moment finish rows come before the start row, and
-/// finish rows in the order in which they were entered. Rows are kept as figures and not moved
-/// about; the sorted table of the product is given as texts on demand. The orders are rows of the
-/// build list, which must not change meanwhile.
+/// The rows' order is that of their moments; at one moment finish rows come before the start row,
+/// and finish rows in the order in which they were entered. Rows name orders by their places in the
+/// list.
 class EventTabelle {
   public:
-    static constexpr std::size_t kZeilen = 5;
-    static constexpr std::size_t kSpalten = 5;
+    struct Zeile {
+        Moment Zeit;
+        std::uint16_t Order = 0;
+        bool IstStart = false;
+    };
 
-    /// Enters a row. `zeit` is 0 or later; no second start row is entered while one waits, nor a
-    /// sixth row, which would be an error of the run (std::out_of_range).
-    void SetEvent(Moment zeit, const BaulistenZeile& order, bool start);
-
-    /// Whether no start row waits.
-    [[nodiscard]] bool NoStartPending() const { return m_startzeile == kZeilen; }
-    /// The order of the start row that waits.
-    [[nodiscard]] const BaulistenZeile& Wartende() const { return *m_orders[m_startzeile]; }
+    /// Enters the start row; none waits yet.
+    void SetStart(std::size_t order) {
+        m_start = {.Zeit = {}, .Order = static_cast<std::uint16_t>(order), .IstStart = true};
+    }
+    [[nodiscard]] bool NoStartPending() const { return !m_start.IstStart; }
+    /// The place of the order that waits.
+    [[nodiscard]] std::size_t Wartender() const { return m_start.Order; }
     /// Gives the start row that waits another moment.
-    void SetStartzeit(Moment zeit) { m_schluessel[m_startzeile] = Schluessel(zeit, kStart, 0); }
+    void SetStartzeit(Moment zeit) { m_start.Zeit = zeit; }
 
-    /// The earliest row; a table without rows in use gives a free one.
-    [[nodiscard]] std::size_t Erste() const {
-        std::size_t erste = 0;
-        std::uint64_t kleinster = m_schluessel[0];
-        for (std::size_t zeile = 1; zeile < kZeilen; ++zeile) {
-            if (m_schluessel[zeile] < kleinster) {
-                kleinster = m_schluessel[zeile];
-                erste = zeile;
-            }
-        }
-        return erste;
-    }
-    [[nodiscard]] bool IstFrei(std::size_t zeile) const { return m_schluessel[zeile] == kFrei; }
-    /// Of a row in use.
-    [[nodiscard]] Moment Zeit(std::size_t zeile) const {
-        return Moment(static_cast<Long>(m_schluessel[zeile] >> kZeitstelle));
-    }
-    [[nodiscard]] bool IstStart(std::size_t zeile) const { return zeile == m_startzeile; }
-    [[nodiscard]] const BaulistenZeile& Order(std::size_t zeile) const { return *m_orders[zeile]; }
+    /// Enters a finish row.
+    void SetFinish(Moment zeit, std::size_t order);
 
-    void ClearEvent(std::size_t zeile);
+    [[nodiscard]] bool IstLeer() const { return NoStartPending() && m_zahl == 0; }
 
-    /// The text of a cell of the sorted table, both from 0: "000000000105" or "NONE", queue letter,
-    /// detail, "1" start or "0" finish, and for production rows the whole detail of the start row
-    /// or "X".
-    [[nodiscard]] std::string Zelle(std::size_t rang, std::size_t spalte) const;
+    /// Takes out the earliest row. There is one.
+    Zeile NimmErste();
 
   private:
-    static constexpr std::uint64_t kFrei = std::numeric_limits<std::uint64_t>::max();
-    static constexpr std::uint64_t kStart = 1;
-    static constexpr std::uint64_t kFinish = 0;
-    static constexpr unsigned kZeitstelle = 33;
-    static constexpr unsigned kArtstelle = 32;
+    /// All that a run ever has in use: one finish for each queue, as a queue's next order can't
+    /// start before its finish, and the finishes of production rows. The next event carries those
+    /// out, unless an order without a source of deuterium starts a second before; each queue can
+    /// bring one such order.
+    static constexpr std::size_t kFinishzeilen = 8;
 
-    /// What rows are ordered by: moment, then kind, then number of entry.
-    static constexpr std::uint64_t Schluessel(Moment zeit, std::uint64_t art,
-                                              std::uint32_t nummer) {
-        return (static_cast<std::uint64_t>(zeit.Sekunden()) << kZeitstelle) | (art << kArtstelle) |
-               nummer;
-    }
-
-    std::array<std::uint64_t, kZeilen> m_schluessel{kFrei, kFrei, kFrei, kFrei, kFrei};
-    std::array<const BaulistenZeile*, kZeilen> m_orders{};
-    std::size_t m_startzeile = kZeilen;
-    std::uint32_t m_naechsteNummer = 0;
+    Zeile m_start;
+    std::size_t m_zahl = 0;
+    /// The earliest stands at the end.
+    std::array<Zeile, kFinishzeilen> m_finishs{};
 };
 
 }  // namespace tarvelin

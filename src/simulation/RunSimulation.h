@@ -1,36 +1,31 @@
-// The run of a plan through simulated time.
+// A run with what a player sees of it.
 #pragma once
 
-#include "model/Bauzeit.h"
-#include "model/Startplanet.h"
+#include <span>
+
+#include "model/Spielstand.h"
+#include "model/Startbedingungen.h"
 #include "plan/Plan.h"
+#include "simulation/Bauzeit.h"
 #include "util/Meldung.h"
 
 namespace tarvelin {
 
-/// What a run leaves behind: the shared state with the items, and the table of build times. It
-/// stands until the next run or reset.
+/// What a run leaves behind until the next run or reset.
 struct Lauf {
-    Startplanet Planet;
+    Startbedingungen Bedingungen;
+    Spielstand Stand;
     Bauzeiten LV_Bauzeiten;
 
-    /// The state before the first event of a run. A temperature that can't be used leaves the
-    /// former one.
+    /// The state before the first event of a run.
+    void Beginne(const Startbedingungen& bedingungen);
+
+    /// The same without a run: a temperature that can't be used leaves the former one, all other
+    /// conditions stay.
     void ResetSimulation(const Startparameter& parameter);
 };
 
-/// Whether a run got past its checks of the inputs.
-enum class Laufausgang { AnEingabenGescheitert, Gelaufen };
-
-/// Plays the plan from its first order to its last. `silent` keeps quiet about an empty list; all
-/// other messages come anyway. A run that fails at an input changes nothing of `lauf` but the
-/// speed factor and the sleep windows. Of the plan it changes nothing but the form of the start
-/// date's day and month, padded to two digits.
-Laufausgang RunSimulation(Plan& plan, Lauf& lauf, Meldungsausgabe& meldungen, bool silent);
-
-/// The two halves of a run, for who shows the state between them: the checks of the inputs with the
-/// reset, and if they were passed the way from the first order to the last.
-Laufausgang BeginneLauf(Plan& plan, Lauf& lauf, Meldungsausgabe& meldungen, bool silent);
-void FuehreLaufDurch(const Plan& plan, Lauf& lauf, Meldungsausgabe& meldungen);
+/// Plays the orders from the first to the last; `lauf` has begun.
+void RunSimulation(std::span<const Auftrag> auftraege, Lauf& lauf, Meldungsausgabe& meldungen);
 
 }  // namespace tarvelin

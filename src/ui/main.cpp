@@ -9,13 +9,13 @@
 
 #include "persistence/Programmordner.h"
 #include "persistence/Schreibschutz.h"
-#include "ui/Aussehen.h"
-#include "ui/Bauteile.h"
-#include "ui/Endesignale.h"
-#include "ui/Klangausgabe.h"
-#include "ui/Meldungsfenster.h"
-#include "ui/Netzabruf.h"
-#include "ui/frmMain.h"
+#include "ui/bauteile/Aussehen.h"
+#include "ui/bauteile/Bauteile.h"
+#include "ui/dienste/Endesignale.h"
+#include "ui/dienste/Klangausgabe.h"
+#include "ui/dienste/Meldungsfenster.h"
+#include "ui/dienste/Netzabruf.h"
+#include "ui/fenster/frmMain.h"
 
 namespace {
 

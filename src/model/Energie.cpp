@@ -1,0 +1,43 @@
+// Power plant and satellites.
+#include "model/Energie.h"
+
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace tarvelin {
+
+namespace {
+
+using Potenzen = std::array<double, std::numeric_limits<Byte>::max() + std::size_t{1}>;
+
+Potenzen AllePotenzen() {
+    Potenzen potenzen{};
+    for (std::size_t stufe = 0; stufe < potenzen.size(); ++stufe) {
+        potenzen[stufe] = std::pow(1.1, static_cast<double>(stufe));
+    }
+    return potenzen;
+}
+
+}  // namespace
+
+double HochEinsKommaEins(Byte stufe) {
+    static const Potenzen kPotenzen = AllePotenzen();
+    return kPotenzen[stufe];
+}
+
+Festkomma Kraftwerksertrag(Byte stufe) {
+    constexpr double kEnergieJeStufe = 20;
+    return Festkomma::AusGanzzahl(
+        Rundung::floor(kEnergieJeStufe * stufe * HochEinsKommaEins(stufe)));
+}
+
+// The floor acts on the product, so that fractions of the satellites add up before it.
+Festkomma Satellitenertrag(Byte anzahl, Integer temperatur) {
+    constexpr double kGradJeEnergie = 4;
+    constexpr double kEnergieBeiNullGrad = 20;
+    const double jeSatellit = temperatur / kGradJeEnergie + kEnergieBeiNullGrad;
+    return Festkomma::AusGanzzahl(Rundung::floor(jeSatellit * anzahl));
+}
+
+}  // namespace tarvelin

@@ -1,0 +1,54 @@
+// Loading and running without a window.
+#include "persistence/Planlauf.h"
+
+#include <utility>
+
+#include "persistence/Planablage.h"
+
+namespace tarvelin {
+
+namespace {
+
+std::string Dateiname(const std::filesystem::path& datei) {
+    const auto name = datei.filename().u8string();
+    return {name.begin(), name.end()};
+}
+
+class Meldungsliste final : public Meldungsausgabe {
+  public:
+    explicit Meldungsliste(std::vector<Meldung>& meldungen) : m_meldungen(meldungen) {}
+
+    void Zeige(const Meldung& meldung) override { m_meldungen.push_back(meldung); }
+    void Piepton() override {}
+
+  private:
+    std::vector<Meldung>& m_meldungen;
+};
+
+}  // namespace
+
+Planlauf::Planlauf(const std::filesystem::path& datei)
+    : Planlauf(Dateiname(datei), Profil::Lade(datei)) {}
+
+Planlauf::Planlauf(std::string name, const std::optional<Profil>& profil) : Name(std::move(name)) {
+    Meldungsliste meldungen(Meldungen);
+    if (!profil) {
+        meldungen.Zeige(Ladefehler());
+        return;
+    }
+    Geladen = LadePlan(*profil, Plan, Lauf.Bedingungen, meldungen);
+    if (!Geladen) {
+        return;
+    }
+    const auto bedingungen = LiesStartbedingungen(Plan);
+    if (const auto* const absage = std::get_if<Meldung>(&bedingungen)) {
+        meldungen.Zeige(*absage);
+        return;
+    }
+    Lauf.Beginne(std::get<Startbedingungen>(bedingungen));
+    RunSimulation(Plan.Liste.Auftraege().Alle(), Lauf, meldungen);
+    Texte.NachLauf(Lauf.Stand);
+    Gelaufen = true;
+}
+
+}  // namespace tarvelin

@@ -1,0 +1,40 @@
+// Texts of the table of build times.
+#include "simulation/Bauzeit.h"
+
+#include "model/Itemtabelle.h"
+
+namespace tarvelin {
+
+std::string Bauzeit::theText() const {
+    if (Order.Was == Auftrag::Art::Produktion) {
+        const auto prozent = [this](Rohstoff r) { return std::to_string(Order.Faktoren[r] * 10); };
+        return prozent(Rohstoff::Metall) + "% " + prozent(Rohstoff::Kristall) + "% " +
+               prozent(Rohstoff::Deuterium) + "%";
+    }
+    const Itemzeile& zeile = ZeileVon(Order.Item);
+    std::string text(zeile.Zeitentext);
+    return zeile.Besonders.MitNummer ? text + std::to_string(Nummer) : text;
+}
+
+std::string Bauzeit::VerzoegerungsGrund() const {
+    const bool mitGrund =
+        Order.Was == Auftrag::Art::Item && ZeileVon(Order.Item).Besonders.MitGrund;
+    return mitGrund ? Mangel.Text() : "";
+}
+
+std::string Bauzeit::Tag() const {
+    const std::string tag = std::string(WochentagLang(Start)) + " " + Datumzeittext(Start);
+    const std::string grund = VerzoegerungsGrund();
+    return grund.empty() ? tag : tag + " | " + grund;
+}
+
+void Bauzeitenschreiber::Start(const Startereignis& ereignis) {
+    m_zeilen.push_back({.Order = ereignis.Order,
+                        .Nummer = ereignis.Nummer,
+                        .Start = m_bedingungen.Uhrzeit(ereignis.Start),
+                        .Finish = m_bedingungen.Uhrzeit(ereignis.Finish),
+                        .Mangel = ereignis.Mangel,
+                        .Grund = ereignis.Grund});
+}
+
+}  // namespace tarvelin

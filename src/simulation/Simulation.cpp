@@ -1,0 +1,147 @@
+// The walk from event to event.
+#include "simulation/Simulation.h"
+
+#include <algorithm>
+
+#include "model/Itemtabelle.h"
+#include "model/Kosten.h"
+#include "model/Planet.h"
+
+namespace tarvelin {
+
+Simulation::Simulation(std::span<const Auftrag> auftraege, const Startbedingungen& bedingungen)
+    : m_auftraege(auftraege), m_bedingungen(&bedingungen), m_stand(Anfang(bedingungen)) {}
+
+void Simulation::Laufe(Laufbeobachter& beobachter) {
+    while (!IstFertig()) {
+        Schritt(beobachter);
+    }
+}
+
+void Simulation::Schritt(Laufbeobachter& beobachter) {
+    ReiheEin();
+    // The first order is never timed: it starts at moment 0, whatever stocks and gates say.
+    if (m_schritte > 0 && !m_tabelle.NoStartPending()) {
+        TerminiereWartende(beobachter);
+    }
+    ++m_schritte;
+    if (m_tabelle.IstLeer()) {
+        // Only orders with unknown codes leave a step without an event.
+        beobachter.Piepton();
+        return;
+    }
+    const EventTabelle::Zeile erste = m_tabelle.NimmErste();
+    // Negative where an order's click buffer has carried the clock past this row.
+    const Long differenz = erste.Zeit - m_stand.secsgone;
+    if (erste.IstStart) {
+        VergeheZeit(LongSumme(differenz, m_bedingungen->KlickPuffer), m_stand);
+        Starte(erste.Order, beobachter);
+    } else {
+        VergeheZeit(differenz, m_stand);
+        Beende(m_auftraege[erste.Order], beobachter);
+    }
+    EnergieBilanz(m_stand, *m_bedingungen);
+    beobachter.NachSchritt(m_stand);
+}
+
+/// Only one order at a time waits, in the order of the list.
+void Simulation::ReiheEin() {
+    if (m_tabelle.NoStartPending() && m_naechste < m_auftraege.size()) {
+        m_tabelle.SetStart(m_naechste++);
+        m_aufenthalt = {};
+    }
+}
+
+/// Times the waiting order from the state as it stands. An estimate made earlier counts for
+/// nothing.
+void Simulation::TerminiereWartende(Laufbeobachter& beobachter) {
+    const Auftrag& order = m_auftraege[m_tabelle.Wartender()];
+    Aufenthalt grund;
+    switch (order.Was) {
+        case Auftrag::Art::Item: {
+            const Wartezeit warten = WarteAuf(ZeileVon(order.Item), m_stand, *m_bedingungen);
+            m_bereitAb = m_stand.secsgone + warten.Sekunden;
+            m_stand.Verzoegerungen[order.Item] =
+                warten.Mangel.value_or(m_stand.Verzoegerungen[order.Item]);
+            grund = warten.Grund;
+            break;
+        }
+        case Auftrag::Art::Produktion:
+            m_bereitAb = m_stand.secsgone;
+            break;
+        case Auftrag::Art::Unbekannt:
+            beobachter.Unbekannt(Unbekanntes::Wartezeit);
+            break;
+    }
+    const Moment frei = m_stand.FertigZeit[order.Queue];
+    if (frei > m_bereitAb) {
+        grund = {.Was = Hindernis::Schlange, .Queue = order.Queue};
+    }
+    const Moment start = std::max(m_bereitAb, frei);
+    m_tabelle.SetStartzeit(start);
+    if (start > m_stand.secsgone) {
+        m_aufenthalt = grund;
+    }
+}
+
+void Simulation::Starte(std::size_t zeile, Laufbeobachter& beobachter) {
+    switch (m_auftraege[zeile].Was) {
+        case Auftrag::Art::Item:
+            StarteItem(zeile, beobachter);
+            break;
+        case Auftrag::Art::Produktion:
+            StarteProduktion(zeile, beobachter);
+            break;
+        case Auftrag::Art::Unbekannt:
+            beobachter.Unbekannt(Unbekanntes::Start);
+            break;
+    }
+    // A first order that costs more than the start stocks, or one without any source of deuterium,
+    // starts all the same. It is told again at each start until the stocks have recovered.
+    if (std::ranges::min(m_stand.Vorrat) < Festkomma()) {
+        beobachter.Schulden(m_stand);
+    }
+}
+
+// The click buffer counts twice: before the start, and behind the finish until the queue falls
+// free.
+void Simulation::StarteItem(std::size_t zeile, Laufbeobachter& beobachter) {
+    const Auftrag& order = m_auftraege[zeile];
+    const Itemzeile& item = ZeileVon(order.Item);
+    const Byte stufe = m_stand.Stufen[order.Item];
+    BeginneSchritt(item, m_stand);
+    const double fertig =
+        m_stand.secsgone.Sekunden() + item.Dauer(Preis(order.Item, stufe), m_stand, *m_bedingungen);
+    const Moment finish(HalfEvenLong(fertig));
+    m_tabelle.SetFinish(finish, zeile);
+    m_stand.FertigZeit[order.Queue] = Moment(HalfEvenLong(fertig + 1 + m_bedingungen->KlickPuffer));
+    beobachter.Start({.Zeile = zeile,
+                      .Order = order,
+                      .Nummer = Saettige<Byte>(stufe + 1),
+                      .Start = m_stand.secsgone,
+                      .Finish = finish,
+                      .Mangel = m_stand.Verzoegerungen[order.Item],
+                      .Grund = m_aufenthalt});
+}
+
+/// It occupies no queue: the next order of the building queue need not wait for it.
+void Simulation::StarteProduktion(std::size_t zeile, Laufbeobachter& beobachter) {
+    const Auftrag& order = m_auftraege[zeile];
+    SetzeMinenfaktoren(order.Faktoren, m_stand);
+    m_tabelle.SetFinish(m_stand.secsgone, zeile);
+    beobachter.Start({.Zeile = zeile,
+                      .Order = order,
+                      .Start = m_stand.secsgone,
+                      .Finish = m_stand.secsgone,
+                      .Mangel = {.Grund = Verzoegerung::Art::OhneAngabe},
+                      .Grund = m_aufenthalt});
+}
+
+void Simulation::Beende(const Auftrag& order, Laufbeobachter& beobachter) {
+    if (order.Was == Auftrag::Art::Item) {
+        BeendeSchritt(ZeileVon(order.Item), m_stand);
+    }
+    beobachter.Finish(order);
+}
+
+}  // namespace tarvelin

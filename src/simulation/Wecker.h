@@ -1,0 +1,21 @@
+// When an alarm rings.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+#include "plan/Schlaftabelle.h"
+#include "simulation/Bauzeit.h"
+
+namespace tarvelin {
+
+/// How many build times are due `vorher` seconds after `jetzt`, to the second. A text that is no
+/// whole number from 0 to 86400 rings nothing.
+[[nodiscard]] std::size_t FaelligeBauzeiten(const Bauzeiten& bauzeiten, Zeitpunkt jetzt,
+                                            std::string_view vorher);
+
+/// How many sleep windows end in the minute that begins one minute after `jetzt`. The texts of the
+/// table are compared as they stand.
+[[nodiscard]] std::size_t FaelligeSchlafzeiten(const Schlaftabelle& tabelle, Zeitpunkt jetzt);
+
+}  // namespace tarvelin

@@ -1,0 +1,35 @@
+// Painting of a picture button.
+#include "ui/bauteile/Bildknopf.h"
+
+#include <QPainter>
+
+namespace tarvelin {
+
+Bildknopf::Bildknopf(const QString& name, const QSize& groesse, const QString& hinweis,
+                     QWidget* parent)
+    : QAbstractButton(parent) {
+    setObjectName(name);
+    setAccessibleName(hinweis.trimmed());
+    setToolTip(hinweis);
+    setFixedSize(groesse);
+    setFocusPolicy(Qt::TabFocus);
+}
+
+void Bildknopf::SetzeBild(const QPixmap& bild) {
+    if (!bild.isNull()) {
+        m_bild = bild;
+        update();
+    }
+}
+
+void Bildknopf::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(rect(), m_bild);
+    if (hasFocus()) {
+        painter.setPen(palette().highlight().color());
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+}  // namespace tarvelin

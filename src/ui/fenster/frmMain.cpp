@@ -1,0 +1,418 @@
+// Layout of the window and its handlers.
+#include "ui/fenster/frmMain.h"
+
+#include <QCoreApplication>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QScreen>
+#include <QTableView>
+#include <QTimer>
+#include <utility>
+
+#include "plan/Hovertexte.h"
+#include "ui/bauteile/Bilder.h"
+#include "ui/bauteile/Entertaste.h"
+#include "ui/bauteile/Itemansicht.h"
+#include "ui/fenster/Hersteller.h"
+#include "ui/fenster/Skinbilder.h"
+#include "ui/fenster/Standmeldungen.h"
+#include "ui/fenster/Webskin.h"
+
+namespace tarvelin {
+
+namespace {
+
+/// Of the window, in twips.
+constexpr int kBreite = 12870;
+constexpr int kHoehe = 5030;
+
+/// Brings up a window of its own, or the one that is open already.
+template <class F>
+void ZeigeEinmaliges(std::unique_ptr<F>& fenster, const Umgebung& umgebung) {
+    if (!fenster) {
+        fenster = std::make_unique<F>(umgebung);
+    }
+    fenster->setWindowState(fenster->windowState() & ~Qt::WindowMinimized);
+    fenster->show();
+    fenster->raise();
+    fenster->activateWindow();
+}
+
+}  // namespace
+
+frmMain::frmMain(const Umgebung& umgebung)
+    : m_umgebung(umgebung),
+      m_konfiguration(umgebung.Programmordner, umgebung.Dateien),
+      m_autosave(umgebung.Programmordner, umgebung.Dateien),
+      m_rollflaeche(new QScrollArea(this)),
+      m_flaeche(new QWidget(this)),
+      m_Fra_Einstellungen(new Fra_Einstellungen(m_plan, m_flaeche)),
+      m_Fra_Special(new Fra_Special(m_flaeche)),
+      m_Fra_Skin(new Fra_Skin(umgebung.Programmordner / "img" / "skins", m_flaeche)),
+      m_Fra_Sleep(new Fra_Sleep(m_plan.Schlafzeiten, umgebung, m_flaeche)),
+      m_Fra_Rest(new Fra_Rest(m_plan.Liste, m_lauf, m_flaeche)),
+      m_TopLine(new QFrame(m_flaeche)),
+      m_menue(new Menueleiste(this)),
+      m_alarme(new Alarme({.LV_Bauzeiten = m_lauf.LV_Bauzeiten,
+                           .LV_Schlafzeiten = m_plan.Schlafzeiten,
+                           .Chk_BauWeckfunktion = *m_Fra_Rest->Bauwecker(),
+                           .Chk_Schlafzeitenwecker = *m_Fra_Sleep->Chk_Schlafzeitenwecker,
+                           .Comb_Before = *m_Fra_Rest->SekundenVorher()},
+                          umgebung, m_flaeche)) {
+    setObjectName(QStringLiteral("frmMain"));
+    setWindowTitle(QStringLiteral("Tarvelin  |  Kelva Aufbau-Simulator"));
+    LegeAus();
+    BaueMenue();
+    Verbinde();
+    LadeBilder();
+    SetzeHeute();
+    m_Fra_Rest->Zeige(m_texte);
+    m_Fra_Rest->ZeigeNamen(m_plan.ShowDesc);
+    m_Tmr_Autosave.setObjectName(QStringLiteral("Tmr_Autosave"));
+    connect(&m_Tmr_Autosave, &QTimer::timeout, this,
+            [this] { m_autosave.SchreibeGeaenderten(m_plan); });
+}
+
+// What the lists show must outlive them.
+frmMain::~frmMain() {
+    delete m_flaeche;
+}
+
+void frmMain::LegeAus() {
+    m_rollflaeche->setObjectName(QStringLiteral("Rollflaeche"));
+    m_rollflaeche->setFrameShape(QFrame::NoFrame);
+    m_rollflaeche->setFocusPolicy(Qt::NoFocus);
+    m_rollflaeche->setWidgetResizable(true);
+    m_rollflaeche->setWidget(m_flaeche);
+    setCentralWidget(m_rollflaeche);
+    PasseAnBildschirmAn();
+    m_Fra_Rest->move(0, Pixel(2));
+    m_Fra_Rest->lower();
+    m_flaeche->setMinimumSize(Pixel(kBreite), m_Fra_Rest->geometry().bottom() + 1);
+    m_TopLine->setObjectName(QStringLiteral("TopLine"));
+    m_TopLine->setFrameStyle(QFrame::HLine | QFrame::Sunken);
+    m_TopLine->setGeometry(0, 0, Pixel(kBreite), 1);
+    m_TopLine->setAttribute(Qt::WA_TransparentForMouseEvents);
+    setMenuBar(m_menue);
+    m_Fra_Rest->Startknopf()->setDefault(true);
+    // The button owns it.
+    new Entertaste(m_Fra_Rest->Startknopf());
+    m_Fra_Einstellungen->NimmFokus();
+    // No control takes what is dragged in from elsewhere.
+    for (QLineEdit* const eingabe : findChildren<QLineEdit*>()) {
+        eingabe->setAcceptDrops(false);
+    }
+    for (QTableView* const kalenderblatt : findChildren<QTableView*>()) {
+        kalenderblatt->installEventFilter(this);
+    }
+}
+
+QSize frmMain::GroesseAuf(const QSize& bildschirm) {
+    const QSize ganz(Pixel(kBreite), Pixel(kHoehe));
+    if (ganz.boundedTo(bildschirm) == ganz) {
+        return ganz;
+    }
+    constexpr QSize kRahmen(8, 36);
+    return ganz.boundedTo(bildschirm - kRahmen);
+}
+
+void frmMain::FolgeBildschirm() {
+    disconnect(m_bildschirm);
+    m_bildschirm =
+        connect(screen(), &QScreen::availableGeometryChanged, this, &frmMain::PasseAnBildschirmAn);
+    PasseAnBildschirmAn();
+}
+
+void frmMain::PasseAnBildschirmAn() {
+    setFixedSize(GroesseAuf(screen()->availableSize()));
+}
+
+void frmMain::LadeBilder() {
+    const auto bilder = m_umgebung.Programmordner / "img";
+    setWindowIcon(LadeSymbol(bilder / "icon.ico"));
+    // What another skin lacks stays as it is in this one.
+    ApplySkin(kStandardskin, {}, *m_Fra_Rest, m_umgebung.Programmordner);
+    m_Fra_Rest->SetzeZeiger(LadeZiehzeiger(bilder, devicePixelRatioF()));
+    m_Fra_Rest->SetzeSpendenbild(LadePixmap(bilder / "spende.png"));
+}
+
+void frmMain::Verbinde() {
+    connect(m_Fra_Rest, &Fra_Rest::DragDrop, this, &frmMain::LV_Bauliste_DragDrop);
+    connect(m_Fra_Rest, &Fra_Rest::Cmd_Undo_Click, this, &frmMain::Cmd_Undo_Click);
+    connect(m_Fra_Rest, &Fra_Rest::Cmd_Clear_Click, this, &frmMain::Cmd_Clear_Click);
+    connect(m_Fra_Rest, &Fra_Rest::Cmd_Simulate_Click, this, &frmMain::Cmd_Simulate_Click);
+    connect(m_Fra_Rest, &Fra_Rest::ImgDonate_Click, this, &frmMain::mnu_DOnate_Click);
+    connect(m_Fra_Rest, &Fra_Rest::Img_MouseMove, this, &frmMain::Img_MouseMove);
+    connect(m_Fra_Special->Cmd_AddProdaenderungsevent, &QPushButton::clicked, this,
+            &frmMain::Cmd_AddProdaenderungsevent_Click);
+    connect(m_Fra_Einstellungen, &Fra_Einstellungen::Chk_Speedfaktor_Click, this,
+            &frmMain::Chk_Speedfaktor_Click);
+    connect(m_Fra_Einstellungen, &Fra_Einstellungen::cmd_ShowDesc_Click, this,
+            [this] { m_Fra_Rest->ZeigeNamen(m_plan.ShowDesc); });
+    connect(m_Fra_Skin->Cmd_ApplySkin, &QPushButton::clicked, this, &frmMain::Cmd_ApplySkin_Click);
+}
+
+QAction* frmMain::NeuerEintrag(QWidget* menue, const char* name, const char* text) {
+    auto* const eintrag = new QAction(QString::fromLatin1(text), this);
+    eintrag->setObjectName(QString::fromLatin1(name));
+    menue->addAction(eintrag);
+    return eintrag;
+}
+
+// The style would draw a separator's caption.
+void frmMain::NeuerStrich(QMenu* menue, const char* name) {
+    menue->addSeparator()->setObjectName(QString::fromLatin1(name));
+}
+
+void frmMain::BaueMenue() {
+    BaueDateimenue();
+    const auto felder = {
+        std::tuple("mnuEinstellungen", "&Einstellungen", &frmMain::mnuEinstellungen_Click),
+        std::tuple("mnu_SpecialEvents", "Special-&Events", &frmMain::mnu_SpecialEvents_Click),
+        std::tuple("mnuSleep", "&Schlafzeiten", &frmMain::mnuSleep_Click),
+        std::tuple("mnuSkin", "&Skin", &frmMain::mnuSkin_Click)};
+    for (const auto& [name, text, handler] : felder) {
+        connect(NeuerEintrag(m_menue, name, text), &QAction::triggered, this, handler);
+    }
+    BaueInfomenue();
+}
+
+void frmMain::BaueDateimenue() {
+    QMenu* const datei = m_menue->addMenu(QStringLiteral("&Datei"));
+    datei->menuAction()->setObjectName(QStringLiteral("mnu_Datei"));
+    const auto eintraege = {
+        std::tuple("mnu_DateiNeu", "&Neu", Qt::Key_N, &frmMain::mnu_DateiNeu_Click),
+        std::tuple("mnu_DateiLaden", "&Laden", Qt::Key_O, &frmMain::mnu_DateiLaden_Click),
+        std::tuple("mnu_Datei_Speichern", "&Speichern", Qt::Key_S,
+                   &frmMain::mnu_Datei_Speichern_Click)};
+    for (const auto& [name, text, taste, handler] : eintraege) {
+        QAction* const eintrag = NeuerEintrag(datei, name, text);
+        eintrag->setShortcut(Qt::CTRL | taste);
+        connect(eintrag, &QAction::triggered, this, handler);
+    }
+    NeuerStrich(datei, "mnu_Datei_Strich01");
+    connect(NeuerEintrag(datei, "mnu_Datei_Beenden", "&Beenden"), &QAction::triggered, this,
+            &QWidget::close);
+}
+
+void frmMain::BaueInfomenue() {
+    QMenu* const info = m_menue->addMenu(QStringLiteral("Info"));
+    info->menuAction()->setObjectName(QStringLiteral("mnu_Info"));
+    connect(NeuerEintrag(info, "mnu_DOnate", "&Spenden..."), &QAction::triggered, this,
+            &frmMain::mnu_DOnate_Click);
+    connect(NeuerEintrag(info, "mnu_UpdateCheck", "&Update-Check"), &QAction::triggered, this,
+            &frmMain::mnu_UpdateCheck_Click);
+    NeuerStrich(info, "strich_02");
+    connect(NeuerEintrag(info, "mnuAbout_TV", "&About Tarvelin"), &QAction::triggered, this,
+            &frmMain::mnuAbout_TV_Click);
+}
+
+void frmMain::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        m_Fra_Rest->Startknopf()->click();
+    } else {
+        QMainWindow::keyPressEvent(event);
+    }
+}
+
+bool frmMain::eventFilter(QObject* ziel, QEvent* event) {
+    // The page of the calendar would keep Enter for itself.
+    if (event->type() == QEvent::KeyPress) {
+        auto* const taste = static_cast<QKeyEvent*>(event);
+        if (taste->key() == Qt::Key_Return || taste->key() == Qt::Key_Enter) {
+            keyPressEvent(taste);
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(ziel, event);
+}
+
+void frmMain::SetzeHeute() {
+    const Zeitpunkt heute = m_umgebung.Jetzt();
+    SetzeStartdatum(m_plan.Parameter, heute);
+    m_Fra_Einstellungen->Zeige();
+    // Whatever the hour says.
+    m_Fra_Einstellungen->Zeige(WochentagVon(heute));
+}
+
+void frmMain::mnu_UpdateCheck_Click() {
+    const auto geladen = m_umgebung.Netz.Hole(Versionsdatei());
+    if (!geladen) {
+        m_umgebung.Boxen.Zeige(Versionsfehler());
+    } else if (m_umgebung.Boxen.Stelle(Versionsfrage(*geladen))) {
+        m_umgebung.OeffneSeite(Downloadseite());
+    }
+}
+
+void frmMain::mnuAbout_TV_Click() {
+    ZeigeEinmaliges(m_frmAbout, m_umgebung);
+}
+
+void frmMain::mnu_DOnate_Click() {
+    ZeigeEinmaliges(m_frmDonate, m_umgebung);
+}
+
+void frmMain::Cmd_ApplySkin_Click() {
+    const Byte quelle = m_Fra_Skin->Quelle();
+    QLineEdit& pfad = *m_Fra_Skin->txt_Pfad;
+    if (quelle == kWebskin) {
+        const auto ordner = m_umgebung.Programmordner / "img" / "skins" / kLandeordner;
+        ApplySkin(kWebskin, {}, *m_Fra_Rest, m_umgebung.Programmordner);
+        const auto ausgang = HoleWebskin(pfad.text().toStdString(), ordner, m_umgebung,
+                                         [this] { return !IstGeschlossen(); });
+        ApplySkin(ausgang == Webskinausgang::AmEnde ? kLokalerSkin : kStandardskin, kLandeordner,
+                  *m_Fra_Rest, m_umgebung.Programmordner);
+        if (pfad.text().endsWith(QLatin1Char('/'))) {
+            pfad.setText(pfad.text().chopped(1));
+        }
+    } else {
+        ApplySkin(quelle, m_Fra_Skin->Comb_Skins->currentText().toStdString(), *m_Fra_Rest,
+                  m_umgebung.Programmordner);
+    }
+    m_Fra_Skin->hide();
+}
+
+void frmMain::BringeNachVorn(QWidget& feld) {
+    feld.raise();
+    m_TopLine->raise();
+}
+
+void frmMain::Klappe(Feld& feld) {
+    feld.setVisible(feld.isHidden());
+    BringeNachVorn(feld);
+    if (feld.isVisible()) {
+        feld.NimmFokus();
+    }
+}
+
+void frmMain::mnuEinstellungen_Click() {
+    Klappe(*m_Fra_Einstellungen);
+}
+
+void frmMain::mnu_SpecialEvents_Click() {
+    Klappe(*m_Fra_Special);
+    m_Fra_Skin->hide();
+    m_Fra_Skin->FillSkinList();
+    m_Fra_Sleep->hide();
+}
+
+void frmMain::mnuSkin_Click() {
+    Klappe(*m_Fra_Skin);
+    m_Fra_Special->hide();
+    m_Fra_Skin->FillSkinList();
+    m_Fra_Sleep->hide();
+}
+
+void frmMain::mnuSleep_Click() {
+    Klappe(*m_Fra_Sleep);
+    m_Fra_Special->hide();
+    m_Fra_Skin->hide();
+    m_Fra_Sleep->RefreshSchlafEnde();
+}
+
+void frmMain::Img_MouseMove(const Itemplatz& platz) {
+    platz.Bild->SetzeGate(HoverInfo(platz.Item, m_plan.Liste.Auftraege(), m_lauf.Bedingungen));
+}
+
+void frmMain::LV_Bauliste_DragDrop(const QString& Source) {
+    const auto item = ItemVonBild(Source.toStdString());
+    const auto meldung = item ? m_plan.Liste.AddItem(*item, m_lauf.Bedingungen)
+                              : Meldung{.Text = "KA", .Titel = "", .Symbol = Meldungssymbol::Ohne};
+    if (meldung) {
+        // A box would come up inside the drag; it waits until the pointer is free.
+        QTimer::singleShot(0, this, [this, text = *meldung] { m_umgebung.Boxen.Zeige(text); });
+        return;
+    }
+    ZeigeNeueZeile();
+}
+
+void frmMain::Cmd_AddProdaenderungsevent_Click() {
+    if (const auto meldung =
+            m_plan.Liste.AddProdaenderungsevent(m_Fra_Special->Faktoren(), m_lauf.Bedingungen)) {
+        m_umgebung.Boxen.Zeige(*meldung);
+        return;
+    }
+    ZeigeNeueZeile();
+}
+
+void frmMain::ZeigeNeueZeile() {
+    m_Fra_Rest->ZeigeListe();
+    m_Fra_Rest->MacheLetzteSichtbar();
+}
+
+void frmMain::Cmd_Undo_Click() {
+    m_plan.Liste.Undo();
+    m_Fra_Rest->ZeigeListe();
+}
+
+void frmMain::Cmd_Clear_Click() {
+    m_plan.Liste.Clear();
+    m_texte.NachClear();
+    m_Fra_Rest->ZeigeListe();
+    m_Fra_Rest->Zeige(m_texte);
+}
+
+void frmMain::Cmd_Simulate_Click() {
+    m_Fra_Einstellungen->hide();
+    m_Fra_Special->hide();
+    m_Fra_Skin->hide();
+    m_Fra_Sleep->hide();
+    StarteSimulation(false);
+}
+
+void frmMain::Chk_Speedfaktor_Click() {
+    m_lauf.Bedingungen.Speedfaktor = m_plan.Parameter.Speedfaktor();
+}
+
+void frmMain::ZeigePlan() {
+    m_Fra_Einstellungen->Zeige();
+    Chk_Speedfaktor_Click();
+    m_Fra_Sleep->Zeige();
+    m_Fra_Rest->ZeigeNamen(m_plan.ShowDesc);
+    ZeigeNeueZeile();
+}
+
+void frmMain::StarteSimulation(bool silent) {
+    Chk_Speedfaktor_Click();
+    const auto bedingungen = PruefeEingaben(silent);
+    if (!bedingungen) {
+        return;
+    }
+    m_lauf.Beginne(*bedingungen);
+    m_texte.NachReset();
+    m_Fra_Rest->Zeige(m_texte);
+    ZeigeStandDesLaufs();
+    m_Fra_Rest->MacheErsteBauzeitSichtbar();
+    m_Fra_Einstellungen->RefreshWeekday();
+    Standmeldungen meldungen([this] { ZeigeStandDesLaufs(); }, m_umgebung.Boxen);
+    RunSimulation(m_plan.Liste.Auftraege().Alle(), m_lauf, meldungen);
+    m_texte.NachLauf(m_lauf.Stand);
+    m_Fra_Rest->Zeige(m_texte);
+    m_Fra_Rest->ZeigeBauzeiten();
+}
+
+std::optional<Startbedingungen> frmMain::PruefeEingaben(bool silent) {
+    const bool leer = m_plan.Liste.Auftraege().IstLeer();
+    if (!leer) {
+        FuelleStartdatumAuf(m_plan.Parameter);
+    }
+    const auto bedingungen = LiesStartbedingungen(m_plan);
+    const auto* const absage = std::get_if<Meldung>(&bedingungen);
+    if (absage == nullptr) {
+        return std::get<Startbedingungen>(bedingungen);
+    }
+    if (!silent || !leer) {
+        ZeigeStandDesLaufs();
+        m_umgebung.Boxen.Zeige(*absage);
+    }
+    return std::nullopt;
+}
+
+void frmMain::ZeigeStandDesLaufs() {
+    // Day and month may have been padded.
+    m_Fra_Einstellungen->Zeige();
+    m_Fra_Rest->ZeigeBauzeiten();
+}
+
+}  // namespace tarvelin

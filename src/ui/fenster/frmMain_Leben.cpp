@@ -1,0 +1,217 @@
+// The life of the window: start, plan files, stop.
+#include "ui/fenster/frmMain.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QWindow>
+#include <chrono>
+#include <utility>
+
+#include "persistence/Planablage.h"
+#include "ui/fenster/Skinbilder.h"
+#include "ui/fenster/Standmeldungen.h"
+#include "util/Nuetzliches.h"
+
+namespace tarvelin {
+
+void frmMain::Form_Load() {
+    if (IstGeschlossen()) {
+        return;
+    }
+    m_Fra_Skin->FillSkinList();
+    m_alarme->LiesKonfiguration();
+    LiesSkin();
+    m_abschnitt = Abschnitt::Start;
+    show();
+    connect(windowHandle(), &QWindow::screenChanged, this, &frmMain::FolgeBildschirm);
+    FolgeBildschirm();
+    WarteAufBildschirm();
+    if (m_umgebung.Starthinweis) {
+        m_umgebung.Boxen.Zeige(*m_umgebung.Starthinweis);
+    }
+    if (!IstGeschlossen()) {
+        BringePlan();
+    }
+    if (!IstGeschlossen()) {
+        m_abschnitt = Abschnitt::Arbeit;
+        constexpr std::chrono::seconds kTakt(4);
+        m_Tmr_Autosave.start(kTakt);
+    }
+}
+
+// The last plan stays untouched until the player has answered for it.
+void frmMain::BringePlan() {
+    const bool ersterStart = m_konfiguration.IstAn(Konfiguration::kFirststart);
+    const bool lagDa = FileExists(m_autosave.Datei());
+    const auto letzter = Profil::Lade(m_autosave.Datei(), m_umgebung.Dateien);
+    const auto starterplan = m_umgebung.Programmordner / "saves" / "basic.tvf";
+    const bool geladen = ersterStart && FileExists(starterplan) && LoadBauliste(starterplan, false);
+    const bool wieder = lagDa && StelleWiederHer(letzter);
+    if (IstGeschlossen()) {
+        return;
+    }
+    const bool behalten = !geladen || wieder || m_autosave.Schreibe(m_plan);
+    m_autosave.GiltAlsGeschrieben(m_plan);
+    if (ersterStart && behalten) {
+        m_umgebung.Dateien.Loesche(starterplan);
+        m_konfiguration.Schreibe({{Konfiguration::kFirststart, "0"}});
+    }
+}
+
+// A box that comes up before the window has its place would lie beside it.
+void frmMain::WarteAufBildschirm() {
+    constexpr int kLaengstens = 500;
+    constexpr int kHappen = 10;
+    QDeadlineTimer frist(kLaengstens);
+    while (!windowHandle()->isExposed() && !frist.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kHappen);
+    }
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+// A web skin is shown as it landed; nothing is fetched at a start.
+void frmMain::LiesSkin() {
+    const Byte mode = m_konfiguration.Skinmodus();
+    m_Fra_Skin->txt_Pfad->setText(AlsQString(m_konfiguration.Lies(Konfiguration::kWebPath)));
+    m_Fra_Skin->WaehleQuelle(mode);
+    ApplySkin(mode == kWebskin ? kLokalerSkin : mode, m_konfiguration.Lies(Konfiguration::kPath),
+              *m_Fra_Rest, m_umgebung.Programmordner);
+}
+
+bool frmMain::StelleWiederHer(const std::optional<Profil>& letzter) {
+    const auto entscheidung = EntscheideWiederherstellung(m_konfiguration);
+    if (IstGeschlossen() || entscheidung == Wiederherstellung::Nicht) {
+        return false;
+    }
+    if (entscheidung == Wiederherstellung::Ungefragt) {
+        LadeLetzten(letzter);
+        return true;
+    }
+    const auto frage = [this](const char* text) {
+        return m_umgebung.Boxen.Stelle(
+            {.Text = text, .Titel = "Wiederherstellen...", .Symbol = Meldungssymbol::Frage});
+    };
+    const bool ja = frage("Möchtest du die letzte Bauliste wiederherstellen?");
+    const bool immer = frage("Bei jedem Start so verfahren?");
+    if (IstGeschlossen()) {
+        // The end of the program is no answer.
+        return false;
+    }
+    if (immer) {
+        m_konfiguration.Schreibe({{Konfiguration::kAlwaysDoSo, "1"}});
+    }
+    if (ja) {
+        LadeLetzten(letzter);
+    }
+    m_konfiguration.Schreibe({{Konfiguration::kRecover, ja ? "1" : "0"}});
+    return ja;
+}
+
+void frmMain::LadeLetzten(const std::optional<Profil>& letzter) {
+    LoadBauliste(letzter, m_autosave.Datei(), true);
+    m_Fra_Einstellungen->hide();
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    const Abschnitt bisher = std::exchange(m_abschnitt, Abschnitt::Geschlossen);
+    if (bisher != Abschnitt::Geschlossen) {
+        m_umgebung.Boxen.Beende();
+    }
+    if (bisher == Abschnitt::Start || bisher == Abschnitt::Arbeit) {
+        Form_Unload(bisher);
+    }
+    QMainWindow::closeEvent(event);
+}
+
+void frmMain::Form_Unload(Abschnitt bisher) {
+    m_Tmr_Autosave.stop();
+    m_alarme->Verstumme();
+    m_umgebung.Netz.BrichAb();
+    Behalte(bisher);
+}
+
+void frmMain::Sichere() {
+    if (m_abschnitt == Abschnitt::Start || m_abschnitt == Abschnitt::Arbeit) {
+        Behalte(m_abschnitt);
+    }
+}
+
+void frmMain::Behalte(Abschnitt stand) {
+    // Until the start is over the plan isn't the user's.
+    const bool mitPlan = stand == Abschnitt::Arbeit;
+    const Byte quelle = m_Fra_Skin->Quelle();
+    const std::string pfad = quelle == kStandardskin ? "~"
+                             : quelle == kWebskin
+                                 ? kLandeordner
+                                 : m_Fra_Skin->Comb_Skins->currentText().toStdString();
+    const auto schalter = [](const QCheckBox& box) { return box.isChecked() ? "1" : "0"; };
+    Konfiguration::Werte werte{
+        {Konfiguration::kMode, std::to_string(quelle)},
+        {Konfiguration::kPath, pfad},
+        {Konfiguration::kWebPath, m_Fra_Skin->txt_Pfad->text().toStdString()},
+        {Konfiguration::kBaulistenwecker, schalter(*m_Fra_Rest->Bauwecker())},
+        {Konfiguration::kSchlafzeitenwecker, schalter(*m_Fra_Sleep->Chk_Schlafzeitenwecker)}};
+    if (mitPlan) {
+        werte.emplace_back(Konfiguration::kItemCount,
+                           std::to_string(m_plan.Liste.Auftraege().Zahl()));
+    }
+    m_konfiguration.Schreibe(werte);
+    if (mitPlan) {
+        m_autosave.SchreibeZuletzt(m_plan);
+    }
+}
+
+void frmMain::mnu_DateiNeu_Click() {
+    m_lauf.ResetSimulation(m_plan.Parameter);
+    m_texte.NachReset();
+    m_Fra_Rest->ZeigeBauzeiten();
+    Cmd_Clear_Click();
+    m_Fra_Einstellungen->show();
+    m_Fra_Skin->hide();
+    m_Fra_Sleep->hide();
+    SetzeHeute();
+    m_alarme->LiesKonfiguration();
+}
+
+void frmMain::mnu_DateiLaden_Click() {
+    const auto datei =
+        m_umgebung.Boxen.FragNachDatei(Dialoge::Zweck::Laden, m_umgebung.Programmordner / "saves");
+    if (!datei.empty()) {
+        LoadBauliste(datei, false);
+    }
+}
+
+void frmMain::mnu_Datei_Speichern_Click() {
+    const auto datei = m_umgebung.Boxen.FragNachDatei(Dialoge::Zweck::Speichern,
+                                                      m_umgebung.Programmordner / "saves");
+    if (!datei.empty() && !SaveBauliste(datei, m_plan, m_umgebung.Dateien)) {
+        m_umgebung.Boxen.Zeige(Speicherfehler());
+    }
+}
+
+bool frmMain::LoadBauliste(const std::filesystem::path& File, bool Silent) {
+    return LoadBauliste(Profil::Lade(File, m_umgebung.Dateien), File, Silent);
+}
+
+bool frmMain::LoadBauliste(const std::optional<Profil>& profil, const std::filesystem::path& File,
+                           bool Silent) {
+    if (!profil) {
+        m_umgebung.Boxen.Zeige(Ladefehler());
+        return false;
+    }
+    Cmd_Clear_Click();
+    Standmeldungen meldungen([this] { ZeigePlan(); }, m_umgebung.Boxen);
+    if (!LadePlan(*profil, m_plan, m_lauf.Bedingungen, meldungen)) {
+        return false;
+    }
+    ZeigePlan();
+    // The toolkit takes the lone sign for a place of its own.
+    setWindowTitle(
+        AlsQString(FenstertitelMit(File)).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+    StarteSimulation(Silent);
+    return true;
+}
+
+}  // namespace tarvelin
