@@ -11,7 +11,7 @@ namespace {
 
 using Potenzen = std::array<double, std::numeric_limits<Byte>::max() + std::size_t{1}>;
 
-Potenzen AllePotenzen() {
+Potenzen AllePotenzen() noexcept {
     Potenzen potenzen{};
     for (std::size_t stufe = 0; stufe < potenzen.size(); ++stufe) {
         potenzen[stufe] = std::pow(1.1, static_cast<double>(stufe));
@@ -19,10 +19,11 @@ Potenzen AllePotenzen() {
     return potenzen;
 }
 
+const Potenzen kPotenzen = AllePotenzen();
+
 }  // namespace
 
 double HochEinsKommaEins(Byte stufe) {
-    static const Potenzen kPotenzen = AllePotenzen();
     return kPotenzen[stufe];
 }
 

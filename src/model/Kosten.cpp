@@ -14,27 +14,39 @@ namespace {
 
 constexpr std::size_t kStufen = std::numeric_limits<Byte>::max() + std::size_t{1};
 
-/// Every price there is, as each event of a run asks for some.
-using Preistafel = JeItem<std::array<Kosten, kStufen>>;
+struct Stufenpreis {
+    Kosten Betrag{};
+    JeRohstoff<Festkomma> Abzug{};
+};
 
-Preistafel AllePreise() {
+/// Every price there is, as each event of a run asks for some.
+using Preistafel = JeItem<std::array<Stufenpreis, kStufen>>;
+
+Preistafel AllePreise() noexcept {
     Preistafel tafel;
     for (const Itemzeile& zeile : Itemtabelle()) {
         for (std::size_t stufe = 0; stufe < kStufen; ++stufe) {
             const double faktor = Kostenfaktor(zeile.Nach, static_cast<double>(stufe));
-            for (const Rohstoff r : kRohstoffe) {
-                tafel[zeile.Item][stufe][r] = std::trunc(zeile.Basis[r] * faktor);
-            }
+            Stufenpreis& preis = tafel[zeile.Item][stufe];
+            JedenRohstoff([&](Rohstoff r) {
+                preis.Betrag[r] = std::trunc(zeile.Basis[r] * faktor);
+                preis.Abzug[r] = Festkomma::AusDouble(preis.Betrag[r]);
+            });
         }
     }
     return tafel;
 }
 
+const Preistafel kPreise = AllePreise();
+
 }  // namespace
 
 const Kosten& Preis(ItemId item, Byte stufe) {
-    static const Preistafel kPreise = AllePreise();
-    return kPreise[item][stufe];
+    return kPreise[item][stufe].Betrag;
+}
+
+const JeRohstoff<Festkomma>& Abzug(ItemId item, Byte stufe) {
+    return kPreise[item][stufe].Abzug;
 }
 
 std::string Kostentext(const Kosten& kosten) {

@@ -16,6 +16,14 @@ inline constexpr std::array kRohstoffe{Rohstoff::Metall, Rohstoff::Kristall, Roh
 template <class T>
 using JeRohstoff = Je<Rohstoff, T>;
 
+/// For each resource in its turn; without a loop, as each event of a run does this several times.
+template <class Tat>
+constexpr void JedenRohstoff(Tat tat) {
+    tat(Rohstoff::Metall);
+    tat(Rohstoff::Kristall);
+    tat(Rohstoff::Deuterium);
+}
+
 /// Whole amounts. They grow beyond 64 bits, so they are doubles.
 using Kosten = JeRohstoff<double>;
 

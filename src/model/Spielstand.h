@@ -22,6 +22,8 @@ struct Spielstand {
 
     JeRohstoff<Festkomma> Vorrat{};
     JeRohstoff<Festkomma> ProStunde{};
+    /// The same rates, as waits are worked out from them.
+    JeRohstoff<double> ProSekunde{};
     Minenfaktoren Minenfaktor = kVolleFaktoren;
 
     /// Share of the mines' energy need that is met, at most 1. Cold satellites can make it

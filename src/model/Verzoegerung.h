@@ -18,6 +18,13 @@ struct Verzoegerung {
     /// resource; empty without a statement.
     [[nodiscard]] std::string Text() const;
 
+    /// Takes over the figures one by one: right behind a change, a copy of the whole would have to
+    /// wait for it.
+    void Uebernimm(const Verzoegerung& andere) {
+        Grund = andere.Grund;
+        Fehlmenge = andere.Fehlmenge;
+    }
+
     friend bool operator==(const Verzoegerung&, const Verzoegerung&) = default;
 };
 

@@ -50,41 +50,52 @@ Torbefund PruefeTore(const Itemzeile& zeile, const Kosten& preis, const Spielsta
     return sperre == Sperre::Offen ? Torbefund() : Torbefund{sperre, {.Was = Hindernis::Deuterium}};
 }
 
-/// What is short of one resource, and until when.
+/// What is short of a resource, and for how long. Figures side by side, not a `Verzoegerung`: the
+/// machine would wait for the halves of it at each copy.
 struct Mangel {
-    double Fehlmenge = 0;
     Long Sekunden = 0;
+    Verzoegerung::Art Art = Verzoegerung::Art::Keine;
+    double Fehlmenge = 0;
 };
-
-/// The wait for a resource whose stock is short. One that never comes gives a wait so long that the
-/// next re-timing replaces it.
-Mangel MangelAn(double kosten, Festkomma vorrat, Festkomma proStunde) {
-    constexpr Long kOhneEnde = 1'000'000'000;
-    const double fehlt = kosten - vorrat.AlsDouble();
-    if (proStunde <= Festkomma()) {
-        return {fehlt + 1, kOhneEnde};
-    }
-    const double proSekunde = proStunde.AlsDouble() / kSekundenJeStunde;
-    return {fehlt + 1, Saettige<Long>(Rundung::cut(1 + fehlt / proSekunde))};
-}
 
 constexpr JeRohstoff<Verzoegerung::Art> kArten{
     {Verzoegerung::Art::Metall, Verzoegerung::Art::Kristall, Verzoegerung::Art::Deuterium}};
 
+/// The wait for a resource whose stock is short. One that never comes gives a wait so long that the
+/// next re-timing replaces it.
+Long SekundenBis(double fehlt, double proSekunde) {
+    constexpr Long kOhneEnde = 1'000'000'000;
+    if (proSekunde <= 0) {
+        return kOhneEnde;
+    }
+    return Saettige<Long>(Rundung::cut(1 + fehlt / proSekunde));
+}
+
+/// Whether a stock is enough, told by whole numbers. Where they don't tell it surely, false.
+bool IstSicherGenug(Festkomma vorrat, Festkomma abzug) {
+    constexpr Festkomma kGenau = Festkomma::AusGanzzahl(std::int64_t{1} << 38U);
+    return abzug <= vorrat && abzug < kGenau;
+}
+
 /// The longest wait for a resource; on a tie the earlier resource keeps the reason: metal before
 /// crystal before deuterium.
-Long RohstoffWartezeit(const Kosten& preis, const Spielstand& stand, Verzoegerung& grund) {
-    Long laengste = 0;
-    for (const Rohstoff r : kRohstoffe) {
-        if (preis[r] > stand.Vorrat[r].AlsDouble()) {
-            const Mangel mangel = MangelAn(preis[r], stand.Vorrat[r], stand.ProStunde[r]);
-            if (mangel.Sekunden > laengste) {
-                laengste = mangel.Sekunden;
-                grund = {.Grund = kArten[r], .Fehlmenge = mangel.Fehlmenge};
-            }
+Mangel LaengsterMangel(const Itemzeile& zeile, const Kosten& preis, const Spielstand& stand) {
+    const JeRohstoff<Festkomma>& abzug = Abzug(zeile.Item, stand.Stufen[zeile.Item]);
+    Mangel laengster;
+    JedenRohstoff([&](Rohstoff r) __attribute__((always_inline)) {
+        if (IstSicherGenug(stand.Vorrat[r], abzug[r])) {
+            return;
         }
-    }
-    return laengste;
+        const double fehlt = preis[r] - stand.Vorrat[r].AlsDouble();
+        if (fehlt <= 0) {
+            return;
+        }
+        const Long sekunden = SekundenBis(fehlt, stand.ProSekunde[r]);
+        if (sekunden > laengster.Sekunden) {
+            laengster = {.Sekunden = sekunden, .Art = kArten[r], .Fehlmenge = fehlt + 1};
+        }
+    });
+    return laengster;
 }
 
 /// Moves a wait that ends inside a sleep window to that window's end. Each window is asked once,
@@ -107,23 +118,24 @@ Wartezeit WarteAuf(const Itemzeile& zeile, const Spielstand& stand,
     const Long bisFrei = stand.FertigZeit[bedient] - stand.secsgone;
     const Torbefund tor = PruefeTore(zeile, preis, stand);
     if (tor.Wert != Sperre::Offen) {
-        return {std::max(static_cast<Long>(tor.Wert), bisFrei), std::nullopt, tor.Grund};
+        return {.Sekunden = std::max(static_cast<Long>(tor.Wert), bisFrei),
+                .Mangel = {.Grund = Verzoegerung::Art::OhneAngabe},
+                .Grund = tor.Grund};
     }
-    Wartezeit warten{.Sekunden = 0, .Mangel = Verzoegerung(), .Grund = {}};
-    warten.Sekunden = RohstoffWartezeit(preis, stand, *warten.Mangel);
-    if (warten.Sekunden > 0) {
-        warten.Grund.Was = Hindernis::Rohstoff;
+    const Mangel mangel = LaengsterMangel(zeile, preis, stand);
+    const Long wach = std::max(mangel.Sekunden, bisFrei);
+    const Long ausgeschlafen = NachSchlafzeiten(wach, stand.secsgone, bedingungen);
+    Aufenthalt grund;
+    if (ausgeschlafen != wach) {
+        grund.Was = Hindernis::Schlafzeit;
+    } else if (bisFrei > mangel.Sekunden) {
+        grund = {.Was = Hindernis::Schlange, .Queue = bedient};
+    } else if (mangel.Sekunden > 0) {
+        grund.Was = Hindernis::Rohstoff;
     }
-    if (bisFrei > warten.Sekunden) {
-        warten.Sekunden = bisFrei;
-        warten.Grund = {.Was = Hindernis::Schlange, .Queue = bedient};
-    }
-    const Long ausgeschlafen = NachSchlafzeiten(warten.Sekunden, stand.secsgone, bedingungen);
-    if (ausgeschlafen != warten.Sekunden) {
-        warten.Sekunden = std::max(ausgeschlafen, bisFrei);
-        warten.Grund = {.Was = Hindernis::Schlafzeit};
-    }
-    return warten;
+    return {.Sekunden = ausgeschlafen == wach ? wach : std::max(ausgeschlafen, bisFrei),
+            .Mangel = {.Grund = mangel.Art, .Fehlmenge = mangel.Fehlmenge},
+            .Grund = grund};
 }
 
 }  // namespace tarvelin

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 
 #include "model/ItemId.h"
 #include "model/Itemtabelle.h"
@@ -55,8 +54,8 @@ struct Aufenthalt {
 struct Wartezeit {
     /// Or the value of a `Sperre`.
     Long Sekunden = 0;
-    /// What the stocks lack; nothing where a gate is closed, as the stocks aren't asked then.
-    std::optional<Verzoegerung> Mangel;
+    /// What the stocks lack; `OhneAngabe` where a gate is closed, as the stocks aren't asked then.
+    Verzoegerung Mangel;
     Aufenthalt Grund;
 };
 

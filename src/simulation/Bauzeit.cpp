@@ -29,12 +29,13 @@ std::string Bauzeit::Tag() const {
 }
 
 void Bauzeitenschreiber::Start(const Startereignis& ereignis) {
-    m_zeilen.push_back({.Order = ereignis.Order,
-                        .Nummer = ereignis.Nummer,
-                        .Start = m_bedingungen.Uhrzeit(ereignis.Start),
-                        .Finish = m_bedingungen.Uhrzeit(ereignis.Finish),
-                        .Mangel = ereignis.Mangel,
-                        .Grund = ereignis.Grund});
+    Bauzeit& zeile = m_zeilen.emplace_back();
+    zeile.Order = ereignis.Order;
+    zeile.Nummer = ereignis.Nummer;
+    zeile.Start = m_bedingungen.Uhrzeit(ereignis.Start);
+    zeile.Finish = m_bedingungen.Uhrzeit(ereignis.Finish);
+    zeile.Mangel.Uebernimm(ereignis.Mangel);
+    zeile.Grund = ereignis.Grund;
 }
 
 }  // namespace tarvelin

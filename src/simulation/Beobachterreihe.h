@@ -1,47 +1,46 @@
 // Several observers of one run.
 #pragma once
 
-#include <initializer_list>
-#include <vector>
+#include <tuple>
 
 #include "simulation/Laufbeobachter.h"
 
 namespace tarvelin {
 
-/// Tells each event to all of them, one after the other.
+/// Tells each event to all of them, one after the other. Their kinds are known, so that what an
+/// observer doesn't ask for costs nothing.
+template <class... Beobachter>
 class Beobachterreihe final : public Laufbeobachter {
   public:
     /// They must outlive it.
-    Beobachterreihe(std::initializer_list<Laufbeobachter*> alle) : m_alle(alle) {}
+    explicit Beobachterreihe(Beobachter&... alle) : m_alle(alle...) {}
 
     void Start(const Startereignis& ereignis) override {
-        FuerAlle([&](Laufbeobachter& b) { b.Start(ereignis); });
+        FuerAlle([&](auto& b) { b.Start(ereignis); });
     }
     void Finish(const Auftrag& order) override {
-        FuerAlle([&](Laufbeobachter& b) { b.Finish(order); });
+        FuerAlle([&](auto& b) { b.Finish(order); });
     }
     void Schulden(const Spielstand& stand) override {
-        FuerAlle([&](Laufbeobachter& b) { b.Schulden(stand); });
+        FuerAlle([&](auto& b) { b.Schulden(stand); });
     }
     void Unbekannt(Unbekanntes was) override {
-        FuerAlle([&](Laufbeobachter& b) { b.Unbekannt(was); });
+        FuerAlle([&](auto& b) { b.Unbekannt(was); });
     }
     void Piepton() override {
-        FuerAlle([](Laufbeobachter& b) { b.Piepton(); });
+        FuerAlle([](auto& b) { b.Piepton(); });
     }
     void NachSchritt(const Spielstand& stand) override {
-        FuerAlle([&](Laufbeobachter& b) { b.NachSchritt(stand); });
+        FuerAlle([&](auto& b) { b.NachSchritt(stand); });
     }
 
   private:
     template <class Melde>
     void FuerAlle(Melde melde) {
-        for (Laufbeobachter* const beobachter : m_alle) {
-            melde(*beobachter);
-        }
+        std::apply([&](Beobachter&... b) { (melde(b), ...); }, m_alle);
     }
 
-    std::vector<Laufbeobachter*> m_alle;
+    std::tuple<Beobachter&...> m_alle;
 };
 
 }  // namespace tarvelin

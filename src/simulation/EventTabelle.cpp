@@ -1,22 +1,22 @@
 // Rows of the timetable.
 #include "simulation/EventTabelle.h"
 
-#include <utility>
-
 namespace tarvelin {
 
 void EventTabelle::SetFinish(Moment zeit, std::size_t order) {
     std::size_t platz = m_zahl++;
-    m_finishs.at(platz) = {.Zeit = zeit, .Order = static_cast<std::uint16_t>(order)};
     for (; platz > 0 && m_finishs[platz - 1].Zeit <= zeit; --platz) {
-        std::swap(m_finishs[platz], m_finishs[platz - 1]);
+        m_finishs.at(platz) = m_finishs[platz - 1];
     }
+    m_finishs.at(platz) = {.Zeit = zeit, .Order = static_cast<std::uint16_t>(order)};
 }
 
 EventTabelle::Zeile EventTabelle::NimmErste() {
-    const bool start =
-        !NoStartPending() && (m_zahl == 0 || m_start.Zeit < m_finishs[m_zahl - 1].Zeit);
-    return start ? std::exchange(m_start, Zeile()) : m_finishs[--m_zahl];
+    if (m_wartetEiner && (m_zahl == 0 || m_startzeit < m_finishs[m_zahl - 1].Zeit)) {
+        m_wartetEiner = false;
+        return {.Zeit = m_startzeit, .Order = m_wartender, .IstStart = true};
+    }
+    return m_finishs[--m_zahl];
 }
 
 }  // namespace tarvelin

@@ -23,16 +23,22 @@ class EventTabelle {
 
     /// Enters the start row; none waits yet.
     void SetStart(std::size_t order) {
-        m_start = {.Zeit = {}, .Order = static_cast<std::uint16_t>(order), .IstStart = true};
+        m_startzeit = Moment();
+        m_wartender = static_cast<std::uint16_t>(order);
+        m_wartetEiner = true;
     }
-    [[nodiscard]] bool NoStartPending() const { return !m_start.IstStart; }
+    [[nodiscard]] bool NoStartPending() const { return !m_wartetEiner; }
     /// The place of the order that waits.
-    [[nodiscard]] std::size_t Wartender() const { return m_start.Order; }
+    [[nodiscard]] std::size_t Wartender() const { return m_wartender; }
     /// Gives the start row that waits another moment.
-    void SetStartzeit(Moment zeit) { m_start.Zeit = zeit; }
+    void SetStartzeit(Moment zeit) { m_startzeit = zeit; }
 
     /// Enters a finish row.
     void SetFinish(Moment zeit, std::size_t order);
+
+    [[nodiscard]] bool HatFinishVor(Moment zeit) const {
+        return m_zahl > 0 && m_finishs[m_zahl - 1].Zeit < zeit;
+    }
 
     [[nodiscard]] bool IstLeer() const { return NoStartPending() && m_zahl == 0; }
 
@@ -46,7 +52,9 @@ class EventTabelle {
     /// bring one such order.
     static constexpr std::size_t kFinishzeilen = 8;
 
-    Zeile m_start;
+    Moment m_startzeit;
+    std::uint16_t m_wartender = 0;
+    bool m_wartetEiner = false;
     std::size_t m_zahl = 0;
     /// The earliest stands at the end.
     std::array<Zeile, kFinishzeilen> m_finishs{};

@@ -24,7 +24,7 @@ void RunSimulation(std::span<const Auftrag> auftraege, Lauf& lauf, Meldungsausga
     lauf.LV_Bauzeiten.reserve(auftraege.size());
     Bauzeitenschreiber zeilen(lauf.Bedingungen, lauf.LV_Bauzeiten);
     Laufmeldungen worte(meldungen);
-    Beobachterreihe beobachter{&zeilen, &worte};
+    Beobachterreihe beobachter(zeilen, worte);
     Simulation simulation(auftraege, lauf.Bedingungen);
     simulation.Laufe(beobachter);
     lauf.Stand = simulation.Stand();

@@ -56,16 +56,16 @@ void Simulation::ReiheEin() {
 /// nothing.
 void Simulation::TerminiereWartende(Laufbeobachter& beobachter) {
     const Auftrag& order = m_auftraege[m_tabelle.Wartender()];
+    const Moment frei = m_stand.FertigZeit[order.Queue];
     Aufenthalt grund;
     switch (order.Was) {
-        case Auftrag::Art::Item: {
-            const Wartezeit warten = WarteAuf(ZeileVon(order.Item), m_stand, *m_bedingungen);
-            m_bereitAb = m_stand.secsgone + warten.Sekunden;
-            m_stand.Verzoegerungen[order.Item] =
-                warten.Mangel.value_or(m_stand.Verzoegerungen[order.Item]);
-            grund = warten.Grund;
+        case Auftrag::Art::Item:
+            if (KommtErstNachEinemFinish(ZeileVon(order.Item), frei)) {
+                m_tabelle.SetStartzeit(frei);
+                return;
+            }
+            grund = TerminiereItem(ZeileVon(order.Item));
             break;
-        }
         case Auftrag::Art::Produktion:
             m_bereitAb = m_stand.secsgone;
             break;
@@ -73,7 +73,6 @@ void Simulation::TerminiereWartende(Laufbeobachter& beobachter) {
             beobachter.Unbekannt(Unbekanntes::Wartezeit);
             break;
     }
-    const Moment frei = m_stand.FertigZeit[order.Queue];
     if (frei > m_bereitAb) {
         grund = {.Was = Hindernis::Schlange, .Queue = order.Queue};
     }
@@ -82,6 +81,22 @@ void Simulation::TerminiereWartende(Laufbeobachter& beobachter) {
     if (start > m_stand.secsgone) {
         m_aufenthalt = grund;
     }
+}
+
+/// Whether the order's queue is at work beyond the next finish. Then the order is timed again
+/// before it can start, and what it waits for by now is forgotten; but not where a gate could have
+/// shut until then, as nobody asks for the stocks behind a shut one.
+bool Simulation::KommtErstNachEinemFinish(const Itemzeile& zeile, Moment frei) const {
+    return m_tabelle.HatFinishVor(frei) && zeile.Besonders.Deuterium == Deuteriumbedarf::Quelle;
+}
+
+Aufenthalt Simulation::TerminiereItem(const Itemzeile& zeile) {
+    const Wartezeit warten = WarteAuf(zeile, m_stand, *m_bedingungen);
+    m_bereitAb = m_stand.secsgone + warten.Sekunden;
+    if (warten.Mangel.Grund != Verzoegerung::Art::OhneAngabe) {
+        m_stand.Verzoegerungen[zeile.Item].Uebernimm(warten.Mangel);
+    }
+    return warten.Grund;
 }
 
 void Simulation::Starte(std::size_t zeile, Laufbeobachter& beobachter) {
@@ -115,13 +130,15 @@ void Simulation::StarteItem(std::size_t zeile, Laufbeobachter& beobachter) {
     const Moment finish(HalfEvenLong(fertig));
     m_tabelle.SetFinish(finish, zeile);
     m_stand.FertigZeit[order.Queue] = Moment(HalfEvenLong(fertig + 1 + m_bedingungen->KlickPuffer));
-    beobachter.Start({.Zeile = zeile,
-                      .Order = order,
-                      .Nummer = Saettige<Byte>(stufe + 1),
-                      .Start = m_stand.secsgone,
-                      .Finish = finish,
-                      .Mangel = m_stand.Verzoegerungen[order.Item],
-                      .Grund = m_aufenthalt});
+    Startereignis ereignis{.Zeile = zeile,
+                           .Order = order,
+                           .Nummer = Saettige<Byte>(stufe + 1),
+                           .Start = m_stand.secsgone,
+                           .Finish = finish,
+                           .Mangel = {},
+                           .Grund = m_aufenthalt};
+    ereignis.Mangel.Uebernimm(m_stand.Verzoegerungen[order.Item]);
+    beobachter.Start(ereignis);
 }
 
 /// It occupies no queue: the next order of the building queue need not wait for it.

@@ -45,6 +45,8 @@ class Simulation {
   private:
     void ReiheEin();
     void TerminiereWartende(Laufbeobachter& beobachter);
+    [[nodiscard]] bool KommtErstNachEinemFinish(const Itemzeile& zeile, Moment frei) const;
+    Aufenthalt TerminiereItem(const Itemzeile& zeile);
     void Starte(std::size_t zeile, Laufbeobachter& beobachter);
     void StarteItem(std::size_t zeile, Laufbeobachter& beobachter);
     void StarteProduktion(std::size_t zeile, Laufbeobachter& beobachter);
