@@ -3,6 +3,7 @@
 # package. With an argument it does something else instead:
 #   --tools     clang-tidy, cppcheck and a build by clang++, none of which may say a word
 #   --coverage  tells which lines below the window the tests run
+#   --lang      lets a monkey play the real program on a virtual screen: SEED and ACTIONS, 1 and 400
 #   --windows   builds core and console program for Windows and runs their tests there
 set -euo pipefail
 ordner=$(cd "$(dirname "$0")" && pwd)
@@ -47,6 +48,12 @@ miss_abdeckung() {
         --exclude-directories '.*/CMakeFiles/[0-9]+[.].*' build/coverage
 }
 
+spiele_lang() {
+    stelle_bereit "${BAU_PAKETE[@]}" "${TEST_PAKETE[@]}"
+    baue "$ordner" asan
+    tests/e2e/bildschirm.sh tests/e2e/affe_test.py build/asan/bin "${1:-1}" "${2:-400}"
+}
+
 teste_fuer_windows() {
     stelle_bereit "${BAU_PAKETE[@]}" "${WINDOWS_PAKETE[@]}"
     baue "$ordner" mingw
@@ -57,9 +64,10 @@ case "${1:-}" in
     "") teste ;;
     --tools) pruefe_mit_werkzeugen ;;
     --coverage) miss_abdeckung ;;
+    --lang) spiele_lang "${@:2}" ;;
     --windows) teste_fuer_windows ;;
     *)
-        echo "test.sh: $1 is none of --tools, --coverage, --windows" >&2
+        echo "test.sh: $1 is none of --tools, --coverage, --lang, --windows" >&2
         exit 2
         ;;
 esac

@@ -75,7 +75,9 @@ TEST_P(Ausfall, KonfigurationHatAlleOderKeinenNeuenWert) {
         neu.Schreibe(key.Section, key.Key, wert);
     }
     Probiere(
-        [&](const Dateisystem& system) { Konfiguration(m_ordner / "", system).Schreibe(werte); },
+        [&](const Dateisystem& system) {
+            static_cast<void>(Konfiguration(m_ordner / "", system).Schreibe(werte));
+        },
         [&] {
             const std::string config = LiesDatei(m_ordner / "config.cfg");
             EXPECT_TRUE(config == kAlt || config == neu.Bytes()) << config;

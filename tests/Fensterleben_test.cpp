@@ -4,9 +4,7 @@
 #include <QComboBox>
 #include <QRadioButton>
 #include <csignal>
-#include <limits>
 
-#include "Ausfall.h"
 #include "Fensterhilfen.h"
 #include "ui/bauteile/Bildknopf.h"
 #include "ui/dienste/Endesignale.h"
@@ -36,18 +34,6 @@ class NeuerStart {
   private:
     frmMain m_fenster;
 };
-
-TEST_F(Fensterleben, ErsterStartOhneStarterplan) {
-    EXPECT_EQ(LiesDatei(m_ordner / "config.cfg"), "[Settings]\r\nFirststart=0\r\n");
-    EXPECT_TRUE(m_boxen.Texte.empty());
-    Lade("GM GM");
-    m_fenster.close();
-    EXPECT_NE(LiesDatei(m_ordner / "config.cfg").find("[Bauliste]\r\nItemCount=2\r\n"),
-              std::string::npos);
-    NeuerStart start(m_umgebung);
-    EXPECT_EQ(m_boxen.Koepfe,
-              std::vector(2, std::pair(std::string("Wiederherstellen..."), Meldungssymbol::Frage)));
-}
 
 TEST_F(Fensterleben, WiederherstellungNachJederAntwort) {
     Lade("GM GM");
@@ -199,47 +185,6 @@ TEST_F(Fensterleben, HinweisZumStartKommtVorAllemAnderen) {
     const NeuerStart start(m_umgebung);
     EXPECT_EQ(m_boxen.Texte.size(), 3U);
     EXPECT_EQ(m_boxen.Texte.front(), "Hinweis");
-}
-
-TEST_F(Fensterleben, EinAusfallBeimBeendenLaesstJedeDateiAltOderNeu) {
-    m_fenster.close();
-    const auto autosave = m_ordner / "saves" / "autosave.tvf";
-    const auto config = m_ordner / "config.cfg";
-    const std::string alterPlan = LiesDatei(autosave);
-    const std::string alteConfig = "; von Hand\r\n[Settings]\r\nFirststart=0\r\n";
-    // Closes a window with one row whose n-th call of the platform fails.
-    const auto beende = [&](int n, Ausfallart art) {
-        SchreibeDatei(autosave, alterPlan);
-        SchreibeDatei(config, alteConfig);
-        Stoersystem system(std::numeric_limits<int>::max(), art);
-        Umgebung umgebung{.Boxen = m_boxen,
-                          .Netz = m_netz,
-                          .Ton = m_ton,
-                          .Jetzt = m_umgebung.Jetzt,
-                          .OeffneSeite = m_umgebung.OeffneSeite,
-                          .Programmordner = m_umgebung.Programmordner,
-                          .Dateien = system};
-        NeuerStart start(umgebung);
-        emit start->findChild<Baulistenansicht*>()->DragDrop(QStringLiteral("ImgMetMine"));
-        SchreibeDatei(config, alteConfig);
-        system.Beginne(n);
-        start->close();
-        return system.HatGestoert();
-    };
-    ASSERT_FALSE(beende(std::numeric_limits<int>::max(), Ausfallart::Einmal));
-    const std::string neuerPlan = LiesDatei(autosave);
-    const std::string neueConfig = LiesDatei(config);
-    ASSERT_NE(neuerPlan, alterPlan);
-    for (const auto& [art, schritt] :
-         {std::pair(Ausfallart::Einmal, 3), std::pair(Ausfallart::AllesFuerImmer, 7)}) {
-        for (int n = 1; beende(n, art); n += schritt) {
-            SCOPED_TRACE("call " + std::to_string(n));
-            const std::string plan = LiesDatei(autosave);
-            EXPECT_TRUE(plan == alterPlan || plan == neuerPlan) << plan;
-            const std::string jetzt = LiesDatei(config);
-            EXPECT_TRUE(jetzt == alteConfig || jetzt == neueConfig) << jetzt;
-        }
-    }
 }
 
 TEST_F(Fensterleben, LadenUndSpeichernUeberDenDialog) {
@@ -660,17 +605,6 @@ TEST_F(Fensterleben, InfofensterSindEinmaligUndFuehrenAufDieSeiten) {
     // They stand beside the main window, and outlive its closing.
     m_fenster.close();
     EXPECT_TRUE(spenden.isVisible());
-}
-
-TEST_F(Fensterleben, EndeSchreibtAuchWoNichtsZuSchreibenIst) {
-    // A folder in the place of each file: nothing can be written, and nothing crashes.
-    fs::remove(m_ordner / "config.cfg");
-    fs::create_directories(m_ordner / "config.cfg");
-    fs::create_directories(m_ordner / "saves" / "autosave.tvf" / "x");
-    m_fenster.close();
-    NeuerStart start(m_umgebung);
-    EXPECT_TRUE(m_boxen.Texte.empty());
-    EXPECT_EQ(start.Zeilen(), 0U);
 }
 
 }  // namespace

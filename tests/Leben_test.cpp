@@ -30,7 +30,7 @@ TEST(Konfiguration, WiederherstellungNachDenFrueherenAntworten) {
             for (const auto& [key, wert] : {std::pair(Konfiguration::kRecover, recover),
                                             std::pair(Konfiguration::kAlwaysDoSo, immer.at(i))}) {
                 if (wert != nullptr) {
-                    konfiguration.Schreibe({{key, wert}});
+                    ASSERT_TRUE(konfiguration.Schreibe({{key, wert}}));
                 }
             }
             EXPECT_EQ(EntscheideWiederherstellung(konfiguration), erwartet.at(i))
@@ -61,8 +61,8 @@ TEST(Konfiguration, UnbrauchbareWerteZaehlenAlsStandard) {
     for (const auto& [text, modus] :
          {std::pair("2", 2), std::pair("0", 0), std::pair("255", 255), std::pair("256", 1),
           std::pair("-1", 1), std::pair("", 1), std::pair("zwei", 1), std::pair("2,5", 1)}) {
-        konfiguration.Schreibe(
-            {{Konfiguration::kMode, text}, {Konfiguration::kBaulistenwecker, text}});
+        ASSERT_TRUE(konfiguration.Schreibe(
+            {{Konfiguration::kMode, text}, {Konfiguration::kBaulistenwecker, text}}));
         EXPECT_EQ(konfiguration.Skinmodus(), modus) << text;
         EXPECT_FALSE(konfiguration.IstAn(Konfiguration::kBaulistenwecker)) << text;
     }
@@ -85,7 +85,7 @@ TEST(Konfiguration, KlangVomProgrammordnerOderGanzerPfad) {
           Fall{"..\\gong.wav", "../gong.wav", "../gong.wav"},
           Fall{"/töne/a\\b.wav", "", "töne/a/b.wav"}, Fall{"C:\\töne\\x.wav", "C:/töne/x.wav", ""},
           Fall{"C:x.wav", "C:x.wav", "x.wav"}, Fall{"\\\\rechner\\x.wav", "rechner/x.wav", ""}}) {
-        konfiguration.Schreibe({{Konfiguration::kAlertsound, wert}});
+        ASSERT_TRUE(konfiguration.Schreibe({{Konfiguration::kAlertsound, wert}}));
         const std::string_view ziel = kWindows ? windows : posix;
         const auto alsPfad = [](std::string_view text) {
             return std::filesystem::path(std::u8string(text.begin(), text.end()));
@@ -99,15 +99,16 @@ TEST(Konfiguration, KlangVomProgrammordnerOderGanzerPfad) {
 TEST(Konfiguration, SchreibtNebenFremdeZeilenUndVerliertSichOhneOrdner) {
     const Ordner ordner;
     SchreibeDatei(ordner / "config.cfg", "; von Hand\r\n[Settings]\r\nEigenes=1\r\n");
-    Konfiguration(ordner / "").Schreibe({{Konfiguration::kFirststart, "0"}});
+    ASSERT_TRUE(Konfiguration(ordner / "").Schreibe({{Konfiguration::kFirststart, "0"}}));
     EXPECT_EQ(LiesDatei(ordner / "config.cfg"),
               "; von Hand\r\n[Settings]\r\nEigenes=1\r\nFirststart=0\r\n");
     // A folder can have such a name.
-    Konfiguration(ordner / "").Schreibe({{Konfiguration::kPath, "a\n[Settings]\nFirststart=1"}});
+    ASSERT_TRUE(Konfiguration(ordner / "")
+                    .Schreibe({{Konfiguration::kPath, "a\n[Settings]\nFirststart=1"}}));
     EXPECT_EQ(Konfiguration(ordner / "").Lies(Konfiguration::kPath), "a");
     EXPECT_EQ(Konfiguration(ordner / "").Lies(Konfiguration::kFirststart), "0");
     const Konfiguration ohne(ordner / "fehlt");
-    ohne.Schreibe({{Konfiguration::kFirststart, "0"}});
+    EXPECT_FALSE(ohne.Schreibe({{Konfiguration::kFirststart, "0"}}));
     EXPECT_EQ(ohne.Lies(Konfiguration::kFirststart), "1");
 }
 

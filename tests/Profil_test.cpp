@@ -157,18 +157,5 @@ TEST(Profil, WeistZuGrossesUndFremdesAb) {
     EXPECT_FALSE(Profil::LadeOderLeer(ordner / "gross"));
 }
 
-TEST(Profil, ErtraegtUnmengenVonAbschnitten) {
-    std::string bytes;
-    for (int i = 0; i < 200'000; ++i) {
-        bytes += "[\n[" + std::to_string(i) + "\n=\n";
-    }
-    Profil profil(bytes + "[A]\nK=v\n[A]\nK=w\n");
-    for (int i = 0; i < 20'000; ++i) {
-        ASSERT_EQ(profil.Lies("A", "K", ""), "v");
-    }
-    profil.Schreibe("A", "L", "1");
-    EXPECT_EQ(profil.Bytes(), bytes + "[A]\nK=v\nL=1\r\n[A]\nK=w\n");
-}
-
 }  // namespace
 }  // namespace tarvelin

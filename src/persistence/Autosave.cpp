@@ -29,7 +29,7 @@ void Autosave::GiltAlsGeschrieben(const Plan& plan) {
 
 void Autosave::SchreibeGeaenderten(const Plan& plan) {
     if (m_letzter != AlsBytes(plan)) {
-        Schreibe(plan);
+        static_cast<void>(Schreibe(plan));
     }
 }
 
@@ -38,7 +38,7 @@ bool Autosave::Schreibe(const Plan& plan) {
 }
 
 void Autosave::SchreibeZuletzt(const Plan& plan) {
-    Schreibe(plan, true);
+    static_cast<void>(Schreibe(plan, true));
 }
 
 bool Autosave::Schreibe(const Plan& plan, bool auchOhneVorige) {

@@ -28,14 +28,14 @@ class Autosave {
     void SchreibeGeaenderten(const Plan& plan);
 
     /// Writes the plan. False if it can't be written; the file is then as it was.
-    bool Schreibe(const Plan& plan);
+    [[nodiscard]] bool Schreibe(const Plan& plan);
 
     /// As `Schreibe`, at the last chance: even if the former plan can't be kept.
     void SchreibeZuletzt(const Plan& plan);
 
   private:
-    bool BewahreVorige(const Profil& vorige);
-    bool Schreibe(const Plan& plan, bool auchOhneVorige);
+    [[nodiscard]] bool BewahreVorige(const Profil& vorige);
+    [[nodiscard]] bool Schreibe(const Plan& plan, bool auchOhneVorige);
 
     std::filesystem::path m_datei;
     /// The second takes the place of a first that can't be written.

@@ -30,7 +30,7 @@ void RaeumeVerwaistesAus(const std::filesystem::path& ordner, const Dateisystem&
     for (const auto& eintrag : system.Eintraege(ordner)) {
         const auto name = eintrag.filename().u8string();
         if (IstVerwaist(std::string(name.begin(), name.end()), system)) {
-            system.Loesche(eintrag);
+            static_cast<void>(system.Loesche(eintrag));
         }
     }
 }
@@ -49,7 +49,7 @@ class Nachbardatei {
     ~Nachbardatei() {
         Schliesse();
         if (m_liegtDa) {
-            m_system.Loesche(m_pfad);
+            static_cast<void>(m_system.Loesche(m_pfad));
         }
     }
 

@@ -48,14 +48,14 @@ class Dateisystem {
     /// Returns when the bytes lie on the disk.
     [[nodiscard]] virtual bool BringAufPlatte(int nummer) const = 0;
     /// The number is free afterwards in any case.
-    virtual bool Schliesse(int nummer) const = 0;
+    [[nodiscard]] virtual bool Schliesse(int nummer) const = 0;
 
     /// In one step; a file with the new name gives way.
     [[nodiscard]] virtual bool BenenneUm(const std::filesystem::path& von,
                                          const std::filesystem::path& nach) const = 0;
     /// Brings the names in a folder to the disk, where the platform knows such a thing.
-    virtual bool BringOrdnerAufPlatte(const std::filesystem::path& ordner) const = 0;
-    virtual bool Loesche(const std::filesystem::path& datei) const = 0;
+    [[nodiscard]] virtual bool BringOrdnerAufPlatte(const std::filesystem::path& ordner) const = 0;
+    [[nodiscard]] virtual bool Loesche(const std::filesystem::path& datei) const = 0;
 
     /// The number of this process.
     [[nodiscard]] virtual std::int64_t Prozess() const = 0;

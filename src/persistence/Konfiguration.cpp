@@ -56,15 +56,15 @@ std::filesystem::path Konfiguration::Alertsound() const {
                                          : VomOrdner(m_programmordner, datei);
 }
 
-void Konfiguration::Schreibe(const Werte& werte) const {
+bool Konfiguration::Schreibe(const Werte& werte) const {
     auto profil = Profil::LadeOderLeer(m_datei, m_system);
     if (!profil) {
-        return;
+        return false;
     }
     for (const auto& [key, wert] : werte) {
         profil->Schreibe(key.Section, key.Key, wert);
     }
-    ErsetzeDatei(m_datei, profil->Bytes(), m_system);
+    return ErsetzeDatei(m_datei, profil->Bytes(), m_system);
 }
 
 Wiederherstellung EntscheideWiederherstellung(const Konfiguration& konfiguration) {

@@ -51,8 +51,8 @@ class Konfiguration {
     /// absolute one of the platform is meant from the program's folder.
     [[nodiscard]] std::filesystem::path Alertsound() const;
 
-    /// Writes keys, all of them in one step. A write that fails is lost without a word.
-    void Schreibe(const Werte& werte) const;
+    /// Writes keys, all of them in one step. False, with nothing changed, if that fails.
+    [[nodiscard]] bool Schreibe(const Werte& werte) const;
 
   private:
     std::filesystem::path m_programmordner;

@@ -55,8 +55,8 @@ void frmMain::BringePlan() {
     const bool behalten = !geladen || wieder || m_autosave.Schreibe(m_plan);
     m_autosave.GiltAlsGeschrieben(m_plan);
     if (ersterStart && behalten) {
-        m_umgebung.Dateien.Loesche(starterplan);
-        m_konfiguration.Schreibe({{Konfiguration::kFirststart, "0"}});
+        static_cast<void>(m_umgebung.Dateien.Loesche(starterplan));
+        static_cast<void>(m_konfiguration.Schreibe({{Konfiguration::kFirststart, "0"}}));
     }
 }
 
@@ -100,12 +100,12 @@ bool frmMain::StelleWiederHer(const std::optional<Profil>& letzter) {
         return false;
     }
     if (immer) {
-        m_konfiguration.Schreibe({{Konfiguration::kAlwaysDoSo, "1"}});
+        static_cast<void>(m_konfiguration.Schreibe({{Konfiguration::kAlwaysDoSo, "1"}}));
     }
     if (ja) {
         LadeLetzten(letzter);
     }
-    m_konfiguration.Schreibe({{Konfiguration::kRecover, ja ? "1" : "0"}});
+    static_cast<void>(m_konfiguration.Schreibe({{Konfiguration::kRecover, ja ? "1" : "0"}}));
     return ja;
 }
 
@@ -157,7 +157,7 @@ void frmMain::Behalte(Abschnitt stand) {
         werte.emplace_back(Konfiguration::kItemCount,
                            std::to_string(m_plan.Liste.Auftraege().Zahl()));
     }
-    m_konfiguration.Schreibe(werte);
+    static_cast<void>(m_konfiguration.Schreibe(werte));
     if (mitPlan) {
         m_autosave.SchreibeZuletzt(m_plan);
     }
