@@ -17,8 +17,9 @@ const std::map<std::string, std::set<std::string>> kRaeume{
     {"model", {"util"}},
     {"plan", {"util", "model"}},
     {"simulation", {"util", "model", "plan"}},
+    {"search", {"util", "model", "plan", "simulation"}},
     {"persistence", {"util", "model", "plan", "simulation"}},
-    {"console", {"util", "model", "plan", "simulation", "persistence"}},
+    {"console", {"util", "model", "plan", "simulation", "search", "persistence"}},
     {"ui/bauteile", {"model", "plan"}},
     {"ui/dienste", {"util", "persistence", "ui/bauteile"}},
     {"ui/fenster",
@@ -26,7 +27,7 @@ const std::map<std::string, std::set<std::string>> kRaeume{
     {"ui", {"persistence", "ui/bauteile", "ui/dienste", "ui/fenster"}},
 };
 /// What stands on C++ and the platform alone.
-const std::set<std::string> kKern{"util", "model", "plan", "simulation", "persistence"};
+const std::set<std::string> kKern{"util", "model", "plan", "simulation", "search", "persistence"};
 
 std::vector<std::filesystem::path> Quellen() {
     std::vector<std::filesystem::path> quellen;

@@ -1,6 +1,8 @@
 // tarvelin-cli: runs plan files and prints their timetables.
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <atomic>
+#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <iostream>
@@ -17,6 +19,7 @@
 #endif
 
 #include "console/Ausgabe.h"
+#include "console/Suchbefehl.h"
 
 namespace {
 
@@ -28,7 +31,18 @@ struct Aufruf {
     bool Json = false;
     bool Csv = false;
     std::vector<std::string> Dateien;
+    tarvelin::Suchbefehl Suche;
 };
+
+/// Set by Ctrl+C during a search. A handler reaches nothing else.
+std::atomic<bool> g_halt{false};
+static_assert(std::atomic<bool>::is_always_lock_free);
+
+int Suche(tarvelin::Suchbefehl befehl, bool json) {
+    befehl.Json = json;
+    std::signal(SIGINT, [](int) { g_halt = true; });
+    return tarvelin::FuehreSucheAus(befehl, g_halt);
+}
 
 /// What is wrong with a call, in one line.
 std::string Fehlertext(const CLI::ParseError& fehler) {
@@ -37,6 +51,9 @@ std::string Fehlertext(const CLI::ParseError& fehler) {
     }
     if (dynamic_cast<const CLI::ExcludesError*>(&fehler) != nullptr) {
         return "--json und --csv schließen einander aus";
+    }
+    if (dynamic_cast<const CLI::RequiresError*>(&fehler) != nullptr) {
+        return "diese Option gilt nur mit --suche";
     }
     if (dynamic_cast<const CLI::ExtrasError*>(&fehler) != nullptr) {
         // The library names the arguments behind a colon.
@@ -99,6 +116,40 @@ std::vector<std::string> FuerBibliothek(std::vector<std::string> argumente) {
     return argumente;
 }
 
+/// `--suche` and what goes with it.
+CLI::Option* FuegeSucheHinzu(CLI::App& app, tarvelin::Suchbefehl& befehl) {
+    constexpr unsigned kHoechstThreads = 256;
+    const std::string gruppe = "Suche";
+    auto* const suche = app.add_option("--suche", befehl.Plandatei,
+                                       "Sucht eine schnellere Reihenfolge für einen Plan");
+    suche->group(gruppe);
+    const std::vector<CLI::Option*> optionen{
+        app.add_option(
+            "--ziel", befehl.Ziel,
+            "Statt der Reihenfolge: was am Ende stehen muss, \"GW2 FV2 WKT1\" oder plan"),
+        app.add_option("--nach", befehl.Nach, "Schreibt den gefundenen Plan in diese Datei"),
+        app.add_option("--versuche", befehl.Versuche, "Wie viele Listen probiert werden")
+            ->check(CLI::Range(std::uint64_t{1}, std::uint64_t{1} << 50U)),
+        app.add_option("--threads", befehl.Threads, "Auf wie vielen Kernen")
+            ->check(CLI::Range(1U, kHoechstThreads)),
+        app.add_option("--saat", befehl.Saat, "Beginn der Zufallszahlen, sonst 1")
+            ->check(CLI::Range(std::uint64_t{0}, std::uint64_t{1} << 40U)),
+        app.add_option("--fest", befehl.Fest, "Zeilen, die bleiben, wo sie sind: 3,7-9"),
+        app.add_flag("--frei", befehl.Frei, "Auch Produktionszeilen wandern")
+            ->disable_flag_override(),
+        app.add_option("--ab", befehl.Ab,
+                       "Was vor diesem Zeitpunkt begonnen hat, bleibt: \"TT.MM.JJJJ hh:mm:ss\""),
+        app.add_option("--sitzungen", befehl.Sitzungen,
+                       "Weniger Sitzungen, auch wenn es so viele Prozent länger dauert, sonst 0,5")
+            ->expected(0, 1)
+            ->default_str("0.5")
+            ->check(CLI::Range(0.0, 100.0))};
+    for (CLI::Option* const option : optionen) {
+        option->needs(suche)->group(gruppe);
+    }
+    return suche;
+}
+
 int Rufe(const std::vector<std::string>& argumente) {
     CLI::App app("Spielt Baupläne durch und gibt aus, wann welcher Auftrag gegeben werden kann.",
                  "tarvelin-cli");
@@ -115,7 +166,9 @@ int Rufe(const std::vector<std::string>& argumente) {
     auto* const csv =
         app.add_flag("--csv", aufruf.Csv, "Die Bauzeiten für eine Tabellenkalkulation");
     csv->disable_flag_override()->excludes(json)->group(gruppe);
-    app.add_option("PLAN", aufruf.Dateien, "Plandateien (.tvf)")->required();
+    auto* const dateien = app.add_option("PLAN", aufruf.Dateien, "Plandateien (.tvf)");
+    auto* const suche = FuegeSucheHinzu(app, aufruf.Suche);
+    suche->excludes(csv);
     try {
         app.parse(FuerBibliothek(argumente));
     } catch (const CLI::Success& hilfe) {
@@ -124,12 +177,21 @@ int Rufe(const std::vector<std::string>& argumente) {
         std::cerr << "tarvelin-cli: " << Fehlertext(fehler) << " (siehe --hilfe)\n";
         return kFalscherAufruf;
     }
-    const bool alleGut = FuehreAus(aufruf);
+    const bool sucht = suche->count() > 0;
+    if (sucht == (dateien->count() > 0)) {
+        std::cerr << "tarvelin-cli: "
+                  << (sucht ? "--suche nimmt genau eine Plandatei" : "es fehlt eine Plandatei")
+                  << " (siehe --hilfe)\n";
+        return kFalscherAufruf;
+    }
+    const int code = sucht               ? Suche(aufruf.Suche, aufruf.Json)
+                     : FuehreAus(aufruf) ? kGut
+                                         : kPlanGescheitert;
     if (!std::cout.flush()) {
         std::cerr << "tarvelin-cli: die Ausgabe konnte nicht geschrieben werden\n";
         return kPlanGescheitert;
     }
-    return alleGut ? kGut : kPlanGescheitert;
+    return code;
 }
 
 int Starte(const std::vector<std::string>& argumente) {

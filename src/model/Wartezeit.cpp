@@ -135,7 +135,8 @@ Wartezeit WarteAuf(const Itemzeile& zeile, const Spielstand& stand,
     }
     return {.Sekunden = ausgeschlafen == wach ? wach : std::max(ausgeschlafen, bisFrei),
             .Mangel = {.Grund = mangel.Art, .Fehlmenge = mangel.Fehlmenge},
-            .Grund = grund};
+            .Grund = grund,
+            .Wach = wach};
 }
 
 }  // namespace tarvelin

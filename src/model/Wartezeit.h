@@ -57,6 +57,10 @@ struct Wartezeit {
     /// What the stocks lack; `OhneAngabe` where a gate is closed, as the stocks aren't asked then.
     Verzoegerung Mangel;
     Aufenthalt Grund;
+    /// The seconds without any sleep window.
+    Long Wach = 0;
+
+    [[nodiscard]] bool TorZu() const { return Mangel.Grund == Verzoegerung::Art::OhneAngabe; }
 };
 
 /// Seconds until the next step of an item can start: the gates, then the wait for resources, then

@@ -107,7 +107,7 @@ bool ErsetzeDatei(const std::filesystem::path& datei, std::string_view bytes,
         return false;
     }
     // The rename itself reaches the disk with its folder.
-    system.BringOrdnerAufPlatte(ordner);
+    static_cast<void>(system.BringOrdnerAufPlatte(ordner));
     return true;
 }
 

@@ -42,7 +42,7 @@ std::optional<std::string> LiesDatei(const std::filesystem::path& datei, std::si
         gelesen = system.Lies(nummer, block);
         bytes.append(block.data(), static_cast<std::size_t>(gelesen < 0 ? 0 : gelesen));
     }
-    system.Schliesse(nummer);
+    static_cast<void>(system.Schliesse(nummer));
     return gelesen == 0 ? std::optional(std::move(bytes)) : std::nullopt;
 }
 

@@ -22,6 +22,8 @@ class Auftragsliste {
 
     /// Orders of an item: the level, or the number, that its last one reaches.
     [[nodiscard]] Byte ListStufe(ItemId item) const { return m_listStufe[item]; }
+    /// The same of all items.
+    [[nodiscard]] const JeItem<Byte>& ListStufen() const { return m_listStufe; }
     /// The factors that hold at the end of the list.
     [[nodiscard]] const Minenfaktoren& ListFaktor() const { return m_listFaktor; }
 

@@ -84,8 +84,24 @@ constexpr std::string_view kKuppelVorhanden =
 
 }  // namespace
 
-std::optional<std::string_view> Absage(ItemId item, const Auftragsliste& liste) {
+const Stufenbedarfe& Listenbedarf(ItemId item) {
+    return kRegeln[item].Braucht;
+}
+
+bool IstErlaubt(ItemId item, const JeItem<Byte>& listStufen) {
     // Exactly one: a loaded list with two domes opens the third.
+    if (item == ItemId::klSchK && listStufen[item] == 1) {
+        return false;
+    }
+    return std::ranges::all_of(kRegeln[item].Braucht, [&](const Stufenbedarf& bedarf) {
+        return listStufen[bedarf.Item] >= bedarf.Stufe;
+    });
+}
+
+std::optional<std::string_view> Absage(ItemId item, const Auftragsliste& liste) {
+    if (IstErlaubt(item, liste.ListStufen())) {
+        return std::nullopt;
+    }
     if (item == ItemId::klSchK && liste.ListStufe(item) == 1) {
         return kKuppelVorhanden;
     }
@@ -93,9 +109,6 @@ std::optional<std::string_view> Absage(ItemId item, const Auftragsliste& liste) 
     const auto fehlt = [&](const Stufenbedarf& bedarf) {
         return liste.ListStufe(bedarf.Item) < bedarf.Stufe;
     };
-    if (std::ranges::none_of(regel.Braucht, fehlt)) {
-        return std::nullopt;
-    }
     const bool erster = fehlt(regel.Braucht[0]);
     if (regel.ErsterFehlt.empty() || (erster && fehlt(regel.Braucht[1]))) {
         return regel.Fehlt;

@@ -5,9 +5,16 @@
 #include <string_view>
 
 #include "model/ItemId.h"
+#include "model/Itemtabelle.h"
 #include "plan/Auftragsliste.h"
 
 namespace tarvelin {
+
+/// The rows that an item asks for above it.
+[[nodiscard]] const Stufenbedarfe& Listenbedarf(ItemId item);
+
+/// Whether an item can be added to a list with these counters.
+[[nodiscard]] bool IstErlaubt(ItemId item, const JeItem<Byte>& listStufen);
 
 /// Why an item can't be added to the list as it stands: the refusal, or nothing if it can. The
 /// rules count rows of the list and nothing else. `GM`, `GK`, `GD` and `GS` have none.

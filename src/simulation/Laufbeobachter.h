@@ -25,6 +25,11 @@ struct Startereignis {
     Verzoegerung Mangel;
     /// What held it back last; `Keines` if it waited for nothing but the row before it.
     Aufenthalt Grund;
+    /// It starts on the value of a closed gate, as nothing was left that could open it.
+    bool TorZu = false;
+    /// When it could have started without the sleep windows; the last moment there is if none held it
+    /// back.
+    Moment Wach{};
 
     friend bool operator==(const Startereignis&, const Startereignis&) = default;
 };

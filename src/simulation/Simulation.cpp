@@ -2,12 +2,19 @@
 #include "simulation/Simulation.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "model/Itemtabelle.h"
 #include "model/Kosten.h"
 #include "model/Planet.h"
 
 namespace tarvelin {
+
+namespace {
+
+constexpr Moment kNie(std::numeric_limits<Long>::max());
+
+}  // namespace
 
 Simulation::Simulation(std::span<const Auftrag> auftraege, const Startbedingungen& bedingungen)
     : m_auftraege(auftraege), m_bedingungen(&bedingungen), m_stand(Anfang(bedingungen)) {}
@@ -49,6 +56,8 @@ void Simulation::ReiheEin() {
     if (m_tabelle.NoStartPending() && m_naechste < m_auftraege.size()) {
         m_tabelle.SetStart(m_naechste++);
         m_aufenthalt = {};
+        m_torZu = false;
+        m_wach = kNie;
     }
 }
 
@@ -93,7 +102,11 @@ bool Simulation::KommtErstNachEinemFinish(const Itemzeile& zeile, Moment frei) c
 Aufenthalt Simulation::TerminiereItem(const Itemzeile& zeile) {
     const Wartezeit warten = WarteAuf(zeile, m_stand, *m_bedingungen);
     m_bereitAb = m_stand.secsgone + warten.Sekunden;
-    if (warten.Mangel.Grund != Verzoegerung::Art::OhneAngabe) {
+    m_torZu = warten.TorZu();
+    if (warten.Grund.Was == Hindernis::Schlafzeit) {
+        m_wach = std::min(m_wach, m_stand.secsgone + warten.Wach);
+    }
+    if (!m_torZu) {
         m_stand.Verzoegerungen[zeile.Item].Uebernimm(warten.Mangel);
     }
     return warten.Grund;
@@ -136,7 +149,9 @@ void Simulation::StarteItem(std::size_t zeile, Laufbeobachter& beobachter) {
                            .Start = m_stand.secsgone,
                            .Finish = finish,
                            .Mangel = {},
-                           .Grund = m_aufenthalt};
+                           .Grund = m_aufenthalt,
+                           .TorZu = m_torZu,
+                           .Wach = m_wach};
     ereignis.Mangel.Uebernimm(m_stand.Verzoegerungen[order.Item]);
     beobachter.Start(ereignis);
 }

@@ -63,6 +63,10 @@ class Simulation {
     Moment m_bereitAb;
     /// What the waiting order last waited for.
     Aufenthalt m_aufenthalt;
+    /// Whether a gate was shut when it was last timed.
+    bool m_torZu = false;
+    /// The earliest moment from which on only a sleep window held it back.
+    Moment m_wach;
 };
 
 }  // namespace tarvelin
