@@ -50,7 +50,9 @@ std::string Fehlertext(const CLI::ParseError& fehler) {
         return "es fehlt eine Plandatei";
     }
     if (dynamic_cast<const CLI::ExcludesError*>(&fehler) != nullptr) {
-        return "--json und --csv schließen einander aus";
+        const bool bisSuche = std::string(fehler.what()).find("--suche") != std::string::npos;
+        return bisSuche ? "--suche und --csv schließen einander aus"
+                        : "--json und --csv schließen einander aus";
     }
     if (dynamic_cast<const CLI::RequiresError*>(&fehler) != nullptr) {
         return "diese Option gilt nur mit --suche";

@@ -14,6 +14,6 @@ namespace tarvelin {
 /// is missing, a folder stands in the file's place, file or folder can't be written. What a process
 /// that was killed meanwhile left beside the file goes with the next one that is written there.
 [[nodiscard]] bool ErsetzeDatei(const std::filesystem::path& datei, std::string_view bytes,
-                  const Dateisystem& system = Platte());
+                                const Dateisystem& system = Platte());
 
 }  // namespace tarvelin

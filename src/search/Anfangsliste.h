@@ -1,6 +1,7 @@
 // A list to begin with where the plan gives none.
 #pragma once
 
+#include <atomic>
 #include <optional>
 #include <vector>
 
@@ -8,8 +9,11 @@
 
 namespace tarvelin {
 
-/// A list of exactly the task's orders by the rules that ends, each time the order that lets it end
-/// soonest. Head and pinned rows stay where they are. Nothing if it gets stuck.
-[[nodiscard]] std::optional<std::vector<Auftrag>> GierigeListe(const Suchaufgabe& aufgabe);
+/// A list of exactly the task's orders by the rules that ends: put together row by row, each time
+/// by the order that lets it end soonest; if that gets stuck, by moves that let more and more of
+/// the task's list start. Head and pinned rows stay where they are. Nothing if none is found, or
+/// `halt` was set.
+[[nodiscard]] std::optional<std::vector<Auftrag>> EndendeListe(const Suchaufgabe& aufgabe,
+                                                               const std::atomic<bool>& halt);
 
 }  // namespace tarvelin

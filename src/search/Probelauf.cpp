@@ -63,7 +63,6 @@ std::optional<Wertung> Probelauf::Spiele(std::span<const Auftrag> orders, std::s
             neuer.Sitzungen = waechter.Sitzungen;
         }
     }
-    m_endstand = lauf.Stand();
     if (lauf.Stand().secsgone == Moment(std::numeric_limits<Long>::max())) {
         return std::nullopt;
     }

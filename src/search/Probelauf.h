@@ -33,9 +33,6 @@ class Probelauf {
     /// How many orders of the list that was played last have started well.
     [[nodiscard]] std::size_t Gestartet() const { return m_gestartet; }
 
-    /// The state behind the end of the list that was played last.
-    [[nodiscard]] const Spielstand& Stand() const { return m_endstand; }
-
   private:
     struct Sitzungsstand {
         int Zahl = 0;
@@ -54,7 +51,6 @@ class Probelauf {
     std::vector<unsigned char> m_gueltig;
     std::size_t m_gleich = 0;
     std::size_t m_gestartet = 0;
-    Spielstand m_endstand;
 };
 
 }  // namespace tarvelin

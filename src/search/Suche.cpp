@@ -33,7 +33,7 @@ enum class Neigung : std::uint8_t {
 /// Share of the duration that a list may be worse at the first try of a chain.
 double Anfangshitze(const Suchaufgabe& aufgabe, std::size_t freie) {
     constexpr std::size_t kKlein = 12;
-    constexpr double kMitWirtschaft = 0.01;
+    constexpr double kMitWirtschaft = 0.02;
     constexpr double kWenige = 0.1;
     constexpr double kViele = 0.002;
     if (aufgabe.Was == Suchaufgabe::Art::Ziel) {
@@ -199,12 +199,14 @@ class Kettenwerk {
 };
 
 /// The list of the task, or one of the same orders that ends sooner, or at all.
-std::optional<Fund> Anfang(const Suchaufgabe& aufgabe) {
+std::optional<Fund> Anfang(const Suchaufgabe& aufgabe, const std::atomic<bool>& halt) {
     const std::optional<Fund> eigener = Bewerte(aufgabe, aufgabe.Orders);
-    if (eigener && aufgabe.Was == Suchaufgabe::Art::Reihenfolge) {
+    // Another list could have other orders above the pinned rows.
+    const bool hatFeste = std::ranges::find(aufgabe.Fest, true) != aufgabe.Fest.end();
+    if (eigener && (aufgabe.Was == Suchaufgabe::Art::Reihenfolge || hatFeste)) {
         return eigener;
     }
-    const auto liste = GierigeListe(aufgabe);
+    const auto liste = EndendeListe(aufgabe, halt);
     const std::optional<Fund> gierig = liste ? Bewerte(aufgabe, *liste) : std::nullopt;
     if (!eigener || !gierig) {
         return eigener ? eigener : gierig;
@@ -310,7 +312,7 @@ std::optional<Fund> Bewerte(const Suchaufgabe& aufgabe, const std::vector<Auftra
 Suchergebnis Suche(const Suchaufgabe& aufgabe, const Suchumfang& umfang,
                    const std::atomic<bool>& halt,
                    const std::function<void(const Fortschritt&)>& melde) {
-    const std::optional<Fund> anfang = Anfang(aufgabe);
+    const std::optional<Fund> anfang = Anfang(aufgabe, halt);
     return anfang ? Suchlauf(aufgabe, umfang, halt, *anfang).Fuehre(melde) : Suchergebnis();
 }
 

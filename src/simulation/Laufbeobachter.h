@@ -27,8 +27,8 @@ struct Startereignis {
     Aufenthalt Grund;
     /// It starts on the value of a closed gate, as nothing was left that could open it.
     bool TorZu = false;
-    /// When it could have started without the sleep windows; the last moment there is if none held it
-    /// back.
+    /// When it could have started without the sleep windows; the last moment there is if none held
+    /// it back.
     Moment Wach{};
 
     friend bool operator==(const Startereignis&, const Startereignis&) = default;
