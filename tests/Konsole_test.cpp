@@ -1,5 +1,7 @@
 // The console program itself: its streams and exit codes.
 #include <cstdlib>
+#include <nlohmann/json.hpp>
+#include <tuple>
 
 #include "Hilfen.h"
 
@@ -91,7 +93,11 @@ TEST(Konsole, ErklaertSichUndFalscheAufrufe) {
         {"--foo x", "unbekannte Option: --foo"},
         {"--json --csv x", "--json und --csv schließen einander aus"},
         {"--csv --json x", "--json und --csv schließen einander aus"},
-        {"--json=3 x", "eine Option hat keinen gültigen Wert"}};
+        {"--json=3 x", "eine Option hat keinen gültigen Wert"},
+        {"--suche x --csv", "--suche und --csv schließen einander aus"},
+        {"--suche x y", "--suche nimmt genau eine Plandatei"},
+        {"--ziel plan x", "diese Option gilt nur mit --suche"},
+        {"--suche x --threads 0", "eine Option hat keinen gültigen Wert"}};
     for (const auto& [argumente, fehler] : falsche) {
         const Aufruf aufruf = Rufe(ordner, argumente);
         EXPECT_EQ(aufruf.Code, 2) << argumente;
@@ -99,6 +105,72 @@ TEST(Konsole, ErklaertSichUndFalscheAufrufe) {
         EXPECT_EQ(aufruf.Ausgabe, "");
     }
 }
+
+const std::string kStartplan =
+    InZeichen(std::filesystem::path(TARVELIN_QUELLEN) / "data" / "saves" / "basic.tvf");
+
+TEST(Konsole, SuchtUndSchreibtDenPlan) {
+    using nlohmann::json;
+    const Ordner ordner;
+    const std::string suche = "--suche " + kStartplan + " --versuche 20000 --json";
+    const Aufruf aufruf = Rufe(ordner, suche + " --nach neu.tvf");
+    EXPECT_EQ(aufruf.Code, 0);
+    EXPECT_EQ(aufruf.Fehler, "");
+    const json bericht = json::parse(aufruf.Ausgabe);
+    EXPECT_EQ(bericht["Vorher"]["Dauer"], "04 Tage 04:40:16");
+    EXPECT_EQ(bericht["Vorher"]["Zeilen"], 49);
+    EXPECT_LT(bericht["Nachher"]["Sekunden"], bericht["Vorher"]["Sekunden"]);
+    EXPECT_EQ(bericht["Versuche"], 20000);
+    EXPECT_EQ(bericht["Saat"], 1);
+    const json lauf = json::parse(Rufe(ordner, "--json neu.tvf").Ausgabe);
+    EXPECT_EQ(lauf["secsgone"], bericht["Nachher"]["Sekunden"]);
+    json tags;
+    for (const json& zeile : lauf["Bauliste"]) {
+        tags.push_back(zeile["Tag"]);
+    }
+    EXPECT_EQ(tags, bericht["Bauliste"]);
+    // The same call gives the same, whether it writes or not.
+    EXPECT_EQ(Rufe(ordner, suche + " --threads 2").Ausgabe, aufruf.Ausgabe);
+    const std::string text = Rufe(ordner, "--suche neu.tvf --versuche 20000 --fest 1-49").Ausgabe;
+    EXPECT_NE(text.find("Gewinn:    00 Tage 00:00:00"), std::string::npos) << text;
+}
+
+TEST(Konsole, SchreibtNichtsWennDieSucheNichtSuchenKann) {
+    const Ordner ordner;
+    const std::vector<std::tuple<const char*, int, const char*>> faelle{
+        {"--ziel XX1", 2, "\"XX1\" nennt kein Item"},
+        {"--fest 3,", 2, "--fest erwartet Zeilen wie 3,7-9"},
+        {"--fest 50", 2, "Feste Zeilen gehen von 1 bis 49"},
+        {"--ab gestern", 2, "--ab erwartet einen Zeitpunkt"},
+        {"--ab \"01.01.2030 00:00:00\"", 1, "Alle Aufträge beginnen vor dem"},
+    };
+    for (const auto& [optionen, code, text] : faelle) {
+        const Aufruf aufruf = Rufe(ordner, "--suche " + kStartplan + " --nach neu.tvf " + optionen);
+        EXPECT_EQ(aufruf.Code, code) << optionen;
+        EXPECT_NE(aufruf.Fehler.find(text), std::string::npos) << aufruf.Fehler;
+        EXPECT_EQ(aufruf.Ausgabe, "");
+        EXPECT_FALSE(std::filesystem::exists(ordner / "neu.tvf"));
+    }
+    EXPECT_EQ(Rufe(ordner, "--suche fehlt.tvf").Fehler,
+              "tarvelin-cli: Die Bauliste konnte nicht geladen werden...\n");
+}
+
+#ifdef __linux__
+TEST(Konsole, EndetAufEinSignalMitDemBestenPlan) {
+    const Ordner ordner;
+    // The signal comes as soon as it is caught.
+    SchreibeDatei(
+        ordner / "ruf",
+        "\"$1\" --suche \"$2\" --nach neu.tvf --versuche 1000000000000 & p=$!\n"
+        "until grep -qE '^SigCgt:.*[2367abef]$|^State:.*Z' /proc/$p/status; do sleep 0.05; done\n"
+        "kill -INT $p; wait $p\n");
+    const std::string befehl =
+        "cd " + InZeichen(ordner / "") + " && sh ruf \"" TARVELIN_CLI "\" " + kStartplan + " >aus";
+    EXPECT_EQ(std::system(befehl.c_str()), 0);
+    EXPECT_TRUE(LiesDatei(ordner / "aus").starts_with("Vorher:    04 Tage 04:40:16"));
+    EXPECT_EQ(Rufe(ordner, "neu.tvf").Code, 0);
+}
+#endif
 
 }  // namespace
 }  // namespace tarvelin

@@ -61,7 +61,7 @@ std::optional<std::vector<std::pair<std::size_t, std::size_t>>> LiesZeilen(std::
 
 /// The wish, or what is wrong with the call.
 std::variant<Suchwunsch, std::string> LiesWunsch(const Suchbefehl& befehl) {
-    Suchwunsch wunsch{.Ziel = befehl.Ziel, .Fest = {}, .Frei = befehl.Frei, .Ab = {}};
+    Suchwunsch wunsch{.Ziel = befehl.Ziel, .Frei = befehl.Frei};
     const auto zeilen = LiesZeilen(befehl.Fest);
     if (!zeilen) {
         return "--fest erwartet Zeilen wie 3,7-9";

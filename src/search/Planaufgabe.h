@@ -16,13 +16,13 @@ namespace tarvelin {
 struct Suchwunsch {
     /// What has to stand at the end, "GW2 FV2 WKT1"; "plan" for the plan's own research, units and
     /// defences. Nothing: the plan's orders in another order.
-    std::optional<std::string> Ziel;
+    std::optional<std::string> Ziel{};
     /// Rows that keep their place, from 1, first and last of each stretch.
-    std::vector<std::pair<std::size_t, std::size_t>> Fest;
+    std::vector<std::pair<std::size_t, std::size_t>> Fest{};
     /// Production rows may move too.
     bool Frei = false;
     /// Orders that start before are played already.
-    std::optional<Zeitpunkt> Ab;
+    std::optional<Zeitpunkt> Ab{};
 };
 
 /// Why there is nothing to search.

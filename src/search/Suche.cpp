@@ -2,11 +2,13 @@
 #include "search/Suche.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cmath>
 #include <condition_variable>
 #include <limits>
 #include <mutex>
+#include <span>
 #include <thread>
 #include <utility>
 
@@ -30,16 +32,20 @@ enum class Neigung : std::uint8_t {
     Sitzungen,
 };
 
-/// Share of the duration that a list may be worse at the first try of a chain.
-double Anfangshitze(const Suchaufgabe& aufgabe, std::size_t freie) {
+/// Share of the duration that a list may be worse at the first try of a chain. The chains take them
+/// in turn, two by two.
+std::span<const double> Anfangshitzen(const Suchaufgabe& aufgabe, std::size_t freie) {
     constexpr std::size_t kKlein = 12;
-    constexpr double kMitWirtschaft = 0.02;
-    constexpr double kWenige = 0.1;
-    constexpr double kViele = 0.002;
+    static constexpr std::array kMitWirtschaft{0.02};
+    static constexpr std::array kWenige{0.1};
+    static constexpr std::array kViele{0.002, 0.01, 0.002, 0.03};
     if (aufgabe.Was == Suchaufgabe::Art::Ziel) {
         return kMitWirtschaft;
     }
-    return freie <= kKlein ? kWenige : kViele;
+    if (freie <= kKlein) {
+        return kWenige;
+    }
+    return kViele;
 }
 
 /// The same at the last try.
@@ -147,54 +153,96 @@ Fund Kette(const Kettenauftrag& auftrag, Anzeigestand& anzeige) {
     return bester;
 }
 
-/// Lets threads take one chain after the other. The results stand in the order of the chains.
+/// Chains that differ in their numbers alone.
+struct Kettenreihe {
+    const Suchaufgabe* Aufgabe;
+    Fund Anfang;
+    Neigung Ziel;
+    std::span<const double> Hitzen;
+    /// So much of them is left.
+    double Nachhitze;
+    Long Grenze;
+    /// The number of the first, and how many there are.
+    std::uint64_t Erste;
+    std::uint64_t Zahl;
+    std::uint64_t Saat;
+
+    /// With nights every other chain minds them.
+    [[nodiscard]] Kettenauftrag Nummer(std::uint64_t i) const {
+        constexpr std::uint64_t kSaatabstand = 1'000'003;
+        const std::uint64_t nummer = Erste + i;
+        const bool nacht =
+            Ziel == Neigung::Dauer && nummer % 2 == 1 && !Aufgabe->Bedingungen.Schlafzeiten.empty();
+        return {.Aufgabe = Aufgabe,
+                .Anfang = &Anfang,
+                .Ziel = nacht ? Neigung::Nachtnaehe : Ziel,
+                .Hitze = Nachhitze * Hitzen[nummer / 2 % Hitzen.size()],
+                .Saat = Saat * kSaatabstand + nummer,
+                .Grenze = Grenze};
+    }
+};
+
+/// Lets threads take one chain after the other. The best of them doesn't depend on who was first.
 class Kettenwerk {
   public:
-    Kettenwerk(std::vector<Kettenauftrag> auftraege, unsigned threads, Anzeigestand& anzeige)
-        : m_auftraege(std::move(auftraege)), m_funde(m_auftraege.size()), m_anzeige(&anzeige) {
-        const std::size_t zahl = std::clamp<std::size_t>(threads, 1, m_auftraege.size());
-        m_laufend = zahl;
-        for (std::size_t i = 0; i < zahl; ++i) {
+    Kettenwerk(Kettenreihe reihe, unsigned threads, Anzeigestand& anzeige)
+        : m_reihe(std::move(reihe)), m_anzeige(&anzeige), m_bester(m_reihe.Anfang) {
+        m_laufend = std::clamp<std::uint64_t>(threads, 1, m_reihe.Zahl);
+        for (std::uint64_t i = m_laufend; i > 0; --i) {
             m_threads.emplace_back([this] { Arbeite(); });
         }
     }
 
     /// The chain that was taken last, from 1.
     [[nodiscard]] std::uint64_t Letzte() const {
-        return std::min<std::uint64_t>(m_naechste.load(), m_auftraege.size());
+        return m_reihe.Erste + std::min(m_naechste.load(), m_reihe.Zahl);
     }
 
-    /// Waits for the end; asks in between.
+    /// Waits for the end; asks in between. The best list, of equals that of the first chain.
     template <class Frage>
-    std::vector<std::optional<Fund>> Warte(Frage frage) {
+    Fund Warte(Frage frage) {
         constexpr std::chrono::milliseconds kTakt(100);
         std::unique_lock sperre(m_mutex);
         while (!m_fertig.wait_for(sperre, kTakt, [this] { return m_laufend == 0; })) {
+            sperre.unlock();
             frage();
+            sperre.lock();
         }
         sperre.unlock();
         m_threads.clear();
-        return std::move(m_funde);
+        return std::move(m_bester);
     }
 
   private:
     void Arbeite() {
-        for (std::size_t i = m_naechste++; i < m_auftraege.size() && !m_anzeige->Haelt();
+        for (std::uint64_t i = m_naechste++; i < m_reihe.Zahl && !m_anzeige->Haelt();
              i = m_naechste++) {
-            m_funde[i] = Kette(m_auftraege[i], *m_anzeige);
+            Nimm(Kette(m_reihe.Nummer(i), *m_anzeige), i);
         }
         const std::scoped_lock sperre(m_mutex);
         --m_laufend;
         m_fertig.notify_all();
     }
 
-    std::vector<Kettenauftrag> m_auftraege;
-    std::vector<std::optional<Fund>> m_funde;
+    void Nimm(Fund fund, std::uint64_t kette) {
+        const std::scoped_lock sperre(m_mutex);
+        const bool schlechter = IstBesser(m_bester.Wertung, fund.Wertung, m_reihe.Ziel);
+        const bool besser = IstBesser(fund.Wertung, m_bester.Wertung, m_reihe.Ziel);
+        if (besser || (!schlechter && m_von && kette < *m_von)) {
+            m_bester = std::move(fund);
+            m_von = kette;
+        }
+    }
+
+    Kettenreihe m_reihe;
     Anzeigestand* m_anzeige;
-    std::atomic<std::size_t> m_naechste{0};
+    std::atomic<std::uint64_t> m_naechste{0};
     std::mutex m_mutex;
     std::condition_variable m_fertig;
-    std::size_t m_laufend = 0;
+    std::uint64_t m_laufend = 0;
+    Fund m_bester;
+    /// The chain that found it; nothing while it is the list to begin with.
+    std::optional<std::uint64_t> m_von;
     std::vector<std::jthread> m_threads;
 };
 
@@ -232,44 +280,39 @@ class Suchlauf {
     Suchergebnis Fuehre(const std::function<void(const Fortschritt&)>& melde) {
         constexpr std::uint64_t kVonVieren = 4;
         constexpr double kHundert = 100;
-        const std::uint64_t fuerSitzungen = m_ketten > kVonVieren ? 2 : 0;
+        const std::uint64_t fuerSitzungen = m_ketten <= kVonVieren   ? 0
+                                            : m_umfang.Nachlass == 0 ? 2
+                                                                     : m_ketten / kVonVieren;
         const std::uint64_t fuerDauer = m_ketten - fuerSitzungen;
         const std::uint64_t nach = fuerDauer / kVonVieren;
-        const auto freie = static_cast<std::size_t>(std::ranges::count(m_aufgabe.Fest, false));
-        const double hitze = Anfangshitze(m_aufgabe, freie - std::min(freie, m_aufgabe.Kopf));
-        Lass(fuerDauer - nach, Neigung::Dauer, hitze, kOhneGrenze, melde);
-        Lass(nach, Neigung::Dauer, hitze * kNachhitze, kOhneGrenze, melde);
+        Lass(fuerDauer - nach, Neigung::Dauer, 1, kOhneGrenze, melde);
+        Lass(nach, Neigung::Dauer, kNachhitze, kOhneGrenze, melde);
         const double grenze = m_bester.Wertung.Dauer * (1 + m_umfang.Nachlass / kHundert);
-        Lass(fuerSitzungen, Neigung::Sitzungen, hitze, static_cast<Long>(grenze), melde);
+        Lass(fuerSitzungen, Neigung::Sitzungen, 1, static_cast<Long>(grenze), melde);
         return {.Bester = m_bester, .Versuche = m_anzeige.Versuche()};
     }
 
   private:
     /// So many chains from the best list so far.
-    void Lass(std::uint64_t zahl, Neigung neigung, double hitze, Long grenze,
+    void Lass(std::uint64_t zahl, Neigung neigung, double nachhitze, Long grenze,
               const std::function<void(const Fortschritt&)>& melde) {
         if (zahl == 0 || m_anzeige.Haelt()) {
             return;
         }
-        const Fund anfang = m_bester;
-        std::vector<Kettenauftrag> auftraege;
-        for (std::uint64_t i = 0; i < zahl; ++i) {
-            const bool nacht = neigung == Neigung::Dauer && (m_begonnen + i) % 2 == 1 &&
-                               !m_aufgabe.Bedingungen.Schlafzeiten.empty();
-            auftraege.push_back({.Aufgabe = &m_aufgabe,
-                                 .Anfang = &anfang,
-                                 .Ziel = nacht ? Neigung::Nachtnaehe : neigung,
-                                 .Hitze = hitze,
-                                 .Saat = m_umfang.Saat * kSaatabstand + m_begonnen + i,
-                                 .Grenze = grenze});
-        }
-        Kettenwerk werk(std::move(auftraege), m_umfang.Threads, m_anzeige);
-        for (const auto& fund : werk.Warte([&] { melde(Stand(werk.Letzte())); })) {
-            // Of equals the first.
-            if (fund && IstBesser(fund->Wertung, m_bester.Wertung, neigung)) {
-                m_bester = *fund;
-            }
-        }
+        const auto freie = static_cast<std::size_t>(
+            std::count(m_aufgabe.Fest.begin() + static_cast<std::ptrdiff_t>(m_aufgabe.Kopf),
+                       m_aufgabe.Fest.end(), false));
+        Kettenwerk werk({.Aufgabe = &m_aufgabe,
+                         .Anfang = m_bester,
+                         .Ziel = neigung,
+                         .Hitzen = Anfangshitzen(m_aufgabe, freie),
+                         .Nachhitze = nachhitze,
+                         .Grenze = grenze,
+                         .Erste = m_begonnen,
+                         .Zahl = zahl,
+                         .Saat = m_umfang.Saat},
+                        m_umfang.Threads, m_anzeige);
+        m_bester = werk.Warte([&] { melde(Stand(werk.Letzte())); });
         m_begonnen += zahl;
     }
 
@@ -283,12 +326,10 @@ class Suchlauf {
             .Gewinn = m_anfangsdauer - beste,
             .Versuche = versuche,
             .VonVersuchen = m_ketten * Suchumfang::kKette,
-            .Kette = m_begonnen + kette,
+            .Kette = kette,
             .VersucheJeSekunde = static_cast<double>(versuche) / Sekunden(jetzt - m_beginn).count(),
             .SeitBestem = Sekunden(jetzt - um).count()};
     }
-
-    static constexpr std::uint64_t kSaatabstand = 1'000'003;
 
     const Suchaufgabe& m_aufgabe;
     const Suchumfang& m_umfang;
