@@ -44,7 +44,7 @@ miss_abdeckung() {
     find build/coverage -name '*.gcda' -delete
     ctest --preset coverage -j "$(nproc)" -LE Bildschirm
     gcovr --root . --gcov-ignore-parse-errors \
-        --filter 'src/(util|model|plan|simulation|persistence|console)/' \
+        --filter 'src/(util|model|plan|simulation|search|persistence|console)/' \
         --exclude-directories '.*/CMakeFiles/[0-9]+[.].*' build/coverage
 }
 

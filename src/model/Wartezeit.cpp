@@ -47,7 +47,10 @@ Torbefund PruefeTore(const Itemzeile& zeile, const Kosten& preis, const Spielsta
         return {};
     }
     const Sperre sperre = Deuteriumtor(zeile.Besonders.Deuterium, stand);
-    return sperre == Sperre::Offen ? Torbefund() : Torbefund{sperre, {.Was = Hindernis::Deuterium}};
+    if (sperre == Sperre::Offen) {
+        return {};
+    }
+    return {sperre, {.Was = Hindernis::Deuterium}};
 }
 
 /// What is short of a resource, and for how long. Figures side by side, not a `Verzoegerung`: the

@@ -248,7 +248,7 @@ class Kettenwerk {
 
 /// The list of the task, or one of the same orders that ends sooner, or at all.
 std::optional<Fund> Anfang(const Suchaufgabe& aufgabe, const std::atomic<bool>& halt) {
-    const std::optional<Fund> eigener = Bewerte(aufgabe, aufgabe.Orders);
+    std::optional<Fund> eigener = Bewerte(aufgabe, aufgabe.Orders);
     // Another list could have other orders above the pinned rows.
     const bool hatFeste = std::ranges::find(aufgabe.Fest, true) != aufgabe.Fest.end();
     if (eigener && (aufgabe.Was == Suchaufgabe::Art::Reihenfolge || hatFeste)) {
@@ -284,9 +284,9 @@ class Suchlauf {
                                             : m_umfang.Nachlass == 0 ? 2
                                                                      : m_ketten / kVonVieren;
         const std::uint64_t fuerDauer = m_ketten - fuerSitzungen;
-        const std::uint64_t nach = fuerDauer / kVonVieren;
-        Lass(fuerDauer - nach, Neigung::Dauer, 1, kOhneGrenze, melde);
-        Lass(nach, Neigung::Dauer, kNachhitze, kOhneGrenze, melde);
+        const std::uint64_t spaetere = fuerDauer / kVonVieren;
+        Lass(fuerDauer - spaetere, Neigung::Dauer, 1, kOhneGrenze, melde);
+        Lass(spaetere, Neigung::Dauer, kNachhitze, kOhneGrenze, melde);
         const double grenze = m_bester.Wertung.Dauer * (1 + m_umfang.Nachlass / kHundert);
         Lass(fuerSitzungen, Neigung::Sitzungen, 1, static_cast<Long>(grenze), melde);
         return {.Bester = m_bester, .Versuche = m_anzeige.Versuche()};

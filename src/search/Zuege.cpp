@@ -23,12 +23,9 @@ std::size_t Weite(Zufall& zufall, std::size_t hoechste) {
 }
 
 bool GleichOhneWirtschaft(const JeItem<Byte>& a, const JeItem<Byte>& b) {
-    for (const Itemzeile& zeile : Itemtabelle()) {
-        if (!IstWirtschaft(zeile.Item) && a[zeile.Item] != b[zeile.Item]) {
-            return false;
-        }
-    }
-    return true;
+    return std::ranges::all_of(Itemtabelle(), [&](const Itemzeile& zeile) {
+        return IstWirtschaft(zeile.Item) || a[zeile.Item] == b[zeile.Item];
+    });
 }
 
 }  // namespace

@@ -70,6 +70,7 @@ constexpr std::array<Skinbild, 4> kSymbole{{
 const std::vector<Skinbild>& Skinbilder() {
     static const std::vector<Skinbild> kBilder = [] {
         std::vector<Skinbild> bilder;
+        bilder.reserve(kItemskins.size() + kSymbole.size());
         for (const Itemskin& skin : kItemskins) {
             bilder.push_back({"gebaeude", skin.Name, Itemansichten()[skin.Item].Bild});
         }
