@@ -158,10 +158,11 @@ TEST(Konsole, SchreibtNichtsWennDieSucheNichtSuchenKann) {
 #ifdef __linux__
 TEST(Konsole, EndetAufEinSignalMitDemBestenPlan) {
     const Ordner ordner;
-    // The signal comes as soon as it is caught.
+    // The signal comes as soon as it is caught, by the program and not by the shell before it.
     SchreibeDatei(
         ordner / "ruf",
         "\"$1\" --suche \"$2\" --nach neu.tvf --versuche 1000000000000 & p=$!\n"
+        "until grep -q '^tarvelin' /proc/$p/comm; do sleep 0.05; done\n"
         "until grep -qE '^SigCgt:.*[2367abef]$|^State:.*Z' /proc/$p/status; do sleep 0.05; done\n"
         "kill -INT $p; wait $p\n");
     const std::string befehl =
