@@ -1,7 +1,7 @@
 # For run.sh and test.sh: Debian packages, and a build that does nothing twice.
 
 BAU_PAKETE=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev
-    libcurl4-openssl-dev qt6-base-dev qt6-multimedia-dev qt6-translations-l10n fonts-liberation)
+    libcurl4-openssl-dev qt6-base-dev qt6-svg-dev qt6-multimedia-dev qt6-translations-l10n fonts-liberation)
 # A virtual screen with a player's hands and ears and a screen reader's eyes.
 BILDSCHIRM_PAKETE=(xvfb openbox xdotool imagemagick dbus at-spi2-core
     gir1.2-atspi-2.0 python3-gi pulseaudio pulseaudio-utils)

@@ -46,6 +46,8 @@ struct Aufenthalt {
     Stufenbedarf Fehlt{};
     /// The queue at work.
     Schlange Queue = Schlange::Keine;
+    /// What the stocks lacked.
+    Verzoegerung Mangel{};
 
     friend bool operator==(const Aufenthalt&, const Aufenthalt&) = default;
 };

@@ -22,6 +22,9 @@ class cSchlafzeit {
         return m_endzeit - theInsertedDate;
     }
 
+    [[nodiscard]] Zeitpunkt Beginn() const { return m_startzeit; }
+    [[nodiscard]] Zeitpunkt Ende() const { return m_endzeit; }
+
     /// Whether `zweiter` lies at least one second behind `erster`.
     [[nodiscard]] static bool IstSpaeter(Zeitpunkt erster, Zeitpunkt zweiter) {
         return zweiter > erster;

@@ -34,6 +34,12 @@ class Konfiguration {
     static constexpr Konfigurationskey kRecover           {"StartSettings", "Recover",            "1"};
     static constexpr Konfigurationskey kAlwaysDoSo        {"StartSettings", "AlwaysDoSo",         "0"};
     static constexpr Konfigurationskey kItemCount         {"Bauliste",      "ItemCount",          ""};
+    /// Place of the frame and size of what is in it, in pixels; whether it fills the screen.
+    static constexpr Konfigurationskey kWerkbankLinks     {"Werkbank",      "Links",              ""};
+    static constexpr Konfigurationskey kWerkbankOben      {"Werkbank",      "Oben",               ""};
+    static constexpr Konfigurationskey kWerkbankBreite    {"Werkbank",      "Breite",             ""};
+    static constexpr Konfigurationskey kWerkbankHoehe     {"Werkbank",      "Hoehe",              ""};
+    static constexpr Konfigurationskey kWerkbankGross     {"Werkbank",      "Gross",              "0"};
     // clang-format on
 
     using Werte = std::vector<std::pair<Konfigurationskey, std::string>>;

@@ -14,17 +14,6 @@ std::string Dateiname(const std::filesystem::path& datei) {
     return {name.begin(), name.end()};
 }
 
-class Meldungsliste final : public Meldungsausgabe {
-  public:
-    explicit Meldungsliste(std::vector<Meldung>& meldungen) : m_meldungen(meldungen) {}
-
-    void Zeige(const Meldung& meldung) override { m_meldungen.push_back(meldung); }
-    void Piepton() override {}
-
-  private:
-    std::vector<Meldung>& m_meldungen;
-};
-
 }  // namespace
 
 Planlauf::Planlauf(const std::filesystem::path& datei)

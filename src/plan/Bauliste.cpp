@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <iterator>
 
 #include "model/Energie.h"
 #include "model/Itemtabelle.h"
@@ -13,11 +14,6 @@
 namespace tarvelin {
 
 namespace {
-
-Meldung ListeVoll() {
-    return {.Text = "Die Bauliste ist voll: mehr als 254 Einträge sind nicht möglich...",
-            .Titel = kAusnahmefehler};
-}
 
 std::string Itemtext(ItemId item, Byte nummer) {
     const Itemzeile& zeile = ZeileVon(item);
@@ -80,6 +76,25 @@ void Bauliste::Undo() {
 
 void Bauliste::Clear() {
     *this = Bauliste();
+}
+
+std::vector<std::string> Bauliste::Tags() const {
+    std::vector<std::string> tags;
+    tags.reserve(m_zeilen.size());
+    std::ranges::transform(m_zeilen, std::back_inserter(tags), &BaulistenZeile::Tag);
+    return tags;
+}
+
+void Bauliste::Setze(const std::vector<std::string>& tags, const Startbedingungen& bedingungen) {
+    Clear();
+    for (const std::string& tag : tags) {
+        static_cast<void>(Replay(tag, bedingungen));
+    }
+}
+
+Meldung ListeVoll() {
+    return {.Text = "Die Bauliste ist voll: mehr als 254 Einträge sind nicht möglich...",
+            .Titel = kAusnahmefehler};
 }
 
 std::string GetProdfaktorText(const Auftragsliste& liste, const Startbedingungen& bedingungen) {

@@ -53,6 +53,12 @@ class Bauliste {
 
     void Clear();
 
+    /// The rows' `Tag`s.
+    [[nodiscard]] std::vector<std::string> Tags() const;
+    /// All rows anew, with the texts that adding them one by one gives. Each `Tag` is one that
+    /// `Replay` takes; at most 254.
+    void Setze(const std::vector<std::string>& tags, const Startbedingungen& bedingungen);
+
   private:
     std::optional<Meldung> HaengeAn(const Auftrag& auftrag, std::string_view tag,
                                     const Startbedingungen& bedingungen);
@@ -60,6 +66,9 @@ class Bauliste {
     Auftragsliste m_auftraege;
     std::vector<BaulistenZeile> m_zeilen;
 };
+
+/// What is told of a row beyond the last that a list has room for.
+[[nodiscard]] Meldung ListeVoll();
 
 /// The production factor of a list as it stands, with two decimals: supply divided by need, at most
 /// "1,00".

@@ -89,6 +89,9 @@ void Simulation::TerminiereWartende(Laufbeobachter& beobachter) {
     m_tabelle.SetStartzeit(start);
     if (start > m_stand.secsgone) {
         m_aufenthalt = grund;
+        if (grund.Was == Hindernis::Rohstoff) {
+            m_aufenthalt.Mangel.Uebernimm(m_stand.Verzoegerungen[order.Item]);
+        }
     }
 }
 

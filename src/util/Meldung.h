@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace tarvelin {
 
@@ -36,6 +37,19 @@ class Meldungsausgabe {
 
     /// One beep, for what needs no words.
     virtual void Piepton() = 0;
+};
+
+/// Keeps messages for later, and beeps not at all.
+class Meldungsliste final : public Meldungsausgabe {
+  public:
+    /// `meldungen` must outlive it.
+    explicit Meldungsliste(std::vector<Meldung>& meldungen) : m_meldungen(meldungen) {}
+
+    void Zeige(const Meldung& meldung) override { m_meldungen.push_back(meldung); }
+    void Piepton() override {}
+
+  private:
+    std::vector<Meldung>& m_meldungen;
 };
 
 }  // namespace tarvelin

@@ -22,10 +22,18 @@ void Bildknopf::SetzeBild(const QPixmap& bild) {
     }
 }
 
+void Bildknopf::SetzeBlass(bool blass) {
+    m_blass = blass;
+    update();
+}
+
 void Bildknopf::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    constexpr qreal kBlass = 0.3;
+    painter.setOpacity(m_blass ? kBlass : 1);
     painter.drawPixmap(rect(), m_bild);
+    painter.setOpacity(1);
     if (hasFocus()) {
         painter.setPen(palette().highlight().color());
         painter.drawRect(rect().adjusted(0, 0, -1, -1));

@@ -15,11 +15,15 @@ class Bildknopf : public QAbstractButton {
     /// Scaled to the size of the button. A null picture leaves the one before.
     void SetzeBild(const QPixmap& bild);
 
+    /// Shows that a press would be refused.
+    void SetzeBlass(bool blass);
+
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
     QPixmap m_bild;
+    bool m_blass = false;
 };
 
 }  // namespace tarvelin

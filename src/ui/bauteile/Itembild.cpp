@@ -88,9 +88,8 @@ void Itembild::paintEvent(QPaintEvent* event) {
 
 void Itembild::Ziehe() {
     QToolTip::hideText();
-    // Other programs have no use for it.
     auto* const daten = new QMimeData;
-    daten->setData(QStringLiteral("application/x-tarvelin-item"), objectName().toUtf8());
+    daten->setData(kItemformat, objectName().toUtf8());
     // The toolkit deletes the drag when it is over.
     auto* const drag = new QDrag(this);
     drag->setMimeData(daten);

@@ -7,6 +7,9 @@
 
 namespace tarvelin {
 
+/// What a dragged picture carries: its name, of use to no other program.
+inline const QString kItemformat = QStringLiteral("application/x-tarvelin-item");
+
 /// Pointer over an open picture, and what the pointer shows while a picture is dragged.
 struct Ziehzeiger {
     QCursor Offen;

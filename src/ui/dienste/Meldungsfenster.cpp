@@ -79,6 +79,16 @@ class Box : public QMessageBox {
         : Box(meldung.Text, meldung.Titel, meldung.Symbol, QMessageBox::Ok) {}
 };
 
+/// The formats of a picture; the chosen one ends a name without an ending.
+void StelleAufBilder(QFileDialog& dialog) {
+    dialog.setNameFilters({QStringLiteral("Bild (*.png)"), QStringLiteral("Vektorbild (*.svg)"),
+                           QStringLiteral("Dokument (*.pdf)")});
+    dialog.setDefaultSuffix(QStringLiteral("png"));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
+        dialog.setDefaultSuffix(filter.mid(filter.indexOf(QLatin1Char('.')) + 1).chopped(1));
+    });
+}
+
 }  // namespace
 
 int Meldungsfenster::Oeffne(QDialog& dialog) {
@@ -128,9 +138,13 @@ std::filesystem::path Meldungsfenster::FragNachDatei(Zweck zweck,
     dialog.setAcceptMode(laden ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     // A name that isn't there is answered by the load itself.
     dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.setNameFilter(QStringLiteral("(*.tvf) Tarvelin Save-Files (*.tvf)"));
+    if (zweck == Zweck::Bild) {
+        StelleAufBilder(dialog);
+    } else {
+        dialog.setOption(QFileDialog::DontConfirmOverwrite);
+        dialog.setNameFilter(QStringLiteral("(*.tvf) Tarvelin Save-Files (*.tvf)"));
+    }
     constexpr QSize kGroesse(720, 420);
     dialog.resize(kGroesse);
     dialog.setDirectory(Pfadtext(ordner));

@@ -1,6 +1,8 @@
 // What the window reaches outside: handed in, so that a test can take the place of the world.
 #pragma once
 
+#include <QGuiApplication>
+#include <QPalette>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -29,9 +31,10 @@ class Dialoge : public Meldungsausgabe {
     /// Whether the user answered "Ja". Closing the box is a "Nein".
     [[nodiscard]] virtual bool Stelle(const Frage& frage) = 0;
 
-    enum class Zweck { Laden, Speichern };
-    /// A save file of the user's choice, from `ordner` on; empty if he chose none. Nothing is added
-    /// to the name, and nothing is asked about a file that is there already.
+    enum class Zweck { Laden, Speichern, Bild };
+    /// A file of the user's choice, from `ordner` on; empty if he chose none. Nothing is added to
+    /// the name of a plan, and nothing is asked about one that is there already. A picture gets the
+    /// ending of the chosen format.
     [[nodiscard]] virtual std::filesystem::path FragNachDatei(
         Zweck zweck, const std::filesystem::path& ordner) = 0;
 
@@ -83,6 +86,9 @@ struct Umgebung {
     std::filesystem::path Programmordner;
     /// Through which plans and configuration are read and written.
     const Dateisystem& Dateien = Platte();
+    /// The colours of the desktop, light or dark. When they change, every window gets a
+    /// `QEvent::ThemeChange`.
+    std::function<QPalette()> Desktopfarben = [] { return QGuiApplication::palette(); };
     /// What the user has to know from the start on.
     std::optional<Meldung> Starthinweis = std::nullopt;
 };

@@ -65,6 +65,7 @@ QWidget* Fra_Einstellungen::NeueTemperaturen() {
         connect(eingabe, &QLineEdit::textChanged, this, [this, aendere](const QString& text) {
             aendere(m_plan.Parameter, text.toStdString());
             ZeigeTemperaturen();
+            emit Geaendert();
         });
         return eingabe;
     };
@@ -83,8 +84,10 @@ Eingabe* Fra_Einstellungen::NeueStartzeitEingabe(const char* name, const char* b
     auto* const eingabe =
         new Eingabe(QString::fromLatin1(name), QString::fromLatin1(bedeutung), grenze, this);
     eingabe->setFixedWidth(breite);
-    connect(eingabe, &QLineEdit::textChanged, this,
-            [this, wert](const QString& text) { m_plan.Parameter.*wert = text.toStdString(); });
+    connect(eingabe, &QLineEdit::textChanged, this, [this, wert](const QString& text) {
+        m_plan.Parameter.*wert = text.toStdString();
+        emit Geaendert();
+    });
     m_startzeit.push_back({eingabe, wert});
     return eingabe;
 }
@@ -149,6 +152,7 @@ QWidget* Fra_Einstellungen::NeuerKlickPuffer() {
     connect(m_HSC_KlickPuffer, &QSlider::valueChanged, this, [this](int sekunden) {
         m_plan.Parameter.KlickPuffer = sekunden;
         m_LBL_KlickPuffer->setText(AlsQString(KlickPufferText(sekunden)));
+        emit Geaendert();
     });
     zeile->addWidget(m_HSC_KlickPuffer);
     zeile->addWidget(m_LBL_KlickPuffer);
@@ -185,6 +189,7 @@ QWidget* Fra_Einstellungen::NeuerSpeedfaktor() {
     connect(m_Chk_Speedfaktor, &QCheckBox::clicked, this, [this](bool gesetzt) {
         m_plan.Parameter.SpeedfaktorX2 = gesetzt;
         emit Chk_Speedfaktor_Click();
+        emit Geaendert();
     });
     zeile->addWidget(m_Chk_Speedfaktor);
     return gruppe;

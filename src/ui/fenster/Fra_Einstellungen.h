@@ -21,6 +21,8 @@ class Fra_Einstellungen : public Feld {
     void Zeige(const Wochentagsanzeige& wochentag);
 
   signals:
+    /// The user, or `Zeige`, has changed a parameter of a run.
+    void Geaendert();
     void Chk_Speedfaktor_Click();
     void cmd_ShowDesc_Click();
 

@@ -58,6 +58,14 @@ Fra_Rest::Fra_Rest(const Bauliste& liste, const Lauf& lauf, QWidget* parent)
     }
 }
 
+JeItem<QPixmap> Fra_Rest::Itembilder() const {
+    JeItem<QPixmap> bilder;
+    for (const Itemplatz& platz : m_plaetze) {
+        bilder[platz.Item] = platz.Bild->pixmap(Qt::ReturnByValue);
+    }
+    return bilder;
+}
+
 void Fra_Rest::SetzeZeiger(const Ziehzeiger& zeiger) {
     for (const Itemplatz& platz : m_plaetze) {
         platz.Bild->SetzeZeiger(zeiger);

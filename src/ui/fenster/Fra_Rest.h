@@ -28,6 +28,9 @@ class Fra_Rest : public QWidget {
     /// The names under the pictures.
     void ZeigeNamen(bool zeigen);
 
+    /// What the pictures show.
+    [[nodiscard]] JeItem<QPixmap> Itembilder() const;
+
     void SetzeZeiger(const Ziehzeiger& zeiger);
     void SetzeSpendenbild(const QPixmap& bild) { m_Frame6->ImgDonate_1->SetzeBild(bild); }
 

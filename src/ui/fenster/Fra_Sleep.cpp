@@ -150,6 +150,11 @@ void Fra_Sleep::LegeAus() {
               LV_Schlafzeiten, Chk_Schlafzeitenwecker, loesche, leere, schliesse});
 }
 
+void Fra_Sleep::Zeige() {
+    m_modell->Aktualisiere();
+    emit Geaendert();
+}
+
 Schlafeingabe Fra_Sleep::Lies() const {
     Schlafeingabe eingabe;
     eingabe.Datum =

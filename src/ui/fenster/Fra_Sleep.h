@@ -20,11 +20,15 @@ class Fra_Sleep : public Feld {
     Fra_Sleep(Schlaftabelle& tabelle, const Umgebung& umgebung, QWidget* parent);
 
     /// After the program changed the table.
-    void Zeige() { m_modell->Aktualisiere(); }
+    void Zeige();
     void RefreshSchlafEnde();
 
     Liste* const LV_Schlafzeiten;
     QCheckBox* const Chk_Schlafzeitenwecker;
+
+  signals:
+    /// The table is another one.
+    void Geaendert();
 
   private:
     void BaueEingaben();

@@ -132,7 +132,7 @@ void frmMain::LadeBilder() {
     const auto bilder = m_umgebung.Programmordner / "img";
     setWindowIcon(LadeSymbol(bilder / "icon.ico"));
     // What another skin lacks stays as it is in this one.
-    ApplySkin(kStandardskin, {}, *m_Fra_Rest, m_umgebung.Programmordner);
+    ZeigeSkin(kStandardskin, {});
     m_Fra_Rest->SetzeZeiger(LadeZiehzeiger(bilder, devicePixelRatioF()));
     m_Fra_Rest->SetzeSpendenbild(LadePixmap(bilder / "spende.png"));
 }
@@ -148,6 +148,8 @@ void frmMain::Verbinde() {
             &frmMain::Cmd_AddProdaenderungsevent_Click);
     connect(m_Fra_Einstellungen, &Fra_Einstellungen::Chk_Speedfaktor_Click, this,
             &frmMain::Chk_Speedfaktor_Click);
+    connect(m_Fra_Einstellungen, &Fra_Einstellungen::Geaendert, this, &frmMain::ZeigeInWerkbank);
+    connect(m_Fra_Sleep, &Fra_Sleep::Geaendert, this, &frmMain::ZeigeInWerkbank);
     connect(m_Fra_Einstellungen, &Fra_Einstellungen::cmd_ShowDesc_Click, this,
             [this] { m_Fra_Rest->ZeigeNamen(m_plan.ShowDesc); });
     connect(m_Fra_Skin->Cmd_ApplySkin, &QPushButton::clicked, this, &frmMain::Cmd_ApplySkin_Click);
@@ -176,6 +178,8 @@ void frmMain::BaueMenue() {
         connect(NeuerEintrag(m_menue, name, text), &QAction::triggered, this, handler);
     }
     BaueInfomenue();
+    connect(NeuerEintrag(m_menue, "mnuWerkbank", "&Werkbank"), &QAction::triggered, this,
+            &frmMain::mnuWerkbank_Click);
 }
 
 void frmMain::BaueDateimenue() {
@@ -253,22 +257,43 @@ void frmMain::mnu_DOnate_Click() {
     ZeigeEinmaliges(m_frmDonate, m_umgebung);
 }
 
+void frmMain::mnuWerkbank_Click() {
+    if (!m_frmWerkbank) {
+        m_frmWerkbank = std::make_unique<frmWerkbank>(m_plan, m_verlauf, m_umgebung);
+        m_frmWerkbank->SetzeBilder(m_Fra_Rest->Itembilder());
+        connect(m_frmWerkbank.get(), &frmWerkbank::Umgestellt, this,
+                [this](const Listenverlauf::Tags& tags) {
+                    m_verlauf.Merke(m_plan.Liste.Tags(), tags);
+                    StelleZeilen(tags);
+                });
+        connect(m_frmWerkbank.get(), &frmWerkbank::ZurueckGewuenscht, this, &frmMain::NimmZurueck);
+        connect(m_frmWerkbank.get(), &frmWerkbank::VorGewuenscht, this,
+                &frmMain::WiederholeZurueckgenommenes);
+    }
+    m_frmWerkbank->Oeffne(m_konfiguration);
+}
+
+void frmMain::ZeigeSkin(Byte mode, const std::string& pfad) {
+    ApplySkin(mode, pfad, *m_Fra_Rest, m_umgebung.Programmordner);
+    if (m_frmWerkbank) {
+        m_frmWerkbank->SetzeBilder(m_Fra_Rest->Itembilder());
+    }
+}
+
 void frmMain::Cmd_ApplySkin_Click() {
     const Byte quelle = m_Fra_Skin->Quelle();
     QLineEdit& pfad = *m_Fra_Skin->txt_Pfad;
     if (quelle == kWebskin) {
         const auto ordner = m_umgebung.Programmordner / "img" / "skins" / kLandeordner;
-        ApplySkin(kWebskin, {}, *m_Fra_Rest, m_umgebung.Programmordner);
+        ZeigeSkin(kWebskin, {});
         const auto ausgang = HoleWebskin(pfad.text().toStdString(), ordner, m_umgebung,
                                          [this] { return !IstGeschlossen(); });
-        ApplySkin(ausgang == Webskinausgang::AmEnde ? kLokalerSkin : kStandardskin, kLandeordner,
-                  *m_Fra_Rest, m_umgebung.Programmordner);
+        ZeigeSkin(ausgang == Webskinausgang::AmEnde ? kLokalerSkin : kStandardskin, kLandeordner);
         if (pfad.text().endsWith(QLatin1Char('/'))) {
             pfad.setText(pfad.text().chopped(1));
         }
     } else {
-        ApplySkin(quelle, m_Fra_Skin->Comb_Skins->currentText().toStdString(), *m_Fra_Rest,
-                  m_umgebung.Programmordner);
+        ZeigeSkin(quelle, m_Fra_Skin->Comb_Skins->currentText().toStdString());
     }
     m_Fra_Skin->hide();
 }
@@ -315,10 +340,70 @@ void frmMain::Img_MouseMove(const Itemplatz& platz) {
     platz.Bild->SetzeGate(HoverInfo(platz.Item, m_plan.Liste.Auftraege(), m_lauf.Bedingungen));
 }
 
+template <class Tat>
+void frmMain::BearbeiteListe(Tat tat) {
+    const auto vorher = m_plan.Liste.Tags();
+    tat(m_plan.Liste);
+    m_verlauf.Merke(vorher, m_plan.Liste.Tags());
+}
+
+void frmMain::NimmZurueck() {
+    if (m_verlauf.HatVorige()) {
+        StelleZeilen(m_verlauf.Zurueck(m_plan.Liste.Tags()));
+    }
+}
+
+void frmMain::WiederholeZurueckgenommenes() {
+    if (m_verlauf.HatNaechste()) {
+        StelleZeilen(m_verlauf.Vor(m_plan.Liste.Tags()));
+    }
+}
+
+void frmMain::StelleZeilen(const Listenverlauf::Tags& tags) {
+    // The factor texts are those of the run that follows.
+    m_lauf.Bedingungen.Temperatur =
+        LiesTemperatur(m_plan.Parameter).value_or(m_lauf.Bedingungen.Temperatur);
+    m_plan.Liste.Setze(tags, m_lauf.Bedingungen);
+    m_Fra_Rest->ZeigeListe();
+    SpieleStill();
+    ZeigeInWerkbank();
+}
+
+// What a run would tell in boxes stands in the workbench.
+void frmMain::SpieleStill() {
+    Chk_Speedfaktor_Click();
+    const auto bedingungen = LiesStartbedingungen(m_plan);
+    if (const auto* const gute = std::get_if<Startbedingungen>(&bedingungen)) {
+        m_lauf.Beginne(*gute);
+        m_texte.NachReset();
+        std::vector<Meldung> meldungen;
+        Meldungsliste liste(meldungen);
+        RunSimulation(m_plan.Liste.Auftraege().Alle(), m_lauf, liste);
+        m_texte.NachLauf(m_lauf.Stand);
+    } else if (m_plan.Liste.Auftraege().IstLeer()) {
+        m_lauf.ResetSimulation(m_plan.Parameter);
+        m_texte.NachReset();
+        m_texte.NachClear();
+    }
+    m_Fra_Rest->Zeige(m_texte);
+    m_Fra_Rest->ZeigeBauzeiten();
+}
+
+void frmMain::ZeigeInWerkbank() {
+    if (m_frmWerkbank) {
+        m_frmWerkbank->ZeigePlan();
+    }
+}
+
 void frmMain::LV_Bauliste_DragDrop(const QString& Source) {
     const auto item = ItemVonBild(Source.toStdString());
-    const auto meldung = item ? m_plan.Liste.AddItem(*item, m_lauf.Bedingungen)
-                              : Meldung{.Text = "KA", .Titel = "", .Symbol = Meldungssymbol::Ohne};
+    std::optional<Meldung> meldung;
+    if (item) {
+        BearbeiteListe(
+            [&](Bauliste& liste) { meldung = liste.AddItem(*item, m_lauf.Bedingungen); });
+    } else {
+        meldung = Meldung{.Text = "KA", .Titel = "", .Symbol = Meldungssymbol::Ohne};
+    }
     if (meldung) {
         // A box would come up inside the drag; it waits until the pointer is free.
         QTimer::singleShot(0, this, [this, text = *meldung] { m_umgebung.Boxen.Zeige(text); });
@@ -328,8 +413,11 @@ void frmMain::LV_Bauliste_DragDrop(const QString& Source) {
 }
 
 void frmMain::Cmd_AddProdaenderungsevent_Click() {
-    if (const auto meldung =
-            m_plan.Liste.AddProdaenderungsevent(m_Fra_Special->Faktoren(), m_lauf.Bedingungen)) {
+    std::optional<Meldung> meldung;
+    BearbeiteListe([&](Bauliste& liste) {
+        meldung = liste.AddProdaenderungsevent(m_Fra_Special->Faktoren(), m_lauf.Bedingungen);
+    });
+    if (meldung) {
         m_umgebung.Boxen.Zeige(*meldung);
         return;
     }
@@ -339,18 +427,21 @@ void frmMain::Cmd_AddProdaenderungsevent_Click() {
 void frmMain::ZeigeNeueZeile() {
     m_Fra_Rest->ZeigeListe();
     m_Fra_Rest->MacheLetzteSichtbar();
+    ZeigeInWerkbank();
 }
 
 void frmMain::Cmd_Undo_Click() {
-    m_plan.Liste.Undo();
+    BearbeiteListe([](Bauliste& liste) { liste.Undo(); });
     m_Fra_Rest->ZeigeListe();
+    ZeigeInWerkbank();
 }
 
 void frmMain::Cmd_Clear_Click() {
-    m_plan.Liste.Clear();
+    BearbeiteListe([](Bauliste& liste) { liste.Clear(); });
     m_texte.NachClear();
     m_Fra_Rest->ZeigeListe();
     m_Fra_Rest->Zeige(m_texte);
+    ZeigeInWerkbank();
 }
 
 void frmMain::Cmd_Simulate_Click() {

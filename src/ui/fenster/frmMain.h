@@ -12,6 +12,7 @@
 
 #include "persistence/Autosave.h"
 #include "persistence/Konfiguration.h"
+#include "plan/Listenverlauf.h"
 #include "plan/Plan.h"
 #include "simulation/Ergebnistexte.h"
 #include "simulation/RunSimulation.h"
@@ -25,6 +26,7 @@
 #include "ui/fenster/Menueleiste.h"
 #include "ui/fenster/frmAbout.h"
 #include "ui/fenster/frmDonate.h"
+#include "ui/werkbank/frmWerkbank.h"
 
 namespace tarvelin {
 
@@ -96,6 +98,7 @@ class frmMain : public QMainWindow {
     void mnu_UpdateCheck_Click();
     void mnuAbout_TV_Click();
     void mnu_DOnate_Click();
+    void mnuWerkbank_Click();
     void Cmd_ApplySkin_Click();
 
     void BringeNachVorn(QWidget& feld);
@@ -112,6 +115,16 @@ class frmMain : public QMainWindow {
     void Cmd_Clear_Click();
     void Cmd_Simulate_Click();
     void Chk_Speedfaktor_Click();
+    /// Edits the list by hand, so that the workbench can take it back.
+    template <class Tat>
+    void BearbeiteListe(Tat tat);
+    void NimmZurueck();
+    void WiederholeZurueckgenommenes();
+    /// Gives the plan rows that the workbench made, and runs it without a box.
+    void StelleZeilen(const Listenverlauf::Tags& tags);
+    void SpieleStill();
+    void ZeigeInWerkbank();
+    void ZeigeSkin(Byte mode, const std::string& pfad);
     /// What a run can begin with; nothing, with a message, if it can't.
     std::optional<Startbedingungen> PruefeEingaben(bool silent);
     void ZeigeNeueZeile();
@@ -123,6 +136,7 @@ class frmMain : public QMainWindow {
     Autosave m_autosave;
     QTimer m_Tmr_Autosave{this};
     Plan m_plan;
+    Listenverlauf m_verlauf;
     Lauf m_lauf;
     Ergebnistexte m_texte;
 
@@ -142,6 +156,7 @@ class frmMain : public QMainWindow {
     /// Windows of their own, made at their first use.
     std::unique_ptr<frmAbout> m_frmAbout;
     std::unique_ptr<frmDonate> m_frmDonate;
+    std::unique_ptr<frmWerkbank> m_frmWerkbank;
     Abschnitt m_abschnitt = Abschnitt::Vorher;
 };
 

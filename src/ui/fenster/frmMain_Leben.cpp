@@ -76,8 +76,7 @@ void frmMain::LiesSkin() {
     const Byte mode = m_konfiguration.Skinmodus();
     m_Fra_Skin->txt_Pfad->setText(AlsQString(m_konfiguration.Lies(Konfiguration::kWebPath)));
     m_Fra_Skin->WaehleQuelle(mode);
-    ApplySkin(mode == kWebskin ? kLokalerSkin : mode, m_konfiguration.Lies(Konfiguration::kPath),
-              *m_Fra_Rest, m_umgebung.Programmordner);
+    ZeigeSkin(mode == kWebskin ? kLokalerSkin : mode, m_konfiguration.Lies(Konfiguration::kPath));
 }
 
 bool frmMain::StelleWiederHer(const std::optional<Profil>& letzter) {
@@ -130,6 +129,9 @@ void frmMain::Form_Unload(Abschnitt bisher) {
     m_alarme->Verstumme();
     m_umgebung.Netz.BrichAb();
     Behalte(bisher);
+    if (m_frmWerkbank) {
+        m_frmWerkbank->hide();
+    }
 }
 
 void frmMain::Sichere() {
@@ -157,6 +159,10 @@ void frmMain::Behalte(Abschnitt stand) {
         werte.emplace_back(Konfiguration::kItemCount,
                            std::to_string(m_plan.Liste.Auftraege().Zahl()));
     }
+    if (m_frmWerkbank) {
+        const auto lage = m_frmWerkbank->Lage();
+        werte.insert(werte.end(), lage.begin(), lage.end());
+    }
     static_cast<void>(m_konfiguration.Schreibe(werte));
     if (mitPlan) {
         m_autosave.SchreibeZuletzt(m_plan);
@@ -168,6 +174,8 @@ void frmMain::mnu_DateiNeu_Click() {
     m_texte.NachReset();
     m_Fra_Rest->ZeigeBauzeiten();
     Cmd_Clear_Click();
+    m_verlauf.Leere();
+    ZeigeInWerkbank();
     m_Fra_Einstellungen->show();
     m_Fra_Skin->hide();
     m_Fra_Sleep->hide();
@@ -204,8 +212,12 @@ bool frmMain::LoadBauliste(const std::optional<Profil>& profil, const std::files
     Cmd_Clear_Click();
     Standmeldungen meldungen([this] { ZeigePlan(); }, m_umgebung.Boxen);
     if (!LadePlan(*profil, m_plan, m_lauf.Bedingungen, meldungen)) {
+        // The rows that were there can be had back.
+        m_verlauf.Merke({}, m_plan.Liste.Tags());
+        ZeigeInWerkbank();
         return false;
     }
+    m_verlauf.Leere();
     ZeigePlan();
     // The toolkit takes the lone sign for a place of its own.
     setWindowTitle(

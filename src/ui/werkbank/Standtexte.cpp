@@ -1,0 +1,111 @@
+// Words for moments and states.
+#include "ui/werkbank/Standtexte.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "model/Itemtabelle.h"
+#include "simulation/Bauzeit.h"
+#include "util/Nuetzliches.h"
+
+namespace tarvelin {
+
+namespace {
+
+std::string Dauer(Long sekunden) {
+    return FormatDuration(sekunden, "s", "hh:mm:ss", "d");
+}
+
+constexpr Long kTag = 86400;
+
+std::string MitTagen(Long sekunden) {
+    const Long tage = sekunden / kTag;
+    return (tage > 0 ? std::to_string(tage) + (tage == 1 ? " Tag " : " Tage ") : "") +
+           Dauer(sekunden % kTag);
+}
+
+std::string Vorratstext(const Ablauf& ablauf, Moment moment) {
+    struct Name {
+        Rohstoff Was;
+        const char* Text;
+    };
+    const Verlaufspunkt& punkt = PunktUm(ablauf.Kurve, moment);
+    const auto vorrat = VorratNach(punkt, std::max(Long{0}, moment - punkt.Zeit));
+    std::string text;
+    for (const auto& [was, name] :
+         {Name{Rohstoff::Metall, "Metall"}, Name{Rohstoff::Kristall, "Kristall"},
+          Name{Rohstoff::Deuterium, "Deuterium"}}) {
+        text += std::string("   ") + name + ": " + std::to_string(vorrat[was].GanzerTeil()) + " (" +
+                Dezimaltext(punkt.ProStunde[was]) + "/h)";
+    }
+    const Long frei = LongSumme(punkt.EnergieProduktion, -std::int64_t{punkt.EnergieVerbrauch});
+    return text + "   Energie: " + std::to_string(frei) + " / " +
+           std::to_string(punkt.EnergieProduktion);
+}
+
+std::string Stufentext(const Verlaufspunkt& punkt) {
+    std::string text;
+    for (const Itemzeile& zeile : Itemtabelle()) {
+        if (const Byte stufe = punkt.Stufen[zeile.Item]; stufe > 0) {
+            text += (text.empty() ? "" : ", ") + std::string(zeile.Hovername) + " " +
+                    std::to_string(stufe);
+        }
+    }
+    return text;
+}
+
+}  // namespace
+
+std::string Auftragstext(const Startereignis& start) {
+    if (start.Order.Was != Auftrag::Art::Item) {
+        return Bauzeit{.Order = start.Order}.theText();
+    }
+    const Itemzeile& zeile = ZeileVon(start.Order.Item);
+    const std::string name(zeile.Hovername);
+    return zeile.Besonders.MitNummer ? name + " " + std::to_string(start.Nummer) : name;
+}
+
+std::string Zeittext(Zeitpunkt zeitpunkt) {
+    const std::string datum = Datumtext(zeitpunkt);
+    return std::string(WochentagKurz(zeitpunkt)) + " " + datum.substr(0, datum.rfind('.') + 1) +
+           " " + Uhrzeittext(zeitpunkt);
+}
+
+std::string Standtext(const Ablauf& ablauf, Moment moment) {
+    return Zeittext(ablauf.Bedingungen.Uhrzeit(moment)) + "   (nach " +
+           MitTagen(moment.Sekunden()) + ")" + Vorratstext(ablauf, moment) + "\n" +
+           Stufentext(PunktUm(ablauf.Kurve, moment));
+}
+
+std::string Aenderungstext(Long sekunden) {
+    return (sekunden < 0 ? "-" : sekunden > 0 ? "+" : "±") + MitTagen(std::abs(sekunden));
+}
+
+std::optional<std::string> NaechsterAuftrag(const Ablauf& ablauf, Zeitpunkt jetzt) {
+    const Startbedingungen& bedingungen = ablauf.Bedingungen;
+    if (jetzt < bedingungen.StartDate || jetzt > bedingungen.Uhrzeit(ablauf.Dauer())) {
+        return std::nullopt;
+    }
+    const auto naechster = std::ranges::find_if(ablauf.Starts, [&](const Startereignis& start) {
+        return bedingungen.Uhrzeit(start.Start) >= jetzt;
+    });
+    if (naechster == ablauf.Starts.end()) {
+        return "alle Aufträge sind gegeben";
+    }
+    const Zeitpunkt um = bedingungen.Uhrzeit(naechster->Start);
+    return Auftragstext(*naechster) + " um " + Uhrzeittext(um) + ", in " + MitTagen(um - jetzt);
+}
+
+std::string Meldungszeile(const std::vector<Meldung>& meldungen) {
+    constexpr std::size_t kGezeigte = 2;
+    std::string text;
+    for (std::size_t i = 0; i < std::min(kGezeigte, meldungen.size()); ++i) {
+        text += (i == 0 ? "" : "\n") + meldungen[i].Text;
+    }
+    if (meldungen.size() > kGezeigte) {
+        text += "\n... und " + std::to_string(meldungen.size() - kGezeigte) + " weitere";
+    }
+    return text;
+}
+
+}  // namespace tarvelin

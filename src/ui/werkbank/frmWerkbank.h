@@ -1,0 +1,107 @@
+// The workbench: the plan as a picture and as a list that can be edited in the middle.
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+#include <QWidget>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "persistence/Konfiguration.h"
+#include "plan/Listenverlauf.h"
+#include "plan/Plan.h"
+#include "plan/Umstellung.h"
+#include "simulation/Ablauf.h"
+#include "ui/dienste/Sekundentakt.h"
+#include "ui/dienste/Umgebung.h"
+#include "ui/werkbank/Auftragsansicht.h"
+#include "ui/werkbank/Itempalette.h"
+#include "ui/werkbank/Zeitleiste.h"
+
+namespace tarvelin {
+
+/// Shows a plan that another window owns, and a run of it that it plays for itself. It changes
+/// nothing of the plan: it tells what it is to be.
+class frmWerkbank : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// All of them must outlive it.
+    frmWerkbank(const Plan& plan, const Listenverlauf& verlauf, const Umgebung& umgebung);
+
+    /// The plan has changed; plays it anew, if the window is open.
+    void ZeigePlan();
+    void SetzeBilder(const JeItem<QPixmap>& bilder);
+
+    /// Opens the window where `konfiguration` says, the first time, or brings it to the front.
+    void Oeffne(const Konfiguration& konfiguration);
+    /// Size and place for the next start.
+    [[nodiscard]] Konfiguration::Werte Lage() const;
+
+  signals:
+    /// The rows that the plan is to have.
+    void Umgestellt(const std::vector<std::string>& tags);
+    void ZurueckGewuenscht();
+    void VorGewuenscht();
+
+  protected:
+    bool event(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+  private:
+    void LegeAus();
+    QPushButton* NeuerBefehl(const char* name, const char* text, const QKeySequence& taste,
+                             void (frmWerkbank::*handler)());
+    void Verbinde();
+    void FolgeDesktop();
+    void Spiele();
+    void ZeigeFuss();
+    void ZeigeAuswahl();
+    void ZeigeEinwaende();
+    void ZeigeZeiger(std::optional<Moment> moment);
+    void Ticke();
+    void Melde(const std::string& text);
+
+    /// Carries an edit out, after which these rows are chosen, or tells why it can't be.
+    void Stelle(const Umstellung& umstellung, std::vector<std::size_t> auswahl);
+    /// Makes one of an edit of the chosen rows, which stay so.
+    template <class Schritt>
+    void Bearbeite(Schritt schritt);
+    void Hoch();
+    void Runter();
+    void Loesche();
+    void Verdopple();
+    void FuegeEin(std::string_view tag, std::size_t vor);
+    void BildSpeichern();
+    /// In front of which row a new one goes: the first that is chosen, or behind the last.
+    [[nodiscard]] std::size_t Einfuegestelle() const;
+    [[nodiscard]] Tabellenmodell::Quelle Listenquelle() const;
+    [[nodiscard]] std::string Zellentext(std::size_t zeile, int spalte) const;
+
+    const Plan& m_plan;
+    const Listenverlauf& m_verlauf;
+    const Umgebung& m_umgebung;
+    /// Nothing, with the reason in the strip, if the plan can't be run.
+    std::optional<Ablauf> m_ablauf;
+    std::optional<Long> m_aenderung;
+    /// Which rows are to be chosen when the plan comes back from an edit.
+    std::optional<std::vector<std::size_t>> m_naechsteAuswahl;
+
+    QLabel* m_LBL_Meldung;
+    Auftragsansicht* m_liste;
+    Itempalette* m_palette;
+    Zeitleiste* m_zeitleiste;
+    QLabel* m_LBL_Stand;
+    QLabel* m_LBL_Dauer;
+    QLabel* m_LBL_Aenderung;
+    QLabel* m_LBL_Naechster;
+    QPushButton* m_zurueck = nullptr;
+    QPushButton* m_vor = nullptr;
+    std::vector<QPushButton*> m_befehle;
+    Sekundentakt m_takt{QStringLiteral("Tmr_Werkbank"), this};
+    bool m_warOffen = false;
+};
+
+}  // namespace tarvelin
