@@ -11,6 +11,7 @@
 #include "persistence/Schreibschutz.h"
 #include "ui/bauteile/Aussehen.h"
 #include "ui/bauteile/Bauteile.h"
+#include "ui/dienste/Desktopfarben.h"
 #include "ui/dienste/Endesignale.h"
 #include "ui/dienste/Klangausgabe.h"
 #include "ui/dienste/Meldungsfenster.h"
@@ -57,6 +58,7 @@ int main(int /*argc*/, char** argv) {
     // The toolkit would take arguments of its own.
     int anzahl = 1;
     QApplication programm(anzahl, argv);
+    const tarvelin::Desktopfarben desktop(QApplication::palette());
     tarvelin::StelleAussehenEin(programm);
     // The toolkit's file dialog would keep a history of folders in the user's settings.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
@@ -74,6 +76,7 @@ int main(int /*argc*/, char** argv) {
         .OeffneSeite = OeffneSeite,
         .Programmordner = ordner.Ordner,
         .Dateien = ordner.KannBehalten ? tarvelin::Platte() : schutz,
+        .Desktopfarben = [&desktop] { return desktop.Farben(); },
         .Starthinweis = ordner.KannBehalten ? std::nullopt : std::optional(OhneNutzerordner())};
     tarvelin::frmMain fenster(umgebung);
     // Whatever is open closes with the window, and every event loop ends.

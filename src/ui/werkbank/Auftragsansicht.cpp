@@ -3,6 +3,7 @@
 
 #include <QDrag>
 #include <QDragEnterEvent>
+#include <QFontMetrics>
 #include <QItemSelection>
 #include <QMimeData>
 #include <QPainter>
@@ -15,6 +16,18 @@ namespace tarvelin {
 namespace {
 
 const QString kZeilen = QStringLiteral("application/x-tarvelin-zeilen");
+
+/// As wide as what usually stands in the columns.
+std::vector<int> Spaltenbreiten() {
+    std::vector<int> breiten;
+    const QFontMetrics mass{QFont()};
+    for (const char* const text :
+         {"254 ", "Raumschiffwerft Stufe: 10 ", "Mo 20.11. 00:00:00 ", "Mo 20.11. 00:00:00 ",
+          "Schlafzeit 20:00:00 bis 08:00:00 ", "Prod % "}) {
+        breiten.push_back(mass.horizontalAdvance(QString::fromLatin1(text)));
+    }
+    return breiten;
+}
 
 /// Rows that can be dragged.
 class Zeilenmodell : public Tabellenmodell {
@@ -30,8 +43,7 @@ class Zeilenmodell : public Tabellenmodell {
 }  // namespace
 
 Auftragsansicht::Auftragsansicht(const Tabellenmodell::Quelle& quelle, QWidget* parent)
-    : Liste(QStringLiteral("LV_Werkbank"), QStringLiteral("Aufträge"), {5, 24, 18, 18, 32, 7},
-            parent),
+    : Liste(QStringLiteral("LV_Werkbank"), QStringLiteral("Aufträge"), Spaltenbreiten(), parent),
       m_modell(new Zeilenmodell(
           {QStringLiteral("Nr."), QStringLiteral("Auftrag"), QStringLiteral("Start"),
            QStringLiteral("Fertig"), QStringLiteral("Grund"), QStringLiteral("Prod %")},

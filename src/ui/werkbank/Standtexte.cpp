@@ -72,8 +72,8 @@ std::string Zeittext(Zeitpunkt zeitpunkt) {
 }
 
 std::string Standtext(const Ablauf& ablauf, Moment moment) {
-    return Zeittext(ablauf.Bedingungen.Uhrzeit(moment)) + "   (nach " +
-           MitTagen(moment.Sekunden()) + ")" + Vorratstext(ablauf, moment) + "\n" +
+    return Zeittext(ablauf.Bedingungen.Uhrzeit(moment)) +
+           "   Spielzeit: " + MitTagen(moment.Sekunden()) + Vorratstext(ablauf, moment) + "\n" +
            Stufentext(PunktUm(ablauf.Kurve, moment));
 }
 

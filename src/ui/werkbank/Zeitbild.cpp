@@ -40,7 +40,7 @@ qreal Bilanz(const Verlaufspunkt& punkt) {
 
 struct Bereich {
     qreal Von = 0;
-    qreal Bis = 1;
+    qreal Bis = 0;
 
     void Nimm(qreal wert) {
         Von = std::min(Von, wert);
@@ -48,7 +48,7 @@ struct Bereich {
     }
     /// The height of a value in a field.
     [[nodiscard]] qreal Y(qreal wert, const QRectF& feld) const {
-        return feld.bottom() - (wert - Von) / (Bis - Von) * feld.height();
+        return feld.bottom() - (wert - Von) / std::max(1.0, Bis - Von) * feld.height();
     }
 };
 
@@ -100,6 +100,20 @@ class Zeitbild::Maler {
     }
     [[nodiscard]] bool InSicht(qreal von, qreal bis) const {
         return bis >= m_links && von <= m_rechts;
+    }
+
+    /// Words at the left of what is in sight, on a ground that keeps them apart from what lies
+    /// below. Where they end.
+    qreal MaleWort(qreal x, qreal oben, const QString& wort, const QColor& farbe) {
+        const QFontMetricsF mass(m_bild.m_schrift);
+        const QRectF platz(x, oben, mass.horizontalAdvance(wort), mass.height());
+        QColor grund = m_bild.m_farben.Grund;
+        constexpr int kDeckung = 190;
+        grund.setAlpha(kDeckung);
+        m_painter.fillRect(platz, grund);
+        m_painter.setPen(farbe);
+        m_painter.drawText(QPointF(x, oben + mass.ascent()), wort);
+        return platz.right();
     }
 
     void MaleSpuren() {
@@ -235,15 +249,17 @@ class Zeitbild::Maler {
         m_painter.drawPolyline(linie);
     }
 
-    void MaleFeld(const QRectF& feld, const Bereich& bereich, const QString& name) {
+    /// The line of nothing, and the words of a field; where they end.
+    qreal MaleFeld(const QRectF& feld, const Bereich& bereich, const QString& name) {
         m_painter.setPen(m_bild.m_farben.Linie);
         const qreal null = bereich.Y(0, feld);
         m_painter.drawLine(QPointF(m_links, null), QPointF(m_rechts, null));
-        const QFontMetricsF mass(m_bild.m_schrift);
-        m_painter.setPen(m_bild.m_farben.Text);
-        m_painter.drawText(
-            QPointF(m_links + kRand, feld.top() + mass.ascent()),
-            name + QStringLiteral(" (bis %1)").arg(std::floor(bereich.Bis), 0, 'f', 0));
+        const QString ab = bereich.Von < 0
+                               ? QStringLiteral(" von %1").arg(std::ceil(bereich.Von), 0, 'f', 0)
+                               : QString();
+        const QString wort =
+            name + ab + QStringLiteral(" bis %1 ").arg(std::floor(bereich.Bis), 0, 'f', 0);
+        return MaleWort(m_links + kRand, feld.top(), wort, m_bild.m_farben.Text);
     }
 
     void MaleVorraete() {
@@ -261,20 +277,11 @@ class Zeitbild::Maler {
                       [r](const Verlaufspunkt& p, Moment um) { return Vorratszahl(p, um, r); });
         }
         m_painter.setRenderHint(QPainter::Antialiasing, false);
-        MaleFeld(feld, bereich, {});
-        MaleSchluessel(feld);
-    }
-
-    /// Which colour is which resource.
-    void MaleSchluessel(const QRectF& feld) {
-        const QFontMetricsF mass(m_bild.m_schrift);
-        qreal x = m_links + kRand + mass.horizontalAdvance(QStringLiteral(" (bis 100000000) "));
+        qreal x = MaleFeld(feld, bereich, QStringLiteral("Vorräte"));
         for (const auto& [r, name] :
-             {std::pair(Rohstoff::Metall, "Metall  "), std::pair(Rohstoff::Kristall, "Kristall  "),
-              std::pair(Rohstoff::Deuterium, "Deuterium")}) {
-            m_painter.setPen(m_bild.m_farben.Vorrat[r]);
-            m_painter.drawText(QPointF(x, feld.top() + mass.ascent()), QString::fromLatin1(name));
-            x += mass.horizontalAdvance(QString::fromLatin1(name));
+             {std::pair(Rohstoff::Metall, "  Metall"), std::pair(Rohstoff::Kristall, "  Kristall"),
+              std::pair(Rohstoff::Deuterium, "  Deuterium ")}) {
+            x = MaleWort(x, feld.top(), QString::fromLatin1(name), m_bild.m_farben.Vorrat[r]);
         }
     }
 
@@ -298,15 +305,12 @@ class Zeitbild::Maler {
         MaleFeld(feld, bereich, QStringLiteral("Energie"));
     }
 
-    /// The names of the lanes stay at the left, whatever is in sight.
     void MaleNamen() {
-        const QFontMetricsF mass(m_bild.m_schrift);
+        const qreal hoehe = QFontMetricsF(m_bild.m_schrift).height();
         for (const Spur& spur : kSpuren) {
-            const QRectF flaeche = m_bild.Spurflaeche(spur.Queue);
-            const QString name = QString::fromUtf8(spur.Name);
-            m_painter.setPen(m_bild.m_farben.Linie);
-            m_painter.drawText(QPointF(m_links + kRand, flaeche.bottom() - mass.descent() + 1),
-                               name);
+            const qreal unten = m_bild.Spurflaeche(spur.Queue).bottom();
+            MaleWort(m_links + kRand, unten - hoehe, QString::fromUtf8(spur.Name),
+                     m_bild.m_farben.Linie);
         }
     }
 

@@ -30,7 +30,22 @@ namespace {
 /// Of the list, from the left.
 enum Spalte { kNummer, kAuftrag, kStart, kFertig, kGrund, kFaktor };
 
-constexpr QSize kGroesse(1100, 700);
+/// Of the window at first, in heights of a line.
+constexpr QSize kZeilen(74, 46);
+
+/// A palette whose every colour counts, whatever the program's own says.
+QPalette AlsEigene(const QPalette& farben) {
+    QPalette eigene;
+    for (const auto gruppe : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        for (int rolle = 0; rolle < QPalette::NColorRoles; ++rolle) {
+            if (rolle != QPalette::NoRole) {
+                const auto name = static_cast<QPalette::ColorRole>(rolle);
+                eigene.setBrush(gruppe, name, farben.brush(gruppe, name));
+            }
+        }
+    }
+    return eigene;
+}
 
 QLabel* NeueZeile(const char* name, const char* bedeutung, QWidget* parent) {
     QLabel* const label = NeuesLabel(QString::fromLatin1(name), {}, parent);
@@ -156,7 +171,7 @@ void frmWerkbank::Verbinde() {
 
 void frmWerkbank::FolgeDesktop() {
     const QPalette farben = m_umgebung.Desktopfarben();
-    setPalette(farben);
+    setPalette(AlsEigene(farben));
     setFont(QFontDatabase::systemFont(QFontDatabase::GeneralFont));
     m_zeitleiste->SetzeAussehen(farben, font());
 }
@@ -189,8 +204,9 @@ void frmWerkbank::Oeffne(const Konfiguration& konfiguration) {
             return zahl ? std::optional(static_cast<int>(*zahl)) : std::nullopt;
         };
         const QSize raum = QGuiApplication::primaryScreen()->availableSize();
-        resize(QSize(lies(Konfiguration::kWerkbankBreite).value_or(kGroesse.width()),
-                     lies(Konfiguration::kWerkbankHoehe).value_or(kGroesse.height()))
+        const QSize ersteGroesse = kZeilen * fontMetrics().height();
+        resize(QSize(lies(Konfiguration::kWerkbankBreite).value_or(ersteGroesse.width()),
+                     lies(Konfiguration::kWerkbankHoehe).value_or(ersteGroesse.height()))
                    .boundedTo(raum)
                    .expandedTo(QSize(1, 1)));
         const auto links = lies(Konfiguration::kWerkbankLinks);
@@ -384,7 +400,12 @@ Tabellenmodell::Quelle frmWerkbank::Listenquelle() const {
                 },
             .Beschreibung =
                 [this](std::size_t zeile) {
-                    return AlsQString(m_ablauf ? Wartetext(*m_ablauf, zeile) : "");
+                    // Narrow columns cut their texts.
+                    std::string text = Zellentext(zeile, kAuftrag);
+                    for (const int spalte : {kStart, kFertig, kGrund}) {
+                        text += "\n" + Zellentext(zeile, spalte);
+                    }
+                    return AlsQString(text).trimmed();
                 }};
 }
 

@@ -1,0 +1,13 @@
+// What the user has asked all programs of his desktop for: light or dark windows.
+#pragma once
+
+#include <QObject>
+#include <functional>
+
+namespace tarvelin {
+
+/// Tells whether the desktop asks for dark windows, some time after the call, and again whenever
+/// that changes, as long as `kontext` lives. Where no desktop answers nothing is told.
+void BeobachteFarbwunsch(QObject* kontext, std::function<void(bool dunkel)> melde);
+
+}  // namespace tarvelin
