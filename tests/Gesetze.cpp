@@ -6,6 +6,7 @@
 #include <limits>
 #include <map>
 #include <numeric>
+#include <random>
 #include <sstream>
 #include <vector>
 
@@ -14,6 +15,10 @@
 #include "model/Kosten.h"
 #include "model/Planet.h"
 #include "persistence/Planablage.h"
+#include "plan/Listenverlauf.h"
+#include "plan/Regeln.h"
+#include "plan/Umstellung.h"
+#include "simulation/Ablauf.h"
 #include "simulation/RunSimulation.h"
 #include "simulation/Simulation.h"
 #include "simulation/Verlauf.h"
@@ -157,6 +162,68 @@ Simulation LaufBis(std::span<const Auftrag> auftraege, std::size_t n,
         lauf.Schritt(stumm);
     }
     return lauf;
+}
+
+/// How many rows the rules wouldn't let be where they stand.
+std::size_t Regelbrueche(const std::vector<std::string>& tags) {
+    std::size_t brueche = 0;
+    Auftragsliste liste;
+    for (const std::string& tag : tags) {
+        const Auftrag order = Auftrag::AusTag(tag);
+        if (order.Was == Auftrag::Art::Item && Absage(order.Item, liste)) {
+            ++brueche;
+        }
+        liste.HaengeAn(order);
+    }
+    return brueche;
+}
+
+/// Some edit of some rows.
+Umstellung Irgendeine(const Bauliste& liste, std::minstd_rand& zufall) {
+    const std::size_t zeilen = liste.Zeilen().size();
+    std::vector<std::size_t> gewaehlt;
+    for (std::size_t i = 0; i < zeilen; ++i) {
+        if (zufall() % zeilen < 2) {
+            gewaehlt.push_back(i);
+        }
+    }
+    Umstellung umstellung(liste);
+    const std::size_t stelle = zufall() % (zeilen + 1);
+    switch (zufall() % 7) {
+        case 0:
+            umstellung.Hoch(gewaehlt);
+            break;
+        case 1:
+            umstellung.Runter(gewaehlt);
+            break;
+        case 2:
+            umstellung.StelleVor(stelle, gewaehlt);
+            break;
+        case 3:
+            umstellung.Loesche(gewaehlt);
+            break;
+        case 4:
+            umstellung.Verdopple(gewaehlt);
+            break;
+        case 5:
+            umstellung.FuegeEin(stelle, "GX:1:2:3");
+            break;
+        default:
+            umstellung.FuegeEin(stelle, Itemtabelle()[zufall() % kItemAnzahl].Code);
+    }
+    return umstellung;
+}
+
+/// What dropping rows one by one gives.
+Bauliste Nacheinander(const std::vector<std::string>& tags, const Startbedingungen& bedingungen) {
+    Bauliste liste;
+    for (const std::string& tag : tags) {
+        const Auftrag order = Auftrag::AusTag(tag);
+        static_cast<void>(order.Was == Auftrag::Art::Item
+                              ? liste.AddItem(order.Item, bedingungen)
+                              : liste.AddProdaenderungsevent(order.Faktoren, bedingungen));
+    }
+    return liste;
 }
 
 }  // namespace
@@ -336,9 +403,85 @@ Befund PruefeWiederholung(const Plan& plan) {
     return JsonText(lauf) == einmal ? "" : "a second run has another result";
 }
 
+Befund PruefeKurve(const Plan& plan) {
+    if (plan.Liste.Auftraege().IstLeer()) {
+        return {};
+    }
+    const Startbedingungen bedingungen = BedingungenVon(plan);
+    const Ablauf ablauf = SpieleAb(plan.Liste.Auftraege().Alle(), bedingungen);
+    Simulation simulation(plan.Liste.Auftraege().Alle(), bedingungen);
+    Mitschrift lauf;
+    lauf.NachSchritt(simulation.Stand());
+    simulation.Laufe(lauf);
+    const auto nachZeit = [](const Verlaufspunkt& a, const Verlaufspunkt& b) {
+        return a.Zeit >= b.Zeit;
+    };
+    if (std::ranges::adjacent_find(ablauf.Kurve, nachZeit) != ablauf.Kurve.end()) {
+        return "the curve goes back in time";
+    }
+    for (std::size_t i = 0; i < lauf.Staende.size(); ++i) {
+        const Moment um = lauf.Staende[i].secsgone;
+        // The run goes on from the last state that isn't behind the moment: those after it are.
+        std::size_t letzter = i;
+        for (std::size_t j = i + 1; j < lauf.Staende.size(); ++j) {
+            letzter = lauf.Staende[j].secsgone <= um ? j : letzter;
+        }
+        const Verlaufspunkt& punkt = PunktUm(ablauf.Kurve, um);
+        const Spielstand& stand = lauf.Staende[letzter];
+        if (punkt.Zeit != stand.secsgone || punkt.Vorrat != stand.Vorrat ||
+            punkt.ProStunde != stand.ProStunde || punkt.Stufen != stand.Stufen) {
+            return "the curve is wrong at " + std::to_string(um.Sekunden());
+        }
+    }
+    return ablauf.Ende == simulation.Stand() && ablauf.Starts == lauf.Starts
+               ? ""
+               : "a run that is drawn is another one";
+}
+
+Befund PruefeUmstellungen(const Plan& plan) {
+    constexpr int kProben = 25;
+    const Startbedingungen bedingungen = BedingungenVon(plan);
+    std::minstd_rand zufall(static_cast<unsigned>(plan.Liste.Zeilen().size()) + 1);
+    Bauliste liste = Nacheinander(plan.Liste.Tags(), bedingungen);
+    Listenverlauf verlauf;
+    std::vector<std::vector<std::string>> staende{liste.Tags()};
+    for (int i = 0; i < kProben; ++i) {
+        const Umstellung umstellung = Irgendeine(liste, zufall);
+        const auto tags = umstellung.Tags();
+        const bool zuLang = tags.size() > Auftragsliste::kHoechstzahl;
+        const std::size_t brueche = Regelbrueche(liste.Tags());
+        const auto einwand = umstellung.Einwand();
+        if (!einwand && (zuLang || Regelbrueche(tags) > brueche)) {
+            return "an edit is let be that breaks a rule";
+        }
+        if (einwand && !zuLang && brueche == 0 && Regelbrueche(tags) == 0) {
+            return "an edit is refused: " + *einwand;
+        }
+        if (einwand || tags == staende.back()) {
+            continue;
+        }
+        verlauf.Merke(liste.Tags(), tags);
+        liste.Setze(tags, bedingungen);
+        staende.push_back(tags);
+        if (Zustand(liste) != Zustand(Nacheinander(tags, bedingungen))) {
+            return "an edited list isn't its rows dropped anew";
+        }
+    }
+    auto tags = liste.Tags();
+    for (std::size_t i = staende.size() - 1; i > 0; --i) {
+        tags = verlauf.Zurueck(tags);
+        if (tags != staende[i - 1] || verlauf.Vor(tags) != staende[i]) {
+            return "an edit can't be taken back and done again";
+        }
+        tags = verlauf.Zurueck(staende[i]);
+    }
+    return verlauf.HatVorige() ? "there is more to take back than was done" : "";
+}
+
 Befund PruefeGesetze(const Plan& plan) {
-    for (const auto gesetz : {PruefeSpeichern, PruefeUndo, PruefeBuecher, PruefeWiederaufnahme,
-                              PruefeZeitsprung, PruefeWiederholung}) {
+    for (const auto gesetz :
+         {PruefeSpeichern, PruefeUndo, PruefeBuecher, PruefeWiederaufnahme, PruefeZeitsprung,
+          PruefeWiederholung, PruefeKurve, PruefeUmstellungen}) {
         if (Befund befund = gesetz(plan); !befund.empty()) {
             return befund;
         }

@@ -39,6 +39,15 @@ using Befund = std::string;
 /// The same run once more, in the place of the first one, gives the same.
 [[nodiscard]] Befund PruefeWiederholung(const Plan& plan);
 
+/// The curve of a run goes forward in time, and shows at each moment what the run recorded last for
+/// it.
+[[nodiscard]] Befund PruefeKurve(const Plan& plan);
+
+/// Edits anywhere in the list: one that is let be leaves no row that breaks its rule and hasn't
+/// done so before, one that is refused would; the list behind it is its rows dropped anew; taken
+/// back and done again it gives the same rows.
+[[nodiscard]] Befund PruefeUmstellungen(const Plan& plan);
+
 /// All of them.
 [[nodiscard]] Befund PruefeGesetze(const Plan& plan);
 

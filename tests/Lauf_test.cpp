@@ -1,7 +1,9 @@
 // The run: its clock, its timetable, its messages and what it leaves behind.
 #include "Hilfen.h"
+#include "simulation/Ablauf.h"
 #include "simulation/EventTabelle.h"
 #include "simulation/Simulation.h"
+#include "simulation/Wartetexte.h"
 
 namespace tarvelin {
 namespace {
@@ -112,6 +114,33 @@ TEST(Lauf, NenntWasEinenAuftragAufhielt) {
     const Probe gesperrt(PlanAus("GS GD GR FE"));
     EXPECT_EQ(gesperrt.Gelaufen.LV_Bauzeiten.back().Grund,
               (Aufenthalt{.Was = Hindernis::Stufe, .Fehlt = {ItemId::Folab, 1}}));
+}
+
+TEST(Lauf, SagtWasEinenAuftragAufhielt) {
+    const auto texte = [](const Plan& plan) {
+        const auto bedingungen = LiesStartbedingungen(plan);
+        const Ablauf ablauf =
+            SpieleAb(plan.Liste.Auftraege().Alle(), std::get<Startbedingungen>(bedingungen));
+        std::vector<std::string> gruende;
+        for (std::size_t i = 0; i < ablauf.Starts.size(); ++i) {
+            gruende.push_back(Wartetext(ablauf, i));
+        }
+        return gruende;
+    };
+    using Texte = std::vector<std::string>;
+    EXPECT_EQ(texte(PlanAus("GX:9:9:9 GM GM GX:8:8:8 GM GM GM GS")),
+              (Texte{"", "wartete auf Zeile 1", "Bauschleife bis 12:31:49",
+                     "Bauschleife bis 12:34:31", "wartete auf Zeile 4", "Bauschleife bis 12:38:34",
+                     "Es fehlten: 286 Metall", "Es fehlten: 72 Metall"}));
+    Plan plan = MitPuffer("GX:9:9:9 GM GM GX:1:1:1 GM", 5);
+    plan.Schlafzeiten = {{"18.11.2006 12:31", "18.11.2006 20:00"}};
+    EXPECT_EQ(texte(plan),
+              (Texte{"Klickpuffer: 5 s", "Klickpuffer: 5 s", "Schlafzeit 12:31:00 bis 20:00:00",
+                     "Bauschleife bis 20:02:52", "wartete auf Zeile 4"}));
+    EXPECT_EQ(texte(PlanAus("GS GD GR FE")).back(), "Es fehlte: Forschungslabor 1 (bis zuletzt)");
+    EXPECT_EQ(texte(PlanAus("GR")).back(), "");
+    EXPECT_EQ(texte(PlanAus("GS GR GF")).back(),
+              "Es fehlte: Produktion von Deuterium (bis zuletzt)");
 }
 
 TEST(EventTabelle, OrdnetNachZeitArtUndEintritt) {

@@ -368,7 +368,7 @@ qreal Zeitbild::Spurhoehe() const {
 }
 
 qreal Zeitbild::Mindesthoehe() const {
-    constexpr qreal kKurven = 8;
+    constexpr qreal kKurven = 6;
     return Achse() + static_cast<qreal>(kSpuren.size()) * (Spurhoehe() + kRand) + kKurven * Zeile();
 }
 

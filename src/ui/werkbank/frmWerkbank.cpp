@@ -62,6 +62,7 @@ frmWerkbank::frmWerkbank(const Plan& plan, const Listenverlauf& verlauf, const U
       m_umgebung(umgebung),
       m_LBL_Meldung(NeueZeile("LBL_Meldung", "Meldung", this)),
       m_liste(new Auftragsansicht(Listenquelle(), this)),
+      m_palettenrolle(new QScrollArea(this)),
       m_palette(new Itempalette(this)),
       m_zeitleiste(new Zeitleiste(this)),
       m_LBL_Stand(NeueZeile("LBL_Stand", "Stand am Zeiger", this)),
@@ -75,6 +76,11 @@ frmWerkbank::frmWerkbank(const Plan& plan, const Listenverlauf& verlauf, const U
     LegeAus();
     Verbinde();
     FolgeDesktop();
+}
+
+// The list asks this window for its rows to its end.
+frmWerkbank::~frmWerkbank() {
+    delete m_liste;
 }
 
 QPushButton* frmWerkbank::NeuerBefehl(const char* name, const char* text, const QKeySequence& taste,
@@ -117,7 +123,13 @@ void frmWerkbank::LegeAus() {
     auto* const obenLayout = new QHBoxLayout(oben);
     obenLayout->setContentsMargins(0, 0, 0, 0);
     obenLayout->addWidget(m_liste, 1);
-    obenLayout->addWidget(m_palette);
+    // A small screen has no room for all of it.
+    m_palettenrolle->setWidget(m_palette);
+    m_palettenrolle->setWidgetResizable(true);
+    m_palettenrolle->setFrameShape(QFrame::NoFrame);
+    m_palettenrolle->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_palettenrolle->setFocusPolicy(Qt::NoFocus);
+    obenLayout->addWidget(m_palettenrolle);
     auto* const teiler = new QSplitter(Qt::Vertical, this);
     teiler->addWidget(oben);
     teiler->addWidget(m_zeitleiste);
@@ -174,6 +186,8 @@ void frmWerkbank::FolgeDesktop() {
     setPalette(AlsEigene(farben));
     setFont(QFontDatabase::systemFont(QFontDatabase::GeneralFont));
     m_zeitleiste->SetzeAussehen(farben, font());
+    m_palettenrolle->setFixedWidth(m_palette->sizeHint().width() +
+                                   style()->pixelMetric(QStyle::PM_ScrollBarExtent));
 }
 
 bool frmWerkbank::event(QEvent* event) {
@@ -203,17 +217,18 @@ void frmWerkbank::Oeffne(const Konfiguration& konfiguration) {
             const auto zahl = LiesGanzzahl(konfiguration.Lies(key), -kWeitest, kWeitest);
             return zahl ? std::optional(static_cast<int>(*zahl)) : std::nullopt;
         };
-        const QSize raum = QGuiApplication::primaryScreen()->availableSize();
+        constexpr QSize kRahmen(8, 36);
+        const QSize raum = QGuiApplication::primaryScreen()->availableSize() - kRahmen;
         const QSize ersteGroesse = kZeilen * fontMetrics().height();
         resize(QSize(lies(Konfiguration::kWerkbankBreite).value_or(ersteGroesse.width()),
                      lies(Konfiguration::kWerkbankHoehe).value_or(ersteGroesse.height()))
                    .boundedTo(raum)
                    .expandedTo(QSize(1, 1)));
         const auto links = lies(Konfiguration::kWerkbankLinks);
-        const auto rechts = lies(Konfiguration::kWerkbankOben);
+        const auto oben = lies(Konfiguration::kWerkbankOben);
         // A screen that is gone would keep the window out of sight.
-        if (links && rechts && QGuiApplication::screenAt({*links, *rechts}) != nullptr) {
-            move(*links, *rechts);
+        if (links && oben && QGuiApplication::screenAt({*links, *oben}) != nullptr) {
+            move(*links, *oben);
         }
         if (konfiguration.IstAn(Konfiguration::kWerkbankGross)) {
             setWindowState(Qt::WindowMaximized);

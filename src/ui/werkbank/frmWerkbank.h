@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QWidget>
 #include <optional>
 #include <string>
@@ -29,6 +30,9 @@ class frmWerkbank : public QWidget {
   public:
     /// All of them must outlive it.
     frmWerkbank(const Plan& plan, const Listenverlauf& verlauf, const Umgebung& umgebung);
+    frmWerkbank(const frmWerkbank&) = delete;
+    frmWerkbank& operator=(const frmWerkbank&) = delete;
+    ~frmWerkbank() override;
 
     /// The plan has changed; plays it anew, if the window is open.
     void ZeigePlan();
@@ -91,6 +95,7 @@ class frmWerkbank : public QWidget {
 
     QLabel* m_LBL_Meldung;
     Auftragsansicht* m_liste;
+    QScrollArea* m_palettenrolle;
     Itempalette* m_palette;
     Zeitleiste* m_zeitleiste;
     QLabel* m_LBL_Stand;
