@@ -2,13 +2,18 @@
 #include <benchmark/benchmark.h>
 
 #include <QLabel>
+#include <QScrollBar>
 #include <QTest>
+#include <QWheelEvent>
+#include <algorithm>
 
 #include "ui/bauteile/Aussehen.h"
 #include "ui/bauteile/Bauteile.h"
 #include "ui/bauteile/Itemansicht.h"
 #include "ui/fenster/Baulistenansicht.h"
 #include "ui/fenster/frmMain.h"
+#include "ui/werkbank/Auftragsansicht.h"
+#include "ui/werkbank/Zeitleiste.h"
 
 namespace tarvelin {
 namespace {
@@ -112,6 +117,59 @@ void EineBewegungUeberEinemBild(benchmark::State& state) {
     }
 }
 BENCHMARK(EineBewegungUeberEinemBild)->Unit(benchmark::kMicrosecond);
+
+QWidget& Werkbank(frmMain& fenster) {
+    fenster.findChild<QAction*>(QStringLiteral("mnuWerkbank"))->trigger();
+    const auto alle = QApplication::topLevelWidgets();
+    const auto offen = std::ranges::find(alle, QStringLiteral("frmWerkbank"), &QObject::objectName);
+    (*offen)->resize(1600, 1000);
+    while (!QTest::qWaitForWindowExposed(*offen)) {
+    }
+    return **offen;
+}
+
+/// A picture of the timeline, first of the whole plan, then with each number of zooms.
+void ZeitleisteGemalt(benchmark::State& state) {
+    const Welt welt;
+    frmMain fenster(welt.Umgebung);
+    ZeigeGanz(fenster);
+    Fuelle(fenster);
+    auto& leiste = *Werkbank(fenster).findChild<Zeitleiste*>();
+    const QPointF ort(leiste.viewport()->rect().center());
+    for (std::int64_t i = 0; i < state.range(0); ++i) {
+        QWheelEvent rad(ort, ort, {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(leiste.viewport(), &rad);
+    }
+    QImage bild(leiste.viewport()->size(), QImage::Format_RGB32);
+    int schritt = 1;
+    for (auto _ : state) {
+        schritt = -schritt;
+        leiste.horizontalScrollBar()->setValue(leiste.horizontalScrollBar()->value() + schritt);
+        leiste.viewport()->render(&bild);
+    }
+}
+BENCHMARK(ZeitleisteGemalt)->Arg(0)->Arg(5)->Arg(20)->Unit(benchmark::kMillisecond);
+
+/// A row of 254 goes up and down: both windows run the plan and show it.
+void ZeileVerschoben(benchmark::State& state) {
+    const Welt welt;
+    frmMain fenster(welt.Umgebung);
+    ZeigeGanz(fenster);
+    Fuelle(fenster);
+    QWidget& werkbank = Werkbank(fenster);
+    auto* const liste = werkbank.findChild<Auftragsansicht*>();
+    liste->Waehle({100});
+    bool hoch = false;
+    for (auto _ : state) {
+        hoch = !hoch;
+        werkbank
+            .findChild<QPushButton*>(hoch ? QStringLiteral("Cmd_Hoch")
+                                          : QStringLiteral("Cmd_Runter"))
+            ->click();
+        werkbank.grab();
+    }
+}
+BENCHMARK(ZeileVerschoben)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace tarvelin
