@@ -2,8 +2,8 @@
 #include "Hilfen.h"
 #include "simulation/Ablauf.h"
 #include "simulation/EventTabelle.h"
+#include "simulation/Lauftexte.h"
 #include "simulation/Simulation.h"
-#include "simulation/Wartetexte.h"
 
 namespace tarvelin {
 namespace {

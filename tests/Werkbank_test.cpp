@@ -8,6 +8,7 @@
 #include <random>
 
 #include "Fensterhilfen.h"
+#include "simulation/Lauftexte.h"
 #include "ui/bauteile/Itembild.h"
 #include "ui/werkbank/Standtexte.h"
 #include "ui/werkbank/frmWerkbank.h"

@@ -16,7 +16,8 @@ void SchreibeCsvKopf(std::ostream& strom);
 /// The rows of the timetable, the plan's file name in front.
 void SchreibeCsv(std::ostream& strom, const Planlauf& lauf);
 
-/// One object with the whole plan and the whole result.
-[[nodiscard]] std::string JsonText(const Planlauf& lauf);
+/// One object with the whole plan and the whole result; on request with the history of the stocks
+/// and the orders with their reasons, under `Verlauf`.
+[[nodiscard]] std::string JsonText(const Planlauf& lauf, bool mitVerlauf = false);
 
 }  // namespace tarvelin

@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "model/Itemtabelle.h"
+#include "simulation/Lauftexte.h"
 
 namespace tarvelin {
 
@@ -90,9 +91,42 @@ void FuegeTexteAn(json& objekt, const Ergebnistexte& texte) {
     objekt["LBL_Punkte_Hinweis"] = texte.LBL_Punkte_Hinweis;
 }
 
+json Punkt(const Verlaufspunkt& punkt, const Startbedingungen& bedingungen) {
+    return {{"Sekunde", punkt.Zeit.Sekunden()},
+            {"Zeitpunkt", Datumzeittext(bedingungen.Uhrzeit(punkt.Zeit))},
+            {"Metall", VierStellenText(punkt.Vorrat[Rohstoff::Metall])},
+            {"Kristall", VierStellenText(punkt.Vorrat[Rohstoff::Kristall])},
+            {"Deuterium", VierStellenText(punkt.Vorrat[Rohstoff::Deuterium])},
+            {"MetallProStunde", VierStellenText(punkt.ProStunde[Rohstoff::Metall])},
+            {"KristallProStunde", VierStellenText(punkt.ProStunde[Rohstoff::Kristall])},
+            {"DeuteriumProStunde", VierStellenText(punkt.ProStunde[Rohstoff::Deuterium])},
+            {"EnergieProduktion", punkt.EnergieProduktion},
+            {"EnergieVerbrauch", punkt.EnergieVerbrauch}};
+}
+
+json VerlaufVon(const Ablauf& ablauf) {
+    json punkte = json::array();
+    for (const Verlaufspunkt& punkt : ablauf.Kurve) {
+        punkte.push_back(Punkt(punkt, ablauf.Bedingungen));
+    }
+    json auftraege = json::array();
+    for (const Startereignis& start : ablauf.Starts) {
+        auftraege.push_back(
+            {{"Zeile", start.Zeile + 1},
+             {"Auftrag", Auftragstext(start)},
+             {"Start", start.Start.Sekunden()},
+             {"Finish", start.Finish.Sekunden()},
+             {"Startzeit", Datumzeittext(ablauf.Bedingungen.Uhrzeit(start.Start))},
+             {"Fertigzeit", Datumzeittext(ablauf.Bedingungen.Uhrzeit(start.Finish))},
+             {"Schlange", Schlangenname(start.Order.Queue)},
+             {"Grund", Wartetext(ablauf, start.Zeile)}});
+    }
+    return {{"Punkte", punkte}, {"Auftraege", auftraege}};
+}
+
 }  // namespace
 
-std::string JsonText(const Planlauf& lauf) {
+std::string JsonText(const Planlauf& lauf, bool mitVerlauf) {
     const Bauliste& liste = lauf.Plan.Liste;
     json objekt{
         {"Meldungen", Meldungen(lauf)},
@@ -106,6 +140,9 @@ std::string JsonText(const Planlauf& lauf) {
         FuegeZustandAn(objekt, lauf.Lauf.Stand, lauf.Lauf.Bedingungen);
         FuegeTexteAn(objekt, lauf.Texte);
         objekt["LV_Bauzeiten"] = Zeittabelle(lauf.Lauf.LV_Bauzeiten);
+        if (mitVerlauf) {
+            objekt["Verlauf"] = VerlaufVon(lauf.Abgespielt());
+        }
     }
     return objekt.dump(1);
 }

@@ -2,11 +2,15 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <exception>
+#include <filesystem>
 #include <iostream>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #ifdef _WIN32
@@ -14,12 +18,14 @@
 #include <io.h>
 #include <windows.h>
 
-#include <filesystem>
 #include <span>
 #endif
 
 #include "console/Ausgabe.h"
 #include "console/Suchbefehl.h"
+#include "console/Vergleichsausgabe.h"
+#include "persistence/Dateiersatz.h"
+#include "persistence/Kalender.h"
 
 namespace {
 
@@ -30,6 +36,9 @@ constexpr int kFalscherAufruf = 2;
 struct Aufruf {
     bool Json = false;
     bool Csv = false;
+    bool Verlauf = false;
+    std::optional<std::string> Kalender;
+    std::vector<std::string> Vergleich;
     std::vector<std::string> Dateien;
     tarvelin::Suchbefehl Suche;
 };
@@ -44,18 +53,23 @@ int Suche(tarvelin::Suchbefehl befehl, bool json) {
     return tarvelin::FuehreSucheAus(befehl, g_halt);
 }
 
+/// The library names two options, and a word between them.
+std::pair<std::string, std::string> ZweiNamen(const std::string& text) {
+    return {text.substr(0, text.find(' ')), text.substr(text.rfind(' ') + 1)};
+}
+
 /// What is wrong with a call, in one line.
 std::string Fehlertext(const CLI::ParseError& fehler) {
     if (dynamic_cast<const CLI::RequiredError*>(&fehler) != nullptr) {
         return "es fehlt eine Plandatei";
     }
     if (dynamic_cast<const CLI::ExcludesError*>(&fehler) != nullptr) {
-        const bool bisSuche = std::string(fehler.what()).find("--suche") != std::string::npos;
-        return bisSuche ? "--suche und --csv schließen einander aus"
-                        : "--json und --csv schließen einander aus";
+        const auto [eine, andere] = ZweiNamen(fehler.what());
+        return std::max(eine, andere) + " und " + std::min(eine, andere) +
+               " schließen einander aus";
     }
     if (dynamic_cast<const CLI::RequiresError*>(&fehler) != nullptr) {
-        return "diese Option gilt nur mit --suche";
+        return "diese Option gilt nur mit " + ZweiNamen(fehler.what()).second;
     }
     if (dynamic_cast<const CLI::ExtrasError*>(&fehler) != nullptr) {
         // The library names the arguments behind a colon.
@@ -72,17 +86,51 @@ void SchreibeMeldungen(const tarvelin::Planlauf& lauf) {
     }
 }
 
+std::filesystem::path AlsPfad(const std::string& datei) {
+    return std::u8string(datei.begin(), datei.end());
+}
+
+bool SchreibeKalender(const tarvelin::Planlauf& lauf, const std::string& datei) {
+    constexpr tarvelin::Long kErinnerung = 10;
+    const auto jetzt = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+    const std::string text = tarvelin::Kalendertext(lauf.Abgespielt(), kErinnerung, jetzt);
+    if (tarvelin::ErsetzeDatei(AlsPfad(datei), text, tarvelin::Platte())) {
+        return true;
+    }
+    std::cerr << "tarvelin-cli: Der Kalender konnte nicht gespeichert werden\n";
+    return false;
+}
+
+bool Vergleiche(const Aufruf& aufruf) {
+    const tarvelin::Planlauf a(AlsPfad(aufruf.Vergleich[0]));
+    const tarvelin::Planlauf b(AlsPfad(aufruf.Vergleich[1]));
+    SchreibeMeldungen(a);
+    SchreibeMeldungen(b);
+    if (!a.Gelaufen || !b.Gelaufen) {
+        return false;
+    }
+    if (aufruf.Json) {
+        std::cout << tarvelin::VergleichsJson(a, b) << '\n';
+    } else {
+        tarvelin::SchreibeVergleich(std::cout, a, b);
+    }
+    return true;
+}
+
 bool FuehreAus(const Aufruf& aufruf) {
+    if (!aufruf.Vergleich.empty()) {
+        return Vergleiche(aufruf);
+    }
     bool alleGut = true;
     bool erster = true;
     if (aufruf.Csv) {
         tarvelin::SchreibeCsvKopf(std::cout);
     }
     for (const std::string& datei : aufruf.Dateien) {
-        const tarvelin::Planlauf lauf(std::u8string(datei.begin(), datei.end()));
+        const tarvelin::Planlauf lauf(AlsPfad(datei));
         SchreibeMeldungen(lauf);
         if (aufruf.Json) {
-            std::cout << tarvelin::JsonText(lauf) << '\n';
+            std::cout << tarvelin::JsonText(lauf, aufruf.Verlauf) << '\n';
         } else if (aufruf.Csv) {
             tarvelin::SchreibeCsv(std::cout, lauf);
         } else if (lauf.Gelaufen) {
@@ -91,6 +139,9 @@ bool FuehreAus(const Aufruf& aufruf) {
             erster = false;
         }
         alleGut = alleGut && lauf.Gelaufen;
+        if (aufruf.Kalender && lauf.Gelaufen) {
+            alleGut = SchreibeKalender(lauf, *aufruf.Kalender) && alleGut;
+        }
     }
     return alleGut;
 }
@@ -152,6 +203,19 @@ CLI::Option* FuegeSucheHinzu(CLI::App& app, tarvelin::Suchbefehl& befehl) {
     return suche;
 }
 
+/// What is wrong with the number of plan files; empty for nothing.
+std::string Plandateifehler(std::size_t zahl, bool sucht, bool vergleicht, bool kalender) {
+    if (sucht || vergleicht) {
+        return zahl == 0 ? ""
+               : sucht   ? "--suche nimmt genau eine Plandatei"
+                         : "--vergleich nimmt genau zwei Plandateien";
+    }
+    if (zahl == 0) {
+        return "es fehlt eine Plandatei";
+    }
+    return kalender && zahl > 1 ? "--ical nimmt genau eine Plandatei" : "";
+}
+
 int Rufe(const std::vector<std::string>& argumente) {
     CLI::App app("Spielt Baupläne durch und gibt aus, wann welcher Auftrag gegeben werden kann.",
                  "tarvelin-cli");
@@ -168,9 +232,19 @@ int Rufe(const std::vector<std::string>& argumente) {
     auto* const csv =
         app.add_flag("--csv", aufruf.Csv, "Die Bauzeiten für eine Tabellenkalkulation");
     csv->disable_flag_override()->excludes(json)->group(gruppe);
+    app.add_flag("--verlauf", aufruf.Verlauf, "Mit --json: auch der Verlauf und die Gründe")
+        ->disable_flag_override()
+        ->needs(json)
+        ->group(gruppe);
+    auto* const kalender = app.add_option("--ical", aufruf.Kalender,
+                                          "Schreibt die Starts eines Plans in diese Kalenderdatei");
+    kalender->group(gruppe);
+    auto* const vergleich =
+        app.add_option("--vergleich", aufruf.Vergleich, "Stellt zwei Pläne nebeneinander");
+    vergleich->expected(2)->excludes(csv)->excludes(kalender)->group(gruppe);
     auto* const dateien = app.add_option("PLAN", aufruf.Dateien, "Plandateien (.tvf)");
     auto* const suche = FuegeSucheHinzu(app, aufruf.Suche);
-    suche->excludes(csv);
+    suche->excludes(csv)->excludes(kalender)->excludes(vergleich);
     try {
         app.parse(FuerBibliothek(argumente));
     } catch (const CLI::Success& hilfe) {
@@ -180,10 +254,10 @@ int Rufe(const std::vector<std::string>& argumente) {
         return kFalscherAufruf;
     }
     const bool sucht = suche->count() > 0;
-    if (sucht == (dateien->count() > 0)) {
-        std::cerr << "tarvelin-cli: "
-                  << (sucht ? "--suche nimmt genau eine Plandatei" : "es fehlt eine Plandatei")
-                  << " (siehe --hilfe)\n";
+    if (const std::string fehler =
+            Plandateifehler(dateien->count(), sucht, vergleich->count() > 0, kalender->count() > 0);
+        !fehler.empty()) {
+        std::cerr << "tarvelin-cli: " << fehler << " (siehe --hilfe)\n";
         return kFalscherAufruf;
     }
     const int code = sucht               ? Suche(aufruf.Suche, aufruf.Json)

@@ -16,6 +16,10 @@ std::string Dateiname(const std::filesystem::path& datei) {
 
 }  // namespace
 
+Ablauf Planlauf::Abgespielt() const {
+    return SpieleAb(Plan.Liste.Auftraege().Alle(), Lauf.Bedingungen);
+}
+
 Planlauf::Planlauf(const std::filesystem::path& datei)
     : Planlauf(Dateiname(datei), Profil::Lade(datei)) {}
 

@@ -8,6 +8,7 @@
 
 #include "persistence/Profil.h"
 #include "plan/Plan.h"
+#include "simulation/Ablauf.h"
 #include "simulation/Ergebnistexte.h"
 #include "simulation/RunSimulation.h"
 #include "util/Meldung.h"
@@ -25,6 +26,9 @@ struct Planlauf {
     /// The run got past its checks of the inputs.
     bool Gelaufen = false;
     std::vector<Meldung> Meldungen;
+
+    /// The same run once more with all that charts and comparisons show; `Gelaufen` holds.
+    [[nodiscard]] Ablauf Abgespielt() const;
 
     /// Loads and runs the plan of a file.
     explicit Planlauf(const std::filesystem::path& datei);

@@ -17,10 +17,7 @@ class Probelauf::Waechter final : public Laufbeobachter {
         Starts = ereignis.Zeile + 1;
         const bool zuFrueh = ereignis.Zeile >= m_aufgabe.Kopf && ereignis.Start < m_aufgabe.Ab;
         Verfehlt = Verfehlt || ereignis.TorZu || zuFrueh;
-        if (Sitzungen.Zahl == 0 || ereignis.Start - Sitzungen.Beginn > kSitzung) {
-            ++Sitzungen.Zahl;
-            Sitzungen.Beginn = ereignis.Start;
-        }
+        Sitzungen.Gezaehlt.Nimm(ereignis.Start);
         if (ereignis.Grund.Was == Hindernis::Schlafzeit) {
             Sitzungen.Wach = ereignis.Wach;
         }
@@ -67,7 +64,7 @@ std::optional<Wertung> Probelauf::Spiele(std::span<const Auftrag> orders, std::s
         return std::nullopt;
     }
     return Wertung{.Dauer = lauf.Stand().secsgone.Sekunden(),
-                   .Sitzungen = waechter.Sitzungen.Zahl,
+                   .Sitzungen = waechter.Sitzungen.Gezaehlt.Zahl,
                    .Wach = waechter.Sitzungen.Wach};
 }
 

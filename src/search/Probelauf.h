@@ -10,6 +10,7 @@
 #include "search/Aufgabe.h"
 #include "search/Wertung.h"
 #include "simulation/Simulation.h"
+#include "simulation/Sitzungen.h"
 
 namespace tarvelin {
 
@@ -35,8 +36,7 @@ class Probelauf {
 
   private:
     struct Sitzungsstand {
-        int Zahl = 0;
-        Moment Beginn;
+        Sitzungszaehler Gezaehlt;
         Moment Wach;
     };
     struct Halt {

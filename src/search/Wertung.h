@@ -8,9 +8,6 @@
 
 namespace tarvelin {
 
-/// How long a player sits at a stretch: all starts within so many seconds of the first one.
-inline constexpr Long kSitzung = 600;
-
 /// The fewer the better, the duration first.
 struct Wertung {
     /// Seconds until the last finish, the clock of the run at its end.

@@ -39,7 +39,7 @@ class Meldungsausgabe {
     virtual void Piepton() = 0;
 };
 
-/// Keeps messages for later, and beeps not at all.
+/// Keeps messages for later, and never beeps.
 class Meldungsliste final : public Meldungsausgabe {
   public:
     /// `meldungen` must outlive it.

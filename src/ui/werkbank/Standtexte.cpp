@@ -2,27 +2,13 @@
 #include "ui/werkbank/Standtexte.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 #include "model/Itemtabelle.h"
-#include "simulation/Bauzeit.h"
-#include "util/Nuetzliches.h"
+#include "simulation/Lauftexte.h"
 
 namespace tarvelin {
 
 namespace {
-
-std::string Dauer(Long sekunden) {
-    return FormatDuration(sekunden, "s", "hh:mm:ss", "d");
-}
-
-constexpr Long kTag = 86400;
-
-std::string MitTagen(Long sekunden) {
-    const Long tage = sekunden / kTag;
-    return (tage > 0 ? std::to_string(tage) + (tage == 1 ? " Tag " : " Tage ") : "") +
-           Dauer(sekunden % kTag);
-}
 
 std::string Vorratstext(const Ablauf& ablauf, Moment moment) {
     struct Name {
@@ -56,15 +42,6 @@ std::string Stufentext(const Verlaufspunkt& punkt) {
 
 }  // namespace
 
-std::string Auftragstext(const Startereignis& start) {
-    if (start.Order.Was != Auftrag::Art::Item) {
-        return Bauzeit{.Order = start.Order}.theText();
-    }
-    const Itemzeile& zeile = ZeileVon(start.Order.Item);
-    const std::string name(zeile.Hovername);
-    return zeile.Besonders.MitNummer ? name + " " + std::to_string(start.Nummer) : name;
-}
-
 std::string Zeittext(Zeitpunkt zeitpunkt) {
     const std::string datum = Datumtext(zeitpunkt);
     return std::string(WochentagKurz(zeitpunkt)) + " " + datum.substr(0, datum.rfind('.') + 1) +
@@ -73,12 +50,8 @@ std::string Zeittext(Zeitpunkt zeitpunkt) {
 
 std::string Standtext(const Ablauf& ablauf, Moment moment) {
     return Zeittext(ablauf.Bedingungen.Uhrzeit(moment)) +
-           "   Spielzeit: " + MitTagen(moment.Sekunden()) + Vorratstext(ablauf, moment) + "\n" +
+           "   Spielzeit: " + Spannentext(moment.Sekunden()) + Vorratstext(ablauf, moment) + "\n" +
            Stufentext(PunktUm(ablauf.Kurve, moment));
-}
-
-std::string Aenderungstext(Long sekunden) {
-    return (sekunden < 0 ? "-" : sekunden > 0 ? "+" : "±") + MitTagen(std::abs(sekunden));
 }
 
 std::optional<std::string> NaechsterAuftrag(const Ablauf& ablauf, Zeitpunkt jetzt) {
@@ -93,7 +66,7 @@ std::optional<std::string> NaechsterAuftrag(const Ablauf& ablauf, Zeitpunkt jetz
         return "alle Aufträge sind gegeben";
     }
     const Zeitpunkt um = bedingungen.Uhrzeit(naechster->Start);
-    return Auftragstext(*naechster) + " um " + Uhrzeittext(um) + ", in " + MitTagen(um - jetzt);
+    return Auftragstext(*naechster) + " um " + Uhrzeittext(um) + ", in " + Spannentext(um - jetzt);
 }
 
 std::string Meldungszeile(const std::vector<Meldung>& meldungen) {

@@ -8,8 +8,8 @@
 #include <cmath>
 #include <utility>
 
+#include "simulation/Lauftexte.h"
 #include "ui/bauteile/Bauteile.h"
-#include "ui/werkbank/Standtexte.h"
 #include "ui/werkbank/Zeitachse.h"
 
 namespace tarvelin {

@@ -15,7 +15,7 @@
 #include "model/Itemtabelle.h"
 #include "persistence/Dateiersatz.h"
 #include "simulation/Ergebnistexte.h"
-#include "simulation/Wartetexte.h"
+#include "simulation/Lauftexte.h"
 #include "ui/bauteile/Bauteile.h"
 #include "ui/bauteile/Bilder.h"
 #include "ui/bauteile/Itemansicht.h"

@@ -1,4 +1,4 @@
-// Why an order wasn't given earlier, in words.
+// What is told of the orders of a run, in words.
 #pragma once
 
 #include <cstddef>
@@ -14,6 +14,15 @@ namespace tarvelin {
 /// click buffer, as long as nothing but clicks lay before it. Empty for the first order of a player
 /// without a click buffer, and for a row that never started.
 [[nodiscard]] std::string Wartetext(const Ablauf& ablauf, std::size_t zeile);
+
+/// "Metallmine 3", "Kleine Schildkuppel", or "80% 100% 50%". `nummer` is that of an item.
+[[nodiscard]] std::string Auftragstext(const Auftrag& order, int nummer);
+[[nodiscard]] std::string Auftragstext(const Startereignis& start);
+
+/// "02:13:05", with days in front from one on: "1 Tag 00:01:01", "3 Tage 00:00:00".
+[[nodiscard]] std::string Spannentext(Long sekunden);
+/// The same with a sign: "-02:13:05", "±00:00:00".
+[[nodiscard]] std::string Aenderungstext(Long sekunden);
 
 /// "Bauschleife", "Werftschleife" or "Forschungsschleife"; empty for none.
 [[nodiscard]] std::string_view Schlangenname(Schlange schlange);

@@ -1,9 +1,12 @@
 // Words for what an order waited for.
-#include "simulation/Wartetexte.h"
+#include "simulation/Lauftexte.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "model/Itemtabelle.h"
+#include "simulation/Bauzeit.h"
+#include "util/Nuetzliches.h"
 
 namespace tarvelin {
 
@@ -80,6 +83,30 @@ std::string Wartetext(const Ablauf& ablauf, std::size_t zeile) {
     }
     // Nothing was left that could have opened the gate.
     return Grundtext(ablauf, *start) + (start->TorZu ? " (bis zuletzt)" : "");
+}
+
+std::string Auftragstext(const Auftrag& order, int nummer) {
+    if (order.Was != Auftrag::Art::Item) {
+        return Bauzeit{.Order = order}.theText();
+    }
+    const Itemzeile& zeile = ZeileVon(order.Item);
+    const std::string name(zeile.Hovername);
+    return zeile.Besonders.MitNummer ? name + " " + std::to_string(nummer) : name;
+}
+
+std::string Auftragstext(const Startereignis& start) {
+    return Auftragstext(start.Order, start.Nummer);
+}
+
+std::string Spannentext(Long sekunden) {
+    constexpr Long kTag = 86400;
+    const Long tage = sekunden / kTag;
+    return (tage > 0 ? std::to_string(tage) + (tage == 1 ? " Tag " : " Tage ") : "") +
+           FormatDuration(sekunden % kTag, "s", "hh:mm:ss", "d");
+}
+
+std::string Aenderungstext(Long sekunden) {
+    return (sekunden < 0 ? "-" : sekunden > 0 ? "+" : "±") + Spannentext(std::abs(sekunden));
 }
 
 std::string_view Schlangenname(Schlange schlange) {
