@@ -469,11 +469,11 @@ Befund PruefeUmstellungen(const Plan& plan) {
     }
     auto tags = liste.Tags();
     for (std::size_t i = staende.size() - 1; i > 0; --i) {
-        tags = verlauf.Zurueck(tags);
-        if (tags != staende[i - 1] || verlauf.Vor(tags) != staende[i]) {
+        tags = verlauf.Zurueck(tags).Zeilen;
+        if (tags != staende[i - 1] || verlauf.Vor(tags).Zeilen != staende[i]) {
             return "an edit can't be taken back and done again";
         }
-        tags = verlauf.Zurueck(staende[i]);
+        tags = verlauf.Zurueck(staende[i]).Zeilen;
     }
     return verlauf.HatVorige() ? "there is more to take back than was done" : "";
 }

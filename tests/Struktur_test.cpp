@@ -23,7 +23,7 @@ const std::map<std::string, std::set<std::string>> kRaeume{
     {"ui/bauteile", {"model", "plan"}},
     {"ui/dienste", {"util", "persistence", "ui/bauteile"}},
     {"ui/werkbank",
-     {"util", "model", "plan", "simulation", "persistence", "ui/bauteile", "ui/dienste"}},
+     {"util", "model", "plan", "simulation", "search", "persistence", "ui/bauteile", "ui/dienste"}},
     {"ui/fenster",
      {"util", "model", "plan", "simulation", "persistence", "ui/bauteile", "ui/dienste",
       "ui/werkbank"}},

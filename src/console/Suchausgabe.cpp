@@ -4,7 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "console/Ausgabe.h"
-#include "model/Itemtabelle.h"
+#include "search/Suchtexte.h"
 #include "util/Nuetzliches.h"
 #include "util/Zahlentext.h"
 
@@ -16,25 +16,6 @@ using nlohmann::json;
 
 std::string Dauer(Long sekunden) {
     return FormatDuration(sekunden, "s", "dd(0)hh:mm:ss", "d");
-}
-
-/// Levels that one list has and the other lacks, "GM2 WS1"; empty for none.
-std::string Ueberschuss(const Auftragsliste& mehr, const Auftragsliste& weniger) {
-    std::string text;
-    for (const Itemzeile& zeile : Itemtabelle()) {
-        const int unterschied = mehr.ListStufe(zeile.Item) - weniger.ListStufe(zeile.Item);
-        if (unterschied > 0) {
-            text +=
-                (text.empty() ? "" : " ") + std::string(zeile.Code) + std::to_string(unterschied);
-        }
-    }
-    return text;
-}
-
-std::string ProStunde(const Spielstand& stand) {
-    return "Metall " + std::to_string(stand.ProStunde[Rohstoff::Metall].GanzerTeil()) +
-           ", Kristall " + std::to_string(stand.ProStunde[Rohstoff::Kristall].GanzerTeil()) +
-           ", Deuterium " + std::to_string(stand.ProStunde[Rohstoff::Deuterium].GanzerTeil());
 }
 
 json AlsJson(const Fund& fund, const Spielstand& stand) {
@@ -79,9 +60,9 @@ void SchreibeSuche(std::ostream& strom, const Suchbericht& bericht) {
         strom << (text.empty() ? "" : name + text + "\n");
     }
     if (bericht.Plan.Gelaufen) {
-        strom << "Je Stunde: " << ProStunde(bericht.Plan.Lauf.Stand) << " (vorher)\n";
+        strom << "Je Stunde: " << ProStundeText(bericht.Plan.Lauf.Stand) << " (vorher)\n";
     }
-    strom << "Je Stunde: " << ProStunde(bericht.Neuer.Lauf.Stand) << " (nachher)\n";
+    strom << "Je Stunde: " << ProStundeText(bericht.Neuer.Lauf.Stand) << " (nachher)\n";
     if (const auto& pause = bericht.Aufgabe.Pause) {
         strom << "Pause:     " << pause->Startzeit << " bis " << pause->Endzeit << '\n';
     }

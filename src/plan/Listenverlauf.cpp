@@ -20,9 +20,10 @@ Tags Tausche(Tags liste, std::size_t ab, const Tags& weg, const Tags& hinzu) {
 
 }  // namespace
 
-void Listenverlauf::Merke(const Tags& vorher, const Tags& nachher) {
+void Listenverlauf::Merke(const Tags& vorher, const Tags& nachher,
+                          const std::optional<SchlafzeitZeile>& pause) {
     const auto [vorn, vornNachher] = std::ranges::mismatch(vorher, nachher);
-    if (vorn == vorher.end() && vornNachher == nachher.end()) {
+    if (vorn == vorher.end() && vornNachher == nachher.end() && !pause) {
         return;
     }
     const auto ab = vorn - vorher.begin();
@@ -36,18 +37,19 @@ void Listenverlauf::Merke(const Tags& vorher, const Tags& nachher) {
     m_schritte.resize(m_gegangen);
     m_schritte.push_back({.Ab = static_cast<std::size_t>(ab),
                           .Weg = Tags(vorn, vorher.end() - ende),
-                          .Hinzu = Tags(vornNachher, nachher.end() - ende)});
+                          .Hinzu = Tags(vornNachher, nachher.end() - ende),
+                          .Pause = pause});
     ++m_gegangen;
 }
 
-Tags Listenverlauf::Zurueck(Tags jetzt) {
+Listenverlauf::Stand Listenverlauf::Zurueck(Tags jetzt) {
     const Schritt& schritt = m_schritte[--m_gegangen];
-    return Tausche(std::move(jetzt), schritt.Ab, schritt.Hinzu, schritt.Weg);
+    return {Tausche(std::move(jetzt), schritt.Ab, schritt.Hinzu, schritt.Weg), schritt.Pause};
 }
 
-Tags Listenverlauf::Vor(Tags jetzt) {
+Listenverlauf::Stand Listenverlauf::Vor(Tags jetzt) {
     const Schritt& schritt = m_schritte[m_gegangen++];
-    return Tausche(std::move(jetzt), schritt.Ab, schritt.Weg, schritt.Hinzu);
+    return {Tausche(std::move(jetzt), schritt.Ab, schritt.Weg, schritt.Hinzu), schritt.Pause};
 }
 
 }  // namespace tarvelin

@@ -2,8 +2,11 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
+
+#include "plan/Schlaftabelle.h"
 
 namespace tarvelin {
 
@@ -13,17 +16,24 @@ class Listenverlauf {
   public:
     using Tags = std::vector<std::string>;
 
+    /// A list as it is to be, and the sleep row that came or goes with it, if there is one.
+    struct Stand {
+        Tags Zeilen;
+        std::optional<SchlafzeitZeile> Pause;
+    };
+
     /// Takes note of an edit. What was taken back before it can't be done again then. An edit that
     /// changed nothing isn't one.
-    void Merke(const Tags& vorher, const Tags& nachher);
+    void Merke(const Tags& vorher, const Tags& nachher,
+               const std::optional<SchlafzeitZeile>& pause = {});
 
     [[nodiscard]] bool HatVorige() const { return m_gegangen > 0; }
     [[nodiscard]] bool HatNaechste() const { return m_gegangen < m_schritte.size(); }
 
-    /// The list before the last edit that `jetzt` came from; there is one.
-    [[nodiscard]] Tags Zurueck(Tags jetzt);
-    /// The list behind the edit that was taken back last; there is one.
-    [[nodiscard]] Tags Vor(Tags jetzt);
+    /// What was before the last edit that `jetzt` came from, and the pause that goes; there is one.
+    [[nodiscard]] Stand Zurueck(Tags jetzt);
+    /// What was behind the edit that was taken back last, and the pause that comes; there is one.
+    [[nodiscard]] Stand Vor(Tags jetzt);
 
     void Leere() { *this = Listenverlauf(); }
 
@@ -32,6 +42,7 @@ class Listenverlauf {
         std::size_t Ab = 0;
         Tags Weg;
         Tags Hinzu;
+        std::optional<SchlafzeitZeile> Pause;
     };
 
     std::vector<Schritt> m_schritte;

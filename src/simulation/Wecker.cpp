@@ -7,10 +7,15 @@
 
 namespace tarvelin {
 
-std::size_t FaelligeBauzeiten(const Bauzeiten& bauzeiten, Zeitpunkt jetzt,
-                              std::string_view vorher) {
+std::optional<Long> LiesVorlauf(std::string_view vorher) {
     constexpr std::int64_t kLaengstens = 86400;
     const auto sekunden = LiesGanzzahl(vorher, 0, kLaengstens);
+    return sekunden ? std::optional(static_cast<Long>(*sekunden)) : std::nullopt;
+}
+
+std::size_t FaelligeBauzeiten(const Bauzeiten& bauzeiten, Zeitpunkt jetzt,
+                              std::string_view vorher) {
+    const auto sekunden = LiesVorlauf(vorher);
     if (!sekunden) {
         return 0;
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 
 #include "plan/Schlaftabelle.h"
@@ -9,8 +10,12 @@
 
 namespace tarvelin {
 
-/// How many build times are due `vorher` seconds after `jetzt`, to the second. A text that is no
-/// whole number from 0 to 86400 rings nothing.
+/// How many seconds before a start the alarm rings; nothing for a text that is no whole number from
+/// 0 to 86400.
+[[nodiscard]] std::optional<Long> LiesVorlauf(std::string_view vorher);
+
+/// How many build times are due `vorher` seconds after `jetzt`, to the second. None
+/// without a number of seconds.
 [[nodiscard]] std::size_t FaelligeBauzeiten(const Bauzeiten& bauzeiten, Zeitpunkt jetzt,
                                             std::string_view vorher);
 

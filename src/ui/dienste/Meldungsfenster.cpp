@@ -79,14 +79,14 @@ class Box : public QMessageBox {
         : Box(meldung.Text, meldung.Titel, meldung.Symbol, QMessageBox::Ok) {}
 };
 
-/// The formats of a picture; the chosen one ends a name without an ending.
-void StelleAufBilder(QFileDialog& dialog) {
-    dialog.setNameFilters({QStringLiteral("Bild (*.png)"), QStringLiteral("Vektorbild (*.svg)"),
-                           QStringLiteral("Dokument (*.pdf)")});
-    dialog.setDefaultSuffix(QStringLiteral("png"));
-    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
-        dialog.setDefaultSuffix(filter.mid(filter.indexOf(QLatin1Char('.')) + 1).chopped(1));
-    });
+/// Formats, the first of them to begin with; the chosen one ends a name without an ending.
+void StelleAufFormate(QFileDialog& dialog, const QStringList& formate) {
+    const auto waehle = [&dialog](const QString& format) {
+        dialog.setDefaultSuffix(format.mid(format.indexOf(QLatin1Char('.')) + 1).chopped(1));
+    };
+    dialog.setNameFilters(formate);
+    waehle(formate.first());
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, waehle);
 }
 
 }  // namespace
@@ -140,7 +140,11 @@ std::filesystem::path Meldungsfenster::FragNachDatei(Zweck zweck,
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     if (zweck == Zweck::Bild) {
-        StelleAufBilder(dialog);
+        StelleAufFormate(dialog,
+                         {QStringLiteral("Bild (*.png)"), QStringLiteral("Vektorbild (*.svg)"),
+                          QStringLiteral("Dokument (*.pdf)")});
+    } else if (zweck == Zweck::Kalender) {
+        StelleAufFormate(dialog, {QStringLiteral("Kalender (*.ics)")});
     } else {
         dialog.setOption(QFileDialog::DontConfirmOverwrite);
         dialog.setNameFilter(QStringLiteral("(*.tvf) Tarvelin Save-Files (*.tvf)"));

@@ -31,10 +31,10 @@ class Dialoge : public Meldungsausgabe {
     /// Whether the user answered "Ja". Closing the box is a "Nein".
     [[nodiscard]] virtual bool Stelle(const Frage& frage) = 0;
 
-    enum class Zweck { Laden, Speichern, Bild };
+    enum class Zweck { Laden, Speichern, Bild, Kalender };
     /// A file of the user's choice, from `ordner` on; empty if he chose none. Nothing is added to
-    /// the name of a plan, and nothing is asked about one that is there already. A picture gets the
-    /// ending of the chosen format.
+    /// the name of a plan, and nothing is asked about one that is there already. Pictures and
+    /// calendars get the ending of the chosen format.
     [[nodiscard]] virtual std::filesystem::path FragNachDatei(
         Zweck zweck, const std::filesystem::path& ordner) = 0;
 

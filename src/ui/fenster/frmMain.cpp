@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QTableView>
 #include <QTimer>
+#include <algorithm>
 #include <utility>
 
 #include "plan/Hovertexte.h"
@@ -259,13 +260,18 @@ void frmMain::mnu_DOnate_Click() {
 
 void frmMain::mnuWerkbank_Click() {
     if (!m_frmWerkbank) {
-        m_frmWerkbank = std::make_unique<frmWerkbank>(m_plan, m_verlauf, m_umgebung);
+        m_frmWerkbank = std::make_unique<frmWerkbank>(
+            m_plan, m_verlauf,
+            [this] { return m_Fra_Rest->SekundenVorher()->currentText().toStdString(); },
+            m_umgebung);
         m_frmWerkbank->SetzeBilder(m_Fra_Rest->Itembilder());
-        connect(m_frmWerkbank.get(), &frmWerkbank::Umgestellt, this,
-                [this](const Listenverlauf::Tags& tags) {
-                    m_verlauf.Merke(m_plan.Liste.Tags(), tags);
-                    StelleZeilen(tags);
-                });
+        connect(
+            m_frmWerkbank.get(), &frmWerkbank::Umgestellt, this,
+            [this](const Listenverlauf::Tags& tags, const std::optional<SchlafzeitZeile>& pause) {
+                m_verlauf.Merke(m_plan.Liste.Tags(), tags, pause);
+                NimmPauseAuf(pause);
+                StelleZeilen(tags);
+            });
         connect(m_frmWerkbank.get(), &frmWerkbank::ZurueckGewuenscht, this, &frmMain::NimmZurueck);
         connect(m_frmWerkbank.get(), &frmWerkbank::VorGewuenscht, this,
                 &frmMain::WiederholeZurueckgenommenes);
@@ -349,13 +355,30 @@ void frmMain::BearbeiteListe(Tat tat) {
 
 void frmMain::NimmZurueck() {
     if (m_verlauf.HatVorige()) {
-        StelleZeilen(m_verlauf.Zurueck(m_plan.Liste.Tags()));
+        const auto [tags, pause] = m_verlauf.Zurueck(m_plan.Liste.Tags());
+        if (pause) {
+            // Unless the user has taken it out himself.
+            auto& tabelle = m_plan.Schlafzeiten;
+            const auto stelle = std::ranges::find(tabelle, *pause);
+            tabelle.erase(stelle, stelle == tabelle.end() ? stelle : stelle + 1);
+            m_Fra_Sleep->Zeige();
+        }
+        StelleZeilen(tags);
     }
 }
 
 void frmMain::WiederholeZurueckgenommenes() {
     if (m_verlauf.HatNaechste()) {
-        StelleZeilen(m_verlauf.Vor(m_plan.Liste.Tags()));
+        const auto [tags, pause] = m_verlauf.Vor(m_plan.Liste.Tags());
+        NimmPauseAuf(pause);
+        StelleZeilen(tags);
+    }
+}
+
+void frmMain::NimmPauseAuf(const std::optional<SchlafzeitZeile>& pause) {
+    if (pause) {
+        m_plan.Schlafzeiten.insert(m_plan.Schlafzeiten.begin(), *pause);
+        m_Fra_Sleep->Zeige();
     }
 }
 

@@ -121,6 +121,7 @@ class frmMain : public QMainWindow {
     void NimmZurueck();
     void WiederholeZurueckgenommenes();
     /// Gives the plan rows that the workbench made, and runs it without a box.
+    void NimmPauseAuf(const std::optional<SchlafzeitZeile>& pause);
     void StelleZeilen(const Listenverlauf::Tags& tags);
     void SpieleStill();
     void ZeigeInWerkbank();

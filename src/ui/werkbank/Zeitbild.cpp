@@ -236,9 +236,10 @@ class Zeitbild::Maler {
 
     /// A line through the values of all pieces in sight.
     template <class Wert>
-    void MaleKurve(const QRectF& feld, const Bereich& bereich, const QColor& farbe, Wert wert) {
+    void MaleKurve(const Ablauf& ablauf, const QRectF& feld, const Bereich& bereich,
+                   const QColor& farbe, Wert wert) {
         QPolygonF linie;
-        JedesStueck(m_ablauf, [&](const Verlaufspunkt& punkt, Moment bis) {
+        JedesStueck(ablauf, [&](const Verlaufspunkt& punkt, Moment bis) {
             if (InSicht(X(punkt.Zeit), X(bis))) {
                 linie << QPointF(X(punkt.Zeit), bereich.Y(wert(punkt, punkt.Zeit), feld))
                       << QPointF(X(bis), bereich.Y(wert(punkt, bis), feld));
@@ -265,16 +266,31 @@ class Zeitbild::Maler {
     void MaleVorraete() {
         const QRectF feld = m_bild.Vorratsflaeche();
         Bereich bereich;
-        JedesStueck(m_ablauf, [&](const Verlaufspunkt& punkt, Moment bis) {
-            for (const Rohstoff r : kRohstoffe) {
-                bereich.Nimm(Vorratszahl(punkt, punkt.Zeit, r));
-                bereich.Nimm(Vorratszahl(punkt, bis, r));
-            }
-        });
+        const auto nimm = [&](const Ablauf& ablauf) {
+            JedesStueck(ablauf, [&](const Verlaufspunkt& punkt, Moment bis) {
+                for (const Rohstoff r : kRohstoffe) {
+                    bereich.Nimm(Vorratszahl(punkt, punkt.Zeit, r));
+                    bereich.Nimm(Vorratszahl(punkt, bis, r));
+                }
+            });
+        };
+        nimm(m_ablauf);
+        if (m_bild.m_anderer) {
+            nimm(*m_bild.m_anderer);
+        }
         m_painter.setRenderHint(QPainter::Antialiasing);
         for (const Rohstoff r : kRohstoffe) {
-            MaleKurve(feld, bereich, m_bild.m_farben.Vorrat[r],
-                      [r](const Verlaufspunkt& p, Moment um) { return Vorratszahl(p, um, r); });
+            const auto vorrat = [r](const Verlaufspunkt& p, Moment um) {
+                return Vorratszahl(p, um, r);
+            };
+            const QColor& farbe = m_bild.m_farben.Vorrat[r];
+            if (m_bild.m_anderer) {
+                QColor blass = farbe;
+                constexpr int kBlass = 90;
+                blass.setAlpha(kBlass);
+                MaleKurve(*m_bild.m_anderer, feld, bereich, blass, vorrat);
+            }
+            MaleKurve(m_ablauf, feld, bereich, farbe, vorrat);
         }
         m_painter.setRenderHint(QPainter::Antialiasing, false);
         qreal x = MaleFeld(feld, bereich, QStringLiteral("Vorräte"));
@@ -333,6 +349,11 @@ void Zeitbild::Setze(const std::optional<Ablauf>& ablauf) {
     m_ablauf = ablauf;
 }
 
+void Zeitbild::SetzeAnderen(const std::optional<Ablauf>& anderer) {
+    prepareGeometryChange();
+    m_anderer = anderer;
+}
+
 void Zeitbild::SetzeBilder(const JeItem<QPixmap>& bilder) {
     m_bilder = bilder;
     update();
@@ -373,7 +394,10 @@ qreal Zeitbild::Mindesthoehe() const {
 }
 
 qreal Zeitbild::Ende() const {
-    return m_ablauf ? std::max(1.0, static_cast<qreal>(m_ablauf->Dauer().Sekunden())) : 1.0;
+    const auto bis = [](const std::optional<Ablauf>& ablauf) {
+        return ablauf ? static_cast<qreal>(ablauf->Dauer().Sekunden()) : 0.0;
+    };
+    return std::max({1.0, bis(m_ablauf), bis(m_anderer)});
 }
 
 QRectF Zeitbild::Spurflaeche(Schlange queue) const {

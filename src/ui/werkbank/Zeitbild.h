@@ -21,6 +21,8 @@ class Zeitbild : public QGraphicsItem {
 
     /// Nothing for a plan that can't be run.
     void Setze(const std::optional<Ablauf>& ablauf);
+    /// A run whose curves are drawn pale behind the others.
+    void SetzeAnderen(const std::optional<Ablauf>& anderer);
     void SetzeBilder(const JeItem<QPixmap>& bilder);
     void SetzeAussehen(const Werkbankfarben& farben, const QFont& schrift);
     void SetzeHoehe(qreal hoehe);
@@ -58,6 +60,7 @@ class Zeitbild : public QGraphicsItem {
     [[nodiscard]] Moment WartetAb(std::size_t nummer) const;
 
     std::optional<Ablauf> m_ablauf;
+    std::optional<Ablauf> m_anderer;
     JeItem<QPixmap> m_bilder;
     Werkbankfarben m_farben{QPalette()};
     QFont m_schrift;

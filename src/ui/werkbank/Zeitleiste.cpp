@@ -24,6 +24,20 @@ constexpr qreal kStufe = 1.25;
 
 }  // namespace
 
+/// Changes what is shown. What is in sight stays, unless all was.
+template <class Tat>
+void Zeitleiste::Aendere(Tat tat) {
+    const bool alles = ZeigtAlles();
+    tat();
+    m_szene.setSceneRect(m_bild->boundingRect());
+    if (alles) {
+        ZeigeAlles();
+    } else {
+        SetzeMassstab(JeSekunde());
+    }
+    viewport()->update();
+}
+
 Zeitleiste::Zeitleiste(QWidget* parent) : QGraphicsView(parent), m_bild(new Zeitbild) {
     setObjectName(QStringLiteral("Zeitleiste"));
     setAccessibleName(QStringLiteral("Zeitleiste"));
@@ -43,15 +57,11 @@ Zeitleiste::Zeitleiste(QWidget* parent) : QGraphicsView(parent), m_bild(new Zeit
 }
 
 void Zeitleiste::Setze(const std::optional<Ablauf>& ablauf) {
-    const bool alles = ZeigtAlles();
-    m_bild->Setze(ablauf);
-    m_szene.setSceneRect(m_bild->boundingRect());
-    if (alles) {
-        ZeigeAlles();
-    } else {
-        SetzeMassstab(JeSekunde());
-    }
-    viewport()->update();
+    Aendere([&] { m_bild->Setze(ablauf); });
+}
+
+void Zeitleiste::SetzeAnderen(const std::optional<Ablauf>& anderer) {
+    Aendere([&] { m_bild->SetzeAnderen(anderer); });
 }
 
 void Zeitleiste::SetzeAussehen(const QPalette& palette, const QFont& schrift) {

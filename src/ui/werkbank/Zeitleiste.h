@@ -20,6 +20,8 @@ class Zeitleiste : public QGraphicsView {
 
     /// Shows a run, or none. What is in sight stays, unless all was.
     void Setze(const std::optional<Ablauf>& ablauf);
+    /// Another run, whose curves stand pale behind those of the first; or none.
+    void SetzeAnderen(const std::optional<Ablauf>& anderer);
     void SetzeBilder(const JeItem<QPixmap>& bilder) { m_bild->SetzeBilder(bilder); }
     void SetzeAussehen(const QPalette& palette, const QFont& schrift);
     void SetzeAuswahl(const std::set<std::size_t>& zeilen) { m_bild->SetzeAuswahl(zeilen); }
@@ -54,6 +56,8 @@ class Zeitleiste : public QGraphicsView {
     void drawForeground(QPainter* painter, const QRectF& rect) override;
 
   private:
+    template <class Tat>
+    void Aendere(Tat tat);
     [[nodiscard]] qreal JeSekunde() const { return transform().m11(); }
     [[nodiscard]] qreal KleinsterMassstab() const;
     [[nodiscard]] bool ZeigtAlles() const;

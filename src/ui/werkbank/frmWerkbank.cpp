@@ -1,26 +1,34 @@
 // Layout of the workbench and its handlers.
 #include "ui/werkbank/frmWerkbank.h"
 
+#include <QClipboard>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QHideEvent>
+#include <QMimeData>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QSplitter>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include "model/Itemtabelle.h"
 #include "persistence/Dateiersatz.h"
+#include "persistence/Kalender.h"
 #include "simulation/Ergebnistexte.h"
 #include "simulation/Lauftexte.h"
+#include "simulation/Wecker.h"
 #include "ui/bauteile/Bauteile.h"
 #include "ui/bauteile/Bilder.h"
 #include "ui/bauteile/Itemansicht.h"
 #include "ui/werkbank/Bilddatei.h"
 #include "ui/werkbank/Standtexte.h"
+#include "ui/werkbank/Zeitplan.h"
 #include "util/Zahlentext.h"
 
 namespace tarvelin {
@@ -31,7 +39,7 @@ namespace {
 enum Spalte { kNummer, kAuftrag, kStart, kFertig, kGrund, kFaktor };
 
 /// Of the window at first, in heights of a line.
-constexpr QSize kZeilen(74, 46);
+constexpr QSize kZeilen(96, 54);
 
 /// A palette whose every colour counts, whatever the program's own says.
 QPalette AlsEigene(const QPalette& farben) {
@@ -56,14 +64,19 @@ QLabel* NeueZeile(const char* name, const char* bedeutung, QWidget* parent) {
 
 }  // namespace
 
-frmWerkbank::frmWerkbank(const Plan& plan, const Listenverlauf& verlauf, const Umgebung& umgebung)
+frmWerkbank::frmWerkbank(const Plan& plan, const Listenverlauf& verlauf,
+                         std::function<std::string()> vorher, const Umgebung& umgebung)
     : m_plan(plan),
       m_verlauf(verlauf),
+      m_vorher(std::move(vorher)),
       m_umgebung(umgebung),
       m_LBL_Meldung(NeueZeile("LBL_Meldung", "Meldung", this)),
       m_liste(new Auftragsansicht(Listenquelle(), this)),
-      m_palettenrolle(new QScrollArea(this)),
+      m_felder(new QTabWidget(this)),
       m_palette(new Itempalette(this)),
+      m_suchfeld(new Suchfeld(
+          plan, umgebung, [this] { return m_liste->Gewaehlte(); }, this)),
+      m_vergleichsfeld(new Vergleichsfeld(umgebung, this)),
       m_zeitleiste(new Zeitleiste(this)),
       m_LBL_Stand(NeueZeile("LBL_Stand", "Stand am Zeiger", this)),
       m_LBL_Dauer(NeueZeile("LBL_Dauer", "Dauer des Plans", this)),
@@ -96,6 +109,22 @@ QPushButton* frmWerkbank::NeuerBefehl(const char* name, const char* text, const 
     return knopf;
 }
 
+/// What is done with the plan, in panels behind each other.
+void frmWerkbank::FuelleFelder() {
+    for (QWidget* const feld :
+         {static_cast<QWidget*>(m_palette), static_cast<QWidget*>(m_suchfeld)}) {
+        // A small screen has no room for all of it.
+        auto* const rolle = new QScrollArea(this);
+        rolle->setWidget(feld);
+        rolle->setWidgetResizable(true);
+        rolle->setFrameShape(QFrame::NoFrame);
+        rolle->setFocusPolicy(Qt::NoFocus);
+        m_felder->addTab(
+            rolle, feld == m_palette ? QStringLiteral("&Einfügen") : QStringLiteral("Su&che"));
+    }
+    m_felder->addTab(m_vergleichsfeld, QStringLiteral("Ver&gleich"));
+}
+
 void frmWerkbank::LegeAus() {
     auto* const befehle = new QHBoxLayout;
     m_zurueck = NeuerBefehl("Cmd_Zurueck", "&Rückgängig", QKeySequence(Qt::CTRL | Qt::Key_Z),
@@ -108,6 +137,9 @@ void frmWerkbank::LegeAus() {
     NeuerBefehl("Cmd_Verdopple", "&Verdoppeln", QKeySequence(Qt::CTRL | Qt::Key_D),
                 &frmWerkbank::Verdopple);
     NeuerBefehl("Cmd_Loesche", "&Löschen", QKeySequence(Qt::Key_Delete), &frmWerkbank::Loesche);
+    NeuerBefehl("Cmd_Kopieren", "&Kopieren", {}, &frmWerkbank::Kopieren);
+    NeuerBefehl("Cmd_KalenderSpeichern", "K&alender speichern...", {},
+                &frmWerkbank::KalenderSpeichern);
     NeuerBefehl("Cmd_BildSpeichern", "&Bild speichern...", {}, &frmWerkbank::BildSpeichern);
     for (QPushButton* const knopf : m_befehle) {
         befehle->addWidget(knopf);
@@ -118,24 +150,20 @@ void frmWerkbank::LegeAus() {
     m_LBL_Meldung->setFrameStyle(QFrame::StyledPanel);
     m_LBL_Meldung->hide();
     m_LBL_Stand->setWordWrap(true);
+    m_felder->setObjectName(QStringLiteral("Felder"));
 
-    auto* const oben = new QWidget(this);
-    auto* const obenLayout = new QHBoxLayout(oben);
-    obenLayout->setContentsMargins(0, 0, 0, 0);
-    obenLayout->addWidget(m_liste, 1);
-    // A small screen has no room for all of it.
-    m_palettenrolle->setWidget(m_palette);
-    m_palettenrolle->setWidgetResizable(true);
-    m_palettenrolle->setFrameShape(QFrame::NoFrame);
-    m_palettenrolle->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_palettenrolle->setFocusPolicy(Qt::NoFocus);
-    obenLayout->addWidget(m_palettenrolle);
+    auto* const oben = new QSplitter(Qt::Horizontal, this);
+    oben->setChildrenCollapsible(false);
+    oben->addWidget(m_liste);
+    FuelleFelder();
+    oben->addWidget(m_felder);
+    oben->setStretchFactor(0, 1);
     auto* const teiler = new QSplitter(Qt::Vertical, this);
     teiler->addWidget(oben);
     teiler->addWidget(m_zeitleiste);
     teiler->setChildrenCollapsible(false);
-    teiler->setStretchFactor(0, 1);
-    teiler->setStretchFactor(1, 1);
+    teiler->setStretchFactor(0, 3);
+    teiler->setStretchFactor(1, 2);
 
     auto* const fuss = new QHBoxLayout;
     fuss->addWidget(m_LBL_Dauer);
@@ -178,6 +206,11 @@ void frmWerkbank::Verbinde() {
     connect(m_zeitleiste, &Zeitleiste::Zeiger, this, &frmWerkbank::ZeigeZeiger);
     connect(m_zeitleiste, &Zeitleiste::Gewaehlt, this,
             [this](std::size_t zeile) { m_liste->Waehle({zeile}); });
+    connect(m_suchfeld, &Suchfeld::Meldung, this, &frmWerkbank::Melde);
+    connect(m_suchfeld, &Suchfeld::Uebernommen, this, &frmWerkbank::Umgestellt);
+    connect(m_vergleichsfeld, &Vergleichsfeld::Meldung, this, &frmWerkbank::Melde);
+    connect(m_vergleichsfeld, &Vergleichsfeld::AndererGeaendert, this,
+            [this] { m_zeitleiste->SetzeAnderen(m_vergleichsfeld->Anderer()); });
     connect(&m_takt, &QTimer::timeout, this, &frmWerkbank::Ticke);
 }
 
@@ -186,8 +219,8 @@ void frmWerkbank::FolgeDesktop() {
     setPalette(AlsEigene(farben));
     setFont(QFontDatabase::systemFont(QFontDatabase::GeneralFont));
     m_zeitleiste->SetzeAussehen(farben, font());
-    m_palettenrolle->setFixedWidth(m_palette->sizeHint().width() +
-                                   style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    const int breite = std::max(m_palette->sizeHint().width(), m_suchfeld->sizeHint().width());
+    m_felder->setMinimumWidth(breite + 2 * style()->pixelMetric(QStyle::PM_ScrollBarExtent));
 }
 
 bool frmWerkbank::event(QEvent* event) {
@@ -205,7 +238,11 @@ void frmWerkbank::showEvent(QShowEvent* event) {
 }
 
 void frmWerkbank::hideEvent(QHideEvent* event) {
-    m_takt.Schalte(false);
+    // A window that is only made small goes on.
+    if (!event->spontaneous()) {
+        m_takt.Schalte(false);
+        m_suchfeld->HalteAn();
+    }
     QWidget::hideEvent(event);
 }
 
@@ -265,6 +302,7 @@ void frmWerkbank::ZeigePlan() {
     m_liste->Aktualisiere(m_naechsteAuswahl.value_or(m_liste->Gewaehlte()));
     m_naechsteAuswahl.reset();
     m_zeitleiste->Setze(m_ablauf);
+    m_vergleichsfeld->Zeige(m_ablauf);
     ZeigeAuswahl();
     ZeigeFuss();
     ZeigeZeiger(std::nullopt);
@@ -304,12 +342,12 @@ void frmWerkbank::ZeigeAuswahl() {
     if (!gewaehlt.empty()) {
         m_zeitleiste->Zeige(gewaehlt.front());
     }
-    for (QPushButton* const knopf : m_befehle) {
-        if (knopf != m_zurueck && knopf != m_vor) {
-            knopf->setEnabled(!gewaehlt.empty());
-        }
+    for (const char* const name : {"Cmd_Hoch", "Cmd_Runter", "Cmd_Verdopple", "Cmd_Loesche"}) {
+        findChild<QPushButton*>(QString::fromLatin1(name))->setEnabled(!gewaehlt.empty());
     }
-    m_befehle.back()->setEnabled(m_ablauf.has_value());
+    for (const char* const name : {"Cmd_Kopieren", "Cmd_KalenderSpeichern", "Cmd_BildSpeichern"}) {
+        findChild<QPushButton*>(QString::fromLatin1(name))->setEnabled(m_ablauf.has_value());
+    }
     ZeigeEinwaende();
 }
 
@@ -350,7 +388,7 @@ void frmWerkbank::Stelle(const Umstellung& umstellung, std::vector<std::size_t> 
         return;
     }
     m_naechsteAuswahl = std::move(auswahl);
-    emit Umgestellt(tags);
+    emit Umgestellt(tags, {});
 }
 
 void frmWerkbank::Hoch() {
@@ -394,12 +432,37 @@ void frmWerkbank::BildSpeichern() {
     const auto bild = BildVon(*m_zeitleiste, QFileInfo(Pfadtext(datei)).suffix());
     if (!bild) {
         Melde("Der Name des Bildes endet auf .png, .svg oder .pdf: es wurde nichts gespeichert.");
-    } else if (!ErsetzeDatei(datei, bild->toStdString(), m_umgebung.Dateien)) {
-        Melde(
-            "Das Bild konnte nicht gespeichert werden: wähle einen Ordner, in dem du schreiben "
-            "kannst.");
-    } else {
+        return;
+    }
+    SchreibeDatei(datei, bild->toStdString());
+}
+
+void frmWerkbank::Kopieren() {
+    auto* const inhalt = new QMimeData;
+    inhalt->setText(AlsQString(ZeitplanMitTabs(*m_ablauf)));
+    inhalt->setHtml(AlsQString(ZeitplanAlsTabelle(*m_ablauf)));
+    // The clipboard owns it.
+    QGuiApplication::clipboard()->setMimeData(inhalt);
+    Melde("Der Zeitplan liegt in der Zwischenablage.");
+}
+
+void frmWerkbank::KalenderSpeichern() {
+    const auto datei = m_umgebung.Boxen.FragNachDatei(Dialoge::Zweck::Kalender,
+                                                      m_umgebung.Programmordner / "saves");
+    if (!datei.empty()) {
+        const auto stand =
+            std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+        SchreibeDatei(datei, Kalendertext(*m_ablauf, LiesVorlauf(m_vorher()), stand));
+    }
+}
+
+void frmWerkbank::SchreibeDatei(const std::filesystem::path& datei, const std::string& bytes) {
+    if (ErsetzeDatei(datei, bytes, m_umgebung.Dateien)) {
         Melde("Gespeichert: " + Pfadtext(datei).toStdString());
+    } else {
+        Melde(
+            "Die Datei konnte nicht gespeichert werden: wähle einen Ordner, in dem du schreiben "
+            "kannst.");
     }
 }
 

@@ -3,8 +3,10 @@
 
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
+#include <QTabWidget>
 #include <QWidget>
+#include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,6 +20,8 @@
 #include "ui/dienste/Umgebung.h"
 #include "ui/werkbank/Auftragsansicht.h"
 #include "ui/werkbank/Itempalette.h"
+#include "ui/werkbank/Suchfeld.h"
+#include "ui/werkbank/Vergleichsfeld.h"
 #include "ui/werkbank/Zeitleiste.h"
 
 namespace tarvelin {
@@ -29,7 +33,9 @@ class frmWerkbank : public QWidget {
 
   public:
     /// All of them must outlive it.
-    frmWerkbank(const Plan& plan, const Listenverlauf& verlauf, const Umgebung& umgebung);
+    /// `vorher` tells how many seconds before a start the alarm rings, as its input has it.
+    frmWerkbank(const Plan& plan, const Listenverlauf& verlauf, std::function<std::string()> vorher,
+                const Umgebung& umgebung);
     frmWerkbank(const frmWerkbank&) = delete;
     frmWerkbank& operator=(const frmWerkbank&) = delete;
     ~frmWerkbank() override;
@@ -44,8 +50,9 @@ class frmWerkbank : public QWidget {
     [[nodiscard]] Konfiguration::Werte Lage() const;
 
   signals:
-    /// The rows that the plan is to have.
-    void Umgestellt(const std::vector<std::string>& tags);
+    /// The rows that the plan is to have, and what is to stand in front of its sleep rows.
+    void Umgestellt(const std::vector<std::string>& tags,
+                    const std::optional<SchlafzeitZeile>& pause);
     void ZurueckGewuenscht();
     void VorGewuenscht();
 
@@ -56,6 +63,7 @@ class frmWerkbank : public QWidget {
 
   private:
     void LegeAus();
+    void FuelleFelder();
     QPushButton* NeuerBefehl(const char* name, const char* text, const QKeySequence& taste,
                              void (frmWerkbank::*handler)());
     void Verbinde();
@@ -79,6 +87,9 @@ class frmWerkbank : public QWidget {
     void Verdopple();
     void FuegeEin(std::string_view tag, std::size_t vor);
     void BildSpeichern();
+    void Kopieren();
+    void KalenderSpeichern();
+    void SchreibeDatei(const std::filesystem::path& datei, const std::string& bytes);
     /// In front of which row a new one goes: the first that is chosen, or behind the last.
     [[nodiscard]] std::size_t Einfuegestelle() const;
     [[nodiscard]] Tabellenmodell::Quelle Listenquelle() const;
@@ -86,6 +97,7 @@ class frmWerkbank : public QWidget {
 
     const Plan& m_plan;
     const Listenverlauf& m_verlauf;
+    std::function<std::string()> m_vorher;
     const Umgebung& m_umgebung;
     /// Nothing, with the reason in the strip, if the plan can't be run.
     std::optional<Ablauf> m_ablauf;
@@ -95,8 +107,10 @@ class frmWerkbank : public QWidget {
 
     QLabel* m_LBL_Meldung;
     Auftragsansicht* m_liste;
-    QScrollArea* m_palettenrolle;
+    QTabWidget* m_felder;
     Itempalette* m_palette;
+    Suchfeld* m_suchfeld;
+    Vergleichsfeld* m_vergleichsfeld;
     Zeitleiste* m_zeitleiste;
     QLabel* m_LBL_Stand;
     QLabel* m_LBL_Dauer;
