@@ -8,7 +8,8 @@ BILDSCHIRM_PAKETE=(xvfb openbox xdotool imagemagick dbus at-spi2-core
 # Builds the Debian package, looks at it, and asks what a desktop asks of it.
 PAKET_PAKETE=(dpkg-dev file lintian desktop-file-utils appstream shared-mime-info man-db
     "${BILDSCHIRM_PAKETE[@]}")
-TEST_PAKETE=(libgtest-dev libbenchmark-dev clang-format "${BILDSCHIRM_PAKETE[@]}")
+TEST_PAKETE=(libgtest-dev libbenchmark-dev clang-format python3-icalendar
+    "${BILDSCHIRM_PAKETE[@]}")
 WERKZEUG_PAKETE=(clang clang-tidy clang-tools cppcheck)
 ABDECKUNG_PAKETE=(gcovr)
 WINDOWS_PAKETE=(g++-mingw-w64-x86-64-posix wine64 googletest)

@@ -21,6 +21,7 @@
 #include "simulation/Ablauf.h"
 #include "simulation/RunSimulation.h"
 #include "simulation/Simulation.h"
+#include "simulation/Vergleich.h"
 #include "simulation/Verlauf.h"
 #include "util/Codepage1252.h"
 
@@ -478,10 +479,42 @@ Befund PruefeUmstellungen(const Plan& plan) {
     return verlauf.HatVorige() ? "there is more to take back than was done" : "";
 }
 
+Befund PruefeVergleich(const Plan& plan) {
+    if (plan.Liste.Auftraege().IstLeer()) {
+        return {};
+    }
+    const Startbedingungen bedingungen = BedingungenVon(plan);
+    const auto orders = plan.Liste.Auftraege().Alle();
+    std::vector<Auftrag> andere(orders.begin(), orders.end());
+    std::ranges::reverse(andere);
+    andere.resize(andere.size() / 2 + 1);
+    const Ablauf a = SpieleAb(orders, bedingungen);
+    const Ablauf b = SpieleAb(andere, bedingungen);
+    if (!Vergleiche(a, a).Unterschiede.empty()) {
+        return "a run differs from itself";
+    }
+    const Vergleich hin = Vergleiche(a, b);
+    Vergleich her = Vergleiche(b, a);
+    for (Vergleichszeile& zeile : her.Unterschiede) {
+        std::swap(zeile.A, zeile.B);
+    }
+    if (hin.A != her.B || hin.B != her.A || hin.Unterschiede != her.Unterschiede) {
+        return "a comparison has no mirror";
+    }
+    // Each start of either is in it, or the same in both.
+    std::size_t in_a = 0;
+    std::size_t in_b = 0;
+    for (const Vergleichszeile& zeile : hin.Unterschiede) {
+        in_a += zeile.A ? 1U : 0U;
+        in_b += zeile.B ? 1U : 0U;
+    }
+    return a.Starts.size() - in_a == b.Starts.size() - in_b ? "" : "a comparison loses orders";
+}
+
 Befund PruefeGesetze(const Plan& plan) {
     for (const auto gesetz :
          {PruefeSpeichern, PruefeUndo, PruefeBuecher, PruefeWiederaufnahme, PruefeZeitsprung,
-          PruefeWiederholung, PruefeKurve, PruefeUmstellungen}) {
+          PruefeWiederholung, PruefeKurve, PruefeUmstellungen, PruefeVergleich}) {
         if (Befund befund = gesetz(plan); !befund.empty()) {
             return befund;
         }

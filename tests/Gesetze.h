@@ -48,6 +48,9 @@ using Befund = std::string;
 /// back and done again it gives the same rows.
 [[nodiscard]] Befund PruefeUmstellungen(const Plan& plan);
 
+/// A plan's run is no different from itself, and another one differs from it as it does from that.
+[[nodiscard]] Befund PruefeVergleich(const Plan& plan);
+
 /// All of them.
 [[nodiscard]] Befund PruefeGesetze(const Plan& plan);
 

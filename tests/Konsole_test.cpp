@@ -97,7 +97,11 @@ TEST(Konsole, ErklaertSichUndFalscheAufrufe) {
         {"--suche x --csv", "--suche und --csv schließen einander aus"},
         {"--suche x y", "--suche nimmt genau eine Plandatei"},
         {"--ziel plan x", "diese Option gilt nur mit --suche"},
-        {"--suche x --threads 0", "eine Option hat keinen gültigen Wert"}};
+        {"--suche x --threads 0", "eine Option hat keinen gültigen Wert"},
+        {"--verlauf x", "diese Option gilt nur mit --json"},
+        {"--vergleich x", "eine Option hat keinen gültigen Wert"},
+        {"--ical k x y", "--ical nimmt genau eine Plandatei"},
+        {"--vergleich x y --ical k", "--vergleich und --ical schließen einander aus"}};
     for (const auto& [argumente, fehler] : falsche) {
         const Aufruf aufruf = Rufe(ordner, argumente);
         EXPECT_EQ(aufruf.Code, 2) << argumente;
@@ -108,6 +112,33 @@ TEST(Konsole, ErklaertSichUndFalscheAufrufe) {
 
 const std::string kStartplan =
     InZeichen(std::filesystem::path(TARVELIN_QUELLEN) / "data" / "saves" / "basic.tvf");
+
+TEST(Konsole, StelltPlaeneNebeneinander) {
+    using nlohmann::json;
+    const Ordner ordner;
+    const Aufruf aufruf = Rufe(ordner, "--json --vergleich " + kPlan + " " + kStartplan);
+    EXPECT_EQ(aufruf.Code, 0);
+    const json vergleich = json::parse(aufruf.Ausgabe);
+    const json lauf = json::parse(Rufe(ordner, "--json --verlauf " + kStartplan).Ausgabe);
+    EXPECT_EQ(vergleich["B"]["Sekunden"], lauf["secsgone"]);
+    EXPECT_EQ(lauf["Verlauf"]["Auftraege"].size(), lauf["Bauliste"].size());
+    EXPECT_EQ(lauf["Verlauf"]["Punkte"].back()["Sekunde"], lauf["secsgone"]);
+    json ohne = lauf;
+    ohne.erase("Verlauf");
+    EXPECT_EQ(ohne, json::parse(Rufe(ordner, "--json " + kStartplan).Ausgabe));
+    // What is the same isn't listed.
+    const std::string gleich = Rufe(ordner, "--vergleich " + kStartplan + " " + kStartplan).Ausgabe;
+    EXPECT_NE(gleich.find("4 Tage 04:40:16"), std::string::npos) << gleich;
+    EXPECT_EQ(gleich.find("Solarkraftwerk 1"), std::string::npos) << gleich;
+    for (const char* const option : {"--vergleich ", "--ical kalender.ics "}) {
+        const std::string weiterer = option[2] == 'v' ? kStartplan : "";
+        const Aufruf fehlt = Rufe(ordner, option + weiterer + " fehlt.tvf");
+        EXPECT_EQ(fehlt.Code, 1);
+        EXPECT_EQ(fehlt.Fehler, kLadefehler);
+    }
+    EXPECT_FALSE(std::filesystem::exists(ordner / "kalender.ics"));
+    EXPECT_EQ(Rufe(ordner, "--ical fehlt/kalender.ics " + kStartplan).Code, 1);
+}
 
 TEST(Konsole, SuchtUndSchreibtDenPlan) {
     using nlohmann::json;

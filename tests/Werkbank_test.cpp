@@ -1,13 +1,16 @@
 // The workbench: one plan in two windows, edits, the timeline.
+#include <QClipboard>
 #include <QComboBox>
 #include <QDragEnterEvent>
 #include <QImage>
 #include <QMimeData>
 #include <QScrollBar>
+#include <QSpinBox>
 #include <QSvgRenderer>
 #include <random>
 
 #include "Fensterhilfen.h"
+#include "persistence/Planlauf.h"
 #include "simulation/Lauftexte.h"
 #include "ui/bauteile/Itembild.h"
 #include "ui/werkbank/Standtexte.h"
@@ -344,6 +347,133 @@ TEST_F(Werkbank, FolgtDenFarbenDesDesktops) {
     EXPECT_EQ(bild.pixelColor(bild.width() - 2, bild.height() - 2), QColor(20, 20, 20));
     EXPECT_EQ(Dort("LV_Werkbank").palette().color(QPalette::Text), QColor(Qt::white));
     EXPECT_NE(Finde("LV_Bauliste").palette().color(QPalette::Text), QColor(Qt::white));
+}
+
+TEST_F(Werkbank, SuchtUndUebernimmtAlsEinenSchritt) {
+    const Planlauf starter(std::filesystem::path(TARVELIN_QUELLEN) / "data/saves/basic.tvf");
+    Lade(starter.Plan);
+    m_jetzt = *LiesDatumzeit("03.12.2026 12:00:30");
+    const auto bytes = [this] {
+        // A save keeps what else a file holds.
+        std::filesystem::remove(m_ordner / "jetzt.tvf");
+        EXPECT_TRUE(SaveBauliste(m_ordner / "jetzt.tvf", m_fenster.DerPlan()));
+        return LiesDatei(m_ordner / "jetzt.tvf");
+    };
+    const auto suche = [this](int versuche) {
+        Dort<QSpinBox>("Spin_Versuche").setValue(versuche);
+        Dort<QAbstractButton>("Cmd_Suchen").click();
+    };
+    const auto warte = [this] {
+        constexpr int kLange = 300'000;
+        ASSERT_TRUE(QTest::qWaitFor([this] { return Dort("Cmd_Suchen").isEnabled(); }, kLange));
+    };
+    const std::string vorher = bytes();
+    // Pinned rows stay, and what has begun: the pause that this takes goes with the undo as well.
+    Greife({40});
+    Dort<QAbstractButton>("Chk_Fest").click();
+    Dort<QAbstractButton>("Chk_AbJetzt").click();
+    suche(20'000);
+    EXPECT_FALSE(Dort("Cmd_Uebernehmen").isEnabled());
+    warte();
+    const std::string bericht = Sagt("LBL_Suche");
+    EXPECT_NE(bericht.find("Vorher: 4 Tage 04:40:16"), std::string::npos) << bericht;
+    Dort<QAbstractButton>("Cmd_Uebernehmen").click();
+    const std::string nachher = bytes();
+    EXPECT_NE(nachher, vorher);
+    EXPECT_EQ(m_fenster.DerPlan().Liste.Tags()[40], starter.Plan.Liste.Tags()[40]);
+    EXPECT_EQ(m_fenster.DerPlan().Schlafzeiten.front().Startzeit, "03.12.2026 10:30");
+    EXPECT_EQ(Sagt("LBL_Dauer"), Text("LBL_Timegone"));
+    const auto dauer = Spannentext(m_fenster.DerLauf().Stand.secsgone.Sekunden());
+    EXPECT_NE(bericht.find("Nachher: " + dauer + ","), std::string::npos) << bericht << dauer;
+    EXPECT_TRUE(m_boxen.Texte.empty());
+    Taste(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(bytes(), vorher);
+    EXPECT_EQ(Zeilen("LV_Schlafzeiten"), static_cast<int>(starter.Plan.Schlafzeiten.size()));
+    Taste(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(bytes(), nachher);
+    // A plan that was edited meanwhile isn't overwritten unasked.
+    Dort<QAbstractButton>("Chk_AbJetzt").click();
+    suche(1'000'000'000);
+    Fuege("ImgMetMine");
+    const std::string bearbeitet = bytes();
+    Dort<QAbstractButton>("Cmd_Anhalten").click();
+    warte();
+    Dort<QAbstractButton>("Cmd_Uebernehmen").click();
+    ASSERT_EQ(m_boxen.Texte.size(), 1U);
+    EXPECT_EQ(bytes(), bearbeitet);
+    // It ends with the window, and what it finds then is kept.
+    suche(1'000'000'000);
+    m_werkbank->close();
+    warte();
+    EXPECT_TRUE(Dort("Cmd_Uebernehmen").isEnabled());
+    suche(1'000'000'000);
+}
+
+TEST_F(Werkbank, SagtWarumSieNichtSuchenKann) {
+    Lade("GS GM");
+    Dort<QComboBox>("Comb_Suchaufgabe").setCurrentIndex(1);
+    Dort<QLineEdit>("txt_Suchziel").setText(QStringLiteral("XX1"));
+    Dort<QAbstractButton>("Cmd_Suchen").click();
+    EXPECT_NE(Sagt("LBL_Meldung").find("\"XX1\" nennt kein Item"), std::string::npos);
+    EXPECT_TRUE(Dort("Cmd_Suchen").isEnabled());
+}
+
+TEST_F(Werkbank, VergleichtMitGemerktemUndMitDateien) {
+    const auto spalten = [this](const char* tabelle) {
+        const auto* const modell = Dort<QTreeView>(tabelle).model();
+        std::string text;
+        for (int i = 0; i < modell->rowCount(); ++i) {
+            for (int spalte = 0; spalte < modell->columnCount(); ++spalte) {
+                text += modell->index(i, spalte).data().toString().toStdString() + "|";
+            }
+        }
+        return text;
+    };
+    Lade("GS GM GM");
+    Dort<QAbstractButton>("Cmd_Merken").click();
+    EXPECT_EQ(spalten("LV_Unterschiede"), "");
+    EXPECT_TRUE(spalten("LV_Kennzahlen").starts_with("Dauer|00:07:27|00:07:27|±00:00:00|Punkte|"));
+    Greife({1});
+    Taste(Qt::Key_Up, Qt::AltModifier);
+    Fuege("ImgKrisMine");
+    EXPECT_EQ(spalten("LV_Unterschiede"),
+              "Kristallmine 1|fehlt|00:00:05||Solarkraftwerk 1|00:00:05|00:03:59|+00:03:54|"
+              "Metallmine 1|00:02:47|00:02:00|-00:00:47|Metallmine 2|00:04:46|00:06:41|+00:01:55|");
+    // In another file, from another start: both are counted from their own.
+    Plan anderer = PlanAus("GM GM");
+    anderer.Parameter.UniStartZeitTag = "1";
+    ASSERT_TRUE(SaveBauliste(m_ordner / "saves" / "anderer.tvf", anderer));
+    m_boxen.Datei = "anderer.tvf";
+    Dort<QAbstractButton>("Cmd_MitDatei").click();
+    EXPECT_EQ(Sagt("LBL_Vergleich"), "Verglichen mit anderer.tvf");
+    EXPECT_EQ(spalten("LV_Unterschiede"),
+              "Metallmine 1|00:00:00|00:02:00|+00:02:00|Kristallmine 1|fehlt|00:00:05||"
+              "Metallmine 2|00:01:49|00:06:41|+00:04:52|Solarkraftwerk 1|fehlt|00:03:59||");
+    m_boxen.Datei = "fehlt.tvf";
+    Dort<QAbstractButton>("Cmd_MitDatei").click();
+    EXPECT_EQ(Sagt("LBL_Vergleich"), "Verglichen mit anderer.tvf");
+    EXPECT_EQ(Sagt("LBL_Meldung"), "Die Bauliste konnte nicht geladen werden...");
+    Dort<QAbstractButton>("Cmd_OhneVergleich").click();
+    EXPECT_EQ(spalten("LV_Kennzahlen"), "");
+}
+
+TEST_F(Werkbank, GibtDenZeitplanMit) {
+    Plan plan = PlanAus("GM GX:10:0:10");
+    Lade(plan);
+    Dort<QAbstractButton>("Cmd_Kopieren").click();
+    const QMimeData& inhalt = *QGuiApplication::clipboard()->mimeData();
+    EXPECT_EQ(inhalt.text().toStdString(),
+              "Nr.\tAuftrag\tStart\tFertig\tGrund\n"
+              "1\tMetallmine 1\t18.11.2006 12:30:00\t18.11.2006 12:31:48\t\n"
+              "2\t100% 0% 100%\t18.11.2006 12:31:49\t18.11.2006 12:31:49\tBauschleife bis "
+              "12:31:49\n");
+    EXPECT_EQ(inhalt.html().count(QStringLiteral("<tr>")), 3);
+    // The reminder is the alarm's.
+    Finde<QComboBox>("Comb_Before").setCurrentText(QStringLiteral("25"));
+    m_boxen.Datei = "kalender.ics";
+    Dort<QAbstractButton>("Cmd_KalenderSpeichern").click();
+    const std::string kalender = LiesDatei(m_ordner / "saves" / "kalender.ics");
+    EXPECT_NE(kalender.find("\r\nTRIGGER:-PT25S\r\n"), std::string::npos) << kalender;
 }
 
 TEST(Standtexte, NennenDieAenderung) {

@@ -154,6 +154,7 @@ void SprichDeutsch(CLI::App& app) {
     formatter->label("REQUIRED", "(mindestens eine)");
     formatter->label("TEXT", "");
     formatter->label("Excludes", "nicht mit");
+    formatter->label("Needs", "nur mit");
 }
 
 /// As the library wants them: without the program's name, from the last to the first. It takes a

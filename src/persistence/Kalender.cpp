@@ -1,8 +1,8 @@
 // Lines of a calendar file.
 #include "persistence/Kalender.h"
 
-#include <map>
-#include <span>
+#include <algorithm>
+#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -73,15 +73,20 @@ using Eintrag = std::vector<const Startereignis*>;
 
 std::vector<Eintrag> Eintraege(const Ablauf& ablauf) {
     constexpr Zeitpunkt kLetzter(std::int64_t{2958466} * 86400);
-    std::vector<Eintrag> eintraege;
+    std::vector<const Startereignis*> starts;
     for (const Startereignis& start : ablauf.Starts) {
-        if (ablauf.Bedingungen.Uhrzeit(start.Start) >= kLetzter) {
-            continue;
+        if (ablauf.Bedingungen.Uhrzeit(start.Start) < kLetzter) {
+            starts.push_back(&start);
         }
-        if (eintraege.empty() || start.Start - eintraege.back().front()->Start > kMinute) {
+    }
+    // A click buffer can put a row's start before that of the row above.
+    std::ranges::stable_sort(starts, {}, [](const Startereignis* s) { return s->Start; });
+    std::vector<Eintrag> eintraege;
+    for (const Startereignis* const start : starts) {
+        if (eintraege.empty() || start->Start - eintraege.back().front()->Start > kMinute) {
             eintraege.emplace_back();
         }
-        eintraege.back().push_back(&start);
+        eintraege.back().push_back(start);
     }
     return eintraege;
 }
@@ -109,13 +114,15 @@ std::string Titel(const Eintrag& eintrag) {
     return text;
 }
 
-/// `produktion`: how many production rows there are down to this one.
-std::string Kennung(const Ablauf& ablauf, const Startereignis& start, int produktion) {
+/// A production row has no level: it is told by how manieth of them it is.
+std::string Kennung(const Ablauf& ablauf, const Startereignis& start) {
     const bool item = start.Order.Was == Auftrag::Art::Item;
+    const auto produktion = std::ranges::count_if(ablauf.Starts, [&](const Startereignis& s) {
+        return s.Order.Was == Auftrag::Art::Produktion && s.Zeile <= start.Zeile;
+    });
     const std::string tag = start.Order.Tag();
-    return tag.substr(0, tag.find(':')) + "-" +
-           std::to_string(item ? int{start.Nummer} : produktion) + "-" +
-           Stempel(ablauf.Bedingungen.StartDate) + "@tarvelin";
+    return tag.substr(0, tag.find(':')) + "-" + std::to_string(item ? start.Nummer : produktion) +
+           "-" + Stempel(ablauf.Bedingungen.StartDate) + "@tarvelin";
 }
 
 }  // namespace
@@ -125,16 +132,11 @@ std::string Kalendertext(const Ablauf& ablauf, std::optional<Long> erinnerung,
     std::string text =
         "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//Tarvelin//Tarvelin//DE\r\n"
         "CALSCALE:GREGORIAN\r\n";
-    int produktionen = 0;
     for (const Eintrag& eintrag : Eintraege(ablauf)) {
         const Startereignis& erster = *eintrag.front();
-        const bool produktion = erster.Order.Was == Auftrag::Art::Produktion;
-        const std::string kennung = Kennung(ablauf, erster, produktionen + (produktion ? 1 : 0));
-        for (const Startereignis* const start : eintrag) {
-            produktionen += start->Order.Was == Auftrag::Art::Produktion ? 1 : 0;
-        }
         const std::string titel = Geschuetzt(Titel(eintrag));
-        text += "BEGIN:VEVENT\r\n" + Zeile("UID:" + kennung) + Zeile("DTSTAMP:" + Stempel(stand)) +
+        text += "BEGIN:VEVENT\r\n" + Zeile("UID:" + Kennung(ablauf, erster)) +
+                Zeile("DTSTAMP:" + Stempel(stand)) +
                 Zeile("DTSTART:" + Stempel(ablauf.Bedingungen.Uhrzeit(erster.Start))) +
                 "DURATION:PT1M\r\n" + Zeile("SUMMARY:" + titel) +
                 Zeile("DESCRIPTION:" + Geschuetzt(Beschreibung(ablauf, eintrag)));

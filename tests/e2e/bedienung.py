@@ -2,6 +2,7 @@
 hears what is played."""
 import array
 import collections
+import copy
 import os
 import select
 import shutil
@@ -103,6 +104,15 @@ class Programm:
         kinder = [programm.get_child_at_index(i) for i in range(programm.get_child_count())]
         return [k for k in kinder if k and ist(k, Atspi.StateType.SHOWING)]
 
+    def weiteres(self, titel):
+        """The program with another one of its windows below the hands."""
+        anderes = copy.copy(self)
+        anderes.nummer = warte(lambda: fensternummer(titel), titel)
+        anderes.fenster = warte(lambda: next((k for k in self.oberste()
+                                              if titel in k.get_name()), None), titel)
+        xdotool("windowactivate", "--sync", anderes.nummer)
+        return anderes
+
     @staticmethod
     def lies_box(alert):
         knoten = list(baum(alert))
@@ -122,11 +132,13 @@ class Programm:
         warte(lambda: not any(b.text == frage for b in self.boxen()), f"end of {frage!r}")
         return box.titel
 
+    def alle(self, rolle):
+        return [k for k in baum(self.fenster) if k.get_role_name() == rolle]
+
     def finde(self, rolle, name, nummer=0):
         """The control of a role and name; among several the one of this number."""
         def suche():
-            treffer = [k for k in baum(self.fenster)
-                       if k.get_role_name() == rolle and k.get_name() == name]
+            treffer = [k for k in self.alle(rolle) if k.get_name() == name]
             return treffer[nummer] if len(treffer) > nummer else None
         return warte(suche, f"{rolle} {name!r}")
 
@@ -138,6 +150,18 @@ class Programm:
 
     def klicke(self, rolle, name, nummer=0, anteil=0.5):
         xdotool("mousemove", *self.mitte(self.finde(rolle, name, nummer), anteil), "click", 1)
+
+    def sagt(self, bedeutung):
+        """The text of the label that means this."""
+        return next((k.get_name() for k in self.alle("label")
+                     if k.get_description() == bedeutung), None)
+
+    def waehle_datei(self, datei):
+        """Gives a file dialog that comes up a name."""
+        warte(lambda: any(k.get_role_name() == "dialog" for k in self.oberste()), "the dialog")
+        xdotool("sleep", 0.3, "key", "ctrl+a", "type", datei)
+        xdotool("key", "Return")
+        warte(lambda: not any(k.get_role_name() == "dialog" for k in self.oberste()), "its end")
 
     def tippe(self, name, text):
         self.klicke("text", name)

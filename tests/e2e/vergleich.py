@@ -4,9 +4,10 @@ import os
 import subprocess
 
 
-def rechne(programme, datei):
+def rechne(programme, datei, *optionen):
     """The console program's whole result of a plan, with its messages."""
-    return json.loads(subprocess.run([os.path.join(programme, "tarvelin-cli"), "--json", datei],
+    programm = os.path.join(programme, "tarvelin-cli")
+    return json.loads(subprocess.run([programm, "--json", *optionen, datei],
                                      stdout=subprocess.PIPE, check=False).stdout)
 
 

@@ -52,7 +52,7 @@ Liste* Vergleichsfeld::NeueTabelle(const char* name, const char* bedeutung, cons
              }},
         this);
     auto* const tabelle =
-        new Liste(QString::fromLatin1(name), QString::fromUtf8(bedeutung), {10, 7, 7, 8}, this);
+        new Liste(QString::fromLatin1(name), QString::fromUtf8(bedeutung), {9, 9, 9, 7}, this);
     tabelle->setModel(*modell);
     tabelle->setTextElideMode(Qt::ElideRight);
     return tabelle;
@@ -66,8 +66,15 @@ void Vergleichsfeld::LegeAus() {
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(knoepfe);
     layout->addWidget(m_name);
-    layout->addWidget(m_kennzahlliste, 1);
-    layout->addWidget(m_auftragsliste, 2);
+    layout->addWidget(m_kennzahlliste, 2);
+    layout->addWidget(m_auftragsliste, 3);
+}
+
+QSize Vergleichsfeld::minimumSizeHint() const {
+    // An order and three spans, with the days of a long plan.
+    constexpr int kZeichen = 80;
+    return QWidget::minimumSizeHint().expandedTo(
+        QSize(kZeichen * fontMetrics().averageCharWidth(), 0));
 }
 
 void Vergleichsfeld::Zeige(const std::optional<Ablauf>& dieser) {

@@ -31,6 +31,8 @@ class Vergleichsfeld : public QWidget {
     /// What it is held against, if anything.
     [[nodiscard]] const std::optional<Ablauf>& Anderer() const { return m_anderer; }
 
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
   signals:
     void AndererGeaendert();
     void Meldung(const std::string& text);

@@ -1,6 +1,7 @@
 // Layout of the workbench and its handlers.
 #include "ui/werkbank/frmWerkbank.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QFileInfo>
 #include <QFontDatabase>
@@ -219,8 +220,11 @@ void frmWerkbank::FolgeDesktop() {
     setPalette(AlsEigene(farben));
     setFont(QFontDatabase::systemFont(QFontDatabase::GeneralFont));
     m_zeitleiste->SetzeAussehen(farben, font());
-    const int breite = std::max(m_palette->sizeHint().width(), m_suchfeld->sizeHint().width());
-    m_felder->setMinimumWidth(breite + 2 * style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    // Scrolled up and down only.
+    for (auto* const rolle : m_felder->findChildren<QScrollArea*>()) {
+        rolle->setMinimumWidth(rolle->widget()->minimumSizeHint().width() +
+                               style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    }
 }
 
 bool frmWerkbank::event(QEvent* event) {
@@ -376,6 +380,11 @@ void frmWerkbank::Ticke() {
 void frmWerkbank::Melde(const std::string& text) {
     m_LBL_Meldung->setText(AlsQString(text).trimmed());
     m_LBL_Meldung->setVisible(!text.empty());
+    if (!text.empty()) {
+        // Read out at once, wherever the keyboard is.
+        QAccessibleEvent ruf(m_LBL_Meldung, QAccessible::Alert);
+        QAccessible::updateAccessibility(&ruf);
+    }
 }
 
 void frmWerkbank::Stelle(const Umstellung& umstellung, std::vector<std::size_t> auswahl) {
