@@ -4,11 +4,12 @@
     aufnahme.py FOLDER_OF_THE_PROGRAMS FOLDER_OF_THE_PICTURES
 """
 import os
+import shutil
 import sys
 import tempfile
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "tests", "e2e"))
-from bedienung import Programm, warte, xdotool  # noqa: E402
+from bedienung import STARTERPLAN, Programm, kopiere, warte, xdotool  # noqa: E402
 from eroeffnung import spiele  # noqa: E402
 
 
@@ -35,7 +36,38 @@ def nimm_auf(programm, bilder):
         xdotool("key", "alt+F4", "sleep", 0.3)
 
 
+def nimm_werkbank_auf(programm, bilder):
+    """The starter plan, before and after a search."""
+    werkbank = programm.oeffne_werkbank()
+
+    def bild(name):
+        werkbank.aufnahme(os.path.join(bilder, name + ".png"), "Tarvelin  |  Werkbank")
+
+    zeile = werkbank.zeilen("Aufträge", 6)[23]
+    xdotool("mousemove", *werkbank.mitte(zeile[1], 0.2), "click", 1, "sleep", 0.5)
+    leiste = werkbank.finde("filler", "Zeitleiste")
+    xdotool("mousemove", *werkbank.mitte(leiste, 0.45), "sleep", 0.5)
+    bild("werkbank")
+    xdotool("key", "alt+g")
+    werkbank.klicke("push button", "Merken")
+    xdotool("key", "alt+c")
+    werkbank.klicke("push button", "Suchen")
+    warte(lambda: any("Nachher" in k.get_name() for k in werkbank.alle("label")), "a plan", 120)
+    bild("werkbank-suche")
+    vorher = werkbank.sagt("Dauer des Plans")
+    werkbank.klicke("push button", "Übernehmen")
+    warte(lambda: werkbank.sagt("Dauer des Plans") != vorher, "the plan that was found")
+    xdotool("key", "alt+g", "sleep", 0.5)
+    bild("werkbank-vergleich")
+
+
 with tempfile.TemporaryDirectory() as ordner:
+    programmordner = os.path.join(ordner, "Werkbank")
+    kopiere(sys.argv[1], programmordner)
+    shutil.copy(STARTERPLAN, os.path.join(programmordner, "saves", "basic.tvf"))
+    player = Programm(sys.argv[1], programmordner)
+    nimm_werkbank_auf(player, sys.argv[2])
+    player.beende()
     player = Programm(sys.argv[1], os.path.join(ordner, "Tarvelin"))
     nimm_auf(player, sys.argv[2])
     player.beende()

@@ -94,8 +94,8 @@ std::vector<Eintrag> Eintraege(const Ablauf& ablauf) {
 std::string Beschreibung(const Ablauf& ablauf, const Eintrag& eintrag) {
     std::string text;
     for (const Startereignis* const start : eintrag) {
-        text += (text.empty() ? "" : "\n") + Uhrzeittext(ablauf.Bedingungen.Uhrzeit(start->Start)) +
-                " " + Auftragstext(*start);
+        text += text.empty() ? "" : "\n";
+        text += Uhrzeittext(ablauf.Bedingungen.Uhrzeit(start->Start)) + " " + Auftragstext(*start);
         if (start->Order.Was == Auftrag::Art::Item) {
             text +=
                 "\n" + Kostentext(Preis(start->Order.Item, static_cast<Byte>(start->Nummer - 1)));
@@ -109,7 +109,8 @@ std::string Beschreibung(const Ablauf& ablauf, const Eintrag& eintrag) {
 std::string Titel(const Eintrag& eintrag) {
     std::string text;
     for (const Startereignis* const start : eintrag) {
-        text += (text.empty() ? "" : ", ") + Auftragstext(*start);
+        text += text.empty() ? "" : ", ";
+        text += Auftragstext(*start);
     }
     return text;
 }

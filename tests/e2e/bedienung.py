@@ -104,6 +104,10 @@ class Programm:
         kinder = [programm.get_child_at_index(i) for i in range(programm.get_child_count())]
         return [k for k in kinder if k and ist(k, Atspi.StateType.SHOWING)]
 
+    def oeffne_werkbank(self):
+        xdotool("key", "alt+w", "sleep", 0.3, "key", "Return")
+        return self.weiteres("Tarvelin  |  Werkbank")
+
     def weiteres(self, titel):
         """The program with another one of its windows below the hands."""
         anderes = copy.copy(self)

@@ -36,11 +36,6 @@ def erwarte_einig(programm, werkbank):
     return [zeile[1] for zeile in warte(sind_einig, "two windows that agree")]
 
 
-def oeffne(programm):
-    xdotool("key", "alt+w", "sleep", 0.3, "key", "Return")
-    return programm.weiteres("Tarvelin  |  Werkbank")
-
-
 def ziehe_zeile(werkbank, von, vor):
     """By the mouse, in front of another row."""
     zellen = werkbank.zeilen("Aufträge", 6)
@@ -140,7 +135,7 @@ def main(programme):
         kopiere(programme, ordner)
         shutil.copy(STARTERPLAN, os.path.join(ordner, "saves", "basic.tvf"))
         programm = Programm(programme, ordner)
-        werkbank = oeffne(programm)
+        werkbank = programm.oeffne_werkbank()
         bearbeite(programm, werkbank)
         verlauf = rechne(programme, STARTERPLAN, "--verlauf")["Verlauf"]
         pruefe_bild(werkbank, verlauf, os.path.join(temporaer, "bild.png"))

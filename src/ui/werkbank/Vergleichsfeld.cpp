@@ -52,7 +52,7 @@ Liste* Vergleichsfeld::NeueTabelle(const char* name, const char* bedeutung, cons
              }},
         this);
     auto* const tabelle =
-        new Liste(QString::fromLatin1(name), QString::fromUtf8(bedeutung), {9, 9, 9, 7}, this);
+        new Liste(QString::fromLatin1(name), QString::fromUtf8(bedeutung), {12, 9, 9, 8}, this);
     tabelle->setModel(*modell);
     tabelle->setTextElideMode(Qt::ElideRight);
     return tabelle;
@@ -72,7 +72,7 @@ void Vergleichsfeld::LegeAus() {
 
 QSize Vergleichsfeld::minimumSizeHint() const {
     // An order and three spans, with the days of a long plan.
-    constexpr int kZeichen = 80;
+    constexpr int kZeichen = 86;
     return QWidget::minimumSizeHint().expandedTo(
         QSize(kZeichen * fontMetrics().averageCharWidth(), 0));
 }
