@@ -3,12 +3,14 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QRadioButton>
+#include <QSysInfo>
 #include <csignal>
 
 #include "Fensterhilfen.h"
 #include "ui/bauteile/Bildknopf.h"
 #include "ui/dienste/Endesignale.h"
 #include "ui/dienste/Klangausgabe.h"
+#include "ui/dienste/Ordnerschloss.h"
 #include "ui/dienste/Wellendatei.h"
 #include "ui/fenster/Hersteller.h"
 
@@ -94,6 +96,42 @@ TEST_F(Fensterleben, EndeBeiDenFragenLaesstPlanUndAntworten) {
         EXPECT_EQ(LiesDatei(m_ordner / "config.cfg").find("StartSettings"), std::string::npos);
         EXPECT_FALSE(fenster.findChild<QTimer*>(QStringLiteral("Tmr_Autosave"))->isActive());
     }
+}
+
+// A double click on a plan brings that one; the last one is kept beside it.
+TEST_F(Fensterleben, PlanAlsArgumentStattDesLetzten) {
+    Lade("GM GM");
+    m_fenster.close();
+    const auto saves = m_ordner / "saves";
+    const std::string letzter = LiesDatei(saves / "autosave.tvf");
+    ASSERT_TRUE(SaveBauliste(saves / "meiner.tvf", PlanAus("GS GM GK")));
+    m_umgebung.Planargument = saves / "fehlt.tvf";
+    {
+        NeuerStart start(m_umgebung);
+        ASSERT_EQ(m_boxen.Texte.size(), 3U) << "what can't be loaded is told, then all is as ever";
+        EXPECT_EQ(LiesDatei(saves / "autosave.tvf"), letzter);
+    }
+    fs::remove(saves / "autosave-vorige.tvf");
+    SchreibeDatei(saves / "autosave.tvf", letzter);
+    m_boxen.Texte.clear();
+    m_umgebung.Planargument = saves / "meiner.tvf";
+    NeuerStart start(m_umgebung);
+    EXPECT_TRUE(m_boxen.Texte.empty());
+    EXPECT_EQ(start.Zeilen(), 3U);
+    EXPECT_TRUE(start->windowTitle().endsWith(QStringLiteral("( meiner.tvf )")));
+    EXPECT_EQ(LiesDatei(saves / "autosave-vorige.tvf"), letzter);
+}
+
+TEST_F(Fensterleben, OrdnerGehoertDemErstenProgramm) {
+    const auto erstes = std::make_unique<Ordnerschloss>(m_ordner / "");
+    EXPECT_FALSE(erstes->HatEinAnderer());
+    EXPECT_TRUE(Ordnerschloss(m_ordner / "").HatEinAnderer());
+    EXPECT_FALSE(Ordnerschloss(m_ordner / "saves").HatEinAnderer());
+    // No process has the highest number.
+    SchreibeDatei(m_ordner / "mfx" / "tarvelin.lock",
+                  "4194999\ntarvelin\n" + QSysInfo::machineHostName().toStdString() + "\n");
+    EXPECT_FALSE(Ordnerschloss(m_ordner / "mfx").HatEinAnderer());
+    EXPECT_FALSE(Ordnerschloss(m_ordner / "fehlt").HatEinAnderer());
 }
 
 // The end of a session is announced, and may still be called off.

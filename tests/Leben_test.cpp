@@ -204,7 +204,7 @@ TEST(Programmordner, OhneNutzerordnerDienenDieEigenenDateien) {
 TEST(Schreibschutz, AendertImOrdnerNichtsUndSonstAlles) {
     const Ordner ordner;
     LegeDatenAn(ordner / "eigene");
-    const Schreibschutz schutz(ordner / "eigene");
+    const Schreibschutz schutz({ordner / "eigene"});
     if (!kWindows) {
         std::filesystem::create_directory_symlink(ordner / "eigene", ordner / "umweg");
     }
@@ -217,6 +217,20 @@ TEST(Schreibschutz, AendertImOrdnerNichtsUndSonstAlles) {
         EXPECT_EQ(LiesDatei(plan, 100, schutz), "plan");
     }
     EXPECT_TRUE(SaveBauliste(ordner / "eigene-plaene.tvf", PlanAus("GM"), schutz));
+}
+
+TEST(Programmordner, SperrtWasEinAndererBehaelt) {
+    const Ordner ordner;
+    std::filesystem::create_directory(ordner / "saves");
+    const Programmordner programmordner{.Ordner = ordner / ""};
+    const Schreibschutz dateien(programmordner.Gesperrte(true));
+    Autosave autosave(ordner / "", dateien);
+    autosave.SchreibeZuletzt(PlanAus("GM"));
+    EXPECT_FALSE(Konfiguration(ordner / "", dateien).Schreibe({{Konfiguration::kFirststart, "0"}}));
+    EXPECT_EQ(ordner.Eintraege(), 1U);
+    EXPECT_TRUE(std::filesystem::is_empty(ordner / "saves"));
+    EXPECT_TRUE(SaveBauliste(ordner / "saves" / "meiner.tvf", PlanAus("GM"), dateien));
+    EXPECT_TRUE(programmordner.Gesperrte(false).empty());
 }
 
 /// The steps of a session, and the plans that lie there after each; "" for none.

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "persistence/Planablage.h"
 
@@ -20,6 +21,10 @@ class Autosave {
                       const Dateisystem& system = Platte());
 
     [[nodiscard]] const std::filesystem::path& Datei() const { return m_datei; }
+    /// All files that it writes.
+    [[nodiscard]] std::vector<std::filesystem::path> Dateien() const {
+        return {m_datei, m_vorige[0], m_vorige[1]};
+    }
 
     /// Takes the plan for what is written.
     void GiltAlsGeschrieben(const Plan& plan);

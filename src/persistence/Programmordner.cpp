@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "persistence/Autosave.h"
 #include "persistence/Dateiersatz.h"
 
 namespace tarvelin {
@@ -63,6 +64,18 @@ bool HatPlaene(const fs::path& ordner) {
 }
 
 }  // namespace
+
+std::vector<fs::path> Programmordner::Gesperrte(bool haelt_ein_anderer) const {
+    if (!KannBehalten) {
+        return {Ordner};
+    }
+    if (!haelt_ein_anderer) {
+        return {};
+    }
+    auto gesperrte = Autosave(Ordner).Dateien();
+    gesperrte.push_back(Ordner / "config.cfg");
+    return gesperrte;
+}
 
 Programmordner BestimmeProgrammordner(const fs::path& ordner_des_programms,
                                       const fs::path& nutzerordner) {

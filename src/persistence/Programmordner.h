@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <vector>
 
 namespace tarvelin {
 
@@ -11,6 +12,10 @@ struct Programmordner {
     /// Whether the user's plans and settings can be kept there. Where they can't, nothing of it
     /// must be changed.
     bool KannBehalten = true;
+
+    /// What of it must not be written: all where nothing can be kept, the configuration and the
+    /// plan that outlasts a session where another program keeps them.
+    [[nodiscard]] std::vector<std::filesystem::path> Gesperrte(bool haelt_ein_anderer) const;
 };
 
 /// It is the folder of the running program if `img` lies there and it can be written. Else it is

@@ -1,21 +1,25 @@
-// What lies in a protected folder.
+// What is protected.
 #include "persistence/Schreibschutz.h"
 
 #include <algorithm>
 
 namespace tarvelin {
 
-Schreibschutz::Schreibschutz(const std::filesystem::path& ordner, const Dateisystem& system)
-    : m_system(system), m_ordner(system.LoeseAuf(ordner / "").value_or(ordner)) {
-    if (!m_ordner.has_filename()) {
-        m_ordner = m_ordner.parent_path();
+Schreibschutz::Schreibschutz(const std::vector<std::filesystem::path>& geschuetzte,
+                             const Dateisystem& system)
+    : m_system(system) {
+    for (const auto& pfad : geschuetzte) {
+        auto ort = system.LoeseAuf(pfad).value_or(pfad);
+        m_geschuetzte.push_back(ort.has_filename() ? ort : ort.parent_path());
     }
 }
 
 bool Schreibschutz::Schuetzt(const std::filesystem::path& pfad) const {
     const auto ort = m_system.LoeseAuf(pfad).value_or(pfad);
-    return std::mismatch(m_ordner.begin(), m_ordner.end(), ort.begin(), ort.end()).first ==
-           m_ordner.end();
+    return std::ranges::any_of(m_geschuetzte, [&](const auto& geschuetzt) {
+        return std::mismatch(geschuetzt.begin(), geschuetzt.end(), ort.begin(), ort.end()).first ==
+               geschuetzt.end();
+    });
 }
 
 }  // namespace tarvelin

@@ -1,4 +1,4 @@
-// A platform on which nothing can be written in one folder.
+// A platform on which certain files and folders can't be written.
 #pragma once
 
 #include <filesystem>
@@ -9,11 +9,12 @@
 
 namespace tarvelin {
 
-/// Does what another platform does, but changes nothing in a folder and below it.
+/// Does what another platform does, but changes none of the files and folders that it was given,
+/// and nothing below them.
 class Schreibschutz final : public Dateisystem {
   public:
     /// `system` must outlive it.
-    explicit Schreibschutz(const std::filesystem::path& ordner,
+    explicit Schreibschutz(const std::vector<std::filesystem::path>& geschuetzte,
                            const Dateisystem& system = Platte());
 
     [[nodiscard]] bool IstBeschreibbar(const std::filesystem::path& pfad) const override {
@@ -71,7 +72,7 @@ class Schreibschutz final : public Dateisystem {
 
     const Dateisystem& m_system;
     /// Absolute, without links.
-    std::filesystem::path m_ordner;
+    std::vector<std::filesystem::path> m_geschuetzte;
 };
 
 }  // namespace tarvelin

@@ -16,6 +16,8 @@
 #include "ui/dienste/Klangausgabe.h"
 #include "ui/dienste/Meldungsfenster.h"
 #include "ui/dienste/Netzabruf.h"
+#include "ui/dienste/Ordnerschloss.h"
+#include "ui/dienste/Planargument.h"
 #include "ui/fenster/frmMain.h"
 
 namespace {
@@ -52,9 +54,18 @@ tarvelin::Meldung OhneNutzerordner() {
             .Symbol = tarvelin::Meldungssymbol::Warnung};
 }
 
+tarvelin::Frage ZweitesFenster() {
+    return {.Text =
+                "Tarvelin läuft schon. Soll trotzdem ein zweites Fenster aufgehen?\r\n\r\nDas "
+                "zweite merkt sich beim Beenden weder Bauliste noch Einstellungen: was bleiben "
+                "soll, musst du dort selbst speichern (Datei, Speichern).",
+            .Titel = "Tarvelin",
+            .Symbol = tarvelin::Meldungssymbol::Frage};
+}
+
 }  // namespace
 
-int main(int /*argc*/, char** argv) {
+int main(int argc, char** argv) {
     // The toolkit would take arguments of its own.
     int anzahl = 1;
     QApplication programm(anzahl, argv);
@@ -64,8 +75,12 @@ int main(int /*argc*/, char** argv) {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     const tarvelin::Programmordner ordner = tarvelin::BestimmeProgrammordner(
         tarvelin::AlsPfad(QApplication::applicationDirPath()), Nutzerordner());
-    const tarvelin::Schreibschutz schutz(ordner.Ordner);
+    const tarvelin::Ordnerschloss schloss(ordner.Ordner);
     tarvelin::Meldungsfenster boxen;
+    if (schloss.HatEinAnderer() && !boxen.Stelle(ZweitesFenster())) {
+        return 0;
+    }
+    const tarvelin::Schreibschutz dateien(ordner.Gesperrte(schloss.HatEinAnderer()));
     tarvelin::Netzabruf netz;
     tarvelin::Klangausgabe ton;
     const tarvelin::Umgebung umgebung{
@@ -75,8 +90,9 @@ int main(int /*argc*/, char** argv) {
         .Jetzt = Ortszeit,
         .OeffneSeite = OeffneSeite,
         .Programmordner = ordner.Ordner,
-        .Dateien = ordner.KannBehalten ? tarvelin::Platte() : schutz,
+        .Dateien = dateien,
         .Desktopfarben = [&desktop] { return desktop.Farben(); },
+        .Planargument = tarvelin::Planargument(argc, argv),
         .Starthinweis = ordner.KannBehalten ? std::nullopt : std::optional(OhneNutzerordner())};
     tarvelin::frmMain fenster(umgebung);
     // Whatever is open closes with the window, and every event loop ends.

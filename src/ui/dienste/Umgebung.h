@@ -89,6 +89,8 @@ struct Umgebung {
     /// The colours of the desktop, light or dark. When they change, every window gets a
     /// `QEvent::ThemeChange`.
     std::function<QPalette()> Desktopfarben = [] { return QGuiApplication::palette(); };
+    /// The plan to open at the start in the place of the last one; empty for none.
+    std::filesystem::path Planargument = {};
     /// What the user has to know from the start on.
     std::optional<Meldung> Starthinweis = std::nullopt;
 };

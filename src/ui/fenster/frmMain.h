@@ -80,6 +80,8 @@ class frmMain : public QMainWindow {
     void WarteAufBildschirm();
     void SetzeHeute();
     void LiesSkin();
+    /// False if there is none, or it can't be loaded.
+    bool BringePlanargument();
     void BringePlan();
     /// Whether the last plan was loaded.
     bool StelleWiederHer(const std::optional<Profil>& letzter);

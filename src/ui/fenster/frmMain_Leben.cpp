@@ -31,7 +31,7 @@ void frmMain::Form_Load() {
     if (m_umgebung.Starthinweis) {
         m_umgebung.Boxen.Zeige(*m_umgebung.Starthinweis);
     }
-    if (!IstGeschlossen()) {
+    if (!IstGeschlossen() && !BringePlanargument()) {
         BringePlan();
     }
     if (!IstGeschlossen()) {
@@ -39,6 +39,16 @@ void frmMain::Form_Load() {
         constexpr std::chrono::seconds kTakt(4);
         m_Tmr_Autosave.start(kTakt);
     }
+}
+
+// The plan of the last session is kept beside it.
+bool frmMain::BringePlanargument() {
+    const std::filesystem::path& datei = m_umgebung.Planargument;
+    if (datei.empty() || !LoadBauliste(datei, false) || IstGeschlossen()) {
+        return false;
+    }
+    static_cast<void>(m_autosave.Schreibe(m_plan));
+    return true;
 }
 
 // The last plan stays untouched until the player has answered for it.
