@@ -68,6 +68,16 @@ def ist(knoten, zustand):
     return knoten.get_state_set().contains(zustand)
 
 
+def erstes_fenster(pid):
+    """The first window of a process, or None."""
+    tisch = Atspi.get_desktop(0)
+    for i in range(tisch.get_child_count()):
+        programm = tisch.get_child_at_index(i)
+        if programm and programm.get_process_id() == pid:
+            return programm.get_child_at_index(0)
+    return None
+
+
 class Programm:
     """The program in a copy of its folder, from its start to its end."""
 
@@ -91,12 +101,7 @@ class Programm:
     def _fenster(self):
         if self.prozess.poll() is not None:
             raise Fehler(f"the program ended at its start with {self.prozess.returncode}")
-        tisch = Atspi.get_desktop(0)
-        for i in range(tisch.get_child_count()):
-            programm = tisch.get_child_at_index(i)
-            if programm and programm.get_process_id() == self.prozess.pid:
-                return programm.get_child_at_index(0)
-        return None
+        return erstes_fenster(self.prozess.pid)
 
     def oberste(self):
         """Windows, boxes and dialogs of the program that are open."""

@@ -8,11 +8,13 @@ import datetime
 import os
 import shutil
 import signal
+import subprocess
 import sys
 import tempfile
 import time
 
-from bedienung import STARTERPLAN, Atspi, Ohr, Programm, ist, kopiere, warte, xdotool
+from bedienung import (STARTERPLAN, Atspi, Ohr, Programm, erstes_fenster, fensternummer, ist,
+                       kopiere, warte, xdotool)
 from eroeffnung import spiele
 from skinserver import Skinserver, bild, farbe
 from vergleich import erwartet, gesehen, rechne, texte
@@ -53,6 +55,34 @@ def erster_start(programme, ordner):
     assert not programm.boxen() and programm.fenster.get_name().endswith("      ( basic.tvf )")
     warte(lambda: not os.path.exists(starterplan), "end of the starter plan")
     return programm
+
+
+def pruefe_zweites_fenster(programme, programm, datei, autosave):
+    """Two windows of a folder: the second asks, and keeps nothing."""
+    def bauliste(plan):
+        return rechne(programme, plan)["Bauliste"]
+
+    def behalten():
+        with open(os.path.join(programm.ordner, "config.cfg"), "rb") as config:
+            return config.read(), bauliste(autosave)
+    warte(lambda: bauliste(autosave) == bauliste(datei), "the plan on the disk")
+    vorher = behalten()
+    for antwort in ["Nein", "Ja"]:
+        zweites = subprocess.Popen([os.path.join(programm.ordner, "tarvelin"), datei],
+                                   env={**os.environ, "LC_ALL": "C.UTF-8"})
+        fenster = warte(lambda: erstes_fenster(zweites.pid), "the question")
+        box = Programm.lies_box(fenster)
+        assert box.text.startswith("Tarvelin läuft schon."), box
+        xdotool("sleep", 0.3, "mousemove", *programm.mitte(box.knoepfe[antwort]), "click", 1)
+        if antwort == "Ja":
+            titel = f"({os.path.basename(datei)})".replace("(", "( ").replace(")", " )")
+            nummer = warte(lambda: fensternummer(titel.replace("(", "[(]").replace(")", "[)]")),
+                           "the second window")
+            xdotool("windowactivate", "--sync", nummer, "key", "Tab", "key", "ctrl+n", "sleep", 0.5,
+                    "key", "alt+F4")
+        assert zweites.wait(timeout=30) == 0
+    assert behalten() == vorher
+    xdotool("windowactivate", "--sync", programm.nummer)
 
 
 def pruefe_plan(programme, programm, datei):
@@ -154,6 +184,7 @@ def main(programme):
         autosave = os.path.join(ordner, "saves", "autosave.tvf")
         programm = erster_start(programme, ordner)
         ergebnis = pruefe_plan(programme, programm, os.path.join(temporaer, "plan.tvf"))
+        pruefe_zweites_fenster(programme, programm, os.path.join(temporaer, "plan.tvf"), autosave)
         assert programm.beende() == 0
         assert rechne(programme, autosave)["LV_Bauzeiten"] == ergebnis["LV_Bauzeiten"]
         programm = stelle_wieder_her(programme, ordner, ergebnis)
