@@ -4,7 +4,7 @@
 #   --tools     clang-tidy, cppcheck and a build by clang++, none of which may say a word
 #   --coverage  tells which lines below the window the tests run
 #   --lang      lets a monkey play the real program on a virtual screen: SEED and ACTIONS, 1 and 400
-#   --windows   builds core and console program for Windows and runs their tests there
+#   --windows   builds all for Windows, its libraries included, and runs the tests there
 set -euo pipefail
 ordner=$(cd "$(dirname "$0")" && pwd)
 . "$ordner/cmake/pakete.sh"
@@ -56,8 +56,13 @@ spiele_lang() {
 
 teste_fuer_windows() {
     stelle_bereit "${BAU_PAKETE[@]}" "${WINDOWS_PAKETE[@]}"
+    . packaging/windows/bibliotheken.sh
+    stelle_bibliotheken_bereit
+    export CURL_WINDOWS QT_WINDOWS SVG_WINDOWS
+    # A build stays with the toolkit that it began with.
+    grep -qsF "$QT_WINDOWS/" build/mingw/CMakeCache.txt || rm -rf build/mingw
     baue "$ordner" mingw
-    ctest --preset mingw
+    tests/e2e/windows.sh ctest --preset mingw
 }
 
 case "${1:-}" in

@@ -16,6 +16,8 @@ int main(int argc, char** argv) {
     // What is fetched lies on this machine.
     qputenv("no_proxy", "*");
     testing::InitGoogleTest(&argc, argv);
+    // A test can press the toolkit's own dialogs only.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication programm(argc, argv);
     tarvelin::StelleAussehenEin(programm);
     return RUN_ALL_TESTS();

@@ -4,11 +4,9 @@
 #include <QComboBox>
 #include <QRadioButton>
 #include <QSysInfo>
-#include <csignal>
 
 #include "Fensterhilfen.h"
 #include "ui/bauteile/Bildknopf.h"
-#include "ui/dienste/Endesignale.h"
 #include "ui/dienste/Klangausgabe.h"
 #include "ui/dienste/Ordnerschloss.h"
 #include "ui/dienste/Wellendatei.h"
@@ -395,22 +393,6 @@ TEST_F(Fensterleben, TaktZieltAufDieNaechsteSekunde) {
     }
     takt.Schalte(false);
     EXPECT_FALSE(takt.isActive());
-}
-
-TEST_F(Fensterleben, SignaleKommenAmFensterAn) {
-    int gekommen = 0;
-    {
-        const Endesignale signale([&] { ++gekommen; });
-        for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
-            const int bisher = gekommen;
-            std::raise(signal);
-            EXPECT_EQ(gekommen, bisher) << "not within the handler";
-            EXPECT_TRUE(QTest::qWaitFor([&] { return gekommen == bisher + 1; })) << signal;
-        }
-    }
-    for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
-        std::signal(signal, SIG_DFL);
-    }
 }
 
 /// The files of a skin in the order of a fetch, and the picture that each is for.

@@ -1,8 +1,10 @@
 // The real fetch against a real server on this machine, with all its whims.
 #ifdef _WIN32
 #include <winsock2.h>
+using Anschluss = SOCKET;
 #else
 #include <sys/socket.h>
+using Anschluss = int;
 #endif
 
 #include <QApplication>
@@ -68,7 +70,7 @@ class Server {
         if (Zuruecksetzen) {
             kunde.flush();
             const linger hart{.l_onoff = 1, .l_linger = 0};
-            ::setsockopt(static_cast<int>(kunde.socketDescriptor()), SOL_SOCKET, SO_LINGER,
+            ::setsockopt(static_cast<Anschluss>(kunde.socketDescriptor()), SOL_SOCKET, SO_LINGER,
                          reinterpret_cast<const char*>(&hart), sizeof hart);
             kunde.abort();
         } else if (Schliessen) {

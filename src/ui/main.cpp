@@ -71,7 +71,8 @@ int main(int argc, char** argv) {
     QApplication programm(anzahl, argv);
     const tarvelin::Desktopfarben desktop(QApplication::palette());
     tarvelin::StelleAussehenEin(programm);
-    // The toolkit's file dialog would keep a history of folders in the user's settings.
+    // The toolkit's file dialog would keep a history of folders in the user's settings. Where these
+    // are no file, it is built without that.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     const tarvelin::Programmordner ordner = tarvelin::BestimmeProgrammordner(
         tarvelin::AlsPfad(QApplication::applicationDirPath()), Nutzerordner());

@@ -1,7 +1,9 @@
 // Settings of the toolkit.
 #include "ui/bauteile/Aussehen.h"
 
+#include <QDir>
 #include <QFont>
+#include <QFontDatabase>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QStyle>
@@ -18,6 +20,10 @@ void StelleAussehenEin(QApplication& programm) {
     }
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setPalette(QApplication::style()->standardPalette());
+    // Those that the program itself brings along, for a system that has them not.
+    for (const QFileInfo& datei : QDir(QStringLiteral(":/schriften")).entryInfoList()) {
+        QFontDatabase::addApplicationFont(datei.filePath());
+    }
     QFont schrift;
     schrift.setFamilies(
         {QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans Condensed")});

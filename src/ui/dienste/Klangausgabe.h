@@ -1,4 +1,5 @@
-// The real sound: by Qt Multimedia where it is built in, else the system's beep.
+// The real sound: by the platform's own player or Qt Multimedia where one is built in, else the
+// system's beep.
 #pragma once
 
 #include <QBuffer>
