@@ -1,0 +1,151 @@
+; The setup for one user, who needs no administrator. setup.sh names VERSION, QUELLE (the tree to
+; install), ZIEL, and LISTEN (what to copy, what to delete).
+Unicode true
+Target amd64-unicode
+SetCompressor /SOLID lzma
+RequestExecutionLevel user
+Name "Tarvelin"
+OutFile "${ZIEL}"
+InstallDir "$LOCALAPPDATA\Programs\Tarvelin"
+BrandingText "Tarvelin ${VERSION}"
+ManifestDPIAware true
+
+!define EINTRAG "Software\Microsoft\Windows\CurrentVersion\Uninstall\Tarvelin"
+!define KLASSEN "Software\Classes"
+!define PLANTYP "Tarvelin.Plan"
+
+!include MUI2.nsh
+!include FileFunc.nsh
+!include LogicLib.nsh
+
+!define MUI_ICON "${QUELLE}\share\tarvelin\img\icon.ico"
+!define MUI_UNICON "${MUI_ICON}"
+!define MUI_ABORTWARNING
+!define MUI_WELCOMEPAGE_TEXT "Tarvelin ${VERSION} wird für dich installiert, nach$\r$\n$INSTDIR$\r$\n$\r$\nDeine Baulisten und Einstellungen liegen in$\r$\n$APPDATA\Tarvelin$\r$\nund bleiben, wie sie sind, auch wenn du Tarvelin später entfernst."
+!define MUI_FINISHPAGE_RUN "$INSTDIR\bin\tarvelin.exe"
+!insertmacro MUI_PAGE_WELCOME
+!insertmacro MUI_PAGE_INSTFILES
+!insertmacro MUI_PAGE_FINISH
+!insertmacro MUI_UNPAGE_CONFIRM
+!insertmacro MUI_UNPAGE_INSTFILES
+!insertmacro MUI_LANGUAGE "German"
+
+VIProductVersion "${VERSION}.0"
+VIAddVersionKey /LANG=1031 ProductName "Tarvelin"
+VIAddVersionKey /LANG=1031 ProductVersion "${VERSION}"
+VIAddVersionKey /LANG=1031 FileVersion "${VERSION}"
+VIAddVersionKey /LANG=1031 FileDescription "Tarvelin (Installation)"
+VIAddVersionKey /LANG=1031 CompanyName "Tarvelin maintainers"
+VIAddVersionKey /LANG=1031 LegalCopyright "2026 Tarvelin maintainers"
+
+; Setup and removal need the same of them.
+!macro Beenden un
+; Tells each window of Tarvelin to close, as its own button does: it keeps its plan then.
+Function ${un}SageBescheid
+    StrCpy $0 0
+    ${Do}
+        FindWindow $0 "" "" 0 $0
+        ${If} $0 == 0
+            ${ExitDo}
+        ${EndIf}
+        System::Call 'user32::GetClassNameW(p r0, w .r1, i 64)'
+        StrCpy $1 $1 2
+        System::Call 'user32::GetWindowTextW(p r0, w .r2, i 64)'
+        StrCpy $2 $2 11
+        ${If} $1 == "Qt"
+        ${AndIf} $2 == "Tarvelin  |"
+            System::Call 'user32::PostMessageW(p r0, i 0x10, p 0, p 0)'
+        ${EndIf}
+    ${Loop}
+FunctionEnd
+
+; Sets the error flag while the program runs: nobody can delete its lock or write it then.
+Function ${un}PruefeObEsLaeuft
+    ClearErrors
+    Delete "$APPDATA\Tarvelin\tarvelin.lock"
+    ${IfNot} ${Errors}
+    ${AndIf} ${FileExists} "$INSTDIR\bin\tarvelin.exe"
+        FileOpen $0 "$INSTDIR\bin\tarvelin.exe" a
+        ${IfNot} ${Errors}
+            FileClose $0
+        ${EndIf}
+    ${EndIf}
+FunctionEnd
+
+Function ${un}BeendeTarvelin
+    Call ${un}PruefeObEsLaeuft
+    ${If} ${Errors}
+        Call ${un}SageBescheid
+    ${EndIf}
+    StrCpy $3 0
+    ${Do}
+        Call ${un}PruefeObEsLaeuft
+        ${IfNot} ${Errors}
+            ${ExitDo}
+        ${EndIf}
+        Sleep 250
+        IntOp $3 $3 + 1
+        ${If} $3 == 60
+            StrCpy $3 0
+            MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Tarvelin läuft noch. Bitte beende es, dann geht es weiter." /SD IDCANCEL IDRETRY +3
+            SetErrorLevel 2
+            Quit
+            Call ${un}SageBescheid
+        ${EndIf}
+    ${Loop}
+FunctionEnd
+!macroend
+!insertmacro Beenden ""
+!insertmacro Beenden "un."
+
+; Double clicks, and the icon of plans.
+!macro MeldeTypen
+    System::Call 'shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)'
+!macroend
+
+Section
+    Call BeendeTarvelin
+    ; An older version takes its own files with it.
+    ${If} ${FileExists} "$INSTDIR\Entfernen.exe"
+        ExecWait '"$INSTDIR\Entfernen.exe" /S _?=$INSTDIR'
+    ${EndIf}
+    SetOverwrite on
+    !include "${LISTEN}\kopieren.nsh"
+    SetOutPath "$INSTDIR"
+    WriteUninstaller "$INSTDIR\Entfernen.exe"
+    CreateShortcut "$SMPROGRAMS\Tarvelin.lnk" "$INSTDIR\bin\tarvelin.exe"
+
+    WriteRegStr HKCU "${KLASSEN}\.tvf" "" "${PLANTYP}"
+    WriteRegStr HKCU "${KLASSEN}\${PLANTYP}" "" "Tarvelin-Bauliste"
+    WriteRegStr HKCU "${KLASSEN}\${PLANTYP}\DefaultIcon" "" "$INSTDIR\bin\tarvelin.exe,0"
+    WriteRegStr HKCU "${KLASSEN}\${PLANTYP}\shell\open\command" "" '"$INSTDIR\bin\tarvelin.exe" "%1"'
+    !insertmacro MeldeTypen
+
+    WriteRegStr HKCU "${EINTRAG}" "DisplayName" "Tarvelin"
+    WriteRegStr HKCU "${EINTRAG}" "DisplayVersion" "${VERSION}"
+    WriteRegStr HKCU "${EINTRAG}" "DisplayIcon" "$INSTDIR\bin\tarvelin.exe,0"
+    WriteRegStr HKCU "${EINTRAG}" "Publisher" "Tarvelin maintainers"
+    WriteRegStr HKCU "${EINTRAG}" "InstallLocation" "$INSTDIR"
+    WriteRegStr HKCU "${EINTRAG}" "UninstallString" '"$INSTDIR\Entfernen.exe"'
+    WriteRegStr HKCU "${EINTRAG}" "QuietUninstallString" '"$INSTDIR\Entfernen.exe" /S'
+    ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
+    WriteRegDWORD HKCU "${EINTRAG}" "EstimatedSize" $0
+    WriteRegDWORD HKCU "${EINTRAG}" "NoModify" 1
+    WriteRegDWORD HKCU "${EINTRAG}" "NoRepair" 1
+SectionEnd
+
+; Only what the setup brought goes: plans lie elsewhere, and what somebody put beside it stays.
+Section Uninstall
+    Call un.BeendeTarvelin
+    !include "${LISTEN}\loeschen.nsh"
+    Delete "$INSTDIR\Entfernen.exe"
+    RMDir "$INSTDIR"
+    Delete "$SMPROGRAMS\Tarvelin.lnk"
+    ReadRegStr $0 HKCU "${KLASSEN}\.tvf" ""
+    ${If} $0 == "${PLANTYP}"
+        DeleteRegKey HKCU "${KLASSEN}\.tvf"
+    ${EndIf}
+    DeleteRegKey HKCU "${KLASSEN}\${PLANTYP}"
+    !insertmacro MeldeTypen
+    DeleteRegKey HKCU "${EINTRAG}"
+SectionEnd

@@ -1,0 +1,210 @@
+#!/usr/bin/python3
+"""A player's time with the real window on Windows, by mouse and keys: first start, a drag, a run, a
+save under a name with umlauts, recovery, a plan by double click, an alarm that is heard, a skin from
+the web, the workbench; then the setup: installed, installed over itself while the program runs,
+removed.
+
+    windows_test.py FOLDER_OF_THE_PROGRAMS SETUP PICTURES
+"""
+import datetime
+import glob
+import json
+import os
+import shutil
+import subprocess
+import sys
+import time
+
+from bedienung import STARTERPLAN, Ohr, fensternummer, warte, xdotool
+from skinserver import Skinserver, bild
+
+WINE = "/usr/lib/wine/wine64"
+# Places in the window, which has one size.
+HIDE, METALLMINE, LISTE, WECKER, SKIN = (76, 269), (268, 60), (110, 190), (635, 244), (302, 8)
+WEB, WEBPFAD, SKIN_OK = (23, 73), (150, 57), (129, 73)
+
+
+def wine(*worte):
+    return subprocess.run([WINE, *worte], check=False, stdout=subprocess.PIPE,
+                          stderr=subprocess.DEVNULL, timeout=120)
+
+
+def rechne(programme, plan):
+    return json.loads(wine(os.path.join(programme, "tarvelin-cli.exe"), "--json", plan).stdout)
+
+
+class Fenster:
+    """The program's window."""
+
+    def __init__(self, programm, *worte):
+        self.prozess = subprocess.Popen([WINE, programm, *worte], stderr=subprocess.DEVNULL)
+        self.nummer = warte(lambda: fensternummer("Kelva Aufbau"), "the window", 60)
+        xdotool("windowactivate", "--sync", self.nummer, "sleep", 1)
+
+    def klicke(self, ort):
+        xdotool("mousemove", "--window", self.nummer, *ort, "sleep", 0.2, "click", 1, "sleep", 0.4)
+
+    def ziehe(self, von, nach):
+        xdotool("mousemove", "--window", self.nummer, von[0] - 3, von[1], "sleep", 0.2,
+                "mousemove", "--window", self.nummer, *von, "sleep", 0.2, "mousedown", 1, "sleep", 0.2,
+                "mousemove", "--window", self.nummer, *nach, "sleep", 0.2,
+                "mousemove", "--window", self.nummer, nach[0] + 3, nach[1], "sleep", 0.3, "mouseup", 1,
+                "sleep", 0.3)
+
+    def tippe(self, *tasten):
+        xdotool("windowactivate", "--sync", self.nummer, "key", *tasten, "sleep", 0.5)
+
+    def titel(self):
+        return subprocess.run(["xdotool", "getwindowname", self.nummer], capture_output=True,
+                              text=True, check=False).stdout
+
+    def aufnahme(self, datei):
+        subprocess.run(["import", "-window", "root", datei], check=True)
+
+    def beende(self):
+        self.tippe("alt+d")
+        xdotool("key", "b")
+        assert self.prozess.wait(timeout=60) == 0
+
+
+def pruefe_ersten_start(programme, ordner, bilder):
+    """The starter plan, one order more, saved under a name of its own. The plan's file."""
+    shutil.copy(STARTERPLAN, os.path.join(ordner, "saves", "basic.tvf"))
+    fenster = Fenster(os.path.join(ordner, "tarvelin.exe"))
+    warte(lambda: "basic.tvf" in fenster.titel(), "the starter plan")
+    fenster.klicke(HIDE)
+    fenster.ziehe(METALLMINE, LISTE)
+    fenster.tippe("Return")
+    fenster.aufnahme(os.path.join(bilder, "fenster.png"))
+    fenster.tippe("ctrl+s")
+    warte(lambda: fensternummer("Speichern|Save"), "the dialog")
+    datei = os.path.join(ordner, "saves", "Größe äöü.tvf")
+    xdotool("sleep", 1, "type", "--delay", "60", os.path.basename(datei))
+    xdotool("sleep", 0.5, "key", "Return")
+    warte(lambda: os.path.exists(datei), "the plan with umlauts")
+    vorher = rechne(programme, STARTERPLAN)["Bauliste"]
+    nachher = rechne(programme, datei)
+    assert len(nachher["Bauliste"]) == len(vorher) + 1 and nachher["Bauliste"][-1]["Tag"] == "GM"
+    fenster.beende()
+    return datei
+
+
+def pruefe_wiederherstellung(programme, ordner):
+    fenster = Fenster(os.path.join(ordner, "tarvelin.exe"))
+    for taste in ["alt+j", "alt+n"]:
+        warte(lambda: fensternummer("Wiederherstellen"), "the question")
+        xdotool("sleep", 0.5, "key", taste, "sleep", 0.8)
+    fenster.ziehe(METALLMINE, LISTE)
+    fenster.beende()
+    saves = os.path.join(ordner, "saves")
+    zeilen = [len(rechne(programme, os.path.join(saves, name))["Bauliste"])
+              for name in ("autosave.tvf", "autosave-vorige.tvf")]
+    assert zeilen[0] == zeilen[1] + 1, zeilen
+
+
+def pruefe_wecker(programme, ordner, plan):
+    """A plan by its file, which begins soon; its first order rings."""
+    start = datetime.datetime.now() + datetime.timedelta(seconds=100)
+    with open(plan, encoding="cp1252") as datei:
+        zeilen = datei.read().splitlines()
+    werte = {"UniStartZeitTag": f"{start:%d}", "UniStartZeitMonat": f"{start:%m}",
+             "UniStartZeitJahr": f"{start:%Y}", "UniStartZeitStunden": f"{start:%H}",
+             "UniStartZeitMinuten": f"{start:%M}", "KlickPuffer": "30"}
+    bald = os.path.join(ordner, "saves", "bald.tvf")
+    with open(bald, "w", encoding="cp1252", newline="\r\n") as datei:
+        for zeile in zeilen:
+            name = zeile.split("=")[0]
+            datei.write(f"{name}={werte[name]}\n" if name in werte else zeile + "\n")
+    erste = rechne(programme, bald)["LV_Bauzeiten"][0]["Tag"].split()
+    faellig = datetime.datetime.strptime(" ".join(erste[1:3]), "%d.%m.%Y %H:%M:%S")
+    fenster = Fenster(os.path.join(ordner, "tarvelin.exe"), bald)
+    warte(lambda: "bald.tvf" in fenster.titel(), "the plan of the argument")
+    fenster.klicke(WECKER)
+    ohr = Ohr()
+    assert faellig - datetime.timedelta(seconds=11) > datetime.datetime.now(), "no time is left"
+    warte(lambda: ohr.laut_um, "the alarm", 130)
+    ohr.schliesse()
+    zeitig = faellig.timestamp() - ohr.laut_um[0]
+    assert 5 <= zeitig <= 10, zeitig
+    return fenster
+
+
+def pruefe_webskin(fenster, ordner):
+    server = Skinserver(lambda pfad: (200, bild(pfad), None))
+    fenster.klicke(SKIN)
+    for ort in (WEB, WEBPFAD):
+        fenster.klicke(ort)
+    xdotool("key", "ctrl+a", "type", server.adresse + "/a")
+    fenster.klicke(SKIN_OK)
+    warte(lambda: fensternummer("Fortsetzen"), "the notice")
+    xdotool("sleep", 0.5, "key", "Return")
+    dateien = warte(lambda: len(server.pfade) == 24 and list(server.pfade), "24 files")
+    for pfad in dateien:
+        ziel = os.path.join(ordner, "img", "skins", "temp_webskin") + pfad.removeprefix("/a")
+        warte(lambda z=ziel, p=pfad: os.path.exists(z) and open(z, "rb").read() == bild(p), pfad)
+
+
+def pruefe_werkbank(fenster, ordner, bilder):
+    fenster.tippe("alt+w")
+    xdotool("key", "Return")
+    warte(lambda: fensternummer("Tarvelin  .  Werkbank"), "the workbench")
+    time.sleep(1.5)
+    fenster.aufnahme(os.path.join(bilder, "werkbank.png"))
+    fenster.beende()
+    with open(os.path.join(ordner, "config.cfg"), encoding="cp1252") as datei:
+        assert "[Werkbank]" in datei.read()
+
+
+def nutzerordner():
+    return [ort for ort in glob.glob(os.path.join(os.environ["WINEPREFIX"], "drive_c", "users", "*"))
+            if not ort.endswith("Public")][0]
+
+
+def pruefe_setup(programme, setup):
+    """Installed, started by a double click on a plan, installed over itself meanwhile, removed."""
+    heim = nutzerordner()
+    ziel = os.path.join(heim, "AppData", "Local", "Programs", "Tarvelin")
+    daten = os.path.join(heim, "AppData", "Roaming", "Tarvelin")
+    plan = os.path.join(heim, "Plan ä.tvf")
+    shutil.copy(STARTERPLAN, plan)
+    assert wine(setup, "/S").returncode == 0
+    for nochmal in (True, False):
+        # It ends at once; the program goes on.
+        subprocess.Popen([WINE, "start", "/unix", plan], stderr=subprocess.DEVNULL)
+        warte(lambda: fensternummer("Plan ä.tvf"), "the installed program", 60)
+        warte(lambda: os.path.exists(os.path.join(daten, "tarvelin.lock")), "its lock")
+        fremd = os.path.join(ziel, "bin", "eigenes.txt")
+        with open(fremd, "w", encoding="ascii") as datei:
+            datei.write("von mir")
+        if nochmal:
+            assert wine(setup, "/S").returncode == 0
+        else:
+            wine(os.path.join(ziel, "Entfernen.exe"), "/S")
+            # It removes by a copy of itself.
+            warte(lambda: not os.path.exists(os.path.join(ziel, "Entfernen.exe")), "the removal")
+        warte(lambda: not fensternummer("Kelva Aufbau"), "the end of the program that ran")
+        assert os.path.exists(os.path.join(ziel, "bin", "tarvelin.exe")) == nochmal
+        assert os.path.exists(fremd)
+        assert len(rechne(programme, os.path.join(daten, "saves", "autosave.tvf"))["Bauliste"]) == 49
+        assert os.path.exists(os.path.join(daten, "config.cfg"))
+    assert os.listdir(ziel) == ["bin"] and os.listdir(os.path.join(ziel, "bin")) == ["eigenes.txt"]
+    assert os.path.exists(plan)
+    for schluessel in ["Microsoft\\Windows\\CurrentVersion\\Uninstall\\Tarvelin", "Classes\\.tvf",
+                       "Classes\\Tarvelin.Plan", "QtProject", "Tarvelin"]:
+        assert wine("reg", "query", "HKCU\\Software\\" + schluessel).returncode != 0, schluessel
+
+
+def main(programme, setup, bilder):
+    os.makedirs(bilder, exist_ok=True)
+    ordner = os.path.join(os.environ["HOME"], "Tarvelin – 星")
+    shutil.copytree(programme, ordner, ignore=shutil.ignore_patterns("config.cfg", "*.tvf", "*bench*"))
+    plan = pruefe_ersten_start(programme, ordner, bilder)
+    pruefe_wiederherstellung(programme, ordner)
+    fenster = pruefe_wecker(programme, ordner, plan)
+    pruefe_webskin(fenster, ordner)
+    pruefe_werkbank(fenster, ordner, bilder)
+    pruefe_setup(programme, setup)
+
+
+if __name__ == "__main__":
+    main(*sys.argv[1:])
