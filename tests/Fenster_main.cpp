@@ -1,12 +1,13 @@
-// Starts the tests of the window, without a screen unless a platform is named.
+// Starts the tests of the window, without a screen unless a platform is named or is the only one.
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
 
+#include "Hilfen.h"
 #include "ui/bauteile/Aussehen.h"
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+    if (!tarvelin::kWindows && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM",
                 "offscreen:configfile=" TARVELIN_QUELLEN "/tests/data/bildschirm.json");
     }

@@ -6,9 +6,6 @@ HOME=$(mktemp -d)
 WINEPREFIX=$HOME/windows
 # Nothing is asked and no menu of the desktop is touched.
 export WINEDLLOVERRIDES="winemenubuilder.exe,mscoree,mshtml="
-# This machine's fonts are not that Windows's.
-export FONTCONFIG_FILE=$HOME/fonts.conf
-echo "<fontconfig/>" >"$FONTCONFIG_FILE"
 raeume_auf() {
     /usr/lib/wine/wineserver -k || true
     [ -z "${schirm:-}" ] || kill "$schirm" || true
