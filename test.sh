@@ -4,7 +4,8 @@
 #   --tools     clang-tidy, cppcheck and a build by clang++, none of which may say a word
 #   --coverage  tells which lines below the window the tests run
 #   --lang      lets a monkey play the real program on a virtual screen: SEED and ACTIONS, 1 and 400
-#   --windows   builds all for Windows, its libraries included, and runs the tests there
+#   --windows   builds all for Windows, its libraries included, runs the tests there, packs and plays
+#               the setup
 set -euo pipefail
 ordner=$(cd "$(dirname "$0")" && pwd)
 . "$ordner/cmake/pakete.sh"
@@ -55,14 +56,20 @@ spiele_lang() {
 }
 
 teste_fuer_windows() {
-    stelle_bereit "${BAU_PAKETE[@]}" "${WINDOWS_PAKETE[@]}"
+    stelle_bereit "${BAU_PAKETE[@]}" "${BILDSCHIRM_PAKETE[@]}" "${WINDOWS_PAKETE[@]}"
     . packaging/windows/bibliotheken.sh
     stelle_bibliotheken_bereit
     export CURL_WINDOWS QT_WINDOWS SVG_WINDOWS
     # A build stays with the toolkit that it began with.
     grep -qsF "$QT_WINDOWS/" build/mingw/CMakeCache.txt || rm -rf build/mingw
     baue "$ordner" mingw
-    tests/e2e/windows.sh ctest --preset mingw
+    echo "== Tests under Wine"
+    tests/e2e/bildschirm.sh tests/e2e/windows.sh ctest --preset mingw
+    echo "== Setup"
+    packaging/windows/setup.sh
+    echo "== Played under Wine"
+    tests/e2e/bildschirm.sh tests/e2e/windows.sh tests/e2e/windows_test.py build/mingw/bin \
+        build/mingw/Tarvelin-*-Windows.exe build/mingw/bilder
 }
 
 case "${1:-}" in

@@ -41,7 +41,7 @@ schreibe_listen() {
     done >>"$listen/loeschen.nsh"
 }
 
-rm -rf "$bau/setup"
+rm -rf "$bau/setup" "$bau"/Tarvelin-*-Windows.exe
 cmake --install "$bau" --prefix "$baum" --strip >/dev/null
 schreibe_lizenzen >"$baum/share/tarvelin/Lizenzen.txt"
 schreibe_listen

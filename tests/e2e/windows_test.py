@@ -207,4 +207,4 @@ def main(programme, setup, bilder):
 
 
 if __name__ == "__main__":
-    main(*sys.argv[1:])
+    main(*map(os.path.abspath, sys.argv[1:]))
