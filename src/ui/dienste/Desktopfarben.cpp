@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QWidget>
+#include <utility>
 
 #include "ui/dienste/Farbwunsch.h"
 
@@ -37,7 +38,7 @@ QPalette DunklePalette() {
 
 }  // namespace
 
-Desktopfarben::Desktopfarben(const QPalette& desThemas) : m_desThemas(desThemas) {
+Desktopfarben::Desktopfarben(QPalette desThemas) : m_desThemas(std::move(desThemas)) {
     BeobachteFarbwunsch(this, [this](bool dunkel) { Wuensche(dunkel); });
 }
 

@@ -14,7 +14,7 @@ class Desktopfarben : public QObject {
 
   public:
     /// `desThemas`: the toolkit's palette before the program set one of its own.
-    explicit Desktopfarben(const QPalette& desThemas);
+    explicit Desktopfarben(QPalette desThemas);
 
     [[nodiscard]] QPalette Farben() const;
 

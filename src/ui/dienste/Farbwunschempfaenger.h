@@ -18,6 +18,7 @@ class Farbwunschempfaenger : public QObject {
     void SettingChanged(const QString& bereich, const QString& schluessel,
                         const QDBusVariant& wert);
 
+    // NOLINTNEXTLINE(readability-redundant-access-specifiers): what was above were slots
   private:
     std::function<void(bool)> m_melde;
 };

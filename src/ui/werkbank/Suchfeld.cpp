@@ -133,6 +133,24 @@ void Suchfeld::Verbinde() {
     connect(m_suchen, &QPushButton::clicked, this, &Suchfeld::Suche);
     connect(m_anhalten, &QPushButton::clicked, this, &Suchfeld::HalteAn);
     connect(m_uebernehmen, &QPushButton::clicked, this, &Suchfeld::Uebernimm);
+    // They come from another thread. News of a search that was followed by another one come to
+    // nothing.
+    connect(
+        this, &Suchfeld::StandKam, this,
+        [this](int nummer, const Fortschritt& stand) {
+            if (nummer == m_nummer) {
+                ZeigeStand(stand);
+            }
+        },
+        Qt::QueuedConnection);
+    connect(
+        this, &Suchfeld::ErgebnisKam, this,
+        [this](int nummer, const Suchergebnis& ergebnis) {
+            if (nummer == m_nummer) {
+                ZeigeErgebnis(ergebnis);
+            }
+        },
+        Qt::QueuedConnection);
 }
 
 void Suchfeld::Schalte() {
@@ -181,23 +199,12 @@ void Suchfeld::Suche() {
     m_laeuft = true;
     Schalte();
     const int nummer = ++m_nummer;
-    // News of a search that was followed by another one come to nothing.
-    const auto melde = [this, nummer](auto tat) {
-        QMetaObject::invokeMethod(
-            this,
-            [this, nummer, tat] {
-                if (nummer == m_nummer) {
-                    tat();
-                }
-            },
-            Qt::QueuedConnection);
-    };
     m_suche = std::make_unique<Hintergrundsuche>(
         m_gesucht->Aufgabe, Umfang(),
         Hintergrundsuche::Empfaenger{
-            .Stand = [this, melde](const Fortschritt& s) { melde([this, s] { ZeigeStand(s); }); },
-            .Fertig = [this,
-                       melde](const Suchergebnis& e) { melde([this, e] { ZeigeErgebnis(e); }); }});
+            .Stand = [this, nummer](const Fortschritt& stand) { emit StandKam(nummer, stand); },
+            .Fertig = [this, nummer](
+                          const Suchergebnis& ergebnis) { emit ErgebnisKam(nummer, ergebnis); }});
 }
 
 void Suchfeld::HalteAn() {

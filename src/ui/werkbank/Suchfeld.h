@@ -41,6 +41,9 @@ class Suchfeld : public QWidget {
     void Uebernommen(const std::vector<std::string>& tags,
                      const std::optional<SchlafzeitZeile>& pause);
     void Meldung(const std::string& text);
+    /// Of the search's own, by its number.
+    void StandKam(int nummer, const Fortschritt& stand);
+    void ErgebnisKam(int nummer, const Suchergebnis& ergebnis);
 
   private:
     void BaueEingaben(QFormLayout& form);

@@ -505,9 +505,9 @@ std::string frmWerkbank::Zellentext(std::size_t zeile, int spalte) const {
         case kAuftrag:
             return texte.SubItems1;
         case kStart:
-            return start ? Zeittext(m_ablauf->Bedingungen.Uhrzeit(start->Start)) : "";
+            return start != nullptr ? Zeittext(m_ablauf->Bedingungen.Uhrzeit(start->Start)) : "";
         case kFertig:
-            return start ? Zeittext(m_ablauf->Bedingungen.Uhrzeit(start->Finish)) : "";
+            return start != nullptr ? Zeittext(m_ablauf->Bedingungen.Uhrzeit(start->Finish)) : "";
         case kGrund:
             return m_ablauf ? Wartetext(*m_ablauf, zeile) : "";
         default:
