@@ -97,7 +97,8 @@ class Klangmerker final : public Klang {
 
 inline void LegeDatenAn(const std::filesystem::path& ordner) {
     namespace fs = std::filesystem;
-    fs::copy(fs::path(TARVELIN_QUELLEN) / "data", ordner,
+    // One platform's library copies nothing to a name that ends with a slash.
+    fs::copy(fs::path(TARVELIN_QUELLEN) / "data", ordner / ".",
              fs::copy_options::recursive | fs::copy_options::overwrite_existing);
     fs::remove(ordner / "saves" / "basic.tvf");
 }
