@@ -10,6 +10,7 @@
 #include <QMessageBox>
 
 #include "ui/bauteile/Bauteile.h"
+#include "ui/dienste/Svgbild.h"
 
 namespace tarvelin {
 
@@ -140,9 +141,11 @@ std::filesystem::path Meldungsfenster::FragNachDatei(Zweck zweck,
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     if (zweck == Zweck::Bild) {
-        StelleAufFormate(dialog,
-                         {QStringLiteral("Bild (*.png)"), QStringLiteral("Vektorbild (*.svg)"),
-                          QStringLiteral("Dokument (*.pdf)")});
+        QStringList formate{QStringLiteral("Bild (*.png)"), QStringLiteral("Dokument (*.pdf)")};
+        if (KannSvg()) {
+            formate.insert(1, QStringLiteral("Vektorbild (*.svg)"));
+        }
+        StelleAufFormate(dialog, formate);
     } else if (zweck == Zweck::Kalender) {
         StelleAufFormate(dialog, {QStringLiteral("Kalender (*.ics)")});
     } else {

@@ -6,7 +6,8 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSvgGenerator>
+
+#include "ui/dienste/Svgbild.h"
 
 namespace tarvelin {
 
@@ -25,20 +26,6 @@ QByteArray AlsPng(Zeitleiste& leiste, const QSize& groesse) {
     QBuffer puffer(&bytes);
     puffer.open(QIODevice::WriteOnly);
     bild.save(&puffer, "PNG");
-    return bytes;
-}
-
-QByteArray AlsSvg(Zeitleiste& leiste, const QSize& groesse) {
-    QByteArray bytes;
-    QBuffer puffer(&bytes);
-    QSvgGenerator erzeuger;
-    erzeuger.setOutputDevice(&puffer);
-    erzeuger.setTitle(QStringLiteral("Tarvelin"));
-    erzeuger.setSize(groesse);
-    erzeuger.setViewBox(QRect(QPoint(), groesse));
-    QPainter painter(&erzeuger);
-    leiste.Male(painter, QRectF(QPointF(), groesse));
-    painter.end();
     return bytes;
 }
 
@@ -62,15 +49,17 @@ QByteArray AlsPdf(Zeitleiste& leiste, const QSize& groesse) {
 }  // namespace
 
 std::optional<QByteArray> BildVon(Zeitleiste& leiste, const QString& endung) {
-    struct Format {
-        const char* Endung;
-        QByteArray (*Male)(Zeitleiste&, const QSize&);
-    };
-    for (const auto& [name, male] :
-         {Format{"png", AlsPng}, Format{"svg", AlsSvg}, Format{"pdf", AlsPdf}}) {
-        if (endung.compare(QLatin1String(name), Qt::CaseInsensitive) == 0) {
-            return male(leiste, leiste.viewport()->size());
-        }
+    const QSize groesse = leiste.viewport()->size();
+    const QString format = endung.toLower();
+    if (format == QStringLiteral("png")) {
+        return AlsPng(leiste, groesse);
+    }
+    if (format == QStringLiteral("pdf")) {
+        return AlsPdf(leiste, groesse);
+    }
+    if (format == QStringLiteral("svg") && KannSvg()) {
+        return AlsSvg(groesse,
+                      [&](QPainter& painter) { leiste.Male(painter, QRectF(QPointF(), groesse)); });
     }
     return std::nullopt;
 }

@@ -10,7 +10,7 @@
 namespace tarvelin {
 
 /// The bytes of a picture of what the timeline shows, in the format that the name's ending tells:
-/// PNG, SVG or PDF. Nothing for any other ending.
+/// PNG, PDF or, where that can be had, SVG. Nothing for any other ending.
 [[nodiscard]] std::optional<QByteArray> BildVon(Zeitleiste& leiste, const QString& endung);
 
 }  // namespace tarvelin

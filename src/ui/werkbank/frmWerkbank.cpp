@@ -27,6 +27,7 @@
 #include "ui/bauteile/Bauteile.h"
 #include "ui/bauteile/Bilder.h"
 #include "ui/bauteile/Itemansicht.h"
+#include "ui/dienste/Svgbild.h"
 #include "ui/werkbank/Bilddatei.h"
 #include "ui/werkbank/Standtexte.h"
 #include "ui/werkbank/Zeitplan.h"
@@ -440,7 +441,8 @@ void frmWerkbank::BildSpeichern() {
     }
     const auto bild = BildVon(*m_zeitleiste, QFileInfo(Pfadtext(datei)).suffix());
     if (!bild) {
-        Melde("Der Name des Bildes endet auf .png, .svg oder .pdf: es wurde nichts gespeichert.");
+        Melde(std::string("Der Name des Bildes endet auf .png, ") + (KannSvg() ? ".svg " : "") +
+              "oder .pdf: es wurde nichts gespeichert.");
         return;
     }
     SchreibeDatei(datei, bild->toStdString());
