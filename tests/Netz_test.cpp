@@ -146,7 +146,8 @@ TEST(Netzabruf, NimmtNichtsAbgeschnittenes) {
     for (const auto& [name, antwort, ganz] :
          {Fall{"length", laenge, laenge.size()}, Fall{"chunks", stuecke, stuecke.size() - 1},
           Fall{"neither", kopf + "Inhalt", kopf.size()}}) {
-        for (const bool zurueck : {false, true}) {
+        // Where the toolkit's sockets know no reset, they close.
+        for (const bool zurueck : kWindows ? std::vector{false} : std::vector{false, true}) {
             server.Zuruecksetzen = zurueck;
             for (std::size_t n = 0; n < (zurueck ? antwort.size() : ganz); ++n) {
                 server.Antworten["/"] = antwort.substr(0, n);

@@ -279,7 +279,7 @@ TEST_F(Werkbank, ZeigtDenPlanAlsBild) {
         EXPECT_NEAR(leiste.mapFromScene(QPointF(darunter, 0)).x(), ort.x(), 1);
     }
     EXPECT_GT(leiste.SpalteVon(Moment(310)) - leiste.SpalteVon(Moment(300)), 20);
-    QTest::mouseMove(leiste.viewport(), ort);
+    Bewege(*leiste.viewport(), ort);
     EXPECT_EQ(Sagt("LBL_Stand").substr(0, 18), "Sa 18.11. 12:35:00");
     EXPECT_NE(Sagt("LBL_Stand").find("Metallmine 2"), std::string::npos);
     Greife({4});

@@ -4,6 +4,7 @@
 #include <mmsystem.h>
 
 #include <QApplication>
+#include <QDataStream>
 
 #include "ui/dienste/Klangausgabe.h"
 #include "ui/dienste/Wellendatei.h"
@@ -12,12 +13,38 @@ class QAudioSink {};
 
 namespace tarvelin {
 
+namespace {
+
+/// A wave file that has its format and its samples and nothing else.
+QByteArray AlsDatei(const Welle& welle) {
+    constexpr quint32 kKopf = 36;
+    constexpr quint32 kFormatlaenge = 16;
+    constexpr quint16 kGanzeZahlen = 1;
+    constexpr int kByte = 8;
+    const auto laenge = static_cast<quint32>(welle.Abtastwerte.size());
+    const int rahmen = welle.Kanaele * welle.Bits / kByte;
+    QByteArray bytes;
+    QDataStream strom(&bytes, QIODevice::WriteOnly);
+    strom.setByteOrder(QDataStream::LittleEndian);
+    strom.writeRawData("RIFF", 4);
+    strom << kKopf + laenge;
+    strom.writeRawData("WAVEfmt ", 8);
+    strom << kFormatlaenge << kGanzeZahlen << static_cast<quint16>(welle.Kanaele)
+          << static_cast<quint32>(welle.Rate) << static_cast<quint32>(welle.Rate * rahmen)
+          << static_cast<quint16>(rahmen) << static_cast<quint16>(welle.Bits);
+    strom.writeRawData("data", 4);
+    strom << laenge;
+    return bytes + QByteArray::fromStdString(welle.Abtastwerte);
+}
+
+}  // namespace
+
 Klangausgabe::Klangausgabe() {
     m_gleich.setSingleShot(true);
     m_gleich.callOnTimeout([this] { Beginne(); });
 }
 
-// The player ends with its file.
+// The player ends before its bytes do.
 Klangausgabe::~Klangausgabe() {
     ::PlaySoundW(nullptr, nullptr, 0);
 }
@@ -28,11 +55,14 @@ void Klangausgabe::Spiele(const std::filesystem::path& datei) {
     m_gleich.start(0);
 }
 
-// The player says nothing of a file that it can't play; it is read here first.
+// The player would say nothing of a file that it can't play, and keep everybody else from writing
+// one that it plays. The file is read here, and the player gets bytes.
 void Klangausgabe::Beginne() {
     ::PlaySoundW(nullptr, nullptr, 0);
-    if (!LiesWelle(m_datei) ||
-        ::PlaySoundW(m_datei.c_str(), nullptr, SND_FILENAME | SND_ASYNC | SND_NODEFAULT) == 0) {
+    const auto welle = LiesWelle(m_datei);
+    m_abtastwerte.setData(welle ? AlsDatei(*welle) : QByteArray());
+    const auto* const bytes = reinterpret_cast<const wchar_t*>(m_abtastwerte.data().constData());
+    if (!welle || ::PlaySoundW(bytes, nullptr, SND_MEMORY | SND_ASYNC | SND_NODEFAULT) == 0) {
         QApplication::beep();
     }
 }
