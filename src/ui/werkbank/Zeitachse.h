@@ -63,7 +63,7 @@ class Zeitachse {
     [[nodiscard]] std::string Text(Zeitpunkt um) const {
         const std::string datum = Datumtext(um);
         std::string tag = std::string(WochentagKurz(um)) + " " +
-                                (m_schritt > kTag ? datum : datum.substr(0, datum.rfind('.') + 1));
+                          (m_schritt > kTag ? datum : datum.substr(0, datum.rfind('.') + 1));
         if (m_schritt >= kTag) {
             return tag;
         }
