@@ -33,6 +33,11 @@ def rechne(programme, plan):
     return json.loads(wine(os.path.join(programme, "tarvelin-cli.exe"), "--json", plan).stdout)
 
 
+def aktives_fenster():
+    return subprocess.run(["xdotool", "getactivewindow"], capture_output=True, text=True,
+                          check=False).stdout.strip()
+
+
 class Fenster:
     """The program's window."""
 
@@ -77,7 +82,8 @@ def pruefe_ersten_start(programme, ordner, bilder):
     fenster.tippe("Return")
     fenster.aufnahme(os.path.join(bilder, "fenster.png"))
     fenster.tippe("ctrl+s")
-    warte(lambda: fensternummer("Speichern|Save"), "the dialog")
+    # The platform's own dialog bears no title here.
+    warte(lambda: aktives_fenster() not in ("", fenster.nummer), "the dialog")
     datei = os.path.join(ordner, "saves", "Größe äöü.tvf")
     xdotool("sleep", 1, "type", "--delay", "60", os.path.basename(datei))
     xdotool("sleep", 0.5, "key", "Return")
