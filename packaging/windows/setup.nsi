@@ -59,14 +59,19 @@ Function ${un}SageBescheid
     ${Loop}
 FunctionEnd
 
-; Sets the error flag while the program runs: nobody can delete its lock or write it then.
+; $4 is 1 while the program runs, else 0: nobody can delete its lock or write it then. A test of the
+; error flag clears it.
 Function ${un}PruefeObEsLaeuft
+    StrCpy $4 0
     ClearErrors
     Delete "$APPDATA\Tarvelin\tarvelin.lock"
-    ${IfNot} ${Errors}
-    ${AndIf} ${FileExists} "$INSTDIR\bin\tarvelin.exe"
+    ${If} ${Errors}
+        StrCpy $4 1
+    ${ElseIf} ${FileExists} "$INSTDIR\bin\tarvelin.exe"
         FileOpen $0 "$INSTDIR\bin\tarvelin.exe" a
-        ${IfNot} ${Errors}
+        ${If} ${Errors}
+            StrCpy $4 1
+        ${Else}
             FileClose $0
         ${EndIf}
     ${EndIf}
@@ -74,13 +79,13 @@ FunctionEnd
 
 Function ${un}BeendeTarvelin
     Call ${un}PruefeObEsLaeuft
-    ${If} ${Errors}
+    ${If} $4 == 1
         Call ${un}SageBescheid
     ${EndIf}
     StrCpy $3 0
     ${Do}
         Call ${un}PruefeObEsLaeuft
-        ${IfNot} ${Errors}
+        ${If} $4 == 0
             ${ExitDo}
         ${EndIf}
         Sleep 250
