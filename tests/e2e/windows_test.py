@@ -166,6 +166,15 @@ def nutzerordner():
             if not ort.endswith("Public")][0]
 
 
+def zeige_typen():
+    """What the user has registered becomes everybody's: Wine's shell reads only that, where Windows
+    shows both as one."""
+    for typ in (".tvf", "Tarvelin.Plan"):
+        kopie = wine("reg", "copy", f"HKCU\\Software\\Classes\\{typ}",
+                     f"HKLM\\Software\\Classes\\{typ}", "/s", "/f")
+        assert kopie.returncode == 0, typ
+
+
 def pruefe_setup(programme, setup):
     """Installed, started by a double click on a plan, installed over itself meanwhile, removed."""
     heim = nutzerordner()
@@ -174,9 +183,9 @@ def pruefe_setup(programme, setup):
     plan = os.path.join(heim, "Plan ä.tvf")
     shutil.copy(STARTERPLAN, plan)
     assert wine(setup, "/S").returncode == 0
+    zeige_typen()
     for nochmal in (True, False):
-        # It ends at once; the program goes on.
-        subprocess.Popen([WINE, "start", "/unix", plan], stderr=subprocess.DEVNULL)
+        wine("start", "/unix", plan)
         warte(lambda: fensternummer("Plan ä.tvf"), "the installed program", 60)
         warte(lambda: os.path.exists(os.path.join(daten, "tarvelin.lock")), "its lock")
         fremd = os.path.join(ziel, "bin", "eigenes.txt")
