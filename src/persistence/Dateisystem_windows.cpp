@@ -20,9 +20,8 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kHappen = std::size_t{1} << 20U;
 
-/// Longer paths are read by the system only if they begin with a mark, which ends its own reading
-/// of
-/// ".", ".." and "/" in them.
+/// Longer paths are read by the system only if they begin with a mark. It ends the system's own
+/// reading of ".", ".." and "/" in them.
 std::wstring Lesbar(const fs::path& pfad) {
     constexpr std::size_t kLaengstens = 240;
     std::wstring voll(::GetFullPathNameW(pfad.c_str(), 0, nullptr, nullptr), L'\0');
