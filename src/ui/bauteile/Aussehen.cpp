@@ -2,7 +2,6 @@
 #include "ui/bauteile/Aussehen.h"
 
 #include <QDir>
-#include <QFont>
 #include <QFontDatabase>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -31,6 +30,12 @@ void StelleAussehenEin(QApplication& programm) {
     schrift.setPixelSize(kSchriftPixel);
     QApplication::setFont(schrift);
     QApplication::setApplicationName(QStringLiteral("Tarvelin"));
+}
+
+QFont Desktopschrift() {
+    QFont schrift = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    schrift.setFamilies(schrift.families() + QApplication::font().families());
+    return schrift;
 }
 
 }  // namespace tarvelin

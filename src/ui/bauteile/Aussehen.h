@@ -2,10 +2,15 @@
 #pragma once
 
 #include <QApplication>
+#include <QFont>
 
 namespace tarvelin {
 
 /// German words in the toolkit's own boxes, one style with light colours, one small font.
 void StelleAussehenEin(QApplication& programm);
+
+/// The desktop's own font; that of the program where the desktop names one that nobody has
+/// installed.
+QFont Desktopschrift();
 
 }  // namespace tarvelin

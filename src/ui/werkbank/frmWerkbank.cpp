@@ -4,7 +4,6 @@
 #include <QAccessible>
 #include <QClipboard>
 #include <QFileInfo>
-#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHideEvent>
@@ -24,6 +23,7 @@
 #include "simulation/Ergebnistexte.h"
 #include "simulation/Lauftexte.h"
 #include "simulation/Wecker.h"
+#include "ui/bauteile/Aussehen.h"
 #include "ui/bauteile/Bauteile.h"
 #include "ui/bauteile/Bilder.h"
 #include "ui/bauteile/Itemansicht.h"
@@ -219,7 +219,7 @@ void frmWerkbank::Verbinde() {
 void frmWerkbank::FolgeDesktop() {
     const QPalette farben = m_umgebung.Desktopfarben();
     setPalette(AlsEigene(farben));
-    setFont(QFontDatabase::systemFont(QFontDatabase::GeneralFont));
+    setFont(Desktopschrift());
     m_zeitleiste->SetzeAussehen(farben, font());
     // Scrolled up and down only.
     for (auto* const rolle : m_felder->findChildren<QScrollArea*>()) {
