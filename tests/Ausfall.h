@@ -40,6 +40,12 @@ class Stoersystem : public Dateisystem {
         return Stoert("Eintraege") ? std::vector<std::filesystem::path>()
                                    : Platte().Eintraege(ordner);
     }
+    [[nodiscard]] bool IstSchlichterOrdner(const std::filesystem::path& pfad) const override {
+        return !Stoert("IstSchlichterOrdner") && Platte().IstSchlichterOrdner(pfad);
+    }
+    [[nodiscard]] bool LegeOrdnerAn(const std::filesystem::path& pfad) const override {
+        return !Stoert("LegeOrdnerAn") && Platte().LegeOrdnerAn(pfad);
+    }
     [[nodiscard]] int Oeffne(const std::filesystem::path& datei) const override {
         return Stoert("Oeffne") ? -1 : Platte().Oeffne(datei);
     }

@@ -55,6 +55,23 @@ TEST(DateisystemWindows, WartetAufDenDerEineDateiHaelt) {
     EXPECT_EQ(ordner.Eintraege(), 1U);
 }
 
+TEST(DateisystemWindows, ZeigtSchlichteOrdner) {
+    const Ordner ordner;
+    struct Fall {
+        const wchar_t* Name;
+        DWORD Attribute;
+    };
+    for (const auto& [name, attribute] :
+         {Fall{L"blau", 0}, Fall{L"versteckt", FILE_ATTRIBUTE_HIDDEN},
+          Fall{L"system", FILE_ATTRIBUTE_SYSTEM},
+          Fall{L"ohne Index", FILE_ATTRIBUTE_NOT_CONTENT_INDEXED}}) {
+        const std::filesystem::path unter = (ordner / "") / name;
+        std::filesystem::create_directory(unter);
+        ASSERT_NE(::SetFileAttributesW(unter.c_str(), FILE_ATTRIBUTE_DIRECTORY | attribute), 0);
+    }
+    EXPECT_EQ(GetSubfolders(ordner / ""), (std::vector<std::string>{"blau", "ohne Index"}));
+}
+
 TEST(DateisystemWindows, KommtMitLangenPfadenZurecht) {
     const Ordner ordner;
     std::filesystem::path ort = ordner / "";

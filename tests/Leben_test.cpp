@@ -141,6 +141,26 @@ TEST(Wecker, KlingeltEineMinuteVorDemAufwachen) {
     EXPECT_EQ(FaelligeSchlafzeiten(tabelle, *LiesDatumzeit("18.11.2006 06:30:00")), 0U);
 }
 
+TEST(Dateisystem, SchautInOrdner) {
+    const Ordner ordner;
+    EXPECT_EQ(GetSubfolders(ordner / ""), std::vector<std::string>{""});
+    EXPECT_EQ(GetSubfolders(ordner / "fehlt"), std::vector<std::string>{""});
+    for (const char* name : {"standard", "blau", ".versteckt"}) {
+        std::filesystem::create_directory(ordner / name);
+    }
+    SchreibeDatei(ordner / "datei", "x");
+    if (kWindows) {
+        // A name hides nothing there.
+        std::filesystem::remove(ordner / ".versteckt");
+    } else {
+        std::filesystem::create_directory_symlink(ordner / "blau", ordner / "zeiger");
+    }
+    EXPECT_EQ(GetSubfolders(ordner / ""), (std::vector<std::string>{"blau", "standard"}));
+    EXPECT_TRUE(FileExists(ordner / "datei"));
+    EXPECT_FALSE(FileExists(ordner / "blau"));
+    EXPECT_FALSE(FileExists(ordner / "fehlt"));
+}
+
 /// A folder with the data of a program, as small as it goes.
 void LegeDatenAn(const std::filesystem::path& ordner) {
     for (const char* const unter : {"img/skins/temp_webskin/images", "mfx", "saves"}) {

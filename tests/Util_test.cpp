@@ -149,23 +149,6 @@ TEST(Nuetzliches, SchreibtDauern) {
     EXPECT_EQ(FormatDuration(5, "w", "ss", "d"), "");
 }
 
-TEST(Nuetzliches, SchautInOrdner) {
-    const Ordner ordner;
-    EXPECT_EQ(GetSubfolders(ordner / ""), std::vector<std::string>{""});
-    EXPECT_EQ(GetSubfolders(ordner / "fehlt"), std::vector<std::string>{""});
-    for (const char* name : {"standard", "blau", ".versteckt"}) {
-        std::filesystem::create_directory(ordner / name);
-    }
-    SchreibeDatei(ordner / "datei", "x");
-    if (!kWindows) {
-        std::filesystem::create_directory_symlink(ordner / "blau", ordner / "zeiger");
-    }
-    EXPECT_EQ(GetSubfolders(ordner / ""), (std::vector<std::string>{"blau", "standard"}));
-    EXPECT_TRUE(FileExists(ordner / "datei"));
-    EXPECT_FALSE(FileExists(ordner / "blau"));
-    EXPECT_FALSE(FileExists(ordner / "fehlt"));
-}
-
 TEST(Codepage1252, KommtMitJedemByteZurueck) {
     std::string alle;
     for (int byte = 0; byte < 256; ++byte) {

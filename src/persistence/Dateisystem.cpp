@@ -1,29 +1,11 @@
 // What the file layer makes of the calls on any platform.
 #include "persistence/Dateisystem.h"
 
+#include <algorithm>
 #include <array>
-#include <system_error>
 #include <utility>
 
 namespace tarvelin {
-
-std::optional<std::filesystem::path> Dateisystem::LoeseAuf(
-    const std::filesystem::path& pfad) const {
-    std::error_code fehler;
-    auto ziel = std::filesystem::weakly_canonical(std::filesystem::absolute(pfad, fehler), fehler);
-    return fehler ? std::nullopt : std::optional(std::move(ziel));
-}
-
-std::vector<std::filesystem::path> Dateisystem::Eintraege(
-    const std::filesystem::path& ordner) const {
-    std::vector<std::filesystem::path> eintraege;
-    std::error_code fehler;
-    for (std::filesystem::directory_iterator eintrag(ordner, fehler), ende;
-         !fehler && eintrag != ende; eintrag.increment(fehler)) {
-        eintraege.push_back(eintrag->path());
-    }
-    return eintraege;
-}
 
 std::optional<std::string> LiesDatei(const std::filesystem::path& datei, std::size_t hoechstens,
                                      const Dateisystem& system) {
@@ -44,6 +26,27 @@ std::optional<std::string> LiesDatei(const std::filesystem::path& datei, std::si
     }
     static_cast<void>(system.Schliesse(nummer));
     return gelesen == 0 ? std::optional(std::move(bytes)) : std::nullopt;
+}
+
+bool FileExists(const std::filesystem::path& File, const Dateisystem& system) {
+    const auto art = system.Sieh(File);
+    return art && *art != Dateisystem::Art::Nichts && *art != Dateisystem::Art::Ordner;
+}
+
+std::vector<std::string> GetSubfolders(const std::filesystem::path& Path,
+                                       const Dateisystem& system) {
+    std::vector<std::string> namen;
+    for (const auto& eintrag : system.Eintraege(Path)) {
+        if (system.IstSchlichterOrdner(eintrag)) {
+            const auto name = eintrag.filename().u8string();
+            namen.emplace_back(name.begin(), name.end());
+        }
+    }
+    std::ranges::sort(namen);
+    if (namen.empty()) {
+        namen.emplace_back();
+    }
+    return namen;
 }
 
 }  // namespace tarvelin

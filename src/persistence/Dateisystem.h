@@ -17,7 +17,7 @@ namespace tarvelin {
 /// number from 0; what can't be done answers -1, false or nothing.
 class Dateisystem {
   public:
-    enum class Art : std::uint8_t { Nichts, Datei, Anderes };
+    enum class Art : std::uint8_t { Nichts, Datei, Ordner, Anderes };
 
     Dateisystem() = default;
     Dateisystem(const Dateisystem&) = delete;
@@ -28,11 +28,17 @@ class Dateisystem {
     [[nodiscard]] virtual std::optional<Art> Sieh(const std::filesystem::path& pfad) const = 0;
     /// The absolute path without links, as far as it exists.
     [[nodiscard]] virtual std::optional<std::filesystem::path> LoeseAuf(
-        const std::filesystem::path& pfad) const;
+        const std::filesystem::path& pfad) const = 0;
     /// Whether this user can write a file, or make files in a folder.
     [[nodiscard]] virtual bool IstBeschreibbar(const std::filesystem::path& pfad) const = 0;
+    /// What lies in a folder; nothing if it can't be listed.
     [[nodiscard]] virtual std::vector<std::filesystem::path> Eintraege(
-        const std::filesystem::path& ordner) const;
+        const std::filesystem::path& ordner) const = 0;
+    /// Whether a folder lies at a path that is no link, isn't hidden, and has nothing else that a
+    /// user of the platform would set for a folder apart.
+    [[nodiscard]] virtual bool IstSchlichterOrdner(const std::filesystem::path& pfad) const = 0;
+    /// Makes a folder and those above it. Whether it is there afterwards.
+    [[nodiscard]] virtual bool LegeOrdnerAn(const std::filesystem::path& pfad) const = 0;
 
     /// Opens a file for reading.
     [[nodiscard]] virtual int Oeffne(const std::filesystem::path& datei) const = 0;
@@ -70,5 +76,14 @@ class Dateisystem {
 [[nodiscard]] std::optional<std::string> LiesDatei(const std::filesystem::path& datei,
                                                    std::size_t hoechstens,
                                                    const Dateisystem& system);
+
+/// Whether an existing file, not a folder, has this name.
+[[nodiscard]] bool FileExists(const std::filesystem::path& File,
+                              const Dateisystem& system = Platte());
+
+/// The names of the plain subfolders of a folder, sorted. A folder without any, or one that can't
+/// be listed, gives one empty name.
+[[nodiscard]] std::vector<std::string> GetSubfolders(const std::filesystem::path& Path,
+                                                     const Dateisystem& system = Platte());
 
 }  // namespace tarvelin

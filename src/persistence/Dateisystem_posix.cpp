@@ -5,6 +5,8 @@
 
 #include <cerrno>
 #include <csignal>
+#include <system_error>
+#include <utility>
 
 #include "persistence/Dateisystem.h"
 
@@ -31,11 +33,37 @@ class Posix final : public Dateisystem {
         if (::stat(pfad.c_str(), &status) != 0) {
             return errno == ENOENT || errno == ENOTDIR ? std::optional(Art::Nichts) : std::nullopt;
         }
-        return S_ISREG(status.st_mode) ? Art::Datei : Art::Anderes;
+        return S_ISREG(status.st_mode)   ? Art::Datei
+               : S_ISDIR(status.st_mode) ? Art::Ordner
+                                         : Art::Anderes;
+    }
+    [[nodiscard]] std::optional<fs::path> LoeseAuf(const fs::path& pfad) const override {
+        std::error_code fehler;
+        auto ziel = fs::weakly_canonical(fs::absolute(pfad, fehler), fehler);
+        return fehler ? std::nullopt : std::optional(std::move(ziel));
     }
     [[nodiscard]] bool IstBeschreibbar(const fs::path& pfad) const override {
-        const bool ordner = Sieh(pfad) == Art::Anderes;
+        const bool ordner = Sieh(pfad) == Art::Ordner;
         return ::access(pfad.c_str(), ordner ? W_OK | X_OK : W_OK) == 0;
+    }
+    [[nodiscard]] std::vector<fs::path> Eintraege(const fs::path& ordner) const override {
+        std::vector<fs::path> eintraege;
+        std::error_code fehler;
+        for (fs::directory_iterator eintrag(ordner, fehler), ende; !fehler && eintrag != ende;
+             eintrag.increment(fehler)) {
+            eintraege.push_back(eintrag->path());
+        }
+        return eintraege;
+    }
+    [[nodiscard]] bool IstSchlichterOrdner(const fs::path& pfad) const override {
+        std::error_code fehler;
+        return fs::symlink_status(pfad, fehler).type() == fs::file_type::directory &&
+               !pfad.filename().native().starts_with('.');
+    }
+    [[nodiscard]] bool LegeOrdnerAn(const fs::path& pfad) const override {
+        std::error_code fehler;
+        fs::create_directories(pfad, fehler);
+        return Sieh(pfad) == Art::Ordner;
     }
 
     [[nodiscard]] int Oeffne(const fs::path& datei) const override {

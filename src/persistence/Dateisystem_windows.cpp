@@ -8,7 +8,7 @@
 
 #include <algorithm>
 #include <string>
-#include <system_error>
+#include <string_view>
 
 #include "persistence/Dateisystem.h"
 
@@ -20,35 +20,65 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kHappen = std::size_t{1} << 20U;
 
-/// Longer paths are read by the system only if they begin with a mark. It ends the system's own
-/// reading of ".", ".." and "/" in them.
+/// A path as the system reads it whatever its length and letters: whole, behind a mark. The mark
+/// ends the system's own reading of ".", ".." and "/" in it. Empty if the path is none.
 std::wstring Lesbar(const fs::path& pfad) {
-    constexpr std::size_t kLaengstens = 240;
     std::wstring voll(::GetFullPathNameW(pfad.c_str(), 0, nullptr, nullptr), L'\0');
     voll.resize(
         ::GetFullPathNameW(pfad.c_str(), static_cast<DWORD>(voll.size()), voll.data(), nullptr));
-    if (voll.size() < kLaengstens || voll.starts_with(LR"(\\?\)")) {
-        return pfad.native();
+    if (voll.empty() || voll.starts_with(LR"(\\?\)") || voll.starts_with(LR"(\\.\)")) {
+        return voll;
     }
     const bool freigabe = voll.starts_with(LR"(\\)");
     return freigabe ? LR"(\\?\UNC\)" + voll.substr(2) : LR"(\\?\)" + voll;
 }
 
-bool IstLang(const fs::path& pfad) {
-    return Lesbar(pfad) != pfad.native();
-}
-
-std::optional<Dateisystem::Art> SiehLangen(const fs::path& pfad) {
-    const DWORD art = ::GetFileAttributesW(Lesbar(pfad).c_str());
-    if (art == INVALID_FILE_ATTRIBUTES) {
-        const DWORD fehler = ::GetLastError();
-        return fehler == ERROR_FILE_NOT_FOUND || fehler == ERROR_PATH_NOT_FOUND
-                   ? std::optional(Dateisystem::Art::Nichts)
-                   : std::nullopt;
+/// A file, folder or device that is looked at, however others hold it.
+class Blick {
+  public:
+    explicit Blick(const fs::path& pfad)
+        : m_griff(::CreateFileW(Lesbar(pfad).c_str(), FILE_READ_ATTRIBUTES,
+                                FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr)),
+          m_fehler(::GetLastError()) {}
+    Blick(const Blick&) = delete;
+    Blick& operator=(const Blick&) = delete;
+    ~Blick() {
+        if (IstDa()) {
+            ::CloseHandle(m_griff);
+        }
     }
-    return (art & FILE_ATTRIBUTE_DIRECTORY) != 0 ? Dateisystem::Art::Anderes
-                                                 : Dateisystem::Art::Datei;
-}
+
+    [[nodiscard]] bool IstDa() const { return m_griff != INVALID_HANDLE_VALUE; }
+    [[nodiscard]] std::optional<Dateisystem::Art> Art() const {
+        using Art = Dateisystem::Art;
+        if (::GetFileType(m_griff) != FILE_TYPE_DISK) {
+            return Art::Anderes;
+        }
+        BY_HANDLE_FILE_INFORMATION angaben;
+        if (::GetFileInformationByHandle(m_griff, &angaben) == 0) {
+            return std::nullopt;
+        }
+        return (angaben.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? Art::Ordner
+                                                                          : Art::Datei;
+    }
+    /// Behind all links; empty where the disk can't tell it.
+    [[nodiscard]] std::wstring Ort() const {
+        std::wstring ort(::GetFinalPathNameByHandleW(m_griff, nullptr, 0, 0), L'\0');
+        ort.resize(
+            ::GetFinalPathNameByHandleW(m_griff, ort.data(), static_cast<DWORD>(ort.size()), 0));
+        return ort;
+    }
+
+    /// Whether it isn't there because nothing has this name.
+    [[nodiscard]] bool IstNichts() const {
+        return !IstDa() && (m_fehler == ERROR_FILE_NOT_FOUND || m_fehler == ERROR_PATH_NOT_FOUND);
+    }
+
+  private:
+    HANDLE m_griff;
+    DWORD m_fehler;
+};
 
 bool Verschiebe(const fs::path& von, const fs::path& nach) {
     return ::MoveFileExW(Lesbar(von).c_str(), Lesbar(nach).c_str(),
@@ -64,32 +94,67 @@ bool IstGehalten(DWORD fehler) {
 class Windows final : public Dateisystem {
   public:
     [[nodiscard]] std::optional<Art> Sieh(const fs::path& pfad) const override {
-        if (IstLang(pfad)) {
-            return SiehLangen(pfad);
+        const Blick blick(pfad);
+        if (blick.IstDa()) {
+            return blick.Art();
         }
-        std::error_code fehler;
-        switch (fs::status(pfad, fehler).type()) {
-            case fs::file_type::not_found:
-                return Art::Nichts;
-            case fs::file_type::none:
-                return std::nullopt;
-            case fs::file_type::regular:
-                return Art::Datei;
-            default:
-                return Art::Anderes;
-        }
+        return blick.IstNichts() ? std::optional(Art::Nichts) : std::nullopt;
     }
     [[nodiscard]] std::optional<fs::path> LoeseAuf(const fs::path& pfad) const override {
-        return IstLang(pfad) ? std::optional(fs::path(Lesbar(pfad))) : Dateisystem::LoeseAuf(pfad);
+        const fs::path voll = Lesbar(pfad);
+        if (voll.empty()) {
+            return std::nullopt;
+        }
+        // A new file has its folder's place.
+        if (const Blick datei(voll); datei.IstDa()) {
+            const std::wstring ort = datei.Ort();
+            return ort.empty() ? voll : fs::path(ort);
+        }
+        const Blick ordner(voll.parent_path());
+        const std::wstring ort = ordner.IstDa() ? ordner.Ort() : std::wstring();
+        return ort.empty() ? voll : fs::path(ort) / voll.filename();
     }
     /// A folder tells only when a file is made in it.
     [[nodiscard]] bool IstBeschreibbar(const fs::path& pfad) const override {
-        if (Sieh(pfad) != Art::Anderes) {
+        if (Sieh(pfad) != Art::Ordner) {
             return ::_waccess(Lesbar(pfad).c_str(), 2) == 0;
         }
         const fs::path probe = pfad / (".tarvelin-" + std::to_string(Prozess()) + ".tmp");
         const int nummer = LegeAn(probe);
         return nummer >= 0 && Schliesse(nummer) && Loesche(probe);
+    }
+
+    [[nodiscard]] std::vector<fs::path> Eintraege(const fs::path& ordner) const override {
+        std::vector<fs::path> eintraege;
+        WIN32_FIND_DATAW eintrag;
+        const HANDLE suche = ::FindFirstFileW(Lesbar(ordner / "*").c_str(), &eintrag);
+        if (suche == INVALID_HANDLE_VALUE) {
+            return eintraege;
+        }
+        do {
+            const std::wstring_view name = eintrag.cFileName;
+            if (name != L"." && name != L"..") {
+                eintraege.push_back(ordner / name);
+            }
+        } while (::FindNextFileW(suche, &eintrag) != 0);
+        ::FindClose(suche);
+        return eintraege;
+    }
+    /// What the file system keeps for itself, as in its index or compressed, tells no folder apart.
+    [[nodiscard]] bool IstSchlichterOrdner(const fs::path& pfad) const override {
+        constexpr DWORD kBesonders = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN |
+                                     FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE |
+                                     FILE_ATTRIBUTE_REPARSE_POINT;
+        const DWORD attribute = ::GetFileAttributesW(Lesbar(pfad).c_str());
+        return attribute != INVALID_FILE_ATTRIBUTES &&
+               (attribute & (FILE_ATTRIBUTE_DIRECTORY | kBesonders)) == FILE_ATTRIBUTE_DIRECTORY;
+    }
+    [[nodiscard]] bool LegeOrdnerAn(const fs::path& pfad) const override {
+        if (Sieh(pfad) != Art::Ordner && pfad.has_relative_path() &&
+            LegeOrdnerAn(pfad.parent_path())) {
+            ::CreateDirectoryW(Lesbar(pfad).c_str(), nullptr);
+        }
+        return Sieh(pfad) == Art::Ordner;
     }
 
     [[nodiscard]] int Oeffne(const fs::path& datei) const override {

@@ -14,8 +14,8 @@ namespace {
 
 /// False if there is no room for the file.
 bool KopiereFehlende(const fs::path& von, const fs::path& nach) {
-    std::error_code fehler;
-    if (fs::exists(nach, fehler)) {
+    const auto art = Platte().Sieh(nach);
+    if (art && *art != Dateisystem::Art::Nichts) {
         return true;
     }
     constexpr std::size_t kHoechstgroesse = std::size_t{16} << 20U;
@@ -23,20 +23,18 @@ bool KopiereFehlende(const fs::path& von, const fs::path& nach) {
     return !bytes || ErsetzeDatei(nach, *bytes);
 }
 
-/// Whether the folder lies there afterwards, and had room for all files.
+bool IstOrdner(const fs::path& pfad) {
+    return Platte().Sieh(pfad) == Dateisystem::Art::Ordner;
+}
+
+/// Whether the folder lies there afterwards, and had room for all that is in the other one.
 bool ErgaenzeOrdner(const fs::path& von, const fs::path& nach) {
-    std::error_code fehler;
-    fs::create_directories(nach, fehler);
-    bool ganz = fs::is_directory(nach, fehler);
-    for (fs::recursive_directory_iterator eintrag(von, fehler), ende; !fehler && eintrag != ende;
-         eintrag.increment(fehler)) {
-        const fs::path ziel = nach / eintrag->path().lexically_relative(von);
-        if (eintrag->is_directory(fehler)) {
-            fs::create_directories(ziel, fehler);
-        } else {
-            ganz = KopiereFehlende(eintrag->path(), ziel) && ganz;
-        }
-        fehler.clear();
+    bool ganz = Platte().LegeOrdnerAn(nach);
+    for (const fs::path& eintrag : Platte().Eintraege(von)) {
+        const fs::path ziel = nach / eintrag.filename();
+        ganz =
+            (IstOrdner(eintrag) ? ErgaenzeOrdner(eintrag, ziel) : KopiereFehlende(eintrag, ziel)) &&
+            ganz;
     }
     return ganz;
 }
@@ -45,22 +43,17 @@ bool ErgaenzeOrdner(const fs::path& von, const fs::path& nach) {
 bool RichteEin(const fs::path& quelle, const fs::path& ordner) {
     const bool bilder = ErgaenzeOrdner(quelle / "img", ordner / "img");
     const bool klaenge = ErgaenzeOrdner(quelle / "mfx", ordner / "mfx");
-    std::error_code fehler;
-    fs::create_directories(ordner / "saves", fehler);
+    const bool plaene = Platte().LegeOrdnerAn(ordner / "saves");
     const fs::path starterplan = fs::path("saves") / "basic.tvf";
-    const bool plan = fs::exists(ordner / "config.cfg", fehler) ||
-                      !fs::exists(quelle / starterplan, fehler) ||
+    const bool plan = FileExists(ordner / "config.cfg") || !FileExists(quelle / starterplan) ||
                       KopiereFehlende(quelle / starterplan, ordner / starterplan);
-    return bilder && klaenge && plan;
+    return bilder && klaenge && plaene && plan;
 }
 
 bool HatPlaene(const fs::path& ordner) {
-    std::error_code fehler;
-    const fs::directory_iterator dateien(ordner / "saves", fehler);
     // The starter plan alone is ours.
-    return !fehler && std::any_of(begin(dateien), end(dateien), [](const auto& datei) {
-        return datei.path().filename() != "basic.tvf";
-    });
+    return std::ranges::any_of(Platte().Eintraege(ordner / "saves"),
+                               [](const auto& datei) { return datei.filename() != "basic.tvf"; });
 }
 
 }  // namespace
@@ -79,8 +72,7 @@ std::vector<fs::path> Programmordner::Gesperrte(bool haelt_ein_anderer) const {
 
 Programmordner BestimmeProgrammordner(const fs::path& ordner_des_programms,
                                       const fs::path& nutzerordner) {
-    std::error_code fehler;
-    const bool mit_daten = fs::is_directory(ordner_des_programms / "img", fehler);
+    const bool mit_daten = IstOrdner(ordner_des_programms / "img");
     if (mit_daten && Platte().IstBeschreibbar(ordner_des_programms)) {
         return {.Ordner = ordner_des_programms};
     }

@@ -23,6 +23,9 @@ class Schreibschutz final : public Dateisystem {
     [[nodiscard]] int LegeAn(const std::filesystem::path& datei) const override {
         return Schuetzt(datei) ? -1 : m_system.LegeAn(datei);
     }
+    [[nodiscard]] bool LegeOrdnerAn(const std::filesystem::path& pfad) const override {
+        return !Schuetzt(pfad) && m_system.LegeOrdnerAn(pfad);
+    }
     [[nodiscard]] bool BenenneUm(const std::filesystem::path& von,
                                  const std::filesystem::path& nach) const override {
         return !Schuetzt(von) && !Schuetzt(nach) && m_system.BenenneUm(von, nach);
@@ -41,6 +44,9 @@ class Schreibschutz final : public Dateisystem {
     [[nodiscard]] std::vector<std::filesystem::path> Eintraege(
         const std::filesystem::path& ordner) const override {
         return m_system.Eintraege(ordner);
+    }
+    [[nodiscard]] bool IstSchlichterOrdner(const std::filesystem::path& pfad) const override {
+        return m_system.IstSchlichterOrdner(pfad);
     }
     [[nodiscard]] int Oeffne(const std::filesystem::path& datei) const override {
         return m_system.Oeffne(datei);

@@ -159,29 +159,4 @@ std::string FormatDuration(Long Value, std::string_view Unit, std::string_view F
     return text;
 }
 
-bool FileExists(const std::filesystem::path& File) {
-    std::error_code fehler;
-    const auto status = std::filesystem::status(File, fehler);
-    return std::filesystem::exists(status) && !std::filesystem::is_directory(status);
-}
-
-std::vector<std::string> GetSubfolders(const std::filesystem::path& Path) {
-    std::vector<std::string> namen;
-    std::error_code fehler;
-    for (auto eintrag = std::filesystem::directory_iterator(Path, fehler);
-         !fehler && eintrag != std::filesystem::directory_iterator(); eintrag.increment(fehler)) {
-        std::error_code ohneStatus;
-        const auto status = eintrag->symlink_status(ohneStatus);
-        const auto name = eintrag->path().filename().u8string();
-        if (std::filesystem::is_directory(status) && !name.starts_with(u8'.')) {
-            namen.emplace_back(name.begin(), name.end());
-        }
-    }
-    std::ranges::sort(namen);
-    if (namen.empty()) {
-        namen.emplace_back();
-    }
-    return namen;
-}
-
 }  // namespace tarvelin

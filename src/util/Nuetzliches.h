@@ -1,11 +1,8 @@
-// Small helpers for texts and folders that every other room leans on. They keep no state. Texts
-// are UTF-8.
+// Small helpers for texts that every other room leans on. They keep no state. Texts are UTF-8.
 #pragma once
 
-#include <filesystem>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "util/Ganzzahl.h"
 
@@ -36,12 +33,5 @@ namespace tarvelin {
 /// (0) " Tage ", (1) "h ", (2) "m ", (3) "s ", (&) "und".
 [[nodiscard]] std::string FormatDuration(Long Value, std::string_view Unit, std::string_view Format,
                                          std::string_view TopUnit);
-
-/// Whether an existing file, not a folder, has this name.
-[[nodiscard]] bool FileExists(const std::filesystem::path& File);
-
-/// The names of the plain subfolders of a folder, sorted: real folders, no links, whose name has
-/// no leading dot. A folder without any, or one that can't be listed, gives one empty name.
-[[nodiscard]] std::vector<std::string> GetSubfolders(const std::filesystem::path& Path);
 
 }  // namespace tarvelin

@@ -3,9 +3,9 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <fstream>
-#include <iterator>
 #include <string_view>
+
+#include "persistence/Dateisystem.h"
 
 namespace tarvelin {
 
@@ -82,14 +82,9 @@ std::optional<Welle> AusBytes(std::string_view bytes) {
 }  // namespace
 
 std::optional<Welle> LiesWelle(const std::filesystem::path& datei) {
-    constexpr std::uintmax_t kHoechstens = std::uintmax_t{64} << 20U;
-    std::error_code fehler;
-    if (!std::filesystem::is_regular_file(datei, fehler) ||
-        std::filesystem::file_size(datei, fehler) > kHoechstens || fehler) {
-        return std::nullopt;
-    }
-    std::ifstream strom(datei, std::ios::binary);
-    return AusBytes(std::string(std::istreambuf_iterator<char>(strom), {}));
+    constexpr std::size_t kHoechstens = std::size_t{64} << 20U;
+    const auto bytes = LiesDatei(datei, kHoechstens, Platte());
+    return bytes ? AusBytes(*bytes) : std::nullopt;
 }
 
 }  // namespace tarvelin

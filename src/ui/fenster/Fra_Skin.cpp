@@ -4,7 +4,7 @@
 #include <QGridLayout>
 #include <utility>
 
-#include "util/Nuetzliches.h"
+#include "persistence/Dateisystem.h"
 
 namespace tarvelin {
 

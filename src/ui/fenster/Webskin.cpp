@@ -6,7 +6,6 @@
 
 #include "persistence/Dateiersatz.h"
 #include "ui/bauteile/Itemansicht.h"
-#include "util/Nuetzliches.h"
 
 namespace tarvelin {
 
@@ -85,13 +84,13 @@ namespace {
 /// Whether the file lies there afterwards.
 bool HoleDatei(const std::string& adresse, const std::filesystem::path& datei,
                const Umgebung& umgebung) {
-    if (FileExists(datei)) {
+    if (FileExists(datei, umgebung.Dateien)) {
         static_cast<void>(umgebung.Dateien.Loesche(datei));
     }
     if (const auto bytes = umgebung.Netz.Hole(adresse)) {
         static_cast<void>(ErsetzeDatei(datei, *bytes, umgebung.Dateien));
     }
-    return FileExists(datei);
+    return FileExists(datei, umgebung.Dateien);
 }
 
 Frage NachFehler(const std::string& ort) {

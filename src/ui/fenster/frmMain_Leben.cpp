@@ -12,7 +12,6 @@
 #include "persistence/Planablage.h"
 #include "ui/fenster/Skinbilder.h"
 #include "ui/fenster/Standmeldungen.h"
-#include "util/Nuetzliches.h"
 
 namespace tarvelin {
 
@@ -54,10 +53,11 @@ bool frmMain::BringePlanargument() {
 // The last plan stays untouched until the player has answered for it.
 void frmMain::BringePlan() {
     const bool ersterStart = m_konfiguration.IstAn(Konfiguration::kFirststart);
-    const bool lagDa = FileExists(m_autosave.Datei());
+    const bool lagDa = FileExists(m_autosave.Datei(), m_umgebung.Dateien);
     const auto letzter = Profil::Lade(m_autosave.Datei(), m_umgebung.Dateien);
     const auto starterplan = m_umgebung.Programmordner / "saves" / "basic.tvf";
-    const bool geladen = ersterStart && FileExists(starterplan) && LoadBauliste(starterplan, false);
+    const bool geladen = ersterStart && FileExists(starterplan, m_umgebung.Dateien) &&
+                         LoadBauliste(starterplan, false);
     const bool wieder = lagDa && StelleWiederHer(letzter);
     if (IstGeschlossen()) {
         return;
