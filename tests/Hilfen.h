@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -69,6 +70,20 @@ inline std::string LiesDatei(const std::filesystem::path& datei) {
 
 inline void SchreibeDatei(const std::filesystem::path& datei, std::string_view bytes) {
     std::ofstream(datei, std::ios::binary) << bytes;
+}
+
+/// As a word of a command.
+inline std::string InZeichen(const std::filesystem::path& pfad) {
+    return "\"" + pfad.string() + "\"";
+}
+
+/// Runs a command in a folder by the platform's shell. Its exit code.
+inline int FuehreAus(const Ordner& ordner, const std::string& befehl) {
+    const std::string ganzer =
+        (kWindows ? "cd /d " : "cd ") + InZeichen(ordner / "") + " && " + befehl;
+    const int status = std::system(ganzer.c_str());
+    // Where a shell speaks POSIX, the code stands in the second byte.
+    return kWindows ? status : status >> 8;
 }
 
 /// A file in 16-bit units behind its mark, the low byte of each first or the high one.

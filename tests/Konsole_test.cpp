@@ -14,19 +14,12 @@ struct Aufruf {
     std::string Fehler;
 };
 
-std::string InZeichen(const std::filesystem::path& pfad) {
-    return "\"" + pfad.string() + "\"";
-}
-
 Aufruf Rufe(const Ordner& ordner, const std::string& argumente) {
     const auto ausgabe = ordner / "ausgabe";
     const auto fehler = ordner / "fehler";
-    const std::string befehl = (kWindows ? "cd /d " : "cd ") + InZeichen(ordner / "") + " && " +
-                               InZeichen(TARVELIN_CLI) + " >" + InZeichen(ausgabe) + " 2>" +
-                               InZeichen(fehler) + " " + argumente;
-    const int status = std::system(befehl.c_str());
-    // Where a shell speaks POSIX, the code stands in the second byte.
-    return {kWindows ? status : status >> 8, LiesDatei(ausgabe), LiesDatei(fehler)};
+    const int code = FuehreAus(ordner, InZeichen(TARVELIN_CLI) + " >" + InZeichen(ausgabe) + " 2>" +
+                                           InZeichen(fehler) + " " + argumente);
+    return {code, LiesDatei(ausgabe), LiesDatei(fehler)};
 }
 
 const std::string kPlan = InZeichen(std::filesystem::path(TARVELIN_GOLDEN) / "regelwidrig-13.tvf");
@@ -196,9 +189,8 @@ TEST(Konsole, EndetAufEinSignalMitDemBestenPlan) {
         "until grep -q '^tarvelin' /proc/$p/comm; do sleep 0.05; done\n"
         "until grep -qE '^SigCgt:.*[2367abef]$|^State:.*Z' /proc/$p/status; do sleep 0.05; done\n"
         "kill -INT $p; wait $p\n");
-    const std::string befehl =
-        "cd " + InZeichen(ordner / "") + " && sh ruf \"" TARVELIN_CLI "\" " + kStartplan + " >aus";
-    EXPECT_EQ(std::system(befehl.c_str()), 0);
+    EXPECT_EQ(FuehreAus(ordner, "sh ruf " + InZeichen(TARVELIN_CLI) + " " + kStartplan + " >aus"),
+              0);
     EXPECT_TRUE(LiesDatei(ordner / "aus").starts_with("Vorher:    04 Tage 04:40:16"));
     EXPECT_EQ(Rufe(ordner, "neu.tvf").Code, 0);
 }
