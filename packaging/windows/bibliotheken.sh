@@ -75,8 +75,18 @@ lagerplatz() {
     echo "$windows_lager/$name-$fassung-${summe:0:12}"
 }
 
-# Builds a library into its folder, unless this bears the mark that a build sets at last. Of two who
-# want the same one waits for the other.
+# The mark that a build sets at last: the sums of all its files.
+merke_inhalt() {
+    (cd "$1" && find . -type f ! -name 'fertig*' -exec sha256sum {} + >fertig.neu && mv fertig.neu fertig)
+}
+
+# Whether a build has come to its end and all of it is still there.
+ist_ganz() {
+    [ -s "$1/fertig" ] && (cd "$1" && sha256sum --check --status fertig 2>/dev/null)
+}
+
+# Builds a library into its folder, unless it is there, whole. Of two who want the same one waits for the
+# other.
 stelle_her() {
     local ziel=$1 dauer=$2 bauer=$3
     mkdir -p "$windows_lager"
@@ -85,13 +95,13 @@ stelle_her() {
             echo "Waiting for another build of ${ziel##*/}"
             flock 9
         }
-        if [ ! -e "$ziel/fertig" ]; then
+        if ! ist_ganz "$ziel"; then
             echo "== Building ${ziel##*/} for Windows: $dauer, once"
             rm -rf "$ziel" "$ziel.bau" "$ziel.log"
             mkdir -p "$ziel.bau"
             "$bauer" "$ziel" "$ziel.bau" "$ziel.log"
             rm -rf "$ziel.bau"
-            touch "$ziel/fertig"
+            merke_inhalt "$ziel"
         fi
     ) 9>"$ziel.schloss"
 }
