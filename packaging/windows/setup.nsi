@@ -17,6 +17,7 @@ ManifestDPIAware true
 !include MUI2.nsh
 !include FileFunc.nsh
 !include LogicLib.nsh
+!include WinVer.nsh
 
 !define MUI_ICON "${QUELLE}\share\tarvelin\img\icon.ico"
 !define MUI_UNICON "${MUI_ICON}"
@@ -102,6 +103,15 @@ FunctionEnd
 !macroend
 !insertmacro Beenden ""
 !insertmacro Beenden "un."
+
+; The toolkit starts on nothing older.
+Function .onInit
+    ${IfNot} ${AtLeastWin10}
+        MessageBox MB_OK|MB_ICONSTOP "Tarvelin braucht Windows 10 oder neuer." /SD IDOK
+        SetErrorLevel 3
+        Quit
+    ${EndIf}
+FunctionEnd
 
 ; Double clicks, and the icon of plans.
 !macro MeldeTypen
