@@ -6,6 +6,8 @@
 #include <QDragEnterEvent>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <QPainter>
+#include <QRawFont>
 #include <QSet>
 #include <QToolTip>
 
@@ -83,6 +85,30 @@ TEST_F(Fenster, KeinWortIstAbgeschnitten) {
         if (widget->inherits("QGroupBox")) {
             const QString titel = widget->property("title").toString();
             EXPECT_LE(schrift.horizontalAdvance(titel) + 3, widget->width()) << titel.toStdString();
+        }
+    }
+}
+
+// A platform's font engine can lose letters.
+TEST_F(Fenster, KeinBuchstabeFehlt) {
+    for (const int pixel :
+         {QApplication::font().pixelSize(), 2 * QApplication::font().pixelSize()}) {
+        QFont schrift = QApplication::font();
+        schrift.setPixelSize(pixel);
+        const QRawFont zeichen = QRawFont::fromFont(schrift);
+        for (const QChar buchstabe : QStringLiteral(
+                 "!\"#$%&'()*+,-./"
+                 "0123456789:;<=>?@ABCDEFGHIJKLMNOPQRSTUVWXYZ[\\]^_`abcdefghijklmnopqrstuvwxyz"
+                 "{|}~ÄÖÜäöüß€°²³–…")) {
+            QImage bild(3 * pixel, 3 * pixel, QImage::Format_RGB32);
+            bild.fill(Qt::white);
+            const QImage leer = bild;
+            QPainter painter(&bild);
+            painter.setFont(schrift);
+            painter.drawText(bild.rect(), Qt::AlignCenter, buchstabe);
+            painter.end();
+            EXPECT_NE(bild, leer) << pixel << QString(buchstabe).toStdString();
+            EXPECT_TRUE(zeichen.supportsCharacter(buchstabe)) << QString(buchstabe).toStdString();
         }
     }
 }

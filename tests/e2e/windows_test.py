@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 """A player's time with the real window on Windows, by mouse and keys: first start, a drag, a run, a
-save under a name with umlauts, recovery, a plan by double click, an alarm that is heard, a skin from
+save under a name with umlauts, recovery, a death in the middle, a second window, a plan by double click, an alarm that is heard, a skin from
 the web, the workbench; then the setup: installed, installed over itself while the program runs,
 removed.
 
@@ -63,6 +63,21 @@ class Fenster:
         return subprocess.run(["xdotool", "getwindowname", self.nummer], capture_output=True,
                               text=True, check=False).stdout
 
+    @staticmethod
+    def antworte(titel, taste):
+        """Answers the question with this title by a key."""
+        warte(lambda: fensternummer(titel), titel)
+        xdotool("sleep", 0.5, "key", taste, "sleep", 0.8)
+
+    def stelle_wieder_her(self):
+        self.antworte("Wiederherstellen", "alt+j")
+        self.antworte("Wiederherstellen", "alt+n")
+
+    def stirb(self):
+        self.prozess.kill()
+        self.prozess.wait()
+        warte(lambda: not fensternummer("Kelva Aufbau"), "the end")
+
     def aufnahme(self, datei):
         subprocess.run(["import", "-window", "root", datei], check=True)
 
@@ -96,16 +111,27 @@ def pruefe_ersten_start(programme, ordner, bilder):
 
 
 def pruefe_wiederherstellung(programme, ordner):
-    fenster = Fenster(os.path.join(ordner, "tarvelin.exe"))
-    for taste in ["alt+j", "alt+n"]:
-        warte(lambda: fensternummer("Wiederherstellen"), "the question")
-        xdotool("sleep", 0.5, "key", taste, "sleep", 0.8)
-    fenster.ziehe(METALLMINE, LISTE)
-    fenster.beende()
-    saves = os.path.join(ordner, "saves")
-    zeilen = [len(rechne(programme, os.path.join(saves, name))["Bauliste"])
-              for name in ("autosave.tvf", "autosave-vorige.tvf")]
-    assert zeilen[0] == zeilen[1] + 1, zeilen
+    """The last plan comes back, also after a death; who has died holds no lock."""
+    def zeilen():
+        return [len(rechne(programme, os.path.join(ordner, "saves", name))["Bauliste"])
+                for name in ("autosave.tvf", "autosave-vorige.tvf")]
+    for stirbt in (False, True):
+        fenster = Fenster(os.path.join(ordner, "tarvelin.exe"))
+        fenster.stelle_wieder_her()
+        fenster.ziehe(METALLMINE, LISTE)
+        if stirbt:
+            warte(lambda: zeilen()[0] == zeilen()[1] + 1, "the drag on the disk")
+            fenster.stirb()
+        else:
+            fenster.beende()
+        assert zeilen()[0] == zeilen()[1] + 1, zeilen()
+
+
+def pruefe_zweites_fenster(ordner):
+    """It asks whether it should open, beside the first."""
+    zweites = subprocess.Popen([WINE, os.path.join(ordner, "tarvelin.exe")], stderr=subprocess.DEVNULL)
+    Fenster.antworte("^Tarvelin$", "alt+n")
+    assert zweites.wait(timeout=60) == 0
 
 
 def pruefe_wecker(programme, ordner, plan):
@@ -216,6 +242,7 @@ def main(programme, setup, bilder):
     plan = pruefe_ersten_start(programme, ordner, bilder)
     pruefe_wiederherstellung(programme, ordner)
     fenster = pruefe_wecker(programme, ordner, plan)
+    pruefe_zweites_fenster(ordner)
     pruefe_webskin(fenster, ordner)
     pruefe_werkbank(fenster, ordner, bilder)
     pruefe_setup(programme, setup)
