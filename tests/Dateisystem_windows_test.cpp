@@ -6,6 +6,8 @@
 #include <thread>
 
 #include "Hilfen.h"
+#include "persistence/Programmordner.h"
+#include "persistence/Schreibschutz.h"
 
 namespace tarvelin {
 namespace {
@@ -72,18 +74,35 @@ TEST(DateisystemWindows, ZeigtSchlichteOrdner) {
     EXPECT_EQ(GetSubfolders(ordner / ""), (std::vector<std::string>{"blau", "ohne Index"}));
 }
 
+/// Deletes a folder whose path may be long, which the library can't.
+void Raeume(const std::filesystem::path& ordner) {
+    for (const auto& eintrag : Platte().Eintraege(ordner)) {
+        if (Platte().Sieh(eintrag) == Dateisystem::Art::Ordner) {
+            Raeume(eintrag);
+        } else {
+            EXPECT_TRUE(Platte().Loesche(eintrag));
+        }
+    }
+    const auto ort = Platte().LoeseAuf(ordner);
+    EXPECT_NE(::RemoveDirectoryW(ort->c_str()), 0) << ::GetLastError();
+}
+
 TEST(DateisystemWindows, KommtMitLangenPfadenZurecht) {
     const Ordner ordner;
-    std::filesystem::path ort = ordner / "";
-    std::wstring lang = LR"(\\?\)" + std::filesystem::absolute(ort).make_preferred().native();
+    std::filesystem::path ort = ordner / "lang";
     for (int i = 0; i < 6; ++i) {
-        const std::wstring glied = L"Größe – 星のプラン " + std::wstring(50, L'x');
-        lang += (lang.ends_with(L'\\') ? L"" : L"\\") + glied;
-        ASSERT_TRUE(::CreateDirectoryW(lang.c_str(), nullptr)) << i;
-        ort /= glied;
+        ort /= L"Größe – 星のプラン " + std::wstring(50, L'x');
     }
-    const auto datei = ort / "plan.tvf";
+    const auto datei = ort / "saves" / "plan.tvf";
     ASSERT_GT(datei.native().size(), 300U);
+    // A folder of a program, with its files in it.
+    ASSERT_TRUE(Platte().LegeOrdnerAn(ordner / "share/tarvelin/img/skins/blau"));
+    SchreibeDatei(ordner / "share/tarvelin/img/icon.ico", "icon");
+    const auto gewaehlt = BestimmeProgrammordner(ordner / "bin", ort);
+    EXPECT_EQ(gewaehlt.Ordner, ort);
+    EXPECT_TRUE(gewaehlt.KannBehalten);
+    EXPECT_EQ(LiesDatei(ort / "img/icon.ico", 9, Platte()), "icon");
+    EXPECT_EQ(GetSubfolders(ort / "img/skins"), std::vector<std::string>{"blau"});
     for (const char* const codes : {"GM", "GM GS"}) {
         ASSERT_TRUE(SaveBauliste(datei, PlanAus(codes)));
         const auto profil = Profil::Lade(datei);
@@ -91,13 +110,10 @@ TEST(DateisystemWindows, KommtMitLangenPfadenZurecht) {
         EXPECT_EQ(profil->Lies("Bauliste", "ItemCount", ""),
                   codes == std::string("GM") ? "1" : "2");
     }
+    EXPECT_TRUE(FileExists(datei));
     EXPECT_EQ(Platte().Sieh(ort / "fehlt.tvf"), Dateisystem::Art::Nichts);
-    // What the tests clean up by knows no such paths.
-    EXPECT_TRUE(Platte().Loesche(datei));
-    for (; lang.size() > std::filesystem::absolute(ordner / "").native().size() + 5;
-         lang.erase(lang.rfind(L'\\'))) {
-        EXPECT_TRUE(::RemoveDirectoryW(lang.c_str()));
-    }
+    EXPECT_FALSE(SaveBauliste(datei, PlanAus("GM"), Schreibschutz({ort})));
+    Raeume(ordner / "lang");
 }
 
 }  // namespace
