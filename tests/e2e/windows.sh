@@ -18,4 +18,6 @@ raeume_auf() {
 }
 trap raeume_auf EXIT
 /usr/lib/wine/wine64 wineboot --init >/dev/null 2>&1
+# What the toolkit runs on at least.
+/usr/lib/wine/wine64 winecfg -v win10 >/dev/null 2>&1
 "$@"
