@@ -40,7 +40,7 @@ stelle_bibliotheken_bereit() {
     QT_WINDOWS=$(lagerplatz qt6-base qt6-base-dev "${QT_SCHALTER[@]}" "${QT_OHNE[@]}")
     SVG_WINDOWS=$(lagerplatz qt6-svg qt6-svg-dev "$QT_WINDOWS")
     stelle_her "$CURL_WINDOWS" "about 2 minutes on two free cores" baue_curl
-    stelle_her "$QT_WINDOWS" "about 15 minutes on two free cores" baue_qt
+    stelle_her "$QT_WINDOWS" "about 20 minutes on two free cores" baue_qt
     # The window does without it, but for pictures in that format. (Behind a "||" the shell wouldn't stop
     # within at what fails.)
     set +e
