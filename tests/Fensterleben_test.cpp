@@ -117,6 +117,21 @@ TEST_F(Fensterleben, PlanAlsArgumentStattDesLetzten) {
     EXPECT_EQ(start.Zeilen(), 3U);
     EXPECT_TRUE(start->windowTitle().endsWith(QStringLiteral("( meiner.tvf )")));
     EXPECT_EQ(LiesDatei(saves / "autosave-vorige.tvf"), letzter);
+    start->close();
+    // Whoever looks at one plan after the other still has the one that lies nowhere else.
+    ASSERT_TRUE(SaveBauliste(saves / "anderer.tvf", PlanAus("GS")));
+    m_umgebung.Planargument = saves / "anderer.tvf";
+    {
+        NeuerStart anderer(m_umgebung);
+        EXPECT_EQ(LiesDatei(saves / "autosave-vorige.tvf"), letzter);
+        anderer->findChild<QAbstractButton*>(QStringLiteral("Cmd_Clear"))->click();
+        emit anderer->findChild<Baulistenansicht*>(QStringLiteral("LV_Bauliste"))
+            ->DragDrop(QStringLiteral("ImgMetMine"));
+    }
+    const std::string geaendert = LiesDatei(saves / "autosave.tvf");
+    m_umgebung.Planargument = saves / "meiner.tvf";
+    NeuerStart wieder(m_umgebung);
+    EXPECT_EQ(LiesDatei(saves / "autosave-vorige.tvf"), geaendert);
 }
 
 TEST_F(Fensterleben, OrdnerGehoertDemErstenProgramm) {
@@ -124,9 +139,15 @@ TEST_F(Fensterleben, OrdnerGehoertDemErstenProgramm) {
     EXPECT_FALSE(erstes->HatEinAnderer());
     EXPECT_TRUE(Ordnerschloss(m_ordner / "").HatEinAnderer());
     EXPECT_FALSE(Ordnerschloss(m_ordner / "saves").HatEinAnderer());
-    // No process has this number; without a name the machine is this one.
-    SchreibeDatei(m_ordner / "mfx" / "tarvelin.lock", "4194996\ntarvelin\n\n");
-    EXPECT_FALSE(Ordnerschloss(m_ordner / "mfx").HatEinAnderer());
+    // A dead holder: no process has this number, half a lock, another machine, our own number.
+    const std::string eigene = std::to_string(Platte().Prozess());
+    const std::string name = QCoreApplication::applicationName().toStdString();
+    for (const std::string& schloss :
+         {std::string("4194996\ntarvelin\n\n"), std::string(),
+          std::string("1\nx\nanderswo\n1\n1\n"), eigene + "\n" + name + "\n\n"}) {
+        SchreibeDatei(m_ordner / "mfx" / "tarvelin.lock", schloss);
+        EXPECT_FALSE(Ordnerschloss(m_ordner / "mfx").HatEinAnderer()) << schloss;
+    }
     EXPECT_FALSE(Ordnerschloss(m_ordner / "fehlt").HatEinAnderer());
 }
 

@@ -9,6 +9,14 @@ namespace tarvelin {
 
 namespace {
 
+/// "1" in an autosave whose plan lies in a file of its own.
+constexpr const char* kSitzung = "Sitzung";
+constexpr const char* kAusDatei = "AusDatei";
+
+bool IstAusDatei(const Profil& profil) {
+    return profil.Lies(kSitzung, kAusDatei, "0") == "1";
+}
+
 std::string AlsBytes(const Plan& plan) {
     Profil profil("");
     SchreibePlan(plan, profil);
@@ -22,6 +30,10 @@ Autosave::Autosave(const std::filesystem::path& programmordner, const Dateisyste
       m_vorige{programmordner / "saves" / "autosave-vorige.tvf",
                programmordner / "saves" / "autosave-vorige-2.tvf"},
       m_system(system) {}
+
+void Autosave::LiegtInDatei(const Plan& plan) {
+    m_ausDatei = AlsBytes(plan);
+}
 
 void Autosave::GiltAlsGeschrieben(const Plan& plan) {
     m_letzter = AlsBytes(plan);
@@ -49,6 +61,10 @@ bool Autosave::Schreibe(const Plan& plan, bool auchOhneVorige) {
     }
     Profil nachher = *vorher;
     SchreibePlan(plan, nachher);
+    const bool ausDatei = m_ausDatei == m_letzter;
+    if (ausDatei != IstAusDatei(nachher)) {
+        nachher.Schreibe(kSitzung, kAusDatei, ausDatei ? "1" : "0");
+    }
     const std::string bytes = nachher.Bytes();
     if (bytes == vorher->Bytes()) {
         return true;
@@ -58,9 +74,10 @@ bool Autosave::Schreibe(const Plan& plan, bool auchOhneVorige) {
 }
 
 bool Autosave::BewahreVorige(const Profil& vorige) {
-    return !HatZeilen(vorige) || std::ranges::any_of(m_vorige, [&](const auto& datei) {
-        return ErsetzeDatei(datei, vorige.Bytes(), m_system);
-    });
+    return !HatZeilen(vorige) || IstAusDatei(vorige) ||
+           std::ranges::any_of(m_vorige, [&](const auto& datei) {
+               return ErsetzeDatei(datei, vorige.Bytes(), m_system);
+           });
 }
 
 }  // namespace tarvelin

@@ -13,7 +13,9 @@ namespace tarvelin {
 
 /// Keeps the user's plan in `saves/autosave.tvf`, each time in one step. Before its first change in
 /// a session the plan of the last one, if it has a row, goes to `saves/autosave-vorige.tvf` beside
-/// it, or to `saves/autosave-vorige-2.tvf` if that can't be written.
+/// it, or to `saves/autosave-vorige-2.tvf` if that can't be written. A plan that was opened by its
+/// file and never changed doesn't: it lies in that file, and would drive out one that lies nowhere
+/// else.
 class Autosave {
   public:
     /// `system` must outlive it.
@@ -25,6 +27,9 @@ class Autosave {
     [[nodiscard]] std::vector<std::filesystem::path> Dateien() const {
         return {m_datei, m_vorige[0], m_vorige[1]};
     }
+
+    /// Tells that this plan lies in a file of its own.
+    void LiegtInDatei(const Plan& plan);
 
     /// Takes the plan for what is written.
     void GiltAlsGeschrieben(const Plan& plan);
@@ -49,6 +54,8 @@ class Autosave {
     bool m_vorigeBewahrt = false;
     /// The plan that was written or tried last, as a profile of its own.
     std::optional<std::string> m_letzter;
+    /// The plan that lies in a file of its own, as a profile.
+    std::optional<std::string> m_ausDatei;
 };
 
 }  // namespace tarvelin

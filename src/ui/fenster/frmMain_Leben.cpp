@@ -46,6 +46,7 @@ bool frmMain::BringePlanargument() {
     if (datei.empty() || !LoadBauliste(datei, false) || IstGeschlossen()) {
         return false;
     }
+    m_autosave.LiegtInDatei(m_plan);
     static_cast<void>(m_autosave.Schreibe(m_plan));
     return true;
 }
