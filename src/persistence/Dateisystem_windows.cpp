@@ -80,15 +80,24 @@ class Blick {
     DWORD m_fehler;
 };
 
-bool Verschiebe(const fs::path& von, const fs::path& nach) {
-    return ::MoveFileExW(Lesbar(von).c_str(), Lesbar(nach).c_str(),
-                         MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
-}
-
-/// Whether another program has the file open.
+/// Whether another program has the file open in a way that lets nobody else at it.
 bool IstGehalten(DWORD fehler) {
     return fehler == ERROR_SHARING_VIOLATION || fehler == ERROR_LOCK_VIOLATION ||
-           fehler == ERROR_ACCESS_DENIED || fehler == ERROR_USER_MAPPED_FILE;
+           fehler == ERROR_USER_MAPPED_FILE;
+}
+
+/// Virus scanners and indexes hold a file for a moment after it was written; who holds it longer
+/// wins. `tat` answers with the system's error; whether it came to its end.
+template <class Tat>
+bool Geduldig(Tat tat) {
+    constexpr int kProben = 20;
+    constexpr DWORD kPause = 50;
+    DWORD fehler = tat();
+    for (int probe = 1; IstGehalten(fehler) && probe < kProben; ++probe) {
+        ::Sleep(kPause);
+        fehler = tat();
+    }
+    return fehler == ERROR_SUCCESS;
 }
 
 class Windows final : public Dateisystem {
@@ -114,14 +123,17 @@ class Windows final : public Dateisystem {
         const std::wstring ort = ordner.IstDa() ? ordner.Ort() : std::wstring();
         return ort.empty() ? voll : fs::path(ort) / voll.filename();
     }
-    /// A folder tells only when a file is made in it.
+    /// A folder tells only when a file is made in it. The system deletes it, whoever looks at it.
     [[nodiscard]] bool IstBeschreibbar(const fs::path& pfad) const override {
         if (Sieh(pfad) != Art::Ordner) {
             return ::_waccess(Lesbar(pfad).c_str(), 2) == 0;
         }
         const fs::path probe = pfad / (".tarvelin-" + std::to_string(Prozess()) + ".tmp");
-        const int nummer = LegeAn(probe);
-        return nummer >= 0 && Schliesse(nummer) && Loesche(probe);
+        const HANDLE griff = ::CreateFileW(
+            Lesbar(probe).c_str(), GENERIC_WRITE | DELETE,
+            FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, CREATE_ALWAYS,
+            FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+        return griff != INVALID_HANDLE_VALUE && ::CloseHandle(griff) != 0;
     }
 
     [[nodiscard]] std::vector<fs::path> Eintraege(const fs::path& ordner) const override {
@@ -158,7 +170,12 @@ class Windows final : public Dateisystem {
     }
 
     [[nodiscard]] int Oeffne(const fs::path& datei) const override {
-        return ::_wopen(Lesbar(datei).c_str(), _O_RDONLY | _O_BINARY | _O_NOINHERIT);
+        int nummer = -1;
+        static_cast<void>(Geduldig([&] {
+            nummer = ::_wopen(Lesbar(datei).c_str(), _O_RDONLY | _O_BINARY | _O_NOINHERIT);
+            return nummer >= 0 ? DWORD{ERROR_SUCCESS} : DWORD{_doserrno};
+        }));
+        return nummer;
     }
     [[nodiscard]] int LegeAn(const fs::path& datei) const override {
         return ::_wopen(Lesbar(datei).c_str(),
@@ -173,25 +190,22 @@ class Windows final : public Dateisystem {
         const auto anzahl = static_cast<unsigned>(std::min(bytes.size(), kHappen));
         return ::_write(nummer, bytes.data(), anzahl);
     }
-    /// A new file takes the rights of its folder; what can be written has no others here.
+    /// A new file takes the rights of its folder, as those of most programs do here.
     [[nodiscard]] bool UebernimmRechte(int /*nummer*/, const fs::path& /*von*/) const override {
         return true;
     }
     [[nodiscard]] bool BringAufPlatte(int nummer) const override { return ::_commit(nummer) == 0; }
     bool Schliesse(int nummer) const override { return ::_close(nummer) == 0; }
 
-    /// Virus scanners and indexes hold a file for a moment after it was written; who holds it
-    /// longer wins.
     [[nodiscard]] bool BenenneUm(const fs::path& von, const fs::path& nach) const override {
-        constexpr int kProben = 20;
-        constexpr DWORD kPause = 50;
-        for (int probe = 1; !Verschiebe(von, nach); ++probe) {
-            if (probe == kProben || !IstGehalten(::GetLastError())) {
-                return false;
-            }
-            ::Sleep(kPause);
-        }
-        return true;
+        return Geduldig([&] {
+            const bool verschoben =
+                ::MoveFileExW(Lesbar(von).c_str(), Lesbar(nach).c_str(),
+                              MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+            const DWORD fehler = verschoben ? DWORD{ERROR_SUCCESS} : ::GetLastError();
+            // Who may not be replaced at all answers the same.
+            return fehler == ERROR_ACCESS_DENIED ? DWORD{ERROR_SHARING_VIOLATION} : fehler;
+        });
     }
     /// The move has written through.
     bool BringOrdnerAufPlatte(const fs::path& /*ordner*/) const override { return true; }
