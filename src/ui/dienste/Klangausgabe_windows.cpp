@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QDataStream>
+#include <utility>
 
 #include "ui/dienste/Klangausgabe.h"
 #include "ui/dienste/Wellendatei.h"
@@ -14,6 +15,20 @@ class QAudioSink {};
 namespace tarvelin {
 
 namespace {
+
+/// The platform's player takes samples of 8 and 16 bits: of longer ones the upper half.
+Welle Spielbar(Welle welle) {
+    constexpr int kLange = 32;
+    if (welle.Bits == kLange) {
+        std::string kurze;
+        for (std::size_t i = 0; i < welle.Abtastwerte.size(); i += 4) {
+            kurze.append(welle.Abtastwerte, i + 2, 2);
+        }
+        welle.Abtastwerte = std::move(kurze);
+        welle.Bits = kLange / 2;
+    }
+    return welle;
+}
 
 /// A wave file that has its format and its samples and nothing else.
 QByteArray AlsDatei(const Welle& welle) {
@@ -60,7 +75,7 @@ void Klangausgabe::Spiele(const std::filesystem::path& datei) {
 void Klangausgabe::Beginne() {
     ::PlaySoundW(nullptr, nullptr, 0);
     const auto welle = LiesWelle(m_datei);
-    m_abtastwerte.setData(welle ? AlsDatei(*welle) : QByteArray());
+    m_abtastwerte.setData(welle ? AlsDatei(Spielbar(*welle)) : QByteArray());
     const auto* const bytes = reinterpret_cast<const wchar_t*>(m_abtastwerte.data().constData());
     if (!welle || ::PlaySoundW(bytes, nullptr, SND_MEMORY | SND_ASYNC | SND_NODEFAULT) == 0) {
         QApplication::beep();

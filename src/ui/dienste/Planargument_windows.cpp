@@ -5,6 +5,8 @@
 // Needs the one above.
 #include <shellapi.h>
 
+#include <string>
+
 #include "ui/dienste/Planargument.h"
 
 namespace tarvelin {
@@ -14,8 +16,11 @@ std::filesystem::path Planargument(int /*argc*/, char** /*argv*/) {
     wchar_t** const worte = ::CommandLineToArgvW(::GetCommandLineW(), &anzahl);
     std::filesystem::path plan;
     if (worte != nullptr && anzahl > 1) {
-        std::error_code fehler;
-        plan = std::filesystem::absolute(worte[1], fehler);
+        // The library's own answer takes a share for a folder of this disk.
+        std::wstring voll(::GetFullPathNameW(worte[1], 0, nullptr, nullptr), L'\0');
+        voll.resize(
+            ::GetFullPathNameW(worte[1], static_cast<DWORD>(voll.size()), voll.data(), nullptr));
+        plan = voll;
     }
     ::LocalFree(worte);
     return plan;
