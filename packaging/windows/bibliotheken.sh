@@ -30,6 +30,9 @@ QT_OHNE=(
     errormessage keysequenceedit columnview datawidgetmapper splashscreen syntaxhighlighter toolbox
     fontcombobox textbrowser scroller)
 
+# The exit code for sources that can't be had.
+OHNE_QUELLE=75
+
 windows_lager=${XDG_CACHE_HOME:-$HOME/.cache}/tarvelin
 windows_rezepte=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 windows_werkzeuge=$(cd "$windows_rezepte/../../cmake/mingw" && pwd)/werkzeuge.cmake
@@ -41,8 +44,8 @@ stelle_bibliotheken_bereit() {
     SVG_WINDOWS=$(lagerplatz qt6-svg qt6-svg-dev "$QT_WINDOWS")
     stelle_her "$CURL_WINDOWS" "about 2 minutes on two free cores" baue_curl
     stelle_her "$QT_WINDOWS" "about 20 minutes on two free cores" baue_qt
-    # The window does without it, but for pictures in that format. (Behind a "||" the shell wouldn't stop
-    # within at what fails.)
+    # Some mirrors lack its sources; the window does without it, but for pictures in that format. (Behind
+    # a "||" the shell wouldn't stop within at what fails.)
     set +e
     (
         set -e
@@ -50,10 +53,11 @@ stelle_bibliotheken_bereit() {
     )
     local status=$?
     set -e
-    if [ "$status" -ne 0 ]; then
-        echo "== Qt's Svg module can't be had: the window for Windows saves no pictures as SVG" >&2
-        SVG_WINDOWS=
-    fi
+    case $status in
+        0) ;;
+        "$OHNE_QUELLE") SVG_WINDOWS= ;;
+        *) return "$status" ;;
+    esac
 }
 
 # The version of the sources that an installed package was made of. Qt's tools of this machine have to be
@@ -65,7 +69,7 @@ quellfassung() {
 # A library's folder, named by all that its content depends on.
 lagerplatz() {
     local name=$1 fassung summe
-    fassung=$(quellfassung "$2")
+    fassung=$(quellfassung "$2") || return
     shift 2
     summe=$({
         printf '%s\n' "$REZEPT" "$@" "$(quellfassung g++-mingw-w64-x86-64-posix)"
@@ -129,7 +133,7 @@ baue_qt() {
 
 baue_svg() {
     local ziel=$1 bau=$2 log=$3
-    protokolliere "$log" hole_quelle qt6-svg qt6-svg-dev "$bau"
+    protokolliere "$log" hole_quelle qt6-svg qt6-svg-dev "$bau" || exit "$OHNE_QUELLE"
     protokolliere "$log" cmake -G Ninja -S "$bau/quelle" -B "$bau/baum" \
         -DCMAKE_TOOLCHAIN_FILE="$QT_WINDOWS/lib/cmake/Qt6/qt.toolchain.cmake" \
         -DQT_CHAINLOAD_TOOLCHAIN_FILE="$windows_werkzeuge" -DCMAKE_INSTALL_PREFIX="$ziel" \
@@ -143,6 +147,10 @@ hole_quelle() {
     local quelle=$1 paket=$2 ordner=$3
     mkdir -p "$ordner/apt/lists/partial" "$ordner/apt/archives/partial"
     liste_quellen >"$ordner/apt/sources.list"
+    if [ ! -s "$ordner/apt/sources.list" ]; then
+        echo "The machine's apt lists name no place of Debian's by the name of its release"
+        return 1
+    fi
     local apt=(apt-get -q -o Dir::Etc::sourcelist="$ordner/apt/sources.list" -o Dir::Etc::sourceparts=-
         -o Dir::State::lists="$ordner/apt/lists" -o Dir::Cache="$ordner/apt"
         -o APT::Sandbox::User=root -o Acquire::Retries=3)

@@ -4,6 +4,8 @@ Unicode true
 Target amd64-unicode
 SetCompressor /SOLID lzma
 RequestExecutionLevel user
+; A file that can't be written ends the setup, instead of being left out.
+AllowSkipFiles off
 Name "Tarvelin"
 OutFile "${ZIEL}"
 InstallDir "$LOCALAPPDATA\Programs\Tarvelin"
@@ -13,6 +15,7 @@ ManifestDPIAware true
 !define EINTRAG "Software\Microsoft\Windows\CurrentVersion\Uninstall\Tarvelin"
 !define KLASSEN "Software\Classes"
 !define PLANTYP "Tarvelin.Plan"
+!define VORHER "Tarvelin.Vorher"
 
 !include MUI2.nsh
 !include FileFunc.nsh
@@ -60,22 +63,29 @@ Function ${un}SageBescheid
     ${Loop}
 FunctionEnd
 
-; $4 is 1 while the program runs, else 0: nobody can delete its lock or write it then. A test of the
-; error flag clears it.
+; $4 is 1 while one of the programs runs, else 0: nobody can delete its lock or write it then. A test of
+; the error flag clears it.
 Function ${un}PruefeObEsLaeuft
     StrCpy $4 0
     ClearErrors
     Delete "$APPDATA\Tarvelin\tarvelin.lock"
     ${If} ${Errors}
         StrCpy $4 1
-    ${ElseIf} ${FileExists} "$INSTDIR\bin\tarvelin.exe"
-        FileOpen $0 "$INSTDIR\bin\tarvelin.exe" a
-        ${If} ${Errors}
-            StrCpy $4 1
-        ${Else}
-            FileClose $0
-        ${EndIf}
     ${EndIf}
+    ${For} $1 1 2
+        StrCpy $2 "$INSTDIR\bin\tarvelin.exe"
+        ${If} $1 == 2
+            StrCpy $2 "$INSTDIR\bin\tarvelin-cli.exe"
+        ${EndIf}
+        ${If} ${FileExists} $2
+            FileOpen $0 $2 a
+            ${If} ${Errors}
+                StrCpy $4 1
+            ${Else}
+                FileClose $0
+            ${EndIf}
+        ${EndIf}
+    ${Next}
 FunctionEnd
 
 Function ${un}BeendeTarvelin
@@ -120,7 +130,7 @@ FunctionEnd
 
 Section
     Call BeendeTarvelin
-    ; An older version takes its own files with it.
+    ; An older version takes its own files with it. What it leaves gives way to the new one's.
     ${If} ${FileExists} "$INSTDIR\Entfernen.exe"
         ExecWait '"$INSTDIR\Entfernen.exe" /S _?=$INSTDIR'
     ${EndIf}
@@ -130,6 +140,11 @@ Section
     WriteUninstaller "$INSTDIR\Entfernen.exe"
     CreateShortcut "$SMPROGRAMS\Tarvelin.lnk" "$INSTDIR\bin\tarvelin.exe"
 
+    ReadRegStr $0 HKCU "${KLASSEN}\.tvf" ""
+    ${If} $0 != ""
+    ${AndIf} $0 != "${PLANTYP}"
+        WriteRegStr HKCU "${KLASSEN}\.tvf" "${VORHER}" $0
+    ${EndIf}
     WriteRegStr HKCU "${KLASSEN}\.tvf" "" "${PLANTYP}"
     WriteRegStr HKCU "${KLASSEN}\${PLANTYP}" "" "Tarvelin-Bauliste"
     WriteRegStr HKCU "${KLASSEN}\${PLANTYP}\DefaultIcon" "" "$INSTDIR\bin\tarvelin.exe,0"
@@ -156,9 +171,21 @@ Section Uninstall
     Delete "$INSTDIR\Entfernen.exe"
     RMDir "$INSTDIR"
     Delete "$SMPROGRAMS\Tarvelin.lnk"
+    ; Whoever opened plans before does so again.
     ReadRegStr $0 HKCU "${KLASSEN}\.tvf" ""
     ${If} $0 == "${PLANTYP}"
-        DeleteRegKey HKCU "${KLASSEN}\.tvf"
+        DeleteRegValue HKCU "${KLASSEN}\.tvf" ""
+        ReadRegStr $0 HKCU "${KLASSEN}\.tvf" "${VORHER}"
+        ${If} $0 != ""
+            WriteRegStr HKCU "${KLASSEN}\.tvf" "" $0
+        ${EndIf}
+    ${EndIf}
+    DeleteRegValue HKCU "${KLASSEN}\.tvf" "${VORHER}"
+    ; "ifempty" asks for keys alone.
+    EnumRegValue $0 HKCU "${KLASSEN}\.tvf" 0
+    ReadRegStr $1 HKCU "${KLASSEN}\.tvf" ""
+    ${If} $0$1 == ""
+        DeleteRegKey /ifempty HKCU "${KLASSEN}\.tvf"
     ${EndIf}
     DeleteRegKey HKCU "${KLASSEN}\${PLANTYP}"
     !insertmacro MeldeTypen
