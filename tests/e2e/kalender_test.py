@@ -1,11 +1,12 @@
 #!/usr/bin/python3
 """Calendars of plans, read by a reader that isn't ours, held against the history of their runs.
 
-    kalender_test.py PROGRAM PLAN...
+    kalender_test.py COMMAND PLAN...
 """
 import datetime
 import json
 import os
+import shlex
 import subprocess
 import sys
 import tempfile
@@ -16,7 +17,7 @@ MINUTE = datetime.timedelta(minutes=1)
 
 
 def rufe(programm, *worte):
-    return subprocess.run([programm, *worte], check=False, stdout=subprocess.PIPE,
+    return subprocess.run([*shlex.split(programm), *worte], check=False, stdout=subprocess.PIPE,
                           stderr=subprocess.DEVNULL)
 
 
