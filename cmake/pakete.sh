@@ -12,8 +12,9 @@ TEST_PAKETE=(libgtest-dev libbenchmark-dev clang-format python3-icalendar
     "${BILDSCHIRM_PAKETE[@]}")
 WERKZEUG_PAKETE=(clang clang-tidy clang-tools cppcheck)
 ABDECKUNG_PAKETE=(gcovr)
-# A cross compiler, what unpacks sources, what packs a setup, and a Windows with a screen.
-WINDOWS_PAKETE=(g++-mingw-w64-x86-64-posix googletest dpkg-dev nsis wine64)
+# A cross compiler, what unpacks sources, what packs a setup, a Windows with a screen, and who reads it.
+WINDOWS_PAKETE=(g++-mingw-w64-x86-64-posix googletest dpkg-dev nsis wine64 python3-icalendar
+    tesseract-ocr tesseract-ocr-deu)
 
 # Installs those of the named packages that are missing: as root or by sudo; elsewhere it names them
 # and stops.

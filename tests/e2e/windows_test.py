@@ -15,12 +15,15 @@ import subprocess
 import sys
 import time
 
-from bedienung import STARTERPLAN, Ohr, fensternummer, warte, xdotool
+from bedienung import STARTERPLAN, Fehler, Ohr, fensternummer, warte, xdotool
 from skinserver import Skinserver, bild
 
 WINE = "/usr/lib/wine/wine64"
 # Places in the window, which has one size.
 HIDE, METALLMINE, LISTE, WECKER, SKIN = (76, 269), (268, 60), (110, 190), (635, 244), (302, 8)
+# Those that lie on no picture, don't change and are no riddle to a reader.
+AUFSCHRIFTEN = ["Datei", "Einstellungen", "Schlafzeiten", "Skin", "Info", "Werkbank", "Bauliste", "Gebäude",
+                "Verteidigung", "Raumschiffe", "Optimale Bauzeiten", "Uhrzeit", "Baustart-Alarm", "Undo"]
 # Width, height and place of the label of the points.
 PUNKTE = "120x24+655+260"
 WEB, WEBPFAD, SKIN_OK = (23, 73), (150, 57), (129, 73)
@@ -85,6 +88,15 @@ class Fenster:
         return subprocess.check_output(["import", "-window", self.nummer, "-crop", wo, "-depth", "8",
                                         "rgb:-"])
 
+    def gelesen(self):
+        """The texts of the window, as somebody reads them who knows nothing of it."""
+        bild_ = subprocess.run(["import", "-window", self.nummer, "png:-"], check=True,
+                               capture_output=True).stdout
+        gross = subprocess.run(["convert", "-", "-colorspace", "Gray", "-resize", "400%", "-unsharp",
+                                "0x1", "png:-"], input=bild_, check=True, capture_output=True).stdout
+        return subprocess.run(["tesseract", "-", "-", "-l", "deu", "--psm", "11"], input=gross,
+                              check=True, capture_output=True).stdout.decode()
+
     def aufnahme(self, datei):
         subprocess.run(["import", "-window", "root", datei], check=True)
 
@@ -92,6 +104,28 @@ class Fenster:
         self.tippe("alt+d")
         xdotool("key", "b")
         assert self.prozess.wait(timeout=60) == 0
+
+
+def speichere(fenster, datei):
+    """Saves under a name of the folder that the dialog shows. Hands whose keyboard is mapped anew for
+    each umlaut can slip on a busy machine: they try again."""
+    for _ in range(3):
+        fenster.tippe("ctrl+s")
+        # The platform's own dialog bears no title here.
+        warte(lambda: aktives_fenster() not in ("", fenster.nummer), "the dialog")
+        xdotool("sleep", 1, "key", "ctrl+a", "type", "--delay", "80", os.path.basename(datei))
+        xdotool("sleep", 0.5, "key", "Return", "sleep", 3)
+        if os.path.exists(datei):
+            return
+        xdotool("key", "Escape", "sleep", 1)
+    raise Fehler(datei)
+
+
+def pruefe_texte(gelesen, bauzeiten):
+    """No letter is missing in captions and lists."""
+    worte = AUFSCHRIFTEN + [zeile[spalte] for zeile in bauzeiten for spalte in ("Uhrzeit", "theText")]
+    fehlende = [wort for wort in worte if wort not in gelesen]
+    assert not fehlende, (fehlende, gelesen)
 
 
 def pruefe_ersten_start(programme, ordner, bilder):
@@ -104,14 +138,10 @@ def pruefe_ersten_start(programme, ordner, bilder):
     vorher_punkte = fenster.ausschnitt(PUNKTE)
     fenster.tippe("Return")
     warte(lambda: fenster.ausschnitt(PUNKTE) != vorher_punkte, "the run")
+    pruefe_texte(fenster.gelesen(), rechne(programme, STARTERPLAN)["LV_Bauzeiten"][:12])
     fenster.aufnahme(os.path.join(bilder, "fenster.png"))
-    fenster.tippe("ctrl+s")
-    # The platform's own dialog bears no title here.
-    warte(lambda: aktives_fenster() not in ("", fenster.nummer), "the dialog")
     datei = os.path.join(ordner, "saves", "Größe äöü.tvf")
-    xdotool("sleep", 1, "type", "--delay", "60", os.path.basename(datei))
-    xdotool("sleep", 0.5, "key", "Return")
-    warte(lambda: os.path.exists(datei), "the plan with umlauts")
+    speichere(fenster, datei)
     vorher = rechne(programme, STARTERPLAN)["Bauliste"]
     nachher = rechne(programme, datei)
     assert len(nachher["Bauliste"]) == len(vorher) + 1 and nachher["Bauliste"][-1]["Tag"] == "GM"
@@ -225,14 +255,40 @@ def zeige_typen():
         assert kopie.returncode == 0, typ
 
 
+def altes_setup(setup, ordner):
+    """The setup of an older version, which brought one more file. Its path."""
+    teile = os.path.join(os.path.dirname(setup), "setup")
+    with open(os.path.join(teile, "kopieren.nsh"), encoding="utf-8") as datei:
+        kopieren = datei.read() + f'File "/oname=$INSTDIR\\bin\\alt.dll" "{STARTERPLAN}"\n'
+    with open(os.path.join(teile, "loeschen.nsh"), encoding="utf-8") as datei:
+        loeschen = 'Delete "$INSTDIR\\bin\\alt.dll"\n' + datei.read()
+    for name, text in [("kopieren.nsh", kopieren), ("loeschen.nsh", loeschen)]:
+        with open(os.path.join(ordner, name), "w", encoding="utf-8") as datei:
+            datei.write(text)
+    ziel = os.path.join(ordner, "alt.exe")
+    subprocess.run(["makensis", "-V1", "-INPUTCHARSET", "UTF8", "-DVERSION=0.9.0",
+                    "-DQUELLE=" + os.path.join(teile, "baum"), "-DZIEL=" + ziel, "-DLISTEN=" + ordner,
+                    os.path.join(os.path.dirname(__file__), "../../packaging/windows/setup.nsi")],
+                   check=True)
+    return ziel
+
+
+def installierte_fassung():
+    return wine("reg", "query", "HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Tarvelin",
+                "/v", "DisplayVersion").stdout.decode().split()[-1]
+
+
 def pruefe_setup(programme, setup):
-    """Installed, started by a double click on a plan, installed over itself meanwhile, removed."""
+    """An older version installed, started by a double click on a plan; the present one installed over
+    it meanwhile, then removed."""
     heim = nutzerordner()
     ziel = os.path.join(heim, "AppData", "Local", "Programs", "Tarvelin")
     daten = os.path.join(heim, "AppData", "Roaming", "Tarvelin")
     plan = os.path.join(heim, "Plan ä.tvf")
     shutil.copy(STARTERPLAN, plan)
-    assert wine(setup, "/S").returncode == 0
+    assert wine(altes_setup(setup, os.environ["HOME"]), "/S").returncode == 0
+    alt = os.path.join(ziel, "bin", "alt.dll")
+    assert os.path.exists(alt) and installierte_fassung() == "0.9.0"
     zeige_typen()
     for nochmal in (True, False):
         wine("start", "/unix", plan)
@@ -243,6 +299,8 @@ def pruefe_setup(programme, setup):
             datei.write("von mir")
         if nochmal:
             assert wine(setup, "/S").returncode == 0
+            assert not os.path.exists(alt)
+            assert os.path.basename(setup).startswith(f"Tarvelin-{installierte_fassung()}-")
         else:
             wine(os.path.join(ziel, "Entfernen.exe"), "/S")
             # It removes by a copy of itself.
