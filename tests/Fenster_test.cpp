@@ -476,7 +476,7 @@ TEST_F(Fenster, Schlafzeiten) {
     Druecke("Cmd_RemoveSchlafzeit");
     ASSERT_EQ(Zeilen("LV_Schlafzeiten"), 1);
     EXPECT_EQ(Zelle("LV_Schlafzeiten", 0, 0), "19.11.2006 22:30");
-    liste.clearSelection();
+    EXPECT_FALSE(liste.selectionModel()->hasSelection()) << "the next row isn't chosen";
     Druecke("Cmd_RemoveSchlafzeit");
     Druecke("Cmd_ClearSchlafzeiten");
     EXPECT_EQ(Zeilen("LV_Schlafzeiten"), 1) << "answered with Nein";
@@ -493,6 +493,24 @@ TEST_F(Fenster, Schlafzeiten) {
     Druecke("Cmd_ClearSchlafzeiten");
     EXPECT_EQ(m_boxen.Texte.back(), "Wirklich alle löschen ?");
     EXPECT_EQ(Zeilen("LV_Schlafzeiten"), 0);
+}
+
+TEST_F(Fenster, LangeZahlenEndenInPunktenUndStehenGanzImHinweis) {
+    Plan plan = PlanAus("GM GM");
+    plan.Schlafzeiten = {{"18.11.2006 12:30", "18.11.3006 23:30"}};
+    Lade(plan);
+    auto& metall = Finde<QLabel>("LBL_Met");
+    EXPECT_EQ(metall.toolTip(), metall.text());
+    EXPECT_EQ(Finde("LBL_ENergie").toolTip(), QString());
+    // Cut at its right alone.
+    metall.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    metall.setFixedWidth(metall.fontMetrics().horizontalAdvance(metall.text()) + 1);
+    EXPECT_EQ(metall.toolTip(), QString());
+    const QImage ganz = metall.grab().toImage();
+    metall.setFixedWidth(ganz.width() - 8);
+    EXPECT_EQ(metall.toolTip(), metall.text());
+    const QRect anfang(0, 0, metall.width() / 2, metall.height());
+    EXPECT_EQ(metall.grab().toImage().copy(anfang), ganz.copy(anfang));
 }
 
 // The figures themselves are held against the console's in the play on a virtual screen.

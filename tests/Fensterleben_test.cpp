@@ -139,6 +139,8 @@ TEST_F(Fensterleben, OrdnerGehoertDemErstenProgramm) {
     EXPECT_FALSE(erstes->HatEinAnderer());
     EXPECT_TRUE(Ordnerschloss(m_ordner / "").HatEinAnderer());
     EXPECT_FALSE(Ordnerschloss(m_ordner / "saves").HatEinAnderer());
+    erstes->GibZurueck();
+    EXPECT_FALSE(Ordnerschloss(m_ordner / "").HatEinAnderer());
     // A dead holder: no process has this number, half a lock, another machine, our own number.
     const std::string eigene = std::to_string(Platte().Prozess());
     const std::string name = QCoreApplication::applicationName().toStdString();
@@ -283,6 +285,35 @@ TEST_F(Fensterleben, LadenUndSpeichernUeberDenDialog) {
         EXPECT_EQ(Zeilen("LV_Bauliste"), 1) << datei;
     }
     EXPECT_EQ(m_boxen.Texte.size(), 3U);
+}
+
+TEST_F(Fensterleben, ErsetzteWerdenBewahrtWennSieNirgendsLiegen) {
+    const auto erster = [this] {
+        const auto profil = Profil::Lade(m_ordner / "saves" / "ersetzt-1.tvf");
+        return profil ? profil->Lies("Bauliste", "ItemCount", "?") : "";
+    };
+    m_boxen.Datei = "meiner.tvf";
+    Lade("GS GM");
+    Waehle("mnu_Datei_Speichern");
+    Waehle("mnu_DateiNeu");
+    EXPECT_EQ(erster(), "") << "it lies in its file";
+    Waehle("mnu_DateiLaden");
+    Tippe("txt_UniStartZeitTag", "5");
+    Waehle("mnu_DateiLaden");
+    EXPECT_EQ(erster(), "2") << "another start is another plan";
+    Druecke("Cmd_Simulate");
+    Druecke("Cmd_Undo");
+    Waehle("mnu_DateiNeu");
+    EXPECT_EQ(erster(), "1");
+    // What is loaded from there has been moved on when it comes, and isn't safe there.
+    Lade("GS GM GM");
+    m_boxen.Datei = "ersetzt-1.tvf";
+    Waehle("mnu_DateiLaden");
+    EXPECT_EQ(Zeilen("LV_Bauliste"), 1);
+    EXPECT_EQ(erster(), "3");
+    Waehle("mnu_DateiNeu");
+    EXPECT_EQ(erster(), "1");
+    EXPECT_FALSE(fs::exists(m_ordner / "saves" / "autosave-vorige.tvf"));
 }
 
 TEST_F(Fensterleben, NeuBeginntHeuteUndLaesstDenRest) {
@@ -644,8 +675,12 @@ TEST_F(Fensterleben, InfofensterSindEinmaligUndFuehrenAufDieSeiten) {
     EXPECT_NE(m_seiten[5].substr(0, m_seiten[5].find("&item")),
               m_seiten[4].substr(0, m_seiten[4].find("&item")));
     // They stand beside the main window, and outlive its closing.
+    bool geschrieben = false;
+    QObject::connect(&m_fenster, &frmMain::Geschlossen,
+                     [&] { geschrieben = fs::exists(m_ordner / "saves" / "autosave.tvf"); });
     m_fenster.close();
     EXPECT_TRUE(spenden.isVisible());
+    EXPECT_TRUE(geschrieben) << "the folder is free when all is kept";
 }
 
 }  // namespace

@@ -446,6 +446,7 @@ Befund PruefeUmstellungen(const Plan& plan) {
     Bauliste liste = Nacheinander(plan.Liste.Tags(), bedingungen);
     Listenverlauf verlauf;
     std::vector<std::vector<std::string>> staende{liste.Tags()};
+    verlauf.Beginne({.Tags = liste.Tags()});
     for (int i = 0; i < kProben; ++i) {
         const Umstellung umstellung = Irgendeine(liste, zufall);
         const auto tags = umstellung.Tags();
@@ -461,20 +462,18 @@ Befund PruefeUmstellungen(const Plan& plan) {
         if (einwand || tags == staende.back()) {
             continue;
         }
-        verlauf.Merke(liste.Tags(), tags);
+        verlauf.Merke({.Tags = tags});
         liste.Setze(tags, bedingungen);
         staende.push_back(tags);
         if (Zustand(liste) != Zustand(Nacheinander(tags, bedingungen))) {
             return "an edited list isn't its rows dropped anew";
         }
     }
-    auto tags = liste.Tags();
     for (std::size_t i = staende.size() - 1; i > 0; --i) {
-        tags = verlauf.Zurueck(tags).Zeilen;
-        if (tags != staende[i - 1] || verlauf.Vor(tags).Zeilen != staende[i]) {
+        if (verlauf.Zurueck().Tags != staende[i - 1] || verlauf.Vor().Tags != staende[i] ||
+            verlauf.Zurueck().Tags != staende[i - 1]) {
             return "an edit can't be taken back and done again";
         }
-        tags = verlauf.Zurueck(staende[i]).Zeilen;
     }
     return verlauf.HatVorige() ? "there is more to take back than was done" : "";
 }

@@ -239,6 +239,15 @@ TEST(Schreibschutz, AendertImOrdnerNichtsUndSonstAlles) {
     EXPECT_TRUE(SaveBauliste(ordner / "eigene-plaene.tvf", PlanAus("GM"), schutz));
 }
 
+TEST(Programmordner, DateidialogeBeginnenNieIrgendwo) {
+    const Ordner ordner;
+    EXPECT_EQ(Planordner(ordner / "", Platte()), ordner / "saves") << "made anew";
+    EXPECT_TRUE(std::filesystem::is_directory(ordner / "saves"));
+    std::filesystem::remove(ordner / "saves");
+    SchreibeDatei(ordner / "saves", "");
+    EXPECT_EQ(Planordner(ordner / "", Platte()).string() + "/", (ordner / "").string());
+}
+
 TEST(Programmordner, SperrtWasEinAndererBehaelt) {
     const Ordner ordner;
     std::filesystem::create_directory(ordner / "saves");
@@ -246,11 +255,38 @@ TEST(Programmordner, SperrtWasEinAndererBehaelt) {
     const Schreibschutz dateien(programmordner.Gesperrte(true));
     Autosave autosave(ordner / "", dateien);
     autosave.SchreibeZuletzt(PlanAus("GM"));
+    autosave.BewahreErsetzten(PlanAus("GM"));
     EXPECT_FALSE(Konfiguration(ordner / "", dateien).Schreibe({{Konfiguration::kFirststart, "0"}}));
     EXPECT_EQ(ordner.Eintraege(), 1U);
     EXPECT_TRUE(std::filesystem::is_empty(ordner / "saves"));
     EXPECT_TRUE(SaveBauliste(ordner / "saves" / "meiner.tvf", PlanAus("GM"), dateien));
     EXPECT_TRUE(programmordner.Gesperrte(false).empty());
+}
+
+TEST(Autosave, BewahrtDieLetztenFuenfErsetzten) {
+    const Ordner ordner;
+    const Autosave autosave(ordner / "");
+    const auto liegen = [&] {
+        std::string zahlen;
+        for (const char* const n : {"1", "2", "3", "4", "5", "6"}) {
+            const auto profil =
+                Profil::Lade(ordner / "saves" / (std::string("ersetzt-") + n + ".tvf"));
+            zahlen += profil ? profil->Lies("Bauliste", "ItemCount", "?") : "-";
+        }
+        return zahlen;
+    };
+    std::string codes;
+    for (const char* const erwartet :
+         {"1-----", "21----", "321---", "4321--", "54321-", "65432-"}) {
+        codes += codes.empty() ? "GM" : " GM";
+        autosave.BewahreErsetzten(PlanAus(codes));
+        autosave.BewahreErsetzten(PlanAus(codes));
+        autosave.BewahreErsetzten(PlanAus(""));
+        EXPECT_EQ(liegen(), erwartet) << "neither twice nor empty";
+    }
+    std::filesystem::remove(ordner / "saves" / "ersetzt-3.tvf");
+    autosave.BewahreErsetzten(PlanAus("GM"));
+    EXPECT_EQ(liegen(), "16532-") << "a gap is filled before the oldest goes";
 }
 
 /// The steps of a session, and the plans that lie there after each; "" for none.
@@ -285,7 +321,7 @@ TEST(Autosave, BewahrtDenPlanDerLetztenSitzung) {
     const Stoersystem kaputt(1, Ausfallart::AllesFuerImmer);
     Autosave gestoert(ordner / "", kaputt);
     gestoert.SchreibeGeaenderten(PlanAus("GM"));
-    EXPECT_EQ(kaputt.Gestoert(), "Sieh");
+    EXPECT_EQ(kaputt.Gestoert(), "LegeOrdnerAn");
     // Where the last plan can't be kept under its name it gets another, and else stays until the
     // end.
     const auto versperre = [&](const char* name) {

@@ -4,6 +4,7 @@
 #include "Gesetze.h"
 #include "Hilfen.h"
 #include "plan/Hovertexte.h"
+#include "plan/Listenverlauf.h"
 #include "plan/Regeln.h"
 
 namespace tarvelin {
@@ -165,6 +166,27 @@ TEST(Hovertexte, NennenKostenUndEnergieDerNaechstenZeile) {
     const Hoverinfo zu = HoverInfo(Rakws, Auftragsliste(), bedingungen);
     EXPECT_FALSE(zu.DragOffen);
     EXPECT_EQ(zu.Tooltip, " Noch keine Raumschiffwerft in der Bauliste, bauen wäre unmöglich! ");
+}
+
+TEST(Listenverlauf, TippenInEineEingabeIstEinSchritt) {
+    Listenverlauf verlauf;
+    const auto tippe = [&](const char* eingabe, const char* temperatur) {
+        Planstand stand;
+        stand.Parameter.TempMax = temperatur;
+        verlauf.Merke(stand, eingabe);
+    };
+    for (const char* const text : {"", "2", "25"}) {
+        tippe("TempMax", text);
+    }
+    tippe("TempMin", "26");
+    tippe("TempMax", "27");
+    EXPECT_EQ(verlauf.Zurueck().Parameter.TempMax, "26");
+    tippe("TempMax", "28");
+    EXPECT_FALSE(verlauf.HatNaechste());
+    tippe("TempMax", "26");
+    EXPECT_EQ(verlauf.Zurueck().Parameter.TempMax, "25") << "typed back to what it was";
+    EXPECT_EQ(verlauf.Zurueck().Parameter.TempMax, "11");
+    EXPECT_FALSE(verlauf.HatVorige());
 }
 
 TEST(Startparameter, WochentagUndStartdatum) {

@@ -60,17 +60,25 @@ TEST(Planablage, HoertAmErstenUnbrauchbarenWertAuf) {
         const char* Neu;
         std::size_t Zeilen;
         std::size_t Schlafzeiten;
+        const char* Hindernis;
     };
-    const std::vector<Fall> faelle{{"KlickPuffer=5", "KlickPuffer=601", 0, 0},
-                                   {"KlickPuffer=5", "", 0, 0},
-                                   {"ShowDesc=1", "ShowDesc=ja", 0, 0},
-                                   {"ItemCount=1", "ItemCount=10000", 0, 0},
-                                   {"ItemCount=1", "ItemCount=1,0", 0, 0},
-                                   {"ItemCount=3", "ItemCount=-1", 0, 1},
-                                   {"ItemCount=3", "ItemCount=4", 3, 1},
-                                   {"Item_001=GM", "Item_001=gm", 0, 1},
-                                   {"Item_002=GS", "", 1, 1},
-                                   {"Item_003=GX:8:10:5", "Item_003=GX:8:10:11", 2, 1}};
+    const std::vector<Fall> faelle{
+        {"KlickPuffer=5", "KlickPuffer=601", 0, 0,
+         "Zeile 2, KlickPuffer: 601 ist keine Zahl von 0 bis 600"},
+        {"KlickPuffer=5", "", 0, 0, "[Einstellungen], KlickPuffer fehlt"},
+        {"ShowDesc=1", "ShowDesc=ja", 0, 0, "Zeile 9, ShowDesc: ja ist keine Zahl"},
+        {"ItemCount=1", "ItemCount=10000", 0, 0,
+         "Zeile 17, ItemCount: 10000 ist keine Zahl von 0 bis 9999"},
+        {"ItemCount=1", "ItemCount=1,0", 0, 0,
+         "Zeile 17, ItemCount: 1,0 ist keine Zahl von 0 bis 9999"},
+        {"ItemCount=3", "ItemCount=-1", 0, 1,
+         "Zeile 12, ItemCount: -1 ist keine Zahl von 0 bis 254"},
+        {"ItemCount=3", "ItemCount=4", 3, 1, "[Bauliste], Item_004 fehlt"},
+        {"Item_001=GM", "Item_001=gm", 0, 1, "Zeile 13, Item_001: gm ist kein Code der Bauliste"},
+        {"Item_001=GM", "Item_001=", 0, 1, "Zeile 13, Item_001: der Wert fehlt"},
+        {"Item_002=GS", "", 1, 1, "[Bauliste], Item_002 fehlt"},
+        {"Item_003=GX:8:10:5", "Item_003=GX:8:10:11", 2, 1,
+         "Zeile 15, Item_003: GX:8:10:11 ist kein Code der Bauliste"}};
     for (const Fall& fall : faelle) {
         SCOPED_TRACE(std::string(fall.Alt) + " " + fall.Neu);
         const Ladung ladung(Mit(fall.Alt, fall.Neu));
@@ -79,7 +87,9 @@ TEST(Planablage, HoertAmErstenUnbrauchbarenWertAuf) {
                   std::vector<std::string>{"Die Bauliste konnte nicht geladen werden..."});
         EXPECT_EQ(ladung.Geladen.Liste.Zeilen().size(), fall.Zeilen);
         EXPECT_EQ(ladung.Geladen.Schlafzeiten.size(), fall.Schlafzeiten);
+        EXPECT_EQ(Ladehindernis(Profil(Mit(fall.Alt, fall.Neu))), fall.Hindernis);
     }
+    EXPECT_EQ(Ladehindernis(Profil(kBeispiel)), "");
     const Ladung zuviel(Mit("ItemCount=3", "ItemCount=99999999999999999999"));
     EXPECT_EQ(zuviel.Meldungen.Texte.size(), 1U);
 }

@@ -8,7 +8,8 @@
 
 namespace tarvelin {
 
-/// Aligned German text: the timetable, then duration, stocks, energy and points.
+/// Aligned German text: the timetable with the run's own reasons, then duration, stocks, energy and
+/// points.
 void SchreibeText(std::ostream& strom, const Planlauf& lauf);
 
 /// The header row of the spreadsheet, with the byte-order mark that makes it UTF-8.

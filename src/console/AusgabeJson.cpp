@@ -113,7 +113,7 @@ json VerlaufVon(const Ablauf& ablauf) {
     for (const Startereignis& start : ablauf.Starts) {
         auftraege.push_back(
             {{"Zeile", start.Zeile + 1},
-             {"Auftrag", Auftragstext(start)},
+             {"Auftrag", Auftragsschluessel(start.Order, start.Nummer)},
              {"Start", start.Start.Sekunden()},
              {"Finish", start.Finish.Sekunden()},
              {"Startzeit", Datumzeittext(ablauf.Bedingungen.Uhrzeit(start.Start))},

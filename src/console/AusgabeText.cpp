@@ -1,9 +1,11 @@
 // Timetable and figures as aligned text and as rows of a spreadsheet.
 #include "console/Ausgabe.h"
 
+#include <functional>
 #include <vector>
 
 #include "console/Tabelle.h"
+#include "simulation/Lauftexte.h"
 
 namespace tarvelin {
 
@@ -11,18 +13,19 @@ namespace {
 
 using Zeile = std::vector<std::string>;
 
-const Zeile& Kopf() {
-    static const Zeile kKopf{"Nr.", "Wochentag", "Uhrzeit", "theText", "Zeitpunkt", "Verzögerung"};
-    return kKopf;
+Zeile Kopf(const char* letzte) {
+    return {"Nr.", "Wochentag", "Uhrzeit", "theText", "Zeitpunkt", letzte};
 }
 
-std::vector<Zeile> Zeittabelle(const Bauzeiten& bauzeiten) {
+/// The rows, with what `text` gives for each in the last column.
+std::vector<Zeile> Zeittabelle(const Bauzeiten& bauzeiten,
+                               const std::function<std::string(std::size_t)>& text) {
     std::vector<Zeile> zeilen;
     zeilen.reserve(bauzeiten.size());
-    for (const Bauzeit& bauzeit : bauzeiten) {
-        zeilen.push_back({std::to_string(zeilen.size() + 1), bauzeit.Wochentag(), bauzeit.Uhrzeit(),
-                          bauzeit.theText(), Datumzeittext(bauzeit.Start),
-                          bauzeit.VerzoegerungsGrund()});
+    for (std::size_t i = 0; i < bauzeiten.size(); ++i) {
+        const Bauzeit& bauzeit = bauzeiten[i];
+        zeilen.push_back({std::to_string(i + 1), bauzeit.Wochentag(), bauzeit.Uhrzeit(),
+                          bauzeit.theText(), Datumzeittext(bauzeit.Start), text(i)});
     }
     return zeilen;
 }
@@ -65,8 +68,11 @@ void SchreibeCsvZeile(std::ostream& strom, const std::string& plan, const Zeile&
 
 void SchreibeText(std::ostream& strom, const Planlauf& lauf) {
     strom << lauf.Name << "\n\n";
-    std::vector<Zeile> zeilen = Zeittabelle(lauf.Lauf.LV_Bauzeiten);
-    zeilen.insert(zeilen.begin(), Kopf());
+    const Ablauf ablauf = lauf.Abgespielt();
+    auto zeilen = Zeittabelle(lauf.Lauf.LV_Bauzeiten, [&](std::size_t i) {
+        return Wartetext(ablauf, ablauf.Starts[i].Zeile);
+    });
+    zeilen.insert(zeilen.begin(), Kopf("Grund"));
     SchreibeTabelle(strom, zeilen, {0});
     strom << '\n';
     SchreibeTabelle(strom, Ergebnisfiguren(lauf), {1});
@@ -74,11 +80,13 @@ void SchreibeText(std::ostream& strom, const Planlauf& lauf) {
 
 void SchreibeCsvKopf(std::ostream& strom) {
     strom << "\xEF\xBB\xBF";
-    SchreibeCsvZeile(strom, "Plan", Kopf());
+    SchreibeCsvZeile(strom, "Plan", Kopf("Verzögerung"));
 }
 
 void SchreibeCsv(std::ostream& strom, const Planlauf& lauf) {
-    for (const Zeile& zeile : Zeittabelle(lauf.Lauf.LV_Bauzeiten)) {
+    const Bauzeiten& bauzeiten = lauf.Lauf.LV_Bauzeiten;
+    for (const Zeile& zeile :
+         Zeittabelle(bauzeiten, [&](std::size_t i) { return bauzeiten[i].VerzoegerungsGrund(); })) {
         SchreibeCsvZeile(strom, lauf.Name, zeile);
     }
 }

@@ -1,9 +1,11 @@
 // The report of a search.
 #include "console/Suchausgabe.h"
 
+#include <cstdlib>
 #include <nlohmann/json.hpp>
 
 #include "console/Ausgabe.h"
+#include "console/Tabelle.h"
 #include "search/Suchtexte.h"
 #include "util/Nuetzliches.h"
 #include "util/Zahlentext.h"
@@ -30,9 +32,20 @@ json AlsJson(const Fund& fund, const Spielstand& stand) {
             {"ProStunde", raten}};
 }
 
-std::string Zeile(const Fund& fund) {
-    return Dauer(fund.Wertung.Dauer) + "   " + std::to_string(fund.Wertung.Sitzungen) +
-           " Sitzungen   " + std::to_string(fund.Orders.size()) + " Zeilen";
+std::string Fundtext(const Fund& fund) {
+    return Dauer(fund.Wertung.Dauer) + "   " +
+           Anzahltext(static_cast<std::size_t>(fund.Wertung.Sitzungen), "Sitzung", "Sitzungen") +
+           "   " + Anzahltext(fund.Orders.size(), "Zeile", "Zeilen");
+}
+
+/// A list for fewer sittings may take longer.
+std::string Gewinntext(Long gewinn) {
+    return (gewinn < 0 ? "-" : "") + Dauer(std::abs(gewinn));
+}
+
+void SchreibeZeile(std::ostream& strom, const std::string& name, const std::string& text) {
+    constexpr std::size_t kBreite = 13;
+    strom << Aufgefuellt(name + ":", kBreite, false) << text << '\n';
 }
 
 std::string Prozent(Long gewinn, Long von) {
@@ -45,28 +58,33 @@ std::string Prozent(Long gewinn, Long von) {
 void SchreibeSuche(std::ostream& strom, const Suchbericht& bericht) {
     const Fund& nachher = *bericht.Ergebnis.Bester;
     const auto& vorher = bericht.Aufgabe.Vorher;
-    strom << "Vorher:    "
-          << (vorher ? Zeile(*vorher) : "der Plan endet nie oder verfehlt das Ziel") << "\n"
-          << "Nachher:   " << Zeile(nachher) << '\n';
+    SchreibeZeile(strom, "Vorher",
+                  vorher ? Fundtext(*vorher) : "der Plan endet nie oder verfehlt das Ziel");
+    SchreibeZeile(strom, "Nachher", Fundtext(nachher));
     if (vorher) {
         const Long gewinn = vorher->Wertung.Dauer - nachher.Wertung.Dauer;
-        strom << "Gewinn:    " << Dauer(gewinn) << " (" << Prozent(gewinn, vorher->Wertung.Dauer)
-              << ")\n";
+        SchreibeZeile(strom, "Gewinn",
+                      Gewinntext(gewinn) + " (" + Prozent(gewinn, vorher->Wertung.Dauer) + ")");
     }
     const Auftragsliste& alte = bericht.Plan.Plan.Liste.Auftraege();
     const Auftragsliste& neue = bericht.Neuer.Plan.Liste.Auftraege();
-    for (const auto& [name, text] : {std::pair("Hinzu:     ", Ueberschuss(neue, alte)),
-                                     std::pair("Weg:       ", Ueberschuss(alte, neue))}) {
-        strom << (text.empty() ? "" : name + text + "\n");
+    for (const auto& [name, text] : {std::pair("Kommt dazu", UeberschussInWorten(neue, alte)),
+                                     std::pair("Entfällt", UeberschussInWorten(alte, neue))}) {
+        if (!text.empty()) {
+            SchreibeZeile(strom, name, text);
+        }
     }
     if (bericht.Plan.Gelaufen) {
-        strom << "Je Stunde: " << ProStundeText(bericht.Plan.Lauf.Stand) << " (vorher)\n";
+        SchreibeZeile(strom, "Je Stunde", ProStundeText(bericht.Plan.Lauf.Stand) + " (vorher)");
     }
-    strom << "Je Stunde: " << ProStundeText(bericht.Neuer.Lauf.Stand) << " (nachher)\n";
+    SchreibeZeile(strom, "Je Stunde", ProStundeText(bericht.Neuer.Lauf.Stand) + " (nachher)");
     if (const auto& pause = bericht.Aufgabe.Pause) {
-        strom << "Pause:     " << pause->Startzeit << " bis " << pause->Endzeit << '\n';
+        SchreibeZeile(strom, "Pause", pause->Startzeit + " bis " + pause->Endzeit);
     }
-    strom << "Versuche:  " << bericht.Ergebnis.Versuche << "   Saat: " << bericht.Saat << "\n\n";
+    SchreibeZeile(
+        strom, "Versuche",
+        std::to_string(bericht.Ergebnis.Versuche) + "   Saat: " + std::to_string(bericht.Saat));
+    strom << '\n';
     SchreibeText(strom, bericht.Neuer);
 }
 
@@ -92,7 +110,7 @@ std::string SuchJson(const Suchbericht& bericht) {
 }
 
 std::string Fortschrittszeile(const Fortschritt& stand) {
-    return Dauer(stand.BesteDauer) + "  Gewinn " + Dauer(stand.Gewinn) + "  Versuch " +
+    return Dauer(stand.BesteDauer) + "  Gewinn " + Gewinntext(stand.Gewinn) + "  Versuch " +
            std::to_string(stand.Versuche) + " von " + std::to_string(stand.VonVersuchen) +
            "  Kette " + std::to_string(stand.Kette) + "  " + Ganztext(stand.VersucheJeSekunde) +
            "/s  besser vor " + Ganztext(stand.SeitBestem) + " s";

@@ -35,15 +35,18 @@ bool FehlerstromIstTerminal() {
 #endif
 }
 
-/// "3,7-9". Nothing for any other text.
-std::optional<std::vector<std::pair<std::size_t, std::size_t>>> LiesZeilen(std::string_view text) {
+using Zeilenbereiche = std::vector<std::pair<std::size_t, std::size_t>>;
+
+/// "3,7-9", or what is wrong with another text.
+std::variant<Zeilenbereiche, std::string> LiesZeilen(std::string_view text) {
+    constexpr const char* kErwartet = "--fest erwartet Zeilen wie 3,7-9";
     constexpr std::int64_t kHoechste = 9999;
-    std::vector<std::pair<std::size_t, std::size_t>> stuecke;
+    Zeilenbereiche stuecke;
     while (!text.empty()) {
         const auto ende = std::min(text.find(','), text.size());
         const auto stueck = text.substr(0, ende);
         if (ende + 1 == text.size()) {
-            return std::nullopt;
+            return kErwartet;
         }
         text.remove_prefix(std::min(ende + 1, text.size()));
         const auto strich = stueck.find('-');
@@ -52,7 +55,11 @@ std::optional<std::vector<std::pair<std::size_t, std::size_t>>> LiesZeilen(std::
                                 ? erste
                                 : LiesGanzzahl(stueck.substr(strich + 1), 1, kHoechste);
         if (!erste || !letzte) {
-            return std::nullopt;
+            return kErwartet;
+        }
+        if (*erste > *letzte) {
+            return "--fest " + std::string(stueck) + " läuft rückwärts: gemeint ist wohl " +
+                   std::to_string(*letzte) + "-" + std::to_string(*erste);
         }
         stuecke.emplace_back(*erste, *letzte);
     }
@@ -63,10 +70,10 @@ std::optional<std::vector<std::pair<std::size_t, std::size_t>>> LiesZeilen(std::
 std::variant<Suchwunsch, std::string> LiesWunsch(const Suchbefehl& befehl) {
     Suchwunsch wunsch{.Ziel = befehl.Ziel, .Frei = befehl.Frei};
     const auto zeilen = LiesZeilen(befehl.Fest);
-    if (!zeilen) {
-        return "--fest erwartet Zeilen wie 3,7-9";
+    if (const auto* const fehler = std::get_if<std::string>(&zeilen)) {
+        return *fehler;
     }
-    wunsch.Fest = *zeilen;
+    wunsch.Fest = std::get<Zeilenbereiche>(zeilen);
     if (befehl.Ab) {
         wunsch.Ab = LiesDatumzeit(*befehl.Ab);
         if (!wunsch.Ab) {
@@ -106,7 +113,9 @@ int FuehreSucheAus(const Suchbefehl& befehl, const std::atomic<bool>& halt) {
     }
     const Planlauf plan(AlsPfad(befehl.Plandatei));
     if (!plan.Geladen) {
-        return Sage(Ladefehler().Text, kPlanGescheitert);
+        const int code = Sage(Ladefehler().Text, kPlanGescheitert);
+        std::cerr << befehl.Plandatei << ": " << Ladehindernis(AlsPfad(befehl.Plandatei)) << '\n';
+        return code;
     }
     const auto aufgabe = StelleAufgabe(plan.Plan, std::get<Suchwunsch>(wunsch));
     if (const auto* const absage = std::get_if<Suchabsage>(&aufgabe)) {

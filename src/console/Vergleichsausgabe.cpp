@@ -62,7 +62,7 @@ std::string VergleichsJson(const Planlauf& a, const Planlauf& b) {
     json unterschiede = json::array();
     for (const Vergleichszeile& zeile : vergleich.Unterschiede) {
         const auto unterschied = zeile.Unterschied();
-        unterschiede.push_back({{"Auftrag", Auftragstext(zeile.Order, zeile.Nummer)},
+        unterschiede.push_back({{"Auftrag", Auftragsschluessel(zeile.Order, zeile.Nummer)},
                                 {"Tag", zeile.Order.Tag()},
                                 {"Nummer", zeile.Nummer},
                                 {"A", Sekunden(zeile.A)},

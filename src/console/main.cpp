@@ -1,6 +1,7 @@
 // tarvelin-cli: runs plan files and prints their timetables.
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <chrono>
 #include <csignal>
@@ -10,6 +11,7 @@
 #include <iostream>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -22,10 +24,13 @@
 #endif
 
 #include "console/Ausgabe.h"
+#include "console/Hilfeseite.h"
 #include "console/Suchbefehl.h"
 #include "console/Vergleichsausgabe.h"
 #include "persistence/Dateiersatz.h"
 #include "persistence/Kalender.h"
+#include "persistence/Planablage.h"
+#include "simulation/Lauftexte.h"
 
 namespace {
 
@@ -58,6 +63,30 @@ std::pair<std::string, std::string> ZweiNamen(const std::string& text) {
     return {text.substr(0, text.find(' ')), text.substr(text.rfind(' ') + 1)};
 }
 
+/// What an option's value has to be, and a flag's not.
+std::string Wertfehler(const std::string& text) {
+    constexpr std::array<std::pair<std::string_view, std::string_view>, 8> kErwartet{
+        {{"--versuche", "eine Zahl ab 1"},
+         {"--threads", "eine Zahl von 1 bis 256"},
+         {"--saat", "eine Zahl ab 0"},
+         {"--sitzungen", "eine Zahl von 0 bis 100"},
+         {"--vergleich", "zwei Plandateien"},
+         {"--ical", "eine Kalenderdatei"},
+         {"--suche", "eine Plandatei"},
+         {"--", "einen Wert"}}};
+    // The library's text begins with its name, in one case without the dashes.
+    const std::string name = text.substr(0, text.find_first_of(" :"));
+    const std::string option = name.starts_with("--") ? name : "--" + name;
+    for (const std::string_view schalter : {"--json", "--csv", "--verlauf", "--frei"}) {
+        if (option == schalter) {
+            return option + " nimmt keinen Wert";
+        }
+    }
+    const auto* const erwartet = std::ranges::find_if(
+        kErwartet, [&](const auto& paar) { return option == paar.first || paar.first == "--"; });
+    return option + " erwartet " + std::string(erwartet->second);
+}
+
 /// What is wrong with a call, in one line.
 std::string Fehlertext(const CLI::ParseError& fehler) {
     if (dynamic_cast<const CLI::RequiredError*>(&fehler) != nullptr) {
@@ -76,18 +105,26 @@ std::string Fehlertext(const CLI::ParseError& fehler) {
         const std::string text = fehler.what();
         return "unbekannte Option:" + text.substr(text.rfind(':') + 1);
     }
-    return "eine Option hat keinen gültigen Wert";
-}
-
-/// Each message as "Titel: Text", or the text alone without a title.
-void SchreibeMeldungen(const tarvelin::Planlauf& lauf) {
-    for (const tarvelin::Meldung& meldung : lauf.Meldungen) {
-        std::cerr << meldung.Titel << (meldung.Titel.empty() ? "" : ": ") << meldung.Text << '\n';
-    }
+    return Wertfehler(fehler.what());
 }
 
 std::filesystem::path AlsPfad(const std::string& datei) {
     return std::u8string(datei.begin(), datei.end());
+}
+
+/// Each message as "Titel: Text", or the text alone without a title; then what is to be told of the
+/// file, under its name.
+tarvelin::Planlauf SpieleDatei(const std::string& datei) {
+    tarvelin::Planlauf lauf(AlsPfad(datei));
+    for (const tarvelin::Meldung& meldung : lauf.Meldungen) {
+        std::cerr << meldung.Titel << (meldung.Titel.empty() ? "" : ": ") << meldung.Text << '\n';
+    }
+    const std::string text = !lauf.Geladen    ? tarvelin::Ladehindernis(AlsPfad(datei))
+                             : !lauf.Gelaufen ? "dieser Plan kann nicht gespielt werden"
+                             : lauf.Lauf.Stand.IstAmEndeDerUhr() ? tarvelin::UeberDieUhrText()
+                                                                 : "";
+    std::cerr << (text.empty() ? "" : datei + ": " + text + "\n");
+    return lauf;
 }
 
 bool SchreibeKalender(const tarvelin::Planlauf& lauf, const std::string& datei) {
@@ -102,10 +139,8 @@ bool SchreibeKalender(const tarvelin::Planlauf& lauf, const std::string& datei) 
 }
 
 bool Vergleiche(const Aufruf& aufruf) {
-    const tarvelin::Planlauf a(AlsPfad(aufruf.Vergleich[0]));
-    const tarvelin::Planlauf b(AlsPfad(aufruf.Vergleich[1]));
-    SchreibeMeldungen(a);
-    SchreibeMeldungen(b);
+    const tarvelin::Planlauf a = SpieleDatei(aufruf.Vergleich[0]);
+    const tarvelin::Planlauf b = SpieleDatei(aufruf.Vergleich[1]);
     if (!a.Gelaufen || !b.Gelaufen) {
         return false;
     }
@@ -127,8 +162,7 @@ bool FuehreAus(const Aufruf& aufruf) {
         tarvelin::SchreibeCsvKopf(std::cout);
     }
     for (const std::string& datei : aufruf.Dateien) {
-        const tarvelin::Planlauf lauf(AlsPfad(datei));
-        SchreibeMeldungen(lauf);
+        const tarvelin::Planlauf lauf = SpieleDatei(datei);
         if (aufruf.Json) {
             std::cout << tarvelin::JsonText(lauf, aufruf.Verlauf) << '\n';
         } else if (aufruf.Csv) {
@@ -144,17 +178,6 @@ bool FuehreAus(const Aufruf& aufruf) {
         }
     }
     return alleGut;
-}
-
-void SprichDeutsch(CLI::App& app) {
-    const auto formatter = app.get_formatter();
-    formatter->label("Usage", "Aufruf");
-    formatter->label("OPTIONS", "OPTIONEN");
-    formatter->label("Positionals", "Dateien");
-    formatter->label("REQUIRED", "(mindestens eine)");
-    formatter->label("TEXT", "");
-    formatter->label("Excludes", "nicht mit");
-    formatter->label("Needs", "nur mit");
 }
 
 /// As the library wants them: without the program's name, from the last to the first. It takes a
@@ -175,29 +198,43 @@ CLI::Option* FuegeSucheHinzu(CLI::App& app, tarvelin::Suchbefehl& befehl) {
     constexpr unsigned kHoechstThreads = 256;
     const std::string gruppe = "Suche";
     auto* const suche = app.add_option("--suche", befehl.Plandatei,
-                                       "Sucht eine schnellere Reihenfolge für einen Plan");
-    suche->group(gruppe);
+                                       "Sucht eine schnellere Reihenfolge für diesen Plan");
+    suche->type_name("PLAN")->group(gruppe);
     const std::vector<CLI::Option*> optionen{
-        app.add_option(
-            "--ziel", befehl.Ziel,
-            "Statt der Reihenfolge: was am Ende stehen muss, \"GW2 FV2 WKT1\" oder plan"),
-        app.add_option("--nach", befehl.Nach, "Schreibt den gefundenen Plan in diese Datei"),
-        app.add_option("--versuche", befehl.Versuche, "Wie viele Listen probiert werden")
-            ->check(CLI::Range(std::uint64_t{1}, std::uint64_t{1} << 50U)),
-        app.add_option("--threads", befehl.Threads, "Auf wie vielen Kernen")
-            ->check(CLI::Range(1U, kHoechstThreads)),
-        app.add_option("--saat", befehl.Saat, "Beginn der Zufallszahlen, sonst 1")
-            ->check(CLI::Range(std::uint64_t{0}, std::uint64_t{1} << 40U)),
-        app.add_option("--fest", befehl.Fest, "Zeilen, die bleiben, wo sie sind: 3,7-9"),
+        app.add_option("--ziel", befehl.Ziel,
+                       "Sucht den schnellsten Weg zu diesem Ziel, etwa \"GW2 FV2 WKT1\", oder plan")
+            ->type_name("ZIEL"),
+        app.add_option("--nach", befehl.Nach, "Schreibt den gefundenen Plan in diese Datei")
+            ->type_name("DATEI"),
+        app.add_option("--versuche", befehl.Versuche,
+                       "So viele Listen werden probiert, sonst 640000")
+            ->type_name("ZAHL")
+            ->check(CLI::Range(std::uint64_t{1}, std::uint64_t{1} << 50U).description("")),
+        app.add_option("--threads", befehl.Threads, "So viele Kerne rechnen, sonst 1")
+            ->type_name("ZAHL")
+            ->check(CLI::Range(1U, kHoechstThreads).description("")),
+        app.add_option("--saat", befehl.Saat, "Womit die Zufallszahlen beginnen, sonst 1")
+            ->type_name("ZAHL")
+            ->check(CLI::Range(std::uint64_t{0}, std::uint64_t{1} << 40U).description("")),
+        app.add_option("--fest", befehl.Fest, "Diese Zeilen bleiben, wo sie sind, etwa 3,7-9")
+            ->type_name("ZEILEN"),
         app.add_flag("--frei", befehl.Frei, "Auch Produktionszeilen wandern")
             ->disable_flag_override(),
         app.add_option("--ab", befehl.Ab,
-                       "Was vor diesem Zeitpunkt begonnen hat, bleibt: \"TT.MM.JJJJ hh:mm:ss\""),
+                       "Was vorher begonnen hat, bleibt, etwa \"18.11.2026 12:30:00\"")
+            ->type_name("ZEITPUNKT"),
         app.add_option("--sitzungen", befehl.Sitzungen,
                        "Weniger Sitzungen, auch wenn es so viele Prozent länger dauert, sonst 0,5")
+            ->type_name("PROZENT")
             ->expected(0, 1)
             ->default_str("0.5")
-            ->check(CLI::Range(0.0, 100.0))};
+            ->transform(CLI::Validator(
+                [](std::string& zahl) {
+                    std::ranges::replace(zahl, ',', '.');
+                    return std::string();
+                },
+                ""))
+            ->check(CLI::Range(0.0, 100.0).description(""))};
     for (CLI::Option* const option : optionen) {
         option->needs(suche)->group(gruppe);
     }
@@ -218,20 +255,22 @@ std::string Plandateifehler(std::size_t zahl, bool sucht, bool vergleicht, bool 
 }
 
 int Rufe(const std::vector<std::string>& argumente) {
-    CLI::App app("Spielt Baupläne durch und gibt aus, wann welcher Auftrag gegeben werden kann.",
-                 "tarvelin-cli");
-    SprichDeutsch(app);
+    CLI::App app(
+        "Spielt Pläne durch und sagt auf die Sekunde, wann du welchen Auftrag geben kannst, und "
+        "warum nicht früher.",
+        "tarvelin-cli");
+    app.formatter(std::make_shared<tarvelin::Hilfeseite>());
     // "/" begins a path everywhere.
     app.allow_windows_style_options(false);
     Aufruf aufruf;
     const std::string gruppe = "Optionen";
-    app.set_help_flag("--hilfe,--help", "Diese Hilfe")->group(gruppe);
+    app.set_help_flag("-h,--hilfe,--help", "Diese Hilfe")->group(gruppe);
     app.set_version_flag("--version", "tarvelin-cli " TARVELIN_VERSION, "Die Version")
         ->group(gruppe);
     auto* const json = app.add_flag("--json", aufruf.Json, "Plan und Ergebnis als JSON");
     json->disable_flag_override()->group(gruppe);
     auto* const csv =
-        app.add_flag("--csv", aufruf.Csv, "Die Bauzeiten für eine Tabellenkalkulation");
+        app.add_flag("--csv", aufruf.Csv, "Der Zeitplan für eine Tabellenkalkulation");
     csv->disable_flag_override()->excludes(json)->group(gruppe);
     app.add_flag("--verlauf", aufruf.Verlauf, "Mit --json: auch der Verlauf und die Gründe")
         ->disable_flag_override()
@@ -239,11 +278,17 @@ int Rufe(const std::vector<std::string>& argumente) {
         ->group(gruppe);
     auto* const kalender = app.add_option("--ical", aufruf.Kalender,
                                           "Schreibt die Starts eines Plans in diese Kalenderdatei");
-    kalender->group(gruppe);
+    kalender->type_name("DATEI")->group(gruppe);
     auto* const vergleich =
         app.add_option("--vergleich", aufruf.Vergleich, "Stellt zwei Pläne nebeneinander");
-    vergleich->expected(2)->excludes(csv)->excludes(kalender)->group(gruppe);
-    auto* const dateien = app.add_option("PLAN", aufruf.Dateien, "Plandateien (.tvf)");
+    vergleich->type_name("PLAN PLAN")
+        ->expected(2)
+        ->excludes(csv)
+        ->excludes(kalender)
+        ->group(gruppe);
+    // They stand in the line of the call.
+    auto* const dateien = app.add_option("PLAN", aufruf.Dateien);
+    dateien->group("");
     auto* const suche = FuegeSucheHinzu(app, aufruf.Suche);
     suche->excludes(csv)->excludes(kalender)->excludes(vergleich);
     try {

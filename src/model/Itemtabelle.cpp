@@ -31,7 +31,7 @@ constexpr JeItem<Itemzeile> kItemtabelle{{{
     {LJs,       "WLJ",  "Leichter Jäger Nr.: ",    "Leichter Jäger Nr: ",  "Leichter Jäger",        kW, {{3000, 1000,   0}}, Keines,             kEinheit,   {{{Werft, 1}, {VerbTech, 1}}}, {}},
     {KTs,       "WKT",  "Kl. Transporter Nr: ",    "Kl. Transporter Nr: ", "Kleiner Transporter",   kW, {{2000, 2000,   0}}, Keines,             kEinheit,   {{{Werft, 2}, {VerbTech, 2}}}, {}},
     {Spios,     "WSS",  "Spionagesonde Nr: ",      "Spionagesonde Nr: ",   "Spionagesonde",         kW, {{   0, 1000,   0}}, Keines,             kEinheit,   {{{Werft, 3}, {SpioTech, 2}, {VerbTech, 3}}}, {}},
-    {Rakws,     "WR",   "Raketenwerfer Nr.: ",     "Raketenwerfer Nr: ",   "Rakentenwerfer",        kW, {{2000,    0,   0}}, Keines,             kEinheit,   {{{Werft, 1}}}, {}},
+    {Rakws,     "WR",   "Raketenwerfer Nr.: ",     "Raketenwerfer Nr: ",   "Raketenwerfer",         kW, {{2000,    0,   0}}, Keines,             kEinheit,   {{{Werft, 1}}}, {.Hovername = "Rakentenwerfer"}},
     {lLasers,   "WLL",  "Leichter Laser Nr.: ",    "Leichter Laser Nr: ",  "Leichter Laser",        kW, {{1500,  500,   0}}, Keines,             kEinheit,   {{{Werft, 2}, {LaserTech, 3}}}, {}},
     {sLasers,   "WSL",  "Schwerer Laser Nr.: ",    "Schwerer Laser Nr: ",  "Schwerer Laser",        kW, {{6000, 2000,   0}}, Keines,             kEinheit,   {{{Werft, 4}, {LaserTech, 6}, {ENTech, 3}}}, {}},
     {klSchK,    "WKSK", "Kleine Schildkuppel",     "Kleine Schildkuppel",  "Kleine Schildkuppel",   kW, {{10000, 10000, 0}}, Keines,             kEinheit,   {{{Werft, 1}, {SchTech, 2}}}, {.MitNummer = false}},

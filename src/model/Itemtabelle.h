@@ -47,10 +47,12 @@ struct Besonderheiten {
     /// Its rows end with the level or number, and name the reason of a wait.
     bool MitNummer = true;
     bool MitGrund = true;
+    /// Its name in the hint over its picture, where that isn't its `Name`.
+    std::string_view Hovername{};
 };
 
 /// The row of an item. Three vocabularies of names stand beside each other on purpose: in the build
-/// list, in the build times and in the hint over the picture.
+/// list, in the build times and everywhere else.
 struct Itemzeile {
     ItemId Item;
     /// `ItemCode`: the first letter is the order queue, G building, W shipyard, F research; the
@@ -58,7 +60,7 @@ struct Itemzeile {
     std::string_view Code;
     std::string_view Listentext;
     std::string_view Zeitentext;
-    std::string_view Hovername;
+    std::string_view Name;
     Schlange Queue;
     /// Of a unit, of the first level, or what the first level grows from.
     Kosten Basis;
@@ -66,6 +68,10 @@ struct Itemzeile {
     Dauerformel* Dauer;
     Stufenbedarfe Braucht;
     Besonderheiten Besonders;
+
+    [[nodiscard]] constexpr std::string_view Hovername() const {
+        return Besonders.Hovername.empty() ? Name : Besonders.Hovername;
+    }
 };
 
 [[nodiscard]] const JeItem<Itemzeile>& Itemtabelle();

@@ -3,6 +3,7 @@
 
 #include <compare>
 #include <cstdint>
+#include <limits>
 
 #include "util/Ganzzahl.h"
 
@@ -13,6 +14,11 @@ class Moment {
   public:
     constexpr Moment() = default;
     constexpr explicit Moment(Long sekunden) : m_sekunden(sekunden) {}
+
+    /// The end of the clock, at which all that would be later stands.
+    [[nodiscard]] static constexpr Moment Letzter() {
+        return Moment(std::numeric_limits<Long>::max());
+    }
 
     [[nodiscard]] constexpr Long Sekunden() const { return m_sekunden; }
 

@@ -48,6 +48,9 @@ struct Spielstand {
     /// What each item lacked when it was last asked with its gate open.
     JeItem<Verzoegerung> Verzoegerungen{};
 
+    /// Whether the run went beyond the clock, so that its last moments aren't their own.
+    [[nodiscard]] bool IstAmEndeDerUhr() const { return secsgone == Moment::Letzter(); }
+
     friend bool operator==(const Spielstand&, const Spielstand&) = default;
 };
 

@@ -31,6 +31,14 @@ Autosave::Autosave(const std::filesystem::path& programmordner, const Dateisyste
                programmordner / "saves" / "autosave-vorige-2.tvf"},
       m_system(system) {}
 
+std::vector<std::filesystem::path> Autosave::Dateien() const {
+    std::vector<std::filesystem::path> dateien{m_datei, m_vorige[0], m_vorige[1]};
+    for (std::size_t i = 1; i <= kErsetzte; ++i) {
+        dateien.push_back(Ersetzter(i));
+    }
+    return dateien;
+}
+
 void Autosave::LiegtInDatei(const Plan& plan) {
     m_ausDatei = AlsBytes(plan);
 }
@@ -55,6 +63,7 @@ void Autosave::SchreibeZuletzt(const Plan& plan) {
 
 bool Autosave::Schreibe(const Plan& plan, bool auchOhneVorige) {
     GiltAlsGeschrieben(plan);
+    static_cast<void>(m_system.LegeOrdnerAn(m_datei.parent_path()));
     const auto vorher = Profil::LadeOderLeer(m_datei, m_system);
     if (!vorher) {
         return false;
@@ -71,6 +80,36 @@ bool Autosave::Schreibe(const Plan& plan, bool auchOhneVorige) {
     }
     m_vorigeBewahrt = m_vorigeBewahrt || BewahreVorige(*vorher);
     return (m_vorigeBewahrt || auchOhneVorige) && ErsetzeDatei(m_datei, bytes, m_system);
+}
+
+void Autosave::BewahreErsetzten(const Plan& plan) const {
+    const std::string bytes = AlsBytes(plan);
+    const auto letzter = Profil::Lade(Ersetzter(1), m_system);
+    if (plan.Liste.Auftraege().IstLeer() || (letzter && letzter->Bytes() == bytes)) {
+        return;
+    }
+    static_cast<void>(m_system.LegeOrdnerAn(m_datei.parent_path()));
+    if (RueckeErsetzte()) {
+        static_cast<void>(ErsetzeDatei(Ersetzter(1), bytes, m_system));
+    }
+}
+
+std::filesystem::path Autosave::Ersetzter(std::size_t nummer) const {
+    return m_datei.parent_path() / ("ersetzt-" + std::to_string(nummer) + ".tvf");
+}
+
+// Up to the first gap, or over the oldest.
+bool Autosave::RueckeErsetzte() const {
+    std::size_t frei = 1;
+    while (frei < kErsetzte && FileExists(Ersetzter(frei), m_system)) {
+        ++frei;
+    }
+    for (; frei > 1; --frei) {
+        if (!m_system.BenenneUm(Ersetzter(frei - 1), Ersetzter(frei))) {
+            return false;
+        }
+    }
+    return true;
 }
 
 bool Autosave::BewahreVorige(const Profil& vorige) {

@@ -1,4 +1,4 @@
-// The plan that outlasts a session, and the one of the session before.
+// The plan that outlasts a session, the one of the session before, and those that gave way.
 #pragma once
 
 #include <array>
@@ -15,7 +15,8 @@ namespace tarvelin {
 /// a session the plan of the last one, if it has a row, goes to `saves/autosave-vorige.tvf` beside
 /// it, or to `saves/autosave-vorige-2.tvf` if that can't be written. A plan that was opened by its
 /// file and never changed doesn't: it lies in that file, and would drive out one that lies nowhere
-/// else.
+/// else. A plan that gives way to another one within a session goes to `saves/ersetzt-1.tvf`, the
+/// former ones move on, up to `-5`.
 class Autosave {
   public:
     /// `system` must outlive it.
@@ -24,9 +25,7 @@ class Autosave {
 
     [[nodiscard]] const std::filesystem::path& Datei() const { return m_datei; }
     /// All files that it writes.
-    [[nodiscard]] std::vector<std::filesystem::path> Dateien() const {
-        return {m_datei, m_vorige[0], m_vorige[1]};
-    }
+    [[nodiscard]] std::vector<std::filesystem::path> Dateien() const;
 
     /// Tells that this plan lies in a file of its own.
     void LiegtInDatei(const Plan& plan);
@@ -43,9 +42,19 @@ class Autosave {
     /// As `Schreibe`, at the last chance: even if the former plan can't be kept.
     void SchreibeZuletzt(const Plan& plan);
 
+    /// Keeps a plan that is about to give way, unless it is empty or the one that gave way last.
+    /// What can't be moved on is not written over.
+    void BewahreErsetzten(const Plan& plan) const;
+
   private:
+    static constexpr std::size_t kErsetzte = 5;
+
     [[nodiscard]] bool BewahreVorige(const Profil& vorige);
     [[nodiscard]] bool Schreibe(const Plan& plan, bool auchOhneVorige);
+    /// From 1, the last one, to `kErsetzte`.
+    [[nodiscard]] std::filesystem::path Ersetzter(std::size_t nummer) const;
+    /// Frees the first place. Whether it is free.
+    [[nodiscard]] bool RueckeErsetzte() const;
 
     std::filesystem::path m_datei;
     /// The second takes the place of a first that can't be written.

@@ -44,6 +44,23 @@ constexpr std::array<Textkey, 5> kDatumskeys{{
     {"UniStartZeitMinuten", &Startparameter::UniStartZeitMinuten},
 }};
 
+/// A value of any file as a person reads it: in one line, and not too long.
+std::string Lesbar(std::string_view wert) {
+    constexpr std::size_t kHoechstens = 60;
+    std::string text(wert.substr(0, wert.find_first_of('\0')));
+    std::ranges::replace_if(
+        text, [](char zeichen) { return static_cast<unsigned char>(zeichen) < ' '; }, '?');
+    if (text.size() > kHoechstens) {
+        // No letter is parted.
+        std::size_t ende = kHoechstens;
+        while ((static_cast<unsigned char>(text[ende]) & 0xC0U) == 0x80U) {
+            --ende;
+        }
+        text = text.substr(0, ende) + "...";
+    }
+    return text;
+}
+
 /// The steps of a load; each answers whether it found usable values.
 class Leser {
   public:
@@ -52,12 +69,14 @@ class Leser {
 
     bool Lies() { return LiesEinstellungen() && LiesSchlafzeiten() && LiesBauliste(); }
 
+    /// What the reading stopped at, for people.
+    [[nodiscard]] const std::string& Hindernis() const { return m_hindernis; }
+
   private:
     bool LiesEinstellungen() {
         Startparameter& parameter = m_plan.Parameter;
         parameter.SpeedfaktorX2 = m_profil.Lies(kEinstellungen, "Speedfaktor_X2", "0") == "1";
-        const auto klickPuffer =
-            LiesGanzzahl(m_profil.Lies(kEinstellungen, "KlickPuffer", ""), 0, kMaxKlickPuffer);
+        const auto klickPuffer = LiesZahlVon0(kEinstellungen, "KlickPuffer", kMaxKlickPuffer);
         if (!klickPuffer) {
             return false;
         }
@@ -68,13 +87,12 @@ class Leser {
         AendereTempMax(parameter, m_profil.Lies(kEinstellungen, "TempMax", ""));
         const auto showDesc = LiesZahl(m_profil.Lies(kEinstellungen, "ShowDesc", ""));
         m_plan.ShowDesc = showDesc ? *showDesc != 0 : m_plan.ShowDesc;
-        return showDesc.has_value();
+        return showDesc || Scheitere(kEinstellungen, "ShowDesc", "ist keine Zahl");
     }
 
     bool LiesSchlafzeiten() {
         m_plan.Schlafzeiten.clear();
-        const auto anzahl =
-            LiesGanzzahl(m_profil.Lies(kSchlafzeiten, kItemCount, ""), 0, kMeisteSchlafzeiten);
+        const auto anzahl = LiesZahlVon0(kSchlafzeiten, kItemCount, kMeisteSchlafzeiten);
         for (std::size_t n = 1; anzahl && n <= static_cast<std::size_t>(*anzahl); ++n) {
             m_plan.Schlafzeiten.push_back(
                 {m_profil.Lies(kSchlafzeiten, Zeilenkey("Item_", n), ""),
@@ -86,22 +104,49 @@ class Leser {
     bool LiesBauliste() {
         const auto anzahl = LiesGanzzahl(m_profil.Lies(kBauliste, kItemCount, ""), 0,
                                          std::numeric_limits<std::int64_t>::max());
+        const std::string erwartet =
+            "ist keine Zahl von 0 bis " + std::to_string(Auftragsliste::kHoechstzahl);
         if (!anzahl) {
-            return false;
+            return Scheitere(kBauliste, kItemCount, erwartet);
         }
         const auto zeilen = std::min(*anzahl, std::int64_t{Auftragsliste::kHoechstzahl});
         for (std::int64_t n = 1; n <= zeilen; ++n) {
             const auto key = Zeilenkey("Item_", static_cast<std::size_t>(n));
             if (!m_plan.Liste.Replay(m_profil.Lies(kBauliste, key, ""), m_bedingungen)) {
-                return false;
+                return Scheitere(kBauliste, key, "ist kein Code der Bauliste");
             }
         }
-        return *anzahl == zeilen;
+        return *anzahl == zeilen || Scheitere(kBauliste, kItemCount, erwartet);
+    }
+
+    std::optional<std::int64_t> LiesZahlVon0(std::string_view section, std::string_view key,
+                                             std::int64_t bis) {
+        const auto zahl = LiesGanzzahl(m_profil.Lies(section, key, ""), 0, bis);
+        if (!zahl) {
+            static_cast<void>(
+                Scheitere(section, key, "ist keine Zahl von 0 bis " + std::to_string(bis)));
+        }
+        return zahl;
+    }
+
+    /// Always false.
+    bool Scheitere(std::string_view section, std::string_view key, const std::string& erwartet) {
+        const auto zeile = m_profil.Zeilennummer(section, key);
+        const std::string name(key);
+        if (!zeile) {
+            m_hindernis = "[" + std::string(section) + "], " + name + " fehlt";
+            return false;
+        }
+        const std::string wert = Lesbar(m_profil.Lies(section, key, ""));
+        m_hindernis = "Zeile " + std::to_string(*zeile) + ", " + name + ": " +
+                      (wert.empty() ? "der Wert fehlt" : wert + " " + erwartet);
+        return false;
     }
 
     const Profil& m_profil;
     Plan& m_plan;
     const Startbedingungen& m_bedingungen;
+    std::string m_hindernis;
 };
 
 }  // namespace
@@ -160,6 +205,30 @@ bool LadePlan(const Profil& profil, Plan& plan, const Startbedingungen& bedingun
         meldungen.Zeige(Ladefehler());
     }
     return brauchbar;
+}
+
+std::string Ladehindernis(const Profil& profil) {
+    Plan plan;
+    const Startbedingungen bedingungen;
+    Leser leser(profil, plan, bedingungen);
+    return leser.Lies() ? "" : leser.Hindernis();
+}
+
+std::string Ladehindernis(const std::filesystem::path& File, const Dateisystem& system) {
+    if (const auto profil = Profil::Lade(File, system)) {
+        return Ladehindernis(*profil);
+    }
+    switch (system.Sieh(File).value_or(Dateisystem::Art::Datei)) {
+        case Dateisystem::Art::Nichts:
+            return "diese Datei gibt es nicht";
+        case Dateisystem::Art::Ordner:
+            return "das ist ein Ordner, keine Datei";
+        case Dateisystem::Art::Anderes:
+            return "das ist keine Datei";
+        case Dateisystem::Art::Datei:
+            break;
+    }
+    return "diese Datei ist größer als 16 MiB, oder du darfst sie nicht lesen";
 }
 
 std::string FenstertitelMit(const std::filesystem::path& File) {

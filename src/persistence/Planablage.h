@@ -26,6 +26,13 @@ void SchreibePlan(const Plan& plan, Profil& profil);
 [[nodiscard]] Meldung Ladefehler();
 [[nodiscard]] Meldung Speicherfehler();
 
+/// What keeps a profile from being a plan, for people: "Zeile 12, KlickPuffer: -5 ist keine Zahl
+/// von 0 bis 600". Empty for one that is a plan.
+[[nodiscard]] std::string Ladehindernis(const Profil& profil);
+/// The same of a file, which may be none.
+[[nodiscard]] std::string Ladehindernis(const std::filesystem::path& File,
+                                        const Dateisystem& system = Platte());
+
 /// Takes a plan from a profile. The former plan is gone at once. At the first value that can't be
 /// used the reading stops with a message: what was read up to there stays, and false comes back.
 /// Rows are replayed without a look at the game's rules; their factor texts follow the temperature

@@ -144,6 +144,26 @@ std::string Profil::Lies(std::string_view section, std::string_view key,
     return std::string(GekuerzterStandard(standard));
 }
 
+std::optional<std::size_t> Profil::Zeilennummer(std::string_view section,
+                                                std::string_view key) const {
+    const Abschnitt* const gesuchter = Suche(section);
+    if (gesuchter == nullptr) {
+        return std::nullopt;
+    }
+    const auto stelle = gesuchter->Stellen.find(Klein(Nach1252(key)));
+    if (stelle == gesuchter->Stellen.end()) {
+        return std::nullopt;
+    }
+    std::size_t davor = 0;
+    for (const Abschnitt& abschnitt : m_abschnitte) {
+        if (&abschnitt == gesuchter) {
+            break;
+        }
+        davor += abschnitt.Zeilen.size();
+    }
+    return davor + stelle->second + 1;
+}
+
 void Profil::Schreibe(std::string_view section, std::string_view key, std::string_view value) {
     Abschnitt& abschnitt = SucheOderMache(section);
     auto& zeilen = abschnitt.Zeilen;

@@ -44,6 +44,10 @@ class Profil {
     [[nodiscard]] std::string Lies(std::string_view section, std::string_view key,
                                    std::string_view standard) const;
 
+    /// The line of the file, from 1, in which `Lies` finds a key; nothing for one that is missing.
+    [[nodiscard]] std::optional<std::size_t> Zeilennummer(std::string_view section,
+                                                          std::string_view key) const;
+
     /// Sets a key to what stands in front of the value's first line end or NUL. A known one keeps
     /// its place and its spelling; a new one goes to the end of its section, a new section to the
     /// end of the file. Every other line keeps its bytes, but for an unended one that gets a line

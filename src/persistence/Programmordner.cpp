@@ -70,6 +70,15 @@ std::vector<fs::path> Programmordner::Gesperrte(bool haelt_ein_anderer) const {
     return gesperrte;
 }
 
+fs::path Planordner(const fs::path& programmordner, const Dateisystem& system) {
+    fs::path ordner = programmordner / "saves";
+    static_cast<void>(system.LegeOrdnerAn(ordner));
+    while (system.Sieh(ordner) != Dateisystem::Art::Ordner && ordner.has_relative_path()) {
+        ordner = ordner.parent_path();
+    }
+    return ordner;
+}
+
 Programmordner BestimmeProgrammordner(const fs::path& ordner_des_programms,
                                       const fs::path& nutzerordner) {
     const bool mit_daten = IstOrdner(ordner_des_programms / "img");

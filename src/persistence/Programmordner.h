@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <vector>
 
+#include "persistence/Dateisystem.h"
+
 namespace tarvelin {
 
 /// The folder of `config.cfg`, `saves`, `img` and `mfx` for this start.
@@ -17,6 +19,11 @@ struct Programmordner {
     /// plan that outlasts a session where another program keeps them.
     [[nodiscard]] std::vector<std::filesystem::path> Gesperrte(bool haelt_ein_anderer) const;
 };
+
+/// Where file dialogs begin: `saves` of the program's folder, made anew if it has gone; else the
+/// nearest folder above it that is there. Never the current directory.
+[[nodiscard]] std::filesystem::path Planordner(const std::filesystem::path& programmordner,
+                                               const Dateisystem& system);
 
 /// It is the folder of the running program if `img` lies there and it can be written. Else it is
 /// `nutzerordner` (empty where the user has none), to which the files of ours that are missing are

@@ -47,7 +47,7 @@ Hoverinfo HoverInfo(ItemId item, const Auftragsliste& liste, const Startbedingun
     }
     const Byte stufe = liste.ListStufe(item);
     return {.DragOffen = true,
-            .Tooltip = " " + std::string(ZeileVon(item).Hovername) + "  |  " +
+            .Tooltip = " " + std::string(ZeileVon(item).Hovername()) + "  |  " +
                        Kostentext(Preis(item, stufe)) + Energieanhang(item, stufe, bedingungen)};
 }
 

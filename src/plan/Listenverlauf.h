@@ -1,53 +1,43 @@
-// The way back over edits of the build list.
+// The way back over edits of the plan.
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "plan/Schlaftabelle.h"
+#include "plan/Plan.h"
 
 namespace tarvelin {
 
-/// Keeps of each edit the rows that it took out and put in, so there can be as many as the user
-/// likes. Lists are told by the `Tag`s of their rows.
+/// Keeps the plan as it was behind each edit, so that there can be as many as the user likes.
 class Listenverlauf {
   public:
-    using Tags = std::vector<std::string>;
+    /// Begins anew with a plan that has no edits behind it.
+    void Beginne(Planstand stand);
 
-    /// A list as it is to be, and the sleep row that came or goes with it, if there is one.
-    struct Stand {
-        Tags Zeilen;
-        std::optional<SchlafzeitZeile> Pause;
-    };
+    /// Takes note of the plan behind an edit. What was taken back before it can't be done again
+    /// then. An edit that changed nothing isn't one. `eingabe` names the input that was typed into:
+    /// as long as it stays the same, its edits are one.
+    void Merke(Planstand stand, std::string_view eingabe = {});
 
-    /// Takes note of an edit. What was taken back before it can't be done again then. An edit that
-    /// changed nothing isn't one.
-    void Merke(const Tags& vorher, const Tags& nachher,
-               const std::optional<SchlafzeitZeile>& pause = {});
+    /// The plan as it stands has changed without an edit.
+    void Berichtige(Planstand stand);
 
-    [[nodiscard]] bool HatVorige() const { return m_gegangen > 0; }
-    [[nodiscard]] bool HatNaechste() const { return m_gegangen < m_schritte.size(); }
+    [[nodiscard]] bool HatVorige() const { return m_jetzt > 0; }
+    [[nodiscard]] bool HatNaechste() const { return m_jetzt + 1 < m_staende.size(); }
 
-    /// What was before the last edit that `jetzt` came from, and the pause that goes; there is one.
-    [[nodiscard]] Stand Zurueck(Tags jetzt);
-    /// What was behind the edit that was taken back last, and the pause that comes; there is one.
-    [[nodiscard]] Stand Vor(Tags jetzt);
-
-    void Leere() { *this = Listenverlauf(); }
+    /// The plan before the last edit; there is one.
+    [[nodiscard]] const Planstand& Zurueck();
+    /// The plan behind the edit that was taken back last; there is one.
+    [[nodiscard]] const Planstand& Vor();
 
   private:
-    struct Schritt {
-        std::size_t Ab = 0;
-        Tags Weg;
-        Tags Hinzu;
-        std::optional<SchlafzeitZeile> Pause;
-    };
-
-    std::vector<Schritt> m_schritte;
-    /// How many of them the list as it stands has behind it.
-    std::size_t m_gegangen = 0;
+    std::vector<Planstand> m_staende{Planstand()};
+    /// Which of them is the plan as it stands.
+    std::size_t m_jetzt = 0;
+    /// The input of the last edit; empty if none was typed into, or a step was taken since.
+    std::string m_eingabe;
 };
 
 }  // namespace tarvelin

@@ -3,6 +3,11 @@
 
 namespace tarvelin {
 
+Planstand StandVon(const Plan& plan) {
+    return {
+        .Parameter = plan.Parameter, .Tags = plan.Liste.Tags(), .Schlafzeiten = plan.Schlafzeiten};
+}
+
 std::variant<Startbedingungen, Meldung> LiesStartbedingungen(const Plan& plan) {
     if (plan.Liste.Auftraege().IstLeer()) {
         return Meldung{.Text = "Die Bauliste ist leer...", .Titel = kAusnahmefehler};

@@ -1,7 +1,9 @@
 // All that belongs to a plan: what the user edits and a save file keeps.
 #pragma once
 
+#include <string>
 #include <variant>
+#include <vector>
 
 #include "model/Startbedingungen.h"
 #include "plan/Bauliste.h"
@@ -17,6 +19,18 @@ struct Plan {
     /// Whether the names under the item pictures are shown.
     bool ShowDesc = true;
 };
+
+/// What edits change of a plan, as a value that can be kept and compared.
+struct Planstand {
+    Startparameter Parameter{};
+    /// The `Tag`s of the rows.
+    std::vector<std::string> Tags{};
+    Schlaftabelle Schlafzeiten{};
+
+    friend bool operator==(const Planstand&, const Planstand&) = default;
+};
+
+[[nodiscard]] Planstand StandVon(const Plan& plan);
 
 /// The conditions of the plan's run, or what keeps it from running: an empty list, then a
 /// temperature, then a date that can't be used.

@@ -30,6 +30,8 @@ struct Startparameter {
     [[nodiscard]] std::string Datumstext() const;
 
     [[nodiscard]] Long Speedfaktor() const { return SpeedfaktorX2 ? 2 : 1; }
+
+    friend bool operator==(const Startparameter&, const Startparameter&) = default;
 };
 
 /// Day and month in two digits, and the year; the time of day stays.

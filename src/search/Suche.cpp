@@ -289,7 +289,9 @@ class Suchlauf {
         Lass(spaetere, Neigung::Dauer, kNachhitze, kOhneGrenze, melde);
         const double grenze = m_bester.Wertung.Dauer * (1 + m_umfang.Nachlass / kHundert);
         Lass(fuerSitzungen, Neigung::Sitzungen, 1, static_cast<Long>(grenze), melde);
-        return {.Bester = m_bester, .Versuche = m_anzeige.Versuche()};
+        return {.Bester = m_bester,
+                .Versuche = m_anzeige.Versuche(),
+                .VonVersuchen = m_ketten * Suchumfang::kKette};
     }
 
   private:

@@ -50,7 +50,9 @@ struct Fortschritt {
 struct Suchergebnis {
     /// The best list; nothing if none was found that ends.
     std::optional<Fund> Bester;
+    /// Fewer than there were to be if the search was stopped.
     std::uint64_t Versuche = 0;
+    std::uint64_t VonVersuchen = 0;
 };
 
 /// What the orders of a list are worth; nothing if it doesn't end.

@@ -18,7 +18,7 @@ Zeitpunkt BereitUm(const Ablauf& ablauf, const Startereignis& start) {
 }
 
 std::string Stufentext(const Stufenbedarf& fehlt) {
-    return std::string(ZeileVon(fehlt.Item).Hovername) + " " + std::to_string(fehlt.Stufe);
+    return std::string(ZeileVon(fehlt.Item).Name) + " " + std::to_string(fehlt.Stufe);
 }
 
 /// The window whose end the order waited for, or that which began to hold it back.
@@ -50,6 +50,14 @@ std::string Klicktext(const Ablauf& ablauf, std::size_t zeile) {
     return ablauf.Bedingungen.KlickPuffer == 0
                ? ""
                : "Klickpuffer: " + std::to_string(ablauf.Bedingungen.KlickPuffer) + " s";
+}
+
+std::string Benannt(const Auftrag& order, int nummer, std::string_view name) {
+    if (order.Was != Auftrag::Art::Item) {
+        return Bauzeit{.Order = order}.theText();
+    }
+    std::string text(name);
+    return ZeileVon(order.Item).Besonders.MitNummer ? text + " " + std::to_string(nummer) : text;
 }
 
 std::string Grundtext(const Ablauf& ablauf, const Startereignis& start) {
@@ -85,13 +93,17 @@ std::string Wartetext(const Ablauf& ablauf, std::size_t zeile) {
     return Grundtext(ablauf, *start) + (start->TorZu ? " (bis zuletzt)" : "");
 }
 
+std::string UeberDieUhrText() {
+    return "Der Plan dauert länger, als die Uhr zeigen kann: was nach " +
+           Spannentext(Moment::Letzter().Sekunden()) + " käme, steht bei diesem Zeitpunkt.";
+}
+
 std::string Auftragstext(const Auftrag& order, int nummer) {
-    if (order.Was != Auftrag::Art::Item) {
-        return Bauzeit{.Order = order}.theText();
-    }
-    const Itemzeile& zeile = ZeileVon(order.Item);
-    const std::string name(zeile.Hovername);
-    return zeile.Besonders.MitNummer ? name + " " + std::to_string(nummer) : name;
+    return Benannt(order, nummer, ZeileVon(order.Item).Name);
+}
+
+std::string Auftragsschluessel(const Auftrag& order, int nummer) {
+    return Benannt(order, nummer, ZeileVon(order.Item).Hovername());
 }
 
 std::string Auftragstext(const Startereignis& start) {

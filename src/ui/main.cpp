@@ -76,7 +76,7 @@ int main(int argc, char** argv) {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     const tarvelin::Programmordner ordner = tarvelin::BestimmeProgrammordner(
         tarvelin::AlsPfad(QApplication::applicationDirPath()), Nutzerordner());
-    const tarvelin::Ordnerschloss schloss(ordner.Ordner);
+    tarvelin::Ordnerschloss schloss(ordner.Ordner);
     tarvelin::Meldungsfenster boxen;
     if (schloss.HatEinAnderer() && !boxen.Stelle(ZweitesFenster())) {
         return 0;
@@ -96,6 +96,9 @@ int main(int argc, char** argv) {
         .Planargument = tarvelin::Planargument(argc, argv),
         .Starthinweis = ordner.KannBehalten ? std::nullopt : std::optional(OhneNutzerordner())};
     tarvelin::frmMain fenster(umgebung);
+    // Small windows may stay open; they keep nothing.
+    QObject::connect(&fenster, &tarvelin::frmMain::Geschlossen,
+                     [&schloss] { schloss.GibZurueck(); });
     // Whatever is open closes with the window, and every event loop ends.
     const auto beende = [&fenster] {
         fenster.close();

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QResizeEvent>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QToolTip>
 #include <algorithm>
 
@@ -113,6 +114,40 @@ void Eingabe::BegrenzeAuf(qsizetype stehend) {
         setMaxLength(grenze);
         setCursorPosition(stelle);
     }
+}
+
+Zahlenlabel::Zahlenlabel(const QString& name, QWidget* parent) : QLabel(parent) {
+    setObjectName(name);
+    setAlignment(Qt::AlignCenter);
+    setTextFormat(Qt::PlainText);
+    // However long a figure, what it stands in keeps its form.
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+}
+
+void Zahlenlabel::Setze(const QString& zahl) {
+    setText(zahl);
+    FrischeHinweisAuf();
+}
+
+QString Zahlenlabel::Gekuerzt() const {
+    return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+}
+
+void Zahlenlabel::FrischeHinweisAuf() {
+    SetzeHinweis(*this, Gekuerzt() == text() ? QString() : text());
+}
+
+void Zahlenlabel::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    const QString gekuerzt = Gekuerzt();
+    const Qt::Alignment ort = gekuerzt == text() ? alignment() : Qt::AlignLeft | Qt::AlignVCenter;
+    style()->drawItemText(&painter, contentsRect(), static_cast<int>(ort), palette(), isEnabled(),
+                          gekuerzt, foregroundRole());
+}
+
+void Zahlenlabel::resizeEvent(QResizeEvent* event) {
+    QLabel::resizeEvent(event);
+    FrischeHinweisAuf();
 }
 
 void ReiheAuf(const std::vector<QWidget*>& steuerelemente) {

@@ -71,6 +71,25 @@ class Eingabe : public QLineEdit {
     int m_grenze;
 };
 
+/// A label for figures: what doesn't fit ends in an ellipsis, and the hint has the whole text.
+class Zahlenlabel : public QLabel {
+    Q_OBJECT
+
+  public:
+    Zahlenlabel(const QString& name, QWidget* parent);
+
+    void Setze(const QString& zahl);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    /// The text as far as it fits.
+    [[nodiscard]] QString Gekuerzt() const;
+    void FrischeHinweisAuf();
+};
+
 /// The order in which Tab goes through controls.
 void ReiheAuf(const std::vector<QWidget*>& steuerelemente);
 

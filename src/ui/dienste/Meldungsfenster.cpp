@@ -5,7 +5,10 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QGridLayout>
+#include <QIdentityProxyModel>
+#include <QLocale>
 #include <QMainWindow>
 #include <QMessageBox>
 
@@ -80,6 +83,31 @@ class Box : public QMessageBox {
         : Box(meldung.Text, meldung.Titel, meldung.Symbol, QMessageBox::Ok) {}
 };
 
+/// Files with sizes and dates in German: the toolkit's model takes the system's language for them.
+class DeutscheDateien : public QIdentityProxyModel {
+  public:
+    using QIdentityProxyModel::QIdentityProxyModel;
+
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
+        const auto* const dateien = qobject_cast<const QFileSystemModel*>(sourceModel());
+        if (role == Qt::DisplayRole && dateien != nullptr) {
+            const QFileInfo datei = dateien->fileInfo(mapToSource(index));
+            if (index.column() == kGroesse && !datei.isDir()) {
+                return QLocale().formattedDataSize(datei.size());
+            }
+            if (index.column() == kDatum) {
+                return QLocale().toString(datei.lastModified(), QLocale::ShortFormat);
+            }
+        }
+        return QIdentityProxyModel::data(index, role);
+    }
+
+  private:
+    /// Columns of the toolkit's model.
+    static constexpr int kGroesse = 1;
+    static constexpr int kDatum = 3;
+};
+
 /// Formats, the first of them to begin with; the chosen one ends a name without an ending.
 void StelleAufFormate(QFileDialog& dialog, const QStringList& formate) {
     const auto waehle = [&dialog](const QString& format) {
@@ -140,6 +168,7 @@ std::filesystem::path Meldungsfenster::FragNachDatei(Zweck zweck,
     // A name that isn't there is answered by the load itself.
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setProxyModel(new DeutscheDateien(&dialog));
     if (zweck == Zweck::Bild) {
         QStringList formate{QStringLiteral("Bild (*.png)"), QStringLiteral("Dokument (*.pdf)")};
         if (KannSvg()) {

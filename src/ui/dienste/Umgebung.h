@@ -9,6 +9,7 @@
 #include <string>
 
 #include "persistence/Dateisystem.h"
+#include "persistence/Programmordner.h"
 #include "util/Datumzeit.h"
 #include "util/Meldung.h"
 
@@ -93,6 +94,11 @@ struct Umgebung {
     std::filesystem::path Planargument = {};
     /// What the user has to know from the start on.
     std::optional<Meldung> Starthinweis = std::nullopt;
+
+    /// As that of the boxes, from where plans lie.
+    [[nodiscard]] std::filesystem::path FragNachDatei(Dialoge::Zweck zweck) const {
+        return Boxen.FragNachDatei(zweck, Planordner(Programmordner, Dateien));
+    }
 };
 
 }  // namespace tarvelin

@@ -62,15 +62,12 @@ Baulistengruppe::Baulistengruppe(const Bauliste& liste, QWidget* parent)
     layout->setColumnStretch(2, 5);
 }
 
-QLabel* Baulistengruppe::NeuerVorrat(int nummer, int breite, const QString& hinweis,
-                                     const QString& name) {
+Zahlenlabel* Baulistengruppe::NeuerVorrat(int nummer, int breite, const QString& hinweis,
+                                          const QString& name) {
     QLabel* const bild =
         NeuesBild(QStringLiteral("Images(%1)").arg(nummer), {26, 26}, hinweis, this);
-    QLabel* const label = NeuesLabel(name, {}, this);
-    label->setAlignment(Qt::AlignCenter);
+    auto* const label = new Zahlenlabel(name, this);
     label->setAccessibleDescription(hinweis.trimmed());
-    // However long a figure, the group keeps its form.
-    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_vorraete->setHorizontalSpacing(2);
     m_vorraete->setVerticalSpacing(1);
     m_vorraete->addWidget(bild, 0, nummer, Qt::AlignCenter);
@@ -80,10 +77,10 @@ QLabel* Baulistengruppe::NeuerVorrat(int nummer, int breite, const QString& hinw
 }
 
 void Baulistengruppe::Zeige(const Ergebnistexte& texte) {
-    m_LBL_Met->setText(AlsQString(texte.LBL_Met));
-    m_LBL_Kris->setText(AlsQString(texte.LBL_Kris));
-    m_LBL_Deut->setText(AlsQString(texte.LBL_Deut));
-    m_LBL_ENergie->setText(AlsQString(texte.LBL_ENergie));
+    m_LBL_Met->Setze(AlsQString(texte.LBL_Met));
+    m_LBL_Kris->Setze(AlsQString(texte.LBL_Kris));
+    m_LBL_Deut->Setze(AlsQString(texte.LBL_Deut));
+    m_LBL_ENergie->Setze(AlsQString(texte.LBL_ENergie));
     m_LBL_Timegone->setText(AlsQString(texte.LBL_Timegone));
 }
 

@@ -29,14 +29,14 @@ class Baulistengruppe : public Gruppe {
     QPushButton* const Cmd_Simulate;
 
   private:
-    QLabel* NeuerVorrat(int nummer, int breite, const QString& hinweis, const QString& name);
+    Zahlenlabel* NeuerVorrat(int nummer, int breite, const QString& hinweis, const QString& name);
 
     Tabellenmodell* m_modell;
     QGridLayout* m_vorraete;
-    QLabel* m_LBL_Met;
-    QLabel* m_LBL_Kris;
-    QLabel* m_LBL_Deut;
-    QLabel* m_LBL_ENergie;
+    Zahlenlabel* m_LBL_Met;
+    Zahlenlabel* m_LBL_Kris;
+    Zahlenlabel* m_LBL_Deut;
+    Zahlenlabel* m_LBL_ENergie;
     QLabel* m_LBL_Timegone;
 };
 

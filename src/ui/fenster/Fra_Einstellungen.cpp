@@ -62,11 +62,12 @@ QWidget* Fra_Einstellungen::NeueTemperaturen() {
     const auto neue = [&](const char* name, const char* bedeutung, auto aendere) {
         auto* const eingabe = new Eingabe(QString::fromLatin1(name), QString::fromLatin1(bedeutung),
                                           Eingabe::kUnbegrenzt, gruppe);
-        connect(eingabe, &QLineEdit::textChanged, this, [this, aendere](const QString& text) {
-            aendere(m_plan.Parameter, text.toStdString());
-            ZeigeTemperaturen();
-            emit Geaendert();
-        });
+        connect(eingabe, &QLineEdit::textChanged, this,
+                [this, eingabe, aendere](const QString& text) {
+                    aendere(m_plan.Parameter, text.toStdString());
+                    ZeigeTemperaturen();
+                    emit Geaendert(eingabe->objectName());
+                });
         return eingabe;
     };
     m_txt_TempMin = neue("txt_TempMin", "Minimaltemperatur", AendereTempMin);
@@ -84,9 +85,9 @@ Eingabe* Fra_Einstellungen::NeueStartzeitEingabe(const char* name, const char* b
     auto* const eingabe =
         new Eingabe(QString::fromLatin1(name), QString::fromLatin1(bedeutung), grenze, this);
     eingabe->setFixedWidth(breite);
-    connect(eingabe, &QLineEdit::textChanged, this, [this, wert](const QString& text) {
+    connect(eingabe, &QLineEdit::textChanged, this, [this, eingabe, wert](const QString& text) {
         m_plan.Parameter.*wert = text.toStdString();
-        emit Geaendert();
+        emit Geaendert(eingabe->objectName());
     });
     m_startzeit.push_back({eingabe, wert});
     return eingabe;
@@ -150,9 +151,12 @@ QWidget* Fra_Einstellungen::NeuerKlickPuffer() {
     m_HSC_KlickPuffer->setPageStep(kGrosserSchritt);
     m_LBL_KlickPuffer = NeuesLabel(QStringLiteral("LBL_KlickPuffer"), {}, gruppe);
     connect(m_HSC_KlickPuffer, &QSlider::valueChanged, this, [this](int sekunden) {
-        m_plan.Parameter.KlickPuffer = sekunden;
         m_LBL_KlickPuffer->setText(AlsQString(KlickPufferText(sekunden)));
-        emit Geaendert();
+        // The program moves it to where the plan is already.
+        if (m_plan.Parameter.KlickPuffer != sekunden) {
+            m_plan.Parameter.KlickPuffer = sekunden;
+            emit Geaendert(m_HSC_KlickPuffer->objectName());
+        }
     });
     zeile->addWidget(m_HSC_KlickPuffer);
     zeile->addWidget(m_LBL_KlickPuffer);
@@ -189,7 +193,7 @@ QWidget* Fra_Einstellungen::NeuerSpeedfaktor() {
     connect(m_Chk_Speedfaktor, &QCheckBox::clicked, this, [this](bool gesetzt) {
         m_plan.Parameter.SpeedfaktorX2 = gesetzt;
         emit Chk_Speedfaktor_Click();
-        emit Geaendert();
+        emit Geaendert(m_Chk_Speedfaktor->objectName());
     });
     zeile->addWidget(m_Chk_Speedfaktor);
     return gruppe;

@@ -21,8 +21,8 @@ class Fra_Einstellungen : public Feld {
     void Zeige(const Wochentagsanzeige& wochentag);
 
   signals:
-    /// The user, or `Zeige`, has changed a parameter of a run.
-    void Geaendert();
+    /// The user has changed a parameter of a run in the input of this name.
+    void Geaendert(const QString& eingabe);
     void Chk_Speedfaktor_Click();
     void cmd_ShowDesc_Click();
 

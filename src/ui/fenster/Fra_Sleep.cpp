@@ -152,7 +152,8 @@ void Fra_Sleep::LegeAus() {
 
 void Fra_Sleep::Zeige() {
     m_modell->Aktualisiere();
-    emit Geaendert();
+    // The row at its place would be another one.
+    LV_Schlafzeiten->setCurrentIndex({});
 }
 
 Schlafeingabe Fra_Sleep::Lies() const {
@@ -187,6 +188,7 @@ void Fra_Sleep::Cmd_AddSchlafzeit_Click() {
     const QModelIndex neue = m_modell->index(m_modell->rowCount() - 1, 0);
     LV_Schlafzeiten->scrollTo(neue);
     LV_Schlafzeiten->setCurrentIndex(neue);
+    emit Geaendert();
 }
 
 void Fra_Sleep::Cmd_RemoveSchlafzeit_Click() {
@@ -194,6 +196,7 @@ void Fra_Sleep::Cmd_RemoveSchlafzeit_Click() {
     if (!gewaehlt.isEmpty()) {
         m_tabelle.erase(m_tabelle.begin() + gewaehlt.first().row());
         Zeige();
+        emit Geaendert();
     }
 }
 
@@ -201,6 +204,7 @@ void Fra_Sleep::Cmd_ClearSchlafzeiten_Click() {
     if (m_umgebung.Boxen.Stelle({.Text = "Wirklich alle löschen ?", .Titel = ""})) {
         m_tabelle.clear();
         Zeige();
+        emit Geaendert();
     }
 }
 

@@ -19,7 +19,7 @@ class Fra_Sleep : public Feld {
     /// Edits `tabelle`, which must outlive the panel, as must `umgebung`.
     Fra_Sleep(Schlaftabelle& tabelle, const Umgebung& umgebung, QWidget* parent);
 
-    /// After the program changed the table.
+    /// After the table changed. No row is selected then.
     void Zeige();
     void RefreshSchlafEnde();
 
@@ -27,7 +27,7 @@ class Fra_Sleep : public Feld {
     QCheckBox* const Chk_Schlafzeitenwecker;
 
   signals:
-    /// The table is another one.
+    /// The user has changed the table.
     void Geaendert();
 
   private:

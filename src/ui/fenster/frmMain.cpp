@@ -68,6 +68,7 @@ frmMain::frmMain(const Umgebung& umgebung)
     Verbinde();
     LadeBilder();
     SetzeHeute();
+    m_verlauf.Beginne(StandVon(m_plan));
     m_Fra_Rest->Zeige(m_texte);
     m_Fra_Rest->ZeigeNamen(m_plan.ShowDesc);
     m_Tmr_Autosave.setObjectName(QStringLiteral("Tmr_Autosave"));
@@ -149,8 +150,9 @@ void frmMain::Verbinde() {
             &frmMain::Cmd_AddProdaenderungsevent_Click);
     connect(m_Fra_Einstellungen, &Fra_Einstellungen::Chk_Speedfaktor_Click, this,
             &frmMain::Chk_Speedfaktor_Click);
-    connect(m_Fra_Einstellungen, &Fra_Einstellungen::Geaendert, this, &frmMain::ZeigeInWerkbank);
-    connect(m_Fra_Sleep, &Fra_Sleep::Geaendert, this, &frmMain::ZeigeInWerkbank);
+    connect(m_Fra_Einstellungen, &Fra_Einstellungen::Geaendert, this,
+            [this](const QString& eingabe) { Bearbeitet(eingabe.toStdString()); });
+    connect(m_Fra_Sleep, &Fra_Sleep::Geaendert, this, [this] { Bearbeitet(); });
     connect(m_Fra_Einstellungen, &Fra_Einstellungen::cmd_ShowDesc_Click, this,
             [this] { m_Fra_Rest->ZeigeNamen(m_plan.ShowDesc); });
     connect(m_Fra_Skin->Cmd_ApplySkin, &QPushButton::clicked, this, &frmMain::Cmd_ApplySkin_Click);
@@ -265,13 +267,7 @@ void frmMain::mnuWerkbank_Click() {
             [this] { return m_Fra_Rest->SekundenVorher()->currentText().toStdString(); },
             m_umgebung);
         m_frmWerkbank->SetzeBilder(m_Fra_Rest->Itembilder());
-        connect(
-            m_frmWerkbank.get(), &frmWerkbank::Umgestellt, this,
-            [this](const Listenverlauf::Tags& tags, const std::optional<SchlafzeitZeile>& pause) {
-                m_verlauf.Merke(m_plan.Liste.Tags(), tags, pause);
-                NimmPauseAuf(pause);
-                StelleZeilen(tags);
-            });
+        connect(m_frmWerkbank.get(), &frmWerkbank::Umgestellt, this, &frmMain::Uebernimm);
         connect(m_frmWerkbank.get(), &frmWerkbank::ZurueckGewuenscht, this, &frmMain::NimmZurueck);
         connect(m_frmWerkbank.get(), &frmWerkbank::VorGewuenscht, this,
                 &frmMain::WiederholeZurueckgenommenes);
@@ -346,47 +342,43 @@ void frmMain::Img_MouseMove(const Itemplatz& platz) {
     platz.Bild->SetzeGate(HoverInfo(platz.Item, m_plan.Liste.Auftraege(), m_lauf.Bedingungen));
 }
 
-template <class Tat>
-void frmMain::BearbeiteListe(Tat tat) {
-    const auto vorher = m_plan.Liste.Tags();
-    tat(m_plan.Liste);
-    m_verlauf.Merke(vorher, m_plan.Liste.Tags());
+void frmMain::Bearbeitet(std::string_view eingabe) {
+    m_verlauf.Merke(StandVon(m_plan), eingabe);
+    ZeigeInWerkbank();
 }
 
 void frmMain::NimmZurueck() {
     if (m_verlauf.HatVorige()) {
-        const auto [tags, pause] = m_verlauf.Zurueck(m_plan.Liste.Tags());
-        if (pause) {
-            // Unless the user has taken it out himself.
-            auto& tabelle = m_plan.Schlafzeiten;
-            const auto stelle = std::ranges::find(tabelle, *pause);
-            tabelle.erase(stelle, stelle == tabelle.end() ? stelle : stelle + 1);
-            m_Fra_Sleep->Zeige();
-        }
-        StelleZeilen(tags);
+        StellePlan(m_verlauf.Zurueck());
     }
 }
 
 void frmMain::WiederholeZurueckgenommenes() {
     if (m_verlauf.HatNaechste()) {
-        const auto [tags, pause] = m_verlauf.Vor(m_plan.Liste.Tags());
-        NimmPauseAuf(pause);
-        StelleZeilen(tags);
+        StellePlan(m_verlauf.Vor());
     }
 }
 
-void frmMain::NimmPauseAuf(const std::optional<SchlafzeitZeile>& pause) {
+void frmMain::Uebernimm(const std::vector<std::string>& tags,
+                        const std::optional<SchlafzeitZeile>& pause) {
+    Planstand stand = StandVon(m_plan);
+    stand.Tags = tags;
     if (pause) {
-        m_plan.Schlafzeiten.insert(m_plan.Schlafzeiten.begin(), *pause);
-        m_Fra_Sleep->Zeige();
+        stand.Schlafzeiten.insert(stand.Schlafzeiten.begin(), *pause);
     }
+    m_verlauf.Merke(stand);
+    StellePlan(stand);
 }
 
-void frmMain::StelleZeilen(const Listenverlauf::Tags& tags) {
+void frmMain::StellePlan(const Planstand& stand) {
+    m_plan.Parameter = stand.Parameter;
+    m_plan.Schlafzeiten = stand.Schlafzeiten;
     // The factor texts are those of the run that follows.
     m_lauf.Bedingungen.Temperatur =
         LiesTemperatur(m_plan.Parameter).value_or(m_lauf.Bedingungen.Temperatur);
-    m_plan.Liste.Setze(tags, m_lauf.Bedingungen);
+    m_plan.Liste.Setze(stand.Tags, m_lauf.Bedingungen);
+    m_Fra_Einstellungen->Zeige();
+    m_Fra_Sleep->Zeige();
     m_Fra_Rest->ZeigeListe();
     SpieleStill();
     ZeigeInWerkbank();
@@ -422,8 +414,7 @@ void frmMain::LV_Bauliste_DragDrop(const QString& Source) {
     const auto item = ItemVonBild(Source.toStdString());
     std::optional<Meldung> meldung;
     if (item) {
-        BearbeiteListe(
-            [&](Bauliste& liste) { meldung = liste.AddItem(*item, m_lauf.Bedingungen); });
+        meldung = m_plan.Liste.AddItem(*item, m_lauf.Bedingungen);
     } else {
         meldung = Meldung{.Text = "KA", .Titel = "", .Symbol = Meldungssymbol::Ohne};
     }
@@ -433,38 +424,41 @@ void frmMain::LV_Bauliste_DragDrop(const QString& Source) {
         return;
     }
     ZeigeNeueZeile();
+    Bearbeitet();
 }
 
 void frmMain::Cmd_AddProdaenderungsevent_Click() {
-    std::optional<Meldung> meldung;
-    BearbeiteListe([&](Bauliste& liste) {
-        meldung = liste.AddProdaenderungsevent(m_Fra_Special->Faktoren(), m_lauf.Bedingungen);
-    });
+    const auto meldung =
+        m_plan.Liste.AddProdaenderungsevent(m_Fra_Special->Faktoren(), m_lauf.Bedingungen);
     if (meldung) {
         m_umgebung.Boxen.Zeige(*meldung);
         return;
     }
     ZeigeNeueZeile();
+    Bearbeitet();
 }
 
 void frmMain::ZeigeNeueZeile() {
     m_Fra_Rest->ZeigeListe();
     m_Fra_Rest->MacheLetzteSichtbar();
-    ZeigeInWerkbank();
 }
 
 void frmMain::Cmd_Undo_Click() {
-    BearbeiteListe([](Bauliste& liste) { liste.Undo(); });
+    m_plan.Liste.Undo();
     m_Fra_Rest->ZeigeListe();
-    ZeigeInWerkbank();
+    Bearbeitet();
 }
 
 void frmMain::Cmd_Clear_Click() {
-    BearbeiteListe([](Bauliste& liste) { liste.Clear(); });
+    LeereListe();
+    Bearbeitet();
+}
+
+void frmMain::LeereListe() {
+    m_plan.Liste.Clear();
     m_texte.NachClear();
     m_Fra_Rest->ZeigeListe();
     m_Fra_Rest->Zeige(m_texte);
-    ZeigeInWerkbank();
 }
 
 void frmMain::Cmd_Simulate_Click() {
@@ -509,7 +503,7 @@ void frmMain::StarteSimulation(bool silent) {
 std::optional<Startbedingungen> frmMain::PruefeEingaben(bool silent) {
     const bool leer = m_plan.Liste.Auftraege().IstLeer();
     if (!leer) {
-        FuelleStartdatumAuf(m_plan.Parameter);
+        FuelleStartdatum();
     }
     const auto bedingungen = LiesStartbedingungen(m_plan);
     const auto* const absage = std::get_if<Meldung>(&bedingungen);
@@ -521,6 +515,16 @@ std::optional<Startbedingungen> frmMain::PruefeEingaben(bool silent) {
         m_umgebung.Boxen.Zeige(*absage);
     }
     return std::nullopt;
+}
+
+// Not an edit: the plan lies where it lay, and there is nothing to take back.
+void frmMain::FuelleStartdatum() {
+    const bool liegtInDatei = m_gesichert == StandVon(m_plan);
+    FuelleStartdatumAuf(m_plan.Parameter);
+    m_verlauf.Berichtige(StandVon(m_plan));
+    if (liegtInDatei) {
+        m_gesichert = StandVon(m_plan);
+    }
 }
 
 void frmMain::ZeigeStandDesLaufs() {

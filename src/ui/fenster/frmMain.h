@@ -58,6 +58,10 @@ class frmMain : public QMainWindow {
     /// Keeps what the end of the program would keep, and goes on.
     void Sichere();
 
+  signals:
+    /// The window has closed, and nothing more is written for it.
+    void Geschlossen();
+
   protected:
     /// Enter presses the default button, unless what has the focus takes it.
     void keyPressEvent(QKeyEvent* event) override;
@@ -117,15 +121,20 @@ class frmMain : public QMainWindow {
     void Cmd_Clear_Click();
     void Cmd_Simulate_Click();
     void Chk_Speedfaktor_Click();
-    /// Edits the list by hand, so that the workbench can take it back.
-    template <class Tat>
-    void BearbeiteListe(Tat tat);
+    void LeereListe();
+    /// Ends an edit by hand, which can then be taken back. `eingabe` is the input typed into.
+    void Bearbeitet(std::string_view eingabe = {});
     void NimmZurueck();
     void WiederholeZurueckgenommenes();
-    /// Gives the plan rows that the workbench made, and runs it without a box.
-    void NimmPauseAuf(const std::optional<SchlafzeitZeile>& pause);
-    void StelleZeilen(const Listenverlauf::Tags& tags);
+    /// Takes rows that the workbench made, and a pause in front of the sleep rows.
+    void Uebernimm(const std::vector<std::string>& tags,
+                   const std::optional<SchlafzeitZeile>& pause);
+    /// Makes the plan what it is to be, and runs it without a box.
+    void StellePlan(const Planstand& stand);
     void SpieleStill();
+    void BewahreErsetzten() const;
+    void MerkeGesichert(const std::filesystem::path& datei);
+    void FuelleStartdatum();
     void ZeigeInWerkbank();
     void ZeigeSkin(Byte mode, const std::string& pfad);
     /// What a run can begin with; nothing, with a message, if it can't.
@@ -140,6 +149,8 @@ class frmMain : public QMainWindow {
     QTimer m_Tmr_Autosave{this};
     Plan m_plan;
     Listenverlauf m_verlauf;
+    /// The plan as it was last loaded from a file of the user's, or saved into one.
+    std::optional<Planstand> m_gesichert;
     Lauf m_lauf;
     Ergebnistexte m_texte;
 

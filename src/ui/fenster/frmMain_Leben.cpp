@@ -6,6 +6,7 @@
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QWindow>
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -35,6 +36,8 @@ void frmMain::Form_Load() {
     }
     if (!IstGeschlossen()) {
         m_abschnitt = Abschnitt::Arbeit;
+        m_verlauf.Beginne(StandVon(m_plan));
+        ZeigeInWerkbank();
         constexpr std::chrono::seconds kTakt(4);
         m_Tmr_Autosave.start(kTakt);
     }
@@ -67,6 +70,7 @@ void frmMain::BringePlan() {
     m_autosave.GiltAlsGeschrieben(m_plan);
     if (ersterStart && behalten) {
         static_cast<void>(m_umgebung.Dateien.Loesche(starterplan));
+        m_gesichert.reset();
         static_cast<void>(m_konfiguration.Schreibe({{Konfiguration::kFirststart, "0"}}));
     }
 }
@@ -133,6 +137,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
         Form_Unload(bisher);
     }
     QMainWindow::closeEvent(event);
+    emit Geschlossen();
 }
 
 void frmMain::Form_Unload(Abschnitt bisher) {
@@ -181,32 +186,48 @@ void frmMain::Behalte(Abschnitt stand) {
 }
 
 void frmMain::mnu_DateiNeu_Click() {
+    BewahreErsetzten();
     m_lauf.ResetSimulation(m_plan.Parameter);
     m_texte.NachReset();
     m_Fra_Rest->ZeigeBauzeiten();
-    Cmd_Clear_Click();
-    m_verlauf.Leere();
-    ZeigeInWerkbank();
+    LeereListe();
     m_Fra_Einstellungen->show();
     m_Fra_Skin->hide();
     m_Fra_Sleep->hide();
     SetzeHeute();
+    Bearbeitet();
     m_alarme->LiesKonfiguration();
 }
 
 void frmMain::mnu_DateiLaden_Click() {
-    const auto datei =
-        m_umgebung.Boxen.FragNachDatei(Dialoge::Zweck::Laden, m_umgebung.Programmordner / "saves");
+    const auto datei = m_umgebung.FragNachDatei(Dialoge::Zweck::Laden);
     if (!datei.empty()) {
         LoadBauliste(datei, false);
     }
 }
 
 void frmMain::mnu_Datei_Speichern_Click() {
-    const auto datei = m_umgebung.Boxen.FragNachDatei(Dialoge::Zweck::Speichern,
-                                                      m_umgebung.Programmordner / "saves");
-    if (!datei.empty() && !SaveBauliste(datei, m_plan, m_umgebung.Dateien)) {
+    const auto datei = m_umgebung.FragNachDatei(Dialoge::Zweck::Speichern);
+    if (datei.empty()) {
+        return;
+    }
+    if (SaveBauliste(datei, m_plan, m_umgebung.Dateien)) {
+        MerkeGesichert(datei);
+    } else {
         m_umgebung.Boxen.Zeige(Speicherfehler());
+    }
+}
+
+// What the program moves on by itself is no place to lie in.
+void frmMain::MerkeGesichert(const std::filesystem::path& datei) {
+    const auto eigene = m_autosave.Dateien();
+    const bool bleibt = std::ranges::find(eigene, datei) == eigene.end();
+    m_gesichert = bleibt ? std::optional(StandVon(m_plan)) : std::nullopt;
+}
+
+void frmMain::BewahreErsetzten() const {
+    if (m_gesichert != StandVon(m_plan)) {
+        m_autosave.BewahreErsetzten(m_plan);
     }
 }
 
@@ -220,16 +241,19 @@ bool frmMain::LoadBauliste(const std::optional<Profil>& profil, const std::files
         m_umgebung.Boxen.Zeige(Ladefehler());
         return false;
     }
-    Cmd_Clear_Click();
+    BewahreErsetzten();
+    LeereListe();
     Standmeldungen meldungen([this] { ZeigePlan(); }, m_umgebung.Boxen);
-    if (!LadePlan(*profil, m_plan, m_lauf.Bedingungen, meldungen)) {
-        // The rows that were there can be had back.
-        m_verlauf.Merke({}, m_plan.Liste.Tags());
-        ZeigeInWerkbank();
+    const bool geladen = LadePlan(*profil, m_plan, m_lauf.Bedingungen, meldungen);
+    if (geladen) {
+        ZeigePlan();
+        MerkeGesichert(File);
+    }
+    // What was there can be had back.
+    Bearbeitet();
+    if (!geladen) {
         return false;
     }
-    m_verlauf.Leere();
-    ZeigePlan();
     // The toolkit takes the lone sign for a place of its own.
     setWindowTitle(
         AlsQString(FenstertitelMit(File)).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));

@@ -32,7 +32,7 @@ void Itempalette::BaueBilder() {
     int platz = 0;
     for (const Itemansicht& ansicht : Itemansichten()) {
         auto* const bild = new Palettenbild(AlsQString(ansicht.Bild), QSize(0, 0), {}, this);
-        bild->setAccessibleName(AlsQString(ZeileVon(ansicht.Item).Hovername));
+        bild->setAccessibleName(AlsQString(ZeileVon(ansicht.Item).Name));
         m_layout->addWidget(bild, platz / kJeZeile, platz % kJeZeile);
         connect(bild, &QAbstractButton::clicked, this,
                 [this, item = ansicht.Item] { emit ItemGewaehlt(item); });
@@ -83,7 +83,7 @@ void Itempalette::SetzeEinwaende(const std::function<std::optional<std::string>(
         Palettenbild& bild = *m_bilder[ansicht.Item];
         bild.SetzeBlass(wort.has_value());
         const QString grund = AlsQString(wort.value_or(""));
-        SetzeHinweis(bild, wort ? grund : AlsQString(ZeileVon(ansicht.Item).Hovername));
+        SetzeHinweis(bild, wort ? grund : AlsQString(ZeileVon(ansicht.Item).Name));
         bild.setAccessibleDescription(grund);
     }
 }

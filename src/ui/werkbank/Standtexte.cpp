@@ -2,6 +2,7 @@
 #include "ui/werkbank/Standtexte.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "model/Itemtabelle.h"
 #include "simulation/Lauftexte.h"
@@ -33,8 +34,8 @@ std::string Stufentext(const Verlaufspunkt& punkt) {
     std::string text;
     for (const Itemzeile& zeile : Itemtabelle()) {
         if (const Byte stufe = punkt.Stufen[zeile.Item]; stufe > 0) {
-            text += (text.empty() ? "" : ", ") + std::string(zeile.Hovername) + " " +
-                    std::to_string(stufe);
+            text +=
+                (text.empty() ? "" : ", ") + std::string(zeile.Name) + " " + std::to_string(stufe);
         }
     }
     return text;
@@ -69,14 +70,17 @@ std::optional<std::string> NaechsterAuftrag(const Ablauf& ablauf, Zeitpunkt jetz
     return Auftragstext(*naechster) + " um " + Uhrzeittext(um) + ", in " + Spannentext(um - jetzt);
 }
 
-std::string Meldungszeile(const std::vector<Meldung>& meldungen) {
-    constexpr std::size_t kGezeigte = 2;
-    std::string text;
-    for (std::size_t i = 0; i < std::min(kGezeigte, meldungen.size()); ++i) {
-        text += (i == 0 ? "" : "\n") + meldungen[i].Text;
+std::string Meldungszeile(const Ablauf& ablauf) {
+    std::vector<std::string> texte;
+    if (ablauf.Ende.IstAmEndeDerUhr()) {
+        texte.push_back(UeberDieUhrText());
     }
-    if (meldungen.size() > kGezeigte) {
-        text += "\n... und " + std::to_string(meldungen.size() - kGezeigte) + " weitere";
+    std::ranges::transform(ablauf.Meldungen, std::back_inserter(texte), &Meldung::Text);
+    std::string text = texte.empty() ? "" : texte.front();
+    if (texte.size() == 2) {
+        text += "\n" + texte.back();
+    } else if (texte.size() > 2) {
+        text += "\n... und " + std::to_string(texte.size() - 1) + " weitere";
     }
     return text;
 }

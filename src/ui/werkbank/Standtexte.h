@@ -19,7 +19,7 @@ namespace tarvelin {
 /// and in how long. Nothing before the plan's start and behind its end.
 [[nodiscard]] std::optional<std::string> NaechsterAuftrag(const Ablauf& ablauf, Zeitpunkt jetzt);
 
-/// The messages of a run in one line; of many the first ones, and how many more.
-[[nodiscard]] std::string Meldungszeile(const std::vector<Meldung>& meldungen);
+/// What a run has to tell, in two lines at most: of many messages the first one, and how many more.
+[[nodiscard]] std::string Meldungszeile(const Ablauf& ablauf);
 
 }  // namespace tarvelin

@@ -51,9 +51,20 @@ Auftragsliste ListeAus(const std::vector<Auftrag>& orders) {
     return liste;
 }
 
+/// How much of a search is done, from 0 to 1.
+double Anteil(std::uint64_t versuche, std::uint64_t von) {
+    return von == 0 ? 0 : static_cast<double>(versuche) / static_cast<double>(von);
+}
+
+int InProzent(double anteil) {
+    constexpr double kGanz = 100;
+    return static_cast<int>(kGanz * anteil);
+}
+
 std::string Fundtext(const Fund& fund) {
-    return Spannentext(fund.Wertung.Dauer) + ", " + std::to_string(fund.Wertung.Sitzungen) +
-           " Sitzungen, " + std::to_string(fund.Orders.size()) + " Zeilen";
+    return Spannentext(fund.Wertung.Dauer) + ", " +
+           Anzahltext(static_cast<std::size_t>(fund.Wertung.Sitzungen), "Sitzung", "Sitzungen") +
+           ", " + Anzahltext(fund.Orders.size(), "Zeile", "Zeilen");
 }
 
 }  // namespace
@@ -214,11 +225,8 @@ void Suchfeld::HalteAn() {
 }
 
 void Suchfeld::ZeigeStand(const Fortschritt& stand) {
-    constexpr double kGanz = 100;
-    const double anteil = stand.VonVersuchen == 0 ? 1
-                                                  : static_cast<double>(stand.Versuche) /
-                                                        static_cast<double>(stand.VonVersuchen);
-    m_balken->setValue(static_cast<int>(kGanz * anteil));
+    const double anteil = Anteil(stand.Versuche, stand.VonVersuchen);
+    m_balken->setValue(InProzent(anteil));
     m_kurve->Merke(anteil, stand.BesteDauer);
     m_stand->setText(
         AlsQString("Bisher: " + Spannentext(stand.BesteDauer) + " (" +
@@ -231,7 +239,7 @@ void Suchfeld::ZeigeErgebnis(const Suchergebnis& ergebnis) {
     m_suche.reset();
     m_laeuft = false;
     m_gesucht->Bester = ergebnis.Bester;
-    m_balken->setValue(m_balken->maximum());
+    m_balken->setValue(InProzent(Anteil(ergebnis.Versuche, ergebnis.VonVersuchen)));
     m_stand->setText(
         ergebnis.Bester ? AlsQString(Bericht() + "\nVersuche: " + std::to_string(ergebnis.Versuche))
                         : QStringLiteral("Es wurde keine Liste gefunden, die endet."));
@@ -249,8 +257,8 @@ std::string Suchfeld::Bericht() const {
     }
     const Auftragsliste& alte = m_gesucht->Vorher.Liste.Auftraege();
     const Auftragsliste neue = ListeAus(nachher.Orders);
-    for (const auto& [name, dabei] : {std::pair("\nHinzu: ", Ueberschuss(neue, alte)),
-                                      std::pair("\nWeg: ", Ueberschuss(alte, neue))}) {
+    for (const auto& [name, dabei] : {std::pair("\nKommt dazu: ", UeberschussInWorten(neue, alte)),
+                                      std::pair("\nEntfällt: ", UeberschussInWorten(alte, neue))}) {
         text += dabei.empty() ? "" : name + dabei;
     }
     const Startbedingungen& bedingungen = m_gesucht->Aufgabe.Aufgabe.Bedingungen;

@@ -87,8 +87,7 @@ void Vergleichsfeld::Merke() {
 }
 
 void Vergleichsfeld::LadeDatei() {
-    const auto datei =
-        m_umgebung.Boxen.FragNachDatei(Dialoge::Zweck::Laden, m_umgebung.Programmordner / "saves");
+    const auto datei = m_umgebung.FragNachDatei(Dialoge::Zweck::Laden);
     if (datei.empty()) {
         return;
     }

@@ -150,7 +150,7 @@ void frmWerkbank::LegeAus() {
 
     m_LBL_Meldung->setWordWrap(true);
     m_LBL_Meldung->setFrameStyle(QFrame::StyledPanel);
-    m_LBL_Meldung->hide();
+    m_LBL_Meldung->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_LBL_Stand->setWordWrap(true);
     m_felder->setObjectName(QStringLiteral("Felder"));
 
@@ -216,10 +216,18 @@ void frmWerkbank::Verbinde() {
     connect(&m_takt, &QTimer::timeout, this, &frmWerkbank::Ticke);
 }
 
+// Nothing moves when a message comes or goes.
+void frmWerkbank::SetzeMeldungshoehe() {
+    constexpr int kZeilenzahl = 2;
+    m_LBL_Meldung->setFixedHeight(kZeilenzahl * m_LBL_Meldung->fontMetrics().lineSpacing() +
+                                  2 * m_LBL_Meldung->frameWidth() + 2);
+}
+
 void frmWerkbank::FolgeDesktop() {
     const QPalette farben = m_umgebung.Desktopfarben();
     setPalette(AlsEigene(farben));
     setFont(Desktopschrift());
+    SetzeMeldungshoehe();
     m_zeitleiste->SetzeAussehen(farben, font());
     // Scrolled up and down only.
     for (auto* const rolle : m_felder->findChildren<QScrollArea*>()) {
@@ -324,7 +332,7 @@ void frmWerkbank::Spiele() {
     } else {
         m_ablauf =
             SpieleAb(m_plan.Liste.Auftraege().Alle(), std::get<Startbedingungen>(bedingungen));
-        Melde(Meldungszeile(m_ablauf->Meldungen));
+        Melde(Meldungszeile(*m_ablauf));
     }
     const bool bearbeitet = m_verlauf.HatVorige() || m_verlauf.HatNaechste();
     m_aenderung = bearbeitet && vorher && m_ablauf
@@ -380,7 +388,8 @@ void frmWerkbank::Ticke() {
 
 void frmWerkbank::Melde(const std::string& text) {
     m_LBL_Meldung->setText(AlsQString(text).trimmed());
-    m_LBL_Meldung->setVisible(!text.empty());
+    // Its place has no room for more than two lines.
+    m_LBL_Meldung->setToolTip(m_LBL_Meldung->text());
     if (!text.empty()) {
         // Read out at once, wherever the keyboard is.
         QAccessibleEvent ruf(m_LBL_Meldung, QAccessible::Alert);
@@ -434,8 +443,7 @@ std::size_t frmWerkbank::Einfuegestelle() const {
 }
 
 void frmWerkbank::BildSpeichern() {
-    const auto datei =
-        m_umgebung.Boxen.FragNachDatei(Dialoge::Zweck::Bild, m_umgebung.Programmordner / "saves");
+    const auto datei = m_umgebung.FragNachDatei(Dialoge::Zweck::Bild);
     if (datei.empty()) {
         return;
     }
@@ -458,8 +466,7 @@ void frmWerkbank::Kopieren() {
 }
 
 void frmWerkbank::KalenderSpeichern() {
-    const auto datei = m_umgebung.Boxen.FragNachDatei(Dialoge::Zweck::Kalender,
-                                                      m_umgebung.Programmordner / "saves");
+    const auto datei = m_umgebung.FragNachDatei(Dialoge::Zweck::Kalender);
     if (!datei.empty()) {
         const auto stand =
             std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());

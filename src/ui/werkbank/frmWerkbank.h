@@ -68,6 +68,7 @@ class frmWerkbank : public QWidget {
                              void (frmWerkbank::*handler)());
     void Verbinde();
     void FolgeDesktop();
+    void SetzeMeldungshoehe();
     void Spiele();
     void ZeigeFuss();
     void ZeigeAuswahl();
