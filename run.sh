@@ -3,7 +3,7 @@
 # is no screen, the timetable of the starter plan), with plan files the timetable of each.
 set -euo pipefail
 ordner=$(cd "$(dirname "$0")" && pwd)
-. "$ordner/cmake/pakete.sh"
+. "$ordner/cmake/packages.sh"
 
 # The timetable alone goes to the output, so that it can be piped.
 stelle_bereit "${BAU_PAKETE[@]}" >&2

@@ -8,7 +8,7 @@
 #               the setup
 set -euo pipefail
 ordner=$(cd "$(dirname "$0")" && pwd)
-. "$ordner/cmake/pakete.sh"
+. "$ordner/cmake/packages.sh"
 cd "$ordner"
 
 teste() {

@@ -2,7 +2,7 @@
 # Takes the pictures of README and ANLEITUNG anew: plays an opening on a virtual screen.
 set -euo pipefail
 ordner=$(cd "$(dirname "$0")/.." && pwd)
-. "$ordner/cmake/pakete.sh"
+. "$ordner/cmake/packages.sh"
 stelle_bereit "${BAU_PAKETE[@]}" "${BILDSCHIRM_PAKETE[@]}"
 baue "$ordner" release tarvelin tarvelin_daten
 mkdir -p "$ordner/docs/bilder"

@@ -7,7 +7,7 @@
 #   fuzz/run.sh --merge
 set -euo pipefail
 ordner=$(cd "$(dirname "$0")/.." && pwd)
-. "$ordner/cmake/pakete.sh"
+. "$ordner/cmake/packages.sh"
 stelle_bereit "${BAU_PAKETE[@]}" "${TEST_PAKETE[@]}" clang libclang-rt-14-dev
 cd "$ordner"
 sekunden=${1:?"fuzz/run.sh SECONDS [TARGET]..."}

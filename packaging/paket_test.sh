@@ -4,7 +4,7 @@
 set -euo pipefail
 umask 022
 quellen=$(cd "$(dirname "$0")/.." && pwd)
-. "$quellen/cmake/pakete.sh"
+. "$quellen/cmake/packages.sh"
 stelle_bereit "${BAU_PAKETE[@]}" "${PAKET_PAKETE[@]}"
 
 arbeit=$(mktemp -d)

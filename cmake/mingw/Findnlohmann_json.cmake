@@ -1,4 +1,4 @@
 # nlohmann-json for the cross compiler.
-include(Kopfbibliothek)
+include(HeaderLibrary)
 kopfbibliothek(nlohmann_json::nlohmann_json nlohmann)
 set(nlohmann_json_FOUND TRUE)

@@ -35,7 +35,7 @@ OHNE_QUELLE=75
 
 windows_lager=${XDG_CACHE_HOME:-$HOME/.cache}/tarvelin
 windows_rezepte=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-windows_werkzeuge=$(cd "$windows_rezepte/../../cmake/mingw" && pwd)/werkzeuge.cmake
+windows_werkzeuge=$(cd "$windows_rezepte/../../cmake/mingw" && pwd)/toolchain.cmake
 
 # Builds what is missing, and sets the folders CURL_WINDOWS, QT_WINDOWS and SVG_WINDOWS.
 stelle_bibliotheken_bereit() {
