@@ -52,7 +52,7 @@ miss_abdeckung() {
 spiele_lang() {
     stelle_bereit "${BAU_PAKETE[@]}" "${TEST_PAKETE[@]}"
     baue "$ordner" asan
-    tests/e2e/bildschirm.sh tests/e2e/affe_test.py build/asan/bin "${1:-1}" "${2:-400}"
+    tests/e2e/screen.sh tests/e2e/monkey_test.py build/asan/bin "${1:-1}" "${2:-400}"
 }
 
 teste_fuer_windows() {
@@ -64,11 +64,11 @@ teste_fuer_windows() {
     grep -qsF "$QT_WINDOWS/" build/mingw/CMakeCache.txt || rm -rf build/mingw
     baue "$ordner" mingw
     echo "== Tests under Wine"
-    tests/e2e/bildschirm.sh tests/e2e/windows.sh ctest --preset mingw
+    tests/e2e/screen.sh tests/e2e/windows.sh ctest --preset mingw
     echo "== Setup"
     packaging/windows/setup.sh
     echo "== Played under Wine"
-    tests/e2e/bildschirm.sh tests/e2e/windows.sh tests/e2e/windows_test.py build/mingw/bin \
+    tests/e2e/screen.sh tests/e2e/windows.sh tests/e2e/windows_test.py build/mingw/bin \
         build/mingw/Tarvelin-*-Windows.exe build/mingw/bilder
     [ -n "$SVG_WINDOWS" ] ||
         echo "== Qt's Svg module couldn't be had: the window for Windows saves no pictures as SVG"

@@ -9,8 +9,8 @@ import sys
 import tempfile
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "tests", "e2e"))
-from bedienung import STARTERPLAN, Programm, kopiere, warte, xdotool  # noqa: E402
-from eroeffnung import spiele  # noqa: E402
+from driver import STARTERPLAN, Programm, kopiere, warte, xdotool  # noqa: E402
+from opening import spiele  # noqa: E402
 
 
 def nimm_auf(programm, bilder):

@@ -6,5 +6,5 @@ ordner=$(cd "$(dirname "$0")/.." && pwd)
 stelle_bereit "${BAU_PAKETE[@]}" "${BILDSCHIRM_PAKETE[@]}"
 baue "$ordner" release tarvelin tarvelin_daten
 mkdir -p "$ordner/docs/bilder"
-"$ordner/tests/e2e/bildschirm.sh" /usr/bin/python3 "$ordner/docs/aufnahme.py" \
+"$ordner/tests/e2e/screen.sh" /usr/bin/python3 "$ordner/docs/aufnahme.py" \
     "$ordner/build/release/bin" "$ordner/docs/bilder"

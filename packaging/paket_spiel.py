@@ -7,8 +7,8 @@ orders, and comes back.
 import os
 import sys
 
-from bedienung import Installiertes, warte, xdotool
-from vergleich import erwartet, gesehen, rechne
+from driver import Installiertes, warte, xdotool
+from compare import erwartet, gesehen, rechne
 
 BILDER = ["Metallmine", "Solarkraftwerk", "Kleiner Transporter"]
 

@@ -149,7 +149,7 @@ starterplan=$teile/tarvelin/saves/basic.tvf
 still "console program plays the starter plan" \
     "${nutzer[@]}" HOME="$heim" "$programme/tarvelin-cli" "$starterplan"
 still "window shows the starter plan, takes orders, plays them, and brings them back" \
-    "${nutzer[@]}" "$arbeit/e2e/bildschirm.sh" /usr/bin/python3 "$arbeit/e2e/paket_spiel.py" \
+    "${nutzer[@]}" "$arbeit/e2e/screen.sh" /usr/bin/python3 "$arbeit/e2e/paket_spiel.py" \
     "$programme" "$starterplan" "$heim"
 gleich "installed files are as they were" "$nachher" "$(bestand "$wurzel/usr")"
 gleich "nothing but the data folder lies with the user" "$(printf '%s\n' \

@@ -15,7 +15,7 @@ import subprocess
 import sys
 import time
 
-from bedienung import STARTERPLAN, Fehler, Ohr, fensternummer, warte, xdotool
+from driver import STARTERPLAN, Fehler, Ohr, fensternummer, warte, xdotool
 from skinserver import Skinserver, bild
 
 WINE = "/usr/lib/wine/wine64"

@@ -2,7 +2,7 @@
 """A player at the workbench: opens it, drags a row, reads both windows, takes it back, saves a
 picture, searches, stops, takes over, compares with a file and takes the calendar along.
 
-    werkbank_test.py FOLDER_OF_THE_PROGRAMS
+    workbench_test.py FOLDER_OF_THE_PROGRAMS
 """
 import datetime
 import os
@@ -13,8 +13,8 @@ import tempfile
 
 import icalendar
 
-from bedienung import STARTERPLAN, Programm, kopiere, warte, xdotool
-from vergleich import rechne, texte
+from driver import STARTERPLAN, Programm, kopiere, warte, xdotool
+from compare import rechne, texte
 
 # The research lane's bars, on a light desktop.
 FORSCHUNG = bytes([0x9c, 0xc4, 0xf0])

@@ -2,7 +2,7 @@
 """A monkey at the real program: clicks, drags and types at random, saves and loads by the dialog,
 ends and kills it. Nothing may crash, hang, or leave a plan that can't be read.
 
-    affe_test.py FOLDER_OF_THE_PROGRAMS SEED ACTIONS
+    monkey_test.py FOLDER_OF_THE_PROGRAMS SEED ACTIONS
 """
 import collections
 import contextlib
@@ -16,8 +16,8 @@ import subprocess
 import sys
 import tempfile
 
-from bedienung import STARTERPLAN, Atspi, Haende, Programm, gi, ist, kopiere, warte
-from vergleich import rechne
+from driver import STARTERPLAN, Atspi, Haende, Programm, gi, ist, kopiere, warte
+from compare import rechne
 
 LADEFEHLER = "Die Bauliste konnte nicht geladen werden..."
 TASTEN = ["Return", "Escape", "Tab", "shift+Tab", "space", "Up", "Down", "Left", "Right", "Home",

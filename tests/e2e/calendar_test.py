@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Calendars of plans, read by a reader that isn't ours, held against the history of their runs.
 
-    kalender_test.py COMMAND PLAN...
+    calendar_test.py COMMAND PLAN...
 """
 import datetime
 import json

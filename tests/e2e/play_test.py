@@ -2,7 +2,7 @@
 """A player's time with the real program: first start, a plan by hand held against what the console
 program makes of it, recovery, a skin from the web, an alarm that is heard, the end of the session.
 
-    spiel_test.py FOLDER_OF_THE_PROGRAMS
+    play_test.py FOLDER_OF_THE_PROGRAMS
 """
 import datetime
 import os
@@ -13,11 +13,11 @@ import sys
 import tempfile
 import time
 
-from bedienung import (STARTERPLAN, Atspi, Ohr, Programm, erstes_fenster, fensternummer, ist,
+from driver import (STARTERPLAN, Atspi, Ohr, Programm, erstes_fenster, fensternummer, ist,
                        kopiere, warte, xdotool)
-from eroeffnung import spiele
+from opening import spiele
 from skinserver import Skinserver, bild, farbe
-from vergleich import erwartet, gesehen, rechne, texte
+from compare import erwartet, gesehen, rechne, texte
 
 DATUM = ["Tag", "Monat", "Jahr", "Stunden", "Minuten"]
 LABELS = ["LBL_Timegone", "LBL_Met", "LBL_Kris", "LBL_Deut", "LBL_ENergie", "LBL_Punkte"]
