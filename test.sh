@@ -24,7 +24,7 @@ teste() {
     baue "$ordner" release
 
     echo "== Package: built, installed, played, removed"
-    packaging/paket_test.sh
+    packaging/package_test.sh
 }
 
 pruefe_mit_werkzeugen() {
@@ -57,7 +57,7 @@ spiele_lang() {
 
 teste_fuer_windows() {
     stelle_bereit "${BAU_PAKETE[@]}" "${BILDSCHIRM_PAKETE[@]}" "${WINDOWS_PAKETE[@]}"
-    . packaging/windows/bibliotheken.sh
+    . packaging/windows/libraries.sh
     stelle_bibliotheken_bereit
     export CURL_WINDOWS QT_WINDOWS SVG_WINDOWS
     # A build stays with the toolkit that it began with.

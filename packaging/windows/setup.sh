@@ -11,7 +11,7 @@ version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$bau/CMakeCache.txt")
 PAKETE=(qt6-base-dev qt6-svg-dev libcurl4-openssl-dev fonts-liberation libcli11-dev nlohmann-json3-dev
     gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev qt6-translations-l10n nsis)
 schreibe_lizenzen() {
-    cat "$ordner/packaging/windows/lizenzen.txt"
+    cat "$ordner/packaging/windows/licenses.txt"
     local paket lizenz
     for paket in "${PAKETE[@]}"; do
         printf '\n\n======== %s %s ========\n\n' "$paket" "$(dpkg-query -W -f '${Version}' "$paket")"

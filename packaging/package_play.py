@@ -2,7 +2,7 @@
 """A new user's first two starts of an installed program: the starter plan is there, grows by some
 orders, and comes back.
 
-    paket_spiel.py FOLDER_OF_THE_PROGRAMS STARTER_PLAN HOME
+    package_play.py FOLDER_OF_THE_PROGRAMS STARTER_PLAN HOME
 """
 import os
 import sys

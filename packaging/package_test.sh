@@ -136,7 +136,7 @@ echo "Played"
 # The program has a home of its own; what the stage around it writes goes elsewhere.
 heim=$arbeit/heim
 mkdir -p "$heim" "$arbeit/buehne" "$arbeit/e2e"
-cp "$quellen"/tests/e2e/*.* "$quellen/packaging/paket_spiel.py" "$arbeit/e2e"
+cp "$quellen"/tests/e2e/*.* "$quellen/packaging/package_play.py" "$arbeit/e2e"
 nutzer=()
 if [ "$(id -u)" -eq 0 ]; then
     chown nobody:nogroup "$heim" "$arbeit/buehne"
@@ -149,7 +149,7 @@ starterplan=$teile/tarvelin/saves/basic.tvf
 still "console program plays the starter plan" \
     "${nutzer[@]}" HOME="$heim" "$programme/tarvelin-cli" "$starterplan"
 still "window shows the starter plan, takes orders, plays them, and brings them back" \
-    "${nutzer[@]}" "$arbeit/e2e/screen.sh" /usr/bin/python3 "$arbeit/e2e/paket_spiel.py" \
+    "${nutzer[@]}" "$arbeit/e2e/screen.sh" /usr/bin/python3 "$arbeit/e2e/package_play.py" \
     "$programme" "$starterplan" "$heim"
 gleich "installed files are as they were" "$nachher" "$(bestand "$wurzel/usr")"
 gleich "nothing but the data folder lies with the user" "$(printf '%s\n' \
