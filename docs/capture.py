@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Plays the opening and takes the pictures of the documents.
 
-    aufnahme.py FOLDER_OF_THE_PROGRAMS FOLDER_OF_THE_PICTURES
+    capture.py FOLDER_OF_THE_PROGRAMS FOLDER_OF_THE_PICTURES
 """
 import os
 import shutil
@@ -18,18 +18,18 @@ def nimm_auf(programm, bilder):
         xdotool("mousemove", 2, 2, "sleep", 0.5)
         programm.aufnahme(os.path.join(bilder, name + ".png"), titel)
 
-    bild("einstellungen")
+    bild("settings")
     codes = spiele(programm)
     for panel, name, hide in [("Special-Events", "special-events", 1),
-                              ("Schlafzeiten", "schlafzeiten", 3), ("Skin", "skin", 2)]:
+                              ("Schlafzeiten", "sleep-windows", 3), ("Skin", "skin", 2)]:
         programm.klicke("menu item", panel)
         bild(name)
         programm.klicke("push button", "Hide", hide)
     programm.klicke("tree", "Optimale Bauzeiten")
     xdotool("key", "Return")
     warte(lambda: len(programm.zeilen("Optimale Bauzeiten", 3)) == len(codes), "build times")
-    bild("fenster")
-    for buchstabe, name, titel in [("s", "spenden", "unterst"), ("a", "about", "About Tarvelin")]:
+    bild("window")
+    for buchstabe, name, titel in [("s", "donate", "unterst"), ("a", "about", "About Tarvelin")]:
         programm.klicke("menu item", "Info")
         xdotool("sleep", 0.3, "key", buchstabe)
         bild(name, titel)
@@ -47,18 +47,18 @@ def nimm_werkbank_auf(programm, bilder):
     xdotool("mousemove", *werkbank.mitte(zeile[1], 0.2), "click", 1, "sleep", 0.5)
     leiste = werkbank.finde("filler", "Zeitleiste")
     xdotool("mousemove", *werkbank.mitte(leiste, 0.45), "sleep", 0.5)
-    bild("werkbank")
+    bild("workbench")
     xdotool("key", "alt+g")
     werkbank.klicke("push button", "Merken")
     xdotool("key", "alt+c")
     werkbank.klicke("push button", "Suchen")
     warte(lambda: any("Nachher" in k.get_name() for k in werkbank.alle("label")), "a plan", 120)
-    bild("werkbank-suche")
+    bild("workbench-search")
     vorher = werkbank.sagt("Dauer des Plans")
     werkbank.klicke("push button", "Übernehmen")
     warte(lambda: werkbank.sagt("Dauer des Plans") != vorher, "the plan that was found")
     xdotool("key", "alt+g", "sleep", 0.5)
-    bild("werkbank-vergleich")
+    bild("workbench-comparison")
 
 
 with tempfile.TemporaryDirectory() as ordner:

@@ -5,6 +5,6 @@ ordner=$(cd "$(dirname "$0")/.." && pwd)
 . "$ordner/cmake/packages.sh"
 stelle_bereit "${BAU_PAKETE[@]}" "${BILDSCHIRM_PAKETE[@]}"
 baue "$ordner" release tarvelin tarvelin_daten
-mkdir -p "$ordner/docs/bilder"
-"$ordner/tests/e2e/screen.sh" /usr/bin/python3 "$ordner/docs/aufnahme.py" \
-    "$ordner/build/release/bin" "$ordner/docs/bilder"
+mkdir -p "$ordner/docs/images"
+"$ordner/tests/e2e/screen.sh" /usr/bin/python3 "$ordner/docs/capture.py" \
+    "$ordner/build/release/bin" "$ordner/docs/images"
