@@ -32,7 +32,7 @@ png() { rsvg-convert -w "$2" "$1" -o "$3"; }
 # come out smoother than the renderer's own.
 gif() {
     local svg farben motiv
-    svg=$(<"rahmen/$1.svg") farben=$(<rahmen/farben.svg) motiv=$(<"motive/$1/$2.svg")
+    svg=$(<"frames/$1.svg") farben=$(<frames/colors.svg) motiv=$(<"subjects/$1/$2.svg")
     svg=${svg/"<!-- Farben -->"/"$farben"}
     svg=${svg/"<!-- Motiv -->"/"$motiv"}
     printf '%s' "$svg" >"$tmp/$2.svg"
@@ -41,21 +41,21 @@ gif() {
         -define dither:diffusion-amount=75% -dither FloydSteinberg -colors 256 +set comment -strip "$3"
 }
 
-for gruppe in gebaeude forschung werft verteidigung; do
-    for motiv in motive/$gruppe/*.svg; do
+for gruppe in buildings research shipyard defense; do
+    for motiv in subjects/$gruppe/*.svg; do
         nummer=$(basename "$motiv" .svg)
         gif $gruppe "$nummer" "$skin/gebaeude/$nummer.gif"
     done
 done
 for vorrat in metall kristall deuterium energie; do
-    gif vorrat $vorrat "$skin/images/$vorrat.gif"
+    gif stocks $vorrat "$skin/images/$vorrat.gif"
 done
-gif vorrat summe $bild/summe.gif
+gif stocks summe $bild/summe.gif
 
-png spende/spende.svg 176 $bild/spende.png
+png donation/donation.svg 176 $bild/spende.png
 # knopf NAME SIZE AMOUNT
 knopf() {
-    sed "s/BETRAG/$3/g; s/GROESSE/$2/" spende/knopf.svg >"$tmp/knopf.svg"
+    sed "s/BETRAG/$3/g; s/GROESSE/$2/" donation/button.svg >"$tmp/knopf.svg"
     png "$tmp/knopf.svg" 220 "$bild/spende_$1.png"
 }
 knopf 05 34 '0,50 €'
@@ -66,8 +66,8 @@ knopf 10 34 '10 €'
 knopf X 27 'Betrag frei'
 
 for hand in handopen hand; do
-    png zeiger/$hand.svg 32 "$tmp/32.png"
-    png zeiger/$hand.svg 64 "$tmp/64.png"
+    png cursors/$hand.svg 32 "$tmp/32.png"
+    png cursors/$hand.svg 64 "$tmp/64.png"
     convert "$tmp"/{32,64}.png -strip $bild/$hand.ico
 done
 
@@ -77,7 +77,7 @@ symbol() {
     local kante zeichnung ordner
     for kante in 16 24 32 48 64 128 256 512; do
         zeichnung=$1
-        ((kante > 24)) || zeichnung+=_klein
+        ((kante > 24)) || zeichnung+=_small
         ordner=$symbole/${kante}x$kante/$(dirname "$2")
         mkdir -p "$ordner"
         png "$zeichnung.svg" $kante "$ordner/$(basename "$2").png"
@@ -89,4 +89,4 @@ symbol plan mimetypes/application-x-tarvelin-plan
 convert "$symbole"/{16x16,24x24,32x32,48x48,64x64,128x128,256x256}/apps/tarvelin.png -strip \
     $bild/icon.ico
 
-python3 klang.py ../data/mfx/alert.wav
+python3 sound.py ../data/mfx/alert.wav
