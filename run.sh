@@ -7,7 +7,7 @@ ordner=$(cd "$(dirname "$0")" && pwd)
 
 # The timetable alone goes to the output, so that it can be piped.
 stelle_bereit "${BAU_PAKETE[@]}" >&2
-baue "$ordner" release tarvelin tarvelin-cli tarvelin_daten >&2
+baue "$ordner" release tarvelin tarvelin-cli tarvelin_data >&2
 
 programm="$ordner/build/release/bin"
 if [ $# -eq 0 ] && [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then

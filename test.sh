@@ -43,7 +43,7 @@ miss_abdeckung() {
     stelle_bereit "${BAU_PAKETE[@]}" "${TEST_PAKETE[@]}" "${ABDECKUNG_PAKETE[@]}"
     baue "$ordner" coverage
     find build/coverage -name '*.gcda' -delete
-    ctest --preset coverage -j "$(nproc)" -LE Bildschirm
+    ctest --preset coverage -j "$(nproc)" -LE Screen
     gcovr --root . --gcov-ignore-parse-errors \
         --filter 'src/(util|model|plan|simulation|search|persistence|console)/' \
         --exclude-directories '.*/CMakeFiles/[0-9]+[.].*' build/coverage

@@ -1,20 +1,20 @@
-# How every target of ours is compiled.
+# How all our targets are compiled.
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 option(TARVELIN_SANITIZER "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 
-add_library(tarvelin_optionen INTERFACE)
-target_compile_features(tarvelin_optionen INTERFACE cxx_std_20)
-target_include_directories(tarvelin_optionen INTERFACE ${PROJECT_SOURCE_DIR}/src)
-target_compile_definitions(tarvelin_optionen INTERFACE TARVELIN_VERSION="${PROJECT_VERSION}")
+add_library(tarvelin_options INTERFACE)
+target_compile_features(tarvelin_options INTERFACE cxx_std_20)
+target_include_directories(tarvelin_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+target_compile_definitions(tarvelin_options INTERFACE TARVELIN_VERSION="${PROJECT_VERSION}")
 
-# The order and precision of floating operations are part of the results: no fused multiply-add.
-# Nobody reads errno behind a mathematical function; without it the roundings are single
-# instructions.
-target_compile_options(tarvelin_optionen INTERFACE -ffp-contract=off -fno-math-errno)
+# The order and precision of floating-point operations are part of the results: no fused
+# multiply-add. Nothing reads errno after a mathematical function; without it a rounding is a single
+# instruction.
+target_compile_options(tarvelin_options INTERFACE -ffp-contract=off -fno-math-errno)
 
 target_compile_options(
-  tarvelin_optionen
+  tarvelin_options
   INTERFACE -Wall
             -Wextra
             -Wpedantic
@@ -29,13 +29,13 @@ target_compile_options(
             -Wformat=2
             -Wimplicit-fallthrough)
 
-# GCC 12 sees overlapping copies in every sum of a text literal and a std::string (its bug 105651).
+# GCC 12 warns of overlapping copies in every sum of a literal and a std::string (its bug 105651).
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  target_compile_options(tarvelin_optionen INTERFACE -Wno-restrict)
+  target_compile_options(tarvelin_options INTERFACE -Wno-restrict)
 endif()
 
 if(TARVELIN_SANITIZER)
   set(sanitizer -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  target_compile_options(tarvelin_optionen INTERFACE ${sanitizer} -D_GLIBCXX_ASSERTIONS)
-  target_link_options(tarvelin_optionen INTERFACE ${sanitizer})
+  target_compile_options(tarvelin_options INTERFACE ${sanitizer} -D_GLIBCXX_ASSERTIONS)
+  target_link_options(tarvelin_options INTERFACE ${sanitizer})
 endif()

@@ -1,4 +1,4 @@
 # CLI11 for the cross compiler.
 include(HeaderLibrary)
-kopfbibliothek(CLI11::CLI11 CLI)
+add_header_library(CLI11::CLI11 CLI)
 set(CLI11_FOUND TRUE)

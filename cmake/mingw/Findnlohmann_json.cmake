@@ -1,4 +1,4 @@
 # nlohmann-json for the cross compiler.
 include(HeaderLibrary)
-kopfbibliothek(nlohmann_json::nlohmann_json nlohmann)
+add_header_library(nlohmann_json::nlohmann_json nlohmann)
 set(nlohmann_json_FOUND TRUE)

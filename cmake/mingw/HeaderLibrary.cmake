@@ -1,11 +1,11 @@
-# kopfbibliothek(TARGET NAME): a library of headers from this machine's /usr/include. Its folder alone is
-# shown to the cross compiler, as the headers beside it are of another platform.
-function(kopfbibliothek ziel name)
-  set(ordner ${CMAKE_BINARY_DIR}/kopfdateien/${name})
-  file(MAKE_DIRECTORY ${ordner})
-  file(CREATE_LINK /usr/include/${name} ${ordner}/${name} SYMBOLIC)
-  if(NOT TARGET ${ziel})
-    add_library(${ziel} INTERFACE IMPORTED GLOBAL)
-    target_include_directories(${ziel} SYSTEM INTERFACE ${ordner})
+# add_header_library(TARGET NAME): a header-only library from this machine's /usr/include. The cross
+# compiler sees its folder alone, as the headers beside it belong to another platform.
+function(add_header_library target name)
+  set(folder ${CMAKE_BINARY_DIR}/headers/${name})
+  file(MAKE_DIRECTORY ${folder})
+  file(CREATE_LINK /usr/include/${name} ${folder}/${name} SYMBOLIC)
+  if(NOT TARGET ${target})
+    add_library(${target} INTERFACE IMPORTED GLOBAL)
+    target_include_directories(${target} SYSTEM INTERFACE ${folder})
   endif()
 endfunction()
