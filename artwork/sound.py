@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the alert: a rising chord, struck like a small glass bell."""
+"""Writes the alarm: a rising chord, like struck glass bells."""
 
 import math
 import struct
@@ -10,7 +10,7 @@ RATE = 44100
 LENGTH = 1.2
 PEAK = 0.708  # -3 dB
 ATTACK = 0.008
-FADE = 0.12  # the tail is led to silence, for a cut would click
+FADE = 0.12  # the tail fades to silence, as a cut would click
 TONES = ((0.0, 659.26), (0.14, 880.0), (0.28, 1108.73))  # start in seconds, pitch in Hz
 PARTIALS = ((1, 1.0, 4.5), (2, 0.35, 7.0), (3.01, 0.12, 11.0))  # multiple, loudness, decay
 
