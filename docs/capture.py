@@ -9,65 +9,66 @@ import sys
 import tempfile
 
 sys.path.insert(0, os.path.join(os.path.dirname(__file__), "..", "tests", "e2e"))
-from driver import STARTERPLAN, Programm, kopiere, warte, xdotool  # noqa: E402
-from opening import spiele  # noqa: E402
+from driver import STARTER_PLAN, Program, copy_program, wait_for, xdotool  # noqa: E402
+from opening import play  # noqa: E402
 
 
-def nimm_auf(programm, bilder):
-    def bild(name, titel=None):
+def capture(program, pictures):
+    def picture(name, title=None):
         xdotool("mousemove", 2, 2, "sleep", 0.5)
-        programm.aufnahme(os.path.join(bilder, name + ".png"), titel)
+        program.screenshot(os.path.join(pictures, name + ".png"), title)
 
-    bild("settings")
-    codes = spiele(programm)
+    picture("settings")
+    codes = play(program)
     for panel, name, hide in [("Special-Events", "special-events", 1),
                               ("Schlafzeiten", "sleep-windows", 3), ("Skin", "skin", 2)]:
-        programm.klicke("menu item", panel)
-        bild(name)
-        programm.klicke("push button", "Hide", hide)
-    programm.klicke("tree", "Optimale Bauzeiten")
+        program.click("menu item", panel)
+        picture(name)
+        program.click("push button", "Hide", hide)
+    program.click("tree", "Optimale Bauzeiten")
     xdotool("key", "Return")
-    warte(lambda: len(programm.zeilen("Optimale Bauzeiten", 3)) == len(codes), "build times")
-    bild("window")
-    for buchstabe, name, titel in [("s", "donate", "unterst"), ("a", "about", "About Tarvelin")]:
-        programm.klicke("menu item", "Info")
-        xdotool("sleep", 0.3, "key", buchstabe)
-        bild(name, titel)
+    wait_for(lambda: len(program.rows("Optimale Bauzeiten", 3)) == len(codes), "build times")
+    picture("window")
+    for letter, name, title in [("s", "donate", "unterst"), ("a", "about", "About Tarvelin")]:
+        program.click("menu item", "Info")
+        xdotool("sleep", 0.3, "key", letter)
+        picture(name, title)
         xdotool("key", "alt+F4", "sleep", 0.3)
 
 
-def nimm_werkbank_auf(programm, bilder):
+def capture_workbench(program, pictures):
     """The starter plan, before and after a search."""
-    werkbank = programm.oeffne_werkbank()
+    workbench = program.open_workbench()
 
-    def bild(name):
-        werkbank.aufnahme(os.path.join(bilder, name + ".png"), "Tarvelin  |  Werkbank")
+    def picture(name):
+        workbench.screenshot(os.path.join(pictures, name + ".png"), "Tarvelin  |  Werkbank")
 
-    zeile = werkbank.zeilen("Aufträge", 6)[23]
-    xdotool("mousemove", *werkbank.mitte(zeile[1], 0.2), "click", 1, "sleep", 0.5)
-    leiste = werkbank.finde("filler", "Zeitleiste")
-    xdotool("mousemove", *werkbank.mitte(leiste, 0.45), "sleep", 0.5)
-    bild("workbench")
+    row = workbench.rows("Aufträge", 6)[23]
+    xdotool("mousemove", *workbench.center(row[1], 0.2), "click", 1, "sleep", 0.5)
+    timeline = workbench.find("filler", "Zeitleiste")
+    xdotool("mousemove", *workbench.center(timeline, 0.45), "sleep", 0.5)
+    picture("workbench")
     xdotool("key", "alt+g")
-    werkbank.klicke("push button", "Merken")
+    workbench.click("push button", "Merken")
     xdotool("key", "alt+c")
-    werkbank.klicke("push button", "Suchen")
-    warte(lambda: any("Nachher" in k.get_name() for k in werkbank.alle("label")), "a plan", 120)
-    bild("workbench-search")
-    vorher = werkbank.sagt("Dauer des Plans")
-    werkbank.klicke("push button", "Übernehmen")
-    warte(lambda: werkbank.sagt("Dauer des Plans") != vorher, "the plan that was found")
+    workbench.click("push button", "Suchen")
+    wait_for(lambda: any("Nachher" in node.get_name() for node in workbench.with_role("label")),
+             "a plan", 120)
+    picture("workbench-search")
+    before = workbench.label_text("Dauer des Plans")
+    workbench.click("push button", "Übernehmen")
+    wait_for(lambda: workbench.label_text("Dauer des Plans") != before, "the plan that was found")
     xdotool("key", "alt+g", "sleep", 0.5)
-    bild("workbench-comparison")
+    picture("workbench-comparison")
 
 
-with tempfile.TemporaryDirectory() as ordner:
-    programmordner = os.path.join(ordner, "Werkbank")
-    kopiere(sys.argv[1], programmordner)
-    shutil.copy(STARTERPLAN, os.path.join(programmordner, "saves", "basic.tvf"))
-    player = Programm(sys.argv[1], programmordner)
-    nimm_werkbank_auf(player, sys.argv[2])
-    player.beende()
-    player = Programm(sys.argv[1], os.path.join(ordner, "Tarvelin"))
-    nimm_auf(player, sys.argv[2])
-    player.beende()
+with tempfile.TemporaryDirectory() as folder:
+    program_folder = os.path.join(folder, "Werkbank")
+    copy_program(sys.argv[1], program_folder)
+    shutil.copy(STARTER_PLAN, os.path.join(program_folder, "saves", "basic.tvf"))
+    player = Program(sys.argv[1], program_folder)
+    capture_workbench(player, sys.argv[2])
+    player.quit()
+    player = Program(sys.argv[1], os.path.join(folder, "Tarvelin"))
+    capture(player, sys.argv[2])
+    player.quit()

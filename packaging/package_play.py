@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""A new user's first two starts of an installed program: the starter plan is there, grows by some
+"""A new user's first two starts of an installed program: the starter plan is there, gets some more
 orders, and comes back.
 
     package_play.py FOLDER_OF_THE_PROGRAMS STARTER_PLAN HOME
@@ -7,37 +7,37 @@ orders, and comes back.
 import os
 import sys
 
-from driver import Installiertes, warte, xdotool
-from compare import erwartet, gesehen, rechne
+from compare import expected, run_plan, shown
+from driver import InstalledProgram, wait_for, xdotool
 
-BILDER = ["Metallmine", "Solarkraftwerk", "Kleiner Transporter"]
+PICTURES = ["Metallmine", "Solarkraftwerk", "Kleiner Transporter"]
 
 
-def main(programme, starterplan, heim):
-    def starte():
-        return Installiertes(programme, heim)
+def main(programs, starter_plan, home):
+    def start():
+        return InstalledProgram(programs, home)
 
-    start = rechne(programme, starterplan)
-    programm = starte()
-    warte(lambda: gesehen(programm) == erwartet(start), "the starter plan")
-    programm.klicke("push button", "Hide")
-    for zeilen, bild in enumerate(BILDER, len(start["Bauliste"]) + 1):
-        programm.ziehe(bild, zeilen)
-    programm.klicke("tree", "Optimale Bauzeiten")
+    starter_result = run_plan(programs, starter_plan)
+    program = start()
+    wait_for(lambda: shown(program) == expected(starter_result), "the starter plan")
+    program.click("push button", "Hide")
+    for row_count, picture in enumerate(PICTURES, len(starter_result["Bauliste"]) + 1):
+        program.drag(picture, row_count)
+    program.click("tree", "Optimale Bauzeiten")
     xdotool("key", "Return")
-    warte(lambda: len(programm.zeilen("Optimale Bauzeiten", 3)) == zeilen, "build times")
-    ist = gesehen(programm)
-    assert programm.beende() == 0
-    ergebnis = rechne(programme, os.path.join(programm.ordner, "saves", "autosave.tvf"))
-    # The build list's "Prod %" is that of the moment in which a row came, so it may differ.
-    for was in ["Bauzeiten", "Tag"]:
-        soll = erwartet(ergebnis)[was]
-        assert ist[was] == soll, f"console: {soll}\nwindow:  {ist[was]}"
-    programm = starte()
-    programm.antworte("Möchtest du die letzte Bauliste wiederherstellen?", "Ja")
-    programm.antworte("Bei jedem Start so verfahren?", "Nein")
-    warte(lambda: gesehen(programm) == erwartet(ergebnis), "the plan of the last time")
-    assert programm.beende() == 0
+    wait_for(lambda: len(program.rows("Optimale Bauzeiten", 3)) == row_count, "build times")
+    seen = shown(program)
+    assert program.quit() == 0
+    result = run_plan(programs, os.path.join(program.folder, "saves", "autosave.tvf"))
+    # The build list isn't compared: its "Prod %" is as of the moment when a row was dropped.
+    for part in ["schedule", "tags"]:
+        wanted = expected(result)[part]
+        assert seen[part] == wanted, f"console: {wanted}\nwindow:  {seen[part]}"
+    program = start()
+    program.answer("Möchtest du die letzte Bauliste wiederherstellen?", "Ja")
+    program.answer("Bei jedem Start so verfahren?", "Nein")
+    wait_for(lambda: shown(program) == expected(result), "the plan of the last session")
+    assert program.quit() == 0
 
 
 if __name__ == "__main__":

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Calendars of plans, read by a reader that isn't ours, held against the history of their runs.
+"""Calendars of plans, read by a library that isn't ours, against the history of their runs.
 
     calendar_test.py COMMAND PLAN...
 """
@@ -16,77 +16,79 @@ import icalendar
 MINUTE = datetime.timedelta(minutes=1)
 
 
-def rufe(programm, *worte):
-    return subprocess.run([*shlex.split(programm), *worte], check=False, stdout=subprocess.PIPE,
+def call(program, *words):
+    return subprocess.run([*shlex.split(program), *words], check=False, stdout=subprocess.PIPE,
                           stderr=subprocess.DEVNULL)
 
 
-def starts(programm, plan):
-    """The orders of the run by their moments; None if the plan can't be run."""
-    ergebnis = json.loads(rufe(programm, "--json", "--verlauf", plan).stdout)
-    if not ergebnis["Gelaufen"]:
+def starts(program, plan):
+    """The orders of the run, sorted by their moments; None if the plan can't be run."""
+    result = json.loads(call(program, "--json", "--verlauf", plan).stdout)
+    if not result["Gelaufen"]:
         return None
-    auftraege = ergebnis["Verlauf"]["Auftraege"]
-    for auftrag in auftraege:
-        tag, uhrzeit = auftrag["Startzeit"].split()
-        tag, monat, jahr = map(int, tag.split("."))
-        auftrag["Um"] = datetime.datetime.combine(datetime.date(jahr, monat, tag),
-                                                  datetime.time.fromisoformat(uhrzeit))
-    return sorted(auftraege, key=lambda auftrag: auftrag["Um"])
+    orders = result["Verlauf"]["Auftraege"]
+    for order in orders:
+        day, time_of_day = order["Startzeit"].split()
+        day, month, year = map(int, day.split("."))
+        order["at"] = datetime.datetime.combine(datetime.date(year, month, day),
+                                                datetime.time.fromisoformat(time_of_day))
+    return sorted(orders, key=lambda order: order["at"])
 
 
-def erwartet(auftraege):
-    """Moments with their orders: those within a minute of the first share one."""
-    gruppen = []
-    for auftrag in auftraege:
-        if not gruppen or auftrag["Um"] - gruppen[-1][0] > MINUTE:
-            gruppen.append((auftrag["Um"], []))
-        gruppen[-1][1].append(auftrag)
-    return gruppen
+def expected_groups(orders):
+    """Moments with their orders; orders within a minute of the first of a group belong to it."""
+    groups = []
+    for order in orders:
+        if not groups or order["at"] - groups[-1][0] > MINUTE:
+            groups.append((order["at"], []))
+        groups[-1][1].append(order)
+    return groups
 
 
-def lies(programm, plan, datei):
-    assert rufe(programm, "--ical", datei, plan).returncode == 0, plan
-    with open(datei, "rb") as strom:
-        bytes_ = strom.read()
-    assert bytes_.endswith(b"\r\n") and b"\n" not in bytes_.replace(b"\r\n", b"")
-    assert max(map(len, bytes_.split(b"\r\n"))) <= 75
-    return icalendar.Calendar.from_ical(bytes_).walk("VEVENT")
+def read_entries(program, plan, file):
+    """The events of the calendar that the console program writes."""
+    assert call(program, "--ical", file, plan).returncode == 0, plan
+    with open(file, "rb") as stream:
+        content = stream.read()
+    assert content.endswith(b"\r\n") and b"\n" not in content.replace(b"\r\n", b"")
+    assert max(map(len, content.split(b"\r\n"))) <= 75
+    return icalendar.Calendar.from_ical(content).walk("VEVENT")
 
 
-def pruefe(eintrag, um, auftraege):
-    assert eintrag["DTSTART"].dt == um, (eintrag["DTSTART"].dt, um)
-    assert eintrag["SUMMARY"] == ", ".join(a["Auftrag"] for a in auftraege), eintrag["SUMMARY"]
-    zeilen = iter(eintrag["DESCRIPTION"].split("\n"))
-    for auftrag in auftraege:
-        assert next(zeilen) == f"{auftrag['Um']:%H:%M:%S} {auftrag['Auftrag']}", eintrag
-        if not auftrag["Auftrag"].endswith("%"):
-            assert next(zeilen).startswith("Kosten: "), eintrag
-        assert not auftrag["Grund"] or next(zeilen) == auftrag["Grund"], eintrag
-    assert next(zeilen, None) is None, eintrag
-    wecker, = eintrag.walk("VALARM")
-    assert wecker["TRIGGER"].dt == datetime.timedelta(seconds=-10)
+def check(entry, at, orders):
+    assert entry["DTSTART"].dt == at, (entry["DTSTART"].dt, at)
+    assert entry["SUMMARY"] == ", ".join(order["Auftrag"] for order in orders), entry["SUMMARY"]
+    lines = iter(entry["DESCRIPTION"].split("\n"))
+    for order in orders:
+        assert next(lines) == f"{order['at']:%H:%M:%S} {order['Auftrag']}", entry
+        if not order["Auftrag"].endswith("%"):
+            assert next(lines).startswith("Kosten: "), entry
+        assert not order["Grund"] or next(lines) == order["Grund"], entry
+    assert next(lines, None) is None, entry
+    alarm, = entry.walk("VALARM")
+    assert alarm["TRIGGER"].dt == datetime.timedelta(seconds=-10)
 
 
-def main(programm, plaene):
-    with tempfile.TemporaryDirectory() as ordner:
-        for plan in plaene:
-            datei = os.path.join(ordner, "kalender.ics")
-            auftraege = starts(programm, plan)
-            if auftraege is None:
-                assert rufe(programm, "--ical", os.path.join(ordner, "ohne"), plan).returncode == 1
-                assert not os.path.exists(os.path.join(ordner, "ohne"))
+def main(program, plans):
+    with tempfile.TemporaryDirectory() as folder:
+        for plan in plans:
+            file = os.path.join(folder, "calendar.ics")
+            orders = starts(program, plan)
+            if orders is None:
+                nothing = os.path.join(folder, "nothing.ics")
+                assert call(program, "--ical", nothing, plan).returncode == 1
+                assert not os.path.exists(nothing)
                 continue
-            gruppen = erwartet(auftraege)
-            eintraege = lies(programm, plan, datei)
-            assert len(eintraege) == len(gruppen), plan
-            for eintrag, (um, auftraege) in zip(eintraege, gruppen):
-                pruefe(eintrag, um, auftraege)
-            kennungen = [eintrag["UID"] for eintrag in eintraege]
-            assert len(set(kennungen)) == len(kennungen), plan
-            # The second import replaces the first.
-            nochmal = lies(programm, plan, os.path.join(ordner, "nochmal.ics"))
-            assert [eintrag["UID"] for eintrag in nochmal] == kennungen
+            groups = expected_groups(orders)
+            entries = read_entries(program, plan, file)
+            assert len(entries) == len(groups), plan
+            for entry, (at, orders) in zip(entries, groups):
+                check(entry, at, orders)
+            uids = [entry["UID"] for entry in entries]
+            assert len(set(uids)) == len(uids), plan
+            # By the same ids a second import replaces the first.
+            again = read_entries(program, plan, os.path.join(folder, "again.ics"))
+            assert [entry["UID"] for entry in again] == uids
 
 
 if __name__ == "__main__":

@@ -1,34 +1,37 @@
-"""What the window shows of a plan, held against what the console program makes of it."""
+"""What the window shows of a plan, compared with what the console program makes of it."""
 import json
 import os
 import subprocess
 
 
-def rechne(programme, datei, *optionen):
-    """The console program's whole result of a plan, with its messages."""
-    programm = os.path.join(programme, "tarvelin-cli")
-    return json.loads(subprocess.run([programm, "--json", *optionen, datei],
+def run_plan(programs, file, *options):
+    """The console program's whole result for a plan, with its messages."""
+    program = os.path.join(programs, "tarvelin-cli")
+    return json.loads(subprocess.run([program, "--json", *options, file],
                                      stdout=subprocess.PIPE, check=False).stdout)
 
 
-def texte(programm, liste, spalten):
-    return [[zelle.get_name() for zelle in zeile] for zeile in programm.zeilen(liste, spalten)]
+def texts(program, list_name, columns):
+    """The texts of a list, row by row."""
+    return [[cell.get_name() for cell in row] for row in program.rows(list_name, columns)]
 
 
-def gesehen(programm):
+def shown(program):
     """What the window shows of the plan and its run."""
-    bauzeiten = programm.zeilen("Optimale Bauzeiten", 3)
+    schedule = program.rows("Optimale Bauzeiten", 3)
     return {
-        "Bauliste": texte(programm, "Bauliste", 3),
-        "Bauzeiten": [[zelle.get_name() for zelle in zeile] for zeile in bauzeiten],
-        "Tag": [zeile[0].get_description() for zeile in bauzeiten],
+        "build list": texts(program, "Bauliste", 3),
+        "schedule": [[cell.get_name() for cell in row] for row in schedule],
+        "tags": [row[0].get_description() for row in schedule],
     }
 
 
-def erwartet(ergebnis):
+def expected(result):
+    """What the window should show of this result."""
     return {
-        "Bauliste": [[z["Text"], z["SubItems1"], z["SubItems2"]] for z in ergebnis["Bauliste"]],
-        "Bauzeiten": [[z["Wochentag"], z["Uhrzeit"], z["theText"]]
-                      for z in ergebnis["LV_Bauzeiten"]],
-        "Tag": [z["Tag"] for z in ergebnis["LV_Bauzeiten"]],
+        "build list": [[row["Text"], row["SubItems1"], row["SubItems2"]]
+                       for row in result["Bauliste"]],
+        "schedule": [[row["Wochentag"], row["Uhrzeit"], row["theText"]]
+                     for row in result["LV_Bauzeiten"]],
+        "tags": [row["Tag"] for row in result["LV_Bauzeiten"]],
     }

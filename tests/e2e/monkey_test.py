@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""A monkey at the real program: clicks, drags and types at random, saves and loads by the dialog,
-ends and kills it. Nothing may crash, hang, or leave a plan that can't be read.
+"""A monkey at the real program: it clicks, drags and types at random, saves and loads by the
+dialog, ends the program and kills it. Nothing may crash, hang, or leave a plan that can't be read.
 
     monkey_test.py FOLDER_OF_THE_PROGRAMS SEED ACTIONS
 """
@@ -16,159 +16,161 @@ import subprocess
 import sys
 import tempfile
 
-from driver import STARTERPLAN, Atspi, Haende, Programm, gi, ist, kopiere, warte
-from compare import rechne
+from compare import run_plan
+from driver import STARTER_PLAN, Atspi, Hands, Program, copy_program, gi, has_state, wait_for
 
-LADEFEHLER = "Die Bauliste konnte nicht geladen werden..."
-TASTEN = ["Return", "Escape", "Tab", "shift+Tab", "space", "Up", "Down", "Left", "Right", "Home",
-          "End", "Page_Up", "BackSpace", "Delete", "ctrl+a", "ctrl+c", "ctrl+v", "ctrl+z", "alt+e",
-          "alt+s", "alt+d", "ctrl+n", "ctrl+o", "ctrl+s"] + list("0123456789xGM")
-BEDIENELEMENTE = ["text", "push button", "check box", "radio button", "slider", "combo box",
-                  "menu item", "tree", "table"]
-SPUREN = re.compile("Sanitizer|runtime error|ASSERT|terminate called")
+LOAD_ERROR = "Die Bauliste konnte nicht geladen werden..."
+KEYS = ["Return", "Escape", "Tab", "shift+Tab", "space", "Up", "Down", "Left", "Right", "Home",
+        "End", "Page_Up", "BackSpace", "Delete", "ctrl+a", "ctrl+c", "ctrl+v", "ctrl+z", "alt+e",
+        "alt+s", "alt+d", "ctrl+n", "ctrl+o", "ctrl+s"] + list("0123456789xGM")
+CONTROLS = ["text", "push button", "check box", "radio button", "slider", "combo box",
+            "menu item", "tree", "table"]
+CRASH_MARKS = re.compile("Sanitizer|runtime error|ASSERT|terminate called")
 
 
-class Affe:
-    def __init__(self, programme, temporaer, seed):
-        self.programme = programme
-        self.ordner = os.path.join(temporaer, "Tarvelin")
-        self.wuerfel = random.Random(seed)
-        self.fehlerdatei = os.path.join(temporaer, "fehlerstrom")
-        # Nothing leaves this machine, neither by a fetch nor by a browser.
-        self.umgebung = {"http_proxy": "http://127.0.0.1:9", "https_proxy": "http://127.0.0.1:9",
-                         "no_proxy": "", "BROWSER": "true"}
-        self.haende = Haende()
-        self.zaehler = collections.Counter()
-        kopiere(programme, self.ordner)
-        shutil.copy(STARTERPLAN, os.path.join(self.ordner, "saves", "basic.tvf"))
+class Monkey:
+    def __init__(self, programs, temp, seed):
+        self.programs = programs
+        self.folder = os.path.join(temp, "Tarvelin")
+        self.dice = random.Random(seed)
+        self.error_file = os.path.join(temp, "stderr")
+        # No fetch and no browser reaches beyond this machine.
+        self.environment = {"http_proxy": "http://127.0.0.1:9", "https_proxy": "http://127.0.0.1:9",
+                            "no_proxy": "", "BROWSER": "true"}
+        self.hands = Hands()
+        self.counter = collections.Counter()
+        copy_program(programs, self.folder)
+        shutil.copy(STARTER_PLAN, os.path.join(self.folder, "saves", "basic.tvf"))
         Atspi.set_timeout(15000, 15000)
-        self.starte()
+        self.start()
 
-    def starte(self):
-        with open(self.fehlerdatei, "a", encoding="utf-8") as strom:
-            self.programm = Programm(self.programme, self.ordner, self.umgebung, strom)
-        self.merke_ziele()
+    def start(self):
+        with open(self.error_file, "a", encoding="utf-8") as stream:
+            self.program = Program(self.programs, self.folder, self.environment, stream)
+        self.record_targets()
 
-    def merke_ziele(self):
-        """Where the controls are that can be seen."""
-        self.ziele, self.bilder, self.liste = [], [], None
-        for oberstes in self.programm.oberste():
-            self.merke(oberstes)
+    def record_targets(self):
+        """Finds out where the visible controls are."""
+        self.targets, self.pictures, self.build_list = [], [], None
+        for top_level in self.program.top_levels():
+            self.record(top_level)
 
-    def merke(self, knoten):
-        if knoten is None or not ist(knoten, Atspi.StateType.SHOWING):
+    def record(self, node):
+        if node is None or not has_state(node, Atspi.StateType.SHOWING):
             return
-        rolle, ort = knoten.get_role_name(), knoten.get_extents(Atspi.CoordType.SCREEN)
-        if rolle == "image":
-            self.bilder.append(ort)
-        elif rolle in BEDIENELEMENTE:
-            self.ziele.append(ort)
-        if knoten.get_name() == "Bauliste":
-            self.liste = ort
-        # Lists can have hundreds of cells.
-        for i in range(0 if rolle in ("tree", "table") else knoten.get_child_count()):
-            self.merke(knoten.get_child_at_index(i))
+        role, extents = node.get_role_name(), node.get_extents(Atspi.CoordType.SCREEN)
+        if role == "image":
+            self.pictures.append(extents)
+        elif role in CONTROLS:
+            self.targets.append(extents)
+        if node.get_name() == "Bauliste":
+            self.build_list = extents
+        # Not into the lists, which can have hundreds of cells.
+        for i in range(0 if role in ("tree", "table") else node.get_child_count()):
+            self.record(node.get_child_at_index(i))
 
-    def punkt(self, orte):
-        ort = self.wuerfel.choice(orte)
-        return (f"{max(0, ort.x + self.wuerfel.randrange(max(1, ort.width)))}"
-                f" {max(0, ort.y + self.wuerfel.randrange(max(1, ort.height)))}")
+    def point_in(self, areas):
+        extents = self.dice.choice(areas)
+        return (f"{max(0, extents.x + self.dice.randrange(max(1, extents.width)))}"
+                f" {max(0, extents.y + self.dice.randrange(max(1, extents.height)))}")
 
-    # What the monkey does; each returns words for the hands.
+    # What the monkey does. Each action returns the words for its hands.
 
-    def klicke(self):
-        return f"mousemove {self.punkt(self.ziele)} click {self.wuerfel.choice([1, 1, 1, 3, 4])}"
+    def click(self):
+        return f"mousemove {self.point_in(self.targets)} click {self.dice.choice([1, 1, 1, 3, 4])}"
 
-    def ziehe(self):
-        return (f"mousemove {self.punkt(self.bilder)} mousemove_relative 1 0 sleep 0.01 mousedown 1"
-                f" sleep 0.01 mousemove {self.punkt([self.liste])} mousemove_relative 1 1"
-                " sleep 0.01 mouseup 1")
+    def drag(self):
+        return (f"mousemove {self.point_in(self.pictures)} mousemove_relative 1 0 sleep 0.01"
+                f" mousedown 1 sleep 0.01 mousemove {self.point_in([self.build_list])}"
+                " mousemove_relative 1 1 sleep 0.01 mouseup 1")
 
-    def taste(self):
-        return "key --delay 1 " + self.wuerfel.choice(TASTEN)
+    def press_key(self):
+        return "key --delay 1 " + self.dice.choice(KEYS)
 
-    def beende_durch_signal(self):
-        """Asks it to end, whatever is open."""
-        zeichen = self.wuerfel.choice([signal.SIGTERM, signal.SIGHUP, signal.SIGINT])
-        self.zaehler[zeichen.name] += 1
-        self.programm.prozess.send_signal(zeichen)
-        self.programm.prozess.wait(30)
+    def end_by_signal(self):
+        """Asks the program to end, whatever is open."""
+        which = self.dice.choice([signal.SIGTERM, signal.SIGHUP, signal.SIGINT])
+        self.counter[which.name] += 1
+        self.program.process.send_signal(which)
+        self.program.process.wait(30)
         return ""
 
-    def toete(self):
-        """Kills it, now or while it saves."""
-        if self.wuerfel.random() < 0.5:
-            self.haende.tu(f"key alt+F4 sleep {self.wuerfel.uniform(0, 0.05):.3f}")
-        self.zaehler["SIGKILL"] += 1
-        self.programm.prozess.kill()
-        self.programm.prozess.wait()
+    def kill(self):
+        """Kills the program, at once or while it saves."""
+        if self.dice.random() < 0.5:
+            self.hands.do(f"key alt+F4 sleep {self.dice.uniform(0, 0.05):.3f}")
+        self.counter["SIGKILL"] += 1
+        self.program.process.kill()
+        self.program.process.wait()
         return ""
 
-    AKTIONEN = {klicke: 30, ziehe: 30, taste: 36, beende_durch_signal: 2, toete: 2}
+    ACTIONS = {click: 30, drag: 30, press_key: 36, end_by_signal: 2, kill: 2}
 
-    # What the monkey's keeper looks at before each action.
+    # What its keeper checks before each action.
 
-    def sieh_nach(self):
-        """The program shows a window, or it has ended well and is started again."""
-        warte(lambda: self.programm.prozess.poll() is not None or self.programm.oberste(),
-              "an answer of the program", 20)
-        if self.programm.prozess.poll() is not None:
-            self.pruefe_ende()
-            self.starte()
-        for knoten in self.programm.oberste():
-            if knoten.get_role_name() == "alert":
-                knoepfe = self.programm.lies_box(knoten).knoepfe
-                if knoepfe:
-                    Atspi.Action.do_action(knoepfe[self.wuerfel.choice(sorted(knoepfe))], 0)
-                    warte(lambda k=knoten: k not in self.programm.oberste(), "end of a box")
-            elif knoten.get_role_name() == "dialog":
-                self.zaehler[knoten.get_name()] += 1
-                name = self.wuerfel.choice(["affe.tvf", "autosave.tvf", "fehlt.tvf"])
-                self.haende.tu(f'key ctrl+a type --delay 1 "{self.ordner}/saves/{name}"')
-                self.haende.tu("key Return")
+    def look_after(self):
+        """The program shows a window, or has ended properly and is started again. Open boxes are
+        answered."""
+        wait_for(lambda: self.program.process.poll() is not None or self.program.top_levels(),
+                 "an answer of the program", 20)
+        if self.program.process.poll() is not None:
+            self.check_end()
+            self.start()
+        for node in self.program.top_levels():
+            if node.get_role_name() == "alert":
+                buttons = self.program.read_box(node).buttons
+                if buttons:
+                    Atspi.Action.do_action(buttons[self.dice.choice(sorted(buttons))], 0)
+                    wait_for(lambda node=node: node not in self.program.top_levels(),
+                             "end of a box")
+            elif node.get_role_name() == "dialog":
+                self.counter[node.get_name()] += 1
+                name = self.dice.choice(["monkey.tvf", "autosave.tvf", "missing.tvf"])
+                self.hands.do(f'key ctrl+a type --delay 1 "{self.folder}/saves/{name}"')
+                self.hands.do("key Return")
 
-    def pruefe_ende(self):
-        code = self.programm.prozess.returncode
-        with open(self.fehlerdatei, encoding="utf-8", errors="replace") as strom:
-            meldungen = strom.read()
-        assert not SPUREN.search(meldungen), meldungen[-20000:]
+    def check_end(self):
+        code = self.program.process.returncode
+        with open(self.error_file, encoding="utf-8", errors="replace") as stream:
+            messages = stream.read()
+        assert not CRASH_MARKS.search(messages), messages[-20000:]
         assert code in (0, -9), code
-        for datei in glob.glob(os.path.join(self.ordner, "saves", "*.tvf")):
-            meldungen = rechne(self.programme, datei)["Meldungen"]
-            assert LADEFEHLER not in [m["Text"] for m in meldungen], datei
-        reste = glob.glob(os.path.join(self.ordner, "**", ".tarvelin-*"), recursive=True)
-        assert code == -9 or not reste, reste
+        for plan in glob.glob(os.path.join(self.folder, "saves", "*.tvf")):
+            messages = run_plan(self.programs, plan)["Meldungen"]
+            assert LOAD_ERROR not in [message["Text"] for message in messages], plan
+        leftovers = glob.glob(os.path.join(self.folder, "**", ".tarvelin-*"), recursive=True)
+        assert code == -9 or not leftovers, leftovers
 
-    def spiele(self, aktionen):
-        for i in range(aktionen):
-            # A box or a window can go while we look at it.
+    def play(self, actions):
+        for i in range(actions):
+            # A box or window can close while it is read.
             with contextlib.suppress(gi.repository.GLib.Error):
-                self.sieh_nach()
+                self.look_after()
                 if i % 20 == 0:
-                    self.merke_ziele()
-                self.haende.tu(self.wuerfel.choices(
-                    list(self.AKTIONEN), self.AKTIONEN.values())[0](self))
+                    self.record_targets()
+                self.hands.do(self.dice.choices(
+                    list(self.ACTIONS), self.ACTIONS.values())[0](self))
 
 
-def main(programme, seed, aktionen):
-    with tempfile.TemporaryDirectory() as temporaer:
-        affe = Affe(programme, temporaer, seed)
+def main(programs, seed, actions):
+    with tempfile.TemporaryDirectory() as temp:
+        monkey = Monkey(programs, temp, seed)
         try:
-            affe.spiele(aktionen)
-            if affe.programm.prozess.poll() is None:
-                affe.beende_durch_signal()
-            affe.pruefe_ende()
+            monkey.play(actions)
+            if monkey.program.process.poll() is None:
+                monkey.end_by_signal()
+            monkey.check_end()
         finally:
-            affe.programm.prozess.kill()
-            affe.programm.prozess.wait()
-    print(dict(affe.zaehler))
+            monkey.program.process.kill()
+            monkey.program.process.wait()
+    print(dict(monkey.counter))
 
 
 if __name__ == "__main__":
-    if sys.argv[-1] != "--selbst":
-        # The library that reads the screen can crash when a program goes while it reads: then, and
-        # only then, once more.
-        befehl = [sys.executable, *sys.argv, "--selbst"]
-        ende = subprocess.call(befehl)
-        sys.exit(subprocess.call(befehl) if ende == -signal.SIGSEGV else ende)
+    if sys.argv[-1] != "--child":
+        # The library that reads the screen can crash when the program ends meanwhile. Then, and
+        # only then, the monkey plays once more.
+        command = [sys.executable, *sys.argv, "--child"]
+        code = subprocess.call(command)
+        sys.exit(subprocess.call(command) if code == -signal.SIGSEGV else code)
     main(sys.argv[1], int(sys.argv[2]), int(sys.argv[3]))

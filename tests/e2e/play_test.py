@@ -1,6 +1,7 @@
 #!/usr/bin/python3
-"""A player's time with the real program: first start, a plan by hand held against what the console
-program makes of it, recovery, a skin from the web, an alarm that is heard, the end of the session.
+"""A player's time with the real program: the first start, a plan by hand that is compared with what
+the console program makes of it, a second window, recovery, a skin from the web, an alarm that is
+heard, the end of the session.
 
     play_test.py FOLDER_OF_THE_PROGRAMS
 """
@@ -13,184 +14,185 @@ import sys
 import tempfile
 import time
 
-from driver import (STARTERPLAN, Atspi, Ohr, Programm, erstes_fenster, fensternummer, ist,
-                       kopiere, warte, xdotool)
-from opening import spiele
-from skinserver import Skinserver, bild, farbe
-from compare import erwartet, gesehen, rechne, texte
+from compare import expected, run_plan, shown, texts
+from driver import (STARTER_PLAN, Atspi, Ear, Program, copy_program, find_window, first_window,
+                    has_state, wait_for, xdotool)
+from opening import play
+from skinserver import SkinServer, color, picture
 
-DATUM = ["Tag", "Monat", "Jahr", "Stunden", "Minuten"]
+DATE_FIELDS = ["Tag", "Monat", "Jahr", "Stunden", "Minuten"]
 LABELS = ["LBL_Timegone", "LBL_Met", "LBL_Kris", "LBL_Deut", "LBL_ENergie", "LBL_Punkte"]
 
 
-def plandatei(programm, codes, schlafzeiten):
-    """The plan that the player entered, as a file."""
-    datum = [programm.text(feld) for feld in DATUM]
-    zeilen = ["[Einstellungen]", "KlickPuffer=15"]
-    zeilen += [f"UniStartZeit{feld}={text}" for feld, text in zip(DATUM, datum)]
-    zeilen += ["TempMax=24", "ShowDesc=1", "Speedfaktor_X2=0", "[Bauliste]",
-               f"ItemCount={len(codes)}"]
-    zeilen += [f"Item_{i:03}={code}" for i, code in enumerate(codes, 1)]
-    zeilen += ["[Schlafzeiten]", f"ItemCount={len(schlafzeiten)}"]
-    for i, (start, ende) in enumerate(schlafzeiten, 1):
-        zeilen += [f"Item_{i:03}={start}", f"SubItem_{i:03}={ende}"]
-    return "\r\n".join(zeilen) + "\r\n"
+def plan_text(program, codes, sleep_rows):
+    """The text of the plan's file, by what the player has entered."""
+    date_texts = [program.text(field) for field in DATE_FIELDS]
+    lines = ["[Einstellungen]", "KlickPuffer=15"]
+    lines += [f"UniStartZeit{field}={text}" for field, text in zip(DATE_FIELDS, date_texts)]
+    lines += ["TempMax=24", "ShowDesc=1", "Speedfaktor_X2=0", "[Bauliste]",
+              f"ItemCount={len(codes)}"]
+    lines += [f"Item_{i:03}={code}" for i, code in enumerate(codes, 1)]
+    lines += ["[Schlafzeiten]", f"ItemCount={len(sleep_rows)}"]
+    for i, (start, end) in enumerate(sleep_rows, 1):
+        lines += [f"Item_{i:03}={start}", f"SubItem_{i:03}={end}"]
+    return "\r\n".join(lines) + "\r\n"
 
 
-def zeigt(programm, ergebnis):
-    warte(lambda: len(programm.zeilen("Optimale Bauzeiten", 3)) == len(ergebnis["LV_Bauzeiten"]),
-          "build times")
-    assert gesehen(programm) == erwartet(ergebnis), gesehen(programm)
+def expect_shown(program, result):
+    wait_for(lambda: len(program.rows("Optimale Bauzeiten", 3)) == len(result["LV_Bauzeiten"]),
+             "build times")
+    assert shown(program) == expected(result), shown(program)
     for label in LABELS:
-        programm.finde("label", ergebnis[label])
+        program.find("label", result[label])
 
 
-def erster_start(programme, ordner):
-    """The starter plan comes up unasked."""
-    kopiere(programme, ordner)
-    starterplan = os.path.join(ordner, "saves", "basic.tvf")
-    shutil.copy(STARTERPLAN, starterplan)
-    programm = Programm(programme, ordner)
-    zeigt(programm, rechne(programme, STARTERPLAN))
-    assert not programm.boxen() and programm.fenster.get_name().endswith("      ( basic.tvf )")
-    warte(lambda: not os.path.exists(starterplan), "end of the starter plan")
-    return programm
+def first_start(programs, folder):
+    """The starter plan is loaded without a question. Returns the running program."""
+    copy_program(programs, folder)
+    starter_plan = os.path.join(folder, "saves", "basic.tvf")
+    shutil.copy(STARTER_PLAN, starter_plan)
+    program = Program(programs, folder)
+    expect_shown(program, run_plan(programs, STARTER_PLAN))
+    assert not program.boxes() and program.window.get_name().endswith("      ( basic.tvf )")
+    wait_for(lambda: not os.path.exists(starter_plan), "end of the starter plan")
+    return program
 
 
-def pruefe_zweites_fenster(programme, programm, datei, autosave):
-    """Two windows of a folder: the second asks, and keeps nothing."""
-    def bauliste(plan):
-        return rechne(programme, plan)["Bauliste"]
+def check_second_window(programs, program, file, autosave):
+    """The second window of a folder asks whether it should open, and writes nothing."""
+    def build_list(plan):
+        return run_plan(programs, plan)["Bauliste"]
 
-    def behalten():
-        with open(os.path.join(programm.ordner, "config.cfg"), "rb") as config:
-            return config.read(), bauliste(autosave)
-    warte(lambda: bauliste(autosave) == bauliste(datei), "the plan on the disk")
-    vorher = behalten()
-    for antwort in ["Nein", "Ja"]:
-        zweites = subprocess.Popen([os.path.join(programm.ordner, "tarvelin"), datei],
-                                   env={**os.environ, "LC_ALL": "C.UTF-8"})
-        fenster = warte(lambda: erstes_fenster(zweites.pid), "the question")
-        box = Programm.lies_box(fenster)
+    def kept():
+        with open(os.path.join(program.folder, "config.cfg"), "rb") as config:
+            return config.read(), build_list(autosave)
+    wait_for(lambda: build_list(autosave) == build_list(file), "the plan on the disk")
+    before = kept()
+    for answer in ["Nein", "Ja"]:
+        second = subprocess.Popen([os.path.join(program.folder, "tarvelin"), file],
+                                  env={**os.environ, "LC_ALL": "C.UTF-8"})
+        window = wait_for(lambda: first_window(second.pid), "the question")
+        box = Program.read_box(window)
         assert box.text.startswith("Tarvelin läuft schon."), box
-        xdotool("sleep", 0.3, "mousemove", *programm.mitte(box.knoepfe[antwort]), "click", 1)
-        if antwort == "Ja":
-            titel = f"({os.path.basename(datei)})".replace("(", "( ").replace(")", " )")
-            nummer = warte(lambda: fensternummer(titel.replace("(", "[(]").replace(")", "[)]")),
-                           "the second window")
-            xdotool("windowactivate", "--sync", nummer, "key", "Tab", "key", "ctrl+n", "sleep", 0.5,
-                    "key", "alt+F4")
-        assert zweites.wait(timeout=30) == 0
-    assert behalten() == vorher
-    xdotool("windowactivate", "--sync", programm.nummer)
+        xdotool("sleep", 0.3, "mousemove", *program.center(box.buttons[answer]), "click", 1)
+        if answer == "Ja":
+            window_id = wait_for(lambda: find_window(f"[(] {os.path.basename(file)} [)]"),
+                                 "the second window")
+            xdotool("windowactivate", "--sync", window_id, "key", "Tab", "key", "ctrl+n",
+                    "sleep", 0.5, "key", "alt+F4")
+        assert second.wait(timeout=30) == 0
+    assert kept() == before
+    xdotool("windowactivate", "--sync", program.window_id)
 
 
-def pruefe_plan(programme, programm, datei):
-    """A new plan by hand, held against a file of the same. Its result."""
+def check_plan(programs, program, file):
+    """A new plan by hand, compared with a file of the same plan. Returns its result."""
     xdotool("key", "ctrl+n")
-    warte(lambda: programm.zeilen("Bauliste", 3) == [], "an empty list")
-    codes = spiele(programm)
-    schlafzeiten = texte(programm, "Schlafzeiten", 2)
+    wait_for(lambda: program.rows("Bauliste", 3) == [], "an empty list")
+    codes = play(program)
+    sleep_rows = texts(program, "Schlafzeiten", 2)
     xdotool("key", "Return")
-    warte(lambda: len(programm.zeilen("Optimale Bauzeiten", 3)) == len(codes), "build times")
-    with open(datei, "w", encoding="cp1252", newline="") as strom:
-        strom.write(plandatei(programm, codes, schlafzeiten))
-    ergebnis = rechne(programme, datei)
-    zeigt(programm, ergebnis)
-    # The sleep window has held an order back until its end.
-    ende = schlafzeiten[-1][1].split()[1]
-    assert any(z["Uhrzeit"].startswith(ende) for z in ergebnis["LV_Bauzeiten"]), ergebnis
-    return ergebnis
+    wait_for(lambda: len(program.rows("Optimale Bauzeiten", 3)) == len(codes), "build times")
+    with open(file, "w", encoding="cp1252", newline="") as stream:
+        stream.write(plan_text(program, codes, sleep_rows))
+    result = run_plan(programs, file)
+    expect_shown(program, result)
+    # The sleep window holds an order back until its end.
+    end = sleep_rows[-1][1].split()[1]
+    assert any(row["Uhrzeit"].startswith(end) for row in result["LV_Bauzeiten"]), result
+    return result
 
 
-def stelle_wieder_her(programme, ordner, ergebnis):
-    programm = Programm(programme, ordner)
-    for frage, antwort in [("Möchtest du die letzte Bauliste wiederherstellen?", "Ja"),
-                           ("Bei jedem Start so verfahren?", "Nein")]:
-        titel = programm.antworte(frage, antwort)
-        assert titel == "Wiederherstellen...", titel
-    zeigt(programm, ergebnis)
-    panel = programm.finde("panel", "Einstellungen:")
-    warte(lambda: not ist(panel, Atspi.StateType.SHOWING), "end of the settings")
-    return programm
+def recover(programs, folder, result):
+    """The last plan comes back at the start. Returns the running program."""
+    program = Program(programs, folder)
+    for question, answer in [("Möchtest du die letzte Bauliste wiederherstellen?", "Ja"),
+                             ("Bei jedem Start so verfahren?", "Nein")]:
+        title = program.answer(question, answer)
+        assert title == "Wiederherstellen...", title
+    expect_shown(program, result)
+    panel = program.find("panel", "Einstellungen:")
+    wait_for(lambda: not has_state(panel, Atspi.StateType.SHOWING), "end of the settings")
+    return program
 
 
-def pruefe_webskin(programm):
-    """A skin is fetched, lands and is shown."""
-    server = Skinserver(lambda pfad: (200, bild(pfad), None))
-    punkte = programm.farben()["Punkte"]
-    programm.klicke("menu item", "Skin")
-    programm.klicke("radio button", "Web")
-    programm.tippe("Web-Verzeichnis", server.adresse + "/a")
-    programm.klicke("push button", "OK")
-    titel = programm.antworte(
+def check_web_skin(program):
+    """A skin is fetched, stored and shown."""
+    server = SkinServer(lambda path: (200, picture(path), None))
+    points_color = program.colors()["Punkte"]
+    program.click("menu item", "Skin")
+    program.click("radio button", "Web")
+    program.type_text("Web-Verzeichnis", server.address + "/a")
+    program.click("push button", "OK")
+    title = program.answer(
         "Der folgende Vorgang kann einige Sekunden dauern, je nach Internet-Anbindung...", "OK")
-    assert titel == "Fortsetzen...", titel
-    dateien = warte(lambda: len(server.pfade) == 24 and list(server.pfade), "24 files")
-    warte(lambda: sorted(programm.farben().values())
-          == sorted([punkte] + [farbe(pfad) for pfad in dateien]), "pictures")
-    for pfad in dateien:
-        landeplatz = os.path.join(programm.ordner, "img", "skins", "temp_webskin")
-        with open(landeplatz + pfad.removeprefix("/a"), "rb") as strom:
-            assert strom.read() == bild(pfad), pfad
+    assert title == "Fortsetzen...", title
+    files = wait_for(lambda: len(server.paths) == 24 and list(server.paths), "24 files")
+    wait_for(lambda: sorted(program.colors().values())
+             == sorted([points_color] + [color(path) for path in files]), "pictures")
+    target = os.path.join(program.folder, "img", "skins", "temp_webskin")
+    for path in files:
+        with open(target + path.removeprefix("/a"), "rb") as stream:
+            assert stream.read() == picture(path), path
 
 
-def pruefe_wecker(programm):
-    """An order falls due, and the sound card plays in the second that was asked for."""
-    programm.klicke("menu item", "Einstellungen")
+def check_alarm(program):
+    """An order falls due, and the sound card plays as many seconds before as the player chose."""
+    program.click("menu item", "Einstellungen")
     start = datetime.datetime.now() + datetime.timedelta(minutes=2)
-    for feld, form in zip(DATUM, ["%d", "%m", "%Y", "%H", "%M"]):
-        programm.tippe(feld, start.strftime(form))
-    programm.klicke("push button", "Simulation starten")
-    tag = warte(lambda: (zeilen := programm.zeilen("Optimale Bauzeiten", 3))
-                and start.strftime("%d.%m.%Y %H:%M:") in zeilen[0][0].get_description()
-                and zeilen[0][0].get_description(), "an order to come")
-    bauzeit = datetime.datetime.strptime(" ".join(tag.split()[1:3]), "%d.%m.%Y %H:%M:%S")
-    programm.klicke("check box", "Baustart-Alarm | X-sec vorher:", anteil=0.1)
-    # On a busy machine a tick can miss its second, and then nothing rings.
+    for field, pattern in zip(DATE_FIELDS, ["%d", "%m", "%Y", "%H", "%M"]):
+        program.type_text(field, start.strftime(pattern))
+    program.click("push button", "Simulation starten")
+    tag = wait_for(lambda: (rows := program.rows("Optimale Bauzeiten", 3))
+                   and start.strftime("%d.%m.%Y %H:%M:") in rows[0][0].get_description()
+                   and rows[0][0].get_description(), "an order to come")
+    order_start = datetime.datetime.strptime(" ".join(tag.split()[1:3]), "%d.%m.%Y %H:%M:%S")
+    program.click("check box", "Baustart-Alarm | X-sec vorher:", share=0.1)
+    # On a busy machine a tick can miss its second; then there is no sound.
     for _ in range(5):
-        ohr = Ohr()
-        vorher = int((bauzeit - datetime.datetime.now()).total_seconds()) - 4
-        assert vorher >= 0, "no time is left"
-        # The drop-down list's field has no name of its own.
-        programm.tippe("", str(vorher))
-        faellig = bauzeit.timestamp() - vorher
-        time.sleep(max(0, faellig + 3 - time.time()))
-        ohr.schliesse()
-        if ohr.laut_um:
+        ear = Ear()
+        lead = int((order_start - datetime.datetime.now()).total_seconds()) - 4
+        assert lead >= 0, "no time is left"
+        # The text field of the drop-down list has no name.
+        program.type_text("", str(lead))
+        due = order_start.timestamp() - lead
+        time.sleep(max(0, due + 3 - time.time()))
+        ear.close()
+        if ear.loud_at:
             break
-        # What rings late must not be taken for the next.
+        # A late sound must not be taken for the next one.
         time.sleep(2)
-    assert ohr.laut_um and ohr.laut_um[0] >= faellig, (ohr.laut_um[:1], faellig)
+    assert ear.loud_at and ear.loud_at[0] >= due, (ear.loud_at[:1], due)
 
 
-def pruefe_ende_durch_signal(programm, autosave):
-    """The session ends while a dialog is open: the plan is there."""
-    programm.klicke("push button", "Undo")
+def check_end_by_signal(program, autosave):
+    """The session ends while a dialog is open; the plan is kept."""
+    program.click("push button", "Undo")
     xdotool("key", "ctrl+o")
-    warte(lambda: any(k.get_role_name() == "dialog" for k in programm.oberste()), "the dialog")
-    programm.prozess.send_signal(signal.SIGTERM)
-    code = programm.prozess.wait(timeout=30)
+    wait_for(lambda: any(node.get_role_name() == "dialog" for node in program.top_levels()),
+             "the dialog")
+    program.process.send_signal(signal.SIGTERM)
+    code = program.process.wait(timeout=30)
     assert code == 0, code
-    plan = rechne(programm.ordner, autosave)["Bauliste"]
+    plan = run_plan(program.folder, autosave)["Bauliste"]
     assert plan[-1]["Tag"] == "GW"
-    with open(os.path.join(programm.ordner, "config.cfg"), encoding="cp1252") as datei:
-        assert f"ItemCount={len(plan)}\n" in datei.read(), "only the end writes it"
+    with open(os.path.join(program.folder, "config.cfg"), encoding="cp1252") as file:
+        assert f"ItemCount={len(plan)}\n" in file.read(), "only the program's end writes it"
 
 
-def main(programme):
-    with tempfile.TemporaryDirectory() as temporaer:
-        ordner = os.path.join(temporaer, "Tarvelin")
-        autosave = os.path.join(ordner, "saves", "autosave.tvf")
-        programm = erster_start(programme, ordner)
-        ergebnis = pruefe_plan(programme, programm, os.path.join(temporaer, "plan.tvf"))
-        pruefe_zweites_fenster(programme, programm, os.path.join(temporaer, "plan.tvf"), autosave)
-        assert programm.beende() == 0
-        assert rechne(programme, autosave)["LV_Bauzeiten"] == ergebnis["LV_Bauzeiten"]
-        programm = stelle_wieder_her(programme, ordner, ergebnis)
-        pruefe_webskin(programm)
-        pruefe_wecker(programm)
-        pruefe_ende_durch_signal(programm, autosave)
+def main(programs):
+    with tempfile.TemporaryDirectory() as temp:
+        folder = os.path.join(temp, "Tarvelin")
+        autosave = os.path.join(folder, "saves", "autosave.tvf")
+        program = first_start(programs, folder)
+        result = check_plan(programs, program, os.path.join(temp, "plan.tvf"))
+        check_second_window(programs, program, os.path.join(temp, "plan.tvf"), autosave)
+        assert program.quit() == 0
+        assert run_plan(programs, autosave)["LV_Bauzeiten"] == result["LV_Bauzeiten"]
+        program = recover(programs, folder, result)
+        check_web_skin(program)
+        check_alarm(program)
+        check_end_by_signal(program, autosave)
 
 
 if __name__ == "__main__":

@@ -1,39 +1,39 @@
-"""A web server on this machine, for skins that come whole and others that don't."""
+"""A web server on this machine that serves skins."""
 import http.server
 import threading
 import zlib
 
 
-def farbe(pfad):
-    return (zlib.crc32(pfad.encode()) & 0xffffff).to_bytes(3, "big")
+def color(path):
+    return (zlib.crc32(path.encode()) & 0xffffff).to_bytes(3, "big")
 
 
-def bild(pfad):
-    """A picture of one dot, in a colour of its own."""
-    return b"GIF89a\1\0\1\0\x80\0\0" + farbe(pfad) + b"\0\0\0,\0\0\0\0\1\0\1\0\0\2\2D\1\0;"
+def picture(path):
+    """A picture of one pixel, in a colour that only this path has."""
+    return b"GIF89a\1\0\1\0\x80\0\0" + color(path) + b"\0\0\0,\0\0\0\0\1\0\1\0\0\2\2D\1\0;"
 
 
-class Skinserver(http.server.ThreadingHTTPServer):
-    """Answers from its start on; keeps the paths that it was asked for."""
+class SkinServer(http.server.ThreadingHTTPServer):
+    """Answers as soon as it exists, and keeps the requested paths."""
 
-    def __init__(self, antworte):
-        """`antworte` tells of a path: the status, the bytes, and how many of them arrive,
-        all for None."""
-        super().__init__(("127.0.0.1", 0), Anfrage)
-        self.antworte = antworte
-        self.pfade = []
-        self.adresse = f"http://127.0.0.1:{self.server_port}"
+    def __init__(self, answer):
+        """`answer` gives for a path the status, the content, and how many of its bytes are sent
+        (None: all)."""
+        super().__init__(("127.0.0.1", 0), RequestHandler)
+        self.answer = answer
+        self.paths = []
+        self.address = f"http://127.0.0.1:{self.server_port}"
         threading.Thread(target=self.serve_forever, daemon=True).start()
 
 
-class Anfrage(http.server.BaseHTTPRequestHandler):
+class RequestHandler(http.server.BaseHTTPRequestHandler):
     def do_GET(self):
-        self.server.pfade.append(self.path)
-        status, inhalt, davon = self.server.antworte(self.path)
+        self.server.paths.append(self.path)
+        status, content, sent = self.server.answer(self.path)
         self.send_response(status)
-        self.send_header("Content-Length", str(len(inhalt)))
+        self.send_header("Content-Length", str(len(content)))
         self.end_headers()
-        self.wfile.write(inhalt[:davon])
+        self.wfile.write(content[:sent])
         self.close_connection = True
 
     def log_message(self, *_):

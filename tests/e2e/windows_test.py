@@ -1,8 +1,8 @@
 #!/usr/bin/python3
-"""A player's time with the real window on Windows, by mouse and keys: first start, a drag, a run, a
-save under a name with umlauts, recovery, a death in the middle, a second window, a plan by double click, an alarm that is heard, a skin from
-the web, the workbench; then the setup: installed, installed over itself while the program runs,
-removed.
+"""A player's time with the real window on Windows, by mouse and keys: the first start, a drag, a
+run, a save under a name with umlauts, recovery, also of a killed program, an alarm that is heard, a
+second window, a skin from the web, the workbench; then the setup: an older version, the present one
+over it while the program runs, the removal.
 
     windows_test.py FOLDER_OF_THE_PROGRAMS SETUP PICTURES
 """
@@ -15,319 +15,331 @@ import subprocess
 import sys
 import time
 
-from driver import STARTERPLAN, Fehler, Ohr, fensternummer, warte, xdotool
-from skinserver import Skinserver, bild
+from driver import STARTER_PLAN, Ear, PlayError, find_window, wait_for, xdotool
+from skinserver import SkinServer, picture
 
 WINE = "/usr/lib/wine/wine64"
-# Places in the window, which has one size.
-HIDE, METALLMINE, LISTE, WECKER, SKIN = (76, 269), (268, 60), (110, 190), (635, 244), (302, 8)
-# Those that lie on no picture, don't change and are no riddle to a reader.
-AUFSCHRIFTEN = ["Datei", "Einstellungen", "Schlafzeiten", "Skin", "Info", "Werkbank", "Bauliste", "Gebäude",
-                "Verteidigung", "Raumschiffe", "Optimale Bauzeiten", "Uhrzeit", "Baustart-Alarm", "Undo"]
-# Width, height and place of the label of the points.
-PUNKTE = "120x24+655+260"
-WEB, WEBPFAD, SKIN_OK = (23, 73), (150, 57), (129, 73)
+# Positions in the window, whose size is fixed.
+HIDE, METAL_MINE, BUILD_LIST, ALARM, SKIN = (76, 269), (268, 60), (110, 190), (635, 244), (302, 8)
+# Those that lie on no picture, never change, and can be read by a program.
+CAPTIONS = ["Datei", "Einstellungen", "Schlafzeiten", "Skin", "Info", "Werkbank", "Bauliste",
+            "Gebäude", "Verteidigung", "Raumschiffe", "Optimale Bauzeiten", "Uhrzeit",
+            "Baustart-Alarm", "Undo"]
+# Size and position of the label of the points.
+POINTS = "120x24+655+260"
+WEB, WEB_PATH, SKIN_OK = (23, 73), (150, 57), (129, 73)
 
 
-def wine(*worte):
-    return subprocess.run([WINE, *worte], check=False, stdout=subprocess.PIPE,
+def wine(*words):
+    return subprocess.run([WINE, *words], check=False, stdout=subprocess.PIPE,
                           stderr=subprocess.DEVNULL, timeout=120)
 
 
-def rechne(programme, plan):
-    return json.loads(wine(os.path.join(programme, "tarvelin-cli.exe"), "--json", plan).stdout)
+def run_plan(programs, plan):
+    return json.loads(wine(os.path.join(programs, "tarvelin-cli.exe"), "--json", plan).stdout)
 
 
-def aktives_fenster():
+def active_window():
     return subprocess.run(["xdotool", "getactivewindow"], capture_output=True, text=True,
                           check=False).stdout.strip()
 
 
-class Fenster:
+class Window:
     """The program's window."""
 
-    def __init__(self, programm, *worte):
-        self.prozess = subprocess.Popen([WINE, programm, *worte], stderr=subprocess.DEVNULL)
-        self.nummer = warte(lambda: fensternummer("Kelva Aufbau"), "the window", 60)
-        xdotool("windowactivate", "--sync", self.nummer, "sleep", 1)
+    def __init__(self, program, *words):
+        self.process = subprocess.Popen([WINE, program, *words], stderr=subprocess.DEVNULL)
+        self.window_id = wait_for(lambda: find_window("Kelva Aufbau"), "the window", 60)
+        xdotool("windowactivate", "--sync", self.window_id, "sleep", 1)
 
-    def klicke(self, ort):
-        xdotool("mousemove", "--window", self.nummer, *ort, "sleep", 0.2, "click", 1, "sleep", 0.4)
+    def click(self, position):
+        xdotool("mousemove", "--window", self.window_id, *position, "sleep", 0.2, "click", 1,
+                "sleep", 0.4)
 
-    def ziehe(self, von, nach):
-        xdotool("mousemove", "--window", self.nummer, von[0] - 3, von[1], "sleep", 0.2,
-                "mousemove", "--window", self.nummer, *von, "sleep", 0.2, "mousedown", 1, "sleep", 0.2,
-                "mousemove", "--window", self.nummer, *nach, "sleep", 0.2,
-                "mousemove", "--window", self.nummer, nach[0] + 3, nach[1], "sleep", 0.3, "mouseup", 1,
-                "sleep", 0.3)
+    def drag(self, origin, target):
+        xdotool("mousemove", "--window", self.window_id, origin[0] - 3, origin[1], "sleep", 0.2,
+                "mousemove", "--window", self.window_id, *origin, "sleep", 0.2,
+                "mousedown", 1, "sleep", 0.2,
+                "mousemove", "--window", self.window_id, *target, "sleep", 0.2,
+                "mousemove", "--window", self.window_id, target[0] + 3, target[1], "sleep", 0.3,
+                "mouseup", 1, "sleep", 0.3)
 
-    def tippe(self, *tasten):
-        xdotool("windowactivate", "--sync", self.nummer, "key", *tasten, "sleep", 0.5)
+    def press(self, *keys):
+        xdotool("windowactivate", "--sync", self.window_id, "key", *keys, "sleep", 0.5)
 
-    def titel(self):
-        return subprocess.run(["xdotool", "getwindowname", self.nummer], capture_output=True,
+    def title(self):
+        return subprocess.run(["xdotool", "getwindowname", self.window_id], capture_output=True,
                               text=True, check=False).stdout
 
     @staticmethod
-    def antworte(titel, taste):
-        """Answers the question with this title by a key."""
-        warte(lambda: fensternummer(titel), titel)
-        xdotool("sleep", 0.5, "key", taste, "sleep", 0.8)
+    def answer(title, key):
+        """Answers the box with this title by a key."""
+        wait_for(lambda: find_window(title), title)
+        xdotool("sleep", 0.5, "key", key, "sleep", 0.8)
 
-    def stelle_wieder_her(self):
-        self.antworte("Wiederherstellen", "alt+j")
-        self.antworte("Wiederherstellen", "alt+n")
+    def recover(self):
+        self.answer("Wiederherstellen", "alt+j")
+        self.answer("Wiederherstellen", "alt+n")
 
-    def stirb(self):
-        self.prozess.kill()
-        self.prozess.wait()
-        warte(lambda: not fensternummer("Kelva Aufbau"), "the end")
+    def kill(self):
+        self.process.kill()
+        self.process.wait()
+        wait_for(lambda: not find_window("Kelva Aufbau"), "the end")
 
-    def ausschnitt(self, wo):
-        """The colours of a part of the window."""
-        return subprocess.check_output(["import", "-window", self.nummer, "-crop", wo, "-depth", "8",
-                                        "rgb:-"])
+    def crop(self, area):
+        """The pixels of a part of the window."""
+        return subprocess.check_output(["import", "-window", self.window_id, "-crop", area,
+                                        "-depth", "8", "rgb:-"])
 
-    def gelesen(self):
-        """The texts of the window, as somebody reads them who knows nothing of it."""
-        bild_ = subprocess.run(["import", "-window", self.nummer, "png:-"], check=True,
-                               capture_output=True).stdout
-        gross = subprocess.run(["convert", "-", "-colorspace", "Gray", "-resize", "400%", "-unsharp",
-                                "0x1", "png:-"], input=bild_, check=True, capture_output=True).stdout
-        return subprocess.run(["tesseract", "-", "-", "-l", "deu", "--psm", "11"], input=gross,
+    def read_texts(self):
+        """The texts in a picture of the window."""
+        original = subprocess.run(["import", "-window", self.window_id, "png:-"], check=True,
+                                  capture_output=True).stdout
+        enlarged = subprocess.run(["convert", "-", "-colorspace", "Gray", "-resize", "400%",
+                                   "-unsharp", "0x1", "png:-"], input=original, check=True,
+                                  capture_output=True).stdout
+        return subprocess.run(["tesseract", "-", "-", "-l", "deu", "--psm", "11"], input=enlarged,
                               check=True, capture_output=True).stdout.decode()
 
-    def aufnahme(self, datei):
-        subprocess.run(["import", "-window", "root", datei], check=True)
+    def screenshot(self, file):
+        """Saves a picture of the whole screen."""
+        subprocess.run(["import", "-window", "root", file], check=True)
 
-    def beende(self):
-        self.tippe("alt+d")
+    def quit(self):
+        self.press("alt+d")
         xdotool("key", "b")
-        assert self.prozess.wait(timeout=60) == 0
+        assert self.process.wait(timeout=60) == 0
 
 
-def speichere(fenster, datei):
-    """Saves under a name of the folder that the dialog shows. Hands whose keyboard is mapped anew for
-    each umlaut can slip on a busy machine: they try again."""
+def save(window, file):
+    """Saves under a name in the folder that the dialog shows. xdotool remaps the keyboard for each
+    umlaut, which can fail on a busy machine, hence the repetition."""
     for _ in range(3):
-        fenster.tippe("ctrl+s")
-        # The platform's own dialog bears no title here.
-        warte(lambda: aktives_fenster() not in ("", fenster.nummer), "the dialog")
-        xdotool("sleep", 1, "key", "ctrl+a", "type", "--delay", "80", os.path.basename(datei))
+        window.press("ctrl+s")
+        # The native dialog has no title here.
+        wait_for(lambda: active_window() not in ("", window.window_id), "the dialog")
+        xdotool("sleep", 1, "key", "ctrl+a", "type", "--delay", "80", os.path.basename(file))
         xdotool("sleep", 0.5, "key", "Return", "sleep", 3)
-        if os.path.exists(datei):
+        if os.path.exists(file):
             return
         xdotool("key", "Escape", "sleep", 1)
-    raise Fehler(datei)
+    raise PlayError(file)
 
 
-def pruefe_texte(gelesen, bauzeiten):
+def check_texts(found, schedule):
     """No letter is missing in captions and lists."""
-    worte = AUFSCHRIFTEN + [zeile[spalte] for zeile in bauzeiten for spalte in ("Uhrzeit", "theText")]
-    fehlende = [wort for wort in worte if wort not in gelesen]
-    assert not fehlende, (fehlende, gelesen)
+    words = CAPTIONS + [row[column] for row in schedule for column in ("Uhrzeit", "theText")]
+    missing = [word for word in words if word not in found]
+    assert not missing, (missing, found)
 
 
-def pruefe_ersten_start(programme, ordner, bilder):
-    """The starter plan, one order more, saved under a name of its own. The plan's file."""
-    shutil.copy(STARTERPLAN, os.path.join(ordner, "saves", "basic.tvf"))
-    fenster = Fenster(os.path.join(ordner, "tarvelin.exe"))
-    warte(lambda: "basic.tvf" in fenster.titel(), "the starter plan")
-    fenster.klicke(HIDE)
-    fenster.ziehe(METALLMINE, LISTE)
-    vorher_punkte = fenster.ausschnitt(PUNKTE)
-    fenster.tippe("Return")
-    warte(lambda: fenster.ausschnitt(PUNKTE) != vorher_punkte, "the run")
-    pruefe_texte(fenster.gelesen(), rechne(programme, STARTERPLAN)["LV_Bauzeiten"][:12])
-    fenster.aufnahme(os.path.join(bilder, "fenster.png"))
-    datei = os.path.join(ordner, "saves", "Größe äöü.tvf")
-    speichere(fenster, datei)
-    vorher = rechne(programme, STARTERPLAN)["Bauliste"]
-    nachher = rechne(programme, datei)
-    assert len(nachher["Bauliste"]) == len(vorher) + 1 and nachher["Bauliste"][-1]["Tag"] == "GM"
-    fenster.beende()
-    return datei
+def check_first_start(programs, folder, pictures):
+    """The starter plan is loaded, gets one more order, and is saved. Returns its new file."""
+    shutil.copy(STARTER_PLAN, os.path.join(folder, "saves", "basic.tvf"))
+    window = Window(os.path.join(folder, "tarvelin.exe"))
+    wait_for(lambda: "basic.tvf" in window.title(), "the starter plan")
+    window.click(HIDE)
+    window.drag(METAL_MINE, BUILD_LIST)
+    points_before = window.crop(POINTS)
+    window.press("Return")
+    wait_for(lambda: window.crop(POINTS) != points_before, "the run")
+    check_texts(window.read_texts(), run_plan(programs, STARTER_PLAN)["LV_Bauzeiten"][:12])
+    window.screenshot(os.path.join(pictures, "window.png"))
+    file = os.path.join(folder, "saves", "Größe äöü.tvf")
+    save(window, file)
+    before = run_plan(programs, STARTER_PLAN)["Bauliste"]
+    after = run_plan(programs, file)
+    assert len(after["Bauliste"]) == len(before) + 1 and after["Bauliste"][-1]["Tag"] == "GM"
+    window.quit()
+    return file
 
 
-def pruefe_wiederherstellung(programme, ordner):
-    """The last plan comes back, also after a death; who has died holds no lock."""
-    def zeilen():
-        saves = os.path.join(ordner, "saves")
-        return [len(rechne(programme, os.path.join(saves, name))["Bauliste"])
+def check_recovery(programs, folder):
+    """The last plan comes back, even after a kill: a dead program holds no lock."""
+    def row_counts():
+        saves = os.path.join(folder, "saves")
+        return [len(run_plan(programs, os.path.join(saves, name))["Bauliste"])
                 for name in ("autosave.tvf", "autosave-vorige.tvf")
                 if os.path.exists(os.path.join(saves, name))]
-    for stirbt in (False, True):
-        letzte = zeilen()[0]
-        fenster = Fenster(os.path.join(ordner, "tarvelin.exe"))
-        fenster.stelle_wieder_her()
-        fenster.ziehe(METALLMINE, LISTE)
-        if stirbt:
-            warte(lambda v=letzte: zeilen() == [v + 1, v], "the drag on the disk")
-            fenster.stirb()
+    for is_killed in (False, True):
+        last = row_counts()[0]
+        window = Window(os.path.join(folder, "tarvelin.exe"))
+        window.recover()
+        window.drag(METAL_MINE, BUILD_LIST)
+        if is_killed:
+            wait_for(lambda last=last: row_counts() == [last + 1, last], "the drag on the disk")
+            window.kill()
         else:
-            fenster.beende()
-        assert zeilen() == [letzte + 1, letzte], (zeilen(), letzte)
+            window.quit()
+        assert row_counts() == [last + 1, last], (row_counts(), last)
 
 
-def pruefe_zweites_fenster(ordner, plan):
-    """It asks whether it should open, beside the first, and keeps nothing."""
-    def behalten():
-        dateien = [os.path.join(ordner, "config.cfg"),
-                   *glob.glob(os.path.join(ordner, "saves", "autosave*"))]
-        return {datei: open(datei, "rb").read() for datei in dateien}
-    vorher = behalten()
-    for taste in ["alt+n", "alt+j"]:
-        zweites = subprocess.Popen([WINE, os.path.join(ordner, "tarvelin.exe"), plan],
-                                   stderr=subprocess.DEVNULL)
-        Fenster.antworte("^Tarvelin$", taste)
-        if taste == "alt+j":
-            nummer = warte(lambda: fensternummer(os.path.basename(plan)), "the second window", 60)
-            xdotool("windowactivate", "--sync", nummer, "sleep", 1, "key", "ctrl+n", "sleep", 0.5,
-                    "key", "alt+F4")
-        assert zweites.wait(timeout=60) == 0
-    assert behalten() == vorher
+def check_second_window(folder, plan):
+    """It asks whether it should open beside the first, and writes nothing."""
+    def kept():
+        files = [os.path.join(folder, "config.cfg"),
+                 *glob.glob(os.path.join(folder, "saves", "autosave*"))]
+        return {file: open(file, "rb").read() for file in files}
+    before = kept()
+    for key in ["alt+n", "alt+j"]:
+        second = subprocess.Popen([WINE, os.path.join(folder, "tarvelin.exe"), plan],
+                                  stderr=subprocess.DEVNULL)
+        Window.answer("^Tarvelin$", key)
+        if key == "alt+j":
+            window_id = wait_for(lambda: find_window(os.path.basename(plan)),
+                                 "the second window", 60)
+            xdotool("windowactivate", "--sync", window_id, "sleep", 1, "key", "ctrl+n",
+                    "sleep", 0.5, "key", "alt+F4")
+        assert second.wait(timeout=60) == 0
+    assert kept() == before
 
 
-def pruefe_wecker(programme, ordner, plan):
-    """A plan by its file, which begins soon; its first order rings."""
+def check_alarm(programs, folder, plan):
+    """A plan that begins soon is opened by its file, and an alarm sounds before its first order.
+    Returns the window."""
     start = datetime.datetime.now() + datetime.timedelta(seconds=150)
-    with open(plan, encoding="cp1252") as datei:
-        zeilen = datei.read().splitlines()
-    werte = {"UniStartZeitTag": f"{start:%d}", "UniStartZeitMonat": f"{start:%m}",
-             "UniStartZeitJahr": f"{start:%Y}", "UniStartZeitStunden": f"{start:%H}",
-             "UniStartZeitMinuten": f"{start:%M}", "KlickPuffer": "30"}
-    bald = os.path.join(ordner, "saves", "bald.tvf")
-    with open(bald, "w", encoding="cp1252", newline="\r\n") as datei:
-        for zeile in zeilen:
-            name = zeile.split("=")[0]
-            datei.write(f"{name}={werte[name]}\n" if name in werte else zeile + "\n")
-    erste = rechne(programme, bald)["LV_Bauzeiten"][0]["Tag"].split()
-    faellig = datetime.datetime.strptime(" ".join(erste[1:3]), "%d.%m.%Y %H:%M:%S")
-    fenster = Fenster(os.path.join(ordner, "tarvelin.exe"), bald)
-    warte(lambda: "bald.tvf" in fenster.titel(), "the plan of the argument")
-    fenster.klicke(WECKER)
-    ohr = Ohr()
-    assert faellig - datetime.timedelta(seconds=11) > datetime.datetime.now(), "no time is left"
-    warte(lambda: ohr.laut_um, "the alarm", 200)
-    ohr.schliesse()
-    zeitig = faellig.timestamp() - ohr.laut_um[0]
-    assert 0 <= zeitig <= 10, zeitig
-    return fenster
+    with open(plan, encoding="cp1252") as file:
+        lines = file.read().splitlines()
+    values = {"UniStartZeitTag": f"{start:%d}", "UniStartZeitMonat": f"{start:%m}",
+              "UniStartZeitJahr": f"{start:%Y}", "UniStartZeitStunden": f"{start:%H}",
+              "UniStartZeitMinuten": f"{start:%M}", "KlickPuffer": "30"}
+    soon = os.path.join(folder, "saves", "soon.tvf")
+    with open(soon, "w", encoding="cp1252", newline="\r\n") as file:
+        for line in lines:
+            name = line.split("=")[0]
+            file.write(f"{name}={values[name]}\n" if name in values else line + "\n")
+    first = run_plan(programs, soon)["LV_Bauzeiten"][0]["Tag"].split()
+    due = datetime.datetime.strptime(" ".join(first[1:3]), "%d.%m.%Y %H:%M:%S")
+    window = Window(os.path.join(folder, "tarvelin.exe"), soon)
+    wait_for(lambda: "soon.tvf" in window.title(), "the plan of the argument")
+    window.click(ALARM)
+    ear = Ear()
+    assert due - datetime.timedelta(seconds=11) > datetime.datetime.now(), "no time is left"
+    wait_for(lambda: ear.loud_at, "the alarm", 200)
+    ear.close()
+    lead = due.timestamp() - ear.loud_at[0]
+    assert 0 <= lead <= 10, lead
+    return window
 
 
-def pruefe_webskin(fenster, ordner):
-    server = Skinserver(lambda pfad: (200, bild(pfad), None))
-    fenster.klicke(SKIN)
-    for ort in (WEB, WEBPFAD):
-        fenster.klicke(ort)
-    xdotool("key", "ctrl+a", "type", server.adresse + "/a")
-    fenster.klicke(SKIN_OK)
-    warte(lambda: fensternummer("Fortsetzen"), "the notice")
+def check_web_skin(window, folder):
+    server = SkinServer(lambda path: (200, picture(path), None))
+    window.click(SKIN)
+    for position in (WEB, WEB_PATH):
+        window.click(position)
+    xdotool("key", "ctrl+a", "type", server.address + "/a")
+    window.click(SKIN_OK)
+    wait_for(lambda: find_window("Fortsetzen"), "the notice")
     xdotool("sleep", 0.5, "key", "Return")
-    dateien = warte(lambda: len(server.pfade) == 24 and list(server.pfade), "24 files")
-    for pfad in dateien:
-        ziel = os.path.join(ordner, "img", "skins", "temp_webskin") + pfad.removeprefix("/a")
-        warte(lambda z=ziel, p=pfad: os.path.exists(z) and open(z, "rb").read() == bild(p), pfad)
+    files = wait_for(lambda: len(server.paths) == 24 and list(server.paths), "24 files")
+    for path in files:
+        target = os.path.join(folder, "img", "skins", "temp_webskin") + path.removeprefix("/a")
+        wait_for(lambda target=target, path=path: os.path.exists(target)
+                 and open(target, "rb").read() == picture(path), path)
 
 
-def pruefe_werkbank(fenster, ordner, bilder):
-    fenster.tippe("alt+w")
+def check_workbench(window, folder, pictures):
+    window.press("alt+w")
     xdotool("key", "Return")
-    warte(lambda: fensternummer("Tarvelin  .  Werkbank"), "the workbench")
+    wait_for(lambda: find_window("Tarvelin  .  Werkbank"), "the workbench")
     time.sleep(1.5)
-    fenster.aufnahme(os.path.join(bilder, "werkbank.png"))
-    fenster.beende()
-    with open(os.path.join(ordner, "config.cfg"), encoding="cp1252") as datei:
-        assert "[Werkbank]" in datei.read()
+    window.screenshot(os.path.join(pictures, "workbench.png"))
+    window.quit()
+    with open(os.path.join(folder, "config.cfg"), encoding="cp1252") as file:
+        assert "[Werkbank]" in file.read()
 
 
-def nutzerordner():
-    return [ort for ort in glob.glob(os.path.join(os.environ["WINEPREFIX"], "drive_c", "users", "*"))
-            if not ort.endswith("Public")][0]
+def user_folder():
+    users = os.path.join(os.environ["WINEPREFIX"], "drive_c", "users", "*")
+    return [folder for folder in glob.glob(users) if not folder.endswith("Public")][0]
 
 
-def zeige_typen():
-    """What the user has registered becomes everybody's: Wine's shell reads only that, where Windows
-    shows both as one."""
-    for typ in (".tvf", "Tarvelin.Plan"):
-        kopie = wine("reg", "copy", f"HKCU\\Software\\Classes\\{typ}",
-                     f"HKLM\\Software\\Classes\\{typ}", "/s", "/f")
-        assert kopie.returncode == 0, typ
+def share_types():
+    """Copies the file types of this user to all users: Wine's shell reads only those, where Windows
+    merges both."""
+    for type_name in (".tvf", "Tarvelin.Plan"):
+        copied = wine("reg", "copy", f"HKCU\\Software\\Classes\\{type_name}",
+                      f"HKLM\\Software\\Classes\\{type_name}", "/s", "/f")
+        assert copied.returncode == 0, type_name
 
 
-def altes_setup(setup, ordner):
-    """The setup of an older version, which brought one more file. Its path."""
-    teile = os.path.join(os.path.dirname(setup), "setup")
-    with open(os.path.join(teile, "kopieren.nsh"), encoding="utf-8") as datei:
-        kopieren = datei.read() + f'File "/oname=$INSTDIR\\bin\\alt.dll" "{STARTERPLAN}"\n'
-    with open(os.path.join(teile, "loeschen.nsh"), encoding="utf-8") as datei:
-        loeschen = 'Delete "$INSTDIR\\bin\\alt.dll"\n' + datei.read()
-    for name, text in [("kopieren.nsh", kopieren), ("loeschen.nsh", loeschen)]:
-        with open(os.path.join(ordner, name), "w", encoding="utf-8") as datei:
-            datei.write(text)
-    ziel = os.path.join(ordner, "alt.exe")
+def old_setup(setup, folder):
+    """Makes the setup of an older version, which has one more file. Returns its path."""
+    parts = os.path.join(os.path.dirname(setup), "setup")
+    with open(os.path.join(parts, "copy.nsh"), encoding="utf-8") as file:
+        copying = file.read() + f'File "/oname=$INSTDIR\\bin\\old.dll" "{STARTER_PLAN}"\n'
+    with open(os.path.join(parts, "delete.nsh"), encoding="utf-8") as file:
+        deleting = 'Delete "$INSTDIR\\bin\\old.dll"\n' + file.read()
+    for name, text in [("copy.nsh", copying), ("delete.nsh", deleting)]:
+        with open(os.path.join(folder, name), "w", encoding="utf-8") as file:
+            file.write(text)
+    target = os.path.join(folder, "old.exe")
     subprocess.run(["makensis", "-V1", "-INPUTCHARSET", "UTF8", "-DVERSION=0.9.0",
-                    "-DQUELLE=" + os.path.join(teile, "baum"), "-DZIEL=" + ziel, "-DLISTEN=" + ordner,
+                    "-DSOURCE=" + os.path.join(parts, "tree"), "-DTARGET=" + target,
+                    "-DLISTS=" + folder,
                     os.path.join(os.path.dirname(__file__), "../../packaging/windows/setup.nsi")],
                    check=True)
-    return ziel
+    return target
 
 
-def installierte_fassung():
-    return wine("reg", "query", "HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Tarvelin",
-                "/v", "DisplayVersion").stdout.decode().split()[-1]
+def installed_version():
+    key = "HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Tarvelin"
+    return wine("reg", "query", key, "/v", "DisplayVersion").stdout.decode().split()[-1]
 
 
-def pruefe_setup(programme, setup):
-    """An older version installed, started by a double click on a plan; the present one installed over
-    it meanwhile, then removed."""
-    heim = nutzerordner()
-    ziel = os.path.join(heim, "AppData", "Local", "Programs", "Tarvelin")
-    daten = os.path.join(heim, "AppData", "Roaming", "Tarvelin")
-    plan = os.path.join(heim, "Plan ä.tvf")
-    shutil.copy(STARTERPLAN, plan)
-    assert wine(altes_setup(setup, os.environ["HOME"]), "/S").returncode == 0
-    alt = os.path.join(ziel, "bin", "alt.dll")
-    assert os.path.exists(alt) and installierte_fassung() == "0.9.0"
-    zeige_typen()
-    for nochmal in (True, False):
+def check_setup(programs, setup):
+    """An older version is installed and started by a double click on a plan. The present one is
+    installed over it while it runs, and removed likewise."""
+    home = user_folder()
+    target = os.path.join(home, "AppData", "Local", "Programs", "Tarvelin")
+    data = os.path.join(home, "AppData", "Roaming", "Tarvelin")
+    plan = os.path.join(home, "Plan ä.tvf")
+    shutil.copy(STARTER_PLAN, plan)
+    assert wine(old_setup(setup, os.environ["HOME"]), "/S").returncode == 0
+    old_file = os.path.join(target, "bin", "old.dll")
+    assert os.path.exists(old_file) and installed_version() == "0.9.0"
+    share_types()
+    for again in (True, False):
         wine("start", "/unix", plan)
-        warte(lambda: fensternummer("Plan ä.tvf"), "the installed program", 60)
-        warte(lambda: os.path.exists(os.path.join(daten, "tarvelin.lock")), "its lock")
-        fremd = os.path.join(ziel, "bin", "eigenes.txt")
-        with open(fremd, "w", encoding="ascii") as datei:
-            datei.write("von mir")
-        if nochmal:
+        wait_for(lambda: find_window("Plan ä.tvf"), "the installed program", 60)
+        wait_for(lambda: os.path.exists(os.path.join(data, "tarvelin.lock")), "its lock")
+        own_file = os.path.join(target, "bin", "own.txt")
+        with open(own_file, "w", encoding="ascii") as file:
+            file.write("mine")
+        if again:
             assert wine(setup, "/S").returncode == 0
-            assert not os.path.exists(alt)
-            assert os.path.basename(setup).startswith(f"Tarvelin-{installierte_fassung()}-")
+            assert not os.path.exists(old_file)
+            assert os.path.basename(setup).startswith(f"Tarvelin-{installed_version()}-")
         else:
-            wine(os.path.join(ziel, "Entfernen.exe"), "/S")
-            # It removes by a copy of itself.
-            warte(lambda: not os.path.exists(os.path.join(ziel, "Entfernen.exe")), "the removal")
-        warte(lambda: not fensternummer("Kelva Aufbau"), "the end of the program that ran")
-        assert os.path.exists(os.path.join(ziel, "bin", "tarvelin.exe")) == nochmal
-        assert os.path.exists(fremd)
-        assert len(rechne(programme, os.path.join(daten, "saves", "autosave.tvf"))["Bauliste"]) == 49
-        assert os.path.exists(os.path.join(daten, "config.cfg"))
-    assert os.listdir(ziel) == ["bin"] and os.listdir(os.path.join(ziel, "bin")) == ["eigenes.txt"]
+            wine(os.path.join(target, "Entfernen.exe"), "/S")
+            # The removal is done by a copy of itself, which outlasts the call.
+            wait_for(lambda: not os.path.exists(os.path.join(target, "Entfernen.exe")),
+                     "the removal")
+        wait_for(lambda: not find_window("Kelva Aufbau"), "the end of the program that ran")
+        assert os.path.exists(os.path.join(target, "bin", "tarvelin.exe")) == again
+        assert os.path.exists(own_file)
+        autosave = run_plan(programs, os.path.join(data, "saves", "autosave.tvf"))
+        assert len(autosave["Bauliste"]) == 49
+        assert os.path.exists(os.path.join(data, "config.cfg"))
+    assert os.listdir(target) == ["bin"] and os.listdir(os.path.join(target, "bin")) == ["own.txt"]
     assert os.path.exists(plan)
-    for schluessel in ["Microsoft\\Windows\\CurrentVersion\\Uninstall\\Tarvelin", "Classes\\.tvf",
-                       "Classes\\Tarvelin.Plan", "QtProject", "Tarvelin"]:
-        assert wine("reg", "query", "HKCU\\Software\\" + schluessel).returncode != 0, schluessel
+    for key in ["Microsoft\\Windows\\CurrentVersion\\Uninstall\\Tarvelin", "Classes\\.tvf",
+                "Classes\\Tarvelin.Plan", "QtProject", "Tarvelin"]:
+        assert wine("reg", "query", "HKCU\\Software\\" + key).returncode != 0, key
 
 
-def main(programme, setup, bilder):
-    os.makedirs(bilder, exist_ok=True)
-    ordner = os.path.join(os.environ["HOME"], "Tarvelin – 星")
-    shutil.copytree(programme, ordner, ignore=shutil.ignore_patterns("config.cfg", "*.tvf", "*bench*"))
-    plan = pruefe_ersten_start(programme, ordner, bilder)
-    pruefe_wiederherstellung(programme, ordner)
-    fenster = pruefe_wecker(programme, ordner, plan)
-    pruefe_zweites_fenster(ordner, plan)
-    pruefe_webskin(fenster, ordner)
-    pruefe_werkbank(fenster, ordner, bilder)
-    pruefe_setup(programme, setup)
+def main(programs, setup, pictures):
+    os.makedirs(pictures, exist_ok=True)
+    folder = os.path.join(os.environ["HOME"], "Tarvelin – 星")
+    shutil.copytree(programs, folder,
+                    ignore=shutil.ignore_patterns("config.cfg", "*.tvf", "*bench*"))
+    plan = check_first_start(programs, folder, pictures)
+    check_recovery(programs, folder)
+    window = check_alarm(programs, folder, plan)
+    check_second_window(folder, plan)
+    check_web_skin(window, folder)
+    check_workbench(window, folder, pictures)
+    check_setup(programs, setup)
 
 
 if __name__ == "__main__":
