@@ -1,19 +1,19 @@
 #!/usr/bin/env bash
-# Installs what is needed, builds Tarvelin and starts it: without an argument its window (where there
-# is no screen, the timetable of the starter plan), with plan files the timetable of each.
+# Installs what is needed, builds Tarvelin and starts it: its window, or without a screen the timetable
+# of the starter plan; with plan files the timetable of each.
 set -euo pipefail
-ordner=$(cd "$(dirname "$0")" && pwd)
-. "$ordner/cmake/packages.sh"
+root=$(cd "$(dirname "$0")" && pwd)
+. "$root/cmake/packages.sh"
 
-# The timetable alone goes to the output, so that it can be piped.
-stelle_bereit "${BAU_PAKETE[@]}" >&2
-baue "$ordner" release tarvelin tarvelin-cli tarvelin_data >&2
+# Standard output carries the timetable alone, so that it can be piped.
+install_missing "${BUILD_PACKAGES[@]}" >&2
+build "$root" release tarvelin tarvelin-cli tarvelin_data >&2
 
-programm="$ordner/build/release/bin"
+programs="$root/build/release/bin"
 if [ $# -eq 0 ] && [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
-    exec "$programm/tarvelin"
+    exec "$programs/tarvelin"
 fi
 if [ $# -eq 0 ]; then
-    set -- "$programm/saves/basic.tvf"
+    set -- "$programs/saves/basic.tvf"
 fi
-exec "$programm/tarvelin-cli" "$@"
+exec "$programs/tarvelin-cli" "$@"

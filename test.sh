@@ -1,47 +1,48 @@
 #!/usr/bin/env bash
-# Installs what is needed, runs all tests under the sanitizers, then builds the release and tries its
+# Installs what is needed, runs all tests under the sanitizers, then builds the release and tests its
 # package. With an argument it does something else instead:
-#   --tools     clang-tidy, cppcheck and a build by clang++, none of which may say a word
+#   --tools     clang-tidy, cppcheck and a build by clang++, none of which may complain
 #   --coverage  tells which lines below the window the tests run
-#   --lang      lets a monkey play the real program on a virtual screen: SEED and ACTIONS, 1 and 400
-#   --windows   builds all for Windows, its libraries included, runs the tests there, packs and plays
-#               the setup
+#   --monkey [SEED [ACTIONS]]
+#               lets a monkey play the real program on a virtual screen: seed 1, 400 actions
+#   --windows   builds everything for Windows, its libraries included, runs the tests under Wine, packs
+#               the setup and plays it
 set -euo pipefail
-ordner=$(cd "$(dirname "$0")" && pwd)
-. "$ordner/cmake/packages.sh"
-cd "$ordner"
+root=$(cd "$(dirname "$0")" && pwd)
+. "$root/cmake/packages.sh"
+cd "$root"
 
-teste() {
-    stelle_bereit "${BAU_PAKETE[@]}" "${TEST_PAKETE[@]}" "${PAKET_PAKETE[@]}"
+run_tests() {
+    install_missing "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${PACKAGING_PACKAGES[@]}"
     echo "== Format"
     find src tests bench fuzz -name '*.cpp' -o -name '*.h' | xargs clang-format --dry-run --Werror
 
     echo "== Tests with AddressSanitizer and UndefinedBehaviorSanitizer"
-    baue "$ordner" asan
+    build "$root" asan
     ctest --preset asan -j "$(nproc)"
 
     echo "== Release without warnings"
-    baue "$ordner" release
+    build "$root" release
 
     echo "== Package: built, installed, played, removed"
     packaging/package_test.sh
 }
 
-pruefe_mit_werkzeugen() {
-    stelle_bereit "${BAU_PAKETE[@]}" "${TEST_PAKETE[@]}" "${WERKZEUG_PAKETE[@]}"
+run_tools() {
+    install_missing "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${TOOL_PACKAGES[@]}"
     echo "== clang++"
-    baue "$ordner" clang
+    build "$root" clang
     echo "== clang-tidy"
-    run-clang-tidy -p build/clang -quiet "^$ordner/(src|bench|fuzz)/"
+    run-clang-tidy -p build/clang -quiet "^$root/(src|bench|fuzz)/"
     echo "== cppcheck"
-    # Its hints on style are those of clang-tidy, or of taste.
+    # Its advice on style is that of clang-tidy, or a matter of taste.
     cppcheck --enable=warning,performance,portability --error-exitcode=1 --quiet --std=c++20 \
         --library=qt --inline-suppr -I src -I tests -j "$(nproc)" src bench fuzz
 }
 
-miss_abdeckung() {
-    stelle_bereit "${BAU_PAKETE[@]}" "${TEST_PAKETE[@]}" "${ABDECKUNG_PAKETE[@]}"
-    baue "$ordner" coverage
+measure_coverage() {
+    install_missing "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${COVERAGE_PACKAGES[@]}"
+    build "$root" coverage
     find build/coverage -name '*.gcda' -delete
     ctest --preset coverage -j "$(nproc)" -LE Screen
     gcovr --root . --gcov-ignore-parse-errors \
@@ -49,39 +50,39 @@ miss_abdeckung() {
         --exclude-directories '.*/CMakeFiles/[0-9]+[.].*' build/coverage
 }
 
-spiele_lang() {
-    stelle_bereit "${BAU_PAKETE[@]}" "${TEST_PAKETE[@]}"
-    baue "$ordner" asan
+run_monkey() {
+    install_missing "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}"
+    build "$root" asan
     tests/e2e/screen.sh tests/e2e/monkey_test.py build/asan/bin "${1:-1}" "${2:-400}"
 }
 
-teste_fuer_windows() {
-    stelle_bereit "${BAU_PAKETE[@]}" "${BILDSCHIRM_PAKETE[@]}" "${WINDOWS_PAKETE[@]}"
+test_for_windows() {
+    install_missing "${BUILD_PACKAGES[@]}" "${SCREEN_PACKAGES[@]}" "${WINDOWS_PACKAGES[@]}"
     . packaging/windows/libraries.sh
-    stelle_bibliotheken_bereit
+    build_missing_libraries
     export CURL_WINDOWS QT_WINDOWS SVG_WINDOWS
-    # A build stays with the toolkit that it began with.
+    # A build folder keeps the toolkit that it was configured with.
     grep -qsF "$QT_WINDOWS/" build/mingw/CMakeCache.txt || rm -rf build/mingw
-    baue "$ordner" mingw
+    build "$root" mingw
     echo "== Tests under Wine"
     tests/e2e/screen.sh tests/e2e/windows.sh ctest --preset mingw
     echo "== Setup"
     packaging/windows/setup.sh
     echo "== Played under Wine"
     tests/e2e/screen.sh tests/e2e/windows.sh tests/e2e/windows_test.py build/mingw/bin \
-        build/mingw/Tarvelin-*-Windows.exe build/mingw/bilder
+        build/mingw/Tarvelin-*-Windows.exe build/mingw/images
     [ -n "$SVG_WINDOWS" ] ||
-        echo "== Qt's Svg module couldn't be had: the window for Windows saves no pictures as SVG"
+        echo "== No sources of Qt's Svg module: the window for Windows saves no pictures as SVG"
 }
 
 case "${1:-}" in
-    "") teste ;;
-    --tools) pruefe_mit_werkzeugen ;;
-    --coverage) miss_abdeckung ;;
-    --lang) spiele_lang "${@:2}" ;;
-    --windows) teste_fuer_windows ;;
+    "") run_tests ;;
+    --tools) run_tools ;;
+    --coverage) measure_coverage ;;
+    --monkey) run_monkey "${@:2}" ;;
+    --windows) test_for_windows ;;
     *)
-        echo "test.sh: $1 is none of --tools, --coverage, --lang, --windows" >&2
+        echo "test.sh: $1 is none of --tools, --coverage, --monkey, --windows" >&2
         exit 2
         ;;
 esac

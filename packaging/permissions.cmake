@@ -1,4 +1,4 @@
-# The package's folders are open to all, whatever umask its builder has.
+# The package's folders are readable for all, whatever umask its builder has.
 file(
   CHMOD_RECURSE ${CPACK_TEMPORARY_DIRECTORY}
   DIRECTORY_PERMISSIONS

@@ -1,28 +1,28 @@
-; The setup for one user, who needs no administrator. setup.sh names VERSION, QUELLE (the tree to
-; install), ZIEL, and LISTEN (what to copy, what to delete).
+; The setup for one user, without an administrator. setup.sh defines VERSION, SOURCE (the tree to
+; install), TARGET, and LISTS (the folder of copy.nsh and delete.nsh).
 Unicode true
 Target amd64-unicode
 SetCompressor /SOLID lzma
 RequestExecutionLevel user
-; A file that can't be written ends the setup, instead of being left out.
+; A file that can't be written ends the setup instead of being skipped.
 AllowSkipFiles off
 Name "Tarvelin"
-OutFile "${ZIEL}"
+OutFile "${TARGET}"
 InstallDir "$LOCALAPPDATA\Programs\Tarvelin"
 BrandingText "Tarvelin ${VERSION}"
 ManifestDPIAware true
 
-!define EINTRAG "Software\Microsoft\Windows\CurrentVersion\Uninstall\Tarvelin"
-!define KLASSEN "Software\Classes"
-!define PLANTYP "Tarvelin.Plan"
-!define VORHER "Tarvelin.Vorher"
+!define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Tarvelin"
+!define CLASSES "Software\Classes"
+!define PLAN_TYPE "Tarvelin.Plan"
+!define PREVIOUS_TYPE "Tarvelin.Vorher"
 
 !include MUI2.nsh
 !include FileFunc.nsh
 !include LogicLib.nsh
 !include WinVer.nsh
 
-!define MUI_ICON "${QUELLE}\share\tarvelin\img\icon.ico"
+!define MUI_ICON "${SOURCE}\share\tarvelin\img\icon.ico"
 !define MUI_UNICON "${MUI_ICON}"
 !define MUI_ABORTWARNING
 !define MUI_WELCOMEPAGE_TEXT "Tarvelin ${VERSION} wird für dich installiert, nach$\r$\n$INSTDIR$\r$\n$\r$\nDeine Baulisten und Einstellungen liegen in$\r$\n$APPDATA\Tarvelin$\r$\nund bleiben, wie sie sind, auch wenn du Tarvelin später entfernst."
@@ -42,10 +42,10 @@ VIAddVersionKey /LANG=1031 FileDescription "Tarvelin (Installation)"
 VIAddVersionKey /LANG=1031 CompanyName "Tarvelin maintainers"
 VIAddVersionKey /LANG=1031 LegalCopyright "2026 Tarvelin maintainers"
 
-; Setup and removal need the same of them.
-!macro Beenden un
-; Tells each window of Tarvelin to close, as its own button does: it keeps its plan then.
-Function ${un}SageBescheid
+; Once for the setup, once for the removal, which needs functions of its own.
+!macro ClosingFunctions un
+; Tells each window of Tarvelin to close, as its close button does, so that it keeps its plan.
+Function ${un}AskToClose
     StrCpy $0 0
     ${Do}
         FindWindow $0 "" "" 0 $0
@@ -63,9 +63,9 @@ Function ${un}SageBescheid
     ${Loop}
 FunctionEnd
 
-; $4 is 1 while one of the programs runs, else 0: nobody can delete its lock or write it then. A test of
-; the error flag clears it.
-Function ${un}PruefeObEsLaeuft
+; Sets $4 to 1 while one of the programs runs, else to 0: a running one's lock can't be deleted nor its
+; file written. A test of the error flag clears it.
+Function ${un}CheckRunning
     StrCpy $4 0
     ClearErrors
     Delete "$APPDATA\Tarvelin\tarvelin.lock"
@@ -88,14 +88,14 @@ Function ${un}PruefeObEsLaeuft
     ${Next}
 FunctionEnd
 
-Function ${un}BeendeTarvelin
-    Call ${un}PruefeObEsLaeuft
+Function ${un}CloseTarvelin
+    Call ${un}CheckRunning
     ${If} $4 == 1
-        Call ${un}SageBescheid
+        Call ${un}AskToClose
     ${EndIf}
     StrCpy $3 0
     ${Do}
-        Call ${un}PruefeObEsLaeuft
+        Call ${un}CheckRunning
         ${If} $4 == 0
             ${ExitDo}
         ${EndIf}
@@ -106,15 +106,15 @@ Function ${un}BeendeTarvelin
             MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Tarvelin läuft noch. Bitte beende es, dann geht es weiter." /SD IDCANCEL IDRETRY +3
             SetErrorLevel 2
             Quit
-            Call ${un}SageBescheid
+            Call ${un}AskToClose
         ${EndIf}
     ${Loop}
 FunctionEnd
 !macroend
-!insertmacro Beenden ""
-!insertmacro Beenden "un."
+!insertmacro ClosingFunctions ""
+!insertmacro ClosingFunctions "un."
 
-; The toolkit starts on nothing older.
+; The toolkit needs at least this.
 Function .onInit
     ${IfNot} ${AtLeastWin10}
         MessageBox MB_OK|MB_ICONSTOP "Tarvelin braucht Windows 10 oder neuer." /SD IDOK
@@ -123,71 +123,71 @@ Function .onInit
     ${EndIf}
 FunctionEnd
 
-; Double clicks, and the icon of plans.
-!macro MeldeTypen
+; Tells the desktop that file types and icons have changed.
+!macro AnnounceTypes
     System::Call 'shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)'
 !macroend
 
 Section
-    Call BeendeTarvelin
-    ; An older version takes its own files with it. What it leaves gives way to the new one's.
+    Call CloseTarvelin
+    ; An older version removes its own files. What it leaves is overwritten.
     ${If} ${FileExists} "$INSTDIR\Entfernen.exe"
         ExecWait '"$INSTDIR\Entfernen.exe" /S _?=$INSTDIR'
     ${EndIf}
     SetOverwrite on
-    !include "${LISTEN}\kopieren.nsh"
+    !include "${LISTS}\copy.nsh"
     SetOutPath "$INSTDIR"
     WriteUninstaller "$INSTDIR\Entfernen.exe"
     CreateShortcut "$SMPROGRAMS\Tarvelin.lnk" "$INSTDIR\bin\tarvelin.exe"
 
-    ReadRegStr $0 HKCU "${KLASSEN}\.tvf" ""
+    ReadRegStr $0 HKCU "${CLASSES}\.tvf" ""
     ${If} $0 != ""
-    ${AndIf} $0 != "${PLANTYP}"
-        WriteRegStr HKCU "${KLASSEN}\.tvf" "${VORHER}" $0
+    ${AndIf} $0 != "${PLAN_TYPE}"
+        WriteRegStr HKCU "${CLASSES}\.tvf" "${PREVIOUS_TYPE}" $0
     ${EndIf}
-    WriteRegStr HKCU "${KLASSEN}\.tvf" "" "${PLANTYP}"
-    WriteRegStr HKCU "${KLASSEN}\${PLANTYP}" "" "Tarvelin-Bauliste"
-    WriteRegStr HKCU "${KLASSEN}\${PLANTYP}\DefaultIcon" "" "$INSTDIR\bin\tarvelin.exe,0"
-    WriteRegStr HKCU "${KLASSEN}\${PLANTYP}\shell\open\command" "" '"$INSTDIR\bin\tarvelin.exe" "%1"'
-    !insertmacro MeldeTypen
+    WriteRegStr HKCU "${CLASSES}\.tvf" "" "${PLAN_TYPE}"
+    WriteRegStr HKCU "${CLASSES}\${PLAN_TYPE}" "" "Tarvelin-Bauliste"
+    WriteRegStr HKCU "${CLASSES}\${PLAN_TYPE}\DefaultIcon" "" "$INSTDIR\bin\tarvelin.exe,0"
+    WriteRegStr HKCU "${CLASSES}\${PLAN_TYPE}\shell\open\command" "" '"$INSTDIR\bin\tarvelin.exe" "%1"'
+    !insertmacro AnnounceTypes
 
-    WriteRegStr HKCU "${EINTRAG}" "DisplayName" "Tarvelin"
-    WriteRegStr HKCU "${EINTRAG}" "DisplayVersion" "${VERSION}"
-    WriteRegStr HKCU "${EINTRAG}" "DisplayIcon" "$INSTDIR\bin\tarvelin.exe,0"
-    WriteRegStr HKCU "${EINTRAG}" "Publisher" "Tarvelin maintainers"
-    WriteRegStr HKCU "${EINTRAG}" "InstallLocation" "$INSTDIR"
-    WriteRegStr HKCU "${EINTRAG}" "UninstallString" '"$INSTDIR\Entfernen.exe"'
-    WriteRegStr HKCU "${EINTRAG}" "QuietUninstallString" '"$INSTDIR\Entfernen.exe" /S'
+    WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayName" "Tarvelin"
+    WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayVersion" "${VERSION}"
+    WriteRegStr HKCU "${UNINSTALL_KEY}" "DisplayIcon" "$INSTDIR\bin\tarvelin.exe,0"
+    WriteRegStr HKCU "${UNINSTALL_KEY}" "Publisher" "Tarvelin maintainers"
+    WriteRegStr HKCU "${UNINSTALL_KEY}" "InstallLocation" "$INSTDIR"
+    WriteRegStr HKCU "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\Entfernen.exe"'
+    WriteRegStr HKCU "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\Entfernen.exe" /S'
     ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
-    WriteRegDWORD HKCU "${EINTRAG}" "EstimatedSize" $0
-    WriteRegDWORD HKCU "${EINTRAG}" "NoModify" 1
-    WriteRegDWORD HKCU "${EINTRAG}" "NoRepair" 1
+    WriteRegDWORD HKCU "${UNINSTALL_KEY}" "EstimatedSize" $0
+    WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoModify" 1
+    WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
 SectionEnd
 
-; Only what the setup brought goes: plans lie elsewhere, and what somebody put beside it stays.
+; Removes only what the setup has installed: plans are elsewhere, and files of others stay.
 Section Uninstall
-    Call un.BeendeTarvelin
-    !include "${LISTEN}\loeschen.nsh"
+    Call un.CloseTarvelin
+    !include "${LISTS}\delete.nsh"
     Delete "$INSTDIR\Entfernen.exe"
     RMDir "$INSTDIR"
     Delete "$SMPROGRAMS\Tarvelin.lnk"
-    ; Whoever opened plans before does so again.
-    ReadRegStr $0 HKCU "${KLASSEN}\.tvf" ""
-    ${If} $0 == "${PLANTYP}"
-        DeleteRegValue HKCU "${KLASSEN}\.tvf" ""
-        ReadRegStr $0 HKCU "${KLASSEN}\.tvf" "${VORHER}"
+    ; The program that opened plans before does so again.
+    ReadRegStr $0 HKCU "${CLASSES}\.tvf" ""
+    ${If} $0 == "${PLAN_TYPE}"
+        DeleteRegValue HKCU "${CLASSES}\.tvf" ""
+        ReadRegStr $0 HKCU "${CLASSES}\.tvf" "${PREVIOUS_TYPE}"
         ${If} $0 != ""
-            WriteRegStr HKCU "${KLASSEN}\.tvf" "" $0
+            WriteRegStr HKCU "${CLASSES}\.tvf" "" $0
         ${EndIf}
     ${EndIf}
-    DeleteRegValue HKCU "${KLASSEN}\.tvf" "${VORHER}"
-    ; "ifempty" asks for keys alone.
-    EnumRegValue $0 HKCU "${KLASSEN}\.tvf" 0
-    ReadRegStr $1 HKCU "${KLASSEN}\.tvf" ""
+    DeleteRegValue HKCU "${CLASSES}\.tvf" "${PREVIOUS_TYPE}"
+    ; "/ifempty" looks at keys alone, so values are checked first.
+    EnumRegValue $0 HKCU "${CLASSES}\.tvf" 0
+    ReadRegStr $1 HKCU "${CLASSES}\.tvf" ""
     ${If} $0$1 == ""
-        DeleteRegKey /ifempty HKCU "${KLASSEN}\.tvf"
+        DeleteRegKey /ifempty HKCU "${CLASSES}\.tvf"
     ${EndIf}
-    DeleteRegKey HKCU "${KLASSEN}\${PLANTYP}"
-    !insertmacro MeldeTypen
-    DeleteRegKey HKCU "${EINTRAG}"
+    DeleteRegKey HKCU "${CLASSES}\${PLAN_TYPE}"
+    !insertmacro AnnounceTypes
+    DeleteRegKey HKCU "${UNINSTALL_KEY}"
 SectionEnd
