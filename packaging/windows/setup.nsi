@@ -15,6 +15,7 @@ ManifestDPIAware true
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Tarvelin"
 !define CLASSES "Software\Classes"
 !define PLAN_TYPE "Tarvelin.Plan"
+; The value in which the type of plans that another program had registered is kept.
 !define PREVIOUS_TYPE "Tarvelin.Vorher"
 
 !include MUI2.nsh
@@ -63,8 +64,8 @@ Function ${un}AskToClose
     ${Loop}
 FunctionEnd
 
-; Sets $4 to 1 while one of the programs runs, else to 0: a running one's lock can't be deleted nor its
-; file written. A test of the error flag clears it.
+; Sets $4 to 1 while one of the programs runs, else to 0: then its lock can't be deleted or its file
+; written. Reading the error flag clears it.
 Function ${un}CheckRunning
     StrCpy $4 0
     ClearErrors
