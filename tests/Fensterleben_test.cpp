@@ -132,6 +132,11 @@ TEST_F(Fensterleben, PlanAlsArgumentStattDesLetzten) {
     m_umgebung.Planargument = saves / "meiner.tvf";
     NeuerStart wieder(m_umgebung);
     EXPECT_EQ(LiesDatei(saves / "autosave-vorige.tvf"), geaendert);
+    wieder->close();
+    // A file of the program's own is no place to lie in: it is written over.
+    m_umgebung.Planargument = saves / "autosave-vorige.tvf";
+    { NeuerStart noch(m_umgebung); }
+    EXPECT_EQ(LiesDatei(saves / "autosave.tvf").find("AusDatei=1"), std::string::npos);
 }
 
 TEST_F(Fensterleben, OrdnerGehoertDemErstenProgramm) {
@@ -261,6 +266,7 @@ TEST_F(Fensterleben, LadenUndSpeichernUeberDenDialog) {
                   "[Einstellungen]\r\nKlickPuffer=7\r\nTempMax=11\r\nShowDesc=0\r\n"
                   "[Schlafzeiten]\r\nItemCount=0\r\n"
                   "[Bauliste]\r\nItemCount=2\r\nItem_001=GK\r\nItem_002=gk\r\n");
+    Druecke("Cmd_AddSchlafzeit");
     m_boxen.Datei = "kaputt.tvf";
     m_boxen.BeiMeldung = [this] { EXPECT_EQ(Zelle("LV_Bauliste", 0, 1), "KristallMine Stufe: 1"); };
     Waehle("mnu_DateiLaden");
@@ -270,6 +276,7 @@ TEST_F(Fensterleben, LadenUndSpeichernUeberDenDialog) {
     EXPECT_EQ(Zeilen("LV_Bauzeiten"), 2) << "nothing was run";
     EXPECT_EQ(Text("cmd_ShowDesc"), "ein/AUS");
     EXPECT_EQ(Text("LBL_KlickPuffer"), "00:07");
+    EXPECT_FALSE(Finde<QTreeView>("LV_Schlafzeiten").selectionModel()->hasSelection());
     EXPECT_TRUE(m_fenster.windowTitle().endsWith(QStringLiteral("      ( meiner )")));
 
     m_boxen.Datei = "fehlt/x.tvf";

@@ -4,6 +4,7 @@
 #include <tuple>
 
 #include "Hilfen.h"
+#include "console/Suchausgabe.h"
 
 namespace tarvelin {
 namespace {
@@ -98,8 +99,10 @@ TEST(Konsole, ErklaertSichUndFalscheAufrufe) {
         {"--suche x y", "--suche nimmt genau eine Plandatei"},
         {"--ziel plan x", "diese Option gilt nur mit --suche"},
         {"--suche x --threads 0", "--threads erwartet eine Zahl von 1 bis 256"},
-        {"--suche x --versuche viele", "--versuche erwartet eine Zahl ab 1"},
+        {"--suche x --versuche viele", "--versuche erwartet eine Zahl von 1 bis 1125899906842624"},
         {"--suche x --sitzungen 100,1", "--sitzungen erwartet eine Zahl von 0 bis 100"},
+        {"--suche x --sitzungen nan", "--sitzungen erwartet eine Zahl von 0 bis 100"},
+        {"--suche x --saat 1 --saat 2", "--saat steht mehrmals da"},
         {"--suche x --ziel", "--ziel erwartet einen Wert"},
         {"--verlauf x", "diese Option gilt nur mit --json"},
         {"--vergleich x", "--vergleich erwartet zwei Plandateien"},
@@ -128,6 +131,14 @@ TEST(Konsole, StelltPlaeneNebeneinander) {
     EXPECT_EQ(lauf["Verlauf"]["Punkte"].back()["Sekunde"], lauf["secsgone"]);
     json ohne = lauf;
     ohne.erase("Verlauf");
+    // Programs know the misspelt name, people read the other one.
+    const auto hat = [](const std::string& text, const char* name) {
+        return text.find(name) != std::string::npos;
+    };
+    EXPECT_TRUE(hat(lauf["Verlauf"]["Auftraege"].dump(), "\"Rakentenwerfer 1\""));
+    const std::string fuerMenschen =
+        Rufe(ordner, "--vergleich " + kPlan + " " + kStartplan).Ausgabe;
+    EXPECT_TRUE(hat(fuerMenschen, "Raketenwerfer 1") && !hat(fuerMenschen, "Rakentenwerfer"));
     EXPECT_EQ(ohne, json::parse(Rufe(ordner, "--json " + kStartplan).Ausgabe));
     // What is the same isn't listed.
     const std::string gleich = Rufe(ordner, "--vergleich " + kStartplan + " " + kStartplan).Ausgabe;
@@ -165,6 +176,12 @@ TEST(Konsole, SuchtUndSchreibtDenPlan) {
     EXPECT_EQ(tags, bericht["Bauliste"]);
     // The same call gives the same, whether it writes or not.
     EXPECT_EQ(Rufe(ordner, suche + " --threads 2").Ausgabe, aufruf.Ausgabe);
+    const std::string weniger =
+        Rufe(ordner, "--suche " + kStartplan + " --ziel WLJ1 --versuche 1 --sitzungen 0,5").Ausgabe;
+    EXPECT_NE(weniger.find("\nEntfällt:    "), std::string::npos) << weniger;
+    EXPECT_NE(weniger.find("1 x Raketenwerfer"), std::string::npos) << weniger;
+    EXPECT_NE(Fortschrittszeile({.Gewinn = -960}).find("Gewinn -00 Tage 00:16:00 "),
+              std::string::npos);
     const std::string text = Rufe(ordner, "--suche neu.tvf --versuche 20000 --fest 1-49").Ausgabe;
     EXPECT_NE(text.find("Gewinn:      00 Tage 00:00:00 (0 %)"), std::string::npos) << text;
 }

@@ -287,6 +287,25 @@ TEST(Autosave, BewahrtDieLetztenFuenfErsetzten) {
     std::filesystem::remove(ordner / "saves" / "ersetzt-3.tvf");
     autosave.BewahreErsetzten(PlanAus("GM"));
     EXPECT_EQ(liegen(), "16532-") << "a gap is filled before the oldest goes";
+    // Whichever call fails, all that was there is there, and mostly the new one as well.
+    for (int n = 1;; ++n) {
+        std::filesystem::remove_all(ordner / "saves");
+        for (const char* const plan : {"GM", "GM GM", "GM GM GM"}) {
+            autosave.BewahreErsetzten(PlanAus(plan));
+        }
+        const Stoersystem kaputt(n, Ausfallart::Einmal);
+        Autosave(ordner / "", kaputt).BewahreErsetzten(PlanAus("GM GM GM GM"));
+        std::string da = liegen();
+        for (const char plan : {'1', '2', '3'}) {
+            EXPECT_NE(da.find(plan), std::string::npos) << da << kaputt.Gestoert();
+        }
+        if (kaputt.Gestoert().empty()) {
+            EXPECT_EQ(da, "4321--");
+            break;
+        }
+    }
+    EXPECT_TRUE(autosave.IstEigene(ordner / "saves" / ".." / "saves" / "ersetzt-3.tvf"));
+    EXPECT_FALSE(autosave.IstEigene(ordner / "saves" / "ersetzt-6.tvf"));
 }
 
 /// The steps of a session, and the plans that lie there after each; "" for none.

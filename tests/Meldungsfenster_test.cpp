@@ -7,7 +7,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QTest>
 #include <QTimer>
+#include <QTreeView>
+#include <set>
 
 #include "Hilfen.h"
 
@@ -87,14 +90,27 @@ TEST(Meldungsfenster, AbstellbareHabenEinKaestchen) {
 
 TEST(Meldungsfenster, NimmtAuchDenNamenEinerDateiDieFehlt) {
     Meldungsfenster boxen;
-    QTimer::singleShot(0, [] {
+    const Ordner ordner;
+    SchreibeDatei(ordner / "plan.tvf", std::string(1234, ';'));
+    std::set<QString> texte;
+    QTimer::singleShot(0, [&texte] {
+        auto* const dateien = qobject_cast<QDialog*>(QApplication::activeModalWidget())
+                                  ->findChild<QTreeView*>(QStringLiteral("treeView"));
+        const auto lies = [&] {
+            const auto wurzel = dateien->rootIndex();
+            for (int spalte = 0; spalte < dateien->model()->columnCount(wurzel); ++spalte) {
+                texte.insert(dateien->model()->index(0, spalte, wurzel).data().toString());
+            }
+            return texte.contains(QStringLiteral("plan.tvf"));
+        };
+        EXPECT_TRUE(QTest::qWaitFor(lies));
         auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))
             ->setText(QStringLiteral("fehlt.tvf"));
         dialog->accept();
     });
-    const std::filesystem::path ordner = testing::TempDir();
-    EXPECT_EQ(boxen.FragNachDatei(Dialoge::Zweck::Laden, ordner), ordner / "fehlt.tvf");
+    EXPECT_EQ(boxen.FragNachDatei(Dialoge::Zweck::Laden, ordner / ""), ordner / "fehlt.tvf");
+    EXPECT_TRUE(texte.contains(QStringLiteral("1,21 KiB"))) << "in German, whatever the system";
 }
 
 TEST(Meldungsfenster, AmEndeGehtZuWasOffenIst) {

@@ -189,6 +189,25 @@ TEST(Listenverlauf, TippenInEineEingabeIstEinSchritt) {
     EXPECT_FALSE(verlauf.HatVorige());
 }
 
+TEST(Listenverlauf, EinAndersGeschriebenerTagIstKeinSchritt) {
+    Listenverlauf verlauf;
+    Planstand stand;
+    const auto tag = [&](const char* text) -> Planstand& {
+        stand.Parameter.UniStartZeitTag = text;
+        return stand;
+    };
+    verlauf.Beginne(tag("05"));
+    EXPECT_TRUE(verlauf.Merke(tag("5"), "Tag"));
+    stand.Tags = {"GM"};
+    EXPECT_TRUE(verlauf.Merke(stand));
+    const Startparameter vorher = stand.Parameter;
+    verlauf.SchreibeTagUm(vorher, tag("05").Parameter);
+    EXPECT_FALSE(verlauf.Merke(stand));
+    EXPECT_EQ(verlauf.Schritte(), 1U);
+    EXPECT_EQ(verlauf.Zurueck().Parameter.UniStartZeitTag, "05");
+    EXPECT_TRUE(verlauf.HatNaechste() && !verlauf.HatVorige());
+}
+
 TEST(Startparameter, WochentagUndStartdatum) {
     Startparameter parameter = PlanAus("").Parameter;
     EXPECT_EQ(RefreshWeekday(parameter).Caption, "Sa.");

@@ -100,6 +100,8 @@ TEST_F(Werkbank, BearbeitetInDerMitte) {
     Greife({3, 4});
     Taste(Qt::Key_Down, Qt::AltModifier);
     EXPECT_EQ(Tags(), "GS GM GD GR GR GW");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Dort("LV_Werkbank").mapTo(m_werkbank, QPoint()), listenort) << "nothing moves";
     EXPECT_EQ(Sagt("LBL_Meldung"),
               "Zeile 6 (Raumschiffwerft Stufe: 1): Noch keine Roboterfabrik (Stufe:2) in der "
               "Bauliste, bauen wäre unmöglich!");
@@ -108,7 +110,6 @@ TEST_F(Werkbank, BearbeitetInDerMitte) {
     EXPECT_EQ(Tags(), "GM GS GD GR GR GW");
     EXPECT_EQ(Dort<Auftragsansicht>("LV_Werkbank").Gewaehlte(), (std::vector<std::size_t>{0}));
     EXPECT_EQ(Sagt("LBL_Meldung"), "");
-    EXPECT_EQ(Dort("LV_Werkbank").mapTo(m_werkbank, QPoint()), listenort) << "nothing moves";
     Fuege("ImgSKW");
     Fuege("ImgKrisMine");
     EXPECT_EQ(Tags(), "GS GK GM GS GD GR GR GW") << "in front of the chosen row, in their turn";
@@ -182,7 +183,8 @@ TEST_F(Werkbank, SpieltNachJederBearbeitungInBeidenFenstern) {
     Plan spaet = PlanAus("GS GS");
     spaet.Schlafzeiten = {{"18.11.2006 12:30", "18.11.3006 23:30"}};
     Lade(spaet);
-    EXPECT_NE(Sagt("LBL_Meldung").find("was nach 24855 Tage 03:14:07 käme"), std::string::npos);
+    EXPECT_NE(Sagt("LBL_Meldung").find("was später als 24855 Tage 03:14:07 käme"),
+              std::string::npos);
 }
 
 TEST_F(Werkbank, NimmtBearbeitungenBeiderFensterZurueck) {
@@ -201,6 +203,17 @@ TEST_F(Werkbank, NimmtBearbeitungenBeiderFensterZurueck) {
     EXPECT_FALSE(Dort("Cmd_Vor").isEnabled()) << "an edit ends what was taken back";
     EXPECT_EQ(zurueck(), "GS GD GF");
     ErwarteEinig();
+    // An edit is told whole, however many keys it takes, and only if it is one.
+    const std::string dauer = Sagt("LBL_Dauer");
+    Finde<QSlider>("HSC_KlickPuffer").setValue(60);
+    Finde<QSlider>("HSC_KlickPuffer").setValue(65);
+    const std::string aenderung = Sagt("LBL_Aenderung");
+    EXPECT_EQ(aenderung, "+00:04:00");
+    Finde<QSlider>("HSC_KlickPuffer").setValue(65);
+    EXPECT_EQ(Sagt("LBL_Aenderung"), aenderung);
+    EXPECT_EQ(zurueck(), "GS GD GF");
+    EXPECT_EQ(Sagt("LBL_Dauer"), dauer);
+    EXPECT_EQ(Sagt("LBL_Aenderung"), "-" + aenderung.substr(1));
     // Parameters and sleep rows go the same way, and so does a new plan, which is one step.
     Tippe("txt_TempMax", "40");
     Druecke("Cmd_AddSchlafzeit");

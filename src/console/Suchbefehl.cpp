@@ -12,6 +12,7 @@
 
 #include "console/Suchausgabe.h"
 #include "persistence/Planablage.h"
+#include "simulation/Lauftexte.h"
 #include "util/Zahlentext.h"
 
 namespace tarvelin {
@@ -116,6 +117,9 @@ int FuehreSucheAus(const Suchbefehl& befehl, const std::atomic<bool>& halt) {
         const int code = Sage(Ladefehler().Text, kPlanGescheitert);
         std::cerr << befehl.Plandatei << ": " << Ladehindernis(AlsPfad(befehl.Plandatei)) << '\n';
         return code;
+    }
+    if (plan.Lauf.Stand.IstAmEndeDerUhr()) {
+        std::cerr << befehl.Plandatei << ": " << UeberDieUhrText() << '\n';
     }
     const auto aufgabe = StelleAufgabe(plan.Plan, std::get<Suchwunsch>(wunsch));
     if (const auto* const absage = std::get_if<Suchabsage>(&aufgabe)) {

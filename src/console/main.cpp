@@ -66,9 +66,9 @@ std::pair<std::string, std::string> ZweiNamen(const std::string& text) {
 /// What an option's value has to be, and a flag's not.
 std::string Wertfehler(const std::string& text) {
     constexpr std::array<std::pair<std::string_view, std::string_view>, 8> kErwartet{
-        {{"--versuche", "eine Zahl ab 1"},
+        {{"--versuche", "eine Zahl von 1 bis 1125899906842624"},
          {"--threads", "eine Zahl von 1 bis 256"},
-         {"--saat", "eine Zahl ab 0"},
+         {"--saat", "eine Zahl von 0 bis 1099511627776"},
          {"--sitzungen", "eine Zahl von 0 bis 100"},
          {"--vergleich", "zwei Plandateien"},
          {"--ical", "eine Kalenderdatei"},
@@ -77,6 +77,9 @@ std::string Wertfehler(const std::string& text) {
     // The library's text begins with its name, in one case without the dashes.
     const std::string name = text.substr(0, text.find_first_of(" :"));
     const std::string option = name.starts_with("--") ? name : "--" + name;
+    if (text.find("At Most 1") != std::string::npos) {
+        return option + " steht mehrmals da";
+    }
     for (const std::string_view schalter : {"--json", "--csv", "--verlauf", "--frei"}) {
         if (option == schalter) {
             return option + " nimmt keinen Wert";
@@ -202,7 +205,8 @@ CLI::Option* FuegeSucheHinzu(CLI::App& app, tarvelin::Suchbefehl& befehl) {
     suche->type_name("PLAN")->group(gruppe);
     const std::vector<CLI::Option*> optionen{
         app.add_option("--ziel", befehl.Ziel,
-                       "Sucht den schnellsten Weg zu diesem Ziel, etwa \"GW2 FV2 WKT1\", oder plan")
+                       "Sucht den schnellsten Weg zu diesem Ziel, etwa \"GW2 FV2 WKT1\"; plan: zu "
+                       "dem des Plans")
             ->type_name("ZIEL"),
         app.add_option("--nach", befehl.Nach, "Schreibt den gefundenen Plan in diese Datei")
             ->type_name("DATEI"),
@@ -231,7 +235,8 @@ CLI::Option* FuegeSucheHinzu(CLI::App& app, tarvelin::Suchbefehl& befehl) {
             ->transform(CLI::Validator(
                 [](std::string& zahl) {
                     std::ranges::replace(zahl, ',', '.');
-                    return std::string();
+                    const bool istZahl = zahl.find_first_not_of("0123456789.") == zahl.npos;
+                    return std::string(istZahl ? "" : "keine Zahl");
                 },
                 ""))
             ->check(CLI::Range(0.0, 100.0).description(""))};

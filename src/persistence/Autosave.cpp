@@ -33,10 +33,17 @@ Autosave::Autosave(const std::filesystem::path& programmordner, const Dateisyste
 
 std::vector<std::filesystem::path> Autosave::Dateien() const {
     std::vector<std::filesystem::path> dateien{m_datei, m_vorige[0], m_vorige[1]};
-    for (std::size_t i = 1; i <= kErsetzte; ++i) {
+    for (std::size_t i = 0; i <= kErsetzte; ++i) {
         dateien.push_back(Ersetzter(i));
     }
     return dateien;
+}
+
+bool Autosave::IstEigene(const std::filesystem::path& File) const {
+    // Many names lead to a file.
+    const auto ziel = m_system.LoeseAuf(File);
+    return std::ranges::any_of(
+        Dateien(), [&](const auto& eigene) { return ziel && ziel == m_system.LoeseAuf(eigene); });
 }
 
 void Autosave::LiegtInDatei(const Plan& plan) {
@@ -89,8 +96,8 @@ void Autosave::BewahreErsetzten(const Plan& plan) const {
         return;
     }
     static_cast<void>(m_system.LegeOrdnerAn(m_datei.parent_path()));
-    if (RueckeErsetzte()) {
-        static_cast<void>(ErsetzeDatei(Ersetzter(1), bytes, m_system));
+    if (ErsetzeDatei(Ersetzter(0), bytes, m_system)) {
+        static_cast<void>(m_system.BenenneUm(Ersetzter(0), Ersetzter(RueckeErsetzte())));
     }
 }
 
@@ -99,17 +106,17 @@ std::filesystem::path Autosave::Ersetzter(std::size_t nummer) const {
 }
 
 // Up to the first gap, or over the oldest.
-bool Autosave::RueckeErsetzte() const {
+std::size_t Autosave::RueckeErsetzte() const {
     std::size_t frei = 1;
-    while (frei < kErsetzte && FileExists(Ersetzter(frei), m_system)) {
+    while (frei < kErsetzte && m_system.Sieh(Ersetzter(frei)) != Dateisystem::Art::Nichts) {
         ++frei;
     }
     for (; frei > 1; --frei) {
         if (!m_system.BenenneUm(Ersetzter(frei - 1), Ersetzter(frei))) {
-            return false;
+            break;
         }
     }
-    return true;
+    return frei;
 }
 
 bool Autosave::BewahreVorige(const Profil& vorige) {

@@ -27,6 +27,9 @@ class Autosave {
     /// All files that it writes.
     [[nodiscard]] std::vector<std::filesystem::path> Dateien() const;
 
+    /// Whether it moves or writes the file by itself, so that a plan isn't safe in it.
+    [[nodiscard]] bool IstEigene(const std::filesystem::path& File) const;
+
     /// Tells that this plan lies in a file of its own.
     void LiegtInDatei(const Plan& plan);
 
@@ -43,7 +46,8 @@ class Autosave {
     void SchreibeZuletzt(const Plan& plan);
 
     /// Keeps a plan that is about to give way, unless it is empty or the one that gave way last.
-    /// What can't be moved on is not written over.
+    /// One that can't be written moves no other; where one can't be moved on, it takes the place
+    /// that came free.
     void BewahreErsetzten(const Plan& plan) const;
 
   private:
@@ -51,10 +55,10 @@ class Autosave {
 
     [[nodiscard]] bool BewahreVorige(const Profil& vorige);
     [[nodiscard]] bool Schreibe(const Plan& plan, bool auchOhneVorige);
-    /// From 1, the last one, to `kErsetzte`.
+    /// From 1, the last one, to `kErsetzte`; 0 is the one that is just written.
     [[nodiscard]] std::filesystem::path Ersetzter(std::size_t nummer) const;
-    /// Frees the first place. Whether it is free.
-    [[nodiscard]] bool RueckeErsetzte() const;
+    /// Makes room at the first place, or as near to it as can be. The place.
+    [[nodiscard]] std::size_t RueckeErsetzte() const;
 
     std::filesystem::path m_datei;
     /// The second takes the place of a first that can't be written.

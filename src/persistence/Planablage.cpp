@@ -48,15 +48,23 @@ constexpr std::array<Textkey, 5> kDatumskeys{{
 std::string Lesbar(std::string_view wert) {
     constexpr std::size_t kHoechstens = 60;
     std::string text(wert.substr(0, wert.find_first_of('\0')));
-    std::ranges::replace_if(
-        text, [](char zeichen) { return static_cast<unsigned char>(zeichen) < ' '; }, '?');
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto zeichen = static_cast<unsigned char>(text[i]);
+        // Also those of the second set, which UTF-8 has behind this byte.
+        const bool folge = i > 0 && text[i - 1] == '\xC2' && zeichen >= 0x80 && zeichen < 0xA0;
+        if (zeichen < ' ' || zeichen == 0x7F || folge) {
+            text[i] = '?';
+            text[i - (folge ? 1 : 0)] = '?';
+        }
+    }
     if (text.size() > kHoechstens) {
         // No letter is parted.
         std::size_t ende = kHoechstens;
         while ((static_cast<unsigned char>(text[ende]) & 0xC0U) == 0x80U) {
             --ende;
         }
-        text = text.substr(0, ende) + "...";
+        text.resize(ende);
+        text += "...";
     }
     return text;
 }

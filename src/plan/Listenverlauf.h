@@ -18,11 +18,15 @@ class Listenverlauf {
 
     /// Takes note of the plan behind an edit. What was taken back before it can't be done again
     /// then. An edit that changed nothing isn't one. `eingabe` names the input that was typed into:
-    /// as long as it stays the same, its edits are one.
-    void Merke(Planstand stand, std::string_view eingabe = {});
+    /// as long as it stays the same, its edits are one. Whether there was an edit.
+    bool Merke(Planstand stand, std::string_view eingabe = {});
 
-    /// The plan as it stands has changed without an edit.
-    void Berichtige(Planstand stand);
+    /// Writes the day of a date in another way, wherever it stands. Edits that differed in that
+    /// alone are none.
+    void SchreibeTagUm(const Startparameter& vorher, const Startparameter& nachher);
+
+    /// How many edits the plan as it stands has behind it.
+    [[nodiscard]] std::size_t Schritte() const { return m_jetzt; }
 
     [[nodiscard]] bool HatVorige() const { return m_jetzt > 0; }
     [[nodiscard]] bool HatNaechste() const { return m_jetzt + 1 < m_staende.size(); }

@@ -356,7 +356,11 @@ Suchergebnis Suche(const Suchaufgabe& aufgabe, const Suchumfang& umfang,
                    const std::atomic<bool>& halt,
                    const std::function<void(const Fortschritt&)>& melde) {
     const std::optional<Fund> anfang = Anfang(aufgabe, halt);
-    return anfang ? Suchlauf(aufgabe, umfang, halt, *anfang).Fuehre(melde) : Suchergebnis();
+    if (!anfang) {
+        // There is nothing to try, unless the search was stopped before it had begun.
+        return {.Bester = {}, .VonVersuchen = halt ? umfang.Versuche : 0};
+    }
+    return Suchlauf(aufgabe, umfang, halt, *anfang).Fuehre(melde);
 }
 
 }  // namespace tarvelin

@@ -94,7 +94,7 @@ std::string Wartetext(const Ablauf& ablauf, std::size_t zeile) {
 }
 
 std::string UeberDieUhrText() {
-    return "Der Plan dauert länger, als die Uhr zeigen kann: was nach " +
+    return "Der Plan dauert länger, als die Uhr zeigen kann: was später als " +
            Spannentext(Moment::Letzter().Sekunden()) + " käme, steht bei diesem Zeitpunkt.";
 }
 

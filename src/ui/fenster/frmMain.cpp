@@ -343,8 +343,9 @@ void frmMain::Img_MouseMove(const Itemplatz& platz) {
 }
 
 void frmMain::Bearbeitet(std::string_view eingabe) {
-    m_verlauf.Merke(StandVon(m_plan), eingabe);
-    ZeigeInWerkbank();
+    if (m_verlauf.Merke(StandVon(m_plan), eingabe)) {
+        ZeigeInWerkbank();
+    }
 }
 
 void frmMain::NimmZurueck() {
@@ -366,19 +367,21 @@ void frmMain::Uebernimm(const std::vector<std::string>& tags,
     if (pause) {
         stand.Schlafzeiten.insert(stand.Schlafzeiten.begin(), *pause);
     }
-    m_verlauf.Merke(stand);
+    static_cast<void>(m_verlauf.Merke(stand));
     StellePlan(stand);
 }
 
 void frmMain::StellePlan(const Planstand& stand) {
     m_plan.Parameter = stand.Parameter;
-    m_plan.Schlafzeiten = stand.Schlafzeiten;
+    m_Fra_Einstellungen->Zeige();
+    if (m_plan.Schlafzeiten != stand.Schlafzeiten) {
+        m_plan.Schlafzeiten = stand.Schlafzeiten;
+        m_Fra_Sleep->Zeige();
+    }
     // The factor texts are those of the run that follows.
     m_lauf.Bedingungen.Temperatur =
         LiesTemperatur(m_plan.Parameter).value_or(m_lauf.Bedingungen.Temperatur);
     m_plan.Liste.Setze(stand.Tags, m_lauf.Bedingungen);
-    m_Fra_Einstellungen->Zeige();
-    m_Fra_Sleep->Zeige();
     m_Fra_Rest->ZeigeListe();
     SpieleStill();
     ZeigeInWerkbank();
@@ -520,8 +523,9 @@ std::optional<Startbedingungen> frmMain::PruefeEingaben(bool silent) {
 // Not an edit: the plan lies where it lay, and there is nothing to take back.
 void frmMain::FuelleStartdatum() {
     const bool liegtInDatei = m_gesichert == StandVon(m_plan);
+    const Startparameter vorher = m_plan.Parameter;
     FuelleStartdatumAuf(m_plan.Parameter);
-    m_verlauf.Berichtige(StandVon(m_plan));
+    m_verlauf.SchreibeTagUm(vorher, m_plan.Parameter);
     if (liegtInDatei) {
         m_gesichert = StandVon(m_plan);
     }

@@ -6,7 +6,6 @@
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QWindow>
-#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -31,7 +30,7 @@ void frmMain::Form_Load() {
     if (m_umgebung.Starthinweis) {
         m_umgebung.Boxen.Zeige(*m_umgebung.Starthinweis);
     }
-    if (!IstGeschlossen() && !BringePlanargument()) {
+    if (!IstGeschlossen() && !BringePlanargument() && !IstGeschlossen()) {
         BringePlan();
     }
     if (!IstGeschlossen()) {
@@ -49,7 +48,9 @@ bool frmMain::BringePlanargument() {
     if (datei.empty() || !LoadBauliste(datei, false) || IstGeschlossen()) {
         return false;
     }
-    m_autosave.LiegtInDatei(m_plan);
+    if (m_gesichert) {
+        m_autosave.LiegtInDatei(m_plan);
+    }
     static_cast<void>(m_autosave.Schreibe(m_plan));
     return true;
 }
@@ -220,13 +221,11 @@ void frmMain::mnu_Datei_Speichern_Click() {
 
 // What the program moves on by itself is no place to lie in.
 void frmMain::MerkeGesichert(const std::filesystem::path& datei) {
-    const auto eigene = m_autosave.Dateien();
-    const bool bleibt = std::ranges::find(eigene, datei) == eigene.end();
-    m_gesichert = bleibt ? std::optional(StandVon(m_plan)) : std::nullopt;
+    m_gesichert = m_autosave.IstEigene(datei) ? std::nullopt : std::optional(StandVon(m_plan));
 }
 
 void frmMain::BewahreErsetzten() const {
-    if (m_gesichert != StandVon(m_plan)) {
+    if (m_abschnitt == Abschnitt::Arbeit && m_gesichert != StandVon(m_plan)) {
         m_autosave.BewahreErsetzten(m_plan);
     }
 }
@@ -243,7 +242,12 @@ bool frmMain::LoadBauliste(const std::optional<Profil>& profil, const std::files
     }
     BewahreErsetzten();
     LeereListe();
-    Standmeldungen meldungen([this] { ZeigePlan(); }, m_umgebung.Boxen);
+    Standmeldungen meldungen(
+        [this] {
+            ZeigePlan();
+            ZeigeInWerkbank();
+        },
+        m_umgebung.Boxen);
     const bool geladen = LadePlan(*profil, m_plan, m_lauf.Bedingungen, meldungen);
     if (geladen) {
         ZeigePlan();

@@ -53,7 +53,7 @@ Auftragsliste ListeAus(const std::vector<Auftrag>& orders) {
 
 /// How much of a search is done, from 0 to 1.
 double Anteil(std::uint64_t versuche, std::uint64_t von) {
-    return von == 0 ? 0 : static_cast<double>(versuche) / static_cast<double>(von);
+    return von == 0 ? 1 : static_cast<double>(versuche) / static_cast<double>(von);
 }
 
 int InProzent(double anteil) {

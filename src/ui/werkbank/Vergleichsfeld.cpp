@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "persistence/Planlauf.h"
+#include "simulation/Lauftexte.h"
 #include "ui/bauteile/Bauteile.h"
 
 namespace tarvelin {
@@ -97,6 +98,7 @@ void Vergleichsfeld::LadeDatei() {
         emit Meldung(lauf.Meldungen.empty() ? "" : lauf.Meldungen.back().Text);
         return;
     }
+    emit Meldung(lauf.Lauf.Stand.IstAmEndeDerUhr() ? UeberDieUhrText() : "");
     Setze(lauf.Abgespielt(), QStringLiteral("Verglichen mit ") + AlsQString(lauf.Name));
 }
 

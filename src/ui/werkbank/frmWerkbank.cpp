@@ -323,8 +323,10 @@ void frmWerkbank::ZeigePlan() {
 }
 
 void frmWerkbank::Spiele() {
-    const std::optional<Long> vorher =
-        m_ablauf ? std::optional(m_ablauf->Dauer().Sekunden()) : std::nullopt;
+    if (m_schritte != m_verlauf.Schritte()) {
+        m_schritte = m_verlauf.Schritte();
+        m_dauerDavor = m_ablauf ? std::optional(m_ablauf->Dauer().Sekunden()) : std::nullopt;
+    }
     const auto bedingungen = LiesStartbedingungen(m_plan);
     if (const auto* const absage = std::get_if<Meldung>(&bedingungen)) {
         m_ablauf.reset();
@@ -335,8 +337,8 @@ void frmWerkbank::Spiele() {
         Melde(Meldungszeile(*m_ablauf));
     }
     const bool bearbeitet = m_verlauf.HatVorige() || m_verlauf.HatNaechste();
-    m_aenderung = bearbeitet && vorher && m_ablauf
-                      ? std::optional(m_ablauf->Dauer().Sekunden() - *vorher)
+    m_aenderung = bearbeitet && m_dauerDavor && m_ablauf
+                      ? std::optional(m_ablauf->Dauer().Sekunden() - *m_dauerDavor)
                       : std::nullopt;
 }
 

@@ -102,6 +102,10 @@ class frmWerkbank : public QWidget {
     const Umgebung& m_umgebung;
     /// Nothing, with the reason in the strip, if the plan can't be run.
     std::optional<Ablauf> m_ablauf;
+    /// The duration before the last step that was done or taken back, and how many lay behind the
+    /// plan then.
+    std::optional<Long> m_dauerDavor;
+    std::size_t m_schritte = 0;
     std::optional<Long> m_aenderung;
     /// Which rows are to be chosen when the plan comes back from an edit.
     std::optional<std::vector<std::size_t>> m_naechsteAuswahl;
