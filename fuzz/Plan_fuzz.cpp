@@ -1,11 +1,11 @@
 // Any bytes as a plan file: loaded, run and printed in every form, under the laws of every plan.
 #include <sstream>
 
-#include "Eingabe.h"
-#include "Gesetze.h"
-#include "console/Ausgabe.h"
-#include "persistence/Planablage.h"
-#include "simulation/Wecker.h"
+#include "FuzzInput.h"
+#include "PlanLaws.h"
+#include "console/RunReport.h"
+#include "persistence/PlanFile.h"
+#include "simulation/DueAlarms.h"
 
 namespace tarvelin {
 namespace {

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs clang's fuzzer on each target, one after the other, or on those that are named:
-#   fuzz/run.sh SECONDS [Plan|Profil|Texte]...
+#   fuzz/run.sh SECONDS [Plan|IniFile|Texts]...
 # It begins with the kept inputs and the plans of the tests, and adds to build/fuzz/corpus what reaches
 # further. An input that breaks a promise is written to build/fuzz, its name is told, and the run fails.
 # To keep the fewest inputs that reach all that was reached:
@@ -12,18 +12,18 @@ install_missing "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" clang libclang-rt-1
 cd "$root"
 seconds=${1:?"fuzz/run.sh SECONDS [TARGET]..."}
 targets=("${@:2}")
-[ ${#targets[@]} -gt 0 ] || targets=(Plan Profil Texte)
-build "$root" fuzz tarvelin-fuzz-plan tarvelin-fuzz-profil tarvelin-fuzz-texte
+[ ${#targets[@]} -gt 0 ] || targets=(Plan IniFile Texts)
+build "$root" fuzz tarvelin-fuzz-plan tarvelin-fuzz-inifile tarvelin-fuzz-texts
 
 # The tests' plans, in the form that each target takes.
 seeds=build/fuzz/seeds
-mkdir -p "$seeds"/{Plan,Profil}
-cp -r fuzz/seeds/Texte "$seeds"
+mkdir -p "$seeds"/{Plan,IniFile}
+cp -r fuzz/seeds/Texts "$seeds"
 cp tests/data/golden/*.tvf data/saves/*.tvf "$seeds/Plan"
 # And one in UTF-16 with a byte order mark.
 { printf '\xff\xfe' && iconv -f CP1252 -t UTF-16LE data/saves/basic.tvf; } >"$seeds/Plan/utf16.tvf"
 for plan in "$seeds"/Plan/*; do
-    { printf 'Bauliste\x1fItem_001\x1fGM\x1f' && cat "$plan"; } >"$seeds/Profil/${plan##*/}"
+    { printf 'Bauliste\x1fItem_001\x1fGM\x1f' && cat "$plan"; } >"$seeds/IniFile/${plan##*/}"
 done
 
 for target in "${targets[@]}"; do

@@ -1,9 +1,9 @@
 // Plan files with their whole expected result, compared field by field.
 #include <nlohmann/json.hpp>
 
-#include "Hilfen.h"
-#include "console/Ausgabe.h"
-#include "plan/Regeln.h"
+#include "TestSupport.h"
+#include "console/RunReport.h"
+#include "plan/Rules.h"
 
 namespace tarvelin {
 namespace {
@@ -41,7 +41,7 @@ INSTANTIATE_TEST_SUITE_P(Plaene, Golden, testing::ValuesIn(Plaene()), [](const a
 });
 
 TEST(Starterplan, HaeltDieRegelnUndLaeuftOhneMeldung) {
-    const Planlauf lauf(std::filesystem::path(TARVELIN_QUELLEN) / "data/saves/basic.tvf");
+    const Planlauf lauf(std::filesystem::path(TARVELIN_SOURCE_DIR) / "data/saves/basic.tvf");
     EXPECT_TRUE(lauf.Gelaufen);
     EXPECT_TRUE(lauf.Meldungen.empty());
     const auto orders = lauf.Plan.Liste.Auftraege().Alle();

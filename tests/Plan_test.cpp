@@ -1,11 +1,11 @@
 // The build list, its rules and hover texts, start parameters and sleep windows.
 #include <set>
 
-#include "Gesetze.h"
-#include "Hilfen.h"
-#include "plan/Hovertexte.h"
-#include "plan/Listenverlauf.h"
-#include "plan/Regeln.h"
+#include "PlanLaws.h"
+#include "TestSupport.h"
+#include "plan/EditHistory.h"
+#include "plan/HoverInfo.h"
+#include "plan/Rules.h"
 
 namespace tarvelin {
 namespace {

@@ -2,12 +2,12 @@
 #include <cmath>
 #include <limits>
 
-#include "Hilfen.h"
+#include "TestSupport.h"
 #include "util/Codepage1252.h"
-#include "util/Datumzeit.h"
-#include "util/Festkomma.h"
+#include "util/DateTime.h"
+#include "util/FixedPoint.h"
 #include "util/Nuetzliches.h"
-#include "util/Zahlentext.h"
+#include "util/NumberText.h"
 
 namespace tarvelin {
 namespace {

@@ -23,14 +23,14 @@
 #include <span>
 #endif
 
-#include "console/Ausgabe.h"
-#include "console/Hilfeseite.h"
-#include "console/Suchbefehl.h"
-#include "console/Vergleichsausgabe.h"
-#include "persistence/Dateiersatz.h"
-#include "persistence/Kalender.h"
-#include "persistence/Planablage.h"
-#include "simulation/Lauftexte.h"
+#include "console/ComparisonReport.h"
+#include "console/HelpPage.h"
+#include "console/RunReport.h"
+#include "console/SearchCommand.h"
+#include "persistence/AtomicWrite.h"
+#include "persistence/Calendar.h"
+#include "persistence/PlanFile.h"
+#include "simulation/RunTexts.h"
 
 namespace {
 

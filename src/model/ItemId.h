@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "util/Je.h"
+#include "util/EnumArray.h"
 
 namespace tarvelin {
 

@@ -1,7 +1,7 @@
 // One stretch of wall-clock time in which the player can't give an order.
 #pragma once
 
-#include "util/Datumzeit.h"
+#include "util/DateTime.h"
 
 namespace tarvelin {
 

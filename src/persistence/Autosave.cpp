@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "persistence/Dateiersatz.h"
+#include "persistence/AtomicWrite.h"
 
 namespace tarvelin {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "persistence/Planablage.h"
+#include "persistence/PlanFile.h"
 
 namespace tarvelin {
 

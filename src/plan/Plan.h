@@ -5,10 +5,10 @@
 #include <variant>
 #include <vector>
 
-#include "model/Startbedingungen.h"
-#include "plan/Bauliste.h"
-#include "plan/Schlaftabelle.h"
-#include "plan/Startparameter.h"
+#include "model/RunConditions.h"
+#include "plan/BuildList.h"
+#include "plan/SleepTable.h"
+#include "plan/StartParameters.h"
 
 namespace tarvelin {
 

@@ -1,9 +1,9 @@
 // Rows and messages of a run.
 #include "simulation/RunSimulation.h"
 
-#include "model/Planet.h"
-#include "simulation/Beobachterreihe.h"
-#include "simulation/Laufmeldungen.h"
+#include "model/Transitions.h"
+#include "simulation/ObserverGroup.h"
+#include "simulation/RunReporter.h"
 #include "simulation/Simulation.h"
 
 namespace tarvelin {

@@ -3,11 +3,11 @@
 
 #include <span>
 
-#include "model/Spielstand.h"
-#include "model/Startbedingungen.h"
+#include "model/GameState.h"
+#include "model/RunConditions.h"
 #include "plan/Plan.h"
-#include "simulation/Bauzeit.h"
-#include "util/Meldung.h"
+#include "simulation/Schedule.h"
+#include "util/Message.h"
 
 namespace tarvelin {
 

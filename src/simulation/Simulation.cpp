@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <limits>
 
-#include "model/Itemtabelle.h"
-#include "model/Kosten.h"
-#include "model/Planet.h"
+#include "model/Cost.h"
+#include "model/ItemTable.h"
+#include "model/Transitions.h"
 
 namespace tarvelin {
 

@@ -3,11 +3,11 @@
 
 #include <span>
 
-#include "model/Spielstand.h"
-#include "model/Startbedingungen.h"
-#include "plan/Auftrag.h"
-#include "simulation/EventTabelle.h"
-#include "simulation/Laufbeobachter.h"
+#include "model/GameState.h"
+#include "model/RunConditions.h"
+#include "plan/Order.h"
+#include "simulation/EventTable.h"
+#include "simulation/RunObserver.h"
 
 namespace tarvelin {
 

@@ -7,18 +7,18 @@
 #include <QTimer>
 #include <QUrl>
 
-#include "persistence/Programmordner.h"
-#include "persistence/Schreibschutz.h"
-#include "ui/bauteile/Aussehen.h"
-#include "ui/bauteile/Bauteile.h"
-#include "ui/dienste/Desktopfarben.h"
-#include "ui/dienste/Endesignale.h"
-#include "ui/dienste/Klangausgabe.h"
-#include "ui/dienste/Meldungsfenster.h"
-#include "ui/dienste/Netzabruf.h"
-#include "ui/dienste/Ordnerschloss.h"
-#include "ui/dienste/Planargument.h"
-#include "ui/fenster/frmMain.h"
+#include "persistence/ProgramFolder.h"
+#include "persistence/ProtectedFileSystem.h"
+#include "ui/mainwindow/frmMain.h"
+#include "ui/services/DesktopColors.h"
+#include "ui/services/FolderLock.h"
+#include "ui/services/HttpFetcher.h"
+#include "ui/services/PlanArgument.h"
+#include "ui/services/QtDialogs.h"
+#include "ui/services/SoundPlayer.h"
+#include "ui/services/TerminationSignals.h"
+#include "ui/widgets/Appearance.h"
+#include "ui/widgets/Controls.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <system_error>
 
-#include "util/Zahlentext.h"
+#include "util/NumberText.h"
 
 namespace tarvelin {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "util/Ganzzahl.h"
+#include "util/Integers.h"
 
 namespace tarvelin {
 

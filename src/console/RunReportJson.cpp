@@ -1,0 +1,150 @@
+// The JSON of a plan and its result.
+#include "console/RunReport.h"
+
+#include <nlohmann/json.hpp>
+
+#include "model/ItemTable.h"
+#include "simulation/RunTexts.h"
+
+namespace tarvelin {
+
+namespace {
+
+using nlohmann::json;
+
+json Meldungen(const Planlauf& lauf) {
+    json liste = json::array();
+    for (const Meldung& meldung : lauf.Meldungen) {
+        liste.push_back({{"Text", meldung.Text}, {"Titel", meldung.Titel}});
+    }
+    return liste;
+}
+
+json Zeilen(const Bauliste& bauliste) {
+    json liste = json::array();
+    for (const BaulistenZeile& zeile : bauliste.Zeilen()) {
+        liste.push_back({{"Text", zeile.Text},
+                         {"Tag", zeile.Tag},
+                         {"SubItems1", zeile.SubItems1},
+                         {"SubItems2", zeile.SubItems2},
+                         {"Farbe", static_cast<int>(zeile.SubItems2Farbe)}});
+    }
+    return liste;
+}
+
+/// An object from the item codes to what `wert` gives for each item.
+template <class Wert>
+json JeCode(Wert wert) {
+    json objekt = json::object();
+    for (const Itemzeile& zeile : Itemtabelle()) {
+        objekt[std::string(zeile.Code)] = wert(zeile.Item);
+    }
+    return objekt;
+}
+
+json Schlafzeiten(const Schlaftabelle& tabelle) {
+    json liste = json::array();
+    for (const SchlafzeitZeile& zeile : tabelle) {
+        liste.push_back({zeile.Startzeit, zeile.Endzeit});
+    }
+    return liste;
+}
+
+json Zeittabelle(const Bauzeiten& bauzeiten) {
+    json liste = json::array();
+    for (const Bauzeit& zeile : bauzeiten) {
+        liste.push_back({{"Wochentag", zeile.Wochentag()},
+                         {"Uhrzeit", zeile.Uhrzeit()},
+                         {"theText", zeile.theText()},
+                         {"Tag", zeile.Tag()}});
+    }
+    return liste;
+}
+
+void FuegeZustandAn(json& objekt, const Spielstand& stand, const Startbedingungen& bedingungen) {
+    objekt["secsgone"] = stand.secsgone.Sekunden();
+    objekt["Metall"] = VierStellenText(stand.Vorrat[Rohstoff::Metall]);
+    objekt["Kristall"] = VierStellenText(stand.Vorrat[Rohstoff::Kristall]);
+    objekt["Deuterium"] = VierStellenText(stand.Vorrat[Rohstoff::Deuterium]);
+    objekt["ProdFaktor"] = VierStellenText(stand.ProdFaktor);
+    objekt["MetallProStunde"] = VierStellenText(stand.ProStunde[Rohstoff::Metall]);
+    objekt["KristallProStunde"] = VierStellenText(stand.ProStunde[Rohstoff::Kristall]);
+    objekt["DeuteriumProStunde"] = VierStellenText(stand.ProStunde[Rohstoff::Deuterium]);
+    objekt["EnergieProduktion"] = stand.EnergieProduktion;
+    objekt["EnergieVerbrauch"] = stand.EnergieVerbrauch;
+    objekt["VerbauteRessourcen"] = stand.VerbauteRessourcen;
+    objekt["Temperatur"] = bedingungen.Temperatur;
+    objekt["Speedfaktor"] = bedingungen.Speedfaktor;
+    objekt["GebaeudeFertigZeit"] = stand.FertigZeit[Schlange::Gebaeude].Sekunden();
+    objekt["WerftFertigZeit"] = stand.FertigZeit[Schlange::Werft].Sekunden();
+    objekt["ForschungFertigZeit"] = stand.FertigZeit[Schlange::Forschung].Sekunden();
+    objekt["Stufen"] = JeCode([&](ItemId item) { return stand.Stufen[item]; });
+}
+
+void FuegeTexteAn(json& objekt, const Ergebnistexte& texte) {
+    objekt["LBL_Timegone"] = texte.LBL_Timegone;
+    objekt["LBL_Met"] = texte.LBL_Met;
+    objekt["LBL_Kris"] = texte.LBL_Kris;
+    objekt["LBL_Deut"] = texte.LBL_Deut;
+    objekt["LBL_ENergie"] = texte.LBL_ENergie;
+    objekt["LBL_Punkte"] = texte.LBL_Punkte;
+    objekt["LBL_Punkte_Hinweis"] = texte.LBL_Punkte_Hinweis;
+}
+
+json Punkt(const Verlaufspunkt& punkt, const Startbedingungen& bedingungen) {
+    return {{"Sekunde", punkt.Zeit.Sekunden()},
+            {"Zeitpunkt", Datumzeittext(bedingungen.Uhrzeit(punkt.Zeit))},
+            {"Metall", VierStellenText(punkt.Vorrat[Rohstoff::Metall])},
+            {"Kristall", VierStellenText(punkt.Vorrat[Rohstoff::Kristall])},
+            {"Deuterium", VierStellenText(punkt.Vorrat[Rohstoff::Deuterium])},
+            {"MetallProStunde", VierStellenText(punkt.ProStunde[Rohstoff::Metall])},
+            {"KristallProStunde", VierStellenText(punkt.ProStunde[Rohstoff::Kristall])},
+            {"DeuteriumProStunde", VierStellenText(punkt.ProStunde[Rohstoff::Deuterium])},
+            {"EnergieProduktion", punkt.EnergieProduktion},
+            {"EnergieVerbrauch", punkt.EnergieVerbrauch}};
+}
+
+json VerlaufVon(const Ablauf& ablauf) {
+    json punkte = json::array();
+    for (const Verlaufspunkt& punkt : ablauf.Kurve) {
+        punkte.push_back(Punkt(punkt, ablauf.Bedingungen));
+    }
+    json auftraege = json::array();
+    for (const Startereignis& start : ablauf.Starts) {
+        auftraege.push_back(
+            {{"Zeile", start.Zeile + 1},
+             {"Auftrag", Auftragsschluessel(start.Order, start.Nummer)},
+             {"Start", start.Start.Sekunden()},
+             {"Finish", start.Finish.Sekunden()},
+             {"Startzeit", Datumzeittext(ablauf.Bedingungen.Uhrzeit(start.Start))},
+             {"Fertigzeit", Datumzeittext(ablauf.Bedingungen.Uhrzeit(start.Finish))},
+             {"Schlange", Schlangenname(start.Order.Queue)},
+             {"Grund", Wartetext(ablauf, start.Zeile)}});
+    }
+    return {{"Punkte", punkte}, {"Auftraege", auftraege}};
+}
+
+}  // namespace
+
+std::string JsonText(const Planlauf& lauf, bool mitVerlauf) {
+    const Bauliste& liste = lauf.Plan.Liste;
+    json objekt{
+        {"Meldungen", Meldungen(lauf)},
+        {"Geladen", lauf.Geladen},
+        {"Gelaufen", lauf.Gelaufen},
+        {"Bauliste", Zeilen(liste)},
+        {"ListStufe", JeCode([&](ItemId item) { return liste.Auftraege().ListStufe(item); })},
+        {"ListFaktor", liste.Auftraege().ListFaktor()},
+        {"Schlafzeiten", Schlafzeiten(lauf.Plan.Schlafzeiten)}};
+    if (lauf.Gelaufen) {
+        FuegeZustandAn(objekt, lauf.Lauf.Stand, lauf.Lauf.Bedingungen);
+        FuegeTexteAn(objekt, lauf.Texte);
+        objekt["LV_Bauzeiten"] = Zeittabelle(lauf.Lauf.LV_Bauzeiten);
+        if (mitVerlauf) {
+            objekt["Verlauf"] = VerlaufVon(lauf.Abgespielt());
+        }
+    }
+    return objekt.dump(1);
+}
+
+}  // namespace tarvelin

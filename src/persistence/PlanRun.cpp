@@ -1,0 +1,47 @@
+// Loading and running without a window.
+#include "persistence/PlanRun.h"
+
+#include <utility>
+
+#include "persistence/PlanFile.h"
+
+namespace tarvelin {
+
+namespace {
+
+std::string Dateiname(const std::filesystem::path& datei) {
+    const auto name = datei.filename().u8string();
+    return {name.begin(), name.end()};
+}
+
+}  // namespace
+
+Ablauf Planlauf::Abgespielt() const {
+    return SpieleAb(Plan.Liste.Auftraege().Alle(), Lauf.Bedingungen);
+}
+
+Planlauf::Planlauf(const std::filesystem::path& datei)
+    : Planlauf(Dateiname(datei), Profil::Lade(datei)) {}
+
+Planlauf::Planlauf(std::string name, const std::optional<Profil>& profil) : Name(std::move(name)) {
+    Meldungsliste meldungen(Meldungen);
+    if (!profil) {
+        meldungen.Zeige(Ladefehler());
+        return;
+    }
+    Geladen = LadePlan(*profil, Plan, Lauf.Bedingungen, meldungen);
+    if (!Geladen) {
+        return;
+    }
+    const auto bedingungen = LiesStartbedingungen(Plan);
+    if (const auto* const absage = std::get_if<Meldung>(&bedingungen)) {
+        meldungen.Zeige(*absage);
+        return;
+    }
+    Lauf.Beginne(std::get<Startbedingungen>(bedingungen));
+    RunSimulation(Plan.Liste.Auftraege().Alle(), Lauf, meldungen);
+    Texte.NachLauf(Lauf.Stand);
+    Gelaufen = true;
+}
+
+}  // namespace tarvelin

@@ -1,0 +1,119 @@
+// Editing of the build list and its texts.
+#include "plan/BuildList.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
+
+#include "model/Energy.h"
+#include "model/ItemTable.h"
+#include "model/Mines.h"
+#include "util/Nuetzliches.h"
+#include "util/NumberText.h"
+
+namespace tarvelin {
+
+namespace {
+
+std::string Itemtext(ItemId item, Byte nummer) {
+    const Itemzeile& zeile = ZeileVon(item);
+    std::string text(zeile.Listentext);
+    return zeile.Besonders.MitNummer ? text + std::to_string(nummer) : text;
+}
+
+std::string Produktionstext(const Minenfaktoren& faktoren) {
+    const auto prozent = [&](Rohstoff r) { return std::to_string(10 * faktoren[r]) + "%"; };
+    return "M:" + prozent(Rohstoff::Metall) + " K:" + prozent(Rohstoff::Kristall) +
+           " D:" + prozent(Rohstoff::Deuterium);
+}
+
+/// The list text of the last order.
+std::string Listentext(const Auftragsliste& liste) {
+    const Auftrag& letzter = liste.Alle().back();
+    return letzter.Was == Auftrag::Art::Item ? Itemtext(letzter.Item, liste.ListStufe(letzter.Item))
+                                             : Produktionstext(letzter.Faktoren);
+}
+
+}  // namespace
+
+std::optional<Meldung> Bauliste::AddItem(ItemId item, const Startbedingungen& bedingungen) {
+    return HaengeAn(Auftrag::Fuer(item), ZeileVon(item).Code, bedingungen);
+}
+
+std::optional<Meldung> Bauliste::AddProdaenderungsevent(const Minenfaktoren& faktoren,
+                                                        const Startbedingungen& bedingungen) {
+    const Auftrag auftrag = Auftrag::Fuer(faktoren);
+    return HaengeAn(auftrag, auftrag.Tag(), bedingungen);
+}
+
+bool Bauliste::Replay(std::string_view tag, const Startbedingungen& bedingungen) {
+    const Auftrag auftrag = Auftrag::AusTag(tag);
+    return auftrag.Was != Auftrag::Art::Unbekannt && !HaengeAn(auftrag, tag, bedingungen);
+}
+
+// The factor text sees the counters with the row done.
+std::optional<Meldung> Bauliste::HaengeAn(const Auftrag& auftrag, std::string_view tag,
+                                          const Startbedingungen& bedingungen) {
+    if (m_auftraege.IstVoll()) {
+        return ListeVoll();
+    }
+    m_auftraege.HaengeAn(auftrag);
+    const std::string faktor = GetProdfaktorText(m_auftraege, bedingungen);
+    m_zeilen.push_back({.Text = std::to_string(m_auftraege.Zahl()),
+                        .Tag = std::string(tag),
+                        .SubItems1 = Listentext(m_auftraege),
+                        .SubItems2 = faktor,
+                        .SubItems2Farbe = faktor == "1,00" ? Farbe::Schwarz : Farbe::Rot});
+    return std::nullopt;
+}
+
+void Bauliste::Undo() {
+    if (!m_zeilen.empty()) {
+        m_auftraege.NimmLetzten();
+        m_zeilen.pop_back();
+    }
+}
+
+void Bauliste::Clear() {
+    *this = Bauliste();
+}
+
+std::vector<std::string> Bauliste::Tags() const {
+    std::vector<std::string> tags;
+    tags.reserve(m_zeilen.size());
+    std::ranges::transform(m_zeilen, std::back_inserter(tags), &BaulistenZeile::Tag);
+    return tags;
+}
+
+void Bauliste::Setze(const std::vector<std::string>& tags, const Startbedingungen& bedingungen) {
+    Clear();
+    for (const std::string& tag : tags) {
+        static_cast<void>(Replay(tag, bedingungen));
+    }
+}
+
+Meldung ListeVoll() {
+    return {.Text = "Die Bauliste ist voll: mehr als 254 Einträge sind nicht möglich...",
+            .Titel = kAusnahmefehler};
+}
+
+std::string GetProdfaktorText(const Auftragsliste& liste, const Startbedingungen& bedingungen) {
+    const auto bedarf = [&](Rohstoff r, ItemId mine) {
+        return EnergiebedarfDerListe(r, liste.ListStufe(mine), liste.ListFaktor()[r]);
+    };
+    const Long need = HalfEvenLong(bedarf(Rohstoff::Deuterium, ItemId::DeutMine) +
+                                   bedarf(Rohstoff::Kristall, ItemId::KrisMine) +
+                                   bedarf(Rohstoff::Metall, ItemId::MetMine));
+    const Long supply =
+        HalfEvenLong((Satellitenertrag(liste.ListStufe(ItemId::Solsats), bedingungen.Temperatur) +
+                      Kraftwerksertrag(liste.ListStufe(ItemId::SKW)))
+                         .AlsDouble());
+    constexpr int kStellen = 2;
+    constexpr double kHundert = 100;
+    const double anteil = need == 0 ? 1.0 : static_cast<double>(supply) / need;
+    const auto hundertstel = std::min(Rundung::half_even(anteil * kHundert), std::int64_t{100});
+    const Festkomma faktor = Festkomma::AusRohwert(hundertstel * (Festkomma::kEinheit / 100));
+    return PadDecimals(Dezimaltext(faktor), kStellen);
+}
+
+}  // namespace tarvelin

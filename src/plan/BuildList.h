@@ -1,0 +1,78 @@
+// The plan that the user edits: the rows of `LV_Bauliste` over its orders.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/RunConditions.h"
+#include "plan/OrderList.h"
+#include "util/Message.h"
+
+namespace tarvelin {
+
+/// Colour of a row's factor text, as the red share of a colour.
+enum class Farbe : Byte { Schwarz = 0, Rot = 255 };
+
+struct BaulistenZeile {
+    /// First column: the row's position, from 1.
+    std::string Text;
+    /// Not shown: the item code or the production row's "GX:" + m + ":" + k + ":" + d.
+    std::string Tag;
+    /// Second column: the list text.
+    std::string SubItems1;
+    /// Third column: the production factor with this row done, as it was when the row was added.
+    std::string SubItems2;
+    Farbe SubItems2Farbe = Farbe::Schwarz;
+};
+
+/// The orders and the texts of the screen. A row's texts are made when it is added and never
+/// change; the operations that work out a factor text take the conditions of the last run or reset,
+/// as the satellites' share follows the temperature.
+class Bauliste {
+  public:
+    [[nodiscard]] const Auftragsliste& Auftraege() const { return m_auftraege; }
+    /// As many as there are orders.
+    [[nodiscard]] const std::vector<BaulistenZeile>& Zeilen() const { return m_zeilen; }
+
+    /// Adds a row of an item. Nothing is checked against the game's rules. A message if the list is
+    /// full; nothing changes then.
+    [[nodiscard]] std::optional<Meldung> AddItem(ItemId item, const Startbedingungen& bedingungen);
+
+    /// Adds a production row. A message if the list is full; nothing changes then.
+    [[nodiscard]] std::optional<Meldung> AddProdaenderungsevent(
+        const Minenfaktoren& faktoren, const Startbedingungen& bedingungen);
+
+    /// Adds the row of a stored `Tag`, which is kept as it is. False if the `Tag` is unknown or the
+    /// list full; nothing changes then.
+    [[nodiscard]] bool Replay(std::string_view tag, const Startbedingungen& bedingungen);
+
+    /// Takes the last row out, if there is one, and puts back what it had changed.
+    void Undo();
+
+    void Clear();
+
+    /// The rows' `Tag`s.
+    [[nodiscard]] std::vector<std::string> Tags() const;
+    /// All rows anew, with the texts that adding them one by one gives. Each `Tag` is one that
+    /// `Replay` takes; at most 254.
+    void Setze(const std::vector<std::string>& tags, const Startbedingungen& bedingungen);
+
+  private:
+    std::optional<Meldung> HaengeAn(const Auftrag& auftrag, std::string_view tag,
+                                    const Startbedingungen& bedingungen);
+
+    Auftragsliste m_auftraege;
+    std::vector<BaulistenZeile> m_zeilen;
+};
+
+/// What is told of a row beyond the last that a list has room for.
+[[nodiscard]] Meldung ListeVoll();
+
+/// The production factor of a list as it stands, with two decimals: supply divided by need, at most
+/// "1,00".
+[[nodiscard]] std::string GetProdfaktorText(const Auftragsliste& liste,
+                                            const Startbedingungen& bedingungen);
+
+}  // namespace tarvelin

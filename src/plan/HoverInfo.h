@@ -1,0 +1,24 @@
+// What the pointer over an item's picture brings: whether it can be dragged, and the tooltip.
+#pragma once
+
+#include <string>
+
+#include "model/ItemId.h"
+#include "model/RunConditions.h"
+#include "plan/OrderList.h"
+
+namespace tarvelin {
+
+struct Hoverinfo {
+    /// Whether a press on the picture starts a drag.
+    bool DragOffen = true;
+    /// What the next row of the item would cost, or why it can't be had.
+    std::string Tooltip;
+};
+
+/// `bedingungen` are those of the last run or reset: the satellites' figure follows the
+/// temperature.
+[[nodiscard]] Hoverinfo HoverInfo(ItemId item, const Auftragsliste& liste,
+                                  const Startbedingungen& bedingungen);
+
+}  // namespace tarvelin

@@ -1,0 +1,23 @@
+// The game's rules for what may be added to the build list.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "model/ItemId.h"
+#include "model/ItemTable.h"
+#include "plan/OrderList.h"
+
+namespace tarvelin {
+
+/// The rows that an item asks for above it.
+[[nodiscard]] const Stufenbedarfe& Listenbedarf(ItemId item);
+
+/// Whether an item can be added to a list with these counters.
+[[nodiscard]] bool IstErlaubt(ItemId item, const JeItem<Byte>& listStufen);
+
+/// Why an item can't be added to the list as it stands: the refusal, or nothing if it can. The
+/// rules count rows of the list and nothing else. `GM`, `GK`, `GD` and `GS` have none.
+[[nodiscard]] std::optional<std::string_view> Absage(ItemId item, const Auftragsliste& liste);
+
+}  // namespace tarvelin

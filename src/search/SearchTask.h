@@ -1,0 +1,49 @@
+// What is searched for.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "model/ItemId.h"
+#include "model/RunConditions.h"
+#include "model/SimTime.h"
+#include "plan/Order.h"
+
+namespace tarvelin {
+
+/// The items that bring resources, energy or speed. A search for a goal builds as many of them as
+/// pay off.
+[[nodiscard]] bool IstWirtschaft(ItemId item);
+
+/// A task of the search.
+struct Suchaufgabe {
+    enum class Art : std::uint8_t {
+        /// The same orders in another order.
+        Reihenfolge,
+        /// What has to stand at the end, by whatever economy.
+        Ziel,
+    };
+
+    Art Was = Art::Reihenfolge;
+    Startbedingungen Bedingungen;
+    /// The plan to begin with, by the rules of the list.
+    std::vector<Auftrag> Orders;
+    /// Rows that keep their place: as many as orders. In a search for an order a place is the
+    /// number of a row; in one for a goal pinned rows keep their sequence and the orders before
+    /// them that are no economy.
+    std::vector<bool> Fest;
+    /// So many rows at the head are played already.
+    std::size_t Kopf = 0;
+    /// No other order may start before.
+    Moment Ab;
+    /// Goal: levels and numbers that have to stand at the end; of what is no economy exactly these.
+    JeItem<Byte> Mindestens{};
+};
+
+/// The goal with all that the rules of the list ask for on the way.
+[[nodiscard]] JeItem<Byte> MitVoraussetzungen(JeItem<Byte> ziel);
+
+/// What a list brings to its end.
+[[nodiscard]] JeItem<Byte> Endstufen(const std::vector<Auftrag>& orders);
+
+}  // namespace tarvelin

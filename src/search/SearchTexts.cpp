@@ -1,0 +1,48 @@
+// Levels and rates.
+#include "search/SearchTexts.h"
+
+#include "model/ItemTable.h"
+
+namespace tarvelin {
+
+namespace {
+
+/// What `text` makes of each item that one list has more of than the other.
+template <class Text>
+std::string Gereiht(const Auftragsliste& mehr, const Auftragsliste& weniger, const char* zwischen,
+                    Text text) {
+    std::string alle;
+    for (const Itemzeile& zeile : Itemtabelle()) {
+        const int unterschied = mehr.ListStufe(zeile.Item) - weniger.ListStufe(zeile.Item);
+        if (unterschied > 0) {
+            alle += (alle.empty() ? "" : zwischen) + text(zeile, std::to_string(unterschied));
+        }
+    }
+    return alle;
+}
+
+}  // namespace
+
+std::string Ueberschuss(const Auftragsliste& mehr, const Auftragsliste& weniger) {
+    return Gereiht(mehr, weniger, " ", [](const Itemzeile& zeile, const std::string& zahl) {
+        return std::string(zeile.Code) + zahl;
+    });
+}
+
+std::string UeberschussInWorten(const Auftragsliste& mehr, const Auftragsliste& weniger) {
+    return Gereiht(mehr, weniger, ", ", [](const Itemzeile& zeile, const std::string& zahl) {
+        return zahl + " x " + std::string(zeile.Name);
+    });
+}
+
+std::string Anzahltext(std::size_t zahl, const char* einzahl, const char* mehrzahl) {
+    return std::to_string(zahl) + " " + (zahl == 1 ? einzahl : mehrzahl);
+}
+
+std::string ProStundeText(const Spielstand& stand) {
+    return "Metall " + std::to_string(stand.ProStunde[Rohstoff::Metall].GanzerTeil()) +
+           ", Kristall " + std::to_string(stand.ProStunde[Rohstoff::Kristall].GanzerTeil()) +
+           ", Deuterium " + std::to_string(stand.ProStunde[Rohstoff::Deuterium].GanzerTeil());
+}
+
+}  // namespace tarvelin

@@ -1,0 +1,62 @@
+// Rows of four texts.
+#include "simulation/ComparisonTexts.h"
+
+#include "simulation/RunTexts.h"
+#include "util/NumberText.h"
+
+namespace tarvelin {
+
+namespace {
+
+Vergleichstext Zeit(std::string name, Long a, Long b) {
+    return {std::move(name), Spannentext(a), Spannentext(b),
+            Aenderungstext(LongSumme(b, -std::int64_t{a}))};
+}
+
+Vergleichstext Zahl(std::string name, double a, double b, int stellen) {
+    const auto text = [stellen](double wert) { return Dezimaltext(wert, stellen); };
+    return {std::move(name), text(a), text(b), (b > a ? "+" : "") + text(b - a)};
+}
+
+}  // namespace
+
+std::vector<Vergleichstext> Kennzahltexte(const Vergleich& vergleich) {
+    const Kennzahlen& a = vergleich.A;
+    const Kennzahlen& b = vergleich.B;
+    constexpr double kRessourcenJePunkt = 1000;
+    constexpr int kStellen = 3;
+    std::vector<Vergleichstext> zeilen{Zeit("Dauer", a.Dauer, b.Dauer),
+                                       Zahl("Punkte", a.VerbauteRessourcen / kRessourcenJePunkt,
+                                            b.VerbauteRessourcen / kRessourcenJePunkt, kStellen)};
+    struct Name {
+        Rohstoff Was;
+        const char* Text;
+    };
+    for (const auto& [was, name] :
+         {Name{Rohstoff::Metall, "Metall"}, Name{Rohstoff::Kristall, "Kristall"},
+          Name{Rohstoff::Deuterium, "Deuterium"}}) {
+        zeilen.push_back(Zahl(name, static_cast<double>(a.Vorrat[was].GanzerTeil()),
+                              static_cast<double>(b.Vorrat[was].GanzerTeil()), 0));
+    }
+    zeilen.push_back(Zahl("Sitzungen", a.Sitzungen, b.Sitzungen, 0));
+    for (const Schlange schlange : {Schlange::Gebaeude, Schlange::Forschung, Schlange::Werft}) {
+        zeilen.push_back(Zeit(std::string(Schlangenname(schlange)) + " ohne Arbeit",
+                              a.Leerlauf[schlange], b.Leerlauf[schlange]));
+    }
+    return zeilen;
+}
+
+std::vector<Vergleichstext> Auftragstexte(const Vergleich& vergleich) {
+    std::vector<Vergleichstext> zeilen;
+    const auto text = [](const std::optional<Moment>& moment) {
+        return moment ? Spannentext(moment->Sekunden()) : "fehlt";
+    };
+    for (const Vergleichszeile& zeile : vergleich.Unterschiede) {
+        const auto unterschied = zeile.Unterschied();
+        zeilen.push_back({Auftragstext(zeile.Order, zeile.Nummer), text(zeile.A), text(zeile.B),
+                          unterschied ? Aenderungstext(*unterschied) : ""});
+    }
+    return zeilen;
+}
+
+}  // namespace tarvelin

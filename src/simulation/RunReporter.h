@@ -1,0 +1,23 @@
+// What a run tells its player.
+#pragma once
+
+#include "simulation/RunObserver.h"
+#include "util/Message.h"
+
+namespace tarvelin {
+
+/// Hands out messages and beeps as they come.
+class Laufmeldungen final : public Laufbeobachter {
+  public:
+    /// `ausgabe` must outlive it.
+    explicit Laufmeldungen(Meldungsausgabe& ausgabe) : m_ausgabe(ausgabe) {}
+
+    void Schulden(const Spielstand& stand) override;
+    void Unbekannt(Unbekanntes was) override;
+    void Piepton() override { m_ausgabe.Piepton(); }
+
+  private:
+    Meldungsausgabe& m_ausgabe;
+};
+
+}  // namespace tarvelin

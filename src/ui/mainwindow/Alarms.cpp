@@ -1,0 +1,52 @@
+// Boxes, ticks and sounds of the alarms.
+#include "ui/mainwindow/Alarms.h"
+
+#include "simulation/DueAlarms.h"
+
+namespace tarvelin {
+
+Alarme::Alarme(const Quellen& quellen, const Umgebung& umgebung, QObject* parent)
+    : QObject(parent),
+      m_quellen(quellen),
+      m_umgebung(umgebung),
+      m_konfiguration(umgebung.Programmordner, umgebung.Dateien),
+      m_Tmr_BauWeckfunktion(QStringLiteral("Tmr_BauWeckfunktion"), this),
+      m_Tmr_Schlafweckfunktion(QStringLiteral("Tmr_Schlafweckfunktion"), this) {
+    connect(&quellen.Chk_BauWeckfunktion, &QCheckBox::toggled, &m_Tmr_BauWeckfunktion,
+            &Sekundentakt::Schalte);
+    connect(&quellen.Chk_Schlafzeitenwecker, &QCheckBox::toggled, &m_Tmr_Schlafweckfunktion,
+            &Sekundentakt::Schalte);
+    connect(&m_Tmr_BauWeckfunktion, &QTimer::timeout, this, &Alarme::Tmr_BauWeckfunktion_Tick);
+    connect(&m_Tmr_Schlafweckfunktion, &QTimer::timeout, this,
+            &Alarme::Tmr_Schlafweckfunktion_Tick);
+}
+
+void Alarme::LiesKonfiguration() {
+    m_quellen.Chk_BauWeckfunktion.setChecked(
+        m_konfiguration.IstAn(Konfiguration::kBaulistenwecker));
+    m_quellen.Chk_Schlafzeitenwecker.setChecked(
+        m_konfiguration.IstAn(Konfiguration::kSchlafzeitenwecker));
+}
+
+void Alarme::Verstumme() {
+    m_Tmr_BauWeckfunktion.stop();
+    m_Tmr_Schlafweckfunktion.stop();
+}
+
+void Alarme::Tmr_BauWeckfunktion_Tick() {
+    PlayAlert(FaelligeBauzeiten(m_quellen.LV_Bauzeiten, m_umgebung.Jetzt(),
+                                m_quellen.Comb_Before.currentText().toStdString()));
+}
+
+void Alarme::Tmr_Schlafweckfunktion_Tick() {
+    PlayAlert(FaelligeSchlafzeiten(m_quellen.LV_Schlafzeiten, m_umgebung.Jetzt()));
+}
+
+// Once for each row that rings; the last one is heard to its end.
+void Alarme::PlayAlert(std::size_t mal) {
+    for (std::size_t i = 0; i < mal; ++i) {
+        m_umgebung.Ton.Spiele(m_konfiguration.Alertsound());
+    }
+}
+
+}  // namespace tarvelin

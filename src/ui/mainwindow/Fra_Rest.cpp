@@ -1,0 +1,110 @@
+// The six groups at their places.
+#include "ui/mainwindow/Fra_Rest.h"
+
+#include <array>
+
+namespace tarvelin {
+
+namespace {
+
+constexpr int kHoehe = 4300;
+
+struct Gruppenplatz {
+    const char* Name;
+    const char* Titel;
+    /// Twips.
+    int Links;
+    int Breite;
+    Bildgruppe Gruppe;
+};
+
+// clang-format off
+constexpr std::array<Gruppenplatz, 4> kItemgruppen{{
+    {"Frame3", "Gebäude:",      3480, 2175, Bildgruppe::Gebaeude},
+    {"Frame1", "Forschung:",    5760, 1155, Bildgruppe::Forschung},
+    {"Frame9", "Verteidigung:", 6960, 1155, Bildgruppe::Verteidigung},
+    {"Frame4", "Raumschiffe:",  8160, 1155, Bildgruppe::Raumschiffe},
+}};
+// clang-format on
+
+void Stelle(QWidget& gruppe, int links, int breite) {
+    gruppe.setGeometry(Pixel(links), 0, Pixel(breite), Pixel(kHoehe));
+}
+
+}  // namespace
+
+Fra_Rest::Fra_Rest(const Bauliste& liste, const Lauf& lauf, QWidget* parent)
+    : QWidget(parent),
+      m_liste(liste),
+      m_Frame8(new Baulistengruppe(liste, this)),
+      m_Frame6(new Bauzeitengruppe(lauf.LV_Bauzeiten, this)),
+      m_plaetze(BaueItemgruppen()) {
+    setObjectName(QStringLiteral("Fra_Rest"));
+    resize(Pixel(12735), Pixel(4335));
+    Stelle(*m_Frame8, 0, 3375);
+    Stelle(*m_Frame6, 9360, 3375);
+    ReiheAuf({m_plaetze.back().Bild, m_Frame6->LV_Bauzeiten, m_Frame6->Chk_BauWeckfunktion,
+              m_Frame6->Comb_Before});
+    connect(m_Frame8->LV_Bauliste, &Baulistenansicht::DragDrop, this, &Fra_Rest::DragDrop);
+    connect(m_Frame8->Cmd_Undo, &QPushButton::clicked, this, &Fra_Rest::Cmd_Undo_Click);
+    connect(m_Frame8->Cmd_Clear, &QPushButton::clicked, this, &Fra_Rest::Cmd_Clear_Click);
+    connect(m_Frame8->Cmd_Simulate, &QPushButton::clicked, this, &Fra_Rest::Cmd_Simulate_Click);
+    connect(m_Frame6->ImgDonate_1, &QAbstractButton::clicked, this, &Fra_Rest::ImgDonate_Click);
+    for (const Itemplatz& platz : m_plaetze) {
+        connect(platz.Bild, &Itembild::MouseMove, this,
+                [this, platz] { emit Img_MouseMove(platz); });
+        connect(platz.Bild, &Itembild::Gewaehlt, this,
+                [this, platz] { emit DragDrop(platz.Bild->objectName()); });
+    }
+}
+
+JeItem<QPixmap> Fra_Rest::Itembilder() const {
+    JeItem<QPixmap> bilder;
+    for (const Itemplatz& platz : m_plaetze) {
+        bilder[platz.Item] = platz.Bild->pixmap(Qt::ReturnByValue);
+    }
+    return bilder;
+}
+
+void Fra_Rest::SetzeZeiger(const Ziehzeiger& zeiger) {
+    for (const Itemplatz& platz : m_plaetze) {
+        platz.Bild->SetzeZeiger(zeiger);
+    }
+    m_Frame6->ImgDonate_1->setCursor(zeiger.Offen);
+}
+
+std::vector<Itemplatz> Fra_Rest::BaueItemgruppen() {
+    std::vector<Itemplatz> plaetze;
+    for (const Gruppenplatz& platz : kItemgruppen) {
+        auto* const gruppe = new Itemgruppe(QString::fromUtf8(platz.Name),
+                                            QString::fromUtf8(platz.Titel), platz.Gruppe, this);
+        if (plaetze.empty()) {
+            gruppe->SetzeEcke(NeueHoverInfo(QStringLiteral("Label8"),
+                                            QStringLiteral(" Drag'n'Drop in die linke Liste "),
+                                            gruppe));
+        }
+        Stelle(*gruppe, platz.Links, platz.Breite);
+        plaetze.insert(plaetze.end(), gruppe->Plaetze().begin(), gruppe->Plaetze().end());
+    }
+    return plaetze;
+}
+
+void Fra_Rest::ZeigeListe() {
+    m_Frame8->ZeigeListe();
+    for (const Itemplatz& platz : m_plaetze) {
+        platz.Stufe->setNum(m_liste.Auftraege().ListStufe(platz.Item));
+    }
+}
+
+void Fra_Rest::Zeige(const Ergebnistexte& texte) {
+    m_Frame8->Zeige(texte);
+    m_Frame6->Zeige(texte);
+}
+
+void Fra_Rest::ZeigeNamen(bool zeigen) {
+    for (const Itemplatz& platz : m_plaetze) {
+        platz.Desc->setVisible(zeigen);
+    }
+}
+
+}  // namespace tarvelin

@@ -1,0 +1,107 @@
+// Layout of the skin panel and the list of local skins.
+#include "ui/mainwindow/Fra_Skin.h"
+
+#include <QGridLayout>
+#include <utility>
+
+#include "persistence/FileSystem.h"
+
+namespace tarvelin {
+
+namespace {
+
+QRadioButton* NeueOption(const char* name, const char* text, QWidget* parent) {
+    auto* const option = new QRadioButton(QString::fromLatin1(text), parent);
+    option->setObjectName(QString::fromLatin1(name));
+    return option;
+}
+
+}  // namespace
+
+Fra_Skin::Fra_Skin(std::filesystem::path skins, QWidget* parent)
+    : Feld(QStringLiteral("Fra_Skin"), QStringLiteral("Skinpfad:"), {160, 2, 3615, 975}, parent),
+      Comb_Skins(new QComboBox(this)),
+      txt_Pfad(new QLineEdit(QStringLiteral("http://"), this)),
+      Cmd_ApplySkin(NeuerKnopf(QStringLiteral("Cmd_ApplySkin"), QStringLiteral("OK"), this)),
+      m_Opt_Standard(NeueOption("Opt_Standard", "Standard", this)),
+      m_Opt_Lokal(NeueOption("Opt_Lokal", "Lokal", this)),
+      m_Opt_Web(NeueOption("Opt_Web", "Web", this)),
+      m_LBL_Skin(NeuesLabel(QStringLiteral("LBL_Skin"), QStringLiteral(" Standard-Skin benutzen. "),
+                            this)),
+      m_skins(std::move(skins)) {
+    for (QRadioButton* const option : {m_Opt_Standard, m_Opt_Lokal, m_Opt_Web}) {
+        connect(option, &QRadioButton::toggled, this, &Fra_Skin::ZeigeQuelle);
+    }
+    m_Opt_Standard->setChecked(true);
+    Comb_Skins->setObjectName(QStringLiteral("Comb_Skins"));
+    Comb_Skins->setAccessibleName(QStringLiteral("Lokaler Skin"));
+    txt_Pfad->setObjectName(QStringLiteral("txt_Pfad"));
+    txt_Pfad->setAccessibleName(QStringLiteral("Web-Verzeichnis"));
+
+    LegeAus();
+    SetzeErstes(m_Opt_Standard);
+    hide();
+}
+
+void Fra_Skin::LegeAus() {
+    // The lowest panel has room for three low lines.
+    constexpr int kZeilenhoehe = 16;
+    QPushButton* const schliesse = NeuerHideKnopf(QStringLiteral("Cmd_HideSchlafzeiten"));
+    for (QWidget* const teil :
+         std::initializer_list<QWidget*>{m_Opt_Standard, m_Opt_Lokal, m_Opt_Web, m_LBL_Skin,
+                                         Comb_Skins, txt_Pfad, Cmd_ApplySkin, schliesse}) {
+        teil->setFixedHeight(kZeilenhoehe);
+    }
+    auto* const layout = new QGridLayout(this);
+    layout->setContentsMargins(4, 0, 4, 0);
+    layout->setSpacing(0);
+    layout->setHorizontalSpacing(6);
+    layout->addWidget(m_Opt_Standard, 0, 0);
+    layout->addWidget(m_Opt_Lokal, 1, 0);
+    layout->addWidget(m_Opt_Web, 2, 0);
+    layout->addWidget(m_LBL_Skin, 0, 1, 1, 2);
+    layout->addWidget(Comb_Skins, 1, 1, 1, 2);
+    layout->addWidget(txt_Pfad, 1, 1, 1, 2);
+    layout->addWidget(Cmd_ApplySkin, 2, 1);
+    layout->addWidget(schliesse, 2, 2);
+    layout->setColumnStretch(1, 1);
+    layout->setColumnStretch(2, 1);
+}
+
+void Fra_Skin::ZeigeQuelle() {
+    const bool lokal = m_Opt_Lokal->isChecked();
+    const bool web = m_Opt_Web->isChecked();
+    m_LBL_Skin->setText(lokal ? QStringLiteral(" Skin-Unterordner wählen: ")
+                        : web ? QStringLiteral(" Web-Verzeichnis: ")
+                              : QStringLiteral(" Standard-Skin benutzen. "));
+    txt_Pfad->setEnabled(lokal || web);
+    txt_Pfad->setVisible(web);
+    Comb_Skins->setVisible(lokal);
+}
+
+void Fra_Skin::WaehleQuelle(Byte mode) {
+    if (mode == kStandardskin) {
+        m_Opt_Standard->setChecked(true);
+    } else if (mode == kLokalerSkin) {
+        m_Opt_Lokal->setChecked(true);
+    } else if (mode == kWebskin) {
+        m_Opt_Web->setChecked(true);
+    }
+}
+
+Byte Fra_Skin::Quelle() const {
+    return m_Opt_Lokal->isChecked() ? kLokalerSkin
+           : m_Opt_Web->isChecked() ? kWebskin
+                                    : kStandardskin;
+}
+
+void Fra_Skin::FillSkinList() {
+    Comb_Skins->clear();
+    for (const std::string& name : GetSubfolders(m_skins)) {
+        if (!name.empty() && name != "standard" && name != kLandeordner) {
+            Comb_Skins->addItem(AlsQString(name));
+        }
+    }
+}
+
+}  // namespace tarvelin

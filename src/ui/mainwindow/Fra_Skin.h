@@ -1,0 +1,51 @@
+// The panel "Skinpfad:": where the pictures come from.
+#pragma once
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <filesystem>
+
+#include "ui/widgets/Panel.h"
+#include "util/Integers.h"
+
+namespace tarvelin {
+
+/// Where a skin comes from, as the configuration keeps it.
+inline constexpr Byte kStandardskin = 1;
+inline constexpr Byte kLokalerSkin = 2;
+inline constexpr Byte kWebskin = 3;
+
+/// The folder in which a web skin lands.
+inline constexpr const char* kLandeordner = "temp_webskin";
+
+class Fra_Skin : public Feld {
+    Q_OBJECT
+
+  public:
+    /// `skins` is the folder in which each skin has one of its own.
+    Fra_Skin(std::filesystem::path skins, QWidget* parent);
+
+    /// Offers the local skins anew, as they lie on disk, and selects the first.
+    void FillSkinList();
+
+    /// Selects the source of this kind; any other value leaves the selection.
+    void WaehleQuelle(Byte mode);
+    [[nodiscard]] Byte Quelle() const;
+
+    QComboBox* const Comb_Skins;
+    QLineEdit* const txt_Pfad;
+    QPushButton* const Cmd_ApplySkin;
+
+  private:
+    void ZeigeQuelle();
+    void LegeAus();
+
+    QRadioButton* m_Opt_Standard;
+    QRadioButton* m_Opt_Lokal;
+    QRadioButton* m_Opt_Web;
+    QLabel* m_LBL_Skin;
+    std::filesystem::path m_skins;
+};
+
+}  // namespace tarvelin

@@ -1,0 +1,124 @@
+// Layout of the build times' group, and the hint over its rows.
+#include "ui/mainwindow/ScheduleGroup.h"
+
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QRegularExpressionValidator>
+
+namespace tarvelin {
+
+namespace {
+
+Tabellenmodell::Quelle QuelleVon(const Bauzeiten& bauzeiten) {
+    return {.Zeilen = [&bauzeiten] { return bauzeiten.size(); },
+            .Text =
+                [&bauzeiten](std::size_t zeile, int spalte) {
+                    const Bauzeit& z = bauzeiten[zeile];
+                    return AlsQString(spalte == 0   ? z.Wochentag()
+                                      : spalte == 1 ? z.Uhrzeit()
+                                                    : z.theText());
+                },
+            .Beschreibung =
+                [&bauzeiten](std::size_t zeile) { return AlsQString(bauzeiten[zeile].Tag()); }};
+}
+
+/// Takes what is typed and nothing that is pasted.
+class Sekundenfeld : public QLineEdit {
+  public:
+    explicit Sekundenfeld(QWidget* parent) : QLineEdit(parent) {
+        setContextMenuPolicy(Qt::NoContextMenu);
+    }
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (!event->matches(QKeySequence::Paste)) {
+            QLineEdit::keyPressEvent(event);
+        }
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        if (event->button() != Qt::MiddleButton) {
+            QLineEdit::mouseReleaseEvent(event);
+        }
+    }
+};
+
+}  // namespace
+
+Bauzeitengruppe::Bauzeitengruppe(const Bauzeiten& bauzeiten, QWidget* parent)
+    : Gruppe(QStringLiteral("Frame6"), QStringLiteral("Optimale Bauzeiten:"), parent),
+      LV_Bauzeiten(new Liste(QStringLiteral("LV_Bauzeiten"), QStringLiteral("Optimale Bauzeiten"),
+                             {720, 1450, 2857}, this)),
+      Chk_BauWeckfunktion(new QCheckBox(QStringLiteral("Baustart-Alarm | X-sec vorher:"), this)),
+      Comb_Before(new QComboBox(this)),
+      ImgDonate_1(new Bildknopf(
+          QStringLiteral("ImgDonate_1"), {88, 24},
+          QStringLiteral(" Zeigt die Spendenmöglichkeiten an, durch welche du das Tarvelin-Projekt "
+                         "unterstützen kannst "),
+          this)),
+      m_bauzeiten(bauzeiten),
+      m_modell(new Tabellenmodell(
+          {QStringLiteral("Wochentag"), QStringLiteral("Uhrzeit"), QStringLiteral("theText")},
+          QuelleVon(bauzeiten), this)),
+      m_LBL_Punkte(NeuesLabel(QStringLiteral("LBL_Punkte"), {}, this)),
+      m_LBL_Timegone2(NeuesLabel(QStringLiteral("LBL_Timegone2"), {}, this)) {
+    LV_Bauzeiten->setModel(m_modell);
+    connect(LV_Bauzeiten, &Liste::MouseMove, this, &Bauzeitengruppe::LV_Bauzeiten_MouseMove);
+    Chk_BauWeckfunktion->setObjectName(QStringLiteral("Chk_BauWeckfunktion"));
+    FuelleSekunden();
+    m_LBL_Punkte->setAccessibleDescription(QStringLiteral("Punkte"));
+    m_LBL_Timegone2->setAlignment(Qt::AlignCenter);
+    LegeAus();
+}
+
+void Bauzeitengruppe::FuelleSekunden() {
+    Comb_Before->setObjectName(QStringLiteral("Comb_Before"));
+    Comb_Before->setLineEdit(new Sekundenfeld(Comb_Before));
+    Comb_Before->setInsertPolicy(QComboBox::NoInsert);
+    // What is typed stays as it is.
+    Comb_Before->setCompleter(nullptr);
+    constexpr int kBreite = 46;
+    Comb_Before->setFixedWidth(kBreite);
+    for (const char* const sekunden : {"1", "2", "5", "10", "15", "20", "30", "45", "60", "120"}) {
+        Comb_Before->addItem(QString::fromLatin1(sekunden));
+    }
+    Comb_Before->setCurrentText(QStringLiteral("10"));
+    Comb_Before->setValidator(
+        new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), Comb_Before));
+    // The screen reader takes a drop-down list's name from its label; on the screen the words of
+    // the check box stand for it.
+    QLabel* const name = NeuesLabel({}, QStringLiteral("Sekunden vorher"), this);
+    name->setBuddy(Comb_Before);
+    name->hide();
+}
+
+void Bauzeitengruppe::LegeAus() {
+    auto* const layout = new QGridLayout(this);
+    layout->setContentsMargins(3, 2, 3, 3);
+    layout->setSpacing(3);
+    layout->addWidget(LV_Bauzeiten, 0, 0, 1, 4);
+    layout->addWidget(Chk_BauWeckfunktion, 1, 0, 1, 3);
+    layout->addWidget(Comb_Before, 1, 3);
+    layout->addWidget(
+        NeuesBild(QStringLiteral("Images(4)"), {26, 26}, QStringLiteral(" Punkte "), this), 2, 0);
+    layout->addWidget(m_LBL_Punkte, 2, 1);
+    layout->addWidget(ImgDonate_1, 2, 2, 1, 2, Qt::AlignRight);
+    layout->addWidget(m_LBL_Timegone2, 3, 0, 1, 4);
+    layout->setRowStretch(0, 1);
+    layout->setColumnStretch(1, 1);
+}
+
+void Bauzeitengruppe::Zeige(const Ergebnistexte& texte) {
+    m_LBL_Punkte->setText(AlsQString(texte.LBL_Punkte));
+    m_LBL_Punkte->setToolTip(AlsQString(texte.LBL_Punkte_Hinweis));
+    m_LBL_Timegone2->setText(AlsQString(texte.LBL_Timegone2));
+}
+
+void Bauzeitengruppe::LV_Bauzeiten_MouseMove(const QModelIndex& zeile) {
+    const auto nummer = static_cast<std::size_t>(zeile.row());
+    const bool steht = zeile.isValid() && nummer < m_bauzeiten.size();
+    SetzeHinweis(*LV_Bauzeiten, steht ? AlsQString(m_bauzeiten[nummer].Tag()) : QString());
+}
+
+}  // namespace tarvelin

@@ -1,0 +1,80 @@
+// Layout of the about box.
+#include "ui/mainwindow/frmAbout.h"
+
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <array>
+
+#include "ui/mainwindow/MakerSite.h"
+#include "ui/widgets/Controls.h"
+#include "ui/widgets/Pictures.h"
+
+namespace tarvelin {
+
+namespace {
+
+constexpr std::array<const char*, 2> kAutoren{"Das Tarvelin-Team", "und seine Spieler"};
+
+QString Beschreibung() {
+    QString text = QStringLiteral(" Programming:");
+    for (const char* const autor : kAutoren) {
+        text += QStringLiteral("\n") + QString(15, QLatin1Char(' ')) + QString::fromUtf8(autor);
+    }
+    return text;
+}
+
+}  // namespace
+
+frmAbout::frmAbout(const Umgebung& umgebung) {
+    setObjectName(QStringLiteral("frmAbout"));
+    setWindowTitle(QStringLiteral("About Tarvelin"));
+    const auto icon = LadeSymbol(umgebung.Programmordner / "img" / "icon.ico");
+    setWindowIcon(icon);
+    constexpr int kSeite = 64;
+    QLabel* const bild = NeuesBild(QStringLiteral("Img_About"), {kSeite, kSeite}, {}, this);
+    bild->setPixmap(icon.pixmap({kSeite, kSeite}, devicePixelRatioF()));
+    QLabel* const titel = NeuesLabel(QStringLiteral("lblTitle"), QStringLiteral("Tarvelin"), this);
+    QFont gross = titel->font();
+    gross.setPixelSize(2 * gross.pixelSize());
+    titel->setFont(gross);
+    titel->setMinimumWidth(QFontMetrics(gross).boundingRect(titel->text()).width() + 4);
+    QPushButton* const homepage =
+        NeuerKnopf(QStringLiteral("Label1"), QStringLiteral("Homepage"), this);
+    homepage->setFlat(true);
+    // Enter belongs to the other one, wherever the focus is.
+    homepage->setAutoDefault(false);
+    homepage->setCursor(Qt::PointingHandCursor);
+    homepage->setStyleSheet(QStringLiteral("color: rgb(255, 0, 0);"));
+    homepage->setToolTip(QStringLiteral(" Visit "));
+    connect(homepage, &QAbstractButton::clicked, this,
+            [&umgebung] { umgebung.OeffneSeite(Homepage()); });
+    QPushButton* const ok = NeuerKnopf(QStringLiteral("cmdOK"), QStringLiteral("OK"), this);
+    ok->setDefault(true);
+    connect(ok, &QPushButton::clicked, this, &QWidget::close);
+
+    auto* const layout = new QGridLayout(this);
+    layout->addWidget(bild, 0, 0, 2, 1);
+    layout->addWidget(titel, 0, 1);
+    layout->addWidget(NeuesLabel(QStringLiteral("lblVersion"),
+                                 QStringLiteral(" Version ") + QString::fromLatin1(kVersion), this),
+                      1, 1);
+    layout->addWidget(NeuesLabel(QStringLiteral("lblDescription"), Beschreibung(), this), 2, 0, 1,
+                      2);
+    layout->addWidget(homepage, 3, 0);
+    layout->addWidget(ok, 3, 1);
+    // Wide enough for the title in the frame.
+    constexpr int kTextbreite = 170;
+    layout->setColumnMinimumWidth(1, kTextbreite);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void frmAbout::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Return ||
+        event->key() == Qt::Key_Enter) {
+        close();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+}  // namespace tarvelin

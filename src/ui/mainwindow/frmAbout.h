@@ -1,0 +1,22 @@
+// The about box: a small window of its own beside the main window.
+#pragma once
+
+#include <QWidget>
+
+#include "ui/services/Environment.h"
+
+namespace tarvelin {
+
+class frmAbout : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// `umgebung` must outlive the box.
+    explicit frmAbout(const Umgebung& umgebung);
+
+  protected:
+    /// Enter and Escape press the button.
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+}  // namespace tarvelin

@@ -1,0 +1,268 @@
+// The life of the window: start, plan files, stop.
+#include "ui/mainwindow/frmMain.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QWindow>
+#include <chrono>
+#include <utility>
+
+#include "persistence/PlanFile.h"
+#include "ui/mainwindow/ApplySkin.h"
+#include "ui/mainwindow/WindowMessages.h"
+
+namespace tarvelin {
+
+void frmMain::Form_Load() {
+    if (IstGeschlossen()) {
+        return;
+    }
+    m_Fra_Skin->FillSkinList();
+    m_alarme->LiesKonfiguration();
+    LiesSkin();
+    m_abschnitt = Abschnitt::Start;
+    show();
+    connect(windowHandle(), &QWindow::screenChanged, this, &frmMain::FolgeBildschirm);
+    FolgeBildschirm();
+    WarteAufBildschirm();
+    if (m_umgebung.Starthinweis) {
+        m_umgebung.Boxen.Zeige(*m_umgebung.Starthinweis);
+    }
+    if (!IstGeschlossen() && !BringePlanargument() && !IstGeschlossen()) {
+        BringePlan();
+    }
+    if (!IstGeschlossen()) {
+        m_abschnitt = Abschnitt::Arbeit;
+        m_verlauf.Beginne(StandVon(m_plan));
+        ZeigeInWerkbank();
+        constexpr std::chrono::seconds kTakt(4);
+        m_Tmr_Autosave.start(kTakt);
+    }
+}
+
+// The plan of the last session is kept beside it.
+bool frmMain::BringePlanargument() {
+    const std::filesystem::path& datei = m_umgebung.Planargument;
+    if (datei.empty() || !LoadBauliste(datei, false) || IstGeschlossen()) {
+        return false;
+    }
+    if (m_gesichert) {
+        m_autosave.LiegtInDatei(m_plan);
+    }
+    static_cast<void>(m_autosave.Schreibe(m_plan));
+    return true;
+}
+
+// The last plan stays untouched until the player has answered for it.
+void frmMain::BringePlan() {
+    const bool ersterStart = m_konfiguration.IstAn(Konfiguration::kFirststart);
+    const bool lagDa = FileExists(m_autosave.Datei(), m_umgebung.Dateien);
+    const auto letzter = Profil::Lade(m_autosave.Datei(), m_umgebung.Dateien);
+    const auto starterplan = m_umgebung.Programmordner / "saves" / "basic.tvf";
+    const bool geladen = ersterStart && FileExists(starterplan, m_umgebung.Dateien) &&
+                         LoadBauliste(starterplan, false);
+    const bool wieder = lagDa && StelleWiederHer(letzter);
+    if (IstGeschlossen()) {
+        return;
+    }
+    const bool behalten = !geladen || wieder || m_autosave.Schreibe(m_plan);
+    m_autosave.GiltAlsGeschrieben(m_plan);
+    if (ersterStart && behalten) {
+        static_cast<void>(m_umgebung.Dateien.Loesche(starterplan));
+        m_gesichert.reset();
+        static_cast<void>(m_konfiguration.Schreibe({{Konfiguration::kFirststart, "0"}}));
+    }
+}
+
+// A box that comes up before the window has its place would lie beside it.
+void frmMain::WarteAufBildschirm() {
+    constexpr int kLaengstens = 500;
+    constexpr int kHappen = 10;
+    QDeadlineTimer frist(kLaengstens);
+    while (!windowHandle()->isExposed() && !frist.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kHappen);
+    }
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+// A web skin is shown as it landed; nothing is fetched at a start.
+void frmMain::LiesSkin() {
+    const Byte mode = m_konfiguration.Skinmodus();
+    m_Fra_Skin->txt_Pfad->setText(AlsQString(m_konfiguration.Lies(Konfiguration::kWebPath)));
+    m_Fra_Skin->WaehleQuelle(mode);
+    ZeigeSkin(mode == kWebskin ? kLokalerSkin : mode, m_konfiguration.Lies(Konfiguration::kPath));
+}
+
+bool frmMain::StelleWiederHer(const std::optional<Profil>& letzter) {
+    const auto entscheidung = EntscheideWiederherstellung(m_konfiguration);
+    if (IstGeschlossen() || entscheidung == Wiederherstellung::Nicht) {
+        return false;
+    }
+    if (entscheidung == Wiederherstellung::Ungefragt) {
+        LadeLetzten(letzter);
+        return true;
+    }
+    const auto frage = [this](const char* text) {
+        return m_umgebung.Boxen.Stelle(
+            {.Text = text, .Titel = "Wiederherstellen...", .Symbol = Meldungssymbol::Frage});
+    };
+    const bool ja = frage("Möchtest du die letzte Bauliste wiederherstellen?");
+    const bool immer = frage("Bei jedem Start so verfahren?");
+    if (IstGeschlossen()) {
+        // The end of the program is no answer.
+        return false;
+    }
+    if (immer) {
+        static_cast<void>(m_konfiguration.Schreibe({{Konfiguration::kAlwaysDoSo, "1"}}));
+    }
+    if (ja) {
+        LadeLetzten(letzter);
+    }
+    static_cast<void>(m_konfiguration.Schreibe({{Konfiguration::kRecover, ja ? "1" : "0"}}));
+    return ja;
+}
+
+void frmMain::LadeLetzten(const std::optional<Profil>& letzter) {
+    LoadBauliste(letzter, m_autosave.Datei(), true);
+    m_Fra_Einstellungen->hide();
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    const Abschnitt bisher = std::exchange(m_abschnitt, Abschnitt::Geschlossen);
+    if (bisher != Abschnitt::Geschlossen) {
+        m_umgebung.Boxen.Beende();
+    }
+    if (bisher == Abschnitt::Start || bisher == Abschnitt::Arbeit) {
+        Form_Unload(bisher);
+    }
+    QMainWindow::closeEvent(event);
+    emit Geschlossen();
+}
+
+void frmMain::Form_Unload(Abschnitt bisher) {
+    m_Tmr_Autosave.stop();
+    m_alarme->Verstumme();
+    m_umgebung.Netz.BrichAb();
+    Behalte(bisher);
+    if (m_frmWerkbank) {
+        m_frmWerkbank->hide();
+    }
+}
+
+void frmMain::Sichere() {
+    if (m_abschnitt == Abschnitt::Start || m_abschnitt == Abschnitt::Arbeit) {
+        Behalte(m_abschnitt);
+    }
+}
+
+void frmMain::Behalte(Abschnitt stand) {
+    // Until the start is over the plan isn't the user's.
+    const bool mitPlan = stand == Abschnitt::Arbeit;
+    const Byte quelle = m_Fra_Skin->Quelle();
+    const std::string pfad = quelle == kStandardskin ? "~"
+                             : quelle == kWebskin
+                                 ? kLandeordner
+                                 : m_Fra_Skin->Comb_Skins->currentText().toStdString();
+    const auto schalter = [](const QCheckBox& box) { return box.isChecked() ? "1" : "0"; };
+    Konfiguration::Werte werte{
+        {Konfiguration::kMode, std::to_string(quelle)},
+        {Konfiguration::kPath, pfad},
+        {Konfiguration::kWebPath, m_Fra_Skin->txt_Pfad->text().toStdString()},
+        {Konfiguration::kBaulistenwecker, schalter(*m_Fra_Rest->Bauwecker())},
+        {Konfiguration::kSchlafzeitenwecker, schalter(*m_Fra_Sleep->Chk_Schlafzeitenwecker)}};
+    if (mitPlan) {
+        werte.emplace_back(Konfiguration::kItemCount,
+                           std::to_string(m_plan.Liste.Auftraege().Zahl()));
+    }
+    if (m_frmWerkbank) {
+        const auto lage = m_frmWerkbank->Lage();
+        werte.insert(werte.end(), lage.begin(), lage.end());
+    }
+    static_cast<void>(m_konfiguration.Schreibe(werte));
+    if (mitPlan) {
+        m_autosave.SchreibeZuletzt(m_plan);
+    }
+}
+
+void frmMain::mnu_DateiNeu_Click() {
+    BewahreErsetzten();
+    m_lauf.ResetSimulation(m_plan.Parameter);
+    m_texte.NachReset();
+    m_Fra_Rest->ZeigeBauzeiten();
+    LeereListe();
+    m_Fra_Einstellungen->show();
+    m_Fra_Skin->hide();
+    m_Fra_Sleep->hide();
+    SetzeHeute();
+    Bearbeitet();
+    m_alarme->LiesKonfiguration();
+}
+
+void frmMain::mnu_DateiLaden_Click() {
+    const auto datei = m_umgebung.FragNachDatei(Dialoge::Zweck::Laden);
+    if (!datei.empty()) {
+        LoadBauliste(datei, false);
+    }
+}
+
+void frmMain::mnu_Datei_Speichern_Click() {
+    const auto datei = m_umgebung.FragNachDatei(Dialoge::Zweck::Speichern);
+    if (datei.empty()) {
+        return;
+    }
+    if (SaveBauliste(datei, m_plan, m_umgebung.Dateien)) {
+        MerkeGesichert(datei);
+    } else {
+        m_umgebung.Boxen.Zeige(Speicherfehler());
+    }
+}
+
+// What the program moves on by itself is no place to lie in.
+void frmMain::MerkeGesichert(const std::filesystem::path& datei) {
+    m_gesichert = m_autosave.IstEigene(datei) ? std::nullopt : std::optional(StandVon(m_plan));
+}
+
+void frmMain::BewahreErsetzten() const {
+    if (m_abschnitt == Abschnitt::Arbeit && m_gesichert != StandVon(m_plan)) {
+        m_autosave.BewahreErsetzten(m_plan);
+    }
+}
+
+bool frmMain::LoadBauliste(const std::filesystem::path& File, bool Silent) {
+    return LoadBauliste(Profil::Lade(File, m_umgebung.Dateien), File, Silent);
+}
+
+bool frmMain::LoadBauliste(const std::optional<Profil>& profil, const std::filesystem::path& File,
+                           bool Silent) {
+    if (!profil) {
+        m_umgebung.Boxen.Zeige(Ladefehler());
+        return false;
+    }
+    BewahreErsetzten();
+    LeereListe();
+    Standmeldungen meldungen(
+        [this] {
+            ZeigePlan();
+            ZeigeInWerkbank();
+        },
+        m_umgebung.Boxen);
+    const bool geladen = LadePlan(*profil, m_plan, m_lauf.Bedingungen, meldungen);
+    if (geladen) {
+        ZeigePlan();
+        MerkeGesichert(File);
+    }
+    // What was there can be had back.
+    Bearbeitet();
+    if (!geladen) {
+        return false;
+    }
+    // The toolkit takes the lone sign for a place of its own.
+    setWindowTitle(
+        AlsQString(FenstertitelMit(File)).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+    StarteSimulation(Silent);
+    return true;
+}
+
+}  // namespace tarvelin

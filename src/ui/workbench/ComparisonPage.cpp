@@ -1,0 +1,130 @@
+// Two tables.
+#include "ui/workbench/ComparisonPage.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "persistence/PlanRun.h"
+#include "simulation/RunTexts.h"
+#include "ui/widgets/Controls.h"
+
+namespace tarvelin {
+
+Vergleichsfeld::Vergleichsfeld(const Umgebung& umgebung, QWidget* parent)
+    : QWidget(parent),
+      m_umgebung(umgebung),
+      m_merken(new QPushButton(QStringLiteral("&Merken"), this)),
+      m_datei(new QPushButton(QStringLiteral("Mit &Datei..."), this)),
+      m_ohne(new QPushButton(QStringLiteral("&Ohne"), this)),
+      m_name(NeuesLabel(QStringLiteral("LBL_Vergleich"), {}, this)),
+      m_kennzahlliste(NeueTabelle("LV_Kennzahlen", "Kennzahlen im Vergleich", "", m_kennzahlen,
+                                  &m_kennzahlmodell)),
+      m_auftragsliste(NeueTabelle("LV_Unterschiede", "Aufträge zu anderer Zeit", "Auftrag",
+                                  m_auftraege, &m_auftragsmodell)) {
+    setObjectName(QStringLiteral("Vergleichsfeld"));
+    m_merken->setObjectName(QStringLiteral("Cmd_Merken"));
+    m_datei->setObjectName(QStringLiteral("Cmd_MitDatei"));
+    m_ohne->setObjectName(QStringLiteral("Cmd_OhneVergleich"));
+    m_merken->setToolTip(QStringLiteral("Der Plan, wie er jetzt ist, wird zum Vergleich behalten"));
+    connect(m_merken, &QPushButton::clicked, this, &Vergleichsfeld::Merke);
+    connect(m_datei, &QPushButton::clicked, this, &Vergleichsfeld::LadeDatei);
+    connect(m_ohne, &QPushButton::clicked, this, &Vergleichsfeld::Ohne);
+    LegeAus();
+    Vergleiche();
+}
+
+// The tables ask this panel for their rows to its end.
+Vergleichsfeld::~Vergleichsfeld() {
+    delete m_kennzahlliste;
+    delete m_auftragsliste;
+}
+
+Liste* Vergleichsfeld::NeueTabelle(const char* name, const char* bedeutung, const char* erste,
+                                   const std::vector<Vergleichstext>& zeilen,
+                                   Tabellenmodell** modell) {
+    *modell = new Tabellenmodell(
+        {QString::fromUtf8(erste), QStringLiteral("dort"), QStringLiteral("hier"),
+         QStringLiteral("Unterschied")},
+        {.Zeilen = [&zeilen] { return zeilen.size(); },
+         .Text =
+             [&zeilen](std::size_t zeile, int spalte) {
+                 return AlsQString(zeilen[zeile].at(static_cast<std::size_t>(spalte)));
+             }},
+        this);
+    auto* const tabelle =
+        new Liste(QString::fromLatin1(name), QString::fromUtf8(bedeutung), {12, 9, 9, 8}, this);
+    tabelle->setModel(*modell);
+    tabelle->setTextElideMode(Qt::ElideRight);
+    return tabelle;
+}
+
+void Vergleichsfeld::LegeAus() {
+    auto* const knoepfe = new QHBoxLayout;
+    for (QPushButton* const knopf : {m_merken, m_datei, m_ohne}) {
+        knoepfe->addWidget(knopf);
+    }
+    auto* const layout = new QVBoxLayout(this);
+    layout->addLayout(knoepfe);
+    layout->addWidget(m_name);
+    layout->addWidget(m_kennzahlliste, 2);
+    layout->addWidget(m_auftragsliste, 3);
+}
+
+QSize Vergleichsfeld::minimumSizeHint() const {
+    // An order and three spans, with the days of a long plan.
+    constexpr int kZeichen = 86;
+    return QWidget::minimumSizeHint().expandedTo(
+        QSize(kZeichen * fontMetrics().averageCharWidth(), 0));
+}
+
+void Vergleichsfeld::Zeige(const std::optional<Ablauf>& dieser) {
+    m_dieser = dieser;
+    Vergleiche();
+}
+
+void Vergleichsfeld::Merke() {
+    Setze(m_dieser, QStringLiteral("Verglichen mit dem gemerkten Plan"));
+}
+
+void Vergleichsfeld::LadeDatei() {
+    const auto datei = m_umgebung.FragNachDatei(Dialoge::Zweck::Laden);
+    if (datei.empty()) {
+        return;
+    }
+    const Planlauf lauf(Pfadtext(datei.filename()).toStdString(),
+                        Profil::Lade(datei, m_umgebung.Dateien));
+    if (!lauf.Gelaufen) {
+        emit Meldung(lauf.Meldungen.empty() ? "" : lauf.Meldungen.back().Text);
+        return;
+    }
+    emit Meldung(lauf.Lauf.Stand.IstAmEndeDerUhr() ? UeberDieUhrText() : "");
+    Setze(lauf.Abgespielt(), QStringLiteral("Verglichen mit ") + AlsQString(lauf.Name));
+}
+
+void Vergleichsfeld::Ohne() {
+    Setze(std::nullopt, {});
+}
+
+void Vergleichsfeld::Setze(std::optional<Ablauf> anderer, const QString& name) {
+    m_anderer = std::move(anderer);
+    m_name->setText(name);
+    Vergleiche();
+    emit AndererGeaendert();
+}
+
+void Vergleichsfeld::Vergleiche() {
+    m_kennzahlen.clear();
+    m_auftraege.clear();
+    if (m_dieser && m_anderer) {
+        const Vergleich vergleich = tarvelin::Vergleiche(*m_anderer, *m_dieser);
+        m_kennzahlen = Kennzahltexte(vergleich);
+        m_auftraege = Auftragstexte(vergleich);
+    }
+    m_kennzahlmodell->Aktualisiere();
+    m_auftragsmodell->Aktualisiere();
+    m_merken->setEnabled(m_dieser.has_value());
+    m_ohne->setEnabled(m_anderer.has_value());
+}
+
+}  // namespace tarvelin

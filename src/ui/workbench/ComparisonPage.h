@@ -1,0 +1,65 @@
+// The panel of the comparison: this plan against a file, or against how it was.
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+#include <QWidget>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "simulation/ComparisonTexts.h"
+#include "simulation/RunTrace.h"
+#include "ui/services/Environment.h"
+#include "ui/widgets/ListView.h"
+#include "ui/widgets/TableModel.h"
+
+namespace tarvelin {
+
+class Vergleichsfeld : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// `umgebung` must outlive it.
+    Vergleichsfeld(const Umgebung& umgebung, QWidget* parent);
+    Vergleichsfeld(const Vergleichsfeld&) = delete;
+    Vergleichsfeld& operator=(const Vergleichsfeld&) = delete;
+    ~Vergleichsfeld() override;
+
+    /// The run of the plan as it is now; nothing if it can't be run.
+    void Zeige(const std::optional<Ablauf>& dieser);
+    /// What it is held against, if anything.
+    [[nodiscard]] const std::optional<Ablauf>& Anderer() const { return m_anderer; }
+
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+  signals:
+    void AndererGeaendert();
+    void Meldung(const std::string& text);
+
+  private:
+    void LegeAus();
+    Liste* NeueTabelle(const char* name, const char* bedeutung, const char* erste,
+                       const std::vector<Vergleichstext>& zeilen, Tabellenmodell** modell);
+    void Merke();
+    void LadeDatei();
+    void Ohne();
+    void Setze(std::optional<Ablauf> anderer, const QString& name);
+    void Vergleiche();
+
+    const Umgebung& m_umgebung;
+    std::optional<Ablauf> m_dieser;
+    std::optional<Ablauf> m_anderer;
+    std::vector<Vergleichstext> m_kennzahlen;
+    std::vector<Vergleichstext> m_auftraege;
+    QPushButton* m_merken;
+    QPushButton* m_datei;
+    QPushButton* m_ohne;
+    QLabel* m_name;
+    Tabellenmodell* m_kennzahlmodell = nullptr;
+    Tabellenmodell* m_auftragsmodell = nullptr;
+    Liste* m_kennzahlliste;
+    Liste* m_auftragsliste;
+};
+
+}  // namespace tarvelin

@@ -1,0 +1,88 @@
+// Words for moments and states.
+#include "ui/workbench/StatusTexts.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "model/ItemTable.h"
+#include "simulation/RunTexts.h"
+
+namespace tarvelin {
+
+namespace {
+
+std::string Vorratstext(const Ablauf& ablauf, Moment moment) {
+    struct Name {
+        Rohstoff Was;
+        const char* Text;
+    };
+    const Verlaufspunkt& punkt = PunktUm(ablauf.Kurve, moment);
+    const auto vorrat = VorratNach(punkt, std::max(Long{0}, moment - punkt.Zeit));
+    std::string text;
+    for (const auto& [was, name] :
+         {Name{Rohstoff::Metall, "Metall"}, Name{Rohstoff::Kristall, "Kristall"},
+          Name{Rohstoff::Deuterium, "Deuterium"}}) {
+        text += std::string("   ") + name + ": " + std::to_string(vorrat[was].GanzerTeil()) + " (" +
+                Dezimaltext(punkt.ProStunde[was]) + "/h)";
+    }
+    const Long frei = LongSumme(punkt.EnergieProduktion, -std::int64_t{punkt.EnergieVerbrauch});
+    return text + "   Energie: " + std::to_string(frei) + " / " +
+           std::to_string(punkt.EnergieProduktion);
+}
+
+std::string Stufentext(const Verlaufspunkt& punkt) {
+    std::string text;
+    for (const Itemzeile& zeile : Itemtabelle()) {
+        if (const Byte stufe = punkt.Stufen[zeile.Item]; stufe > 0) {
+            text +=
+                (text.empty() ? "" : ", ") + std::string(zeile.Name) + " " + std::to_string(stufe);
+        }
+    }
+    return text;
+}
+
+}  // namespace
+
+std::string Zeittext(Zeitpunkt zeitpunkt) {
+    const std::string datum = Datumtext(zeitpunkt);
+    return std::string(WochentagKurz(zeitpunkt)) + " " + datum.substr(0, datum.rfind('.') + 1) +
+           " " + Uhrzeittext(zeitpunkt);
+}
+
+std::string Standtext(const Ablauf& ablauf, Moment moment) {
+    return Zeittext(ablauf.Bedingungen.Uhrzeit(moment)) +
+           "   Spielzeit: " + Spannentext(moment.Sekunden()) + Vorratstext(ablauf, moment) + "\n" +
+           Stufentext(PunktUm(ablauf.Kurve, moment));
+}
+
+std::optional<std::string> NaechsterAuftrag(const Ablauf& ablauf, Zeitpunkt jetzt) {
+    const Startbedingungen& bedingungen = ablauf.Bedingungen;
+    if (jetzt < bedingungen.StartDate || jetzt > bedingungen.Uhrzeit(ablauf.Dauer())) {
+        return std::nullopt;
+    }
+    const auto naechster = std::ranges::find_if(ablauf.Starts, [&](const Startereignis& start) {
+        return bedingungen.Uhrzeit(start.Start) >= jetzt;
+    });
+    if (naechster == ablauf.Starts.end()) {
+        return "alle Aufträge sind gegeben";
+    }
+    const Zeitpunkt um = bedingungen.Uhrzeit(naechster->Start);
+    return Auftragstext(*naechster) + " um " + Uhrzeittext(um) + ", in " + Spannentext(um - jetzt);
+}
+
+std::string Meldungszeile(const Ablauf& ablauf) {
+    std::vector<std::string> texte;
+    if (ablauf.Ende.IstAmEndeDerUhr()) {
+        texte.push_back(UeberDieUhrText());
+    }
+    std::ranges::transform(ablauf.Meldungen, std::back_inserter(texte), &Meldung::Text);
+    std::string text = texte.empty() ? "" : texte.front();
+    if (texte.size() == 2) {
+        text += "\n" + texte.back();
+    } else if (texte.size() > 2) {
+        text += "\n... und " + std::to_string(texte.size() - 1) + " weitere";
+    }
+    return text;
+}
+
+}  // namespace tarvelin

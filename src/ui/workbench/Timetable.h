@@ -1,0 +1,16 @@
+// The timetable for other programs: chats, spreadsheets.
+#pragma once
+
+#include <string>
+
+#include "simulation/RunTrace.h"
+
+namespace tarvelin {
+
+/// A line for each order, columns parted by tabs, the captions first.
+[[nodiscard]] std::string ZeitplanMitTabs(const Ablauf& ablauf);
+
+/// The same as a table of a web page.
+[[nodiscard]] std::string ZeitplanAlsTabelle(const Ablauf& ablauf);
+
+}  // namespace tarvelin

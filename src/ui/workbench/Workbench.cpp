@@ -1,0 +1,529 @@
+// Layout of the workbench and its handlers.
+#include "ui/workbench/Workbench.h"
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHideEvent>
+#include <QMimeData>
+#include <QScreen>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QSplitter>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+#include "model/ItemTable.h"
+#include "persistence/AtomicWrite.h"
+#include "persistence/Calendar.h"
+#include "simulation/DueAlarms.h"
+#include "simulation/ResultTexts.h"
+#include "simulation/RunTexts.h"
+#include "ui/services/SvgImage.h"
+#include "ui/widgets/Appearance.h"
+#include "ui/widgets/Controls.h"
+#include "ui/widgets/ItemDisplay.h"
+#include "ui/widgets/Pictures.h"
+#include "ui/workbench/StatusTexts.h"
+#include "ui/workbench/TimelinePicture.h"
+#include "ui/workbench/Timetable.h"
+#include "util/NumberText.h"
+
+namespace tarvelin {
+
+namespace {
+
+/// Of the list, from the left.
+enum Spalte { kNummer, kAuftrag, kStart, kFertig, kGrund, kFaktor };
+
+/// Of the window at first, in heights of a line.
+constexpr QSize kZeilen(96, 54);
+
+/// A palette whose every colour counts, whatever the program's own says.
+QPalette AlsEigene(const QPalette& farben) {
+    QPalette eigene;
+    for (const auto gruppe : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        for (int rolle = 0; rolle < QPalette::NColorRoles; ++rolle) {
+            if (rolle != QPalette::NoRole) {
+                const auto name = static_cast<QPalette::ColorRole>(rolle);
+                eigene.setBrush(gruppe, name, farben.brush(gruppe, name));
+            }
+        }
+    }
+    return eigene;
+}
+
+QLabel* NeueZeile(const char* name, const char* bedeutung, QWidget* parent) {
+    QLabel* const label = NeuesLabel(QString::fromLatin1(name), {}, parent);
+    label->setAccessibleDescription(QString::fromUtf8(bedeutung));
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+}  // namespace
+
+frmWerkbank::frmWerkbank(const Plan& plan, const Listenverlauf& verlauf,
+                         std::function<std::string()> vorher, const Umgebung& umgebung)
+    : m_plan(plan),
+      m_verlauf(verlauf),
+      m_vorher(std::move(vorher)),
+      m_umgebung(umgebung),
+      m_LBL_Meldung(NeueZeile("LBL_Meldung", "Meldung", this)),
+      m_liste(new Auftragsansicht(Listenquelle(), this)),
+      m_felder(new QTabWidget(this)),
+      m_palette(new Itempalette(this)),
+      m_suchfeld(new Suchfeld(
+          plan, umgebung, [this] { return m_liste->Gewaehlte(); }, this)),
+      m_vergleichsfeld(new Vergleichsfeld(umgebung, this)),
+      m_zeitleiste(new Zeitleiste(this)),
+      m_LBL_Stand(NeueZeile("LBL_Stand", "Stand am Zeiger", this)),
+      m_LBL_Dauer(NeueZeile("LBL_Dauer", "Dauer des Plans", this)),
+      m_LBL_Aenderung(NeueZeile("LBL_Aenderung", "Änderung der Dauer", this)),
+      m_LBL_Naechster(NeueZeile("LBL_Naechster", "Nächster Auftrag", this)) {
+    setObjectName(QStringLiteral("frmWerkbank"));
+    setWindowTitle(QStringLiteral("Tarvelin  |  Werkbank"));
+    setWindowIcon(LadeSymbol(umgebung.Programmordner / "img" / "icon.ico"));
+    setAttribute(Qt::WA_QuitOnClose, false);
+    LegeAus();
+    Verbinde();
+    FolgeDesktop();
+}
+
+// The list asks this window for its rows to its end.
+frmWerkbank::~frmWerkbank() {
+    delete m_liste;
+}
+
+QPushButton* frmWerkbank::NeuerBefehl(const char* name, const char* text, const QKeySequence& taste,
+                                      void (frmWerkbank::*handler)()) {
+    auto* const knopf = new QPushButton(QString::fromUtf8(text), this);
+    knopf->setObjectName(QString::fromLatin1(name));
+    connect(knopf, &QPushButton::clicked, this, handler);
+    if (!taste.isEmpty()) {
+        knopf->setToolTip(taste.toString(QKeySequence::NativeText));
+        connect(new QShortcut(taste, this), &QShortcut::activated, this, handler);
+    }
+    m_befehle.push_back(knopf);
+    return knopf;
+}
+
+/// What is done with the plan, in panels behind each other.
+void frmWerkbank::FuelleFelder() {
+    for (QWidget* const feld :
+         {static_cast<QWidget*>(m_palette), static_cast<QWidget*>(m_suchfeld)}) {
+        // A small screen has no room for all of it.
+        auto* const rolle = new QScrollArea(this);
+        rolle->setWidget(feld);
+        rolle->setWidgetResizable(true);
+        rolle->setFrameShape(QFrame::NoFrame);
+        rolle->setFocusPolicy(Qt::NoFocus);
+        m_felder->addTab(
+            rolle, feld == m_palette ? QStringLiteral("&Einfügen") : QStringLiteral("Su&che"));
+    }
+    m_felder->addTab(m_vergleichsfeld, QStringLiteral("Ver&gleich"));
+}
+
+void frmWerkbank::LegeAus() {
+    auto* const befehle = new QHBoxLayout;
+    m_zurueck = NeuerBefehl("Cmd_Zurueck", "&Rückgängig", QKeySequence(Qt::CTRL | Qt::Key_Z),
+                            &frmWerkbank::ZurueckGewuenscht);
+    m_vor = NeuerBefehl("Cmd_Vor", "&Wiederholen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
+                        &frmWerkbank::VorGewuenscht);
+    NeuerBefehl("Cmd_Hoch", "&Hoch", QKeySequence(Qt::ALT | Qt::Key_Up), &frmWerkbank::Hoch);
+    NeuerBefehl("Cmd_Runter", "R&unter", QKeySequence(Qt::ALT | Qt::Key_Down),
+                &frmWerkbank::Runter);
+    NeuerBefehl("Cmd_Verdopple", "&Verdoppeln", QKeySequence(Qt::CTRL | Qt::Key_D),
+                &frmWerkbank::Verdopple);
+    NeuerBefehl("Cmd_Loesche", "&Löschen", QKeySequence(Qt::Key_Delete), &frmWerkbank::Loesche);
+    NeuerBefehl("Cmd_Kopieren", "&Kopieren", {}, &frmWerkbank::Kopieren);
+    NeuerBefehl("Cmd_KalenderSpeichern", "K&alender speichern...", {},
+                &frmWerkbank::KalenderSpeichern);
+    NeuerBefehl("Cmd_BildSpeichern", "&Bild speichern...", {}, &frmWerkbank::BildSpeichern);
+    for (QPushButton* const knopf : m_befehle) {
+        befehle->addWidget(knopf);
+    }
+    befehle->addStretch(1);
+
+    m_LBL_Meldung->setWordWrap(true);
+    m_LBL_Meldung->setFrameStyle(QFrame::StyledPanel);
+    m_LBL_Meldung->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_LBL_Stand->setWordWrap(true);
+    m_felder->setObjectName(QStringLiteral("Felder"));
+
+    auto* const oben = new QSplitter(Qt::Horizontal, this);
+    oben->setChildrenCollapsible(false);
+    oben->addWidget(m_liste);
+    FuelleFelder();
+    oben->addWidget(m_felder);
+    oben->setStretchFactor(0, 1);
+    auto* const teiler = new QSplitter(Qt::Vertical, this);
+    teiler->addWidget(oben);
+    teiler->addWidget(m_zeitleiste);
+    teiler->setChildrenCollapsible(false);
+    teiler->setStretchFactor(0, 3);
+    teiler->setStretchFactor(1, 2);
+
+    auto* const fuss = new QHBoxLayout;
+    fuss->addWidget(m_LBL_Dauer);
+    fuss->addWidget(m_LBL_Aenderung);
+    fuss->addStretch(1);
+    fuss->addWidget(m_LBL_Naechster);
+
+    auto* const layout = new QVBoxLayout(this);
+    layout->addLayout(befehle);
+    layout->addWidget(m_LBL_Meldung);
+    layout->addWidget(teiler, 1);
+    layout->addWidget(m_LBL_Stand);
+    layout->addLayout(fuss);
+}
+
+template <class Schritt>
+void frmWerkbank::Bearbeite(Schritt schritt) {
+    Umstellung umstellung(m_plan.Liste);
+    schritt(umstellung, m_liste->Gewaehlte());
+    Stelle(umstellung, umstellung.Betroffene());
+}
+
+void frmWerkbank::Verbinde() {
+    connect(m_liste, &Auftragsansicht::AuswahlGeaendert, this, &frmWerkbank::ZeigeAuswahl);
+    connect(m_liste, &Auftragsansicht::Verschoben, this, [this](std::size_t vor) {
+        Bearbeite([vor](Umstellung& u, const auto& zeilen) { u.StelleVor(vor, zeilen); });
+    });
+    connect(m_liste, &Auftragsansicht::BildAbgelegt, this,
+            [this](const QString& bild, std::size_t vor) {
+                if (const auto item = ItemVonBild(bild.toStdString())) {
+                    FuegeEin(ZeileVon(*item).Code, vor);
+                }
+            });
+    connect(m_palette, &Itempalette::ItemGewaehlt, this,
+            [this](ItemId item) { FuegeEin(ZeileVon(item).Code, Einfuegestelle()); });
+    connect(m_palette, &Itempalette::ProduktionGewaehlt, this,
+            [this](const Minenfaktoren& faktoren) {
+                FuegeEin(Auftrag::Fuer(faktoren).Tag(), Einfuegestelle());
+            });
+    connect(m_zeitleiste, &Zeitleiste::Zeiger, this, &frmWerkbank::ZeigeZeiger);
+    connect(m_zeitleiste, &Zeitleiste::Gewaehlt, this,
+            [this](std::size_t zeile) { m_liste->Waehle({zeile}); });
+    connect(m_suchfeld, &Suchfeld::Meldung, this, &frmWerkbank::Melde);
+    connect(m_suchfeld, &Suchfeld::Uebernommen, this, &frmWerkbank::Umgestellt);
+    connect(m_vergleichsfeld, &Vergleichsfeld::Meldung, this, &frmWerkbank::Melde);
+    connect(m_vergleichsfeld, &Vergleichsfeld::AndererGeaendert, this,
+            [this] { m_zeitleiste->SetzeAnderen(m_vergleichsfeld->Anderer()); });
+    connect(&m_takt, &QTimer::timeout, this, &frmWerkbank::Ticke);
+}
+
+// Nothing moves when a message comes or goes.
+void frmWerkbank::SetzeMeldungshoehe() {
+    constexpr int kZeilenzahl = 2;
+    m_LBL_Meldung->setFixedHeight(kZeilenzahl * m_LBL_Meldung->fontMetrics().lineSpacing() +
+                                  2 * m_LBL_Meldung->frameWidth() + 2);
+}
+
+void frmWerkbank::FolgeDesktop() {
+    const QPalette farben = m_umgebung.Desktopfarben();
+    setPalette(AlsEigene(farben));
+    setFont(Desktopschrift());
+    SetzeMeldungshoehe();
+    m_zeitleiste->SetzeAussehen(farben, font());
+    // Scrolled up and down only.
+    for (auto* const rolle : m_felder->findChildren<QScrollArea*>()) {
+        rolle->setMinimumWidth(rolle->widget()->minimumSizeHint().width() +
+                               style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    }
+}
+
+bool frmWerkbank::event(QEvent* event) {
+    if (event->type() == QEvent::ThemeChange) {
+        FolgeDesktop();
+    }
+    return QWidget::event(event);
+}
+
+void frmWerkbank::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    ZeigePlan();
+    m_takt.Schalte(true);
+    Ticke();
+}
+
+void frmWerkbank::hideEvent(QHideEvent* event) {
+    // A window that is only made small goes on.
+    if (!event->spontaneous()) {
+        m_takt.Schalte(false);
+        m_suchfeld->HalteAn();
+    }
+    QWidget::hideEvent(event);
+}
+
+void frmWerkbank::Oeffne(const Konfiguration& konfiguration) {
+    if (!m_warOffen) {
+        m_warOffen = true;
+        const auto lies = [&](const Konfigurationskey& key) {
+            constexpr int kWeitest = 100'000;
+            const auto zahl = LiesGanzzahl(konfiguration.Lies(key), -kWeitest, kWeitest);
+            return zahl ? std::optional(static_cast<int>(*zahl)) : std::nullopt;
+        };
+        constexpr QSize kRahmen(8, 36);
+        const QSize raum = QGuiApplication::primaryScreen()->availableSize() - kRahmen;
+        const QSize ersteGroesse = kZeilen * fontMetrics().height();
+        resize(QSize(lies(Konfiguration::kWerkbankBreite).value_or(ersteGroesse.width()),
+                     lies(Konfiguration::kWerkbankHoehe).value_or(ersteGroesse.height()))
+                   .boundedTo(raum)
+                   .expandedTo(QSize(1, 1)));
+        const auto links = lies(Konfiguration::kWerkbankLinks);
+        const auto oben = lies(Konfiguration::kWerkbankOben);
+        // A screen that is gone would keep the window out of sight.
+        if (links && oben && QGuiApplication::screenAt({*links, *oben}) != nullptr) {
+            move(*links, *oben);
+        }
+        if (konfiguration.IstAn(Konfiguration::kWerkbankGross)) {
+            setWindowState(Qt::WindowMaximized);
+        }
+    }
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+Konfiguration::Werte frmWerkbank::Lage() const {
+    if (!m_warOffen) {
+        return {};
+    }
+    const QSize groesse = isMaximized() ? normalGeometry().size() : size();
+    return {{Konfiguration::kWerkbankLinks, std::to_string(pos().x())},
+            {Konfiguration::kWerkbankOben, std::to_string(pos().y())},
+            {Konfiguration::kWerkbankBreite, std::to_string(groesse.width())},
+            {Konfiguration::kWerkbankHoehe, std::to_string(groesse.height())},
+            {Konfiguration::kWerkbankGross, isMaximized() ? "1" : "0"}};
+}
+
+void frmWerkbank::SetzeBilder(const JeItem<QPixmap>& bilder) {
+    m_palette->SetzeBilder(bilder);
+    m_zeitleiste->SetzeBilder(bilder);
+}
+
+void frmWerkbank::ZeigePlan() {
+    if (!isVisible()) {
+        return;
+    }
+    Spiele();
+    m_liste->Aktualisiere(m_naechsteAuswahl.value_or(m_liste->Gewaehlte()));
+    m_naechsteAuswahl.reset();
+    m_zeitleiste->Setze(m_ablauf);
+    m_vergleichsfeld->Zeige(m_ablauf);
+    ZeigeAuswahl();
+    ZeigeFuss();
+    ZeigeZeiger(std::nullopt);
+    Ticke();
+}
+
+void frmWerkbank::Spiele() {
+    if (m_schritte != m_verlauf.Schritte()) {
+        m_schritte = m_verlauf.Schritte();
+        m_dauerDavor = m_ablauf ? std::optional(m_ablauf->Dauer().Sekunden()) : std::nullopt;
+    }
+    const auto bedingungen = LiesStartbedingungen(m_plan);
+    if (const auto* const absage = std::get_if<Meldung>(&bedingungen)) {
+        m_ablauf.reset();
+        Melde(m_plan.Liste.Auftraege().IstLeer() ? "" : absage->Text);
+    } else {
+        m_ablauf =
+            SpieleAb(m_plan.Liste.Auftraege().Alle(), std::get<Startbedingungen>(bedingungen));
+        Melde(Meldungszeile(*m_ablauf));
+    }
+    const bool bearbeitet = m_verlauf.HatVorige() || m_verlauf.HatNaechste();
+    m_aenderung = bearbeitet && m_dauerDavor && m_ablauf
+                      ? std::optional(m_ablauf->Dauer().Sekunden() - *m_dauerDavor)
+                      : std::nullopt;
+}
+
+void frmWerkbank::ZeigeFuss() {
+    m_LBL_Dauer->setText(m_ablauf
+                             ? QStringLiteral("Dauer: ") + AlsQString(Dauertext(m_ablauf->Ende))
+                             : QStringLiteral("Dauer: -"));
+    m_LBL_Aenderung->setText(m_aenderung ? AlsQString(Aenderungstext(*m_aenderung)) : QString());
+    m_zurueck->setEnabled(m_verlauf.HatVorige());
+    m_vor->setEnabled(m_verlauf.HatNaechste());
+}
+
+void frmWerkbank::ZeigeAuswahl() {
+    const auto gewaehlt = m_liste->Gewaehlte();
+    m_zeitleiste->SetzeAuswahl({gewaehlt.begin(), gewaehlt.end()});
+    if (!gewaehlt.empty()) {
+        m_zeitleiste->Zeige(gewaehlt.front());
+    }
+    for (const char* const name : {"Cmd_Hoch", "Cmd_Runter", "Cmd_Verdopple", "Cmd_Loesche"}) {
+        findChild<QPushButton*>(QString::fromLatin1(name))->setEnabled(!gewaehlt.empty());
+    }
+    for (const char* const name : {"Cmd_Kopieren", "Cmd_KalenderSpeichern", "Cmd_BildSpeichern"}) {
+        findChild<QPushButton*>(QString::fromLatin1(name))->setEnabled(m_ablauf.has_value());
+    }
+    ZeigeEinwaende();
+}
+
+void frmWerkbank::ZeigeEinwaende() {
+    m_palette->SetzeEinwaende([&](ItemId item) {
+        Umstellung umstellung(m_plan.Liste);
+        umstellung.FuegeEin(Einfuegestelle(), ZeileVon(item).Code);
+        return umstellung.Einwand();
+    });
+}
+
+void frmWerkbank::ZeigeZeiger(std::optional<Moment> moment) {
+    m_LBL_Stand->setText(m_ablauf && moment ? AlsQString(Standtext(*m_ablauf, *moment))
+                                            : QStringLiteral("\n"));
+    m_zeitleiste->setAccessibleDescription(m_LBL_Stand->text());
+}
+
+void frmWerkbank::Ticke() {
+    const Zeitpunkt jetzt = m_umgebung.Jetzt();
+    m_zeitleiste->SetzeJetzt(jetzt);
+    const auto naechster = m_ablauf ? NaechsterAuftrag(*m_ablauf, jetzt) : std::nullopt;
+    m_LBL_Naechster->setText(naechster ? QStringLiteral("Als Nächstes: ") + AlsQString(*naechster)
+                                       : QString());
+}
+
+void frmWerkbank::Melde(const std::string& text) {
+    m_LBL_Meldung->setText(AlsQString(text).trimmed());
+    // Its place has no room for more than two lines.
+    m_LBL_Meldung->setToolTip(m_LBL_Meldung->text());
+    if (!text.empty()) {
+        // Read out at once, wherever the keyboard is.
+        QAccessibleEvent ruf(m_LBL_Meldung, QAccessible::Alert);
+        QAccessible::updateAccessibility(&ruf);
+    }
+}
+
+void frmWerkbank::Stelle(const Umstellung& umstellung, std::vector<std::size_t> auswahl) {
+    const auto tags = umstellung.Tags();
+    if (tags == m_plan.Liste.Tags()) {
+        return;
+    }
+    if (const auto einwand = umstellung.Einwand()) {
+        Melde(*einwand);
+        return;
+    }
+    m_naechsteAuswahl = std::move(auswahl);
+    emit Umgestellt(tags, {});
+}
+
+void frmWerkbank::Hoch() {
+    Bearbeite([](Umstellung& u, const auto& zeilen) { u.Hoch(zeilen); });
+}
+
+void frmWerkbank::Runter() {
+    Bearbeite([](Umstellung& u, const auto& zeilen) { u.Runter(zeilen); });
+}
+
+void frmWerkbank::Loesche() {
+    Bearbeite([](Umstellung& u, const auto& zeilen) { u.Loesche(zeilen); });
+}
+
+void frmWerkbank::Verdopple() {
+    Bearbeite([](Umstellung& u, const auto& zeilen) { u.Verdopple(zeilen); });
+}
+
+// What was chosen stays so: the next row goes in behind this one.
+void frmWerkbank::FuegeEin(std::string_view tag, std::size_t vor) {
+    Umstellung umstellung(m_plan.Liste);
+    umstellung.FuegeEin(vor, tag);
+    auto auswahl = m_liste->Gewaehlte();
+    for (std::size_t& zeile : auswahl) {
+        zeile += zeile >= vor ? 1 : 0;
+    }
+    Stelle(umstellung, std::move(auswahl));
+}
+
+std::size_t frmWerkbank::Einfuegestelle() const {
+    const auto gewaehlt = m_liste->Gewaehlte();
+    return gewaehlt.empty() ? m_plan.Liste.Zeilen().size() : gewaehlt.front();
+}
+
+void frmWerkbank::BildSpeichern() {
+    const auto datei = m_umgebung.FragNachDatei(Dialoge::Zweck::Bild);
+    if (datei.empty()) {
+        return;
+    }
+    const auto bild = BildVon(*m_zeitleiste, QFileInfo(Pfadtext(datei)).suffix());
+    if (!bild) {
+        Melde(std::string("Der Name des Bildes endet auf .png, ") + (KannSvg() ? ".svg " : "") +
+              "oder .pdf: es wurde nichts gespeichert.");
+        return;
+    }
+    SchreibeDatei(datei, bild->toStdString());
+}
+
+void frmWerkbank::Kopieren() {
+    auto* const inhalt = new QMimeData;
+    inhalt->setText(AlsQString(ZeitplanMitTabs(*m_ablauf)));
+    inhalt->setHtml(AlsQString(ZeitplanAlsTabelle(*m_ablauf)));
+    // The clipboard owns it.
+    QGuiApplication::clipboard()->setMimeData(inhalt);
+    Melde("Der Zeitplan liegt in der Zwischenablage.");
+}
+
+void frmWerkbank::KalenderSpeichern() {
+    const auto datei = m_umgebung.FragNachDatei(Dialoge::Zweck::Kalender);
+    if (!datei.empty()) {
+        const auto stand =
+            std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+        SchreibeDatei(datei, Kalendertext(*m_ablauf, LiesVorlauf(m_vorher()), stand));
+    }
+}
+
+void frmWerkbank::SchreibeDatei(const std::filesystem::path& datei, const std::string& bytes) {
+    if (ErsetzeDatei(datei, bytes, m_umgebung.Dateien)) {
+        Melde("Gespeichert: " + Pfadtext(datei).toStdString());
+    } else {
+        Melde(
+            "Die Datei konnte nicht gespeichert werden: wähle einen Ordner, in dem du schreiben "
+            "kannst.");
+    }
+}
+
+Tabellenmodell::Quelle frmWerkbank::Listenquelle() const {
+    return {.Zeilen = [this] { return m_plan.Liste.Zeilen().size(); },
+            .Text = [this](std::size_t zeile,
+                           int spalte) { return AlsQString(Zellentext(zeile, spalte)); },
+            .Farbe =
+                [this](std::size_t zeile, int spalte) {
+                    const bool rot = spalte == kFaktor &&
+                                     m_plan.Liste.Zeilen()[zeile].SubItems2Farbe == Farbe::Rot;
+                    return rot ? m_zeitleiste->Mangelfarbe() : palette().color(QPalette::Text);
+                },
+            .Beschreibung =
+                [this](std::size_t zeile) {
+                    // Narrow columns cut their texts.
+                    std::string text = Zellentext(zeile, kAuftrag);
+                    for (const int spalte : {kStart, kFertig, kGrund}) {
+                        text += "\n" + Zellentext(zeile, spalte);
+                    }
+                    return AlsQString(text).trimmed();
+                }};
+}
+
+std::string frmWerkbank::Zellentext(std::size_t zeile, int spalte) const {
+    const BaulistenZeile& texte = m_plan.Liste.Zeilen()[zeile];
+    const Startereignis* const start = m_ablauf ? m_ablauf->StartDer(zeile) : nullptr;
+    switch (spalte) {
+        case kNummer:
+            return texte.Text;
+        case kAuftrag:
+            return texte.SubItems1;
+        case kStart:
+            return start != nullptr ? Zeittext(m_ablauf->Bedingungen.Uhrzeit(start->Start)) : "";
+        case kFertig:
+            return start != nullptr ? Zeittext(m_ablauf->Bedingungen.Uhrzeit(start->Finish)) : "";
+        case kGrund:
+            return m_ablauf ? Wartetext(*m_ablauf, zeile) : "";
+        default:
+            return texte.SubItems2;
+    }
+}
+
+}  // namespace tarvelin

@@ -1,0 +1,162 @@
+// All orders of a small plan, but for those that can't be the best.
+#include "OptimumProof.h"
+
+#include <algorithm>
+#include <limits>
+#include <random>
+
+#include "model/Cost.h"
+#include "plan/OrderList.h"
+#include "plan/Rules.h"
+#include "simulation/Simulation.h"
+
+namespace tarvelin {
+
+namespace {
+
+/// Whether an order started that can't be paid, or whose gate was shut.
+class Schiedsrichter final : public Laufbeobachter {
+  public:
+    void Start(const Startereignis& ereignis) override {
+        Gestartet = ereignis.Zeile + 1;
+        Gut = Gut && !ereignis.TorZu;
+    }
+    void Schulden(const Spielstand& /*stand*/) override { Gut = false; }
+
+    std::size_t Gestartet = 0;
+    bool Gut = true;
+};
+
+class Beweis {
+  public:
+    explicit Beweis(const Suchaufgabe& aufgabe)
+        : m_bedingungen(aufgabe.Bedingungen),
+          m_uebrig(aufgabe.Orders),
+          m_spaeter(Simulation({}, aufgabe.Bedingungen).Stand()) {
+        m_spaeter.Stufen = Endstufen(aufgabe.Orders);
+    }
+
+    Long Fuehre() {
+        Vertiefe(Simulation({}, m_bedingungen));
+        return m_beste;
+    }
+
+  private:
+    void Vertiefe(const Simulation& lauf) {
+        if (m_uebrig.empty()) {
+            Spiele(lauf, m_liste.size() + 1);
+            return;
+        }
+        if (FruehestesEnde(lauf.Stand()) >= m_beste) {
+            return;
+        }
+        JeItem<bool> versucht{};
+        for (std::size_t i = 0; i < m_uebrig.size(); ++i) {
+            const Auftrag order = m_uebrig[i];
+            if (versucht[order.Item] || !IstErlaubt(order.Item, m_stufen)) {
+                continue;
+            }
+            // Equal orders are one.
+            versucht[order.Item] = true;
+            m_uebrig.erase(m_uebrig.begin() + static_cast<std::ptrdiff_t>(i));
+            m_liste.push_back(order);
+            ++m_stufen[order.Item];
+            if (const auto weiter = Spiele(lauf, m_liste.size())) {
+                Vertiefe(*weiter);
+            }
+            --m_stufen[order.Item];
+            m_liste.pop_back();
+            m_uebrig.insert(m_uebrig.begin() + static_cast<std::ptrdiff_t>(i), order);
+        }
+    }
+
+    /// Goes on until so many orders have started, or to the end. Nothing if one can't.
+    std::optional<Simulation> Spiele(Simulation lauf, std::size_t starts) {
+        lauf.WechsleAuftraege(m_liste);
+        Schiedsrichter schiedsrichter;
+        while (!lauf.IstFertig() && schiedsrichter.Gestartet < starts) {
+            lauf.Schritt(schiedsrichter);
+            if (!schiedsrichter.Gut) {
+                return std::nullopt;
+            }
+        }
+        if (lauf.IstFertig()) {
+            m_beste = std::min(m_beste, lauf.Stand().secsgone.Sekunden());
+        }
+        return lauf;
+    }
+
+    /// What each queue has still to do, one order after the other and each as quick as it gets with
+    /// all facilities.
+    [[nodiscard]] Long FruehestesEnde(const Spielstand& stand) const {
+        JeSchlange<double> ende{};
+        JeItem<Byte> stufen = m_stufen;
+        for (const Auftrag& order : m_uebrig) {
+            const Itemzeile& zeile = ZeileVon(order.Item);
+            const Kosten& preis = Preis(order.Item, stufen[order.Item]++);
+            ende[order.Queue] += zeile.Dauer(preis, m_spaeter, m_bedingungen);
+        }
+        double spaetestes = 0;
+        for (const Auftrag& order : m_uebrig) {
+            // Its queue's finish, before the buffer that keeps it busy.
+            const auto frei = static_cast<double>(stand.FertigZeit[order.Queue].Sekunden()) - 1 -
+                              static_cast<double>(m_bedingungen.KlickPuffer);
+            spaetestes = std::max(spaetestes, ende[order.Queue] + std::max(0.0, frei));
+        }
+        // Durations are rounded.
+        return static_cast<Long>(spaetestes) - static_cast<Long>(m_uebrig.size());
+    }
+
+    const Startbedingungen& m_bedingungen;
+    std::vector<Auftrag> m_uebrig;
+    std::vector<Auftrag> m_liste;
+    JeItem<Byte> m_stufen{};
+    /// With all levels that the plan will ever have.
+    Spielstand m_spaeter;
+    Long m_beste = std::numeric_limits<Long>::max();
+};
+
+}  // namespace
+
+Suchaufgabe Kleinplan(unsigned saat) {
+    constexpr std::array<ItemId, 12> kAnfang{ItemId::MetMine,  ItemId::MetMine,  ItemId::KrisMine,
+                                             ItemId::KrisMine, ItemId::DeutMine, ItemId::SKW,
+                                             ItemId::SKW,      ItemId::Robo,     ItemId::Werft,
+                                             ItemId::Folab,    ItemId::Solsats,  ItemId::ENTech};
+    std::mt19937 quelle(saat);
+    const auto bis = [&quelle](unsigned hoechster) {
+        return static_cast<Long>(quelle() % (hoechster + 1));
+    };
+    Suchaufgabe aufgabe;
+    Startbedingungen& welt = aufgabe.Bedingungen;
+    welt.Speedfaktor = 1 + bis(1);
+    welt.Temperatur = static_cast<Integer>(bis(160) - 60);
+    welt.KlickPuffer = bis(1) * bis(600);
+    welt.StartDate = *LiesDatumzeit("18.11.2026 12:30:00");
+    constexpr Long kStunde = 3600;
+    constexpr Long kNaechte = 4;
+    const Long schlaf = bis(1) * (6 + bis(3)) * kStunde;
+    for (Long nacht = 0; schlaf > 0 && nacht < kNaechte; ++nacht) {
+        const Zeitpunkt abend = welt.StartDate + (9 + 24 * nacht) * kStunde;
+        welt.Schlafzeiten.emplace_back(abend, abend + schlaf);
+    }
+    Auftragsliste liste;
+    for (Long zahl = 8 + bis(2); static_cast<Long>(liste.Zahl()) < zahl;) {
+        const ItemId item = bis(3) == 0
+                                ? static_cast<ItemId>(bis(kItemAnzahl - 1))
+                                : kAnfang[static_cast<std::size_t>(bis(kAnfang.size() - 1))];
+        if (!Absage(item, liste)) {
+            liste.HaengeAn(Auftrag::Fuer(item));
+        }
+    }
+    aufgabe.Orders.assign(liste.Alle().begin(), liste.Alle().end());
+    aufgabe.Fest.assign(aufgabe.Orders.size(), false);
+    return aufgabe;
+}
+
+std::optional<Long> BewieseneDauer(const Suchaufgabe& aufgabe) {
+    const Long dauer = Beweis(aufgabe).Fuehre();
+    return dauer == std::numeric_limits<Long>::max() ? std::nullopt : std::optional(dauer);
+}
+
+}  // namespace tarvelin

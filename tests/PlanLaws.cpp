@@ -1,0 +1,539 @@
+// The laws, each on a run of its own.
+#include "PlanLaws.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <map>
+#include <numeric>
+#include <random>
+#include <sstream>
+#include <vector>
+
+#include "console/RunReport.h"
+#include "model/Cost.h"
+#include "model/ItemTable.h"
+#include "model/Transitions.h"
+#include "persistence/PlanFile.h"
+#include "plan/EditHistory.h"
+#include "plan/ListEdit.h"
+#include "plan/Rules.h"
+#include "simulation/Comparison.h"
+#include "simulation/History.h"
+#include "simulation/RunSimulation.h"
+#include "simulation/RunTrace.h"
+#include "simulation/Simulation.h"
+#include "util/Codepage1252.h"
+
+namespace tarvelin {
+
+namespace {
+
+constexpr Moment kEndeDerUhr(std::numeric_limits<Long>::max());
+
+class Stumm final : public Meldungsausgabe {
+  public:
+    void Zeige(const Meldung& /*meldung*/) override {}
+    void Piepton() override {}
+};
+
+/// All that a run tells, and the state behind each of its steps.
+class Mitschrift final : public Laufbeobachter {
+  public:
+    void Start(const Startereignis& ereignis) override {
+        Starts.push_back(ereignis);
+        StartIm.push_back(Staende.size());
+    }
+    void Schulden(const Spielstand& /*stand*/) override { SchuldenIm.push_back(Staende.size()); }
+    void NachSchritt(const Spielstand& stand) override { Staende.push_back(stand); }
+
+    std::vector<Startereignis> Starts;
+    /// The step of each start, and of each debt that was told.
+    std::vector<std::size_t> StartIm;
+    std::vector<std::size_t> SchuldenIm;
+    std::vector<Spielstand> Staende;
+};
+
+std::string Bytes(const Plan& plan) {
+    Profil profil("");
+    SchreibePlan(plan, profil);
+    return profil.Bytes();
+}
+
+std::array<const std::string*, 6> Eingaben(const Startparameter& p) {
+    return {&p.UniStartZeitTag,     &p.UniStartZeitMonat,   &p.UniStartZeitJahr,
+            &p.UniStartZeitStunden, &p.UniStartZeitMinuten, &p.TempMax};
+}
+
+bool IstSpeicherbar(const Plan& plan) {
+    const auto eingaben = Eingaben(plan.Parameter);
+    return std::ranges::all_of(eingaben, [](const auto* text) { return KommtZurueck(*text); }) &&
+           std::ranges::all_of(plan.Schlafzeiten,
+                               [](const SchlafzeitZeile& zeile) {
+                                   return KommtZurueck(zeile.Startzeit) &&
+                                          KommtZurueck(zeile.Endzeit);
+                               }) &&
+           std::ranges::all_of(plan.Liste.Zeilen(),
+                               [](const BaulistenZeile& zeile) { return KommtZurueck(zeile.Tag); });
+}
+
+/// The conditions of a plan's run, or some where it has none.
+Startbedingungen BedingungenVon(const Plan& plan) {
+    const auto bedingungen = LiesStartbedingungen(plan);
+    const auto* const gelesen = std::get_if<Startbedingungen>(&bedingungen);
+    return gelesen == nullptr ? Startbedingungen{.Speedfaktor = 1} : *gelesen;
+}
+
+/// What goes on from a point of the history, less what the start of that step costs.
+JeRohstoff<Festkomma> VorratNachSchritt(const Spielstand& vorher, const Spielstand& nachher,
+                                        const Startereignis* start) {
+    const Verlauf verlauf(vorher);
+    auto vorrat = VorratNach(verlauf.Punkte().back(), nachher.secsgone - vorher.secsgone);
+    if (start != nullptr && start->Order.Was == Auftrag::Art::Item) {
+        const Kosten& preis = Preis(start->Order.Item, static_cast<Byte>(start->Nummer - 1));
+        for (const Rohstoff r : kRohstoffe) {
+            vorrat[r] = vorrat[r] - Festkomma::AusDouble(preis[r]);
+        }
+    }
+    return vorrat;
+}
+
+Befund PruefeVorraete(const Mitschrift& lauf, const Spielstand& anfang) {
+    std::size_t naechster = 0;
+    for (std::size_t i = 0; i < lauf.Staende.size(); ++i) {
+        const Spielstand& vorher = i == 0 ? anfang : lauf.Staende[i - 1];
+        const Spielstand& stand = lauf.Staende[i];
+        const bool start = naechster < lauf.StartIm.size() && lauf.StartIm[naechster] == i;
+        const auto soll =
+            VorratNachSchritt(vorher, stand, start ? &lauf.Starts[naechster] : nullptr);
+        naechster += start ? 1 : 0;
+        if (soll != stand.Vorrat && stand.secsgone != kEndeDerUhr) {
+            return "a stock is wrong behind step " + std::to_string(i);
+        }
+        if ((start && std::ranges::min(stand.Vorrat) < Festkomma()) !=
+            (std::ranges::count(lauf.SchuldenIm, i) == 1)) {
+            return "a debt isn't told in step " + std::to_string(i);
+        }
+    }
+    return {};
+}
+
+/// The code's first letter names the queue, whatever the run thinks.
+Befund PruefeSchlangen(const Mitschrift& lauf) {
+    std::map<char, Moment> frei;
+    for (const Startereignis& start : lauf.Starts) {
+        Moment& bis = frei[start.Order.Tag().front()];
+        if (start.Order.Was == Auftrag::Art::Item && start.Start < bis) {
+            return "row " + std::to_string(start.Zeile + 1) + " starts within its queue's last one";
+        }
+        bis = std::max(bis, start.Finish);
+    }
+    return {};
+}
+
+Befund PruefeSummen(const Auftragsliste& liste, const Spielstand& stand) {
+    double verbaut = 0;
+    for (const Itemzeile& zeile : Itemtabelle()) {
+        if (stand.Stufen[zeile.Item] != liste.ListStufe(zeile.Item)) {
+            return "a level is wrong";
+        }
+        for (Byte stufe = 0; stufe < liste.ListStufe(zeile.Item); ++stufe) {
+            const Kosten& preis = Preis(zeile.Item, stufe);
+            verbaut = std::accumulate(preis.begin(), preis.end(), verbaut);
+        }
+    }
+    return stand.VerbauteRessourcen == HalfEvenLong(verbaut) ? "" : "the sum of costs is wrong";
+}
+
+/// Whether a run that goes on tells and does what the whole one did from step `schritt` on.
+bool GehtWeiterWie(const Mitschrift& ganz, std::size_t schritt, const Mitschrift& rest) {
+    const auto starts = std::ranges::lower_bound(ganz.StartIm, schritt) - ganz.StartIm.begin();
+    return std::ranges::equal(ganz.Staende.begin() + static_cast<std::ptrdiff_t>(schritt),
+                              ganz.Staende.end(), rest.Staende.begin(), rest.Staende.end()) &&
+           std::ranges::equal(ganz.Starts.begin() + starts, ganz.Starts.end(), rest.Starts.begin(),
+                              rest.Starts.end());
+}
+
+/// A run over the first `n` orders, up to the step that started the last of them.
+Simulation LaufBis(std::span<const Auftrag> auftraege, std::size_t n,
+                   const Startbedingungen& bedingungen) {
+    Simulation lauf(auftraege.first(n), bedingungen);
+    Mitschrift stumm;
+    while (lauf.Eingereiht() < n || lauf.WartetEiner()) {
+        lauf.Schritt(stumm);
+    }
+    return lauf;
+}
+
+/// How many rows the rules wouldn't let be where they stand.
+std::size_t Regelbrueche(const std::vector<std::string>& tags) {
+    std::size_t brueche = 0;
+    Auftragsliste liste;
+    for (const std::string& tag : tags) {
+        const Auftrag order = Auftrag::AusTag(tag);
+        if (order.Was == Auftrag::Art::Item && Absage(order.Item, liste)) {
+            ++brueche;
+        }
+        liste.HaengeAn(order);
+    }
+    return brueche;
+}
+
+/// Some edit of some rows.
+Umstellung Irgendeine(const Bauliste& liste, std::minstd_rand& zufall) {
+    const std::size_t zeilen = liste.Zeilen().size();
+    std::vector<std::size_t> gewaehlt;
+    for (std::size_t i = 0; i < zeilen; ++i) {
+        if (zufall() % zeilen < 2) {
+            gewaehlt.push_back(i);
+        }
+    }
+    Umstellung umstellung(liste);
+    const std::size_t stelle = zufall() % (zeilen + 1);
+    switch (zufall() % 7) {
+        case 0:
+            umstellung.Hoch(gewaehlt);
+            break;
+        case 1:
+            umstellung.Runter(gewaehlt);
+            break;
+        case 2:
+            umstellung.StelleVor(stelle, gewaehlt);
+            break;
+        case 3:
+            umstellung.Loesche(gewaehlt);
+            break;
+        case 4:
+            umstellung.Verdopple(gewaehlt);
+            break;
+        case 5:
+            umstellung.FuegeEin(stelle, "GX:1:2:3");
+            break;
+        default:
+            umstellung.FuegeEin(stelle, Itemtabelle()[zufall() % kItemAnzahl].Code);
+    }
+    return umstellung;
+}
+
+/// What dropping rows one by one gives.
+Bauliste Nacheinander(const std::vector<std::string>& tags, const Startbedingungen& bedingungen) {
+    Bauliste liste;
+    for (const std::string& tag : tags) {
+        const Auftrag order = Auftrag::AusTag(tag);
+        static_cast<void>(order.Was == Auftrag::Art::Item
+                              ? liste.AddItem(order.Item, bedingungen)
+                              : liste.AddProdaenderungsevent(order.Faktoren, bedingungen));
+    }
+    return liste;
+}
+
+}  // namespace
+
+std::string Zustand(const Bauliste& liste) {
+    std::string text;
+    for (const BaulistenZeile& zeile : liste.Zeilen()) {
+        text += zeile.Text + "|" + zeile.Tag + "|" + zeile.SubItems1 + "|" + zeile.SubItems2 + "|" +
+                (zeile.SubItems2Farbe == Farbe::Rot ? "rot\n" : "schwarz\n");
+    }
+    for (const Itemzeile& zeile : Itemtabelle()) {
+        text += std::to_string(liste.Auftraege().ListStufe(zeile.Item)) + " ";
+    }
+    for (const Byte faktor : liste.Auftraege().ListFaktor()) {
+        text += std::to_string(faktor) + " ";
+    }
+    return text;
+}
+
+std::string Ergebnis(const Plan& plan) {
+    std::ostringstream strom;
+    const Planlauf lauf("plan.tvf", Profil(Bytes(plan)));
+    SchreibeText(strom, lauf);
+    SchreibeCsv(strom, lauf);
+    strom << JsonText(lauf);
+    return strom.str();
+}
+
+Befund PruefeSpeichern(const Plan& plan) {
+    if (!IstSpeicherbar(plan)) {
+        return {};
+    }
+    // Both lists are made on a planet of the same temperature.
+    const Startbedingungen bedingungen;
+    Stumm meldungen;
+    Plan vorher;
+    Plan nachher;
+    if (!LadePlan(Profil(Bytes(plan)), vorher, bedingungen, meldungen) ||
+        !LadePlan(Profil(Bytes(vorher)), nachher, bedingungen, meldungen)) {
+        return "a saved plan can't be loaded";
+    }
+    if (Bytes(nachher) != Bytes(plan) || nachher.Schlafzeiten != plan.Schlafzeiten) {
+        return "a saved plan comes back as\n" + Bytes(nachher);
+    }
+    if (Zustand(nachher.Liste) != Zustand(vorher.Liste)) {
+        return "a saved list comes back as\n" + Zustand(nachher.Liste);
+    }
+    return Ergebnis(nachher) == Ergebnis(plan) ? "" : "a saved plan has another result";
+}
+
+Befund PruefeUndo(const Plan& plan) {
+    const Startbedingungen bedingungen = BedingungenVon(plan);
+    Bauliste liste;
+    for (const BaulistenZeile& zeile : plan.Liste.Zeilen()) {
+        const std::string vorher = Zustand(liste);
+        const auto anderes = static_cast<ItemId>(liste.Zeilen().size() % Itemtabelle().size());
+        if (liste.AddItem(anderes, bedingungen)) {
+            return "a row can't be added";
+        }
+        liste.Undo();
+        if (!liste.AddProdaenderungsevent({{1, 2, 3}}, bedingungen)) {
+            liste.Undo();
+        }
+        if (Zustand(liste) != vorher) {
+            return "an undo leaves\n" + Zustand(liste);
+        }
+        if (!liste.Replay(zeile.Tag, bedingungen)) {
+            return "a row can't be repeated";
+        }
+    }
+    return {};
+}
+
+Befund PruefeBuecher(const Plan& plan) {
+    if (std::holds_alternative<Meldung>(LiesStartbedingungen(plan))) {
+        return {};
+    }
+    const Startbedingungen bedingungen = BedingungenVon(plan);
+    const Auftragsliste& liste = plan.Liste.Auftraege();
+    Simulation simulation(liste.Alle(), bedingungen);
+    const Spielstand anfang = simulation.Stand();
+    Mitschrift lauf;
+    simulation.Laufe(lauf);
+    for (std::size_t i = 0; i < liste.Zahl(); ++i) {
+        if (lauf.Starts.size() != liste.Zahl() || lauf.Starts[i].Zeile != i ||
+            lauf.Starts[i].Order != liste.Alle()[i]) {
+            return "row " + std::to_string(i + 1) + " hasn't started in its turn";
+        }
+    }
+    for (const Befund& befund : {PruefeSchlangen(lauf), PruefeVorraete(lauf, anfang),
+                                 PruefeSummen(liste, simulation.Stand())}) {
+        if (!befund.empty()) {
+            return befund;
+        }
+    }
+    return {};
+}
+
+Befund PruefeWiederaufnahme(const Plan& plan) {
+    constexpr std::size_t kProben = 12;
+    const Startbedingungen bedingungen = BedingungenVon(plan);
+    const auto orders = plan.Liste.Auftraege().Alle();
+    std::vector<Auftrag> andere(orders.begin(), orders.end());
+    Simulation lauf(orders, bedingungen);
+    std::vector<Simulation> kopien;
+    Mitschrift ganz;
+    while (!lauf.IstFertig()) {
+        kopien.push_back(lauf);
+        lauf.Schritt(ganz);
+    }
+    for (std::size_t schritt = 0; schritt < kopien.size(); schritt += 1 + kopien.size() / kProben) {
+        const Spielstand vorher = kopien[schritt].Stand();
+        Simulation kopie = kopien[schritt];
+        Mitschrift rest;
+        kopie.Laufe(rest);
+        if (!GehtWeiterWie(ganz, schritt, rest) || kopie.Stand() != lauf.Stand()) {
+            return "a copy goes on otherwise from step " + std::to_string(schritt);
+        }
+        if (kopien[schritt].Stand() != vorher) {
+            return "a copy has changed what it was copied from";
+        }
+    }
+    for (std::size_t n = 1; n < orders.size(); n += 1 + orders.size() / kProben) {
+        std::ranges::copy(orders, andere.begin());
+        std::ranges::reverse(andere.begin() + static_cast<std::ptrdiff_t>(n), andere.end());
+        Simulation neu(andere, bedingungen);
+        Mitschrift vonVorn;
+        neu.Laufe(vonVorn);
+        Simulation fortgesetzt = LaufBis(orders, n, bedingungen);
+        fortgesetzt.WechsleAuftraege(andere);
+        Mitschrift rest;
+        fortgesetzt.Laufe(rest);
+        if (!GehtWeiterWie(vonVorn, vonVorn.Staende.size() - rest.Staende.size(), rest) ||
+            rest.Starts.size() != orders.size() - n) {
+            return "a run goes on otherwise behind row " + std::to_string(n);
+        }
+    }
+    return {};
+}
+
+Befund PruefeZeitsprung(const Plan& plan) {
+    constexpr Long kStuecke = 7;
+    constexpr std::int64_t kStunde = 3600;
+    constexpr std::int64_t kGenau = std::int64_t{1} << 40U;
+    const Startbedingungen bedingungen = BedingungenVon(plan);
+    Simulation lauf(plan.Liste.Auftraege().Alle(), bedingungen);
+    Mitschrift stumm;
+    lauf.Laufe(stumm);
+    Spielstand gesprungen = lauf.Stand();
+    Spielstand gegangen = lauf.Stand();
+    std::int64_t teiler = kStunde;
+    for (const Festkomma rate : gesprungen.ProStunde) {
+        teiler = std::gcd(teiler, rate.Rohwert());
+        if (std::abs(rate.Rohwert()) > kGenau) {
+            return {};
+        }
+    }
+    const auto stueck = static_cast<Long>(kStunde / teiler);
+    VergeheZeit(kStuecke * stueck, gesprungen);
+    for (Long i = 0; i < kStuecke; ++i) {
+        VergeheZeit(stueck, gegangen);
+    }
+    return gesprungen == gegangen || gesprungen.secsgone == kEndeDerUhr
+               ? ""
+               : "a jump is no walk of " + std::to_string(stueck) + " s";
+}
+
+Befund PruefeWiederholung(const Plan& plan) {
+    Planlauf lauf("plan.tvf", Profil(Bytes(plan)));
+    const std::string einmal = JsonText(lauf);
+    if (lauf.Gelaufen) {
+        Stumm meldungen;
+        lauf.Lauf.Beginne(BedingungenVon(lauf.Plan));
+        RunSimulation(lauf.Plan.Liste.Auftraege().Alle(), lauf.Lauf, meldungen);
+        lauf.Texte.NachLauf(lauf.Lauf.Stand);
+    }
+    return JsonText(lauf) == einmal ? "" : "a second run has another result";
+}
+
+Befund PruefeKurve(const Plan& plan) {
+    if (plan.Liste.Auftraege().IstLeer()) {
+        return {};
+    }
+    const Startbedingungen bedingungen = BedingungenVon(plan);
+    const Ablauf ablauf = SpieleAb(plan.Liste.Auftraege().Alle(), bedingungen);
+    Simulation simulation(plan.Liste.Auftraege().Alle(), bedingungen);
+    Mitschrift lauf;
+    lauf.NachSchritt(simulation.Stand());
+    simulation.Laufe(lauf);
+    const auto nachZeit = [](const Verlaufspunkt& a, const Verlaufspunkt& b) {
+        return a.Zeit >= b.Zeit;
+    };
+    if (std::ranges::adjacent_find(ablauf.Kurve, nachZeit) != ablauf.Kurve.end()) {
+        return "the curve goes back in time";
+    }
+    for (std::size_t i = 0; i < lauf.Staende.size(); ++i) {
+        const Moment um = lauf.Staende[i].secsgone;
+        // The run goes on from the last state that isn't behind the moment: those after it are.
+        std::size_t letzter = i;
+        for (std::size_t j = i + 1; j < lauf.Staende.size(); ++j) {
+            letzter = lauf.Staende[j].secsgone <= um ? j : letzter;
+        }
+        const Verlaufspunkt& punkt = PunktUm(ablauf.Kurve, um);
+        const Spielstand& stand = lauf.Staende[letzter];
+        if (punkt.Zeit != stand.secsgone || punkt.Vorrat != stand.Vorrat ||
+            punkt.ProStunde != stand.ProStunde || punkt.Stufen != stand.Stufen) {
+            return "the curve is wrong at " + std::to_string(um.Sekunden());
+        }
+    }
+    return ablauf.Ende == simulation.Stand() && ablauf.Starts == lauf.Starts
+               ? ""
+               : "a run that is drawn is another one";
+}
+
+Befund PruefeUmstellungen(const Plan& plan) {
+    constexpr int kProben = 25;
+    const Startbedingungen bedingungen = BedingungenVon(plan);
+    std::minstd_rand zufall(static_cast<unsigned>(plan.Liste.Zeilen().size()) + 1);
+    Bauliste liste = Nacheinander(plan.Liste.Tags(), bedingungen);
+    Listenverlauf verlauf;
+    std::vector<std::vector<std::string>> staende{liste.Tags()};
+    verlauf.Beginne({.Tags = liste.Tags()});
+    for (int i = 0; i < kProben; ++i) {
+        const Umstellung umstellung = Irgendeine(liste, zufall);
+        const auto tags = umstellung.Tags();
+        const bool zuLang = tags.size() > Auftragsliste::kHoechstzahl;
+        const std::size_t brueche = Regelbrueche(liste.Tags());
+        const auto einwand = umstellung.Einwand();
+        if (!einwand && (zuLang || Regelbrueche(tags) > brueche)) {
+            return "an edit is let be that breaks a rule";
+        }
+        if (einwand && !zuLang && brueche == 0 && Regelbrueche(tags) == 0) {
+            return "an edit is refused: " + *einwand;
+        }
+        if (einwand || tags == staende.back()) {
+            continue;
+        }
+        verlauf.Merke({.Tags = tags});
+        liste.Setze(tags, bedingungen);
+        staende.push_back(tags);
+        if (Zustand(liste) != Zustand(Nacheinander(tags, bedingungen))) {
+            return "an edited list isn't its rows dropped anew";
+        }
+    }
+    for (std::size_t i = staende.size() - 1; i > 0; --i) {
+        if (verlauf.Zurueck().Tags != staende[i - 1] || verlauf.Vor().Tags != staende[i] ||
+            verlauf.Zurueck().Tags != staende[i - 1]) {
+            return "an edit can't be taken back and done again";
+        }
+    }
+    return verlauf.HatVorige() ? "there is more to take back than was done" : "";
+}
+
+Befund PruefeVergleich(const Plan& plan) {
+    if (plan.Liste.Auftraege().IstLeer()) {
+        return {};
+    }
+    const Startbedingungen bedingungen = BedingungenVon(plan);
+    const auto orders = plan.Liste.Auftraege().Alle();
+    std::vector<Auftrag> andere(orders.begin(), orders.end());
+    std::ranges::reverse(andere);
+    andere.resize(andere.size() / 2 + 1);
+    const Ablauf a = SpieleAb(orders, bedingungen);
+    const Ablauf b = SpieleAb(andere, bedingungen);
+    if (!Vergleiche(a, a).Unterschiede.empty()) {
+        return "a run differs from itself";
+    }
+    const Vergleich hin = Vergleiche(a, b);
+    Vergleich her = Vergleiche(b, a);
+    for (Vergleichszeile& zeile : her.Unterschiede) {
+        std::swap(zeile.A, zeile.B);
+    }
+    if (hin.A != her.B || hin.B != her.A || hin.Unterschiede != her.Unterschiede) {
+        return "a comparison has no mirror";
+    }
+    // Each start of either is in it, or the same in both.
+    std::size_t in_a = 0;
+    std::size_t in_b = 0;
+    for (const Vergleichszeile& zeile : hin.Unterschiede) {
+        in_a += zeile.A ? 1U : 0U;
+        in_b += zeile.B ? 1U : 0U;
+    }
+    return a.Starts.size() - in_a == b.Starts.size() - in_b ? "" : "a comparison loses orders";
+}
+
+Befund PruefeGesetze(const Plan& plan) {
+    for (const auto gesetz :
+         {PruefeSpeichern, PruefeUndo, PruefeBuecher, PruefeWiederaufnahme, PruefeZeitsprung,
+          PruefeWiederholung, PruefeKurve, PruefeUmstellungen, PruefeVergleich}) {
+        if (Befund befund = gesetz(plan); !befund.empty()) {
+            return befund;
+        }
+    }
+    return {};
+}
+
+bool KommtZurueck(std::string_view wert) {
+    constexpr std::string_view kBlanks = " \t\v\f";
+    constexpr std::size_t kHoechstlaenge = 255;
+    if (wert.empty()) {
+        return true;
+    }
+    const bool angefuehrt = wert.size() >= 2 && wert.front() == wert.back() &&
+                            (wert.front() == '"' || wert.front() == '\'');
+    const std::string bytes = Nach1252(wert);
+    return !angefuehrt && kBlanks.find(wert.front()) == std::string_view::npos &&
+           kBlanks.find(wert.back()) == std::string_view::npos &&
+           wert.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos &&
+           bytes.size() <= kHoechstlaenge && Aus1252(bytes) == wert;
+}
+
+}  // namespace tarvelin
