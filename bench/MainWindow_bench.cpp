@@ -20,9 +20,9 @@ namespace {
 
 class Stumm final : public Dialoge {
   public:
-    void Zeige(const Meldung& /*meldung*/) override {}
-    bool ZeigeAbstellbar(const Meldung& /*meldung*/) override { return true; }
-    void Piepton() override {}
+    void Show(const Message& /*meldung*/) override {}
+    bool ZeigeAbstellbar(const Message& /*meldung*/) override { return true; }
+    void Beep() override {}
     bool Stelle(const Frage& /*frage*/) override { return false; }
     std::filesystem::path FragNachDatei(Zweck /*zweck*/,
                                         const std::filesystem::path& /*ordner*/) override {
@@ -51,7 +51,7 @@ struct Welt {
         .Boxen = Boxen,
         .Netz = Netz,
         .Ton = Ton,
-        .Jetzt = [] { return *LiesDatumzeit("18.11.2006 12:30:00"); },
+        .Jetzt = [] { return *ParseDateTime("18.11.2006 12:30:00"); },
         .OeffneSeite = [](const std::string&) {},
         .Programmordner = QCoreApplication::applicationDirPath().toStdString()};
 };

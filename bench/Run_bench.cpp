@@ -21,10 +21,10 @@ namespace {
 
 using namespace tarvelin;
 
-class Schweigend final : public Meldungsausgabe {
+class Schweigend final : public MessageSink {
   public:
-    void Zeige(const Meldung& /*meldung*/) override {}
-    void Piepton() override {}
+    void Show(const Message& /*meldung*/) override {}
+    void Beep() override {}
 };
 
 /// Counts starts.

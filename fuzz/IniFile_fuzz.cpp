@@ -25,19 +25,19 @@ std::string_view Bytemarke(std::string_view bytes) {
     return {};
 }
 
-std::optional<Bytefolge> Utf16(std::string_view bytes) {
+std::optional<ByteOrder> Utf16(std::string_view bytes) {
     const std::string_view marke = Bytemarke(bytes);
     if (marke.size() != 2) {
         return std::nullopt;
     }
-    return marke.front() == '\xFF' ? Bytefolge::KleinesEndeVorn : Bytefolge::GrossesEndeVorn;
+    return marke.front() == '\xFF' ? ByteOrder::LittleEndian : ByteOrder::BigEndian;
 }
 
 /// What stands behind the mark of a file, in 8 bits.
 std::string Inhalt(std::string_view bytes) {
     const auto folge = Utf16(bytes);
     bytes.remove_prefix(Bytemarke(bytes).size());
-    return folge ? AusUtf16(bytes, *folge) : std::string(bytes);
+    return folge ? FromUtf16(bytes, *folge) : std::string(bytes);
 }
 
 /// The lines of a text with their ends, LF, CR LF or CR.
@@ -78,7 +78,7 @@ bool NurEineStelle(const Zeilen& alt, const Zeilen& neu) {
 /// Names of sections and keys that stand in a file, as near as a glance finds them.
 std::vector<std::pair<std::string, std::string>> Namen(const Zeilen& zeilen, bool utf16) {
     const auto name = [utf16](std::string_view text) {
-        return Aus1252(utf16 ? Nach1252(text) : std::string(text));
+        return From1252(utf16 ? To1252(text) : std::string(text));
     };
     std::vector<std::pair<std::string, std::string>> namen;
     std::string section;
@@ -115,7 +115,7 @@ bool IstName(std::string_view bytes) {
 void PruefeSchreiben(const std::string& datei, const std::string& section, const std::string& key,
                      const std::string& wert) {
     Profil profil(datei);
-    profil.Schreibe(section, key, Aus1252(wert));
+    profil.Schreibe(section, key, From1252(wert));
     const std::string nachher = profil.Bytes();
     const std::string inhalt = Inhalt(datei);
     const Zeilen zeilen = ZeilenVon(inhalt);
@@ -133,25 +133,25 @@ void PruefeSchreiben(const std::string& datei, const std::string& section, const
     }
     Verlange(gelesen.Lies(section, key, "-") == profil.Lies(section, key, "-"),
              "the file holds what the memory holds", nachher);
-    Verlange(!KommtZurueck(Aus1252(wert)) || gelesen.Lies(section, key, "-") == Aus1252(wert),
+    Verlange(!KommtZurueck(From1252(wert)) || gelesen.Lies(section, key, "-") == From1252(wert),
              "a plain value comes back", gelesen.Lies(section, key, "-"));
-    profil.Schreibe(section, key, Aus1252(wert));
+    profil.Schreibe(section, key, From1252(wert));
     Verlange(profil.Bytes() == nachher, "the same write again changes nothing", profil.Bytes());
 }
 
 /// The same file in 16 bits is changed and read alike.
 void PruefeUtf16(const std::string& datei, const std::string& section, const std::string& key,
                  const std::string& wert) {
-    for (const auto folge : {Bytefolge::KleinesEndeVorn, Bytefolge::GrossesEndeVorn}) {
+    for (const auto folge : {ByteOrder::LittleEndian, ByteOrder::BigEndian}) {
         const auto in16 = [&](const std::string& bytes) {
-            return NachUtf16("\xEF\xBB\xBF" + Aus1252(bytes), folge);
+            return ToUtf16("\xEF\xBB\xBF" + From1252(bytes), folge);
         };
         Profil acht(datei);
         Profil sechzehn(in16(datei));
         Verlange(sechzehn.Lies(section, key, "-") == acht.Lies(section, key, "-"),
                  "16 bits are read like 8", sechzehn.Lies(section, key, "-"));
-        acht.Schreibe(section, key, Aus1252(wert));
-        sechzehn.Schreibe(section, key, Aus1252(wert));
+        acht.Schreibe(section, key, From1252(wert));
+        sechzehn.Schreibe(section, key, From1252(wert));
         Verlange(sechzehn.Bytes() == in16(acht.Bytes()), "16 bits are written like 8",
                  sechzehn.Bytes());
     }
@@ -172,14 +172,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t lae
     }
     const Profil profil(eingabe.Rest());
     Verlange(profil.Bytes() == datei, "a profile keeps its bytes", datei);
-    Verlange(Nach1252(profil.Lies(section, key, Aus1252(wert))).size() <= 255,
+    Verlange(To1252(profil.Lies(section, key, From1252(wert))).size() <= 255,
              "a value is 255 at most");
-    Verlange(Nach1252(Aus1252(datei)) == datei, "the code page loses no byte", datei);
-    static_cast<void>(Aus1252(Nach1252(datei)));
+    Verlange(To1252(From1252(datei)) == datei, "the code page loses no byte", datei);
+    static_cast<void>(From1252(To1252(datei)));
     if (IstName(section) && IstName(key)) {
-        PruefeSchreiben(datei, Aus1252(section), Aus1252(key), wert);
+        PruefeSchreiben(datei, From1252(section), From1252(key), wert);
         if (Bytemarke(datei).empty()) {
-            PruefeUtf16(datei, Aus1252(section), Aus1252(key), wert);
+            PruefeUtf16(datei, From1252(section), From1252(key), wert);
         }
     }
     return 0;

@@ -39,10 +39,10 @@ void PruefeZahl(const std::string& text) {
                       c.find_last_of("+-") + 1 <= 1 &&
                       c.find(',', komma + 1) == std::string::npos && c.back() >= '0' &&
                       c.back() <= '9';
-    const auto zahl = LiesZahl(text);
-    Verlange(zahl.has_value() == form && IstZahl(text) == form, "the form of a number", text);
+    const auto zahl = ParseNumber(text);
+    Verlange(zahl.has_value() == form && IsNumber(text) == form, "the form of a number", text);
     if (!zahl) {
-        Verlange(!LiesGanzzahl(text, std::numeric_limits<std::int64_t>::min(), 0), "no whole",
+        Verlange(!ParseWholeNumber(text, std::numeric_limits<std::int64_t>::min(), 0), "no whole",
                  text);
         return;
     }
@@ -53,7 +53,7 @@ void PruefeZahl(const std::string& text) {
     const double wert = std::min(std::max(std::strtod(c.c_str(), nullptr), -kMax), kMax);
     Verlange(*zahl == wert, "the value of a number", text);
     const long long ganz = std::strtoll(c.c_str(), nullptr, 10);
-    const auto gelesen = LiesGanzzahl(text, -1000, std::numeric_limits<std::int64_t>::max());
+    const auto gelesen = ParseWholeNumber(text, -1000, std::numeric_limits<std::int64_t>::max());
     Verlange(
         gelesen == (komma == std::string::npos && ganz >= -1000 ? std::optional<std::int64_t>(ganz)
                                                                 : std::nullopt),
@@ -61,8 +61,8 @@ void PruefeZahl(const std::string& text) {
 }
 
 void PruefeDezimaltext(double wert, int stellen) {
-    const std::string text = Dezimaltext(wert, stellen);
-    const auto zurueck = LiesZahl(text);
+    const std::string text = DecimalText(wert, stellen);
+    const auto zurueck = ParseNumber(text);
     Verlange(zurueck.has_value() && text != "-0", "a decimal text is a number", text);
     Verlange(text.find(',') == std::string::npos || (text.back() != '0' && text.back() != ','),
              "a decimal text is plain", text);
@@ -70,8 +70,8 @@ void PruefeDezimaltext(double wert, int stellen) {
     Verlange(std::abs(*zurueck - wert) <= 0.500001 * schritt + std::abs(wert) * 1e-15,
              "a decimal text is near its value", text);
     if (std::abs(wert) < 9e15) {
-        Verlange(Ganztext(wert) == std::to_string(static_cast<std::int64_t>(wert)),
-                 "the whole part", Ganztext(wert));
+        Verlange(WholeText(wert) == std::to_string(static_cast<std::int64_t>(wert)),
+                 "the whole part", WholeText(wert));
     }
 }
 
@@ -81,7 +81,7 @@ void PruefeAuffuellen(const std::string& text, int anzahl) {
     Verlange(vorn == std::string(nullen, '0') + text, "zeros in front of the text", vorn);
     const std::string hinten = PadDecimals(text, anzahl);
     Verlange(hinten.starts_with(text), "zeros behind the text", hinten);
-    if (!IstZahl(text)) {
+    if (!IsNumber(text)) {
         Verlange(vorn == text && hinten == text, "what is no number stays", text);
         return;
     }
@@ -119,15 +119,14 @@ void PruefeDatum(const std::string& text) {
     erwartet = erwartet && jahr >= 100 && genau.tm_mday == tm.tm_mday &&
                genau.tm_mon == tm.tm_mon && genau.tm_hour == tm.tm_hour &&
                genau.tm_min == tm.tm_min && genau.tm_sec == tm.tm_sec;
-    const auto zeit = LiesDatumzeit(text);
+    const auto zeit = ParseDateTime(text);
     Verlange(zeit.has_value() == erwartet, "which dates there are", text);
     if (!zeit) {
         return;
     }
-    Verlange(zeit->Sekunden() == sekunden + kSekundenBis1970, "when a date is", text);
-    Verlange(Wochentag(*zeit) == genau.tm_wday + 1, "the weekday of a date", text);
-    Verlange(LiesDatumzeit(Datumzeittext(*zeit)) == zeit, "a date's own text",
-             Datumzeittext(*zeit));
+    Verlange(zeit->Seconds() == sekunden + kSekundenBis1970, "when a date is", text);
+    Verlange(Weekday(*zeit) == genau.tm_wday + 1, "the weekday of a date", text);
+    Verlange(ParseDateTime(DateTimeText(*zeit)) == zeit, "a date's own text", DateTimeText(*zeit));
 }
 
 void PruefeDauer(Long wert, const std::string& einheit, const std::string& format,
@@ -143,7 +142,7 @@ void PruefeDauer(Long wert, const std::string& einheit, const std::string& forma
         std::int64_t s = 0;
         const std::string felder = FormatDuration(wert, name, "d h m s", hoechste);
         std::istringstream(felder) >> d >> h >> m >> s;
-        Verlange(((d * 24 + h) * 60 + m) * 60 + s == Saettige<Long>(std::int64_t{wert} * sekunden),
+        Verlange(((d * 24 + h) * 60 + m) * 60 + s == Saturate<Long>(std::int64_t{wert} * sekunden),
                  "the fields of a duration sum up", felder);
         Verlange((hoechste != "h" || d == 0) && (hoechste != "m" || (d == 0 && h == 0)) &&
                      (hoechste != "s" || (d == 0 && h == 0 && m == 0)),
@@ -182,10 +181,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t lae
     const std::string dritter(eingabe.Rest());
     PruefeZahl(text);
     PruefeDatum(text);
-    const auto zahl = LiesZahl(zweiter);
+    const auto zahl = ParseNumber(zweiter);
     const int klein = zahl ? static_cast<int>(HalfEvenLong(*zahl) % 40) : 2;
     PruefeAuffuellen(text, klein);
-    if (const auto wert = LiesZahl(text)) {
+    if (const auto wert = ParseNumber(text)) {
         PruefeDezimaltext(*wert, std::abs(klein) % 16);
         PruefeDauer(HalfEvenLong(*wert), zweiter, dritter, dritter.substr(0, 1));
     }

@@ -22,21 +22,21 @@ namespace tarvelin {
 /// Keeps messages and questions, and answers at once.
 class Boxenmerker final : public Dialoge {
   public:
-    void Zeige(const Meldung& meldung) override {
+    void Show(const Message& meldung) override {
         if (Beendet) {
             return;
         }
-        Texte.push_back(meldung.Text);
-        Koepfe.emplace_back(meldung.Titel, meldung.Symbol);
+        Texte.push_back(meldung.text);
+        Koepfe.emplace_back(meldung.title, meldung.icon);
         if (BeiMeldung) {
             BeiMeldung();
         }
     }
-    bool ZeigeAbstellbar(const Meldung& meldung) override {
-        Zeige(meldung);
+    bool ZeigeAbstellbar(const Message& meldung) override {
+        Show(meldung);
         return ++Abstellbare < Abstellen;
     }
-    void Piepton() override {}
+    void Beep() override {}
     bool Stelle(const Frage& frage) override {
         if (Beendet) {
             return false;
@@ -56,7 +56,7 @@ class Boxenmerker final : public Dialoge {
 
     std::vector<std::string> Texte;
     /// Title and icon of each.
-    std::vector<std::pair<std::string, Meldungssymbol>> Koepfe;
+    std::vector<std::pair<std::string, MessageIcon>> Koepfe;
     std::function<void()> BeiMeldung;
     std::function<void()> BeiFrage;
     bool Antwort = false;
@@ -171,7 +171,7 @@ class Fenster : public testing::Test {
     Boxenmerker m_boxen;
     Netzmerker m_netz;
     Klangmerker m_ton;
-    Zeitpunkt m_jetzt = *LiesDatumzeit("18.11.2006 09:15:00");
+    DateTime m_jetzt = *ParseDateTime("18.11.2006 09:15:00");
     std::vector<std::string> m_seiten;
     Umgebung m_umgebung{.Boxen = m_boxen,
                         .Netz = m_netz,

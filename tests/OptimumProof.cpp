@@ -132,12 +132,12 @@ Suchaufgabe Kleinplan(unsigned saat) {
     welt.Speedfaktor = 1 + bis(1);
     welt.Temperatur = static_cast<Integer>(bis(160) - 60);
     welt.KlickPuffer = bis(1) * bis(600);
-    welt.StartDate = *LiesDatumzeit("18.11.2026 12:30:00");
+    welt.StartDate = *ParseDateTime("18.11.2026 12:30:00");
     constexpr Long kStunde = 3600;
     constexpr Long kNaechte = 4;
     const Long schlaf = bis(1) * (6 + bis(3)) * kStunde;
     for (Long nacht = 0; schlaf > 0 && nacht < kNaechte; ++nacht) {
-        const Zeitpunkt abend = welt.StartDate + (9 + 24 * nacht) * kStunde;
+        const DateTime abend = welt.StartDate + (9 + 24 * nacht) * kStunde;
         welt.Schlafzeiten.emplace_back(abend, abend + schlaf);
     }
     Auftragsliste liste;

@@ -113,7 +113,7 @@ TEST(Konfiguration, SchreibtNebenFremdeZeilenUndVerliertSichOhneOrdner) {
 }
 
 TEST(Wecker, KlingeltAufDieSekunde) {
-    const Zeitpunkt start = *LiesDatumzeit("18.11.2006 12:00:00");
+    const DateTime start = *ParseDateTime("18.11.2006 12:00:00");
     const Bauzeiten bauzeiten{{.Start = start}, {.Start = start + 86400}, {.Start = start}};
     struct Fall {
         const char* Jetzt;
@@ -126,7 +126,7 @@ TEST(Wecker, KlingeltAufDieSekunde) {
           Fall{"18.11.2006 12:00:00", "86400", 1}, Fall{"18.11.2006 11:59:59", "86401", 0},
           Fall{"18.11.2006 12:00:00", "", 0}, Fall{"18.11.2006 11:59:59", "eins", 0},
           Fall{"18.11.2006 12:00:00", "99999999999999999999", 0}}) {
-        EXPECT_EQ(FaelligeBauzeiten(bauzeiten, *LiesDatumzeit(jetzt), vorher), erwartet)
+        EXPECT_EQ(FaelligeBauzeiten(bauzeiten, *ParseDateTime(jetzt), vorher), erwartet)
             << jetzt << " " << vorher;
     }
     EXPECT_EQ(FaelligeBauzeiten({}, start, "0"), 0U);
@@ -136,9 +136,9 @@ TEST(Wecker, KlingeltEineMinuteVorDemAufwachen) {
     const Schlaftabelle tabelle{{"17.11.2006 22:30", "18.11.2006 06:30"},
                                 {"x", "Unsinn"},
                                 {"17.11.2006 23:30", "18.11.2006 06:30"}};
-    EXPECT_EQ(FaelligeSchlafzeiten(tabelle, *LiesDatumzeit("18.11.2006 06:29:00")), 2U);
-    EXPECT_EQ(FaelligeSchlafzeiten(tabelle, *LiesDatumzeit("18.11.2006 06:29:01")), 0U);
-    EXPECT_EQ(FaelligeSchlafzeiten(tabelle, *LiesDatumzeit("18.11.2006 06:30:00")), 0U);
+    EXPECT_EQ(FaelligeSchlafzeiten(tabelle, *ParseDateTime("18.11.2006 06:29:00")), 2U);
+    EXPECT_EQ(FaelligeSchlafzeiten(tabelle, *ParseDateTime("18.11.2006 06:29:01")), 0U);
+    EXPECT_EQ(FaelligeSchlafzeiten(tabelle, *ParseDateTime("18.11.2006 06:30:00")), 0U);
 }
 
 TEST(Dateisystem, SchautInOrdner) {

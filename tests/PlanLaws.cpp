@@ -31,10 +31,10 @@ namespace {
 
 constexpr Moment kEndeDerUhr(std::numeric_limits<Long>::max());
 
-class Stumm final : public Meldungsausgabe {
+class Stumm final : public MessageSink {
   public:
-    void Zeige(const Meldung& /*meldung*/) override {}
-    void Piepton() override {}
+    void Show(const Message& /*meldung*/) override {}
+    void Beep() override {}
 };
 
 /// All that a run tells, and the state behind each of its steps.
@@ -85,14 +85,14 @@ Startbedingungen BedingungenVon(const Plan& plan) {
 }
 
 /// What goes on from a point of the history, less what the start of that step costs.
-JeRohstoff<Festkomma> VorratNachSchritt(const Spielstand& vorher, const Spielstand& nachher,
-                                        const Startereignis* start) {
+JeRohstoff<FixedPoint> VorratNachSchritt(const Spielstand& vorher, const Spielstand& nachher,
+                                         const Startereignis* start) {
     const Verlauf verlauf(vorher);
     auto vorrat = VorratNach(verlauf.Punkte().back(), nachher.secsgone - vorher.secsgone);
     if (start != nullptr && start->Order.Was == Auftrag::Art::Item) {
         const Kosten& preis = Preis(start->Order.Item, static_cast<Byte>(start->Nummer - 1));
         for (const Rohstoff r : kRohstoffe) {
-            vorrat[r] = vorrat[r] - Festkomma::AusDouble(preis[r]);
+            vorrat[r] = vorrat[r] - FixedPoint::FromDouble(preis[r]);
         }
     }
     return vorrat;
@@ -110,7 +110,7 @@ Befund PruefeVorraete(const Mitschrift& lauf, const Spielstand& anfang) {
         if (soll != stand.Vorrat && stand.secsgone != kEndeDerUhr) {
             return "a stock is wrong behind step " + std::to_string(i);
         }
-        if ((start && std::ranges::min(stand.Vorrat) < Festkomma()) !=
+        if ((start && std::ranges::min(stand.Vorrat) < FixedPoint()) !=
             (std::ranges::count(lauf.SchuldenIm, i) == 1)) {
             return "a debt isn't told in step " + std::to_string(i);
         }
@@ -299,7 +299,7 @@ Befund PruefeUndo(const Plan& plan) {
 }
 
 Befund PruefeBuecher(const Plan& plan) {
-    if (std::holds_alternative<Meldung>(LiesStartbedingungen(plan))) {
+    if (std::holds_alternative<Message>(LiesStartbedingungen(plan))) {
         return {};
     }
     const Startbedingungen bedingungen = BedingungenVon(plan);
@@ -376,9 +376,9 @@ Befund PruefeZeitsprung(const Plan& plan) {
     Spielstand gesprungen = lauf.Stand();
     Spielstand gegangen = lauf.Stand();
     std::int64_t teiler = kStunde;
-    for (const Festkomma rate : gesprungen.ProStunde) {
-        teiler = std::gcd(teiler, rate.Rohwert());
-        if (std::abs(rate.Rohwert()) > kGenau) {
+    for (const FixedPoint rate : gesprungen.ProStunde) {
+        teiler = std::gcd(teiler, rate.Raw());
+        if (std::abs(rate.Raw()) > kGenau) {
             return {};
         }
     }
@@ -529,11 +529,11 @@ bool KommtZurueck(std::string_view wert) {
     }
     const bool angefuehrt = wert.size() >= 2 && wert.front() == wert.back() &&
                             (wert.front() == '"' || wert.front() == '\'');
-    const std::string bytes = Nach1252(wert);
+    const std::string bytes = To1252(wert);
     return !angefuehrt && kBlanks.find(wert.front()) == std::string_view::npos &&
            kBlanks.find(wert.back()) == std::string_view::npos &&
            wert.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos &&
-           bytes.size() <= kHoechstlaenge && Aus1252(bytes) == wert;
+           bytes.size() <= kHoechstlaenge && From1252(bytes) == wert;
 }
 
 }  // namespace tarvelin

@@ -30,11 +30,10 @@ class Plangeber {
         AendereTempMax(plan.Parameter, std::to_string(Eins(8) ? Bis(4000) - 2000 : Bis(160) - 60));
         m_jedesBild = Eins(3);
         FuelleListe(plan.Liste, Eins(10) ? Bis(Auftragsliste::kHoechstzahl) : 1 + Bis(60));
-        const Zeitpunkt start = *LiesDatumzeit("18.11.2006 12:30");
+        const DateTime start = *ParseDateTime("18.11.2006 12:30");
         for (int n = Eins(2) ? Bis(5) : 0; n > 0; --n) {
-            const Zeitpunkt schlaf = start + 60 * Bis(6000);
-            plan.Schlafzeiten.push_back(
-                {Datumzeittext(schlaf), Datumzeittext(schlaf + Bis(40000))});
+            const DateTime schlaf = start + 60 * Bis(6000);
+            plan.Schlafzeiten.push_back({DateTimeText(schlaf), DateTimeText(schlaf + Bis(40000))});
         }
         return plan;
     }

@@ -40,7 +40,7 @@ TEST(Bauliste, WeistUnbekanntesUndDie255teZeileAb) {
         ASSERT_FALSE(liste.AddItem(ItemId::DeutMine, bedingungen));
     }
     const std::string voll = Zustand(liste);
-    const Meldung absage{"Die Bauliste ist voll: mehr als 254 Einträge sind nicht möglich...",
+    const Message absage{"Die Bauliste ist voll: mehr als 254 Einträge sind nicht möglich...",
                          "Schwerer Ausnahmefehler 1337 !"};
     EXPECT_EQ(liste.AddItem(ItemId::SKW, bedingungen), absage);
     EXPECT_EQ(liste.AddProdaenderungsevent(kVolleFaktoren, bedingungen), absage);
@@ -213,7 +213,7 @@ TEST(Startparameter, WochentagUndStartdatum) {
     EXPECT_EQ(RefreshWeekday(parameter).Caption, "Sa.");
     EXPECT_EQ(RefreshWeekday(parameter).Hint, "Samstag");
     parameter.UniStartZeitTag = "5";
-    EXPECT_EQ(*ReadUniStartZeit(parameter), *LiesDatumzeit("05.11.2006 12:30:00"));
+    EXPECT_EQ(*ReadUniStartZeit(parameter), *ParseDateTime("05.11.2006 12:30:00"));
     parameter.UniStartZeitMonat = "2";
     parameter.UniStartZeitTag = "30";
     EXPECT_EQ(RefreshWeekday(parameter).Caption, "Err.");
@@ -256,7 +256,7 @@ TEST(Schlaftabelle, NimmtNurWasSichNichtUeberschneidet) {
                            const char* dauerMinuten) {
         const auto meldung =
             AddSchlafzeit({"18.11.2006", stunde, minute, dauerStunden, dauerMinuten}, tabelle);
-        return meldung ? meldung->Text : std::to_string(tabelle.size());
+        return meldung ? meldung->text : std::to_string(tabelle.size());
     };
     const std::string trifft = "Kein überschneidenden Zeiträumen eingegeben...";
     EXPECT_EQ(fuege("10", "00", "2", "00"), "2");

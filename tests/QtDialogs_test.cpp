@@ -63,7 +63,7 @@ class Druecker {
 
 TEST(Meldungsfenster, ZeigtMeldungenWieSieSind) {
     Druecker druecker(QStringLiteral("OK"));
-    Meldungsfenster().Zeige({.Text = "a < b & <b>c</b>", .Titel = ""});
+    Meldungsfenster().Show({.text = "a < b & <b>c</b>", .title = ""});
     EXPECT_EQ(druecker.Titel, QStringLiteral("Tarvelin"));
     EXPECT_EQ(druecker.Text, QStringLiteral("a < b & <b>c</b>"));
     EXPECT_EQ(druecker.Format, Qt::PlainText);
@@ -84,7 +84,7 @@ TEST(Meldungsfenster, AbstellbareHabenEinKaestchen) {
     for (const bool ab : {true, false}) {
         Druecker druecker(QStringLiteral("OK"));
         druecker.Kaestchen = ab;
-        EXPECT_EQ(Meldungsfenster().ZeigeAbstellbar({.Text = "Nochmal", .Titel = ""}), !ab);
+        EXPECT_EQ(Meldungsfenster().ZeigeAbstellbar({.text = "Nochmal", .title = ""}), !ab);
     }
 }
 
@@ -118,7 +118,7 @@ TEST(Meldungsfenster, AmEndeGehtZuWasOffenIst) {
     QTimer::singleShot(0, [&] { boxen.Beende(); });
     EXPECT_FALSE(boxen.Stelle({.Text = "Wirklich?", .Titel = ""}));
     // None of them waits for anybody.
-    boxen.Zeige({.Text = "Noch eine", .Titel = ""});
+    boxen.Show({.text = "Noch eine", .title = ""});
     EXPECT_FALSE(boxen.Stelle({.Text = "Und noch eine?", .Titel = ""}));
     EXPECT_TRUE(boxen.FragNachDatei(Dialoge::Zweck::Laden, ".").empty());
 }

@@ -60,8 +60,8 @@ std::map<std::string, int> Gezaehlt(const std::vector<Auftrag>& orders) {
 }
 
 /// The moments of the starts of a run.
-std::vector<Zeitpunkt> Startzeiten(const Planlauf& lauf) {
-    std::vector<Zeitpunkt> zeiten;
+std::vector<DateTime> Startzeiten(const Planlauf& lauf) {
+    std::vector<DateTime> zeiten;
     for (const Bauzeit& zeile : lauf.Lauf.LV_Bauzeiten) {
         zeiten.push_back(zeile.Start);
     }
@@ -161,7 +161,7 @@ TEST(Suche, FindetEinenAnfangFuerEinenPlanDerNieEndet) {
 TEST(Suche, LaesstWasSchonGespieltIst) {
     const Plan& plan = Startplan();
     const auto vorher = Startzeiten(Startlauf());
-    const Suchwunsch wunsch{.Ab = LiesDatumzeit("03.12.2026 12:00:30")};
+    const Suchwunsch wunsch{.Ab = ParseDateTime("03.12.2026 12:00:30")};
     const Planaufgabe aufgabe = Stelle(plan, wunsch);
     ASSERT_TRUE(aufgabe.Pause);
     EXPECT_EQ(aufgabe.Pause->Startzeit + "/" + aufgabe.Pause->Endzeit,
@@ -224,7 +224,7 @@ TEST(Suche, SagtWarumSieNichtSuchenKann) {
         {wirtschaft, {.Fest = {{2, 1}}}, true, "Feste Zeilen gehen von 1 bis 3"},
         {gebrochen, {}, false, "Zeile 2 (GW) hält die Regeln der Bauliste nicht:"},
         {wirtschaft,
-         {.Ab = LiesDatumzeit("18.11.2016 12:30:00")},
+         {.Ab = ParseDateTime("18.11.2016 12:30:00")},
          false,
          "Alle Aufträge beginnen vor dem 18.11.2016 12:30:00"},
         {ohneTag, {}, false, ""},

@@ -242,7 +242,7 @@ TEST_F(Fensterleben, StarterplanUndLetzterPlanGehenNichtVerloren) {
 }
 
 TEST_F(Fensterleben, HinweisZumStartKommtVorAllemAnderen) {
-    m_umgebung.Starthinweis = Meldung{.Text = "Hinweis", .Titel = "Tarvelin"};
+    m_umgebung.Starthinweis = Message{.text = "Hinweis", .title = "Tarvelin"};
     EXPECT_TRUE(SaveBauliste(m_ordner / "saves" / "autosave.tvf", PlanAus("GM")));
     const NeuerStart start(m_umgebung);
     EXPECT_EQ(m_boxen.Texte.size(), 3U);
@@ -334,7 +334,7 @@ TEST_F(Fensterleben, NeuBeginntHeuteUndLaesstDenRest) {
     Waehle("mnuEinstellungen");
     Druecke("Chk_BauWeckfunktion");
     Tippe("txt_UniStartZeitStunden", "99");
-    m_jetzt = *LiesDatumzeit("05.03.2007 01:00:00");
+    m_jetzt = *ParseDateTime("05.03.2007 01:00:00");
     Waehle("mnu_DateiNeu");
     EXPECT_EQ(Zeilen("LV_Bauliste"), 0);
     EXPECT_EQ(Zeilen("LV_Bauzeiten"), 0);
@@ -383,7 +383,7 @@ TEST_F(Fensterleben, AlarmeKlingelnNurSolangeSieAnSind) {
     auto& schlaf = Finde<QTimer>("Tmr_Schlafweckfunktion");
     Druecke("Chk_Schlafzeitenwecker");
     Druecke("Cmd_AddSchlafzeit");
-    m_jetzt = *LiesDatumzeit("18.11.2006 23:29:00");
+    m_jetzt = *ParseDateTime("18.11.2006 23:29:00");
     QMetaObject::invokeMethod(&schlaf, "timeout");
     EXPECT_EQ(m_ton.Gespielt.size(), 3U);
     m_fenster.close();
@@ -573,9 +573,9 @@ TEST_F(Skins, WebskinFragtBeiJederFehlendenDatei) {
     Druecke("Cmd_ApplySkin");
     EXPECT_EQ(m_boxen.Texte.size(), 1U + 24U);
     EXPECT_EQ(m_boxen.Koepfe.front(),
-              std::pair(std::string("Fortsetzen..."), Meldungssymbol::Hinweis));
+              std::pair(std::string("Fortsetzen..."), MessageIcon::Information));
     EXPECT_EQ(m_boxen.Koepfe.back(),
-              std::pair(std::string("Download-Fehler..."), Meldungssymbol::Warnung));
+              std::pair(std::string("Download-Fehler..."), MessageIcon::Warning));
 }
 
 // The close of the window ends a fetch, and nothing more is asked or shown.
@@ -599,7 +599,7 @@ TEST_F(Fensterleben, VersionsvergleichNimmtJedesZeichen) {
     Waehle("mnu_UpdateCheck");
     EXPECT_EQ(m_boxen.Texte.back(), "Die Versions-Datei konnte nicht geladen werden...");
     EXPECT_EQ(m_boxen.Koepfe.back(),
-              std::pair(std::string("Version-Check..."), Meldungssymbol::Fehler));
+              std::pair(std::string("Version-Check..."), MessageIcon::Error));
     const std::string adresse = m_netz.Adressen.at(0);
     EXPECT_TRUE(adresse.ends_with("/tarvelinversion.txt"));
     for (const auto& [inhalt, gleich] : std::vector<std::pair<std::string, bool>>{
@@ -623,7 +623,7 @@ TEST_F(Fensterleben, VersionsvergleichNimmtJedesZeichen) {
     // Bytes that are no text count one by one.
     EXPECT_LT(Versionsfrage(std::string(1000, '\x80')).Text.size(), 300U);
     EXPECT_EQ(m_boxen.Koepfe.back(),
-              std::pair(std::string("Version-Check..."), Meldungssymbol::Hinweis));
+              std::pair(std::string("Version-Check..."), MessageIcon::Information));
     EXPECT_TRUE(m_seiten.empty());
     m_boxen.Antwort = true;
     Waehle("mnu_UpdateCheck");

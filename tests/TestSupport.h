@@ -26,10 +26,10 @@ inline constexpr bool kWindows = false;
 #endif
 
 /// Keeps messages and counts beeps.
-class Merker final : public Meldungsausgabe {
+class Merker final : public MessageSink {
   public:
-    void Zeige(const Meldung& meldung) override { Texte.push_back(meldung.Text); }
-    void Piepton() override { ++Pieptoene; }
+    void Show(const Message& meldung) override { Texte.push_back(meldung.text); }
+    void Beep() override { ++Pieptoene; }
 
     std::vector<std::string> Texte;
     int Pieptoene = 0;
@@ -120,8 +120,8 @@ struct Probe {
 
     explicit Probe(const Plan& plan) {
         const auto bedingungen = LiesStartbedingungen(plan);
-        if (const auto* const absage = std::get_if<Meldung>(&bedingungen)) {
-            Meldungen.Zeige(*absage);
+        if (const auto* const absage = std::get_if<Message>(&bedingungen)) {
+            Meldungen.Show(*absage);
             return;
         }
         Gelaufen.Beginne(std::get<Startbedingungen>(bedingungen));

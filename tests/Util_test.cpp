@@ -27,54 +27,54 @@ TEST(Rundung, NimmtDieRichtungIhresNamensUndHaeltAnDenEnden) {
           Fall{7, 7, 7, 7}, Fall{1e300, kMax64, kMax64, kMax64},
           Fall{-9223372036854775808.0, kMin64, kMin64, kMin64},
           Fall{-kUnendlich, kMin64, kMin64, kMin64}, Fall{kKeineZahl, 0, 0, 0}}) {
-        EXPECT_EQ(Rundung::half_even(f.wert), f.halb) << f.wert;
-        EXPECT_EQ(Rundung::cut(f.wert), f.ab) << f.wert;
-        EXPECT_EQ(Rundung::floor(f.wert), f.runter) << f.wert;
+        EXPECT_EQ(Rounding::HalfEven(f.wert), f.halb) << f.wert;
+        EXPECT_EQ(Rounding::Cut(f.wert), f.ab) << f.wert;
+        EXPECT_EQ(Rounding::Floor(f.wert), f.runter) << f.wert;
     }
-    EXPECT_EQ(LongSumme(kMax64 / 2, 5), std::numeric_limits<Long>::max());
-    EXPECT_EQ(LongSumme(-3'000'000'000, 5), std::numeric_limits<Long>::min());
-    EXPECT_EQ(Saettige<Byte>(300), 255);
-    EXPECT_EQ(Saettige<Byte>(-1), 0);
+    EXPECT_EQ(LongSum(kMax64 / 2, 5), std::numeric_limits<Long>::max());
+    EXPECT_EQ(LongSum(-3'000'000'000, 5), std::numeric_limits<Long>::min());
+    EXPECT_EQ(Saturate<Byte>(300), 255);
+    EXPECT_EQ(Saturate<Byte>(-1), 0);
 }
 
 TEST(Festkomma, RechnetGenauUndHaeltAnDenEnden) {
-    const auto max = Festkomma::AusRohwert(kMax64);
-    const auto min = Festkomma::AusRohwert(kMin64);
-    EXPECT_EQ(max + Festkomma::AusRohwert(1), max);
-    EXPECT_EQ(min - Festkomma::AusRohwert(1), min);
+    const auto max = FixedPoint::FromRaw(kMax64);
+    const auto min = FixedPoint::FromRaw(kMin64);
+    EXPECT_EQ(max + FixedPoint::FromRaw(1), max);
+    EXPECT_EQ(min - FixedPoint::FromRaw(1), min);
     EXPECT_EQ(max * -2, min);
     EXPECT_EQ(min * -1, max);
-    EXPECT_EQ(Festkomma::AusDouble(1e30), max);
-    EXPECT_EQ(Festkomma::AusDouble(0.00005).Rohwert(), 0);
-    EXPECT_EQ(Festkomma::AusDouble(0.00035).Rohwert(), 4);
-    EXPECT_EQ(Festkomma::AusDouble(-12.9).GanzerTeil(), -12);
-    EXPECT_EQ(VierStellenText(Festkomma::AusDouble(-0.5)), "-0.5000");
-    EXPECT_EQ(VierStellenText(min), "-922337203685477.5808");
-    EXPECT_EQ(Dezimaltext(Festkomma::AusDouble(440.6278)), "440,6278");
-    EXPECT_EQ(Dezimaltext(Festkomma::AusDouble(-0.05)), "-0,05");
-    EXPECT_EQ(Dezimaltext(Festkomma::AusGanzzahl(500)), "500");
-    EXPECT_EQ(Dezimaltext(Festkomma()), "0");
+    EXPECT_EQ(FixedPoint::FromDouble(1e30), max);
+    EXPECT_EQ(FixedPoint::FromDouble(0.00005).Raw(), 0);
+    EXPECT_EQ(FixedPoint::FromDouble(0.00035).Raw(), 4);
+    EXPECT_EQ(FixedPoint::FromDouble(-12.9).WholePart(), -12);
+    EXPECT_EQ(FourDecimalsText(FixedPoint::FromDouble(-0.5)), "-0.5000");
+    EXPECT_EQ(FourDecimalsText(min), "-922337203685477.5808");
+    EXPECT_EQ(DecimalText(FixedPoint::FromDouble(440.6278)), "440,6278");
+    EXPECT_EQ(DecimalText(FixedPoint::FromDouble(-0.05)), "-0,05");
+    EXPECT_EQ(DecimalText(FixedPoint::FromWhole(500)), "500");
+    EXPECT_EQ(DecimalText(FixedPoint()), "0");
 }
 
 TEST(Zahlentext, SchreibtSchlichteDezimalzahlen) {
-    EXPECT_EQ(Dezimaltext(0.1 - 40 + 40, 10), "0,1");
-    EXPECT_EQ(Dezimaltext(-0.00004, 4), "0");
-    EXPECT_EQ(Dezimaltext(0.0625, 3), "0,062");
-    EXPECT_EQ(Dezimaltext(1234.5678, 0), "1235");
-    EXPECT_EQ(Dezimaltext(-27.95, 10), "-27,95");
-    EXPECT_EQ(Dezimaltext(999999999, 10), "999999999");
-    EXPECT_EQ(Dezimaltext(123456789.5, 10), "123456789,5");
-    EXPECT_EQ(Dezimaltext(-1e15 / 2, 10), "-500000000000000");
-    EXPECT_EQ(Dezimaltext(1e22, 10), "10000000000000000000000");
-    EXPECT_EQ(Ganztext(-12.9), "-12");
-    EXPECT_EQ(Ganztext(-0.5), "0");
-    EXPECT_EQ(Ganztext(std::ldexp(1.0, 80)), "1208925819614629174706176");
+    EXPECT_EQ(DecimalText(0.1 - 40 + 40, 10), "0,1");
+    EXPECT_EQ(DecimalText(-0.00004, 4), "0");
+    EXPECT_EQ(DecimalText(0.0625, 3), "0,062");
+    EXPECT_EQ(DecimalText(1234.5678, 0), "1235");
+    EXPECT_EQ(DecimalText(-27.95, 10), "-27,95");
+    EXPECT_EQ(DecimalText(999999999, 10), "999999999");
+    EXPECT_EQ(DecimalText(123456789.5, 10), "123456789,5");
+    EXPECT_EQ(DecimalText(-1e15 / 2, 10), "-500000000000000");
+    EXPECT_EQ(DecimalText(1e22, 10), "10000000000000000000000");
+    EXPECT_EQ(WholeText(-12.9), "-12");
+    EXPECT_EQ(WholeText(-0.5), "0");
+    EXPECT_EQ(WholeText(std::ldexp(1.0, 80)), "1208925819614629174706176");
 }
 
 TEST(Datumzeit, LiestNurDieseTexte) {
     const auto gelesen = [](const char* text) {
-        const auto zeit = LiesDatumzeit(text);
-        return zeit ? Datumzeittext(*zeit) : "-";
+        const auto zeit = ParseDateTime(text);
+        return zeit ? DateTimeText(*zeit) : "-";
     };
     for (const auto& [text, zeit] : {std::pair("1.2.06 3:4", "01.02.2006 03:04:00"),
                                      std::pair("01.02.2006 03:04:5", "01.02.2006 03:04:05"),
@@ -115,15 +115,15 @@ TEST(Datumzeit, LiestNurDieseTexte) {
 }
 
 TEST(Datumzeit, KenntWochentageUndGrosseJahre) {
-    const Zeitpunkt samstag = *LiesDatumzeit("18.11.2006 23:59:59");
-    EXPECT_EQ(WochentagKurz(samstag), "Sa");
-    EXPECT_EQ(WochentagLang(samstag + 1), "Sonntag");
-    EXPECT_EQ(Wochentag(samstag + 1), 1);
-    EXPECT_EQ(Datumzeittext(*LiesDatumzeit("31.12.9999 23:59:59") + 1), "01.01.10000 00:00:00");
-    const Zeitpunkt alt = *LiesDatumzeit("29.12.1899 12:00");
-    EXPECT_EQ(Datumzeittext(alt), "29.12.1899 12:00:00");
-    EXPECT_EQ(WochentagKurz(alt), "Fr");
-    EXPECT_EQ(*LiesDatumzeit("01.01.9999 00:00") - samstag, std::numeric_limits<Long>::max());
+    const DateTime samstag = *ParseDateTime("18.11.2006 23:59:59");
+    EXPECT_EQ(WeekdayShort(samstag), "Sa");
+    EXPECT_EQ(WeekdayLong(samstag + 1), "Sonntag");
+    EXPECT_EQ(Weekday(samstag + 1), 1);
+    EXPECT_EQ(DateTimeText(*ParseDateTime("31.12.9999 23:59:59") + 1), "01.01.10000 00:00:00");
+    const DateTime alt = *ParseDateTime("29.12.1899 12:00");
+    EXPECT_EQ(DateTimeText(alt), "29.12.1899 12:00:00");
+    EXPECT_EQ(WeekdayShort(alt), "Fr");
+    EXPECT_EQ(*ParseDateTime("01.01.9999 00:00") - samstag, std::numeric_limits<Long>::max());
 }
 
 TEST(Nuetzliches, SchneidetUndFuelltTexte) {
@@ -154,10 +154,10 @@ TEST(Codepage1252, KommtMitJedemByteZurueck) {
     for (int byte = 0; byte < 256; ++byte) {
         alle += static_cast<char>(byte);
     }
-    EXPECT_EQ(Nach1252(Aus1252(alle)), alle);
-    EXPECT_EQ(Aus1252("\x80\xE4"), "€ä");
-    EXPECT_EQ(Nach1252("\xE0\x81\x81\xC0\xAF\xF4\x90\x80\x80"), "?????????");
-    EXPECT_EQ(Nach1252("漢\xF0\x9F\x98\x80 \xFFx\xC3"), "?? ?x?");
+    EXPECT_EQ(To1252(From1252(alle)), alle);
+    EXPECT_EQ(From1252("\x80\xE4"), "€ä");
+    EXPECT_EQ(To1252("\xE0\x81\x81\xC0\xAF\xF4\x90\x80\x80"), "?????????");
+    EXPECT_EQ(To1252("漢\xF0\x9F\x98\x80 \xFFx\xC3"), "?? ?x?");
 }
 
 }  // namespace

@@ -217,7 +217,7 @@ TEST_F(Werkbank, NimmtBearbeitungenBeiderFensterZurueck) {
     // Parameters and sleep rows go the same way, and so does a new plan, which is one step.
     Tippe("txt_TempMax", "40");
     Druecke("Cmd_AddSchlafzeit");
-    m_jetzt = *LiesDatumzeit("05.03.2007 01:00:00");
+    m_jetzt = *ParseDateTime("05.03.2007 01:00:00");
     Waehle("mnu_DateiNeu");
     EXPECT_EQ(Tags(), "");
     EXPECT_EQ(zurueck(), "GS GD GF");
@@ -285,7 +285,7 @@ TEST_F(Werkbank, BleibtMitDemAnderenFensterEinig) {
 }
 
 TEST_F(Werkbank, ZeigtDenPlanAlsBild) {
-    m_jetzt = *LiesDatumzeit("18.11.2006 12:33:00");
+    m_jetzt = *ParseDateTime("18.11.2006 12:33:00");
     Plan plan = PlanAus("GM GM GS GX:10:0:10 GM");
     plan.Parameter.KlickPuffer = 5;
     Lade(plan);
@@ -319,7 +319,7 @@ TEST_F(Werkbank, ZeigtDenPlanAlsBild) {
     EXPECT_NE(Sagt("LBL_Stand").find("Metallmine 2"), std::string::npos);
     Greife({4});
     const int start = leiste.SpalteVon(
-        Moment(*LiesDatumzeit("18.11.2006 12:38:53") - *LiesDatumzeit("18.11.2006 12:30:00")));
+        Moment(*ParseDateTime("18.11.2006 12:38:53") - *ParseDateTime("18.11.2006 12:30:00")));
     EXPECT_TRUE(start >= 0 && start < leiste.viewport()->width()) << "brought to sight";
     QTest::mouseDClick(leiste.viewport(), Qt::LeftButton, {}, ort);
     EXPECT_EQ(leiste.SpalteVon(Moment()), 0);
@@ -394,7 +394,7 @@ TEST_F(Werkbank, FolgtDenFarbenDesDesktops) {
 TEST_F(Werkbank, SuchtUndUebernimmtAlsEinenSchritt) {
     const Planlauf starter(std::filesystem::path(TARVELIN_SOURCE_DIR) / "data/saves/basic.tvf");
     Lade(starter.Plan);
-    m_jetzt = *LiesDatumzeit("03.12.2026 12:00:30");
+    m_jetzt = *ParseDateTime("03.12.2026 12:00:30");
     const auto bytes = [this] {
         // A save keeps what else a file holds.
         std::filesystem::remove(m_ordner / "jetzt.tvf");

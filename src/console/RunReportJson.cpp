@@ -14,8 +14,8 @@ using nlohmann::json;
 
 json Meldungen(const Planlauf& lauf) {
     json liste = json::array();
-    for (const Meldung& meldung : lauf.Meldungen) {
-        liste.push_back({{"Text", meldung.Text}, {"Titel", meldung.Titel}});
+    for (const Message& meldung : lauf.Meldungen) {
+        liste.push_back({{"Text", meldung.text}, {"Titel", meldung.title}});
     }
     return liste;
 }
@@ -63,13 +63,13 @@ json Zeittabelle(const Bauzeiten& bauzeiten) {
 
 void FuegeZustandAn(json& objekt, const Spielstand& stand, const Startbedingungen& bedingungen) {
     objekt["secsgone"] = stand.secsgone.Sekunden();
-    objekt["Metall"] = VierStellenText(stand.Vorrat[Rohstoff::Metall]);
-    objekt["Kristall"] = VierStellenText(stand.Vorrat[Rohstoff::Kristall]);
-    objekt["Deuterium"] = VierStellenText(stand.Vorrat[Rohstoff::Deuterium]);
-    objekt["ProdFaktor"] = VierStellenText(stand.ProdFaktor);
-    objekt["MetallProStunde"] = VierStellenText(stand.ProStunde[Rohstoff::Metall]);
-    objekt["KristallProStunde"] = VierStellenText(stand.ProStunde[Rohstoff::Kristall]);
-    objekt["DeuteriumProStunde"] = VierStellenText(stand.ProStunde[Rohstoff::Deuterium]);
+    objekt["Metall"] = FourDecimalsText(stand.Vorrat[Rohstoff::Metall]);
+    objekt["Kristall"] = FourDecimalsText(stand.Vorrat[Rohstoff::Kristall]);
+    objekt["Deuterium"] = FourDecimalsText(stand.Vorrat[Rohstoff::Deuterium]);
+    objekt["ProdFaktor"] = FourDecimalsText(stand.ProdFaktor);
+    objekt["MetallProStunde"] = FourDecimalsText(stand.ProStunde[Rohstoff::Metall]);
+    objekt["KristallProStunde"] = FourDecimalsText(stand.ProStunde[Rohstoff::Kristall]);
+    objekt["DeuteriumProStunde"] = FourDecimalsText(stand.ProStunde[Rohstoff::Deuterium]);
     objekt["EnergieProduktion"] = stand.EnergieProduktion;
     objekt["EnergieVerbrauch"] = stand.EnergieVerbrauch;
     objekt["VerbauteRessourcen"] = stand.VerbauteRessourcen;
@@ -93,13 +93,13 @@ void FuegeTexteAn(json& objekt, const Ergebnistexte& texte) {
 
 json Punkt(const Verlaufspunkt& punkt, const Startbedingungen& bedingungen) {
     return {{"Sekunde", punkt.Zeit.Sekunden()},
-            {"Zeitpunkt", Datumzeittext(bedingungen.Uhrzeit(punkt.Zeit))},
-            {"Metall", VierStellenText(punkt.Vorrat[Rohstoff::Metall])},
-            {"Kristall", VierStellenText(punkt.Vorrat[Rohstoff::Kristall])},
-            {"Deuterium", VierStellenText(punkt.Vorrat[Rohstoff::Deuterium])},
-            {"MetallProStunde", VierStellenText(punkt.ProStunde[Rohstoff::Metall])},
-            {"KristallProStunde", VierStellenText(punkt.ProStunde[Rohstoff::Kristall])},
-            {"DeuteriumProStunde", VierStellenText(punkt.ProStunde[Rohstoff::Deuterium])},
+            {"Zeitpunkt", DateTimeText(bedingungen.Uhrzeit(punkt.Zeit))},
+            {"Metall", FourDecimalsText(punkt.Vorrat[Rohstoff::Metall])},
+            {"Kristall", FourDecimalsText(punkt.Vorrat[Rohstoff::Kristall])},
+            {"Deuterium", FourDecimalsText(punkt.Vorrat[Rohstoff::Deuterium])},
+            {"MetallProStunde", FourDecimalsText(punkt.ProStunde[Rohstoff::Metall])},
+            {"KristallProStunde", FourDecimalsText(punkt.ProStunde[Rohstoff::Kristall])},
+            {"DeuteriumProStunde", FourDecimalsText(punkt.ProStunde[Rohstoff::Deuterium])},
             {"EnergieProduktion", punkt.EnergieProduktion},
             {"EnergieVerbrauch", punkt.EnergieVerbrauch}};
 }
@@ -111,15 +111,14 @@ json VerlaufVon(const Ablauf& ablauf) {
     }
     json auftraege = json::array();
     for (const Startereignis& start : ablauf.Starts) {
-        auftraege.push_back(
-            {{"Zeile", start.Zeile + 1},
-             {"Auftrag", Auftragsschluessel(start.Order, start.Nummer)},
-             {"Start", start.Start.Sekunden()},
-             {"Finish", start.Finish.Sekunden()},
-             {"Startzeit", Datumzeittext(ablauf.Bedingungen.Uhrzeit(start.Start))},
-             {"Fertigzeit", Datumzeittext(ablauf.Bedingungen.Uhrzeit(start.Finish))},
-             {"Schlange", Schlangenname(start.Order.Queue)},
-             {"Grund", Wartetext(ablauf, start.Zeile)}});
+        auftraege.push_back({{"Zeile", start.Zeile + 1},
+                             {"Auftrag", Auftragsschluessel(start.Order, start.Nummer)},
+                             {"Start", start.Start.Sekunden()},
+                             {"Finish", start.Finish.Sekunden()},
+                             {"Startzeit", DateTimeText(ablauf.Bedingungen.Uhrzeit(start.Start))},
+                             {"Fertigzeit", DateTimeText(ablauf.Bedingungen.Uhrzeit(start.Finish))},
+                             {"Schlange", Schlangenname(start.Order.Queue)},
+                             {"Grund", Wartetext(ablauf, start.Zeile)}});
     }
     return {{"Punkte", punkte}, {"Auftraege", auftraege}};
 }

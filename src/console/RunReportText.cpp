@@ -25,7 +25,7 @@ std::vector<Zeile> Zeittabelle(const Bauzeiten& bauzeiten,
     for (std::size_t i = 0; i < bauzeiten.size(); ++i) {
         const Bauzeit& bauzeit = bauzeiten[i];
         zeilen.push_back({std::to_string(i + 1), bauzeit.Wochentag(), bauzeit.Uhrzeit(),
-                          bauzeit.theText(), Datumzeittext(bauzeit.Start), text(i)});
+                          bauzeit.theText(), DateTimeText(bauzeit.Start), text(i)});
     }
     return zeilen;
 }

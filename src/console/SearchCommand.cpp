@@ -51,10 +51,10 @@ std::variant<Zeilenbereiche, std::string> LiesZeilen(std::string_view text) {
         }
         text.remove_prefix(std::min(ende + 1, text.size()));
         const auto strich = stueck.find('-');
-        const auto erste = LiesGanzzahl(stueck.substr(0, strich), 1, kHoechste);
+        const auto erste = ParseWholeNumber(stueck.substr(0, strich), 1, kHoechste);
         const auto letzte = strich == std::string_view::npos
                                 ? erste
-                                : LiesGanzzahl(stueck.substr(strich + 1), 1, kHoechste);
+                                : ParseWholeNumber(stueck.substr(strich + 1), 1, kHoechste);
         if (!erste || !letzte) {
             return kErwartet;
         }
@@ -76,7 +76,7 @@ std::variant<Suchwunsch, std::string> LiesWunsch(const Suchbefehl& befehl) {
     }
     wunsch.Fest = std::get<Zeilenbereiche>(zeilen);
     if (befehl.Ab) {
-        wunsch.Ab = LiesDatumzeit(*befehl.Ab);
+        wunsch.Ab = ParseDateTime(*befehl.Ab);
         if (!wunsch.Ab) {
             return "--ab erwartet einen Zeitpunkt wie \"18.11.2026 12:30:00\"";
         }
@@ -114,7 +114,7 @@ int FuehreSucheAus(const Suchbefehl& befehl, const std::atomic<bool>& halt) {
     }
     const Planlauf plan(AlsPfad(befehl.Plandatei));
     if (!plan.Geladen) {
-        const int code = Sage(Ladefehler().Text, kPlanGescheitert);
+        const int code = Sage(Ladefehler().text, kPlanGescheitert);
         std::cerr << befehl.Plandatei << ": " << Ladehindernis(AlsPfad(befehl.Plandatei)) << '\n';
         return code;
     }
@@ -141,7 +141,7 @@ int FuehreSucheAus(const Suchbefehl& befehl, const std::atomic<bool>& halt) {
                               .Neuer = lauf,
                               .Saat = befehl.Saat};
     if (befehl.Nach && !SaveBauliste(AlsPfad(*befehl.Nach), neuer)) {
-        return Sage(Speicherfehler().Text, kPlanGescheitert);
+        return Sage(Speicherfehler().text, kPlanGescheitert);
     }
     if (befehl.Json) {
         std::cout << SuchJson(bericht) << '\n';

@@ -22,8 +22,8 @@ std::string Dauer(Long sekunden) {
 
 json AlsJson(const Fund& fund, const Spielstand& stand) {
     json raten = json::array();
-    for (const Festkomma rate : stand.ProStunde) {
-        raten.push_back(rate.GanzerTeil());
+    for (const FixedPoint rate : stand.ProStunde) {
+        raten.push_back(rate.WholePart());
     }
     return {{"Sekunden", fund.Wertung.Dauer},
             {"Dauer", Dauer(fund.Wertung.Dauer)},
@@ -50,7 +50,7 @@ void SchreibeZeile(std::ostream& strom, const std::string& name, const std::stri
 
 std::string Prozent(Long gewinn, Long von) {
     constexpr double kHundert = 100;
-    return Dezimaltext(von == 0 ? 0 : kHundert * gewinn / von, 1) + " %";
+    return DecimalText(von == 0 ? 0 : kHundert * gewinn / von, 1) + " %";
 }
 
 }  // namespace
@@ -112,8 +112,8 @@ std::string SuchJson(const Suchbericht& bericht) {
 std::string Fortschrittszeile(const Fortschritt& stand) {
     return Dauer(stand.BesteDauer) + "  Gewinn " + Gewinntext(stand.Gewinn) + "  Versuch " +
            std::to_string(stand.Versuche) + " von " + std::to_string(stand.VonVersuchen) +
-           "  Kette " + std::to_string(stand.Kette) + "  " + Ganztext(stand.VersucheJeSekunde) +
-           "/s  besser vor " + Ganztext(stand.SeitBestem) + " s";
+           "  Kette " + std::to_string(stand.Kette) + "  " + WholeText(stand.VersucheJeSekunde) +
+           "/s  besser vor " + WholeText(stand.SeitBestem) + " s";
 }
 
 }  // namespace tarvelin

@@ -119,8 +119,8 @@ std::filesystem::path AlsPfad(const std::string& datei) {
 /// file, under its name.
 tarvelin::Planlauf SpieleDatei(const std::string& datei) {
     tarvelin::Planlauf lauf(AlsPfad(datei));
-    for (const tarvelin::Meldung& meldung : lauf.Meldungen) {
-        std::cerr << meldung.Titel << (meldung.Titel.empty() ? "" : ": ") << meldung.Text << '\n';
+    for (const tarvelin::Message& meldung : lauf.Meldungen) {
+        std::cerr << meldung.title << (meldung.title.empty() ? "" : ": ") << meldung.text << '\n';
     }
     const std::string text = !lauf.Geladen    ? tarvelin::Ladehindernis(AlsPfad(datei))
                              : !lauf.Gelaufen ? "dieser Plan kann nicht gespielt werden"

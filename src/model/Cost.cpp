@@ -16,7 +16,7 @@ constexpr std::size_t kStufen = std::numeric_limits<Byte>::max() + std::size_t{1
 
 struct Stufenpreis {
     Kosten Betrag{};
-    JeRohstoff<Festkomma> Abzug{};
+    JeRohstoff<FixedPoint> Abzug{};
 };
 
 /// Every price there is, as each event of a run asks for some.
@@ -30,7 +30,7 @@ Preistafel AllePreise() noexcept {
             Stufenpreis& preis = tafel[zeile.Item][stufe];
             JedenRohstoff([&](Rohstoff r) {
                 preis.Betrag[r] = std::trunc(zeile.Basis[r] * faktor);
-                preis.Abzug[r] = Festkomma::AusDouble(preis.Betrag[r]);
+                preis.Abzug[r] = FixedPoint::FromDouble(preis.Betrag[r]);
             });
         }
     }
@@ -45,14 +45,14 @@ const Kosten& Preis(ItemId item, Byte stufe) {
     return kPreise[item][stufe].Betrag;
 }
 
-const JeRohstoff<Festkomma>& Abzug(ItemId item, Byte stufe) {
+const JeRohstoff<FixedPoint>& Abzug(ItemId item, Byte stufe) {
     return kPreise[item][stufe].Abzug;
 }
 
 std::string Kostentext(const Kosten& kosten) {
-    return "Kosten:  Met: " + Ganztext(kosten[Rohstoff::Metall]) +
-           "  Kris: " + Ganztext(kosten[Rohstoff::Kristall]) +
-           "  Deut: " + Ganztext(kosten[Rohstoff::Deuterium]);
+    return "Kosten:  Met: " + WholeText(kosten[Rohstoff::Metall]) +
+           "  Kris: " + WholeText(kosten[Rohstoff::Kristall]) +
+           "  Deut: " + WholeText(kosten[Rohstoff::Deuterium]);
 }
 
 }  // namespace tarvelin

@@ -13,7 +13,7 @@ namespace tarvelin {
 [[nodiscard]] const Kosten& Preis(ItemId item, Byte stufe);
 
 /// The same as it goes off the stocks.
-[[nodiscard]] const JeRohstoff<Festkomma>& Abzug(ItemId item, Byte stufe);
+[[nodiscard]] const JeRohstoff<FixedPoint>& Abzug(ItemId item, Byte stufe);
 
 /// "Kosten:  Met: 60  Kris: 15  Deut: 0".
 [[nodiscard]] std::string Kostentext(const Kosten& kosten);

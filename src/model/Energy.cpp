@@ -27,18 +27,18 @@ double HochEinsKommaEins(Byte stufe) {
     return kPotenzen[stufe];
 }
 
-Festkomma Kraftwerksertrag(Byte stufe) {
+FixedPoint Kraftwerksertrag(Byte stufe) {
     constexpr double kEnergieJeStufe = 20;
-    return Festkomma::AusGanzzahl(
-        Rundung::floor(kEnergieJeStufe * stufe * HochEinsKommaEins(stufe)));
+    return FixedPoint::FromWhole(
+        Rounding::Floor(kEnergieJeStufe * stufe * HochEinsKommaEins(stufe)));
 }
 
 // The floor acts on the product, so that fractions of the satellites add up before it.
-Festkomma Satellitenertrag(Byte anzahl, Integer temperatur) {
+FixedPoint Satellitenertrag(Byte anzahl, Integer temperatur) {
     constexpr double kGradJeEnergie = 4;
     constexpr double kEnergieBeiNullGrad = 20;
     const double jeSatellit = temperatur / kGradJeEnergie + kEnergieBeiNullGrad;
-    return Festkomma::AusGanzzahl(Rundung::floor(jeSatellit * anzahl));
+    return FixedPoint::FromWhole(Rounding::Floor(jeSatellit * anzahl));
 }
 
 }  // namespace tarvelin

@@ -9,10 +9,10 @@ namespace tarvelin {
 [[nodiscard]] double HochEinsKommaEins(Byte stufe);
 
 /// Energy that the solar power plant delivers at a level, a whole number.
-[[nodiscard]] Festkomma Kraftwerksertrag(Byte stufe);
+[[nodiscard]] FixedPoint Kraftwerksertrag(Byte stufe);
 
 /// Energy that a number of satellites delivers at the planet's temperature in degrees, a whole
 /// number; negative in great cold.
-[[nodiscard]] Festkomma Satellitenertrag(Byte anzahl, Integer temperatur);
+[[nodiscard]] FixedPoint Satellitenertrag(Byte anzahl, Integer temperatur);
 
 }  // namespace tarvelin

@@ -20,15 +20,15 @@ struct Spielstand {
     /// From when on each order queue is free again; 0 for none.
     JeSchlange<Moment> FertigZeit{};
 
-    JeRohstoff<Festkomma> Vorrat{};
-    JeRohstoff<Festkomma> ProStunde{};
+    JeRohstoff<FixedPoint> Vorrat{};
+    JeRohstoff<FixedPoint> ProStunde{};
     /// The same rates, as waits are worked out from them.
     JeRohstoff<double> ProSekunde{};
     Minenfaktoren Minenfaktor = kVolleFaktoren;
 
     /// Share of the mines' energy need that is met, at most 1. Cold satellites can make it
     /// negative.
-    Festkomma ProdFaktor;
+    FixedPoint ProdFaktor;
     Long EnergieProduktion = 0;
     Long EnergieVerbrauch = 0;
     /// Whether a level of the mines, power plant or satellites or a factor of the mines has changed

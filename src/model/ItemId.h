@@ -34,16 +34,16 @@ enum class ItemId : std::uint8_t {
     Anzahl,
 };
 
-inline constexpr std::size_t kItemAnzahl = Index(ItemId::Anzahl);
+inline constexpr std::size_t kItemAnzahl = IndexOf(ItemId::Anzahl);
 
 template <class T>
-using JeItem = Je<ItemId, T>;
+using JeItem = EnumArray<ItemId, T>;
 
 /// The order queues.
 enum class Schlange : std::uint8_t { Gebaeude, Werft, Forschung, Keine, Anzahl };
 
 template <class T>
-using JeSchlange = Je<Schlange, T>;
+using JeSchlange = EnumArray<Schlange, T>;
 
 /// Whether a table has the row of each item, in the order of the items.
 template <class Tabelle>

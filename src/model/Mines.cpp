@@ -58,14 +58,14 @@ double EnergiebedarfDerListe(Rohstoff mine, Byte stufe, Byte faktor) {
 // The order of the operations is part of the result. The base income stands inside the floor,
 // untouched by the energy balance and the mine's factor; the speed factor doubles what the floor
 // leaves.
-Festkomma Minenertrag(Rohstoff mine, Byte stufe, Byte faktor, Festkomma prodFaktor,
-                      const Startbedingungen& bedingungen) {
+FixedPoint Minenertrag(Rohstoff mine, Byte stufe, Byte faktor, FixedPoint prodFaktor,
+                       const Startbedingungen& bedingungen) {
     const double ertrag = ((kKennzahlen[mine].A * stufe) * HochEinsKommaEins(stufe) *
                            Temperaturfaktor(mine, bedingungen.Temperatur)) *
-                          prodFaktor.AlsDouble();
+                          prodFaktor.ToDouble();
     const auto proStunde =
-        Rundung::floor(static_cast<double>(AlsAnteil(faktor)) * ertrag + kKennzahlen[mine].B);
-    return Festkomma::AusGanzzahl(proStunde) * bedingungen.Speedfaktor;
+        Rounding::Floor(static_cast<double>(AlsAnteil(faktor)) * ertrag + kKennzahlen[mine].B);
+    return FixedPoint::FromWhole(proStunde) * bedingungen.Speedfaktor;
 }
 
 }  // namespace tarvelin

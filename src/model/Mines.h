@@ -21,7 +21,7 @@ inline constexpr JeRohstoff<ItemId> kMinen{{ItemId::MetMine, ItemId::KrisMine, I
 [[nodiscard]] double EnergiebedarfDerListe(Rohstoff mine, Byte stufe, Byte faktor);
 
 /// Units per hour, a whole number, with this share of the mines' energy need met.
-[[nodiscard]] Festkomma Minenertrag(Rohstoff mine, Byte stufe, Byte faktor, Festkomma prodFaktor,
-                                    const Startbedingungen& bedingungen);
+[[nodiscard]] FixedPoint Minenertrag(Rohstoff mine, Byte stufe, Byte faktor, FixedPoint prodFaktor,
+                                     const Startbedingungen& bedingungen);
 
 }  // namespace tarvelin

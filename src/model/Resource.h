@@ -14,7 +14,7 @@ enum class Rohstoff : std::uint8_t { Metall, Kristall, Deuterium, Anzahl };
 inline constexpr std::array kRohstoffe{Rohstoff::Metall, Rohstoff::Kristall, Rohstoff::Deuterium};
 
 template <class T>
-using JeRohstoff = Je<Rohstoff, T>;
+using JeRohstoff = EnumArray<Rohstoff, T>;
 
 /// For each resource in its turn; without a loop, as each event of a run does this several times.
 template <class Tat>

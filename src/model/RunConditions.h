@@ -18,11 +18,11 @@ struct Startbedingungen {
     /// Seconds that the player gives himself for each click.
     Long KlickPuffer = 0;
     /// When the universe started: the moment 0 of the clock.
-    Zeitpunkt StartDate{};
+    DateTime StartDate{};
     /// The sleep windows, in the order of the table.
     std::vector<cSchlafzeit> Schlafzeiten{};
 
-    [[nodiscard]] Zeitpunkt Uhrzeit(Moment moment) const { return StartDate + moment.Sekunden(); }
+    [[nodiscard]] DateTime Uhrzeit(Moment moment) const { return StartDate + moment.Sekunden(); }
 };
 
 }  // namespace tarvelin

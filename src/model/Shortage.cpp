@@ -34,7 +34,7 @@ std::string Verzoegerung::Text() const {
         case Art::Keine:
             return "Keine Verzögerung wegen der Ressourcen!";
         default:
-            return "Es fehlten: " + Ganztext(std::floor(Fehlmenge)) +
+            return "Es fehlten: " + WholeText(std::floor(Fehlmenge)) +
                    std::string(Rohstofftext(Grund));
     }
 }

@@ -23,11 +23,11 @@ class Moment {
     [[nodiscard]] constexpr Long Sekunden() const { return m_sekunden; }
 
     friend constexpr Moment operator+(Moment moment, std::int64_t sekunden) {
-        return Moment(LongSumme(moment.m_sekunden, sekunden));
+        return Moment(LongSum(moment.m_sekunden, sekunden));
     }
     /// Seconds from `b` to `a`.
     friend constexpr Long operator-(Moment a, Moment b) {
-        return LongSumme(a.m_sekunden, -std::int64_t{b.m_sekunden});
+        return LongSum(a.m_sekunden, -std::int64_t{b.m_sekunden});
     }
     friend constexpr auto operator<=>(Moment, Moment) = default;
 

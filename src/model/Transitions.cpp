@@ -17,39 +17,39 @@ void FrischeErtraegeAuf(Spielstand& stand, const Startbedingungen& bedingungen) 
     JedenRohstoff([&](Rohstoff r) {
         stand.ProStunde[r] = Minenertrag(r, stand.Stufen[kMinen[r]], stand.Minenfaktor[r],
                                          stand.ProdFaktor, bedingungen);
-        stand.ProSekunde[r] = stand.ProStunde[r].AlsDouble() / kSekundenJeStunde;
+        stand.ProSekunde[r] = stand.ProStunde[r].ToDouble() / kSekundenJeStunde;
     });
 }
 
 /// What a rate yields: divided in floating point, half to even at the fourth decimal.
-Festkomma Ertrag(Festkomma proStunde, Long sekunden) {
+FixedPoint Ertrag(FixedPoint proStunde, Long sekunden) {
     constexpr std::uint64_t kStunde = 3600;
     constexpr std::uint64_t kSicher = kStunde << 38U;
-    const Festkomma stundenfach = proStunde * sekunden;
+    const FixedPoint stundenfach = proStunde * sekunden;
     // The floating point quotient is off by less than 3 parts in 2^53, here 0.0001 at most. Only at
     // a half, or for more than that, can this be seen; all else is told by whole numbers.
-    const auto n = static_cast<std::uint64_t>(stundenfach.Rohwert());
+    const auto n = static_cast<std::uint64_t>(stundenfach.Raw());
     const std::uint64_t halbe = 2 * n + kStunde;
     const std::uint64_t ganze = halbe / (2 * kStunde);
     if (n < kSicher && halbe != ganze * (2 * kStunde)) [[likely]] {
-        return Festkomma::AusRohwert(static_cast<std::int64_t>(ganze));
+        return FixedPoint::FromRaw(static_cast<std::int64_t>(ganze));
     }
-    return Festkomma::AusDouble(stundenfach.AlsDouble() / kSekundenJeStunde);
+    return FixedPoint::FromDouble(stundenfach.ToDouble() / kSekundenJeStunde);
 }
 
 }  // namespace
 
 Spielstand Anfang(const Startbedingungen& bedingungen) {
-    constexpr Festkomma kStartvorrat = Festkomma::AusGanzzahl(500);
+    constexpr FixedPoint kStartvorrat = FixedPoint::FromWhole(500);
     Spielstand stand;
-    stand.Vorrat = {{kStartvorrat, kStartvorrat, Festkomma()}};
+    stand.Vorrat = {{kStartvorrat, kStartvorrat, FixedPoint()}};
     FrischeErtraegeAuf(stand, bedingungen);
     return stand;
 }
 
 void BeginneSchritt(const Itemzeile& zeile, Spielstand& stand) {
     const Kosten& preis = Preis(zeile.Item, stand.Stufen[zeile.Item]);
-    const JeRohstoff<Festkomma>& abzug = Abzug(zeile.Item, stand.Stufen[zeile.Item]);
+    const JeRohstoff<FixedPoint>& abzug = Abzug(zeile.Item, stand.Stufen[zeile.Item]);
     stand.ImAusbau[zeile.Besonders.Bedient] = true;
     double verbaut = stand.VerbauteRessourcen;
     JedenRohstoff([&](Rohstoff r) {
@@ -61,7 +61,7 @@ void BeginneSchritt(const Itemzeile& zeile, Spielstand& stand) {
 
 void BeendeSchritt(const Itemzeile& zeile, Spielstand& stand) {
     stand.ImAusbau[zeile.Besonders.Bedient] = false;
-    stand.Stufen[zeile.Item] = Saettige<Byte>(stand.Stufen[zeile.Item] + 1);
+    stand.Stufen[zeile.Item] = Saturate<Byte>(stand.Stufen[zeile.Item] + 1);
     stand.BilanzVeraltet |= zeile.Besonders.Energie != Energierolle::Keine;
 }
 
@@ -83,13 +83,13 @@ void EnergieBilanz(Spielstand& stand, const Startbedingungen& bedingungen) {
     stand.EnergieProduktion =
         HalfEvenLong((Satellitenertrag(stand.Stufen[ItemId::Solsats], bedingungen.Temperatur) +
                       Kraftwerksertrag(stand.Stufen[ItemId::SKW]))
-                         .AlsDouble());
-    constexpr Festkomma kVoll = Festkomma::AusGanzzahl(1);
+                         .ToDouble());
+    constexpr FixedPoint kVoll = FixedPoint::FromWhole(1);
     stand.ProdFaktor =
         stand.EnergieVerbrauch == 0
             ? kVoll
-            : std::min(kVoll, Festkomma::AusDouble(static_cast<double>(stand.EnergieProduktion) /
-                                                   stand.EnergieVerbrauch));
+            : std::min(kVoll, FixedPoint::FromDouble(static_cast<double>(stand.EnergieProduktion) /
+                                                     stand.EnergieVerbrauch));
     FrischeErtraegeAuf(stand, bedingungen);
 }
 

@@ -30,7 +30,7 @@ Sperre Deuteriumtor(Deuteriumbedarf bedarf, const Spielstand& stand) {
                    ? Sperre::OhneDeuteriumQuelle
                    : Sperre::Offen;
     }
-    if (stand.ProStunde[Rohstoff::Deuterium] != Festkomma()) {
+    if (stand.ProStunde[Rohstoff::Deuterium] != FixedPoint()) {
         return Sperre::Offen;
     }
     return bedarf == Deuteriumbedarf::Produktion ? Sperre::Voraussetzung : Sperre::Vorerst;
@@ -71,25 +71,25 @@ Long SekundenBis(double fehlt, double proSekunde) {
     if (proSekunde <= 0) {
         return kOhneEnde;
     }
-    return Saettige<Long>(Rundung::cut(1 + fehlt / proSekunde));
+    return Saturate<Long>(Rounding::Cut(1 + fehlt / proSekunde));
 }
 
 /// Whether a stock is enough, told by whole numbers. Where they don't tell it surely, false.
-bool IstSicherGenug(Festkomma vorrat, Festkomma abzug) {
-    constexpr Festkomma kGenau = Festkomma::AusGanzzahl(std::int64_t{1} << 38U);
+bool IstSicherGenug(FixedPoint vorrat, FixedPoint abzug) {
+    constexpr FixedPoint kGenau = FixedPoint::FromWhole(std::int64_t{1} << 38U);
     return abzug <= vorrat && abzug < kGenau;
 }
 
 /// The longest wait for a resource; on a tie the earlier resource keeps the reason: metal before
 /// crystal before deuterium.
 Mangel LaengsterMangel(const Itemzeile& zeile, const Kosten& preis, const Spielstand& stand) {
-    const JeRohstoff<Festkomma>& abzug = Abzug(zeile.Item, stand.Stufen[zeile.Item]);
+    const JeRohstoff<FixedPoint>& abzug = Abzug(zeile.Item, stand.Stufen[zeile.Item]);
     Mangel laengster;
     JedenRohstoff([&](Rohstoff r) __attribute__((always_inline)) {
         if (IstSicherGenug(stand.Vorrat[r], abzug[r])) {
             return;
         }
-        const double fehlt = preis[r] - stand.Vorrat[r].AlsDouble();
+        const double fehlt = preis[r] - stand.Vorrat[r].ToDouble();
         if (fehlt <= 0) {
             return;
         }

@@ -3,7 +3,7 @@
 
 namespace tarvelin {
 
-void cSchlafzeit::Init(Zeitpunkt theStartzeit, Zeitpunkt theEndzeit) {
+void cSchlafzeit::Init(DateTime theStartzeit, DateTime theEndzeit) {
     m_startzeit = theStartzeit;
     m_endzeit = theEndzeit;
 }

@@ -9,30 +9,30 @@ namespace tarvelin {
 class cSchlafzeit {
   public:
     cSchlafzeit() = default;
-    cSchlafzeit(Zeitpunkt theStartzeit, Zeitpunkt theEndzeit) { Init(theStartzeit, theEndzeit); }
+    cSchlafzeit(DateTime theStartzeit, DateTime theEndzeit) { Init(theStartzeit, theEndzeit); }
 
-    void Init(Zeitpunkt theStartzeit, Zeitpunkt theEndzeit);
+    void Init(DateTime theStartzeit, DateTime theEndzeit);
 
-    [[nodiscard]] bool CheckifInside(Zeitpunkt theCheckzeit) const {
+    [[nodiscard]] bool CheckifInside(DateTime theCheckzeit) const {
         return IstSpaeter(m_startzeit, theCheckzeit) && !IstSpaeter(m_endzeit, theCheckzeit);
     }
 
     /// Seconds from a moment to the window's end; negative behind the end.
-    [[nodiscard]] Long SecondsFrom_Insert_ToEnd(Zeitpunkt theInsertedDate) const {
+    [[nodiscard]] Long SecondsFrom_Insert_ToEnd(DateTime theInsertedDate) const {
         return m_endzeit - theInsertedDate;
     }
 
-    [[nodiscard]] Zeitpunkt Beginn() const { return m_startzeit; }
-    [[nodiscard]] Zeitpunkt Ende() const { return m_endzeit; }
+    [[nodiscard]] DateTime Beginn() const { return m_startzeit; }
+    [[nodiscard]] DateTime Ende() const { return m_endzeit; }
 
     /// Whether `zweiter` lies at least one second behind `erster`.
-    [[nodiscard]] static bool IstSpaeter(Zeitpunkt erster, Zeitpunkt zweiter) {
+    [[nodiscard]] static bool IstSpaeter(DateTime erster, DateTime zweiter) {
         return zweiter > erster;
     }
 
   private:
-    Zeitpunkt m_startzeit;
-    Zeitpunkt m_endzeit;
+    DateTime m_startzeit;
+    DateTime m_endzeit;
 };
 
 }  // namespace tarvelin

@@ -55,9 +55,9 @@ std::string Geschuetzt(std::string_view text) {
 }
 
 /// "20061118T123000".
-std::string Stempel(Zeitpunkt um) {
-    const std::string datum = Datumtext(um);
-    const std::string uhrzeit = Uhrzeittext(um);
+std::string Stempel(DateTime um) {
+    const std::string datum = DateText(um);
+    const std::string uhrzeit = TimeOfDayText(um);
     return datum.substr(6) + datum.substr(3, 2) + datum.substr(0, 2) + "T" + uhrzeit.substr(0, 2) +
            uhrzeit.substr(3, 2) + uhrzeit.substr(6, 2);
 }
@@ -65,14 +65,14 @@ std::string Stempel(Zeitpunkt um) {
 std::string Stempel(std::chrono::sys_seconds stand) {
     // Days between the two calendars' first ones.
     constexpr std::int64_t kVersatz = 25569 * std::int64_t{86400};
-    return Stempel(Zeitpunkt(stand.time_since_epoch().count() + kVersatz)) + "Z";
+    return Stempel(DateTime(stand.time_since_epoch().count() + kVersatz)) + "Z";
 }
 
 /// Orders of one entry.
 using Eintrag = std::vector<const Startereignis*>;
 
 std::vector<Eintrag> Eintraege(const Ablauf& ablauf) {
-    constexpr Zeitpunkt kLetzter(std::int64_t{2958466} * 86400);
+    constexpr DateTime kLetzter(std::int64_t{2958466} * 86400);
     std::vector<const Startereignis*> starts;
     for (const Startereignis& start : ablauf.Starts) {
         if (ablauf.Bedingungen.Uhrzeit(start.Start) < kLetzter) {
@@ -95,7 +95,8 @@ std::string Beschreibung(const Ablauf& ablauf, const Eintrag& eintrag) {
     std::string text;
     for (const Startereignis* const start : eintrag) {
         text += text.empty() ? "" : "\n";
-        text += Uhrzeittext(ablauf.Bedingungen.Uhrzeit(start->Start)) + " " + Auftragstext(*start);
+        text +=
+            TimeOfDayText(ablauf.Bedingungen.Uhrzeit(start->Start)) + " " + Auftragstext(*start);
         if (start->Order.Was == Auftrag::Art::Item) {
             text +=
                 "\n" + Kostentext(Preis(start->Order.Item, static_cast<Byte>(start->Nummer - 1)));

@@ -47,7 +47,7 @@ bool Konfiguration::IstAn(const Konfigurationskey& key) const {
 
 Byte Konfiguration::Skinmodus() const {
     constexpr std::int64_t kHoechster = 255;
-    return static_cast<Byte>(LiesGanzzahl(Lies(kMode), 0, kHoechster).value_or(1));
+    return static_cast<Byte>(ParseWholeNumber(Lies(kMode), 0, kHoechster).value_or(1));
 }
 
 std::filesystem::path Konfiguration::Alertsound() const {

@@ -12,10 +12,10 @@ namespace tarvelin {
 namespace {
 
 constexpr std::string_view kZeilenende = "\r\n";
-constexpr std::array<std::pair<std::string_view, std::optional<Bytefolge>>, 3> kBytemarken{
+constexpr std::array<std::pair<std::string_view, std::optional<ByteOrder>>, 3> kBytemarken{
     {{"\xEF\xBB\xBF", std::nullopt},
-     {"\xFF\xFE", Bytefolge::KleinesEndeVorn},
-     {"\xFE\xFF", Bytefolge::GrossesEndeVorn}}};
+     {"\xFF\xFE", ByteOrder::LittleEndian},
+     {"\xFE\xFF", ByteOrder::BigEndian}}};
 constexpr std::size_t kHoechstlaenge = 255;
 
 std::string Klein(std::string_view text) {
@@ -114,7 +114,7 @@ Profil::Profil(std::string_view bytes) : m_abschnitte(1) {
         }
     }
     bytes.remove_prefix(m_bytemarke.size());
-    const std::string text = m_utf16 ? AusUtf16(bytes, *m_utf16) : std::string();
+    const std::string text = m_utf16 ? FromUtf16(bytes, *m_utf16) : std::string();
     std::string_view rest = m_utf16 ? text : bytes;
     while (!rest.empty()) {
         NimmZeileAuf(NimmZeile(rest));
@@ -134,11 +134,11 @@ std::optional<Profil> Profil::LadeOderLeer(const std::filesystem::path& datei,
 std::string Profil::Lies(std::string_view section, std::string_view key,
                          std::string_view standard) const {
     if (const Abschnitt* const abschnitt = Suche(section)) {
-        const auto stelle = abschnitt->Stellen.find(Klein(Nach1252(key)));
+        const auto stelle = abschnitt->Stellen.find(Klein(To1252(key)));
         if (stelle != abschnitt->Stellen.end()) {
             const auto zeile = Schluesselzeile(Inhalt(abschnitt->Zeilen[stelle->second]));
             const std::string wert = Im1252(OhneAnfuehrung(zeile->second));
-            return Aus1252(BisNul(std::string_view(wert).substr(0, kHoechstlaenge)));
+            return From1252(BisNul(std::string_view(wert).substr(0, kHoechstlaenge)));
         }
     }
     return std::string(GekuerzterStandard(standard));
@@ -150,7 +150,7 @@ std::optional<std::size_t> Profil::Zeilennummer(std::string_view section,
     if (gesuchter == nullptr) {
         return std::nullopt;
     }
-    const auto stelle = gesuchter->Stellen.find(Klein(Nach1252(key)));
+    const auto stelle = gesuchter->Stellen.find(Klein(To1252(key)));
     if (stelle == gesuchter->Stellen.end()) {
         return std::nullopt;
     }
@@ -167,10 +167,10 @@ std::optional<std::size_t> Profil::Zeilennummer(std::string_view section,
 void Profil::Schreibe(std::string_view section, std::string_view key, std::string_view value) {
     Abschnitt& abschnitt = SucheOderMache(section);
     auto& zeilen = abschnitt.Zeilen;
-    const std::string name = Nach1252(key);
+    const std::string name = To1252(key);
     // A value that went on in another line would be one of its own there.
     const auto eineZeile = value.substr(0, value.find_first_of(std::string_view("\r\n\0", 3)));
-    const std::string rest = "=" + AlsZeile(Nach1252(eineZeile)) + std::string(kZeilenende);
+    const std::string rest = "=" + AlsZeile(To1252(eineZeile)) + std::string(kZeilenende);
     const auto stelle = abschnitt.Stellen.find(Klein(name));
     if (stelle != abschnitt.Stellen.end()) {
         std::string& zeile = zeilen[stelle->second];
@@ -194,7 +194,7 @@ std::string Profil::Bytes() const {
             text += zeile;
         }
     }
-    return m_bytemarke + (m_utf16 ? NachUtf16(text, *m_utf16) : text);
+    return m_bytemarke + (m_utf16 ? ToUtf16(text, *m_utf16) : text);
 }
 
 void Profil::NimmZeileAuf(std::string_view zeile) {
@@ -218,12 +218,12 @@ void Profil::BeginneAbschnitt(std::string_view name) {
 }
 
 const Profil::Abschnitt* Profil::Suche(std::string_view section) const {
-    const auto ort = m_namen.find(Klein(Nach1252(section)));
+    const auto ort = m_namen.find(Klein(To1252(section)));
     return ort == m_namen.end() ? nullptr : &m_abschnitte[ort->second];
 }
 
 Profil::Abschnitt& Profil::SucheOderMache(std::string_view section) {
-    const std::string name = Nach1252(section);
+    const std::string name = To1252(section);
     const auto ort = m_namen.find(Klein(name));
     if (ort != m_namen.end()) {
         return m_abschnitte[ort->second];
@@ -237,11 +237,11 @@ Profil::Abschnitt& Profil::SucheOderMache(std::string_view section) {
 }
 
 std::string Profil::Im1252(std::string_view text) const {
-    return m_utf16 ? Nach1252(text) : std::string(text);
+    return m_utf16 ? To1252(text) : std::string(text);
 }
 
 std::string Profil::AlsZeile(std::string_view im1252) const {
-    return m_utf16 ? Aus1252(im1252) : std::string(im1252);
+    return m_utf16 ? From1252(im1252) : std::string(im1252);
 }
 
 }  // namespace tarvelin

@@ -59,7 +59,8 @@ class Profil {
   private:
     /// A run of lines: the first section of a name, or lines that no read reaches.
     struct Abschnitt {
-        /// With their line ends, the section line first. As in the file, or as `AusUtf16` gives it.
+        /// With their line ends, the section line first. As in the file, or as `FromUtf16` gives
+        /// it.
         std::vector<std::string> Zeilen;
         /// Where the first line of each key stands; the keys in small letters.
         std::unordered_map<std::string, std::size_t> Stellen;
@@ -77,7 +78,7 @@ class Profil {
     [[nodiscard]] std::string AlsZeile(std::string_view im1252) const;
 
     std::string m_bytemarke;
-    std::optional<Bytefolge> m_utf16;
+    std::optional<ByteOrder> m_utf16;
     /// In the order of the file.
     std::vector<Abschnitt> m_abschnitte;
     /// Which of them is the first of a name; the names in small letters.

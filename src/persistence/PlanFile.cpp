@@ -93,7 +93,7 @@ class Leser {
             parameter.*textkey.Text = m_profil.Lies(kEinstellungen, textkey.Key, "");
         }
         AendereTempMax(parameter, m_profil.Lies(kEinstellungen, "TempMax", ""));
-        const auto showDesc = LiesZahl(m_profil.Lies(kEinstellungen, "ShowDesc", ""));
+        const auto showDesc = ParseNumber(m_profil.Lies(kEinstellungen, "ShowDesc", ""));
         m_plan.ShowDesc = showDesc ? *showDesc != 0 : m_plan.ShowDesc;
         return showDesc || Scheitere(kEinstellungen, "ShowDesc", "ist keine Zahl");
     }
@@ -110,8 +110,8 @@ class Leser {
     }
 
     bool LiesBauliste() {
-        const auto anzahl = LiesGanzzahl(m_profil.Lies(kBauliste, kItemCount, ""), 0,
-                                         std::numeric_limits<std::int64_t>::max());
+        const auto anzahl = ParseWholeNumber(m_profil.Lies(kBauliste, kItemCount, ""), 0,
+                                             std::numeric_limits<std::int64_t>::max());
         const std::string erwartet =
             "ist keine Zahl von 0 bis " + std::to_string(Auftragsliste::kHoechstzahl);
         if (!anzahl) {
@@ -129,7 +129,7 @@ class Leser {
 
     std::optional<std::int64_t> LiesZahlVon0(std::string_view section, std::string_view key,
                                              std::int64_t bis) {
-        const auto zahl = LiesGanzzahl(m_profil.Lies(section, key, ""), 0, bis);
+        const auto zahl = ParseWholeNumber(m_profil.Lies(section, key, ""), 0, bis);
         if (!zahl) {
             static_cast<void>(
                 Scheitere(section, key, "ist keine Zahl von 0 bis " + std::to_string(bis)));
@@ -159,17 +159,17 @@ class Leser {
 
 }  // namespace
 
-Meldung Ladefehler() {
-    return {.Text = "Die Bauliste konnte nicht geladen werden...", .Titel = kAusnahmefehler};
+Message Ladefehler() {
+    return {.text = "Die Bauliste konnte nicht geladen werden...", .title = kBadInputTitle};
 }
 
-Meldung Speicherfehler() {
-    return {.Text = "Die Bauliste konnte nicht gespeichert werden...", .Titel = kAusnahmefehler};
+Message Speicherfehler() {
+    return {.text = "Die Bauliste konnte nicht gespeichert werden...", .title = kBadInputTitle};
 }
 
 bool HatZeilen(const Profil& profil) {
-    return LiesGanzzahl(profil.Lies(kBauliste, kItemCount, ""), 1,
-                        std::numeric_limits<std::int64_t>::max())
+    return ParseWholeNumber(profil.Lies(kBauliste, kItemCount, ""), 1,
+                            std::numeric_limits<std::int64_t>::max())
         .has_value();
 }
 
@@ -206,11 +206,11 @@ bool SaveBauliste(const std::filesystem::path& File, const Plan& plan, const Dat
 }
 
 bool LadePlan(const Profil& profil, Plan& plan, const Startbedingungen& bedingungen,
-              Meldungsausgabe& meldungen) {
+              MessageSink& meldungen) {
     plan.Liste.Clear();
     const bool brauchbar = Leser(profil, plan, bedingungen).Lies();
     if (!brauchbar) {
-        meldungen.Zeige(Ladefehler());
+        meldungen.Show(Ladefehler());
     }
     return brauchbar;
 }

@@ -23,8 +23,8 @@ void SchreibePlan(const Plan& plan, Profil& profil);
 [[nodiscard]] bool HatZeilen(const Profil& profil);
 
 /// What a player reads when a file holds no plan, and when his plan can't be written into one.
-[[nodiscard]] Meldung Ladefehler();
-[[nodiscard]] Meldung Speicherfehler();
+[[nodiscard]] Message Ladefehler();
+[[nodiscard]] Message Speicherfehler();
 
 /// What keeps a profile from being a plan, for people: "Zeile 12, KlickPuffer: -5 ist keine Zahl
 /// von 0 bis 600". Empty for one that is a plan.
@@ -38,7 +38,7 @@ void SchreibePlan(const Plan& plan, Profil& profil);
 /// Rows are replayed without a look at the game's rules; their factor texts follow the temperature
 /// of `bedingungen`, those of the last run or reset.
 [[nodiscard]] bool LadePlan(const Profil& profil, Plan& plan, const Startbedingungen& bedingungen,
-                            Meldungsausgabe& meldungen);
+                            MessageSink& meldungen);
 
 /// The window's caption for a loaded plan.
 [[nodiscard]] std::string FenstertitelMit(const std::filesystem::path& File);

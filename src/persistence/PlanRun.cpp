@@ -24,9 +24,9 @@ Planlauf::Planlauf(const std::filesystem::path& datei)
     : Planlauf(Dateiname(datei), Profil::Lade(datei)) {}
 
 Planlauf::Planlauf(std::string name, const std::optional<Profil>& profil) : Name(std::move(name)) {
-    Meldungsliste meldungen(Meldungen);
+    MessageCollector meldungen(Meldungen);
     if (!profil) {
-        meldungen.Zeige(Ladefehler());
+        meldungen.Show(Ladefehler());
         return;
     }
     Geladen = LadePlan(*profil, Plan, Lauf.Bedingungen, meldungen);
@@ -34,8 +34,8 @@ Planlauf::Planlauf(std::string name, const std::optional<Profil>& profil) : Name
         return;
     }
     const auto bedingungen = LiesStartbedingungen(Plan);
-    if (const auto* const absage = std::get_if<Meldung>(&bedingungen)) {
-        meldungen.Zeige(*absage);
+    if (const auto* const absage = std::get_if<Message>(&bedingungen)) {
+        meldungen.Show(*absage);
         return;
     }
     Lauf.Beginne(std::get<Startbedingungen>(bedingungen));

@@ -25,7 +25,7 @@ struct Planlauf {
     bool Geladen = false;
     /// The run got past its checks of the inputs.
     bool Gelaufen = false;
-    std::vector<Meldung> Meldungen;
+    std::vector<Message> Meldungen;
 
     /// The same run once more with all that charts and comparisons show; `Gelaufen` holds.
     [[nodiscard]] Ablauf Abgespielt() const;

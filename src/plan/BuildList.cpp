@@ -36,11 +36,11 @@ std::string Listentext(const Auftragsliste& liste) {
 
 }  // namespace
 
-std::optional<Meldung> Bauliste::AddItem(ItemId item, const Startbedingungen& bedingungen) {
+std::optional<Message> Bauliste::AddItem(ItemId item, const Startbedingungen& bedingungen) {
     return HaengeAn(Auftrag::Fuer(item), ZeileVon(item).Code, bedingungen);
 }
 
-std::optional<Meldung> Bauliste::AddProdaenderungsevent(const Minenfaktoren& faktoren,
+std::optional<Message> Bauliste::AddProdaenderungsevent(const Minenfaktoren& faktoren,
                                                         const Startbedingungen& bedingungen) {
     const Auftrag auftrag = Auftrag::Fuer(faktoren);
     return HaengeAn(auftrag, auftrag.Tag(), bedingungen);
@@ -52,7 +52,7 @@ bool Bauliste::Replay(std::string_view tag, const Startbedingungen& bedingungen)
 }
 
 // The factor text sees the counters with the row done.
-std::optional<Meldung> Bauliste::HaengeAn(const Auftrag& auftrag, std::string_view tag,
+std::optional<Message> Bauliste::HaengeAn(const Auftrag& auftrag, std::string_view tag,
                                           const Startbedingungen& bedingungen) {
     if (m_auftraege.IstVoll()) {
         return ListeVoll();
@@ -92,9 +92,9 @@ void Bauliste::Setze(const std::vector<std::string>& tags, const Startbedingunge
     }
 }
 
-Meldung ListeVoll() {
-    return {.Text = "Die Bauliste ist voll: mehr als 254 Einträge sind nicht möglich...",
-            .Titel = kAusnahmefehler};
+Message ListeVoll() {
+    return {.text = "Die Bauliste ist voll: mehr als 254 Einträge sind nicht möglich...",
+            .title = kBadInputTitle};
 }
 
 std::string GetProdfaktorText(const Auftragsliste& liste, const Startbedingungen& bedingungen) {
@@ -107,13 +107,13 @@ std::string GetProdfaktorText(const Auftragsliste& liste, const Startbedingungen
     const Long supply =
         HalfEvenLong((Satellitenertrag(liste.ListStufe(ItemId::Solsats), bedingungen.Temperatur) +
                       Kraftwerksertrag(liste.ListStufe(ItemId::SKW)))
-                         .AlsDouble());
+                         .ToDouble());
     constexpr int kStellen = 2;
     constexpr double kHundert = 100;
     const double anteil = need == 0 ? 1.0 : static_cast<double>(supply) / need;
-    const auto hundertstel = std::min(Rundung::half_even(anteil * kHundert), std::int64_t{100});
-    const Festkomma faktor = Festkomma::AusRohwert(hundertstel * (Festkomma::kEinheit / 100));
-    return PadDecimals(Dezimaltext(faktor), kStellen);
+    const auto hundertstel = std::min(Rounding::HalfEven(anteil * kHundert), std::int64_t{100});
+    const FixedPoint faktor = FixedPoint::FromRaw(hundertstel * (FixedPoint::kUnit / 100));
+    return PadDecimals(DecimalText(faktor), kStellen);
 }
 
 }  // namespace tarvelin

@@ -38,10 +38,10 @@ class Bauliste {
 
     /// Adds a row of an item. Nothing is checked against the game's rules. A message if the list is
     /// full; nothing changes then.
-    [[nodiscard]] std::optional<Meldung> AddItem(ItemId item, const Startbedingungen& bedingungen);
+    [[nodiscard]] std::optional<Message> AddItem(ItemId item, const Startbedingungen& bedingungen);
 
     /// Adds a production row. A message if the list is full; nothing changes then.
-    [[nodiscard]] std::optional<Meldung> AddProdaenderungsevent(
+    [[nodiscard]] std::optional<Message> AddProdaenderungsevent(
         const Minenfaktoren& faktoren, const Startbedingungen& bedingungen);
 
     /// Adds the row of a stored `Tag`, which is kept as it is. False if the `Tag` is unknown or the
@@ -60,7 +60,7 @@ class Bauliste {
     void Setze(const std::vector<std::string>& tags, const Startbedingungen& bedingungen);
 
   private:
-    std::optional<Meldung> HaengeAn(const Auftrag& auftrag, std::string_view tag,
+    std::optional<Message> HaengeAn(const Auftrag& auftrag, std::string_view tag,
                                     const Startbedingungen& bedingungen);
 
     Auftragsliste m_auftraege;
@@ -68,7 +68,7 @@ class Bauliste {
 };
 
 /// What is told of a row beyond the last that a list has room for.
-[[nodiscard]] Meldung ListeVoll();
+[[nodiscard]] Message ListeVoll();
 
 /// The production factor of a list as it stands, with two decimals: supply divided by need, at most
 /// "1,00".

@@ -15,13 +15,13 @@ namespace {
 /// What the step from `stufe` to the next level needs, at full production.
 std::string Bedarfstext(Rohstoff mine, Byte stufe) {
     const auto bedarf = [&](int s) {
-        return EnergiebedarfDerListe(mine, Saettige<Byte>(s), kVollerFaktor);
+        return EnergiebedarfDerListe(mine, Saturate<Byte>(s), kVollerFaktor);
     };
-    return "  |  Energie: -" + Ganztext(bedarf(stufe + 1) - bedarf(stufe));
+    return "  |  Energie: -" + WholeText(bedarf(stufe + 1) - bedarf(stufe));
 }
 
-std::string Ertragstext(Festkomma ertrag) {
-    return "  |  Energie: +" + Dezimaltext(ertrag);
+std::string Ertragstext(FixedPoint ertrag) {
+    return "  |  Energie: +" + DecimalText(ertrag);
 }
 
 std::string Energieanhang(ItemId item, Byte stufe, const Startbedingungen& bedingungen) {
@@ -31,7 +31,7 @@ std::string Energieanhang(ItemId item, Byte stufe, const Startbedingungen& bedin
         case Energierolle::Mine:
             return Bedarfstext(RohstoffDer(item), stufe);
         case Energierolle::Kraftwerk:
-            return Ertragstext(Kraftwerksertrag(Saettige<Byte>(stufe + 1)) -
+            return Ertragstext(Kraftwerksertrag(Saturate<Byte>(stufe + 1)) -
                                Kraftwerksertrag(stufe));
         case Energierolle::Satellit:
             return Ertragstext(Satellitenertrag(1, bedingungen.Temperatur));

@@ -105,7 +105,7 @@ std::optional<std::string> Umstellung::Einwand() const {
     Auftragsliste darueber;
     for (const Zeile& zeile : m_zeilen) {
         if (darueber.IstVoll()) {
-            return ListeVoll().Text;
+            return ListeVoll().text;
         }
         const Auftrag order = Auftrag::AusTag(zeile.Tag);
         const auto bruch = Regelbruch(order, darueber);

@@ -73,7 +73,7 @@ std::optional<Minenfaktoren> LiesMinenfaktoren(std::string_view tag) {
     Minenfaktoren faktoren{};
     for (std::size_t i = 0; i < faktoren.size(); ++i) {
         const auto wert =
-            LiesGanzzahl(GetToken(tag, static_cast<int>(i) + 2, ":"), 0, kVollerFaktor);
+            ParseWholeNumber(GetToken(tag, static_cast<int>(i) + 2, ":"), 0, kVollerFaktor);
         if (!wert) {
             return std::nullopt;
         }

@@ -8,17 +8,17 @@ Planstand StandVon(const Plan& plan) {
         .Parameter = plan.Parameter, .Tags = plan.Liste.Tags(), .Schlafzeiten = plan.Schlafzeiten};
 }
 
-std::variant<Startbedingungen, Meldung> LiesStartbedingungen(const Plan& plan) {
+std::variant<Startbedingungen, Message> LiesStartbedingungen(const Plan& plan) {
     if (plan.Liste.Auftraege().IstLeer()) {
-        return Meldung{.Text = "Die Bauliste ist leer...", .Titel = kAusnahmefehler};
+        return Message{.text = "Die Bauliste ist leer...", .title = kBadInputTitle};
     }
     const auto temperatur = LiesTemperatur(plan.Parameter);
     if (!temperatur) {
-        return Meldung{.Text = "Keine gültige Temperatur eingegeben...", .Titel = kAusnahmefehler};
+        return Message{.text = "Keine gültige Temperatur eingegeben...", .title = kBadInputTitle};
     }
     const auto start = ReadUniStartZeit(plan.Parameter);
     if (!start) {
-        return Meldung{.Text = "Kein gültiges Datum eingegeben...", .Titel = kAusnahmefehler};
+        return Message{.text = "Kein gültiges Datum eingegeben...", .title = kBadInputTitle};
     }
     return Startbedingungen{.Speedfaktor = plan.Parameter.Speedfaktor(),
                             .Temperatur = *temperatur,

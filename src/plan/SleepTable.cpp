@@ -10,31 +10,31 @@ namespace tarvelin {
 namespace {
 
 struct Zeitraum {
-    Zeitpunkt Start;
-    Zeitpunkt Ende;
+    DateTime Start;
+    DateTime Ende;
 };
 
-std::string Minutentext(Zeitpunkt zeitpunkt) {
+std::string Minutentext(DateTime zeitpunkt) {
     constexpr std::size_t kOhneSekunden = 16;
-    return Datumzeittext(zeitpunkt).substr(0, kOhneSekunden);
+    return DateTimeText(zeitpunkt).substr(0, kOhneSekunden);
 }
 
 std::optional<Zeitraum> LiesZeile(const SchlafzeitZeile& zeile) {
-    const auto start = LiesDatumzeit(zeile.Startzeit);
-    const auto ende = LiesDatumzeit(zeile.Endzeit);
+    const auto start = ParseDateTime(zeile.Startzeit);
+    const auto ende = ParseDateTime(zeile.Endzeit);
     if (!start || !ende) {
         return std::nullopt;
     }
     return Zeitraum{*start, *ende};
 }
 
-std::optional<Zeitpunkt> LiesStart(const Schlafeingabe& eingabe) {
-    return LiesDatumzeit(eingabe.Datum + " " + eingabe.StartStunden + ":" + eingabe.StartMinuten);
+std::optional<DateTime> LiesStart(const Schlafeingabe& eingabe) {
+    return ParseDateTime(eingabe.Datum + " " + eingabe.StartStunden + ":" + eingabe.StartMinuten);
 }
 
 std::optional<Long> LiesDauer(const Schlafeingabe& eingabe) {
-    const auto stunden = LiesZahl(eingabe.DauerStunden);
-    const auto minuten = LiesZahl(eingabe.DauerMinuten);
+    const auto stunden = ParseNumber(eingabe.DauerStunden);
+    const auto minuten = ParseNumber(eingabe.DauerMinuten);
     if (!stunden || !minuten) {
         return std::nullopt;
     }
@@ -42,10 +42,10 @@ std::optional<Long> LiesDauer(const Schlafeingabe& eingabe) {
 }
 
 bool Ueberschneiden(const Zeitraum& alt, const Zeitraum& neu) {
-    const auto nicht_spaeter = [](Zeitpunkt a, Zeitpunkt b) {
+    const auto nicht_spaeter = [](DateTime a, DateTime b) {
         return !cSchlafzeit::IstSpaeter(b, a);
     };
-    const auto im_alten = [&](Zeitpunkt zeitpunkt) {
+    const auto im_alten = [&](DateTime zeitpunkt) {
         return nicht_spaeter(alt.Start, zeitpunkt) && cSchlafzeit::IstSpaeter(zeitpunkt, alt.Ende);
     };
     const bool alter_im_neuen =
@@ -53,13 +53,13 @@ bool Ueberschneiden(const Zeitraum& alt, const Zeitraum& neu) {
     return im_alten(neu.Start) || im_alten(neu.Ende) || alter_im_neuen;
 }
 
-Meldung Eingabefehler(const char* text) {
-    return {.Text = text, .Titel = kAusnahmefehler};
+Message Eingabefehler(const char* text) {
+    return {.text = text, .title = kBadInputTitle};
 }
 
 }  // namespace
 
-std::optional<Meldung> AddSchlafzeit(const Schlafeingabe& eingabe, Schlaftabelle& tabelle) {
+std::optional<Message> AddSchlafzeit(const Schlafeingabe& eingabe, Schlaftabelle& tabelle) {
     const auto dauer = LiesDauer(eingabe);
     if (!dauer) {
         return Eingabefehler("Keine gültige Dauer eingegeben...");
@@ -86,10 +86,10 @@ std::string SchlafendeText(const Schlafeingabe& eingabe) {
     if (!start || !dauer) {
         return "Error";
     }
-    const Zeitpunkt ende = *start + *dauer;
-    const std::string uhrzeit = Uhrzeittext(ende);
+    const DateTime ende = *start + *dauer;
+    const std::string uhrzeit = TimeOfDayText(ende);
     constexpr std::size_t kOhneSekunden = 5;
-    return std::string(WochentagKurz(ende)) + ".  " + Datumtext(ende) + " " +
+    return std::string(WeekdayShort(ende)) + ".  " + DateText(ende) + " " +
            uhrzeit.substr(0, kOhneSekunden);
 }
 

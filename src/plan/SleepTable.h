@@ -36,7 +36,7 @@ struct Schlafeingabe {
 /// Adds the window that the inputs name at the end of the table. A message if the duration is no
 /// number, if the start is no date, or if the window meets one of the table; nothing is added then.
 /// Rows that are no dates meet nothing.
-[[nodiscard]] std::optional<Meldung> AddSchlafzeit(const Schlafeingabe& eingabe,
+[[nodiscard]] std::optional<Message> AddSchlafzeit(const Schlafeingabe& eingabe,
                                                    Schlaftabelle& tabelle);
 
 /// The end that `AddSchlafzeit` would enter, as "Sa.  18.11.2006 23:30"; "Error" for inputs that

@@ -15,9 +15,9 @@ constexpr double kTemperaturspanne = 40;
 /// Writes a number text moved by `abstand` into the other input of the link. Whether it did.
 bool SetzeVerschoben(const std::string& von, double abstand, std::string& nach) {
     constexpr int kStellen = 10;
-    const auto zahl = LiesZahl(von);
+    const auto zahl = ParseNumber(von);
     if (zahl) {
-        nach = Dezimaltext(*zahl + abstand, kStellen);
+        nach = DecimalText(*zahl + abstand, kStellen);
     }
     return zahl.has_value();
 }
@@ -29,17 +29,16 @@ std::string Startparameter::Datumstext() const {
            UniStartZeitStunden + ":" + UniStartZeitMinuten + ":00";
 }
 
-void SetzeStartdatum(Startparameter& parameter, Zeitpunkt tag) {
+void SetzeStartdatum(Startparameter& parameter, DateTime tag) {
     // "18.11.2006"
-    const std::string datum = Datumtext(tag);
+    const std::string datum = DateText(tag);
     parameter.UniStartZeitTag = datum.substr(0, 2);
     parameter.UniStartZeitMonat = datum.substr(3, 2);
     parameter.UniStartZeitJahr = datum.substr(6);
 }
 
-Wochentagsanzeige WochentagVon(Zeitpunkt tag) {
-    return {.Caption = std::string(WochentagKurz(tag)) + ".",
-            .Hint = std::string(WochentagLang(tag))};
+Wochentagsanzeige WochentagVon(DateTime tag) {
+    return {.Caption = std::string(WeekdayShort(tag)) + ".", .Hint = std::string(WeekdayLong(tag))};
 }
 
 Wochentagsanzeige RefreshWeekday(const Startparameter& parameter) {
@@ -47,8 +46,8 @@ Wochentagsanzeige RefreshWeekday(const Startparameter& parameter) {
     return datum ? WochentagVon(*datum) : Wochentagsanzeige{.Caption = "Err.", .Hint = ""};
 }
 
-std::optional<Zeitpunkt> ReadUniStartZeit(const Startparameter& parameter) {
-    return LiesDatumzeit(parameter.Datumstext());
+std::optional<DateTime> ReadUniStartZeit(const Startparameter& parameter) {
+    return ParseDateTime(parameter.Datumstext());
 }
 
 void FuelleStartdatumAuf(Startparameter& parameter) {
@@ -59,11 +58,11 @@ void FuelleStartdatumAuf(Startparameter& parameter) {
 }
 
 std::optional<Integer> LiesTemperatur(const Startparameter& parameter) {
-    const auto zahl = LiesZahl(parameter.TempMax);
+    const auto zahl = ParseNumber(parameter.TempMax);
     if (!zahl) {
         return std::nullopt;
     }
-    const auto grad = Rundung::half_even(*zahl);
+    const auto grad = Rounding::HalfEven(*zahl);
     if (grad < std::numeric_limits<Integer>::min() || grad > std::numeric_limits<Integer>::max()) {
         return std::nullopt;
     }

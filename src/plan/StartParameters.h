@@ -35,7 +35,7 @@ struct Startparameter {
 };
 
 /// Day and month in two digits, and the year; the time of day stays.
-void SetzeStartdatum(Startparameter& parameter, Zeitpunkt tag);
+void SetzeStartdatum(Startparameter& parameter, DateTime tag);
 
 /// What the label of the weekday shows.
 struct Wochentagsanzeige {
@@ -44,13 +44,13 @@ struct Wochentagsanzeige {
 };
 
 /// "Mo." with the hint "Montag".
-[[nodiscard]] Wochentagsanzeige WochentagVon(Zeitpunkt tag);
+[[nodiscard]] Wochentagsanzeige WochentagVon(DateTime tag);
 
 /// "Mo." with the hint "Montag", or "Err." without one when the inputs are no date.
 [[nodiscard]] Wochentagsanzeige RefreshWeekday(const Startparameter& parameter);
 
 /// The start date; nothing if the inputs are none.
-[[nodiscard]] std::optional<Zeitpunkt> ReadUniStartZeit(const Startparameter& parameter);
+[[nodiscard]] std::optional<DateTime> ReadUniStartZeit(const Startparameter& parameter);
 
 /// Pads day and month to two digits, as a run leaves them; one without a temperature doesn't come
 /// as far as the date.

@@ -28,7 +28,7 @@ std::variant<std::pair<ItemId, Byte>, Suchabsage> LiesZielwort(std::string_view 
                       "\" nennt kein Item: erwartet wird etwa GW2 oder WKT1");
     }
     const auto hoechste = item == ItemId::klSchK ? 1 : std::int64_t{Auftragsliste::kHoechstzahl};
-    const auto stufe = LiesGanzzahl(wort.substr(ziffer), 1, hoechste);
+    const auto stufe = ParseWholeNumber(wort.substr(ziffer), 1, hoechste);
     if (!stufe) {
         return Falsch("\"" + std::string(wort) + "\": die Stufe oder Anzahl muss von 1 bis " +
                       std::to_string(hoechste) + " gehen");
@@ -126,15 +126,15 @@ class Startzeiten final : public Laufbeobachter {
 
 constexpr std::int64_t kMinute = 60;
 
-std::string AufDieMinute(Zeitpunkt zeit) {
-    return Datumtext(zeit) + " " + Uhrzeittext(zeit).substr(0, 5);
+std::string AufDieMinute(DateTime zeit) {
+    return DateText(zeit) + " " + TimeOfDayText(zeit).substr(0, 5);
 }
 
 /// What is played already, and the pause behind it.
-std::optional<Suchabsage> SetzeKopf(const Plan& plan, Zeitpunkt ab, Planaufgabe& aufgabe) {
+std::optional<Suchabsage> SetzeKopf(const Plan& plan, DateTime ab, Planaufgabe& aufgabe) {
     Startbedingungen& bedingungen = aufgabe.Aufgabe.Bedingungen;
     const auto starts = Startzeiten::Von(plan, bedingungen);
-    const Zeitpunkt anfang = bedingungen.StartDate;
+    const DateTime anfang = bedingungen.StartDate;
     const auto kopf = static_cast<std::size_t>(
         std::ranges::find_if(starts,
                              [&](Moment start) { return bedingungen.Uhrzeit(start) >= ab; }) -
@@ -142,15 +142,15 @@ std::optional<Suchabsage> SetzeKopf(const Plan& plan, Zeitpunkt ab, Planaufgabe&
     aufgabe.Aufgabe.Kopf = kopf;
     aufgabe.Aufgabe.Ab = Moment(std::max(Long{0}, ab - anfang));
     if (kopf == starts.size()) {
-        return Suchabsage{.Text = "Alle Aufträge beginnen vor dem " + Datumzeittext(ab) +
+        return Suchabsage{.Text = "Alle Aufträge beginnen vor dem " + DateTimeText(ab) +
                                   ": es bleibt nichts umzustellen"};
     }
     if (kopf == 0) {
         return std::nullopt;
     }
-    const Zeitpunkt letzter = bedingungen.Uhrzeit(starts[kopf - 1]);
-    const Zeitpunkt von(letzter.Sekunden() / kMinute * kMinute + kMinute);
-    const Zeitpunkt bis((ab.Sekunden() + kMinute - 1) / kMinute * kMinute);
+    const DateTime letzter = bedingungen.Uhrzeit(starts[kopf - 1]);
+    const DateTime von(letzter.Seconds() / kMinute * kMinute + kMinute);
+    const DateTime bis((ab.Seconds() + kMinute - 1) / kMinute * kMinute);
     if (von >= bis) {
         return std::nullopt;
     }
@@ -159,7 +159,7 @@ std::optional<Suchabsage> SetzeKopf(const Plan& plan, Zeitpunkt ab, Planaufgabe&
     const auto mitPause = Startzeiten::Von(plan, bedingungen);
     if (!std::equal(starts.begin(), starts.begin() + static_cast<std::ptrdiff_t>(kopf),
                     mitPause.begin())) {
-        return Suchabsage{.Text = "Mit der Pause vor dem " + Datumzeittext(ab) +
+        return Suchabsage{.Text = "Mit der Pause vor dem " + DateTimeText(ab) +
                                   " begännen schon gespielte Aufträge zu anderer Zeit"};
     }
     return std::nullopt;
@@ -204,7 +204,7 @@ bool Erreicht(const Auftragsliste& liste, const Stufen& ziel) {
 }
 
 /// Conditions for an empty list too.
-std::variant<Startbedingungen, Meldung> BedingungenVon(Plan plan) {
+std::variant<Startbedingungen, Message> BedingungenVon(Plan plan) {
     if (plan.Liste.Auftraege().IstLeer()) {
         static_cast<void>(plan.Liste.AddItem(ItemId::MetMine, Startbedingungen()));
     }
@@ -235,8 +235,8 @@ std::optional<Suchabsage> SetzeZiel(const Plan& plan, const std::string& text,
 std::variant<Planaufgabe, Suchabsage> StelleAufgabe(const Plan& plan, const Suchwunsch& wunsch) {
     const bool benannt = wunsch.Ziel && *wunsch.Ziel != "plan";
     const auto bedingungen = benannt ? BedingungenVon(plan) : LiesStartbedingungen(plan);
-    if (const auto* const meldung = std::get_if<Meldung>(&bedingungen)) {
-        return Suchabsage{.Text = meldung->Text};
+    if (const auto* const meldung = std::get_if<Message>(&bedingungen)) {
+        return Suchabsage{.Text = meldung->text};
     }
     Planaufgabe aufgabe;
     aufgabe.Aufgabe.Bedingungen = std::get<Startbedingungen>(bedingungen);

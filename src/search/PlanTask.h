@@ -22,7 +22,7 @@ struct Suchwunsch {
     /// Production rows may move too.
     bool Frei = false;
     /// Orders that start before are played already.
-    std::optional<Zeitpunkt> Ab{};
+    std::optional<DateTime> Ab{};
 };
 
 /// Why there is nothing to search.

@@ -40,9 +40,9 @@ std::string Anzahltext(std::size_t zahl, const char* einzahl, const char* mehrza
 }
 
 std::string ProStundeText(const Spielstand& stand) {
-    return "Metall " + std::to_string(stand.ProStunde[Rohstoff::Metall].GanzerTeil()) +
-           ", Kristall " + std::to_string(stand.ProStunde[Rohstoff::Kristall].GanzerTeil()) +
-           ", Deuterium " + std::to_string(stand.ProStunde[Rohstoff::Deuterium].GanzerTeil());
+    return "Metall " + std::to_string(stand.ProStunde[Rohstoff::Metall].WholePart()) +
+           ", Kristall " + std::to_string(stand.ProStunde[Rohstoff::Kristall].WholePart()) +
+           ", Deuterium " + std::to_string(stand.ProStunde[Rohstoff::Deuterium].WholePart());
 }
 
 }  // namespace tarvelin

@@ -51,7 +51,7 @@ Kennzahlen Kennzahlen::Von(const Ablauf& ablauf) {
     }
     zahlen.Sitzungen = sitzungen.Zahl;
     for (std::size_t i = 0; i < beschaeftigt.size(); ++i) {
-        zahlen.Leerlauf[i] = Saettige<Long>(zahlen.Dauer - beschaeftigt[i]);
+        zahlen.Leerlauf[i] = Saturate<Long>(zahlen.Dauer - beschaeftigt[i]);
     }
     return zahlen;
 }

@@ -13,7 +13,7 @@ struct Kennzahlen {
     /// Seconds.
     Long Dauer = 0;
     Long VerbauteRessourcen = 0;
-    JeRohstoff<Festkomma> Vorrat{};
+    JeRohstoff<FixedPoint> Vorrat{};
     int Sitzungen = 0;
     /// Seconds in which a queue has nothing to do.
     JeSchlange<Long> Leerlauf{};

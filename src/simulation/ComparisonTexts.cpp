@@ -10,11 +10,11 @@ namespace {
 
 Vergleichstext Zeit(std::string name, Long a, Long b) {
     return {std::move(name), Spannentext(a), Spannentext(b),
-            Aenderungstext(LongSumme(b, -std::int64_t{a}))};
+            Aenderungstext(LongSum(b, -std::int64_t{a}))};
 }
 
 Vergleichstext Zahl(std::string name, double a, double b, int stellen) {
-    const auto text = [stellen](double wert) { return Dezimaltext(wert, stellen); };
+    const auto text = [stellen](double wert) { return DecimalText(wert, stellen); };
     return {std::move(name), text(a), text(b), (b > a ? "+" : "") + text(b - a)};
 }
 
@@ -35,8 +35,8 @@ std::vector<Vergleichstext> Kennzahltexte(const Vergleich& vergleich) {
     for (const auto& [was, name] :
          {Name{Rohstoff::Metall, "Metall"}, Name{Rohstoff::Kristall, "Kristall"},
           Name{Rohstoff::Deuterium, "Deuterium"}}) {
-        zeilen.push_back(Zahl(name, static_cast<double>(a.Vorrat[was].GanzerTeil()),
-                              static_cast<double>(b.Vorrat[was].GanzerTeil()), 0));
+        zeilen.push_back(Zahl(name, static_cast<double>(a.Vorrat[was].WholePart()),
+                              static_cast<double>(b.Vorrat[was].WholePart()), 0));
     }
     zeilen.push_back(Zahl("Sitzungen", a.Sitzungen, b.Sitzungen, 0));
     for (const Schlange schlange : {Schlange::Gebaeude, Schlange::Forschung, Schlange::Werft}) {

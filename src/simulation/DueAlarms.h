@@ -16,11 +16,11 @@ namespace tarvelin {
 
 /// How many build times are due `vorher` seconds after `jetzt`, to the second. None
 /// without a number of seconds.
-[[nodiscard]] std::size_t FaelligeBauzeiten(const Bauzeiten& bauzeiten, Zeitpunkt jetzt,
+[[nodiscard]] std::size_t FaelligeBauzeiten(const Bauzeiten& bauzeiten, DateTime jetzt,
                                             std::string_view vorher);
 
 /// How many sleep windows end in the minute that begins one minute after `jetzt`. The texts of the
 /// table are compared as they stand.
-[[nodiscard]] std::size_t FaelligeSchlafzeiten(const Schlaftabelle& tabelle, Zeitpunkt jetzt);
+[[nodiscard]] std::size_t FaelligeSchlafzeiten(const Schlaftabelle& tabelle, DateTime jetzt);
 
 }  // namespace tarvelin

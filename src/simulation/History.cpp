@@ -14,7 +14,7 @@ void Verlauf::NachSchritt(const Spielstand& stand) {
                         .Stufen = stand.Stufen});
 }
 
-JeRohstoff<Festkomma> VorratNach(const Verlaufspunkt& punkt, Long sekunden) {
+JeRohstoff<FixedPoint> VorratNach(const Verlaufspunkt& punkt, Long sekunden) {
     Spielstand stand;
     stand.Vorrat = punkt.Vorrat;
     stand.ProStunde = punkt.ProStunde;

@@ -12,8 +12,8 @@ namespace tarvelin {
 /// The state behind an event. Until the next one the stocks go on by the rates, in a straight line.
 struct Verlaufspunkt {
     Moment Zeit;
-    JeRohstoff<Festkomma> Vorrat{};
-    JeRohstoff<Festkomma> ProStunde{};
+    JeRohstoff<FixedPoint> Vorrat{};
+    JeRohstoff<FixedPoint> ProStunde{};
     Long EnergieProduktion = 0;
     Long EnergieVerbrauch = 0;
     JeItem<Byte> Stufen{};
@@ -34,6 +34,6 @@ class Verlauf final : public Laufbeobachter {
 };
 
 /// The stocks `sekunden` behind a point, as the run rounds them if nothing happens meanwhile.
-[[nodiscard]] JeRohstoff<Festkomma> VorratNach(const Verlaufspunkt& punkt, Long sekunden);
+[[nodiscard]] JeRohstoff<FixedPoint> VorratNach(const Verlaufspunkt& punkt, Long sekunden);
 
 }  // namespace tarvelin

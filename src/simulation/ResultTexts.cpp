@@ -11,7 +11,7 @@ namespace {
 std::string AlsPunkte(double ressourcen) {
     constexpr double kRessourcenJePunkt = 1000;
     constexpr int kStellen = 3;
-    return Dezimaltext(ressourcen / kRessourcenJePunkt, kStellen);
+    return DecimalText(ressourcen / kRessourcenJePunkt, kStellen);
 }
 
 }  // namespace
@@ -25,10 +25,10 @@ std::string Punktetext(const Spielstand& stand) {
 }
 
 std::string PunkteMitVorratText(const Spielstand& stand) {
-    return AlsPunkte((Festkomma::AusGanzzahl(stand.VerbauteRessourcen) +
+    return AlsPunkte((FixedPoint::FromWhole(stand.VerbauteRessourcen) +
                       stand.Vorrat[Rohstoff::Deuterium] + stand.Vorrat[Rohstoff::Kristall] +
                       stand.Vorrat[Rohstoff::Metall])
-                         .AlsDouble());
+                         .ToDouble());
 }
 
 void Ergebnistexte::NachReset() {
@@ -49,11 +49,11 @@ void Ergebnistexte::NachClear() {
 void Ergebnistexte::NachLauf(const Spielstand& stand) {
     LBL_Timegone = "Dauer: " + Dauertext(stand);
     LBL_Timegone2 = LBL_Timegone;
-    LBL_Met = std::to_string(stand.Vorrat[Rohstoff::Metall].GanzerTeil());
-    LBL_Kris = std::to_string(stand.Vorrat[Rohstoff::Kristall].GanzerTeil());
-    LBL_Deut = std::to_string(stand.Vorrat[Rohstoff::Deuterium].GanzerTeil());
+    LBL_Met = std::to_string(stand.Vorrat[Rohstoff::Metall].WholePart());
+    LBL_Kris = std::to_string(stand.Vorrat[Rohstoff::Kristall].WholePart());
+    LBL_Deut = std::to_string(stand.Vorrat[Rohstoff::Deuterium].WholePart());
     LBL_ENergie =
-        std::to_string(LongSumme(stand.EnergieProduktion, -std::int64_t{stand.EnergieVerbrauch})) +
+        std::to_string(LongSum(stand.EnergieProduktion, -std::int64_t{stand.EnergieVerbrauch})) +
         " / " + std::to_string(stand.EnergieProduktion);
     LBL_Punkte = Punktetext(stand) + " P";
     LBL_Punkte_Hinweis = "Inkl. Res.: " + PunkteMitVorratText(stand) + " Punkte";

@@ -6,17 +6,17 @@
 namespace tarvelin {
 
 void Laufmeldungen::Schulden(const Spielstand& stand) {
-    m_ausgabe.Zeige(
-        {.Text = "Negative Ressourcen: Metall: " + Dezimaltext(stand.Vorrat[Rohstoff::Metall]) +
-                 "    Kristall:" + Dezimaltext(stand.Vorrat[Rohstoff::Kristall]) +
-                 "    Deuterium: " + Dezimaltext(stand.Vorrat[Rohstoff::Deuterium]),
-         .Titel = "Simulations-Fehler, bitte melden"});
+    m_ausgabe.Show(
+        {.text = "Negative Ressourcen: Metall: " + DecimalText(stand.Vorrat[Rohstoff::Metall]) +
+                 "    Kristall:" + DecimalText(stand.Vorrat[Rohstoff::Kristall]) +
+                 "    Deuterium: " + DecimalText(stand.Vorrat[Rohstoff::Deuterium]),
+         .title = "Simulations-Fehler, bitte melden"});
 }
 
 void Laufmeldungen::Unbekannt(Unbekanntes was) {
-    m_ausgabe.Zeige({.Text = was == Unbekanntes::Start ? "STARTAUFTRAG NICHT ERKANNT"
-                                                       : "UpgrdingensSAUFTRAG NICHT ERKANNT",
-                     .Titel = ""});
+    m_ausgabe.Show({.text = was == Unbekanntes::Start ? "STARTAUFTRAG NICHT ERKANNT"
+                                                      : "UpgrdingensSAUFTRAG NICHT ERKANNT",
+                    .title = ""});
 }
 
 }  // namespace tarvelin

@@ -10,14 +10,14 @@ namespace tarvelin {
 class Laufmeldungen final : public Laufbeobachter {
   public:
     /// `ausgabe` must outlive it.
-    explicit Laufmeldungen(Meldungsausgabe& ausgabe) : m_ausgabe(ausgabe) {}
+    explicit Laufmeldungen(MessageSink& ausgabe) : m_ausgabe(ausgabe) {}
 
     void Schulden(const Spielstand& stand) override;
     void Unbekannt(Unbekanntes was) override;
-    void Piepton() override { m_ausgabe.Piepton(); }
+    void Piepton() override { m_ausgabe.Beep(); }
 
   private:
-    Meldungsausgabe& m_ausgabe;
+    MessageSink& m_ausgabe;
 };
 
 }  // namespace tarvelin

@@ -20,7 +20,7 @@ void Lauf::ResetSimulation(const Startparameter& parameter) {
     LV_Bauzeiten.clear();
 }
 
-void RunSimulation(std::span<const Auftrag> auftraege, Lauf& lauf, Meldungsausgabe& meldungen) {
+void RunSimulation(std::span<const Auftrag> auftraege, Lauf& lauf, MessageSink& meldungen) {
     lauf.LV_Bauzeiten.reserve(auftraege.size());
     Bauzeitenschreiber zeilen(lauf.Bedingungen, lauf.LV_Bauzeiten);
     Laufmeldungen worte(meldungen);

@@ -26,6 +26,6 @@ struct Lauf {
 };
 
 /// Plays the orders from the first to the last; `lauf` has begun.
-void RunSimulation(std::span<const Auftrag> auftraege, Lauf& lauf, Meldungsausgabe& meldungen);
+void RunSimulation(std::span<const Auftrag> auftraege, Lauf& lauf, MessageSink& meldungen);
 
 }  // namespace tarvelin

@@ -13,7 +13,7 @@ namespace tarvelin {
 namespace {
 
 /// When the wait was over: the click comes behind it.
-Zeitpunkt BereitUm(const Ablauf& ablauf, const Startereignis& start) {
+DateTime BereitUm(const Ablauf& ablauf, const Startereignis& start) {
     return ablauf.Bedingungen.Uhrzeit(start.Start + -std::int64_t{ablauf.Bedingungen.KlickPuffer});
 }
 
@@ -26,14 +26,15 @@ std::string Schlaftext(const Ablauf& ablauf, const Startereignis& start) {
     const auto& fenster = ablauf.Bedingungen.Schlafzeiten;
     auto gesucht = std::ranges::find(fenster, BereitUm(ablauf, start), &cSchlafzeit::Ende);
     if (gesucht == fenster.end()) {
-        const Zeitpunkt wach = ablauf.Bedingungen.Uhrzeit(start.Wach);
+        const DateTime wach = ablauf.Bedingungen.Uhrzeit(start.Wach);
         gesucht = std::ranges::find_if(fenster,
                                        [&](const cSchlafzeit& f) { return f.CheckifInside(wach); });
     }
     if (gesucht == fenster.end()) {
         return "Schlafzeit";
     }
-    return "Schlafzeit " + Uhrzeittext(gesucht->Beginn()) + " bis " + Uhrzeittext(gesucht->Ende());
+    return "Schlafzeit " + TimeOfDayText(gesucht->Beginn()) + " bis " +
+           TimeOfDayText(gesucht->Ende());
 }
 
 /// Whether no order before the row waited for anything but clicks.
@@ -75,7 +76,7 @@ std::string Grundtext(const Ablauf& ablauf, const Startereignis& start) {
             return grund.Mangel.Text();
         case Hindernis::Schlange:
             return std::string(Schlangenname(grund.Queue)) + " bis " +
-                   Uhrzeittext(BereitUm(ablauf, start));
+                   TimeOfDayText(BereitUm(ablauf, start));
         case Hindernis::Schlafzeit:
             return Schlaftext(ablauf, start);
     }

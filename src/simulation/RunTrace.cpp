@@ -35,7 +35,7 @@ Ablauf SpieleAb(std::span<const Auftrag> auftraege, const Startbedingungen& bedi
     Simulation simulation(auftraege, ablauf.Bedingungen);
     Startliste starts(ablauf.Starts);
     Verlauf verlauf(simulation.Stand());
-    Meldungsliste liste(ablauf.Meldungen);
+    MessageCollector liste(ablauf.Meldungen);
     Laufmeldungen worte(liste);
     Beobachterreihe beobachter(starts, verlauf, worte);
     simulation.Laufe(beobachter);

@@ -19,7 +19,7 @@ struct Ablauf {
     /// The history, at each moment with the last state that the run recorded for it.
     std::vector<Verlaufspunkt> Kurve;
     Spielstand Ende;
-    std::vector<Meldung> Meldungen;
+    std::vector<Message> Meldungen;
 
     /// When the last order is done.
     [[nodiscard]] Moment Dauer() const { return Ende.secsgone; }

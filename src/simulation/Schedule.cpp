@@ -23,7 +23,7 @@ std::string Bauzeit::VerzoegerungsGrund() const {
 }
 
 std::string Bauzeit::Tag() const {
-    const std::string tag = std::string(WochentagLang(Start)) + " " + Datumzeittext(Start);
+    const std::string tag = std::string(WeekdayLong(Start)) + " " + DateTimeText(Start);
     const std::string grund = VerzoegerungsGrund();
     return grund.empty() ? tag : tag + " | " + grund;
 }

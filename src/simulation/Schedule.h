@@ -15,17 +15,17 @@ struct Bauzeit {
     Auftrag Order{};
     /// The level or number that an item reaches; 0 for a production row.
     Byte Nummer = 0;
-    Zeitpunkt Start{};
-    Zeitpunkt Finish{};
+    DateTime Start{};
+    DateTime Finish{};
     /// What the stocks lacked when the start was last timed.
     Verzoegerung Mangel{};
     /// What held the order back last.
     Aufenthalt Grund{};
 
     /// Short name of the weekday.
-    [[nodiscard]] std::string Wochentag() const { return std::string(WochentagKurz(Start)); }
+    [[nodiscard]] std::string Wochentag() const { return std::string(WeekdayShort(Start)); }
     /// "hh:mm:ss".
-    [[nodiscard]] std::string Uhrzeit() const { return Uhrzeittext(Start); }
+    [[nodiscard]] std::string Uhrzeit() const { return TimeOfDayText(Start); }
     /// "Metallmine: 1", or "80% 100% 50%".
     [[nodiscard]] std::string theText() const;
     /// Full weekday, date and time; behind them " | " and the reason, if it has one.

@@ -41,7 +41,7 @@ void Simulation::Schritt(Laufbeobachter& beobachter) {
     // Negative where an order's click buffer has carried the clock past this row.
     const Long differenz = erste.Zeit - m_stand.secsgone;
     if (erste.IstStart) {
-        VergeheZeit(LongSumme(differenz, m_bedingungen->KlickPuffer), m_stand);
+        VergeheZeit(LongSum(differenz, m_bedingungen->KlickPuffer), m_stand);
         Starte(erste.Order, beobachter);
     } else {
         VergeheZeit(differenz, m_stand);
@@ -129,7 +129,7 @@ void Simulation::Starte(std::size_t zeile, Laufbeobachter& beobachter) {
     }
     // A first order that costs more than the start stocks, or one without any source of deuterium,
     // starts all the same. It is told again at each start until the stocks have recovered.
-    if (std::ranges::min(m_stand.Vorrat) < Festkomma()) {
+    if (std::ranges::min(m_stand.Vorrat) < FixedPoint()) {
         beobachter.Schulden(m_stand);
     }
 }
@@ -148,7 +148,7 @@ void Simulation::StarteItem(std::size_t zeile, Laufbeobachter& beobachter) {
     m_stand.FertigZeit[order.Queue] = Moment(HalfEvenLong(fertig + 1 + m_bedingungen->KlickPuffer));
     Startereignis ereignis{.Zeile = zeile,
                            .Order = order,
-                           .Nummer = Saettige<Byte>(stufe + 1),
+                           .Nummer = Saturate<Byte>(stufe + 1),
                            .Start = m_stand.secsgone,
                            .Finish = finish,
                            .Mangel = {},

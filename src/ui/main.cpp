@@ -23,13 +23,13 @@
 namespace {
 
 /// The machine's clock, in its local time.
-tarvelin::Zeitpunkt Ortszeit() {
+tarvelin::DateTime Ortszeit() {
     const QDateTime jetzt = QDateTime::currentDateTime();
     const QDate anfang(1899, 12, 30);
     constexpr qint64 kSekundenJeTag = 86400;
     constexpr qint64 kJeSekunde = 1000;
-    return tarvelin::Zeitpunkt(anfang.daysTo(jetzt.date()) * kSekundenJeTag +
-                               jetzt.time().msecsSinceStartOfDay() / kJeSekunde);
+    return tarvelin::DateTime(anfang.daysTo(jetzt.date()) * kSekundenJeTag +
+                              jetzt.time().msecsSinceStartOfDay() / kJeSekunde);
 }
 
 void OeffneSeite(const std::string& adresse) {
@@ -45,13 +45,13 @@ std::filesystem::path Nutzerordner() {
     return tarvelin::AlsPfad(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
 }
 
-tarvelin::Meldung OhneNutzerordner() {
-    return {.Text =
+tarvelin::Message OhneNutzerordner() {
+    return {.text =
                 "Für deine Baulisten und Einstellungen gibt es keinen Ordner, in dem geschrieben "
                 "werden kann: sie werden beim Beenden nicht behalten.\r\n\r\nSpeichere deine "
                 "Bauliste selbst (Datei, Speichern) an einem Ort, an dem du schreiben kannst.",
-            .Titel = "Tarvelin",
-            .Symbol = tarvelin::Meldungssymbol::Warnung};
+            .title = "Tarvelin",
+            .icon = tarvelin::MessageIcon::Warning};
 }
 
 tarvelin::Frage ZweitesFenster() {
@@ -60,7 +60,7 @@ tarvelin::Frage ZweitesFenster() {
                 "zweite merkt sich beim Beenden weder Bauliste noch Einstellungen: was bleiben "
                 "soll, musst du dort selbst speichern (Datei, Speichern).",
             .Titel = "Tarvelin",
-            .Symbol = tarvelin::Meldungssymbol::Frage};
+            .Symbol = tarvelin::MessageIcon::Question};
 }
 
 }  // namespace

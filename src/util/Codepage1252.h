@@ -7,10 +7,10 @@
 namespace tarvelin {
 
 /// Every byte has a character; the five that the code page leaves free keep their number.
-[[nodiscard]] std::string Aus1252(std::string_view bytes);
+[[nodiscard]] std::string From1252(std::string_view bytes);
 
 /// A character that the code page doesn't have, and each byte of a text that isn't UTF-8, becomes
 /// "?".
-[[nodiscard]] std::string Nach1252(std::string_view utf8);
+[[nodiscard]] std::string To1252(std::string_view utf8);
 
 }  // namespace tarvelin

@@ -11,158 +11,158 @@ namespace {
 
 using std::chrono::sys_days;
 
-constexpr std::int64_t kSekundenJeTag = 86400;
-constexpr sys_days kTagNull{std::chrono::year{1899} / std::chrono::December / 30};
+constexpr std::int64_t kSecondsPerDay = 86400;
+constexpr sys_days kDayZero{std::chrono::year{1899} / std::chrono::December / 30};
 
-struct Wochentagname {
-    std::string_view kurz;
-    std::string_view lang;
+struct WeekdayName {
+    std::string_view shortName;
+    std::string_view longName;
 };
 
-constexpr std::array<Wochentagname, 7> kWochentage{{{"So", "Sonntag"},
-                                                    {"Mo", "Montag"},
-                                                    {"Di", "Dienstag"},
-                                                    {"Mi", "Mittwoch"},
-                                                    {"Do", "Donnerstag"},
-                                                    {"Fr", "Freitag"},
-                                                    {"Sa", "Samstag"}}};
+constexpr std::array<WeekdayName, 7> kWeekdays{{{"So", "Sonntag"},
+                                                {"Mo", "Montag"},
+                                                {"Di", "Dienstag"},
+                                                {"Mi", "Mittwoch"},
+                                                {"Do", "Donnerstag"},
+                                                {"Fr", "Freitag"},
+                                                {"Sa", "Samstag"}}};
 
 /// Reads a text from left to right; a step that fails leaves it spoilt for good.
-class Leser {
+class Parser {
   public:
-    explicit Leser(std::string_view text) : m_rest(text) {}
+    explicit Parser(std::string_view text) : m_rest(text) {}
 
     /// Takes `min` to `max` digits, as many as stand there.
-    int Ziffern(std::size_t min, std::size_t max) {
+    int Digits(std::size_t min, std::size_t max) {
         std::size_t n = 0;
         while (n < max && n < m_rest.size() && m_rest[n] >= '0' && m_rest[n] <= '9') {
             ++n;
         }
-        int wert = 0;
-        std::from_chars(m_rest.data(), m_rest.data() + n, wert);
-        m_gut = m_gut && n >= min;
-        m_gelesen = n;
+        int value = 0;
+        std::from_chars(m_rest.data(), m_rest.data() + n, value);
+        m_good = m_good && n >= min;
+        m_parsed = n;
         m_rest.remove_prefix(n);
-        return wert;
+        return value;
     }
-    void Zeichen(char zeichen) {
-        const bool da = Beginnt(zeichen);
-        m_gut = m_gut && da;
-        m_rest.remove_prefix(da ? 1 : 0);
+    void Character(char character) {
+        const bool present = BeginsWith(character);
+        m_good = m_good && present;
+        m_rest.remove_prefix(present ? 1 : 0);
     }
-    [[nodiscard]] bool Beginnt(char zeichen) const {
-        return !m_rest.empty() && m_rest.front() == zeichen;
+    [[nodiscard]] bool BeginsWith(char character) const {
+        return !m_rest.empty() && m_rest.front() == character;
     }
-    [[nodiscard]] std::size_t Gelesen() const { return m_gelesen; }
-    [[nodiscard]] bool AmEndeUndGut() const { return m_gut && m_rest.empty(); }
-    void Verdirb() { m_gut = false; }
+    [[nodiscard]] std::size_t Parsed() const { return m_parsed; }
+    [[nodiscard]] bool AtEndAndGood() const { return m_good && m_rest.empty(); }
+    void Spoil() { m_good = false; }
 
   private:
     std::string_view m_rest;
-    std::size_t m_gelesen = 0;
-    bool m_gut = true;
+    std::size_t m_parsed = 0;
+    bool m_good = true;
 };
 
-int LiesJahr(Leser& leser) {
-    constexpr int kErstesJahr = 100;
-    constexpr int kLetztesJahrDesJahrhunderts20xx = 29;
-    const int jahr = leser.Ziffern(2, 4);
-    if (leser.Gelesen() == 2) {
-        return jahr <= kLetztesJahrDesJahrhunderts20xx ? 2000 + jahr : 1900 + jahr;
+int ParseYear(Parser& reader) {
+    constexpr int kFirstYear = 100;
+    constexpr int kLastYearOf20xx = 29;
+    const int year = reader.Digits(2, 4);
+    if (reader.Parsed() == 2) {
+        return year <= kLastYearOf20xx ? 2000 + year : 1900 + year;
     }
-    if (leser.Gelesen() == 3 || jahr < kErstesJahr) {
-        leser.Verdirb();
+    if (reader.Parsed() == 3 || year < kFirstYear) {
+        reader.Spoil();
     }
-    return jahr;
+    return year;
 }
 
-std::int64_t TagZahl(Zeitpunkt zeitpunkt) {
-    const std::int64_t s = zeitpunkt.Sekunden();
-    return s >= 0 ? s / kSekundenJeTag : -((-s + kSekundenJeTag - 1) / kSekundenJeTag);
+std::int64_t DayNumber(DateTime time) {
+    const std::int64_t s = time.Seconds();
+    return s >= 0 ? s / kSecondsPerDay : -((-s + kSecondsPerDay - 1) / kSecondsPerDay);
 }
 
-void HaengeZiffernAn(std::string& text, std::int64_t zahl, std::size_t stellen) {
-    const std::string ziffern = std::to_string(zahl);
-    text.append(ziffern.size() < stellen ? stellen - ziffern.size() : 0, '0');
-    text += ziffern;
+void AppendDigits(std::string& text, std::int64_t number, std::size_t decimals) {
+    const std::string digits = std::to_string(number);
+    text.append(digits.size() < decimals ? decimals - digits.size() : 0, '0');
+    text += digits;
 }
 
-void HaengeDatumAn(std::string& text, Zeitpunkt zeitpunkt) {
-    const std::chrono::year_month_day tag{kTagNull + std::chrono::days{TagZahl(zeitpunkt)}};
-    HaengeZiffernAn(text, static_cast<unsigned>(tag.day()), 2);
+void AppendDate(std::string& text, DateTime time) {
+    const std::chrono::year_month_day day{kDayZero + std::chrono::days{DayNumber(time)}};
+    AppendDigits(text, static_cast<unsigned>(day.day()), 2);
     text += '.';
-    HaengeZiffernAn(text, static_cast<unsigned>(tag.month()), 2);
+    AppendDigits(text, static_cast<unsigned>(day.month()), 2);
     text += '.';
-    HaengeZiffernAn(text, static_cast<int>(tag.year()), 4);
+    AppendDigits(text, static_cast<int>(day.year()), 4);
 }
 
-void HaengeUhrzeitAn(std::string& text, Zeitpunkt zeitpunkt) {
-    const std::int64_t s = zeitpunkt.Sekunden() - TagZahl(zeitpunkt) * kSekundenJeTag;
-    HaengeZiffernAn(text, s / 3600, 2);
+void AppendTimeOfDay(std::string& text, DateTime time) {
+    const std::int64_t s = time.Seconds() - DayNumber(time) * kSecondsPerDay;
+    AppendDigits(text, s / 3600, 2);
     text += ':';
-    HaengeZiffernAn(text, s / 60 % 60, 2);
+    AppendDigits(text, s / 60 % 60, 2);
     text += ':';
-    HaengeZiffernAn(text, s % 60, 2);
+    AppendDigits(text, s % 60, 2);
 }
 
 }  // namespace
 
-std::optional<Zeitpunkt> LiesDatumzeit(std::string_view text) {
-    Leser leser(text);
-    const auto tag = static_cast<unsigned>(leser.Ziffern(1, 2));
-    leser.Zeichen('.');
-    const auto monat = static_cast<unsigned>(leser.Ziffern(1, 2));
-    leser.Zeichen('.');
-    const int jahr = LiesJahr(leser);
-    leser.Zeichen(' ');
-    const int stunde = leser.Ziffern(1, 2);
-    leser.Zeichen(':');
-    const int minute = leser.Ziffern(1, 2);
-    int sekunde = 0;
-    if (leser.Beginnt(':')) {
-        leser.Zeichen(':');
-        sekunde = leser.Ziffern(1, 2);
+std::optional<DateTime> ParseDateTime(std::string_view text) {
+    Parser reader(text);
+    const auto day = static_cast<unsigned>(reader.Digits(1, 2));
+    reader.Character('.');
+    const auto month = static_cast<unsigned>(reader.Digits(1, 2));
+    reader.Character('.');
+    const int year = ParseYear(reader);
+    reader.Character(' ');
+    const int hour = reader.Digits(1, 2);
+    reader.Character(':');
+    const int minute = reader.Digits(1, 2);
+    int second = 0;
+    if (reader.BeginsWith(':')) {
+        reader.Character(':');
+        second = reader.Digits(1, 2);
     }
-    const std::chrono::year_month_day datum{std::chrono::year{jahr}, std::chrono::month{monat},
-                                            std::chrono::day{tag}};
-    if (!leser.AmEndeUndGut() || !datum.ok() || stunde > 23 || minute > 59 || sekunde > 59) {
+    const std::chrono::year_month_day date{std::chrono::year{year}, std::chrono::month{month},
+                                           std::chrono::day{day}};
+    if (!reader.AtEndAndGood() || !date.ok() || hour > 23 || minute > 59 || second > 59) {
         return std::nullopt;
     }
-    const std::int64_t tage = (sys_days{datum} - kTagNull).count();
-    const int sekundeDesTages = stunde * 3600 + minute * 60 + sekunde;
-    return Zeitpunkt(tage * kSekundenJeTag + sekundeDesTages);
+    const std::int64_t days = (sys_days{date} - kDayZero).count();
+    const int secondOfDay = hour * 3600 + minute * 60 + second;
+    return DateTime(days * kSecondsPerDay + secondOfDay);
 }
 
-int Wochentag(Zeitpunkt zeitpunkt) {
-    const std::chrono::weekday tag{kTagNull + std::chrono::days{TagZahl(zeitpunkt)}};
-    return static_cast<int>(tag.c_encoding()) + 1;
+int Weekday(DateTime time) {
+    const std::chrono::weekday day{kDayZero + std::chrono::days{DayNumber(time)}};
+    return static_cast<int>(day.c_encoding()) + 1;
 }
 
-std::string_view WochentagKurz(Zeitpunkt zeitpunkt) {
-    return kWochentage.at(static_cast<std::size_t>(Wochentag(zeitpunkt) - 1)).kurz;
+std::string_view WeekdayShort(DateTime time) {
+    return kWeekdays.at(static_cast<std::size_t>(Weekday(time) - 1)).shortName;
 }
 
-std::string_view WochentagLang(Zeitpunkt zeitpunkt) {
-    return kWochentage.at(static_cast<std::size_t>(Wochentag(zeitpunkt) - 1)).lang;
+std::string_view WeekdayLong(DateTime time) {
+    return kWeekdays.at(static_cast<std::size_t>(Weekday(time) - 1)).longName;
 }
 
-std::string Datumtext(Zeitpunkt zeitpunkt) {
+std::string DateText(DateTime time) {
     std::string text;
-    HaengeDatumAn(text, zeitpunkt);
+    AppendDate(text, time);
     return text;
 }
 
-std::string Uhrzeittext(Zeitpunkt zeitpunkt) {
+std::string TimeOfDayText(DateTime time) {
     std::string text;
-    HaengeUhrzeitAn(text, zeitpunkt);
+    AppendTimeOfDay(text, time);
     return text;
 }
 
-std::string Datumzeittext(Zeitpunkt zeitpunkt) {
+std::string DateTimeText(DateTime time) {
     std::string text;
-    HaengeDatumAn(text, zeitpunkt);
+    AppendDate(text, time);
     text += ' ';
-    HaengeUhrzeitAn(text, zeitpunkt);
+    AppendTimeOfDay(text, time);
     return text;
 }
 

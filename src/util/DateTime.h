@@ -12,44 +12,44 @@
 namespace tarvelin {
 
 /// A wall-clock moment in whole seconds since 30 December 1899, 00:00, in the Gregorian calendar.
-class Zeitpunkt {
+class DateTime {
   public:
-    constexpr Zeitpunkt() = default;
-    constexpr explicit Zeitpunkt(std::int64_t sekunden) : m_sekunden(sekunden) {}
+    constexpr DateTime() = default;
+    constexpr explicit DateTime(std::int64_t seconds) : m_seconds(seconds) {}
 
-    friend constexpr Zeitpunkt operator+(Zeitpunkt zeitpunkt, std::int64_t sekunden) {
-        return Zeitpunkt(zeitpunkt.m_sekunden + sekunden);
+    friend constexpr DateTime operator+(DateTime time, std::int64_t seconds) {
+        return DateTime(time.m_seconds + seconds);
     }
     /// Seconds from `b` to `a`, held within the range of Long.
-    friend constexpr Long operator-(Zeitpunkt a, Zeitpunkt b) {
-        return Saettige<Long>(a.m_sekunden - b.m_sekunden);
+    friend constexpr Long operator-(DateTime a, DateTime b) {
+        return Saturate<Long>(a.m_seconds - b.m_seconds);
     }
-    friend constexpr auto operator<=>(Zeitpunkt, Zeitpunkt) = default;
+    friend constexpr auto operator<=>(DateTime, DateTime) = default;
 
-    [[nodiscard]] constexpr std::int64_t Sekunden() const { return m_sekunden; }
+    [[nodiscard]] constexpr std::int64_t Seconds() const { return m_seconds; }
 
   private:
-    std::int64_t m_sekunden = 0;
+    std::int64_t m_seconds = 0;
 };
 
 /// The moment that a text names, day first: D or DD "." M or MM "." YY or YYYY, one blank, h or hh
 /// ":" m or mm and optionally ":" s or ss, with nothing around it. Two-digit years 00 to 29 are
 /// 20xx, 30 to 99 are 19xx; four-digit years run from 0100 to 9999. Nothing for any other text and
 /// for a day or time that doesn't exist.
-[[nodiscard]] std::optional<Zeitpunkt> LiesDatumzeit(std::string_view text);
+[[nodiscard]] std::optional<DateTime> ParseDateTime(std::string_view text);
 
 /// Weekday from 1, Sunday, to 7, Saturday.
-[[nodiscard]] int Wochentag(Zeitpunkt zeitpunkt);
+[[nodiscard]] int Weekday(DateTime time);
 /// "So", "Mo" ... "Sa".
-[[nodiscard]] std::string_view WochentagKurz(Zeitpunkt zeitpunkt);
+[[nodiscard]] std::string_view WeekdayShort(DateTime time);
 /// "Sonntag", "Montag" ... "Samstag".
-[[nodiscard]] std::string_view WochentagLang(Zeitpunkt zeitpunkt);
+[[nodiscard]] std::string_view WeekdayLong(DateTime time);
 
 /// "18.11.2006"; a year behind 9999 has five digits.
-[[nodiscard]] std::string Datumtext(Zeitpunkt zeitpunkt);
+[[nodiscard]] std::string DateText(DateTime time);
 /// "12:30:00".
-[[nodiscard]] std::string Uhrzeittext(Zeitpunkt zeitpunkt);
+[[nodiscard]] std::string TimeOfDayText(DateTime time);
 /// "18.11.2006 12:30:00".
-[[nodiscard]] std::string Datumzeittext(Zeitpunkt zeitpunkt);
+[[nodiscard]] std::string DateTimeText(DateTime time);
 
 }  // namespace tarvelin

@@ -7,18 +7,18 @@
 namespace tarvelin {
 
 /// Where the value of an enumerator stands.
-template <class Aufzaehlung>
-constexpr std::size_t Index(Aufzaehlung wert) {
-    return static_cast<std::size_t>(wert);
+template <class Enumeration>
+constexpr std::size_t IndexOf(Enumeration value) {
+    return static_cast<std::size_t>(value);
 }
 
-/// One value for each enumerator of an enumeration that `Anzahl` closes.
-template <class Aufzaehlung, class T>
-class Je : public std::array<T, Index(Aufzaehlung::Anzahl)> {
+/// One value for each enumerator of an enumeration that `Size` closes.
+template <class Enumeration, class T>
+class EnumArray : public std::array<T, IndexOf(Enumeration::Size)> {
   public:
-    using std::array<T, Index(Aufzaehlung::Anzahl)>::operator[];
-    constexpr T& operator[](Aufzaehlung wert) { return (*this)[Index(wert)]; }
-    constexpr const T& operator[](Aufzaehlung wert) const { return (*this)[Index(wert)]; }
+    using std::array<T, IndexOf(Enumeration::Anzahl)>::operator[];
+    constexpr T& operator[](Enumeration value) { return (*this)[IndexOf(value)]; }
+    constexpr const T& operator[](Enumeration value) const { return (*this)[IndexOf(value)]; }
 };
 
 }  // namespace tarvelin

@@ -6,23 +6,23 @@ namespace tarvelin {
 namespace {
 
 /// Sign, whole part, separator and all four decimals.
-std::string AlleStellen(Festkomma wert, char trenner) {
-    const std::int64_t rohwert = wert.Rohwert();
+std::string AllDecimals(FixedPoint value, char separatorChar) {
+    const std::int64_t raw = value.Raw();
     // The magnitude is taken without a sign, as the lowest number has no positive twin.
-    const std::uint64_t betrag = rohwert < 0 ? 0U - static_cast<std::uint64_t>(rohwert)
-                                             : static_cast<std::uint64_t>(rohwert);
-    std::string ziffern = std::to_string(betrag);
-    if (ziffern.size() <= Festkomma::kStellen) {
-        ziffern.insert(0, Festkomma::kStellen + 1 - ziffern.size(), '0');
+    const std::uint64_t amount =
+        raw < 0 ? 0U - static_cast<std::uint64_t>(raw) : static_cast<std::uint64_t>(raw);
+    std::string digits = std::to_string(amount);
+    if (digits.size() <= FixedPoint::kDecimals) {
+        digits.insert(0, FixedPoint::kDecimals + 1 - digits.size(), '0');
     }
-    ziffern.insert(ziffern.size() - Festkomma::kStellen, 1, trenner);
-    return rohwert < 0 ? "-" + ziffern : ziffern;
+    digits.insert(digits.size() - FixedPoint::kDecimals, 1, separatorChar);
+    return raw < 0 ? "-" + digits : digits;
 }
 
 }  // namespace
 
-std::string Dezimaltext(Festkomma wert) {
-    std::string text = AlleStellen(wert, ',');
+std::string DecimalText(FixedPoint value) {
+    std::string text = AllDecimals(value, ',');
     text.erase(text.find_last_not_of('0') + 1);
     if (text.back() == ',') {
         text.pop_back();
@@ -30,8 +30,8 @@ std::string Dezimaltext(Festkomma wert) {
     return text;
 }
 
-std::string VierStellenText(Festkomma wert) {
-    return AlleStellen(wert, '.');
+std::string FourDecimalsText(FixedPoint value) {
+    return AllDecimals(value, '.');
 }
 
 }  // namespace tarvelin

@@ -12,70 +12,70 @@ namespace tarvelin {
 
 /// A 64-bit count of ten-thousandths. Sums, differences and products are exact and are held at the
 /// ends of the range.
-class Festkomma {
+class FixedPoint {
   public:
-    static constexpr int kStellen = 4;
-    static constexpr std::int64_t kEinheit = 10000;
+    static constexpr int kDecimals = 4;
+    static constexpr std::int64_t kUnit = 10000;
 
-    constexpr Festkomma() = default;
+    constexpr FixedPoint() = default;
 
-    static constexpr Festkomma AusRohwert(std::int64_t rohwert) { return Festkomma(rohwert); }
-    static constexpr Festkomma AusGanzzahl(std::int64_t ganz) {
-        return Festkomma(Produkt(ganz, kEinheit));
+    static constexpr FixedPoint FromRaw(std::int64_t raw) { return FixedPoint(raw); }
+    static constexpr FixedPoint FromWhole(std::int64_t whole) {
+        return FixedPoint(Product(whole, kUnit));
     }
     /// Half to even at the fourth decimal.
-    static Festkomma AusDouble(double wert) {
-        return Festkomma(Rundung::half_even(wert * static_cast<double>(kEinheit)));
+    static FixedPoint FromDouble(double value) {
+        return FixedPoint(Rounding::HalfEven(value * static_cast<double>(kUnit)));
     }
 
-    [[nodiscard]] constexpr std::int64_t Rohwert() const { return m_rohwert; }
-    [[nodiscard]] constexpr double AlsDouble() const {
-        return static_cast<double>(m_rohwert) / static_cast<double>(kEinheit);
+    [[nodiscard]] constexpr std::int64_t Raw() const { return m_raw; }
+    [[nodiscard]] constexpr double ToDouble() const {
+        return static_cast<double>(m_raw) / static_cast<double>(kUnit);
     }
     /// Cut towards zero.
-    [[nodiscard]] constexpr std::int64_t GanzerTeil() const { return m_rohwert / kEinheit; }
+    [[nodiscard]] constexpr std::int64_t WholePart() const { return m_raw / kUnit; }
 
-    friend constexpr Festkomma operator+(Festkomma a, Festkomma b) {
-        std::int64_t summe = 0;
-        if (__builtin_add_overflow(a.m_rohwert, b.m_rohwert, &summe)) [[unlikely]] {
-            return Ende(a.m_rohwert < 0);
+    friend constexpr FixedPoint operator+(FixedPoint a, FixedPoint b) {
+        std::int64_t sum = 0;
+        if (__builtin_add_overflow(a.m_raw, b.m_raw, &sum)) [[unlikely]] {
+            return Limit(a.m_raw < 0);
         }
-        return Festkomma(summe);
+        return FixedPoint(sum);
     }
-    friend constexpr Festkomma operator-(Festkomma a, Festkomma b) {
-        std::int64_t differenz = 0;
-        if (__builtin_sub_overflow(a.m_rohwert, b.m_rohwert, &differenz)) [[unlikely]] {
-            return Ende(a.m_rohwert < 0);
+    friend constexpr FixedPoint operator-(FixedPoint a, FixedPoint b) {
+        std::int64_t difference = 0;
+        if (__builtin_sub_overflow(a.m_raw, b.m_raw, &difference)) [[unlikely]] {
+            return Limit(a.m_raw < 0);
         }
-        return Festkomma(differenz);
+        return FixedPoint(difference);
     }
-    friend constexpr Festkomma operator*(Festkomma a, std::int64_t faktor) {
-        return Festkomma(Produkt(a.m_rohwert, faktor));
+    friend constexpr FixedPoint operator*(FixedPoint a, std::int64_t factor) {
+        return FixedPoint(Product(a.m_raw, factor));
     }
-    friend constexpr auto operator<=>(Festkomma, Festkomma) = default;
+    friend constexpr auto operator<=>(FixedPoint, FixedPoint) = default;
 
   private:
-    constexpr explicit Festkomma(std::int64_t rohwert) : m_rohwert(rohwert) {}
+    constexpr explicit FixedPoint(std::int64_t raw) : m_raw(raw) {}
 
-    static constexpr Festkomma Ende(bool negativ) {
-        return Festkomma(negativ ? std::numeric_limits<std::int64_t>::min()
-                                 : std::numeric_limits<std::int64_t>::max());
+    static constexpr FixedPoint Limit(bool negative) {
+        return FixedPoint(negative ? std::numeric_limits<std::int64_t>::min()
+                                   : std::numeric_limits<std::int64_t>::max());
     }
-    static constexpr std::int64_t Produkt(std::int64_t a, std::int64_t b) {
-        std::int64_t produkt = 0;
-        if (__builtin_mul_overflow(a, b, &produkt)) [[unlikely]] {
-            return Ende((a < 0) != (b < 0)).m_rohwert;
+    static constexpr std::int64_t Product(std::int64_t a, std::int64_t b) {
+        std::int64_t product = 0;
+        if (__builtin_mul_overflow(a, b, &product)) [[unlikely]] {
+            return Limit((a < 0) != (b < 0)).m_raw;
         }
-        return produkt;
+        return product;
     }
 
-    std::int64_t m_rohwert = 0;
+    std::int64_t m_raw = 0;
 };
 
 /// Plain decimal text with a decimal comma and up to four decimals: "440,6278", "500", "-0,5".
-[[nodiscard]] std::string Dezimaltext(Festkomma wert);
+[[nodiscard]] std::string DecimalText(FixedPoint value);
 
 /// All four decimals behind a decimal point, for machines: "440.6278".
-[[nodiscard]] std::string VierStellenText(Festkomma wert);
+[[nodiscard]] std::string FourDecimalsText(FixedPoint value);
 
 }  // namespace tarvelin

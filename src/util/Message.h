@@ -9,47 +9,47 @@
 namespace tarvelin {
 
 /// The icon of a message box.
-enum class Meldungssymbol : std::uint8_t { Ohne, Fehler, Frage, Warnung, Hinweis };
+enum class MessageIcon : std::uint8_t { None, Error, Question, Warning, Information };
 
 /// A modal message with one OK button.
-struct Meldung {
-    std::string Text;
+struct Message {
+    std::string text;
     /// Empty where a message has no title of its own.
-    std::string Titel;
-    Meldungssymbol Symbol = Meldungssymbol::Fehler;
+    std::string title;
+    MessageIcon icon = MessageIcon::Error;
 
-    friend bool operator==(const Meldung&, const Meldung&) = default;
+    friend bool operator==(const Message&, const Message&) = default;
 };
 
 /// The title that tells bad input.
-inline constexpr const char* kAusnahmefehler = "Schwerer Ausnahmefehler 1337 !";
+inline constexpr const char* kBadInputTitle = "Schwerer Ausnahmefehler 1337 !";
 
 /// Who shows messages: the window by a box, the console on its error stream.
-class Meldungsausgabe {
+class MessageSink {
   public:
-    Meldungsausgabe() = default;
-    Meldungsausgabe(const Meldungsausgabe&) = delete;
-    Meldungsausgabe& operator=(const Meldungsausgabe&) = delete;
-    virtual ~Meldungsausgabe() = default;
+    MessageSink() = default;
+    MessageSink(const MessageSink&) = delete;
+    MessageSink& operator=(const MessageSink&) = delete;
+    virtual ~MessageSink() = default;
 
     /// Returns when the user has seen the message.
-    virtual void Zeige(const Meldung& meldung) = 0;
+    virtual void Show(const Message& message) = 0;
 
     /// One beep, for what needs no words.
-    virtual void Piepton() = 0;
+    virtual void Beep() = 0;
 };
 
 /// Keeps messages for later, and never beeps.
-class Meldungsliste final : public Meldungsausgabe {
+class MessageCollector final : public MessageSink {
   public:
-    /// `meldungen` must outlive it.
-    explicit Meldungsliste(std::vector<Meldung>& meldungen) : m_meldungen(meldungen) {}
+    /// `messages` must outlive it.
+    explicit MessageCollector(std::vector<Message>& messages) : m_messages(messages) {}
 
-    void Zeige(const Meldung& meldung) override { m_meldungen.push_back(meldung); }
-    void Piepton() override {}
+    void Show(const Message& message) override { m_messages.push_back(message); }
+    void Beep() override {}
 
   private:
-    std::vector<Meldung>& m_meldungen;
+    std::vector<Message>& m_messages;
 };
 
 }  // namespace tarvelin

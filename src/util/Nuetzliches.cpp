@@ -13,148 +13,148 @@ namespace tarvelin {
 namespace {
 
 /// Length in bytes of the UTF-8 character that begins a text; a stray byte is one of its own.
-std::size_t ErstesZeichen(std::string_view text) {
-    const bool mehrere = static_cast<unsigned char>(text.front()) >= 0xC0U;
+std::size_t FirstCharacter(std::string_view text) {
+    const bool several = static_cast<unsigned char>(text.front()) >= 0xC0U;
     std::size_t n = 1;
-    while (mehrere && n < text.size() && (static_cast<unsigned char>(text[n]) & 0xC0U) == 0x80U) {
+    while (several && n < text.size() && (static_cast<unsigned char>(text[n]) & 0xC0U) == 0x80U) {
         ++n;
     }
     return n;
 }
 
-void ErsetzeAlle(std::string& text, std::string_view gesucht, std::string_view ersatz) {
-    for (auto ort = text.find(gesucht); ort != std::string::npos;
-         ort = text.find(gesucht, ort + ersatz.size())) {
-        text.replace(ort, gesucht.size(), ersatz);
+void ReplaceAll(std::string& text, std::string_view wanted, std::string_view replacement) {
+    for (auto position = text.find(wanted); position != std::string::npos;
+         position = text.find(wanted, position + replacement.size())) {
+        text.replace(position, wanted.size(), replacement);
     }
 }
 
-std::string MindestensZweistellig(std::int64_t zahl) {
-    return PadIntegerDigits(std::to_string(zahl), 2);
+std::string AtLeastTwoDigits(std::int64_t number) {
+    return PadIntegerDigits(std::to_string(number), 2);
 }
 
 /// Seconds of one unit, 0 for an unknown one.
-std::int64_t SekundenJe(std::string_view einheit) {
-    if (einheit == "s") {
+std::int64_t SecondsPer(std::string_view unit) {
+    if (unit == "s") {
         return 1;
     }
-    if (einheit == "m") {
+    if (unit == "m") {
         return 60;
     }
-    if (einheit == "h") {
+    if (unit == "h") {
         return 3600;
     }
-    return einheit == "d" ? 86400 : 0;
+    return unit == "d" ? 86400 : 0;
 }
 
-/// How many of days, hours and minutes take no part, as time above `einheit` flows into it.
-int Rang(std::string_view einheit) {
-    constexpr std::string_view kEinheiten = "dhms";
-    const auto ort = einheit.size() == 1 ? kEinheiten.find(einheit) : std::string_view::npos;
-    return ort == std::string_view::npos ? 0 : static_cast<int>(ort);
+/// How many of days, hours and minutes take no part, as time above `unit` flows into it.
+int Rank(std::string_view unit) {
+    constexpr std::string_view kUnits = "dhms";
+    const auto position = unit.size() == 1 ? kUnits.find(unit) : std::string_view::npos;
+    return position == std::string_view::npos ? 0 : static_cast<int>(position);
 }
 
 /// Takes the whole units out of `rest`.
-std::int64_t NimmGanze(std::int64_t& rest, std::int64_t sekundenJeEinheit) {
-    const auto ganze =
-        Rundung::floor(static_cast<double>(rest) / static_cast<double>(sekundenJeEinheit));
-    rest -= ganze * sekundenJeEinheit;
-    return ganze;
+std::int64_t TakeWhole(std::int64_t& rest, std::int64_t secondsPerUnit) {
+    const auto whole =
+        Rounding::Floor(static_cast<double>(rest) / static_cast<double>(secondsPerUnit));
+    rest -= whole * secondsPerUnit;
+    return whole;
 }
 
 }  // namespace
 
 std::string GetToken(std::string_view Text, int Index, std::string_view Separator) {
-    const std::string_view trenner = Separator.empty() ? ":" : Separator;
-    std::string kopie(Text);
-    if (!kopie.ends_with(trenner)) {
-        kopie += trenner;
+    const std::string_view separator = Separator.empty() ? ":" : Separator;
+    std::string copy(Text);
+    if (!copy.ends_with(separator)) {
+        copy += separator;
     }
-    std::string_view rest = kopie;
-    if (rest.starts_with(trenner)) {
-        rest.remove_prefix(trenner.size());
+    std::string_view rest = copy;
+    if (rest.starts_with(separator)) {
+        rest.remove_prefix(separator.size());
     }
     std::string_view token;
     for (int i = 0; i < Index; ++i) {
-        token = TextBefore(rest, trenner);
+        token = TextBefore(rest, separator);
         if (rest.empty()) {
             break;
         }
-        rest = TextAfter(rest, trenner);
+        rest = TextAfter(rest, separator);
     }
     return std::string(token);
 }
 
 std::string_view TextBefore(std::string_view Text, std::string_view Separator) {
-    const auto ort = Text.find(Separator);
-    return ort == std::string_view::npos ? std::string_view() : Text.substr(0, ort);
+    const auto position = Text.find(Separator);
+    return position == std::string_view::npos ? std::string_view() : Text.substr(0, position);
 }
 
 std::string_view TextAfter(std::string_view Text, std::string_view Separator) {
-    const auto ort = Text.find(Separator);
-    if (ort == std::string_view::npos || Separator.empty()) {
+    const auto position = Text.find(Separator);
+    if (position == std::string_view::npos || Separator.empty()) {
         return Text;
     }
-    return Text.substr(ort + ErstesZeichen(Text.substr(ort)));
+    return Text.substr(position + FirstCharacter(Text.substr(position)));
 }
 
 std::string PadIntegerDigits(std::string Text, int Count) {
-    if (!IstZahl(Text)) {
+    if (!IsNumber(Text)) {
         return Text;
     }
-    const std::size_t laenge = std::min(Text.find(','), Text.size());
-    const auto ziel = static_cast<std::size_t>(std::max(Count, 0));
-    Text.insert(0, laenge < ziel ? ziel - laenge : 0, '0');
+    const std::size_t length = std::min(Text.find(','), Text.size());
+    const auto target = static_cast<std::size_t>(std::max(Count, 0));
+    Text.insert(0, length < target ? target - length : 0, '0');
     return Text;
 }
 
 std::string PadDecimals(std::string Text, int Count) {
-    if (Count < 1 || !IstZahl(Text)) {
+    if (Count < 1 || !IsNumber(Text)) {
         return Text;
     }
-    const auto ziel = static_cast<std::size_t>(Count);
-    auto komma = Text.rfind(',');
-    if (komma == std::string::npos) {
-        komma = Text.size();
+    const auto target = static_cast<std::size_t>(Count);
+    auto comma = Text.rfind(',');
+    if (comma == std::string::npos) {
+        comma = Text.size();
         Text += ',';
     }
-    const std::size_t stellen = Text.size() - komma - 1;
-    Text.append(stellen < ziel ? ziel - stellen : 0, '0');
+    const std::size_t decimals = Text.size() - comma - 1;
+    Text.append(decimals < target ? target - decimals : 0, '0');
     return Text;
 }
 
 std::string FormatDuration(Long Value, std::string_view Unit, std::string_view Format,
                            std::string_view TopUnit) {
-    const std::int64_t sekundenJeEinheit = SekundenJe(Unit);
-    if (sekundenJeEinheit == 0) {
+    const std::int64_t secondsPerUnit = SecondsPer(Unit);
+    if (secondsPerUnit == 0) {
         return "";
     }
-    std::int64_t rest = Saettige<Long>(Value * sekundenJeEinheit);
-    const int rang = Rang(TopUnit);
-    const std::int64_t tage = rang == 0 ? NimmGanze(rest, 86400) : 0;
-    const std::int64_t stunden = rang < 2 ? NimmGanze(rest, 3600) : 0;
-    const std::int64_t minuten = rang < 3 ? NimmGanze(rest, 60) : 0;
+    std::int64_t rest = Saturate<Long>(Value * secondsPerUnit);
+    const int rank = Rank(TopUnit);
+    const std::int64_t days = rank == 0 ? TakeWhole(rest, 86400) : 0;
+    const std::int64_t hours = rank < 2 ? TakeWhole(rest, 3600) : 0;
+    const std::int64_t minutes = rank < 3 ? TakeWhole(rest, 60) : 0;
 
-    struct Ersetzung {
-        std::string_view feld;
+    struct Replacement {
+        std::string_view field;
         std::string text;
     };
-    const std::array<Ersetzung, 13> ersetzungen{{{"dd", MindestensZweistellig(tage)},
-                                                 {"d", std::to_string(tage)},
-                                                 {"hh", MindestensZweistellig(stunden)},
-                                                 {"h", std::to_string(stunden)},
-                                                 {"mm", MindestensZweistellig(minuten)},
-                                                 {"m", std::to_string(minuten)},
-                                                 {"ss", MindestensZweistellig(rest)},
-                                                 {"s", std::to_string(rest)},
-                                                 {"(0)", " Tage "},
-                                                 {"(1)", "h "},
-                                                 {"(2)", "m "},
-                                                 {"(3)", "s "},
-                                                 {"(&)", "und"}}};
+    const std::array<Replacement, 13> replacements{{{"dd", AtLeastTwoDigits(days)},
+                                                    {"d", std::to_string(days)},
+                                                    {"hh", AtLeastTwoDigits(hours)},
+                                                    {"h", std::to_string(hours)},
+                                                    {"mm", AtLeastTwoDigits(minutes)},
+                                                    {"m", std::to_string(minutes)},
+                                                    {"ss", AtLeastTwoDigits(rest)},
+                                                    {"s", std::to_string(rest)},
+                                                    {"(0)", " Tage "},
+                                                    {"(1)", "h "},
+                                                    {"(2)", "m "},
+                                                    {"(3)", "s "},
+                                                    {"(&)", "und"}}};
     std::string text(Format);
-    for (const auto& ersetzung : ersetzungen) {
-        ErsetzeAlle(text, ersetzung.feld, ersetzung.text);
+    for (const auto& replacement : replacements) {
+        ReplaceAll(text, replacement.field, replacement.text);
     }
     return text;
 }

@@ -13,123 +13,123 @@ namespace tarvelin {
 
 namespace {
 
-/// A number text taken apart: its sign and its digits, of which `mitKomma` tells whether one of
+/// A number text taken apart: its sign and its digits, of which `hasComma` tells whether one of
 /// them is a comma.
-struct Zahlform {
-    bool negativ = false;
-    std::string_view ziffern;
-    bool mitKomma = false;
+struct NumberForm {
+    bool negative = false;
+    std::string_view digits;
+    bool hasComma = false;
 };
 
-constexpr bool IstZiffer(char zeichen) {
-    return zeichen >= '0' && zeichen <= '9';
+constexpr bool IsDigit(char character) {
+    return character >= '0' && character <= '9';
 }
 
-std::optional<Zahlform> Zerlege(std::string_view text) {
-    const auto anfang = text.find_first_not_of(' ');
-    if (anfang == std::string_view::npos) {
+std::optional<NumberForm> Split(std::string_view text) {
+    const auto begin = text.find_first_not_of(' ');
+    if (begin == std::string_view::npos) {
         return std::nullopt;
     }
-    text = text.substr(anfang, text.find_last_not_of(' ') - anfang + 1);
-    Zahlform form;
+    text = text.substr(begin, text.find_last_not_of(' ') - begin + 1);
+    NumberForm form;
     if (text.front() == '-' || text.front() == '+') {
-        form.negativ = text.front() == '-';
+        form.negative = text.front() == '-';
         text.remove_prefix(1);
     }
-    const auto komma = text.find(',');
-    const std::string_view ganz = text.substr(0, komma);
-    form.ziffern = text;
-    form.mitKomma = komma != std::string_view::npos;
-    const std::string_view bruch = form.mitKomma ? text.substr(komma + 1) : ganz;
-    if (bruch.empty() || !std::ranges::all_of(ganz, IstZiffer) ||
-        !std::ranges::all_of(bruch, IstZiffer)) {
+    const auto comma = text.find(',');
+    const std::string_view whole = text.substr(0, comma);
+    form.digits = text;
+    form.hasComma = comma != std::string_view::npos;
+    const std::string_view breach = form.hasComma ? text.substr(comma + 1) : whole;
+    if (breach.empty() || !std::ranges::all_of(whole, IsDigit) ||
+        !std::ranges::all_of(breach, IsDigit)) {
         return std::nullopt;
     }
     return form;
 }
 
-/// All digits in front of the point, and `stellen` behind it.
-std::string AlleZiffern(double wert, int stellen) {
-    constexpr auto kMeisteZiffern =
+/// All digits in front of the point, and `decimals` behind it.
+std::string AllDigits(double value, int decimals) {
+    constexpr auto kMaxDigits =
         static_cast<std::size_t>(std::numeric_limits<double>::max_exponent10) + 4;
-    std::string text(kMeisteZiffern + static_cast<std::size_t>(stellen), '\0');
-    const auto ende = std::to_chars(text.data(), text.data() + text.size(), wert,
-                                    std::chars_format::fixed, stellen);
-    text.resize(static_cast<std::size_t>(ende.ptr - text.data()));
+    std::string text(kMaxDigits + static_cast<std::size_t>(decimals), '\0');
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), value,
+                                   std::chars_format::fixed, decimals);
+    text.resize(static_cast<std::size_t>(end.ptr - text.data()));
     return text;
 }
 
-double InDoubleGrenzen(double wert) {
+double InDoubleLimits(double value) {
     constexpr double kMax = std::numeric_limits<double>::max();
-    return std::isnan(wert) ? 0.0 : std::clamp(wert, -kMax, kMax);
+    return std::isnan(value) ? 0.0 : std::clamp(value, -kMax, kMax);
 }
 
 }  // namespace
 
-std::optional<double> LiesZahl(std::string_view text) {
-    const auto form = Zerlege(text);
+std::optional<double> ParseNumber(std::string_view text) {
+    const auto form = Split(text);
     if (!form) {
         return std::nullopt;
     }
-    std::string ziffern(1, '0');
-    ziffern += form->ziffern;
-    std::ranges::replace(ziffern, ',', '.');
-    double wert = 0;
-    const auto ergebnis = std::from_chars(ziffern.data(), ziffern.data() + ziffern.size(), wert,
-                                          std::chars_format::fixed);
-    if (ergebnis.ec == std::errc::result_out_of_range) {
+    std::string digits(1, '0');
+    digits += form->digits;
+    std::ranges::replace(digits, ',', '.');
+    double value = 0;
+    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value,
+                                        std::chars_format::fixed);
+    if (result.ec == std::errc::result_out_of_range) {
         // Too large, or so small that it is 0.
-        wert = ziffern.find_first_not_of('0') < ziffern.find('.')
-                   ? std::numeric_limits<double>::max()
-                   : 0.0;
+        value = digits.find_first_not_of('0') < digits.find('.')
+                    ? std::numeric_limits<double>::max()
+                    : 0.0;
     }
-    return form->negativ ? -wert : wert;
+    return form->negative ? -value : value;
 }
 
-bool IstZahl(std::string_view text) {
-    return Zerlege(text).has_value();
+bool IsNumber(std::string_view text) {
+    return Split(text).has_value();
 }
 
-std::optional<std::int64_t> LiesGanzzahl(std::string_view text, std::int64_t min,
-                                         std::int64_t max) {
-    const auto form = Zerlege(text);
-    if (!form || form->mitKomma) {
+std::optional<std::int64_t> ParseWholeNumber(std::string_view text, std::int64_t min,
+                                             std::int64_t max) {
+    const auto form = Split(text);
+    if (!form || form->hasComma) {
         return std::nullopt;
     }
-    std::string ziffern(form->negativ ? 1 : 0, '-');
-    ziffern += form->ziffern;
-    std::int64_t wert = 0;
-    const auto ergebnis = std::from_chars(ziffern.data(), ziffern.data() + ziffern.size(), wert);
-    if (ergebnis.ec == std::errc::result_out_of_range) {
-        wert = form->negativ ? std::numeric_limits<std::int64_t>::min()
-                             : std::numeric_limits<std::int64_t>::max();
+    std::string digits(form->negative ? 1 : 0, '-');
+    digits += form->digits;
+    std::int64_t value = 0;
+    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    if (result.ec == std::errc::result_out_of_range) {
+        value = form->negative ? std::numeric_limits<std::int64_t>::min()
+                               : std::numeric_limits<std::int64_t>::max();
     }
-    return wert >= min && wert <= max ? std::optional(wert) : std::nullopt;
+    return value >= min && value <= max ? std::optional(value) : std::nullopt;
 }
 
-std::string Dezimaltext(double wert, int stellen) {
-    constexpr double kOhneBruch = 9007199254740992.0;  // from 2^53 on a double is whole
-    if (!(std::abs(wert) < kOhneBruch)) {
-        return Ganztext(wert);
+std::string DecimalText(double value, int decimals) {
+    constexpr double kNoFraction = 9007199254740992.0;  // from 2^53 on a double is whole
+    if (!(std::abs(value) < kNoFraction)) {
+        return WholeText(value);
     }
-    const double zehnerpotenz = std::pow(10.0, stellen);
-    const double produkt = wert * zehnerpotenz;
+    const double powerOfTen = std::pow(10.0, decimals);
+    const double product = value * powerOfTen;
     // A product without a fraction needs no rounding, and the value as it is has fewer digits.
-    const double gerundet = std::abs(produkt) < kOhneBruch
-                                ? static_cast<double>(Rundung::half_even(produkt)) / zehnerpotenz
-                                : wert;
-    std::string text = AlleZiffern(gerundet == 0 ? 0.0 : gerundet, stellen);
-    if (const auto punkt = text.find('.'); punkt != std::string::npos) {
-        text[punkt] = ',';
+    const double rounded = std::abs(product) < kNoFraction
+                               ? static_cast<double>(Rounding::HalfEven(product)) / powerOfTen
+                               : value;
+    std::string text = AllDigits(rounded == 0 ? 0.0 : rounded, decimals);
+    if (const auto dot = text.find('.'); dot != std::string::npos) {
+        text[dot] = ',';
         text.erase(text.find_last_not_of('0') + 1);
         text.erase(text.find_last_not_of(',') + 1);
     }
     return text;
 }
 
-std::string Ganztext(double wert) {
-    const double ganz = std::trunc(InDoubleGrenzen(wert));
-    return AlleZiffern(ganz == 0 ? 0.0 : ganz, 0);  // no "-0"
+std::string WholeText(double value) {
+    const double whole = std::trunc(InDoubleLimits(value));
+    return AllDigits(whole == 0 ? 0.0 : whole, 0);  // no "-0"
 }
 
 }  // namespace tarvelin

@@ -7,30 +7,30 @@
 
 namespace tarvelin {
 
-std::string AusUtf16(std::string_view bytes, Bytefolge folge) {
+std::string FromUtf16(std::string_view bytes, ByteOrder byteOrder) {
     std::string text;
     text.reserve(bytes.size());
     for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-        auto niedrig = static_cast<unsigned char>(bytes[i]);
-        auto hoch = static_cast<unsigned char>(bytes[i + 1]);
-        if (folge == Bytefolge::GrossesEndeVorn) {
-            std::swap(niedrig, hoch);
+        auto low = static_cast<unsigned char>(bytes[i]);
+        auto high = static_cast<unsigned char>(bytes[i + 1]);
+        if (byteOrder == ByteOrder::BigEndian) {
+            std::swap(low, high);
         }
-        HaengeZeichenAn(text, hoch * 0x100U + niedrig);
+        AppendCodePoint(text, high * 0x100U + low);
     }
     return text;
 }
 
-std::string NachUtf16(std::string_view text, Bytefolge folge) {
+std::string ToUtf16(std::string_view text, ByteOrder byteOrder) {
     std::string bytes;
     bytes.reserve(2 * text.size());
     while (!text.empty()) {
-        const char32_t zeichen = NimmZeichen(text);
-        const char32_t einheit = zeichen > 0xFFFF ? 0xFFFD : zeichen;
-        const auto niedrig = static_cast<char>(einheit & 0xFFU);
-        const auto hoch = static_cast<char>(einheit >> 8U);
-        bytes += folge == Bytefolge::KleinesEndeVorn ? niedrig : hoch;
-        bytes += folge == Bytefolge::KleinesEndeVorn ? hoch : niedrig;
+        const char32_t character = TakeCodePoint(text);
+        const char32_t unit = character > 0xFFFF ? 0xFFFD : character;
+        const auto low = static_cast<char>(unit & 0xFFU);
+        const auto high = static_cast<char>(unit >> 8U);
+        bytes += byteOrder == ByteOrder::LittleEndian ? low : high;
+        bytes += byteOrder == ByteOrder::LittleEndian ? high : low;
     }
     return bytes;
 }

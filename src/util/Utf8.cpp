@@ -5,46 +5,46 @@
 
 namespace tarvelin {
 
-void HaengeZeichenAn(std::string& text, char32_t zeichen) {
-    if (zeichen < 0x80) {
-        text += static_cast<char>(zeichen);
-    } else if (zeichen < 0x800) {
-        text += static_cast<char>(0xC0U | (zeichen >> 6U));
-        text += static_cast<char>(0x80U | (zeichen & 0x3FU));
+void AppendCodePoint(std::string& text, char32_t character) {
+    if (character < 0x80) {
+        text += static_cast<char>(character);
+    } else if (character < 0x800) {
+        text += static_cast<char>(0xC0U | (character >> 6U));
+        text += static_cast<char>(0x80U | (character & 0x3FU));
     } else {
-        text += static_cast<char>(0xE0U | (zeichen >> 12U));
-        text += static_cast<char>(0x80U | ((zeichen >> 6U) & 0x3FU));
-        text += static_cast<char>(0x80U | (zeichen & 0x3FU));
+        text += static_cast<char>(0xE0U | (character >> 12U));
+        text += static_cast<char>(0x80U | ((character >> 6U) & 0x3FU));
+        text += static_cast<char>(0x80U | (character & 0x3FU));
     }
 }
 
-char32_t NimmZeichen(std::string_view& rest) {
-    constexpr char32_t kErsatz = 0xFFFD;
-    constexpr char32_t kGroesstes = 0x10FFFF;
-    const auto erstes = static_cast<unsigned char>(rest.front());
+char32_t TakeCodePoint(std::string_view& rest) {
+    constexpr char32_t kReplacement = 0xFFFD;
+    constexpr char32_t kLargest = 0x10FFFF;
+    const auto first = static_cast<unsigned char>(rest.front());
     rest.remove_prefix(1);
-    if (erstes < 0x80) {
-        return erstes;
+    if (first < 0x80) {
+        return first;
     }
-    const std::size_t folgende = erstes >= 0xF0 ? 3 : (erstes >= 0xE0 ? 2 : 1);
-    if (erstes < 0xC2 || erstes > 0xF4 || rest.size() < folgende) {
-        return kErsatz;
+    const std::size_t following = first >= 0xF0 ? 3 : (first >= 0xE0 ? 2 : 1);
+    if (first < 0xC2 || first > 0xF4 || rest.size() < following) {
+        return kReplacement;
     }
-    char32_t zeichen = erstes & (0x3FU >> folgende);
-    for (std::size_t i = 0; i < folgende; ++i) {
+    char32_t character = first & (0x3FU >> following);
+    for (std::size_t i = 0; i < following; ++i) {
         const auto byte = static_cast<unsigned char>(rest[i]);
         if ((byte & 0xC0U) != 0x80U) {
-            return kErsatz;
+            return kReplacement;
         }
-        zeichen = (zeichen << 6U) | (byte & 0x3FU);
+        character = (character << 6U) | (byte & 0x3FU);
     }
     // A character written longer than it need be is none.
-    constexpr std::array<char32_t, 4> kKleinste{0, 0x80, 0x800, 0x10000};
-    if (zeichen < kKleinste.at(folgende) || zeichen > kGroesstes) {
-        return kErsatz;
+    constexpr std::array<char32_t, 4> kSmallest{0, 0x80, 0x800, 0x10000};
+    if (character < kSmallest.at(following) || character > kLargest) {
+        return kReplacement;
     }
-    rest.remove_prefix(folgende);
-    return zeichen;
+    rest.remove_prefix(following);
+    return character;
 }
 
 }  // namespace tarvelin

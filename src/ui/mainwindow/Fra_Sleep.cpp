@@ -33,8 +33,8 @@ constexpr std::array<Zeitfeld, 4> kZeitfelder{{
     {"txt_SchlafdauerMinuten", "Dauer, Minuten", &Schlafeingabe::DauerMinuten},
 }};
 
-QDate AlsDatum(Zeitpunkt zeitpunkt) {
-    return QDate::fromString(AlsQString(Datumtext(zeitpunkt)), QStringLiteral("dd.MM.yyyy"));
+QDate AlsDatum(DateTime zeitpunkt) {
+    return QDate::fromString(AlsQString(DateText(zeitpunkt)), QStringLiteral("dd.MM.yyyy"));
 }
 
 QCalendarWidget* NeuerKalender(const QDate& tag, QWidget* parent) {
@@ -181,7 +181,7 @@ void Fra_Sleep::RefreshSchlafEnde() {
 
 void Fra_Sleep::Cmd_AddSchlafzeit_Click() {
     if (const auto meldung = AddSchlafzeit(Lies(), m_tabelle)) {
-        m_umgebung.Boxen.Zeige(*meldung);
+        m_umgebung.Boxen.Show(*meldung);
         return;
     }
     Zeige();

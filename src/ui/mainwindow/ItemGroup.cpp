@@ -26,7 +26,7 @@ Itemplatz NeuerPlatz(ItemId item, QWidget* parent) {
     return {.Item = item,
             .Bild = new Itembild(item, parent),
             .Stufe = stufe,
-            .Desc = NeuesSchild(QStringLiteral("LBLDesc(%1)").arg(Index(item)),
+            .Desc = NeuesSchild(QStringLiteral("LBLDesc(%1)").arg(IndexOf(item)),
                                 AlsQString(ansicht.Bildunterschrift), parent)};
 }
 

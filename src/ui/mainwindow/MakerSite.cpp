@@ -75,12 +75,12 @@ Frage Versionsfrage(std::string_view geladen) {
                     "Server zu ändern..." +
                     kZeilenende + kZeilenende + "Hersteller-Homepage aufrufen ?",
             .Titel = "Version-Check...",
-            .Symbol = Meldungssymbol::Hinweis};
+            .Symbol = MessageIcon::Information};
 }
 
-Meldung Versionsfehler() {
-    return {.Text = "Die Versions-Datei konnte nicht geladen werden...",
-            .Titel = "Version-Check..."};
+Message Versionsfehler() {
+    return {.text = "Die Versions-Datei konnte nicht geladen werden...",
+            .title = "Version-Check..."};
 }
 
 }  // namespace tarvelin

@@ -36,6 +36,6 @@ extern const std::array<Spendenknopf, 6> kSpendenknoepfe;
 [[nodiscard]] Frage Versionsfrage(std::string_view geladen);
 
 /// The message when the version file can't be fetched.
-[[nodiscard]] Meldung Versionsfehler();
+[[nodiscard]] Message Versionsfehler();
 
 }  // namespace tarvelin

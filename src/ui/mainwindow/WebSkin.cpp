@@ -98,17 +98,17 @@ Frage NachFehler(const std::string& ort) {
                     "\" konnte nicht von der angegebenen URL geladen werden...\r\n\r\n"
                     "Vorgang abbrechen ?",
             .Titel = "Download-Fehler...",
-            .Symbol = Meldungssymbol::Warnung};
+            .Symbol = MessageIcon::Warning};
 }
 
 }  // namespace
 
 Webskinausgang HoleWebskin(const std::string& adresse, const std::filesystem::path& ziel,
                            const Umgebung& umgebung, const std::function<bool()>& offen) {
-    umgebung.Boxen.Zeige({.Text = "Der folgende Vorgang kann einige Sekunden dauern, je nach "
-                                  "Internet-Anbindung...",
-                          .Titel = "Fortsetzen...",
-                          .Symbol = Meldungssymbol::Hinweis});
+    umgebung.Boxen.Show({.text = "Der folgende Vorgang kann einige Sekunden dauern, je nach "
+                                 "Internet-Anbindung...",
+                         .title = "Fortsetzen...",
+                         .icon = MessageIcon::Information});
     for (const Skinbild& bild : Skinbilder()) {
         const std::string ort =
             "/" + std::string(bild.Ordner) + "/" + std::string(bild.Name) + ".gif";

@@ -10,24 +10,24 @@ namespace tarvelin {
 
 /// Messages come up with what a load or a run has changed so far on the screen. From the second one
 /// on the user can do without the rest.
-class Standmeldungen final : public Meldungsausgabe {
+class Standmeldungen final : public MessageSink {
   public:
     Standmeldungen(std::function<void()> zeigeStand, Dialoge& boxen)
         : m_zeigeStand(std::move(zeigeStand)), m_boxen(boxen) {}
 
-    void Zeige(const Meldung& meldung) override {
+    void Show(const Message& meldung) override {
         if (!m_gewuenscht) {
             return;
         }
         m_zeigeStand();
         if (m_erste) {
-            m_boxen.Zeige(meldung);
+            m_boxen.Show(meldung);
         } else {
             m_gewuenscht = m_boxen.ZeigeAbstellbar(meldung);
         }
         m_erste = false;
     }
-    void Piepton() override { m_boxen.Piepton(); }
+    void Beep() override { m_boxen.Beep(); }
 
   private:
     std::function<void()> m_zeigeStand;

@@ -236,7 +236,7 @@ bool frmMain::eventFilter(QObject* ziel, QEvent* event) {
 }
 
 void frmMain::SetzeHeute() {
-    const Zeitpunkt heute = m_umgebung.Jetzt();
+    const DateTime heute = m_umgebung.Jetzt();
     SetzeStartdatum(m_plan.Parameter, heute);
     m_Fra_Einstellungen->Zeige();
     // Whatever the hour says.
@@ -246,7 +246,7 @@ void frmMain::SetzeHeute() {
 void frmMain::mnu_UpdateCheck_Click() {
     const auto geladen = m_umgebung.Netz.Hole(Versionsdatei());
     if (!geladen) {
-        m_umgebung.Boxen.Zeige(Versionsfehler());
+        m_umgebung.Boxen.Show(Versionsfehler());
     } else if (m_umgebung.Boxen.Stelle(Versionsfrage(*geladen))) {
         m_umgebung.OeffneSeite(Downloadseite());
     }
@@ -394,8 +394,8 @@ void frmMain::SpieleStill() {
     if (const auto* const gute = std::get_if<Startbedingungen>(&bedingungen)) {
         m_lauf.Beginne(*gute);
         m_texte.NachReset();
-        std::vector<Meldung> meldungen;
-        Meldungsliste liste(meldungen);
+        std::vector<Message> meldungen;
+        MessageCollector liste(meldungen);
         RunSimulation(m_plan.Liste.Auftraege().Alle(), m_lauf, liste);
         m_texte.NachLauf(m_lauf.Stand);
     } else if (m_plan.Liste.Auftraege().IstLeer()) {
@@ -415,15 +415,15 @@ void frmMain::ZeigeInWerkbank() {
 
 void frmMain::LV_Bauliste_DragDrop(const QString& Source) {
     const auto item = ItemVonBild(Source.toStdString());
-    std::optional<Meldung> meldung;
+    std::optional<Message> meldung;
     if (item) {
         meldung = m_plan.Liste.AddItem(*item, m_lauf.Bedingungen);
     } else {
-        meldung = Meldung{.Text = "KA", .Titel = "", .Symbol = Meldungssymbol::Ohne};
+        meldung = Message{.text = "KA", .title = "", .icon = MessageIcon::None};
     }
     if (meldung) {
         // A box would come up inside the drag; it waits until the pointer is free.
-        QTimer::singleShot(0, this, [this, text = *meldung] { m_umgebung.Boxen.Zeige(text); });
+        QTimer::singleShot(0, this, [this, text = *meldung] { m_umgebung.Boxen.Show(text); });
         return;
     }
     ZeigeNeueZeile();
@@ -434,7 +434,7 @@ void frmMain::Cmd_AddProdaenderungsevent_Click() {
     const auto meldung =
         m_plan.Liste.AddProdaenderungsevent(m_Fra_Special->Faktoren(), m_lauf.Bedingungen);
     if (meldung) {
-        m_umgebung.Boxen.Zeige(*meldung);
+        m_umgebung.Boxen.Show(*meldung);
         return;
     }
     ZeigeNeueZeile();
@@ -509,13 +509,13 @@ std::optional<Startbedingungen> frmMain::PruefeEingaben(bool silent) {
         FuelleStartdatum();
     }
     const auto bedingungen = LiesStartbedingungen(m_plan);
-    const auto* const absage = std::get_if<Meldung>(&bedingungen);
+    const auto* const absage = std::get_if<Message>(&bedingungen);
     if (absage == nullptr) {
         return std::get<Startbedingungen>(bedingungen);
     }
     if (!silent || !leer) {
         ZeigeStandDesLaufs();
-        m_umgebung.Boxen.Zeige(*absage);
+        m_umgebung.Boxen.Show(*absage);
     }
     return std::nullopt;
 }

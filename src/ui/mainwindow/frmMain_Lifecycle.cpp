@@ -28,7 +28,7 @@ void frmMain::Form_Load() {
     FolgeBildschirm();
     WarteAufBildschirm();
     if (m_umgebung.Starthinweis) {
-        m_umgebung.Boxen.Zeige(*m_umgebung.Starthinweis);
+        m_umgebung.Boxen.Show(*m_umgebung.Starthinweis);
     }
     if (!IstGeschlossen() && !BringePlanargument() && !IstGeschlossen()) {
         BringePlan();
@@ -106,7 +106,7 @@ bool frmMain::StelleWiederHer(const std::optional<Profil>& letzter) {
     }
     const auto frage = [this](const char* text) {
         return m_umgebung.Boxen.Stelle(
-            {.Text = text, .Titel = "Wiederherstellen...", .Symbol = Meldungssymbol::Frage});
+            {.Text = text, .Titel = "Wiederherstellen...", .Symbol = MessageIcon::Question});
     };
     const bool ja = frage("Möchtest du die letzte Bauliste wiederherstellen?");
     const bool immer = frage("Bei jedem Start so verfahren?");
@@ -215,7 +215,7 @@ void frmMain::mnu_Datei_Speichern_Click() {
     if (SaveBauliste(datei, m_plan, m_umgebung.Dateien)) {
         MerkeGesichert(datei);
     } else {
-        m_umgebung.Boxen.Zeige(Speicherfehler());
+        m_umgebung.Boxen.Show(Speicherfehler());
     }
 }
 
@@ -237,7 +237,7 @@ bool frmMain::LoadBauliste(const std::filesystem::path& File, bool Silent) {
 bool frmMain::LoadBauliste(const std::optional<Profil>& profil, const std::filesystem::path& File,
                            bool Silent) {
     if (!profil) {
-        m_umgebung.Boxen.Zeige(Ladefehler());
+        m_umgebung.Boxen.Show(Ladefehler());
         return false;
     }
     BewahreErsetzten();

@@ -20,15 +20,15 @@ struct Frage {
     std::string Text;
     /// Empty where a question has no title of its own.
     std::string Titel;
-    Meldungssymbol Symbol = Meldungssymbol::Ohne;
+    MessageIcon Symbol = MessageIcon::None;
 };
 
 /// The modal boxes of the window.
-class Dialoge : public Meldungsausgabe {
+class Dialoge : public MessageSink {
   public:
     /// As `Zeige`, with a check box by which the user wants no more of this kind. Whether he still
     /// wants them.
-    [[nodiscard]] virtual bool ZeigeAbstellbar(const Meldung& meldung) = 0;
+    [[nodiscard]] virtual bool ZeigeAbstellbar(const Message& meldung) = 0;
     /// Whether the user answered "Ja". Closing the box is a "Nein".
     [[nodiscard]] virtual bool Stelle(const Frage& frage) = 0;
 
@@ -80,7 +80,7 @@ struct Umgebung {
     Abruf& Netz;
     Klang& Ton;
     /// The wall clock of the machine, in its local time.
-    std::function<Zeitpunkt()> Jetzt;
+    std::function<DateTime()> Jetzt;
     /// Opens an address in the user's web browser.
     std::function<void(const std::string&)> OeffneSeite;
     /// Where `img`, `mfx`, `saves` and `config.cfg` lie.
@@ -93,7 +93,7 @@ struct Umgebung {
     /// The plan to open at the start in the place of the last one; empty for none.
     std::filesystem::path Planargument = {};
     /// What the user has to know from the start on.
-    std::optional<Meldung> Starthinweis = std::nullopt;
+    std::optional<Message> Starthinweis = std::nullopt;
 
     /// As that of the boxes, from where plans lie.
     [[nodiscard]] std::filesystem::path FragNachDatei(Dialoge::Zweck zweck) const {

@@ -19,17 +19,17 @@ namespace tarvelin {
 
 namespace {
 
-QMessageBox::Icon Symbol(Meldungssymbol symbol) {
+QMessageBox::Icon Symbol(MessageIcon symbol) {
     switch (symbol) {
-        case Meldungssymbol::Fehler:
+        case MessageIcon::Error:
             return QMessageBox::Critical;
-        case Meldungssymbol::Frage:
+        case MessageIcon::Question:
             return QMessageBox::Question;
-        case Meldungssymbol::Warnung:
+        case MessageIcon::Warning:
             return QMessageBox::Warning;
-        case Meldungssymbol::Hinweis:
+        case MessageIcon::Information:
             return QMessageBox::Information;
-        case Meldungssymbol::Ohne:
+        case MessageIcon::None:
             break;
     }
     return QMessageBox::NoIcon;
@@ -61,7 +61,7 @@ void GibTitelRaum(QMessageBox& box, const QString& titel) {
 /// A message box as ours look.
 class Box : public QMessageBox {
   public:
-    Box(const std::string& text, const std::string& titel, Meldungssymbol symbol,
+    Box(const std::string& text, const std::string& titel, MessageIcon symbol,
         QMessageBox::StandardButtons knoepfe)
         : QMessageBox(Elternfenster()) {
         const QString titelzeile = titel.empty() ? QStringLiteral("Tarvelin") : AlsQString(titel);
@@ -79,8 +79,8 @@ class Box : public QMessageBox {
         }
         GibTitelRaum(*this, titelzeile);
     }
-    explicit Box(const Meldung& meldung)
-        : Box(meldung.Text, meldung.Titel, meldung.Symbol, QMessageBox::Ok) {}
+    explicit Box(const Message& meldung)
+        : Box(meldung.text, meldung.title, meldung.icon, QMessageBox::Ok) {}
 };
 
 /// Files with sizes and dates in German: the toolkit's model takes the system's language for them.
@@ -137,12 +137,12 @@ void Meldungsfenster::Beende() {
     }
 }
 
-void Meldungsfenster::Zeige(const Meldung& meldung) {
+void Meldungsfenster::Show(const Message& meldung) {
     Box box(meldung);
     Oeffne(box);
 }
 
-bool Meldungsfenster::ZeigeAbstellbar(const Meldung& meldung) {
+bool Meldungsfenster::ZeigeAbstellbar(const Message& meldung) {
     Box box(meldung);
     // The box owns it.
     auto* const abstellen = new QCheckBox(QStringLiteral("In diesem Lauf nicht mehr zeigen"));
@@ -151,7 +151,7 @@ bool Meldungsfenster::ZeigeAbstellbar(const Meldung& meldung) {
     return !abstellen->isChecked();
 }
 
-void Meldungsfenster::Piepton() {
+void Meldungsfenster::Beep() {
     QApplication::beep();
 }
 

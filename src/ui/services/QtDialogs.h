@@ -11,9 +11,9 @@ namespace tarvelin {
 /// Boxes stand over the window that is active. Texts are shown as they are, never read as markup.
 class Meldungsfenster final : public Dialoge {
   public:
-    void Zeige(const Meldung& meldung) override;
-    [[nodiscard]] bool ZeigeAbstellbar(const Meldung& meldung) override;
-    void Piepton() override;
+    void Show(const Message& meldung) override;
+    [[nodiscard]] bool ZeigeAbstellbar(const Message& meldung) override;
+    void Beep() override;
     [[nodiscard]] bool Stelle(const Frage& frage) override;
     [[nodiscard]] std::filesystem::path FragNachDatei(Zweck zweck,
                                                       const std::filesystem::path& ordner) override;

@@ -95,7 +95,7 @@ void Vergleichsfeld::LadeDatei() {
     const Planlauf lauf(Pfadtext(datei.filename()).toStdString(),
                         Profil::Lade(datei, m_umgebung.Dateien));
     if (!lauf.Gelaufen) {
-        emit Meldung(lauf.Meldungen.empty() ? "" : lauf.Meldungen.back().Text);
+        emit Meldung(lauf.Meldungen.empty() ? "" : lauf.Meldungen.back().text);
         return;
     }
     emit Meldung(lauf.Lauf.Stand.IstAmEndeDerUhr() ? UeberDieUhrText() : "");

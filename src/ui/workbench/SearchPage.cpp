@@ -273,7 +273,7 @@ void Suchfeld::Uebernimm() {
         !m_umgebung.Boxen.Stelle({.Text = "Der Plan wurde seit dem Beginn der Suche geändert. Soll "
                                           "der gefundene trotzdem an seine Stelle treten?",
                                   .Titel = "Übernehmen...",
-                                  .Symbol = Meldungssymbol::Frage})) {
+                                  .Symbol = MessageIcon::Question})) {
         return;
     }
     std::vector<std::string> tags;

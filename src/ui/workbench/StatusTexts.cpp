@@ -22,10 +22,10 @@ std::string Vorratstext(const Ablauf& ablauf, Moment moment) {
     for (const auto& [was, name] :
          {Name{Rohstoff::Metall, "Metall"}, Name{Rohstoff::Kristall, "Kristall"},
           Name{Rohstoff::Deuterium, "Deuterium"}}) {
-        text += std::string("   ") + name + ": " + std::to_string(vorrat[was].GanzerTeil()) + " (" +
-                Dezimaltext(punkt.ProStunde[was]) + "/h)";
+        text += std::string("   ") + name + ": " + std::to_string(vorrat[was].WholePart()) + " (" +
+                DecimalText(punkt.ProStunde[was]) + "/h)";
     }
-    const Long frei = LongSumme(punkt.EnergieProduktion, -std::int64_t{punkt.EnergieVerbrauch});
+    const Long frei = LongSum(punkt.EnergieProduktion, -std::int64_t{punkt.EnergieVerbrauch});
     return text + "   Energie: " + std::to_string(frei) + " / " +
            std::to_string(punkt.EnergieProduktion);
 }
@@ -43,10 +43,10 @@ std::string Stufentext(const Verlaufspunkt& punkt) {
 
 }  // namespace
 
-std::string Zeittext(Zeitpunkt zeitpunkt) {
-    const std::string datum = Datumtext(zeitpunkt);
-    return std::string(WochentagKurz(zeitpunkt)) + " " + datum.substr(0, datum.rfind('.') + 1) +
-           " " + Uhrzeittext(zeitpunkt);
+std::string Zeittext(DateTime zeitpunkt) {
+    const std::string datum = DateText(zeitpunkt);
+    return std::string(WeekdayShort(zeitpunkt)) + " " + datum.substr(0, datum.rfind('.') + 1) +
+           " " + TimeOfDayText(zeitpunkt);
 }
 
 std::string Standtext(const Ablauf& ablauf, Moment moment) {
@@ -55,7 +55,7 @@ std::string Standtext(const Ablauf& ablauf, Moment moment) {
            Stufentext(PunktUm(ablauf.Kurve, moment));
 }
 
-std::optional<std::string> NaechsterAuftrag(const Ablauf& ablauf, Zeitpunkt jetzt) {
+std::optional<std::string> NaechsterAuftrag(const Ablauf& ablauf, DateTime jetzt) {
     const Startbedingungen& bedingungen = ablauf.Bedingungen;
     if (jetzt < bedingungen.StartDate || jetzt > bedingungen.Uhrzeit(ablauf.Dauer())) {
         return std::nullopt;
@@ -66,8 +66,9 @@ std::optional<std::string> NaechsterAuftrag(const Ablauf& ablauf, Zeitpunkt jetz
     if (naechster == ablauf.Starts.end()) {
         return "alle Aufträge sind gegeben";
     }
-    const Zeitpunkt um = bedingungen.Uhrzeit(naechster->Start);
-    return Auftragstext(*naechster) + " um " + Uhrzeittext(um) + ", in " + Spannentext(um - jetzt);
+    const DateTime um = bedingungen.Uhrzeit(naechster->Start);
+    return Auftragstext(*naechster) + " um " + TimeOfDayText(um) + ", in " +
+           Spannentext(um - jetzt);
 }
 
 std::string Meldungszeile(const Ablauf& ablauf) {
@@ -75,7 +76,7 @@ std::string Meldungszeile(const Ablauf& ablauf) {
     if (ablauf.Ende.IstAmEndeDerUhr()) {
         texte.push_back(UeberDieUhrText());
     }
-    std::ranges::transform(ablauf.Meldungen, std::back_inserter(texte), &Meldung::Text);
+    std::ranges::transform(ablauf.Meldungen, std::back_inserter(texte), &Message::text);
     std::string text = texte.empty() ? "" : texte.front();
     if (texte.size() == 2) {
         text += "\n" + texte.back();

@@ -28,12 +28,12 @@ class Zeitachse {
 
     /// Tells the marks from `von` to `bis`, in seconds since `beginn`: the second and the words.
     template <class Strich>
-    void JederStrich(Zeitpunkt beginn, double von, double bis, Strich strich) const {
+    void JederStrich(DateTime beginn, double von, double bis, Strich strich) const {
         const auto erste = beginn + static_cast<std::int64_t>(std::floor(von));
         const auto letzte = beginn + static_cast<std::int64_t>(std::ceil(bis));
-        const std::int64_t nummer = erste.Sekunden() / m_schritt;
-        for (std::int64_t um = nummer * m_schritt; um <= letzte.Sekunden(); um += m_schritt) {
-            strich(um - beginn.Sekunden(), Text(Zeitpunkt(um)));
+        const std::int64_t nummer = erste.Seconds() / m_schritt;
+        for (std::int64_t um = nummer * m_schritt; um <= letzte.Seconds(); um += m_schritt) {
+            strich(um - beginn.Seconds(), Text(DateTime(um)));
         }
     }
 
@@ -60,14 +60,14 @@ class Zeitachse {
                                                             7 * kTag,
                                                             14 * kTag};
 
-    [[nodiscard]] std::string Text(Zeitpunkt um) const {
-        const std::string datum = Datumtext(um);
-        std::string tag = std::string(WochentagKurz(um)) + " " +
+    [[nodiscard]] std::string Text(DateTime um) const {
+        const std::string datum = DateText(um);
+        std::string tag = std::string(WeekdayShort(um)) + " " +
                           (m_schritt > kTag ? datum : datum.substr(0, datum.rfind('.') + 1));
         if (m_schritt >= kTag) {
             return tag;
         }
-        const std::string uhrzeit = Uhrzeittext(um);
+        const std::string uhrzeit = TimeOfDayText(um);
         const bool mitSekunden = m_schritt < kMinute;
         return tag + " " + (mitSekunden ? uhrzeit : uhrzeit.substr(0, uhrzeit.rfind(':')));
     }

@@ -31,7 +31,7 @@ void JedesStueck(const Ablauf& ablauf, Wert wert) {
 }
 
 qreal Vorratszahl(const Verlaufspunkt& punkt, Moment um, Rohstoff r) {
-    return VorratNach(punkt, um - punkt.Zeit)[r].AlsDouble();
+    return VorratNach(punkt, um - punkt.Zeit)[r].ToDouble();
 }
 
 qreal Bilanz(const Verlaufspunkt& punkt) {
@@ -130,7 +130,7 @@ class Zeitbild::Maler {
         QColor blass = m_bild.m_farben.Linie;
         constexpr int kBlass = 70;
         blass.setAlpha(kBlass);
-        const Zeitpunkt beginn = m_ablauf.Bedingungen.StartDate;
+        const DateTime beginn = m_ablauf.Bedingungen.StartDate;
         achse.JederStrich(
             beginn, m_links / m_jeSekunde, m_rechts / m_jeSekunde,
             [&](std::int64_t sekunde, const std::string& text) {
@@ -144,7 +144,7 @@ class Zeitbild::Maler {
 
     void MaleSchlaf() {
         for (const cSchlafzeit& fenster : m_ablauf.Bedingungen.Schlafzeiten) {
-            const Zeitpunkt beginn = m_ablauf.Bedingungen.StartDate;
+            const DateTime beginn = m_ablauf.Bedingungen.StartDate;
             const qreal von = X(static_cast<qreal>(fenster.Beginn() - beginn));
             const qreal bis = X(static_cast<qreal>(fenster.Ende() - beginn));
             if (InSicht(von, bis)) {

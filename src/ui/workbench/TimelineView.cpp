@@ -86,7 +86,7 @@ void Zeitleiste::Zeige(std::size_t zeile) {
     }
 }
 
-void Zeitleiste::SetzeJetzt(Zeitpunkt jetzt) {
+void Zeitleiste::SetzeJetzt(DateTime jetzt) {
     m_jetzt = jetzt;
     viewport()->update();
 }

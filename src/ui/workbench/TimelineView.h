@@ -28,7 +28,7 @@ class Zeitleiste : public QGraphicsView {
     /// Brings a row's bar to sight.
     void Zeige(std::size_t zeile);
     /// The wall clock.
-    void SetzeJetzt(Zeitpunkt jetzt);
+    void SetzeJetzt(DateTime jetzt);
 
     /// Shows the whole plan.
     void ZeigeAlles();
@@ -72,7 +72,7 @@ class Zeitleiste : public QGraphicsView {
     /// The scene owns it.
     Zeitbild* m_bild;
     std::optional<qreal> m_zeiger;
-    std::optional<Zeitpunkt> m_jetzt;
+    std::optional<DateTime> m_jetzt;
     QPoint m_gedrueckt;
     QPoint m_zuletzt;
     bool m_zieht = false;

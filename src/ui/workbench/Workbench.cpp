@@ -264,7 +264,7 @@ void frmWerkbank::Oeffne(const Konfiguration& konfiguration) {
         m_warOffen = true;
         const auto lies = [&](const Konfigurationskey& key) {
             constexpr int kWeitest = 100'000;
-            const auto zahl = LiesGanzzahl(konfiguration.Lies(key), -kWeitest, kWeitest);
+            const auto zahl = ParseWholeNumber(konfiguration.Lies(key), -kWeitest, kWeitest);
             return zahl ? std::optional(static_cast<int>(*zahl)) : std::nullopt;
         };
         constexpr QSize kRahmen(8, 36);
@@ -328,9 +328,9 @@ void frmWerkbank::Spiele() {
         m_dauerDavor = m_ablauf ? std::optional(m_ablauf->Dauer().Sekunden()) : std::nullopt;
     }
     const auto bedingungen = LiesStartbedingungen(m_plan);
-    if (const auto* const absage = std::get_if<Meldung>(&bedingungen)) {
+    if (const auto* const absage = std::get_if<Message>(&bedingungen)) {
         m_ablauf.reset();
-        Melde(m_plan.Liste.Auftraege().IstLeer() ? "" : absage->Text);
+        Melde(m_plan.Liste.Auftraege().IstLeer() ? "" : absage->text);
     } else {
         m_ablauf =
             SpieleAb(m_plan.Liste.Auftraege().Alle(), std::get<Startbedingungen>(bedingungen));
@@ -381,7 +381,7 @@ void frmWerkbank::ZeigeZeiger(std::optional<Moment> moment) {
 }
 
 void frmWerkbank::Ticke() {
-    const Zeitpunkt jetzt = m_umgebung.Jetzt();
+    const DateTime jetzt = m_umgebung.Jetzt();
     m_zeitleiste->SetzeJetzt(jetzt);
     const auto naechster = m_ablauf ? NaechsterAuftrag(*m_ablauf, jetzt) : std::nullopt;
     m_LBL_Naechster->setText(naechster ? QStringLiteral("Als Nächstes: ") + AlsQString(*naechster)
