@@ -68,7 +68,7 @@ void ZeigeGanz(frmMain& fenster) {
 void Fuelle(const frmMain& fenster) {
     auto* const liste = fenster.findChild<Baulistenansicht*>();
     for (std::size_t i = 0; i < Auftragsliste::kHoechstzahl; ++i) {
-        emit liste->DragDrop(AlsQString(Itemansichten()[i % kItemAnzahl].Bild));
+        emit liste->DragDrop(AlsQString(Itemansichten()[i % kNumItems].Bild));
     }
 }
 

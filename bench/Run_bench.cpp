@@ -45,16 +45,16 @@ Auftragsliste MacheListe(std::size_t zeilen) {
     std::minstd_rand zufall(20061118);
     Auftragsliste liste;
     while (liste.Zahl() < zeilen) {
-        const Itemzeile& zeile = ZeileVon(static_cast<ItemId>(zufall() % kItemAnzahl));
+        const ItemRow& zeile = RowOf(static_cast<ItemId>(zufall() % kNumItems));
         // The first four items are the mines and the power plant.
-        const int hoechste = zeile.Item < ItemId::Robo ? kHoechsteMine : kHoechsteStufe;
-        const bool einheit = zeile.Queue == Schlange::Werft && zeile.Item != ItemId::klSchK;
+        const int hoechste = zeile.item < ItemId::Robo ? kHoechsteMine : kHoechsteStufe;
+        const bool einheit = zeile.queue == Queue::Shipyard && zeile.item != ItemId::klSchK;
         if (zufall() % kProduktionJede == 0) {
-            liste.HaengeAn(Auftrag::Fuer(Minenfaktoren{{10, 10, 8}}));
-        } else if (!Absage(zeile.Item, liste) &&
-                   (einheit || liste.ListStufe(zeile.Item) < hoechste)) {
+            liste.HaengeAn(Auftrag::Fuer(MineFactors{{10, 10, 8}}));
+        } else if (!Absage(zeile.item, liste) &&
+                   (einheit || liste.ListStufe(zeile.item) < hoechste)) {
             for (int i = 0; i < (einheit ? kStapel : 1) && liste.Zahl() < zeilen; ++i) {
-                liste.HaengeAn(Auftrag::Fuer(zeile.Item));
+                liste.HaengeAn(Auftrag::Fuer(zeile.item));
             }
         }
     }
@@ -71,13 +71,13 @@ Plan MachePlan(std::size_t zeilen) {
                          {"19.11.2006 23:00", "20.11.2006 07:00"}};
     const Auftragsliste liste = MacheListe(zeilen);
     for (const Auftrag& order : liste.Alle()) {
-        (void)plan.Liste.Replay(order.Tag(), Startbedingungen());
+        (void)plan.Liste.Replay(order.Tag(), RunConditions());
     }
     return plan;
 }
 
-Startbedingungen Bedingungen() {
-    return std::get<Startbedingungen>(LiesStartbedingungen(MachePlan(1)));
+RunConditions Bedingungen() {
+    return std::get<RunConditions>(LiesStartbedingungen(MachePlan(1)));
 }
 
 std::size_t Zeilen(const benchmark::State& state) {
@@ -92,7 +92,7 @@ void MerkeAllokationen(benchmark::State& state, std::size_t vorher) {
 /// With the rows of its build times, as the window shows them.
 void Laufen(benchmark::State& state) {
     const Auftragsliste liste = MacheListe(Zeilen(state));
-    const Startbedingungen bedingungen = Bedingungen();
+    const RunConditions bedingungen = Bedingungen();
     Schweigend meldungen;
     const std::size_t vorher = Allokationen();
     for (auto _ : state) {
@@ -108,7 +108,7 @@ BENCHMARK(Laufen)->Arg(60)->Arg(254);
 /// With an observer that only counts.
 void Zaehlen(benchmark::State& state) {
     const Auftragsliste liste = MacheListe(Zeilen(state));
-    const Startbedingungen bedingungen = Bedingungen();
+    const RunConditions bedingungen = Bedingungen();
     const std::size_t vorher = Allokationen();
     for (auto _ : state) {
         Zaehler zaehler;
@@ -123,7 +123,7 @@ BENCHMARK(Zaehlen)->Arg(60)->Arg(254);
 /// The last third of a run, from a copy of its state.
 void Fortsetzen(benchmark::State& state) {
     const Auftragsliste liste = MacheListe(Zeilen(state));
-    const Startbedingungen bedingungen = Bedingungen();
+    const RunConditions bedingungen = Bedingungen();
     Zaehler zaehler;
     Simulation stand(liste.Alle(), bedingungen);
     while (stand.Eingereiht() < liste.Zahl() * 2 / 3 || stand.WartetEiner()) {
@@ -139,7 +139,7 @@ BENCHMARK(Fortsetzen)->Arg(60);
 
 void Kopieren(benchmark::State& state) {
     const Auftragsliste liste = MacheListe(1);
-    const Startbedingungen bedingungen = Bedingungen();
+    const RunConditions bedingungen = Bedingungen();
     const Simulation simulation(liste.Alle(), bedingungen);
     Simulation kopie = simulation;
     for (auto _ : state) {
@@ -169,7 +169,7 @@ void Laden(benchmark::State& state) {
     Schweigend meldungen;
     for (auto _ : state) {
         Plan plan;
-        benchmark::DoNotOptimize(LadePlan(Profil(bytes), plan, Startbedingungen(), meldungen));
+        benchmark::DoNotOptimize(LadePlan(Profil(bytes), plan, RunConditions(), meldungen));
     }
 }
 BENCHMARK(Laden)->Arg(60)->Arg(254);

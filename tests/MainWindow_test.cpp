@@ -115,9 +115,9 @@ TEST_F(Fenster, KeinBuchstabeFehlt) {
 
 TEST_F(Fenster, ListenFassenIhreLaengstenTexte) {
     Plan plan = PlanAus("GX:10:10:10");
-    for (const Itemzeile& item : Itemtabelle()) {
+    for (const ItemRow& item : ItemTable()) {
         for (int i = 0; i < 12; ++i) {
-            ASSERT_FALSE(plan.Liste.AddItem(item.Item, m_fenster.DerLauf().Bedingungen));
+            ASSERT_FALSE(plan.Liste.AddItem(item.item, m_fenster.DerLauf().Bedingungen));
         }
     }
     plan.Schlafzeiten.assign(30, {.Startzeit = "28.12.2006 22:30", .Endzeit = "28.12.2006 23:30"});

@@ -81,7 +81,7 @@ class Affe : public Fenster {
             Tippe();
         } else if (was < 19) {
             emit Finde<Baulistenansicht>("LV_Bauliste")
-                .DragDrop(AlsQString(Itemansichten()[Bis(kItemAnzahl)].Bild));
+                .DragDrop(AlsQString(Itemansichten()[Bis(kNumItems)].Bild));
         } else {
             const auto eintraege = m_fenster.findChildren<QAction*>();
             QAction& eintrag =
@@ -127,8 +127,8 @@ TEST_F(Affe, MachtNichtsKaputt) {
     m_fenster.close();
     Plan plan;
     Merker meldungen;
-    EXPECT_TRUE(LadePlan(*Profil::Lade(m_ordner / "saves" / "autosave.tvf"), plan,
-                         Startbedingungen(), meldungen));
+    EXPECT_TRUE(LadePlan(*Profil::Lade(m_ordner / "saves" / "autosave.tvf"), plan, RunConditions(),
+                         meldungen));
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ class Schiedsrichter final : public Laufbeobachter {
         Gestartet = ereignis.Zeile + 1;
         Gut = Gut && !ereignis.TorZu;
     }
-    void Schulden(const Spielstand& /*stand*/) override { Gut = false; }
+    void Schulden(const GameState& /*stand*/) override { Gut = false; }
 
     std::size_t Gestartet = 0;
     bool Gut = true;
@@ -33,7 +33,7 @@ class Beweis {
         : m_bedingungen(aufgabe.Bedingungen),
           m_uebrig(aufgabe.Orders),
           m_spaeter(Simulation({}, aufgabe.Bedingungen).Stand()) {
-        m_spaeter.Stufen = Endstufen(aufgabe.Orders);
+        m_spaeter.Stufe = Endstufen(aufgabe.Orders);
     }
 
     Long Fuehre() {
@@ -50,7 +50,7 @@ class Beweis {
         if (FruehestesEnde(lauf.Stand()) >= m_beste) {
             return;
         }
-        JeItem<bool> versucht{};
+        PerItem<bool> versucht{};
         for (std::size_t i = 0; i < m_uebrig.size(); ++i) {
             const Auftrag order = m_uebrig[i];
             if (versucht[order.Item] || !IstErlaubt(order.Item, m_stufen)) {
@@ -81,25 +81,25 @@ class Beweis {
             }
         }
         if (lauf.IstFertig()) {
-            m_beste = std::min(m_beste, lauf.Stand().secsgone.Sekunden());
+            m_beste = std::min(m_beste, lauf.Stand().secsgone.Seconds());
         }
         return lauf;
     }
 
     /// What each queue has still to do, one order after the other and each as quick as it gets with
     /// all facilities.
-    [[nodiscard]] Long FruehestesEnde(const Spielstand& stand) const {
-        JeSchlange<double> ende{};
-        JeItem<Byte> stufen = m_stufen;
+    [[nodiscard]] Long FruehestesEnde(const GameState& stand) const {
+        PerQueue<double> ende{};
+        PerItem<Byte> stufen = m_stufen;
         for (const Auftrag& order : m_uebrig) {
-            const Itemzeile& zeile = ZeileVon(order.Item);
-            const Kosten& preis = Preis(order.Item, stufen[order.Item]++);
-            ende[order.Queue] += zeile.Dauer(preis, m_spaeter, m_bedingungen);
+            const ItemRow& zeile = RowOf(order.Item);
+            const Cost& preis = CostOf(order.Item, stufen[order.Item]++);
+            ende[order.Queue] += zeile.upgradeTime(preis, m_spaeter, m_bedingungen);
         }
         double spaetestes = 0;
         for (const Auftrag& order : m_uebrig) {
             // Its queue's finish, before the buffer that keeps it busy.
-            const auto frei = static_cast<double>(stand.FertigZeit[order.Queue].Sekunden()) - 1 -
+            const auto frei = static_cast<double>(stand.FertigZeit[order.Queue].Seconds()) - 1 -
                               static_cast<double>(m_bedingungen.KlickPuffer);
             spaetestes = std::max(spaetestes, ende[order.Queue] + std::max(0.0, frei));
         }
@@ -107,12 +107,12 @@ class Beweis {
         return static_cast<Long>(spaetestes) - static_cast<Long>(m_uebrig.size());
     }
 
-    const Startbedingungen& m_bedingungen;
+    const RunConditions& m_bedingungen;
     std::vector<Auftrag> m_uebrig;
     std::vector<Auftrag> m_liste;
-    JeItem<Byte> m_stufen{};
+    PerItem<Byte> m_stufen{};
     /// With all levels that the plan will ever have.
-    Spielstand m_spaeter;
+    GameState m_spaeter;
     Long m_beste = std::numeric_limits<Long>::max();
 };
 
@@ -128,7 +128,7 @@ Suchaufgabe Kleinplan(unsigned saat) {
         return static_cast<Long>(quelle() % (hoechster + 1));
     };
     Suchaufgabe aufgabe;
-    Startbedingungen& welt = aufgabe.Bedingungen;
+    RunConditions& welt = aufgabe.Bedingungen;
     welt.Speedfaktor = 1 + bis(1);
     welt.Temperatur = static_cast<Integer>(bis(160) - 60);
     welt.KlickPuffer = bis(1) * bis(600);
@@ -143,7 +143,7 @@ Suchaufgabe Kleinplan(unsigned saat) {
     Auftragsliste liste;
     for (Long zahl = 8 + bis(2); static_cast<Long>(liste.Zahl()) < zahl;) {
         const ItemId item = bis(3) == 0
-                                ? static_cast<ItemId>(bis(kItemAnzahl - 1))
+                                ? static_cast<ItemId>(bis(kNumItems - 1))
                                 : kAnfang[static_cast<std::size_t>(bis(kAnfang.size() - 1))];
         if (!Absage(item, liste)) {
             liste.HaengeAn(Auftrag::Fuer(item));

@@ -11,7 +11,7 @@ struct Ladung {
     bool Gelesen;
 
     explicit Ladung(std::string_view bytes)
-        : Gelesen(LadePlan(Profil(bytes), Geladen, Startbedingungen(), Meldungen)) {}
+        : Gelesen(LadePlan(Profil(bytes), Geladen, RunConditions(), Meldungen)) {}
 };
 
 std::string Bytes(const Plan& plan, std::string_view vorher = "") {

@@ -29,7 +29,7 @@ namespace tarvelin {
 
 namespace {
 
-constexpr Moment kEndeDerUhr(std::numeric_limits<Long>::max());
+constexpr SimTime kEndeDerUhr(std::numeric_limits<Long>::max());
 
 class Stumm final : public MessageSink {
   public:
@@ -44,14 +44,14 @@ class Mitschrift final : public Laufbeobachter {
         Starts.push_back(ereignis);
         StartIm.push_back(Staende.size());
     }
-    void Schulden(const Spielstand& /*stand*/) override { SchuldenIm.push_back(Staende.size()); }
-    void NachSchritt(const Spielstand& stand) override { Staende.push_back(stand); }
+    void Schulden(const GameState& /*stand*/) override { SchuldenIm.push_back(Staende.size()); }
+    void NachSchritt(const GameState& stand) override { Staende.push_back(stand); }
 
     std::vector<Startereignis> Starts;
     /// The step of each start, and of each debt that was told.
     std::vector<std::size_t> StartIm;
     std::vector<std::size_t> SchuldenIm;
-    std::vector<Spielstand> Staende;
+    std::vector<GameState> Staende;
 };
 
 std::string Bytes(const Plan& plan) {
@@ -78,39 +78,39 @@ bool IstSpeicherbar(const Plan& plan) {
 }
 
 /// The conditions of a plan's run, or some where it has none.
-Startbedingungen BedingungenVon(const Plan& plan) {
+RunConditions BedingungenVon(const Plan& plan) {
     const auto bedingungen = LiesStartbedingungen(plan);
-    const auto* const gelesen = std::get_if<Startbedingungen>(&bedingungen);
-    return gelesen == nullptr ? Startbedingungen{.Speedfaktor = 1} : *gelesen;
+    const auto* const gelesen = std::get_if<RunConditions>(&bedingungen);
+    return gelesen == nullptr ? RunConditions{.Speedfaktor = 1} : *gelesen;
 }
 
 /// What goes on from a point of the history, less what the start of that step costs.
-JeRohstoff<FixedPoint> VorratNachSchritt(const Spielstand& vorher, const Spielstand& nachher,
-                                         const Startereignis* start) {
+PerResource<FixedPoint> VorratNachSchritt(const GameState& vorher, const GameState& nachher,
+                                          const Startereignis* start) {
     const Verlauf verlauf(vorher);
     auto vorrat = VorratNach(verlauf.Punkte().back(), nachher.secsgone - vorher.secsgone);
     if (start != nullptr && start->Order.Was == Auftrag::Art::Item) {
-        const Kosten& preis = Preis(start->Order.Item, static_cast<Byte>(start->Nummer - 1));
-        for (const Rohstoff r : kRohstoffe) {
+        const Cost& preis = CostOf(start->Order.Item, static_cast<Byte>(start->Nummer - 1));
+        for (const Resource r : kResources) {
             vorrat[r] = vorrat[r] - FixedPoint::FromDouble(preis[r]);
         }
     }
     return vorrat;
 }
 
-Befund PruefeVorraete(const Mitschrift& lauf, const Spielstand& anfang) {
+Befund PruefeVorraete(const Mitschrift& lauf, const GameState& anfang) {
     std::size_t naechster = 0;
     for (std::size_t i = 0; i < lauf.Staende.size(); ++i) {
-        const Spielstand& vorher = i == 0 ? anfang : lauf.Staende[i - 1];
-        const Spielstand& stand = lauf.Staende[i];
+        const GameState& vorher = i == 0 ? anfang : lauf.Staende[i - 1];
+        const GameState& stand = lauf.Staende[i];
         const bool start = naechster < lauf.StartIm.size() && lauf.StartIm[naechster] == i;
         const auto soll =
             VorratNachSchritt(vorher, stand, start ? &lauf.Starts[naechster] : nullptr);
         naechster += start ? 1 : 0;
-        if (soll != stand.Vorrat && stand.secsgone != kEndeDerUhr) {
+        if (soll != stand.stock && stand.secsgone != kEndeDerUhr) {
             return "a stock is wrong behind step " + std::to_string(i);
         }
-        if ((start && std::ranges::min(stand.Vorrat) < FixedPoint()) !=
+        if ((start && std::ranges::min(stand.stock) < FixedPoint()) !=
             (std::ranges::count(lauf.SchuldenIm, i) == 1)) {
             return "a debt isn't told in step " + std::to_string(i);
         }
@@ -120,9 +120,9 @@ Befund PruefeVorraete(const Mitschrift& lauf, const Spielstand& anfang) {
 
 /// The code's first letter names the queue, whatever the run thinks.
 Befund PruefeSchlangen(const Mitschrift& lauf) {
-    std::map<char, Moment> frei;
+    std::map<char, SimTime> frei;
     for (const Startereignis& start : lauf.Starts) {
-        Moment& bis = frei[start.Order.Tag().front()];
+        SimTime& bis = frei[start.Order.Tag().front()];
         if (start.Order.Was == Auftrag::Art::Item && start.Start < bis) {
             return "row " + std::to_string(start.Zeile + 1) + " starts within its queue's last one";
         }
@@ -131,14 +131,14 @@ Befund PruefeSchlangen(const Mitschrift& lauf) {
     return {};
 }
 
-Befund PruefeSummen(const Auftragsliste& liste, const Spielstand& stand) {
+Befund PruefeSummen(const Auftragsliste& liste, const GameState& stand) {
     double verbaut = 0;
-    for (const Itemzeile& zeile : Itemtabelle()) {
-        if (stand.Stufen[zeile.Item] != liste.ListStufe(zeile.Item)) {
+    for (const ItemRow& zeile : ItemTable()) {
+        if (stand.Stufe[zeile.item] != liste.ListStufe(zeile.item)) {
             return "a level is wrong";
         }
-        for (Byte stufe = 0; stufe < liste.ListStufe(zeile.Item); ++stufe) {
-            const Kosten& preis = Preis(zeile.Item, stufe);
+        for (Byte stufe = 0; stufe < liste.ListStufe(zeile.item); ++stufe) {
+            const Cost& preis = CostOf(zeile.item, stufe);
             verbaut = std::accumulate(preis.begin(), preis.end(), verbaut);
         }
     }
@@ -156,7 +156,7 @@ bool GehtWeiterWie(const Mitschrift& ganz, std::size_t schritt, const Mitschrift
 
 /// A run over the first `n` orders, up to the step that started the last of them.
 Simulation LaufBis(std::span<const Auftrag> auftraege, std::size_t n,
-                   const Startbedingungen& bedingungen) {
+                   const RunConditions& bedingungen) {
     Simulation lauf(auftraege.first(n), bedingungen);
     Mitschrift stumm;
     while (lauf.Eingereiht() < n || lauf.WartetEiner()) {
@@ -210,13 +210,13 @@ Umstellung Irgendeine(const Bauliste& liste, std::minstd_rand& zufall) {
             umstellung.FuegeEin(stelle, "GX:1:2:3");
             break;
         default:
-            umstellung.FuegeEin(stelle, Itemtabelle()[zufall() % kItemAnzahl].Code);
+            umstellung.FuegeEin(stelle, ItemTable()[zufall() % kNumItems].ItemCode);
     }
     return umstellung;
 }
 
 /// What dropping rows one by one gives.
-Bauliste Nacheinander(const std::vector<std::string>& tags, const Startbedingungen& bedingungen) {
+Bauliste Nacheinander(const std::vector<std::string>& tags, const RunConditions& bedingungen) {
     Bauliste liste;
     for (const std::string& tag : tags) {
         const Auftrag order = Auftrag::AusTag(tag);
@@ -235,8 +235,8 @@ std::string Zustand(const Bauliste& liste) {
         text += zeile.Text + "|" + zeile.Tag + "|" + zeile.SubItems1 + "|" + zeile.SubItems2 + "|" +
                 (zeile.SubItems2Farbe == Farbe::Rot ? "rot\n" : "schwarz\n");
     }
-    for (const Itemzeile& zeile : Itemtabelle()) {
-        text += std::to_string(liste.Auftraege().ListStufe(zeile.Item)) + " ";
+    for (const ItemRow& zeile : ItemTable()) {
+        text += std::to_string(liste.Auftraege().ListStufe(zeile.item)) + " ";
     }
     for (const Byte faktor : liste.Auftraege().ListFaktor()) {
         text += std::to_string(faktor) + " ";
@@ -258,7 +258,7 @@ Befund PruefeSpeichern(const Plan& plan) {
         return {};
     }
     // Both lists are made on a planet of the same temperature.
-    const Startbedingungen bedingungen;
+    const RunConditions bedingungen;
     Stumm meldungen;
     Plan vorher;
     Plan nachher;
@@ -276,11 +276,11 @@ Befund PruefeSpeichern(const Plan& plan) {
 }
 
 Befund PruefeUndo(const Plan& plan) {
-    const Startbedingungen bedingungen = BedingungenVon(plan);
+    const RunConditions bedingungen = BedingungenVon(plan);
     Bauliste liste;
     for (const BaulistenZeile& zeile : plan.Liste.Zeilen()) {
         const std::string vorher = Zustand(liste);
-        const auto anderes = static_cast<ItemId>(liste.Zeilen().size() % Itemtabelle().size());
+        const auto anderes = static_cast<ItemId>(liste.Zeilen().size() % ItemTable().size());
         if (liste.AddItem(anderes, bedingungen)) {
             return "a row can't be added";
         }
@@ -302,10 +302,10 @@ Befund PruefeBuecher(const Plan& plan) {
     if (std::holds_alternative<Message>(LiesStartbedingungen(plan))) {
         return {};
     }
-    const Startbedingungen bedingungen = BedingungenVon(plan);
+    const RunConditions bedingungen = BedingungenVon(plan);
     const Auftragsliste& liste = plan.Liste.Auftraege();
     Simulation simulation(liste.Alle(), bedingungen);
-    const Spielstand anfang = simulation.Stand();
+    const GameState anfang = simulation.Stand();
     Mitschrift lauf;
     simulation.Laufe(lauf);
     for (std::size_t i = 0; i < liste.Zahl(); ++i) {
@@ -325,7 +325,7 @@ Befund PruefeBuecher(const Plan& plan) {
 
 Befund PruefeWiederaufnahme(const Plan& plan) {
     constexpr std::size_t kProben = 12;
-    const Startbedingungen bedingungen = BedingungenVon(plan);
+    const RunConditions bedingungen = BedingungenVon(plan);
     const auto orders = plan.Liste.Auftraege().Alle();
     std::vector<Auftrag> andere(orders.begin(), orders.end());
     Simulation lauf(orders, bedingungen);
@@ -336,7 +336,7 @@ Befund PruefeWiederaufnahme(const Plan& plan) {
         lauf.Schritt(ganz);
     }
     for (std::size_t schritt = 0; schritt < kopien.size(); schritt += 1 + kopien.size() / kProben) {
-        const Spielstand vorher = kopien[schritt].Stand();
+        const GameState vorher = kopien[schritt].Stand();
         Simulation kopie = kopien[schritt];
         Mitschrift rest;
         kopie.Laufe(rest);
@@ -369,12 +369,12 @@ Befund PruefeZeitsprung(const Plan& plan) {
     constexpr Long kStuecke = 7;
     constexpr std::int64_t kStunde = 3600;
     constexpr std::int64_t kGenau = std::int64_t{1} << 40U;
-    const Startbedingungen bedingungen = BedingungenVon(plan);
+    const RunConditions bedingungen = BedingungenVon(plan);
     Simulation lauf(plan.Liste.Auftraege().Alle(), bedingungen);
     Mitschrift stumm;
     lauf.Laufe(stumm);
-    Spielstand gesprungen = lauf.Stand();
-    Spielstand gegangen = lauf.Stand();
+    GameState gesprungen = lauf.Stand();
+    GameState gegangen = lauf.Stand();
     std::int64_t teiler = kStunde;
     for (const FixedPoint rate : gesprungen.ProStunde) {
         teiler = std::gcd(teiler, rate.Raw());
@@ -408,7 +408,7 @@ Befund PruefeKurve(const Plan& plan) {
     if (plan.Liste.Auftraege().IstLeer()) {
         return {};
     }
-    const Startbedingungen bedingungen = BedingungenVon(plan);
+    const RunConditions bedingungen = BedingungenVon(plan);
     const Ablauf ablauf = SpieleAb(plan.Liste.Auftraege().Alle(), bedingungen);
     Simulation simulation(plan.Liste.Auftraege().Alle(), bedingungen);
     Mitschrift lauf;
@@ -421,17 +421,17 @@ Befund PruefeKurve(const Plan& plan) {
         return "the curve goes back in time";
     }
     for (std::size_t i = 0; i < lauf.Staende.size(); ++i) {
-        const Moment um = lauf.Staende[i].secsgone;
+        const SimTime um = lauf.Staende[i].secsgone;
         // The run goes on from the last state that isn't behind the moment: those after it are.
         std::size_t letzter = i;
         for (std::size_t j = i + 1; j < lauf.Staende.size(); ++j) {
             letzter = lauf.Staende[j].secsgone <= um ? j : letzter;
         }
         const Verlaufspunkt& punkt = PunktUm(ablauf.Kurve, um);
-        const Spielstand& stand = lauf.Staende[letzter];
-        if (punkt.Zeit != stand.secsgone || punkt.Vorrat != stand.Vorrat ||
-            punkt.ProStunde != stand.ProStunde || punkt.Stufen != stand.Stufen) {
-            return "the curve is wrong at " + std::to_string(um.Sekunden());
+        const GameState& stand = lauf.Staende[letzter];
+        if (punkt.Zeit != stand.secsgone || punkt.Vorrat != stand.stock ||
+            punkt.ProStunde != stand.ProStunde || punkt.Stufen != stand.Stufe) {
+            return "the curve is wrong at " + std::to_string(um.Seconds());
         }
     }
     return ablauf.Ende == simulation.Stand() && ablauf.Starts == lauf.Starts
@@ -441,7 +441,7 @@ Befund PruefeKurve(const Plan& plan) {
 
 Befund PruefeUmstellungen(const Plan& plan) {
     constexpr int kProben = 25;
-    const Startbedingungen bedingungen = BedingungenVon(plan);
+    const RunConditions bedingungen = BedingungenVon(plan);
     std::minstd_rand zufall(static_cast<unsigned>(plan.Liste.Zeilen().size()) + 1);
     Bauliste liste = Nacheinander(plan.Liste.Tags(), bedingungen);
     Listenverlauf verlauf;
@@ -482,7 +482,7 @@ Befund PruefeVergleich(const Plan& plan) {
     if (plan.Liste.Auftraege().IstLeer()) {
         return {};
     }
-    const Startbedingungen bedingungen = BedingungenVon(plan);
+    const RunConditions bedingungen = BedingungenVon(plan);
     const auto orders = plan.Liste.Auftraege().Alle();
     std::vector<Auftrag> andere(orders.begin(), orders.end());
     std::ranges::reverse(andere);

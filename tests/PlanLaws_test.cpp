@@ -46,13 +46,13 @@ class Plangeber {
 
     void FuelleListe(Bauliste& liste, int zeilen) {
         while (static_cast<int>(liste.Zeilen().size()) < zeilen) {
-            const auto item = static_cast<ItemId>(m_zufall() % Itemtabelle().size());
+            const auto item = static_cast<ItemId>(m_zufall() % ItemTable().size());
             if (Eins(12)) {
-                const auto faktor = [this] { return static_cast<Byte>(Bis(kVollerFaktor)); };
+                const auto faktor = [this] { return static_cast<Byte>(Bis(kFullFactor)); };
                 EXPECT_FALSE(liste.AddProdaenderungsevent({{faktor(), faktor(), faktor()}},
-                                                          Startbedingungen()));
+                                                          RunConditions()));
             } else if (m_jedesBild || !Absage(item, liste.Auftraege())) {
-                EXPECT_FALSE(liste.AddItem(item, Startbedingungen()));
+                EXPECT_FALSE(liste.AddItem(item, RunConditions()));
             }
         }
     }

@@ -33,7 +33,7 @@ TEST(Bauliste, FaktortextFolgtDerTemperaturDesLetztenLaufs) {
 }
 
 TEST(Bauliste, WeistUnbekanntesUndDie255teZeileAb) {
-    const Startbedingungen bedingungen;
+    const RunConditions bedingungen;
     Bauliste liste;
     EXPECT_FALSE(liste.Replay("Quatsch", bedingungen));
     while (!liste.Auftraege().IstVoll()) {
@@ -43,7 +43,7 @@ TEST(Bauliste, WeistUnbekanntesUndDie255teZeileAb) {
     const Message absage{"Die Bauliste ist voll: mehr als 254 Einträge sind nicht möglich...",
                          "Schwerer Ausnahmefehler 1337 !"};
     EXPECT_EQ(liste.AddItem(ItemId::SKW, bedingungen), absage);
-    EXPECT_EQ(liste.AddProdaenderungsevent(kVolleFaktoren, bedingungen), absage);
+    EXPECT_EQ(liste.AddProdaenderungsevent(kFullFactors, bedingungen), absage);
     EXPECT_EQ(Zustand(liste), voll);
     EXPECT_EQ(liste.Zeilen().size(), 254U);
     EXPECT_EQ(liste.Zeilen().back().SubItems2, "0,00");  // a need beyond 32 bits
@@ -148,7 +148,7 @@ TEST(Regeln, LassenGenauEineKuppelAllein) {
 
 TEST(Hovertexte, NennenKostenUndEnergieDerNaechstenZeile) {
     using enum ItemId;
-    Startbedingungen bedingungen;
+    RunConditions bedingungen;
     const auto text = [&](const char* codes, ItemId item) {
         return HoverInfo(item, PlanAus(codes).Liste.Auftraege(), bedingungen).Tooltip;
     };

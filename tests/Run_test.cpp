@@ -75,17 +75,17 @@ class Fremdenzaehler final : public Laufbeobachter {
 
 TEST(Lauf, UnbekannteAuftraegeFallenWeg) {
     const auto laufe = [](const std::vector<Auftrag>& orders, Long puffer) {
-        const Startbedingungen bedingungen{.Speedfaktor = 1, .KlickPuffer = puffer};
+        const RunConditions bedingungen{.Speedfaktor = 1, .KlickPuffer = puffer};
         Fremdenzaehler zaehler;
         Simulation(orders, bedingungen).Laufe(zaehler);
         EXPECT_EQ(zaehler.Letzter.Zeile, orders.size() - 1);
         return std::array{zaehler.Starts, zaehler.Zeiten, zaehler.Pieptoene,
-                          static_cast<int>(zaehler.Letzter.Start.Sekunden())};
+                          static_cast<int>(zaehler.Letzter.Start.Seconds())};
     };
     const Auftrag mine = Auftrag::Fuer(ItemId::MetMine);
     const Auftrag quatsch = Auftrag::AusTag("Quatsch");
-    EXPECT_EQ(quatsch.Queue, Schlange::Keine);
-    EXPECT_EQ(Auftrag::AusTag("WZZ").Queue, Schlange::Werft);
+    EXPECT_EQ(quatsch.Queue, Queue::None);
+    EXPECT_EQ(Auftrag::AusTag("WZZ").Queue, Queue::Shipyard);
     // The finishes of both are beeps. The mines follow each other in their queue.
     EXPECT_EQ(laufe({mine, quatsch, Auftrag::AusTag("WZZ"), mine}, 0), (std::array{2, 2, 2, 109}));
     // Timed at the moment of the order before: not before it, and not held back by any queue.
@@ -94,7 +94,7 @@ TEST(Lauf, UnbekannteAuftraegeFallenWeg) {
 
 TEST(Lauf, HaeltDieUhrAmEndeIhresBereichs) {
     const Probe probe(MitPuffer("GW WR GX:10:10:10 FS GX:5:5:5 FE GM GM", 600));
-    EXPECT_EQ(probe.Gelaufen.Stand.secsgone.Sekunden(), 2147483647);
+    EXPECT_EQ(probe.Gelaufen.Stand.secsgone.Seconds(), 2147483647);
     EXPECT_EQ(probe.Gelaufen.LV_Bauzeiten.size(), 8U);
 }
 
@@ -103,7 +103,7 @@ TEST(Lauf, NenntWasEinenAuftragAufhielt) {
         std::string text;
         for (const Bauzeit& zeile : Probe(plan).Gelaufen.LV_Bauzeiten) {
             constexpr std::array kBuchstaben{'-', 'l', 'a', 'd', 'r', 's', 'z'};
-            text += kBuchstaben.at(static_cast<std::size_t>(zeile.Grund.Was));
+            text += kBuchstaben.at(static_cast<std::size_t>(zeile.Grund.cause));
         }
         return text;
     };
@@ -113,14 +113,14 @@ TEST(Lauf, NenntWasEinenAuftragAufhielt) {
     EXPECT_EQ(gruende(plan), "-zsssr");
     const Probe gesperrt(PlanAus("GS GD GR FE"));
     EXPECT_EQ(gesperrt.Gelaufen.LV_Bauzeiten.back().Grund,
-              (Aufenthalt{.Was = Hindernis::Stufe, .Fehlt = {ItemId::Folab, 1}}));
+              (Delay{.cause = DelayCause::Level, .missing = {ItemId::Folab, 1}}));
 }
 
 TEST(Lauf, SagtWasEinenAuftragAufhielt) {
     const auto texte = [](const Plan& plan) {
         const auto bedingungen = LiesStartbedingungen(plan);
         const Ablauf ablauf =
-            SpieleAb(plan.Liste.Auftraege().Alle(), std::get<Startbedingungen>(bedingungen));
+            SpieleAb(plan.Liste.Auftraege().Alle(), std::get<RunConditions>(bedingungen));
         std::vector<std::string> gruende;
         for (std::size_t i = 0; i < ablauf.Starts.size(); ++i) {
             gruende.push_back(Wartetext(ablauf, i));
@@ -147,10 +147,10 @@ TEST(EventTabelle, OrdnetNachZeitArtUndEintritt) {
     EventTabelle tabelle;
     EXPECT_TRUE(tabelle.IstLeer());
     tabelle.SetStart(4);
-    tabelle.SetStartzeit(Moment(100));
-    tabelle.SetFinish(Moment(100), 2);
-    tabelle.SetFinish(Moment(100), 1);
-    tabelle.SetFinish(Moment(99), 3);
+    tabelle.SetStartzeit(SimTime(100));
+    tabelle.SetFinish(SimTime(100), 2);
+    tabelle.SetFinish(SimTime(100), 1);
+    tabelle.SetFinish(SimTime(99), 3);
     EXPECT_EQ(tabelle.Wartender(), 4U);
     for (const std::size_t order : {3U, 2U, 1U, 4U}) {
         EXPECT_EQ(tabelle.NimmErste().Order, order);

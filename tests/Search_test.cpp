@@ -78,7 +78,7 @@ void Pruefe(const Plan& plan, const Planaufgabe& aufgabe, const Suchergebnis& er
     }
     const Planlauf lauf = Wiedergefunden(plan, aufgabe, fund);
     ASSERT_TRUE(lauf.Gelaufen);
-    EXPECT_EQ(lauf.Lauf.Stand.secsgone.Sekunden(), fund.Wertung.Dauer);
+    EXPECT_EQ(lauf.Lauf.Stand.secsgone.Seconds(), fund.Wertung.Dauer);
     EXPECT_TRUE(lauf.Meldungen.empty());
     if (aufgabe.Aufgabe.Was == Suchaufgabe::Art::Reihenfolge) {
         EXPECT_EQ(Gezaehlt(fund.Orders), Gezaehlt(aufgabe.Aufgabe.Orders));
@@ -87,9 +87,9 @@ void Pruefe(const Plan& plan, const Planaufgabe& aufgabe, const Suchergebnis& er
         }
         return;
     }
-    const JeItem<Byte> stufen = Endstufen(fund.Orders);
-    for (const Itemzeile& zeile : Itemtabelle()) {
-        EXPECT_GE(stufen[zeile.Item], aufgabe.Aufgabe.Mindestens[zeile.Item]) << zeile.Code;
+    const PerItem<Byte> stufen = Endstufen(fund.Orders);
+    for (const ItemRow& zeile : ItemTable()) {
+        EXPECT_GE(stufen[zeile.item], aufgabe.Aufgabe.Mindestens[zeile.item]) << zeile.ItemCode;
     }
 }
 
@@ -207,7 +207,7 @@ TEST(Suche, SagtWarumSieNichtSuchenKann) {
     Plan gebrochen = PlanAus("GM");
     gebrochen.Liste.Clear();
     for (const char* const tag : {"GM", "GW", "GR"}) {
-        EXPECT_TRUE(gebrochen.Liste.Replay(tag, Startbedingungen()));
+        EXPECT_TRUE(gebrochen.Liste.Replay(tag, RunConditions()));
     }
     Plan ohneTag = wirtschaft;
     ohneTag.Parameter.UniStartZeitTag = "";

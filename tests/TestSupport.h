@@ -98,7 +98,7 @@ inline std::string InUtf16(const std::u16string& text, bool hochVorn) {
 }
 
 /// A plan of 18.11.2006 12:30 without a click buffer, its rows by `Tag`s parted by blanks.
-inline Plan PlanAus(std::string_view tags, const Startbedingungen& bedingungen = {}) {
+inline Plan PlanAus(std::string_view tags, const RunConditions& bedingungen = {}) {
     Plan plan;
     plan.Parameter.UniStartZeitTag = "18";
     plan.Parameter.UniStartZeitMonat = "11";
@@ -124,7 +124,7 @@ struct Probe {
             Meldungen.Show(*absage);
             return;
         }
-        Gelaufen.Beginne(std::get<Startbedingungen>(bedingungen));
+        Gelaufen.Beginne(std::get<RunConditions>(bedingungen));
         RunSimulation(plan.Liste.Auftraege().Alle(), Gelaufen, Meldungen);
         Gelungen = true;
     }

@@ -293,7 +293,7 @@ TEST_F(Werkbank, ZeigtDenPlanAlsBild) {
     EXPECT_EQ(Sagt("LBL_Naechster"), "Als Nächstes: Solarkraftwerk 1 um 12:34:56, in 00:01:56");
     const auto klicke = [&](Long sekunde, int y) {
         QTest::mouseClick(leiste.viewport(), Qt::LeftButton, {},
-                          QPoint(leiste.SpalteVon(Moment(sekunde)), y));
+                          QPoint(leiste.SpalteVon(SimTime(sekunde)), y));
         return Dort<Auftragsansicht>("LV_Werkbank").Gewaehlte();
     };
     const int bauspur = 2 * leiste.fontMetrics().height();
@@ -302,10 +302,10 @@ TEST_F(Werkbank, ZeigtDenPlanAlsBild) {
     // Its colour tells the queue, the frame the choice.
     const QImage bild = leiste.viewport()->grab().toImage();
     const Werkbankfarben farben(m_werkbank->palette());
-    EXPECT_EQ(bild.pixelColor(leiste.SpalteVon(Moment(60)), bauspur),
-              farben.Balken[Schlange::Gebaeude]);
+    EXPECT_EQ(bild.pixelColor(leiste.SpalteVon(SimTime(60)), bauspur),
+              farben.Balken[Queue::Building]);
     // The wheel keeps the moment below the pointer.
-    const QPoint ort(leiste.SpalteVon(Moment(300)), 20);
+    const QPoint ort(leiste.SpalteVon(SimTime(300)), 20);
     for (int i = 0; i < 8; ++i) {
         QWheelEvent rad(ort, leiste.viewport()->mapToGlobal(ort), {}, {0, 120}, {}, {},
                         Qt::NoScrollPhase, false);
@@ -313,16 +313,16 @@ TEST_F(Werkbank, ZeigtDenPlanAlsBild) {
         QCoreApplication::sendEvent(leiste.viewport(), &rad);
         EXPECT_NEAR(leiste.mapFromScene(QPointF(darunter, 0)).x(), ort.x(), 1);
     }
-    EXPECT_GT(leiste.SpalteVon(Moment(310)) - leiste.SpalteVon(Moment(300)), 20);
+    EXPECT_GT(leiste.SpalteVon(SimTime(310)) - leiste.SpalteVon(SimTime(300)), 20);
     Bewege(*leiste.viewport(), ort);
     EXPECT_EQ(Sagt("LBL_Stand").substr(0, 18), "Sa 18.11. 12:35:00");
     EXPECT_NE(Sagt("LBL_Stand").find("Metallmine 2"), std::string::npos);
     Greife({4});
     const int start = leiste.SpalteVon(
-        Moment(*ParseDateTime("18.11.2006 12:38:53") - *ParseDateTime("18.11.2006 12:30:00")));
+        SimTime(*ParseDateTime("18.11.2006 12:38:53") - *ParseDateTime("18.11.2006 12:30:00")));
     EXPECT_TRUE(start >= 0 && start < leiste.viewport()->width()) << "brought to sight";
     QTest::mouseDClick(leiste.viewport(), Qt::LeftButton, {}, ort);
-    EXPECT_EQ(leiste.SpalteVon(Moment()), 0);
+    EXPECT_EQ(leiste.SpalteVon(SimTime()), 0);
     // By keys: from start to start, and the row there.
     leiste.setFocus();
     for (const auto taste :
@@ -354,7 +354,7 @@ TEST_F(Werkbank, SpeichertDasBild) {
     const QImage png = QImage::fromData(QByteArray::fromStdString(speichere("bild.png")));
     auto& leiste = Dort<Zeitleiste>("Zeitleiste");
     EXPECT_EQ(png.size(), 2 * leiste.viewport()->size());
-    const QPoint balken(leiste.SpalteVon(Moment(60)), 2 * leiste.fontMetrics().height());
+    const QPoint balken(leiste.SpalteVon(SimTime(60)), 2 * leiste.fontMetrics().height());
     EXPECT_EQ(png.pixelColor(2 * balken), leiste.viewport()->grab().toImage().pixelColor(balken));
     EXPECT_EQ(speichere("bild.txt"), "");
     EXPECT_NE(Sagt("LBL_Meldung").find("oder .pdf"), std::string::npos);
@@ -425,7 +425,7 @@ TEST_F(Werkbank, SuchtUndUebernimmtAlsEinenSchritt) {
     EXPECT_EQ(m_fenster.DerPlan().Liste.Tags()[40], starter.Plan.Liste.Tags()[40]);
     EXPECT_EQ(m_fenster.DerPlan().Schlafzeiten.front().Startzeit, "03.12.2026 10:30");
     EXPECT_EQ(Sagt("LBL_Dauer"), Text("LBL_Timegone"));
-    const auto dauer = Spannentext(m_fenster.DerLauf().Stand.secsgone.Sekunden());
+    const auto dauer = Spannentext(m_fenster.DerLauf().Stand.secsgone.Seconds());
     EXPECT_NE(bericht.find("Nachher: " + dauer + ","), std::string::npos) << bericht << dauer;
     EXPECT_TRUE(m_boxen.Texte.empty());
     const std::string aenderung = Sagt("LBL_Aenderung");

@@ -26,18 +26,18 @@ json AlsJson(const Planlauf& plan, const Kennzahlen& zahlen) {
     return {{"Plan", plan.Name},
             {"Sekunden", zahlen.Dauer},
             {"VerbauteRessourcen", zahlen.VerbauteRessourcen},
-            {"Metall", FourDecimalsText(zahlen.Vorrat[Rohstoff::Metall])},
-            {"Kristall", FourDecimalsText(zahlen.Vorrat[Rohstoff::Kristall])},
-            {"Deuterium", FourDecimalsText(zahlen.Vorrat[Rohstoff::Deuterium])},
+            {"Metall", FourDecimalsText(zahlen.Vorrat[Resource::Metall])},
+            {"Kristall", FourDecimalsText(zahlen.Vorrat[Resource::Kristall])},
+            {"Deuterium", FourDecimalsText(zahlen.Vorrat[Resource::Deuterium])},
             {"Sitzungen", zahlen.Sitzungen},
             {"Leerlauf",
-             {{"Bauschleife", zahlen.Leerlauf[Schlange::Gebaeude]},
-              {"Forschungsschleife", zahlen.Leerlauf[Schlange::Forschung]},
-              {"Werftschleife", zahlen.Leerlauf[Schlange::Werft]}}}};
+             {{"Bauschleife", zahlen.Leerlauf[Queue::Building]},
+              {"Forschungsschleife", zahlen.Leerlauf[Queue::Research]},
+              {"Werftschleife", zahlen.Leerlauf[Queue::Shipyard]}}}};
 }
 
-json Sekunden(const std::optional<Moment>& moment) {
-    return moment ? json(moment->Sekunden()) : json();
+json Sekunden(const std::optional<SimTime>& moment) {
+    return moment ? json(moment->Seconds()) : json();
 }
 
 }  // namespace

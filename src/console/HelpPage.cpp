@@ -41,11 +41,11 @@ std::string Hilfeseite::make_option_opts(const CLI::Option* option) const {
 
 std::string Hilfeseite::make_footer(const CLI::App* /*app*/) const {
     std::string text = "\nCodes in Plandateien, und mit Stufe oder Anzahl für --ziel:\n";
-    for (const Itemzeile& zeile : Itemtabelle()) {
-        text += Codezeile(zeile.Code, zeile.Name);
+    for (const ItemRow& zeile : ItemTable()) {
+        text += Codezeile(zeile.ItemCode, zeile.name);
     }
     return text +
-           Codezeile(kProduktionscode,
+           Codezeile(kProductionCode,
                      "nur in Plandateien: Produktion, etwa GX:8:10:5 für 80, 100 und 50 %") +
            "\n" + kBeispiele;
 }

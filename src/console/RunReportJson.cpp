@@ -36,8 +36,8 @@ json Zeilen(const Bauliste& bauliste) {
 template <class Wert>
 json JeCode(Wert wert) {
     json objekt = json::object();
-    for (const Itemzeile& zeile : Itemtabelle()) {
-        objekt[std::string(zeile.Code)] = wert(zeile.Item);
+    for (const ItemRow& zeile : ItemTable()) {
+        objekt[std::string(zeile.ItemCode)] = wert(zeile.item);
     }
     return objekt;
 }
@@ -61,24 +61,24 @@ json Zeittabelle(const Bauzeiten& bauzeiten) {
     return liste;
 }
 
-void FuegeZustandAn(json& objekt, const Spielstand& stand, const Startbedingungen& bedingungen) {
-    objekt["secsgone"] = stand.secsgone.Sekunden();
-    objekt["Metall"] = FourDecimalsText(stand.Vorrat[Rohstoff::Metall]);
-    objekt["Kristall"] = FourDecimalsText(stand.Vorrat[Rohstoff::Kristall]);
-    objekt["Deuterium"] = FourDecimalsText(stand.Vorrat[Rohstoff::Deuterium]);
+void FuegeZustandAn(json& objekt, const GameState& stand, const RunConditions& bedingungen) {
+    objekt["secsgone"] = stand.secsgone.Seconds();
+    objekt["Metall"] = FourDecimalsText(stand.stock[Resource::Metall]);
+    objekt["Kristall"] = FourDecimalsText(stand.stock[Resource::Kristall]);
+    objekt["Deuterium"] = FourDecimalsText(stand.stock[Resource::Deuterium]);
     objekt["ProdFaktor"] = FourDecimalsText(stand.ProdFaktor);
-    objekt["MetallProStunde"] = FourDecimalsText(stand.ProStunde[Rohstoff::Metall]);
-    objekt["KristallProStunde"] = FourDecimalsText(stand.ProStunde[Rohstoff::Kristall]);
-    objekt["DeuteriumProStunde"] = FourDecimalsText(stand.ProStunde[Rohstoff::Deuterium]);
+    objekt["MetallProStunde"] = FourDecimalsText(stand.ProStunde[Resource::Metall]);
+    objekt["KristallProStunde"] = FourDecimalsText(stand.ProStunde[Resource::Kristall]);
+    objekt["DeuteriumProStunde"] = FourDecimalsText(stand.ProStunde[Resource::Deuterium]);
     objekt["EnergieProduktion"] = stand.EnergieProduktion;
     objekt["EnergieVerbrauch"] = stand.EnergieVerbrauch;
     objekt["VerbauteRessourcen"] = stand.VerbauteRessourcen;
     objekt["Temperatur"] = bedingungen.Temperatur;
     objekt["Speedfaktor"] = bedingungen.Speedfaktor;
-    objekt["GebaeudeFertigZeit"] = stand.FertigZeit[Schlange::Gebaeude].Sekunden();
-    objekt["WerftFertigZeit"] = stand.FertigZeit[Schlange::Werft].Sekunden();
-    objekt["ForschungFertigZeit"] = stand.FertigZeit[Schlange::Forschung].Sekunden();
-    objekt["Stufen"] = JeCode([&](ItemId item) { return stand.Stufen[item]; });
+    objekt["GebaeudeFertigZeit"] = stand.FertigZeit[Queue::Building].Seconds();
+    objekt["WerftFertigZeit"] = stand.FertigZeit[Queue::Shipyard].Seconds();
+    objekt["ForschungFertigZeit"] = stand.FertigZeit[Queue::Research].Seconds();
+    objekt["Stufen"] = JeCode([&](ItemId item) { return stand.Stufe[item]; });
 }
 
 void FuegeTexteAn(json& objekt, const Ergebnistexte& texte) {
@@ -91,15 +91,15 @@ void FuegeTexteAn(json& objekt, const Ergebnistexte& texte) {
     objekt["LBL_Punkte_Hinweis"] = texte.LBL_Punkte_Hinweis;
 }
 
-json Punkt(const Verlaufspunkt& punkt, const Startbedingungen& bedingungen) {
-    return {{"Sekunde", punkt.Zeit.Sekunden()},
-            {"Zeitpunkt", DateTimeText(bedingungen.Uhrzeit(punkt.Zeit))},
-            {"Metall", FourDecimalsText(punkt.Vorrat[Rohstoff::Metall])},
-            {"Kristall", FourDecimalsText(punkt.Vorrat[Rohstoff::Kristall])},
-            {"Deuterium", FourDecimalsText(punkt.Vorrat[Rohstoff::Deuterium])},
-            {"MetallProStunde", FourDecimalsText(punkt.ProStunde[Rohstoff::Metall])},
-            {"KristallProStunde", FourDecimalsText(punkt.ProStunde[Rohstoff::Kristall])},
-            {"DeuteriumProStunde", FourDecimalsText(punkt.ProStunde[Rohstoff::Deuterium])},
+json Punkt(const Verlaufspunkt& punkt, const RunConditions& bedingungen) {
+    return {{"Sekunde", punkt.Zeit.Seconds()},
+            {"Zeitpunkt", DateTimeText(bedingungen.WallClock(punkt.Zeit))},
+            {"Metall", FourDecimalsText(punkt.Vorrat[Resource::Metall])},
+            {"Kristall", FourDecimalsText(punkt.Vorrat[Resource::Kristall])},
+            {"Deuterium", FourDecimalsText(punkt.Vorrat[Resource::Deuterium])},
+            {"MetallProStunde", FourDecimalsText(punkt.ProStunde[Resource::Metall])},
+            {"KristallProStunde", FourDecimalsText(punkt.ProStunde[Resource::Kristall])},
+            {"DeuteriumProStunde", FourDecimalsText(punkt.ProStunde[Resource::Deuterium])},
             {"EnergieProduktion", punkt.EnergieProduktion},
             {"EnergieVerbrauch", punkt.EnergieVerbrauch}};
 }
@@ -111,14 +111,15 @@ json VerlaufVon(const Ablauf& ablauf) {
     }
     json auftraege = json::array();
     for (const Startereignis& start : ablauf.Starts) {
-        auftraege.push_back({{"Zeile", start.Zeile + 1},
-                             {"Auftrag", Auftragsschluessel(start.Order, start.Nummer)},
-                             {"Start", start.Start.Sekunden()},
-                             {"Finish", start.Finish.Sekunden()},
-                             {"Startzeit", DateTimeText(ablauf.Bedingungen.Uhrzeit(start.Start))},
-                             {"Fertigzeit", DateTimeText(ablauf.Bedingungen.Uhrzeit(start.Finish))},
-                             {"Schlange", Schlangenname(start.Order.Queue)},
-                             {"Grund", Wartetext(ablauf, start.Zeile)}});
+        auftraege.push_back(
+            {{"Zeile", start.Zeile + 1},
+             {"Auftrag", Auftragsschluessel(start.Order, start.Nummer)},
+             {"Start", start.Start.Seconds()},
+             {"Finish", start.Finish.Seconds()},
+             {"Startzeit", DateTimeText(ablauf.Bedingungen.WallClock(start.Start))},
+             {"Fertigzeit", DateTimeText(ablauf.Bedingungen.WallClock(start.Finish))},
+             {"Schlange", Schlangenname(start.Order.Queue)},
+             {"Grund", Wartetext(ablauf, start.Zeile)}});
     }
     return {{"Punkte", punkte}, {"Auftraege", auftraege}};
 }

@@ -32,7 +32,7 @@ std::vector<Zeile> Zeittabelle(const Bauzeiten& bauzeiten,
 
 /// Name and figure of what a run came to.
 std::vector<Zeile> Ergebnisfiguren(const Planlauf& lauf) {
-    const Spielstand& stand = lauf.Lauf.Stand;
+    const GameState& stand = lauf.Lauf.Stand;
     return {{"Dauer:", Dauertext(stand)},
             {"Metall:", lauf.Texte.LBL_Met},
             {"Kristall:", lauf.Texte.LBL_Kris},

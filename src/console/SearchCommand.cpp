@@ -118,7 +118,7 @@ int FuehreSucheAus(const Suchbefehl& befehl, const std::atomic<bool>& halt) {
         std::cerr << befehl.Plandatei << ": " << Ladehindernis(AlsPfad(befehl.Plandatei)) << '\n';
         return code;
     }
-    if (plan.Lauf.Stand.IstAmEndeDerUhr()) {
+    if (plan.Lauf.Stand.IsAtEndOfClock()) {
         std::cerr << befehl.Plandatei << ": " << UeberDieUhrText() << '\n';
     }
     const auto aufgabe = StelleAufgabe(plan.Plan, std::get<Suchwunsch>(wunsch));

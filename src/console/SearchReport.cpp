@@ -20,7 +20,7 @@ std::string Dauer(Long sekunden) {
     return FormatDuration(sekunden, "s", "dd(0)hh:mm:ss", "d");
 }
 
-json AlsJson(const Fund& fund, const Spielstand& stand) {
+json AlsJson(const Fund& fund, const GameState& stand) {
     json raten = json::array();
     for (const FixedPoint rate : stand.ProStunde) {
         raten.push_back(rate.WholePart());

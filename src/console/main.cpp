@@ -124,8 +124,8 @@ tarvelin::Planlauf SpieleDatei(const std::string& datei) {
     }
     const std::string text = !lauf.Geladen    ? tarvelin::Ladehindernis(AlsPfad(datei))
                              : !lauf.Gelaufen ? "dieser Plan kann nicht gespielt werden"
-                             : lauf.Lauf.Stand.IstAmEndeDerUhr() ? tarvelin::UeberDieUhrText()
-                                                                 : "";
+                             : lauf.Lauf.Stand.IsAtEndOfClock() ? tarvelin::UeberDieUhrText()
+                                                                : "";
     std::cerr << (text.empty() ? "" : datei + ": " + text + "\n");
     return lauf;
 }

@@ -12,47 +12,47 @@ namespace tarvelin {
 
 namespace {
 
-constexpr std::size_t kStufen = std::numeric_limits<Byte>::max() + std::size_t{1};
+constexpr std::size_t kLevels = std::numeric_limits<Byte>::max() + std::size_t{1};
 
-struct Stufenpreis {
-    Kosten Betrag{};
-    JeRohstoff<FixedPoint> Abzug{};
+struct LevelCost {
+    Cost amount{};
+    PerResource<FixedPoint> deduction{};
 };
 
 /// Every price there is, as each event of a run asks for some.
-using Preistafel = JeItem<std::array<Stufenpreis, kStufen>>;
+using CostTable = PerItem<std::array<LevelCost, kLevels>>;
 
-Preistafel AllePreise() noexcept {
-    Preistafel tafel;
-    for (const Itemzeile& zeile : Itemtabelle()) {
-        for (std::size_t stufe = 0; stufe < kStufen; ++stufe) {
-            const double faktor = Kostenfaktor(zeile.Nach, static_cast<double>(stufe));
-            Stufenpreis& preis = tafel[zeile.Item][stufe];
-            JedenRohstoff([&](Rohstoff r) {
-                preis.Betrag[r] = std::trunc(zeile.Basis[r] * faktor);
-                preis.Abzug[r] = FixedPoint::FromDouble(preis.Betrag[r]);
+CostTable AllCosts() noexcept {
+    CostTable table;
+    for (const ItemRow& row : ItemTable()) {
+        for (std::size_t level = 0; level < kLevels; ++level) {
+            const double factor = CostFactor(row.growth, static_cast<double>(level));
+            LevelCost& cost = table[row.item][level];
+            ForEachResource([&](Resource resource) {
+                cost.amount[resource] = std::trunc(row.baseCost[resource] * factor);
+                cost.deduction[resource] = FixedPoint::FromDouble(cost.amount[resource]);
             });
         }
     }
-    return tafel;
+    return table;
 }
 
-const Preistafel kPreise = AllePreise();
+const CostTable kCosts = AllCosts();
 
 }  // namespace
 
-const Kosten& Preis(ItemId item, Byte stufe) {
-    return kPreise[item][stufe].Betrag;
+const Cost& CostOf(ItemId item, Byte level) {
+    return kCosts[item][level].amount;
 }
 
-const JeRohstoff<FixedPoint>& Abzug(ItemId item, Byte stufe) {
-    return kPreise[item][stufe].Abzug;
+const PerResource<FixedPoint>& StockDeduction(ItemId item, Byte level) {
+    return kCosts[item][level].deduction;
 }
 
-std::string Kostentext(const Kosten& kosten) {
-    return "Kosten:  Met: " + WholeText(kosten[Rohstoff::Metall]) +
-           "  Kris: " + WholeText(kosten[Rohstoff::Kristall]) +
-           "  Deut: " + WholeText(kosten[Rohstoff::Deuterium]);
+std::string GetUpgradecostString(const Cost& cost) {
+    return "Kosten:  Met: " + WholeText(cost[Resource::Metall]) +
+           "  Kris: " + WholeText(cost[Resource::Kristall]) +
+           "  Deut: " + WholeText(cost[Resource::Deuterium]);
 }
 
 }  // namespace tarvelin

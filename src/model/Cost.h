@@ -9,13 +9,13 @@
 
 namespace tarvelin {
 
-/// The price of the step from `stufe`, 0 or more, to the next one.
-[[nodiscard]] const Kosten& Preis(ItemId item, Byte stufe);
+/// The price of the step from `level`, 0 or more, to the next one.
+[[nodiscard]] const Cost& CostOf(ItemId item, Byte level);
 
 /// The same as it goes off the stocks.
-[[nodiscard]] const JeRohstoff<FixedPoint>& Abzug(ItemId item, Byte stufe);
+[[nodiscard]] const PerResource<FixedPoint>& StockDeduction(ItemId item, Byte level);
 
 /// "Kosten:  Met: 60  Kris: 15  Deut: 0".
-[[nodiscard]] std::string Kostentext(const Kosten& kosten);
+[[nodiscard]] std::string GetUpgradecostString(const Cost& cost);
 
 }  // namespace tarvelin

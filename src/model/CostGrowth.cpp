@@ -5,16 +5,16 @@
 
 namespace tarvelin {
 
-double Kostenfaktor(Wachstum nach, double stufe) {
-    switch (nach) {
-        case Wachstum::Keines:
+double CostFactor(CostGrowth growth, double level) {
+    switch (growth) {
+        case CostGrowth::None:
             break;
-        case Wachstum::Doppelt:
-            return std::pow(2.0, stufe);
-        case Wachstum::HochAnderthalb:
-            return std::pow(1.5, stufe + 1.0);
-        case Wachstum::HochEinsKommaSechs:
-            return std::pow(1.6, stufe + 1.0);
+        case CostGrowth::Doubling:
+            return std::pow(2.0, level);
+        case CostGrowth::OnePointFive:
+            return std::pow(1.5, level + 1.0);
+        case CostGrowth::OnePointSix:
+            return std::pow(1.6, level + 1.0);
     }
     return 1;
 }

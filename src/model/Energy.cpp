@@ -9,36 +9,36 @@ namespace tarvelin {
 
 namespace {
 
-using Potenzen = std::array<double, std::numeric_limits<Byte>::max() + std::size_t{1}>;
+using Powers = std::array<double, std::numeric_limits<Byte>::max() + std::size_t{1}>;
 
-Potenzen AllePotenzen() noexcept {
-    Potenzen potenzen{};
-    for (std::size_t stufe = 0; stufe < potenzen.size(); ++stufe) {
-        potenzen[stufe] = std::pow(1.1, static_cast<double>(stufe));
+Powers AllPowers() noexcept {
+    Powers powers{};
+    for (std::size_t level = 0; level < powers.size(); ++level) {
+        powers[level] = std::pow(1.1, static_cast<double>(level));
     }
-    return potenzen;
+    return powers;
 }
 
-const Potenzen kPotenzen = AllePotenzen();
+const Powers kPowers = AllPowers();
 
 }  // namespace
 
-double HochEinsKommaEins(Byte stufe) {
-    return kPotenzen[stufe];
+double OnePointOneToThe(Byte level) {
+    return kPowers[level];
 }
 
-FixedPoint Kraftwerksertrag(Byte stufe) {
-    constexpr double kEnergieJeStufe = 20;
+FixedPoint PowerPlantProduction(Byte level) {
+    constexpr double kEnergyPerLevel = 20;
     return FixedPoint::FromWhole(
-        Rounding::Floor(kEnergieJeStufe * stufe * HochEinsKommaEins(stufe)));
+        Rounding::Floor(kEnergyPerLevel * level * OnePointOneToThe(level)));
 }
 
 // The floor acts on the product, so that fractions of the satellites add up before it.
-FixedPoint Satellitenertrag(Byte anzahl, Integer temperatur) {
-    constexpr double kGradJeEnergie = 4;
-    constexpr double kEnergieBeiNullGrad = 20;
-    const double jeSatellit = temperatur / kGradJeEnergie + kEnergieBeiNullGrad;
-    return FixedPoint::FromWhole(Rounding::Floor(jeSatellit * anzahl));
+FixedPoint SatelliteProduction(Byte count, Integer temperature) {
+    constexpr double kDegreesPerEnergy = 4;
+    constexpr double kEnergyAtZeroDegrees = 20;
+    const double perSatellite = temperature / kDegreesPerEnergy + kEnergyAtZeroDegrees;
+    return FixedPoint::FromWhole(Rounding::Floor(perSatellite * count));
 }
 
 }  // namespace tarvelin

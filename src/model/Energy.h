@@ -5,14 +5,14 @@
 
 namespace tarvelin {
 
-/// 1.1^`stufe`, by which yields and needs of energy grow.
-[[nodiscard]] double HochEinsKommaEins(Byte stufe);
+/// 1.1^`level`, by which yields and needs of energy grow.
+[[nodiscard]] double OnePointOneToThe(Byte level);
 
 /// Energy that the solar power plant delivers at a level, a whole number.
-[[nodiscard]] FixedPoint Kraftwerksertrag(Byte stufe);
+[[nodiscard]] FixedPoint PowerPlantProduction(Byte level);
 
 /// Energy that a number of satellites delivers at the planet's temperature in degrees, a whole
 /// number; negative in great cold.
-[[nodiscard]] FixedPoint Satellitenertrag(Byte anzahl, Integer temperatur);
+[[nodiscard]] FixedPoint SatelliteProduction(Byte count, Integer temperature);
 
 }  // namespace tarvelin

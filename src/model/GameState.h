@@ -14,17 +14,17 @@ namespace tarvelin {
 
 /// A value: a copy of it is the whole game at that moment. Stocks are units, rates units per hour
 /// with the speed factor included, times seconds, energy a whole number without a unit of time.
-struct Spielstand {
+struct GameState {
     /// The clock of the run.
-    Moment secsgone;
+    SimTime secsgone;
     /// From when on each order queue is free again; 0 for none.
-    JeSchlange<Moment> FertigZeit{};
+    PerQueue<SimTime> FertigZeit{};
 
-    JeRohstoff<FixedPoint> Vorrat{};
-    JeRohstoff<FixedPoint> ProStunde{};
+    PerResource<FixedPoint> stock{};
+    PerResource<FixedPoint> ProStunde{};
     /// The same rates, as waits are worked out from them.
-    JeRohstoff<double> ProSekunde{};
-    Minenfaktoren Minenfaktor = kVolleFaktoren;
+    PerResource<double> perSecond{};
+    MineFactors MinenProdfaktor = kFullFactors;
 
     /// Share of the mines' energy need that is met, at most 1. Cold satellites can make it
     /// negative.
@@ -33,29 +33,29 @@ struct Spielstand {
     Long EnergieVerbrauch = 0;
     /// Whether a level of the mines, power plant or satellites or a factor of the mines has changed
     /// since the balance was struck.
-    bool BilanzVeraltet = true;
+    bool balanceStale = true;
 
     /// Whether the facility that serves a queue is being raised, from the start of the order to its
     /// finish.
-    JeSchlange<bool> ImAusbau{};
+    PerQueue<bool> Upgrading{};
 
     /// Sum of the resources spent on all started orders, from which the points come.
     Long VerbauteRessourcen = 0;
 
     /// Level reached by each building and research, number finished of each unit.
-    JeItem<Byte> Stufen{};
+    PerItem<Byte> Stufe{};
 
     /// What each item lacked when it was last asked with its gate open.
-    JeItem<Verzoegerung> Verzoegerungen{};
+    PerItem<Shortage> VerzoegerungsGrund{};
 
     /// Whether the run went beyond the clock, so that its last moments aren't their own.
-    [[nodiscard]] bool IstAmEndeDerUhr() const { return secsgone == Moment::Letzter(); }
+    [[nodiscard]] bool IsAtEndOfClock() const { return secsgone == SimTime::Last(); }
 
-    friend bool operator==(const Spielstand&, const Spielstand&) = default;
+    friend bool operator==(const GameState&, const GameState&) = default;
 };
 
-static_assert(std::is_trivially_copyable_v<Spielstand>, "a run can be copied before each order");
-inline constexpr std::size_t kHoechstgroesse = 1300;
-static_assert(sizeof(Spielstand) < kHoechstgroesse, "a copy costs next to nothing");
+static_assert(std::is_trivially_copyable_v<GameState>, "a run can be copied before each order");
+inline constexpr std::size_t kMaxStateSize = 1300;
+static_assert(sizeof(GameState) < kMaxStateSize, "a copy costs next to nothing");
 
 }  // namespace tarvelin

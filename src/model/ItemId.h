@@ -31,29 +31,29 @@ enum class ItemId : std::uint8_t {
     LaserTech,
     SpioTech,
     SchTech,
-    Anzahl,
+    Size,
 };
 
-inline constexpr std::size_t kItemAnzahl = IndexOf(ItemId::Anzahl);
+inline constexpr std::size_t kNumItems = IndexOf(ItemId::Size);
 
 template <class T>
-using JeItem = EnumArray<ItemId, T>;
+using PerItem = EnumArray<ItemId, T>;
 
 /// The order queues.
-enum class Schlange : std::uint8_t { Gebaeude, Werft, Forschung, Keine, Anzahl };
+enum class Queue : std::uint8_t { Building, Shipyard, Research, None, Size };
 
 template <class T>
-using JeSchlange = EnumArray<Schlange, T>;
+using PerQueue = EnumArray<Queue, T>;
 
 /// Whether a table has the row of each item, in the order of the items.
-template <class Tabelle>
-constexpr bool HatJedesItem(const Tabelle& tabelle) {
-    for (std::size_t i = 0; i < kItemAnzahl; ++i) {
-        if (tabelle[i].Item != static_cast<ItemId>(i)) {
+template <class Table>
+constexpr bool CoversEveryItem(const Table& table) {
+    for (std::size_t i = 0; i < kNumItems; ++i) {
+        if (table[i].Item != static_cast<ItemId>(i)) {
             return false;
         }
     }
-    return tabelle.size() == kItemAnzahl;
+    return table.size() == kNumItems;
 }
 
 }  // namespace tarvelin

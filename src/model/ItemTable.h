@@ -12,76 +12,76 @@
 namespace tarvelin {
 
 /// A level of another item that an item needs; level 0 asks for nothing.
-struct Stufenbedarf {
-    ItemId Item{};
-    Byte Stufe = 0;
+struct LevelRequirement {
+    ItemId item{};
+    Byte minLevel = 0;
 
-    friend bool operator==(const Stufenbedarf&, const Stufenbedarf&) = default;
+    friend bool operator==(const LevelRequirement&, const LevelRequirement&) = default;
 };
 
 /// All levels that an item needs.
-using Stufenbedarfe = std::array<Stufenbedarf, 3>;
+using LevelRequirements = std::array<LevelRequirement, 3>;
 
 /// What an item that costs deuterium needs of it beside its price.
-enum class Deuteriumbedarf : std::uint8_t {
+enum class DeuteriumGate : std::uint8_t {
     /// A power plant or a deuterium mine.
-    Quelle,
+    PlantOrMine,
     /// A rate that isn't 0, whatever the stock; a lack of it counts as a missing level.
-    Produktion,
+    Production,
     /// The same; a lack of it counts as a queue at work.
-    ProduktionVorerst,
+    ProductionForNow,
 };
 
 /// How an item stands in the energy balance.
-enum class Energierolle : std::uint8_t { Keine, Mine, Kraftwerk, Satellit };
+enum class EnergyRole : std::uint8_t { None, Mine, PowerPlant, Satellite };
 
 /// What few items have.
-struct Besonderheiten {
-    Energierolle Energie = Energierolle::Keine;
+struct ItemTraits {
+    EnergyRole energyRole = EnergyRole::None;
     /// The queue that a facility serves. The facility can't be raised while that queue is at work,
     /// nor can what waits in it start while the facility is raised.
-    Schlange Bedient = Schlange::Keine;
+    Queue serves = Queue::None;
     /// It can start while the facility of its queue is raised.
-    bool TrotzAusbau = false;
-    Deuteriumbedarf Deuterium = Deuteriumbedarf::Quelle;
+    bool startsDuringUpgrade = false;
+    DeuteriumGate deuteriumGate = DeuteriumGate::PlantOrMine;
     /// Its rows end with the level or number, and name the reason of a wait.
-    bool MitNummer = true;
-    bool MitGrund = true;
-    /// Its name in the hint over its picture, where that isn't its `Name`.
-    std::string_view Hovername{};
+    bool showsNumber = true;
+    bool showsReason = true;
+    /// Its name in the hint over its picture, where that isn't its `name`.
+    std::string_view hoverName{};
 };
 
 /// The row of an item. Three vocabularies of names stand beside each other on purpose: in the build
 /// list, in the build times and everywhere else.
-struct Itemzeile {
-    ItemId Item;
+struct ItemRow {
+    ItemId item;
     /// `ItemCode`: the first letter is the order queue, G building, W shipyard, F research; the
     /// rest tells the item in it.
-    std::string_view Code;
-    std::string_view Listentext;
-    std::string_view Zeitentext;
-    std::string_view Name;
-    Schlange Queue;
+    std::string_view ItemCode;
+    std::string_view listText;
+    std::string_view reportText;
+    std::string_view name;
+    Queue queue;
     /// Of a unit, of the first level, or what the first level grows from.
-    Kosten Basis;
-    Wachstum Nach;
-    Dauerformel* Dauer;
-    Stufenbedarfe Braucht;
-    Besonderheiten Besonders;
+    Cost baseCost;
+    CostGrowth growth;
+    UpgradeTimeFormula* upgradeTime;
+    LevelRequirements requirements;
+    ItemTraits traits;
 
-    [[nodiscard]] constexpr std::string_view Hovername() const {
-        return Besonders.Hovername.empty() ? Name : Besonders.Hovername;
+    [[nodiscard]] constexpr std::string_view HoverName() const {
+        return traits.hoverName.empty() ? name : traits.hoverName;
     }
 };
 
-[[nodiscard]] const JeItem<Itemzeile>& Itemtabelle();
+[[nodiscard]] const PerItem<ItemRow>& ItemTable();
 
-[[nodiscard]] inline const Itemzeile& ZeileVon(ItemId item) {
-    return Itemtabelle()[item];
+[[nodiscard]] inline const ItemRow& RowOf(ItemId item) {
+    return ItemTable()[item];
 }
 
 /// `Tag` of a production row: this, and the factors of metal, crystal and deuterium in tenths,
 /// each behind a colon.
-inline constexpr std::string_view kProduktionscode = "GX";
+inline constexpr std::string_view kProductionCode = "GX";
 
 }  // namespace tarvelin

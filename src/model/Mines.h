@@ -9,19 +9,19 @@
 namespace tarvelin {
 
 /// The mine of each resource.
-inline constexpr JeRohstoff<ItemId> kMinen{{ItemId::MetMine, ItemId::KrisMine, ItemId::DeutMine}};
+inline constexpr PerResource<ItemId> kMines{{ItemId::MetMine, ItemId::KrisMine, ItemId::DeutMine}};
 
 /// What a mine yields.
-[[nodiscard]] Rohstoff RohstoffDer(ItemId mine);
+[[nodiscard]] Resource ResourceOf(ItemId mine);
 
 /// Energy that the mine of a resource needs in a run, a whole number.
-[[nodiscard]] double Energiebedarf(Rohstoff mine, Byte stufe, Byte faktor);
+[[nodiscard]] double GetEnergieVerbrauch(Resource mine, Byte level, Byte factor);
 
 /// The same as the build list works it out, which can differ by one where the factor isn't full.
-[[nodiscard]] double EnergiebedarfDerListe(Rohstoff mine, Byte stufe, Byte faktor);
+[[nodiscard]] double ListEnergieVerbrauch(Resource mine, Byte level, Byte factor);
 
 /// Units per hour, a whole number, with this share of the mines' energy need met.
-[[nodiscard]] FixedPoint Minenertrag(Rohstoff mine, Byte stufe, Byte faktor, FixedPoint prodFaktor,
-                                     const Startbedingungen& bedingungen);
+[[nodiscard]] FixedPoint GetProduktion(Resource mine, Byte level, Byte factor,
+                                       FixedPoint prodFaktor, const RunConditions& conditions);
 
 }  // namespace tarvelin

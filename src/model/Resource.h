@@ -9,28 +9,28 @@
 
 namespace tarvelin {
 
-enum class Rohstoff : std::uint8_t { Metall, Kristall, Deuterium, Anzahl };
+enum class Resource : std::uint8_t { Metall, Kristall, Deuterium, Size };
 
-inline constexpr std::array kRohstoffe{Rohstoff::Metall, Rohstoff::Kristall, Rohstoff::Deuterium};
+inline constexpr std::array kResources{Resource::Metall, Resource::Kristall, Resource::Deuterium};
 
 template <class T>
-using JeRohstoff = EnumArray<Rohstoff, T>;
+using PerResource = EnumArray<Resource, T>;
 
 /// For each resource in its turn; without a loop, as each event of a run does this several times.
-template <class Tat>
-constexpr void JedenRohstoff(Tat tat) {
-    tat(Rohstoff::Metall);
-    tat(Rohstoff::Kristall);
-    tat(Rohstoff::Deuterium);
+template <class Action>
+constexpr void ForEachResource(Action action) {
+    action(Resource::Metall);
+    action(Resource::Kristall);
+    action(Resource::Deuterium);
 }
 
 /// Whole amounts. They grow beyond 64 bits, so they are doubles.
-using Kosten = JeRohstoff<double>;
+using Cost = PerResource<double>;
 
 /// Production factors of the metal, crystal and deuterium mine in tenths, from 0 to 10.
-using Minenfaktoren = JeRohstoff<Byte>;
+using MineFactors = PerResource<Byte>;
 
-inline constexpr Byte kVollerFaktor = 10;
-inline constexpr Minenfaktoren kVolleFaktoren{{kVollerFaktor, kVollerFaktor, kVollerFaktor}};
+inline constexpr Byte kFullFactor = 10;
+inline constexpr MineFactors kFullFactors{{kFullFactor, kFullFactor, kFullFactor}};
 
 }  // namespace tarvelin

@@ -10,7 +10,7 @@
 namespace tarvelin {
 
 /// The world and the player of a run.
-struct Startbedingungen {
+struct RunConditions {
     /// Speed of the universe: 1 or 2; 0 before the first run.
     Long Speedfaktor = 0;
     /// Degrees, of the start planet.
@@ -22,7 +22,7 @@ struct Startbedingungen {
     /// The sleep windows, in the order of the table.
     std::vector<cSchlafzeit> Schlafzeiten{};
 
-    [[nodiscard]] DateTime Uhrzeit(Moment moment) const { return StartDate + moment.Sekunden(); }
+    [[nodiscard]] DateTime WallClock(SimTime moment) const { return StartDate + moment.Seconds(); }
 };
 
 }  // namespace tarvelin

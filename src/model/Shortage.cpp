@@ -10,16 +10,16 @@ namespace tarvelin {
 
 namespace {
 
-std::string_view Rohstofftext(Verzoegerung::Art art) {
-    switch (art) {
-        case Verzoegerung::Art::Metall:
+std::string_view ResourceText(Shortage::Kind kind) {
+    switch (kind) {
+        case Shortage::Kind::Metall:
             return " Metall";
-        case Verzoegerung::Art::Kristall:
+        case Shortage::Kind::Kristall:
             return " Kristall";
-        case Verzoegerung::Art::Deuterium:
+        case Shortage::Kind::Deuterium:
             return " Deuterium";
-        case Verzoegerung::Art::OhneAngabe:
-        case Verzoegerung::Art::Keine:
+        case Shortage::Kind::Unstated:
+        case Shortage::Kind::None:
             break;
     }
     return "";
@@ -27,15 +27,15 @@ std::string_view Rohstofftext(Verzoegerung::Art art) {
 
 }  // namespace
 
-std::string Verzoegerung::Text() const {
-    switch (Grund) {
-        case Art::OhneAngabe:
+std::string Shortage::Text() const {
+    switch (kind) {
+        case Kind::Unstated:
             return "";
-        case Art::Keine:
+        case Kind::None:
             return "Keine Verzögerung wegen der Ressourcen!";
         default:
-            return "Es fehlten: " + WholeText(std::floor(Fehlmenge)) +
-                   std::string(Rohstofftext(Grund));
+            return "Es fehlten: " + WholeText(std::floor(missingAmount)) +
+                   std::string(ResourceText(kind));
     }
 }
 

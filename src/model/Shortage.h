@@ -7,12 +7,12 @@
 namespace tarvelin {
 
 /// What the stocks lacked, kept as figures; the text is made when it is read.
-struct Verzoegerung {
-    enum class Art : std::uint8_t { OhneAngabe, Keine, Metall, Kristall, Deuterium };
+struct Shortage {
+    enum class Kind : std::uint8_t { Unstated, None, Metall, Kristall, Deuterium };
 
-    Art Grund = Art::Keine;
+    Kind kind = Kind::None;
     /// What the stock lacked, plus 1.
-    double Fehlmenge = 0;
+    double missingAmount = 0;
 
     /// "Keine Verzögerung wegen der Ressourcen!", or "Es fehlten: " with the amount and the
     /// resource; empty without a statement.
@@ -20,12 +20,12 @@ struct Verzoegerung {
 
     /// Takes over the figures one by one: right behind a change, a copy of the whole would have to
     /// wait for it.
-    void Uebernimm(const Verzoegerung& andere) {
-        Grund = andere.Grund;
-        Fehlmenge = andere.Fehlmenge;
+    void Assign(const Shortage& other) {
+        kind = other.kind;
+        missingAmount = other.missingAmount;
     }
 
-    friend bool operator==(const Verzoegerung&, const Verzoegerung&) = default;
+    friend bool operator==(const Shortage&, const Shortage&) = default;
 };
 
 }  // namespace tarvelin

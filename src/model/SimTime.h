@@ -10,29 +10,29 @@
 namespace tarvelin {
 
 /// Seconds of simulated time since the start of the universe; held within the range of Long.
-class Moment {
+class SimTime {
   public:
-    constexpr Moment() = default;
-    constexpr explicit Moment(Long sekunden) : m_sekunden(sekunden) {}
+    constexpr SimTime() = default;
+    constexpr explicit SimTime(Long seconds) : m_seconds(seconds) {}
 
     /// The end of the clock, at which all that would be later stands.
-    [[nodiscard]] static constexpr Moment Letzter() {
-        return Moment(std::numeric_limits<Long>::max());
+    [[nodiscard]] static constexpr SimTime Last() {
+        return SimTime(std::numeric_limits<Long>::max());
     }
 
-    [[nodiscard]] constexpr Long Sekunden() const { return m_sekunden; }
+    [[nodiscard]] constexpr Long Seconds() const { return m_seconds; }
 
-    friend constexpr Moment operator+(Moment moment, std::int64_t sekunden) {
-        return Moment(LongSum(moment.m_sekunden, sekunden));
+    friend constexpr SimTime operator+(SimTime moment, std::int64_t seconds) {
+        return SimTime(LongSum(moment.m_seconds, seconds));
     }
     /// Seconds from `b` to `a`.
-    friend constexpr Long operator-(Moment a, Moment b) {
-        return LongSum(a.m_sekunden, -std::int64_t{b.m_sekunden});
+    friend constexpr Long operator-(SimTime a, SimTime b) {
+        return LongSum(a.m_seconds, -std::int64_t{b.m_seconds});
     }
-    friend constexpr auto operator<=>(Moment, Moment) = default;
+    friend constexpr auto operator<=>(SimTime, SimTime) = default;
 
   private:
-    Long m_sekunden = 0;
+    Long m_seconds = 0;
 };
 
 }  // namespace tarvelin

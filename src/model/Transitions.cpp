@@ -13,94 +13,97 @@ namespace tarvelin {
 namespace {
 
 /// What the mines yield, for all moments until the next balance.
-void FrischeErtraegeAuf(Spielstand& stand, const Startbedingungen& bedingungen) {
-    JedenRohstoff([&](Rohstoff r) {
-        stand.ProStunde[r] = Minenertrag(r, stand.Stufen[kMinen[r]], stand.Minenfaktor[r],
-                                         stand.ProdFaktor, bedingungen);
-        stand.ProSekunde[r] = stand.ProStunde[r].ToDouble() / kSekundenJeStunde;
+void RefreshProduktion(GameState& state, const RunConditions& conditions) {
+    ForEachResource([&](Resource resource) {
+        state.ProStunde[resource] =
+            GetProduktion(resource, state.Stufe[kMines[resource]], state.MinenProdfaktor[resource],
+                          state.ProdFaktor, conditions);
+        state.perSecond[resource] = state.ProStunde[resource].ToDouble() / kSecondsPerHour;
     });
 }
 
 /// What a rate yields: divided in floating point, half to even at the fourth decimal.
-FixedPoint Ertrag(FixedPoint proStunde, Long sekunden) {
-    constexpr std::uint64_t kStunde = 3600;
-    constexpr std::uint64_t kSicher = kStunde << 38U;
-    const FixedPoint stundenfach = proStunde * sekunden;
+FixedPoint MineYield(FixedPoint perHour, Long seconds) {
+    constexpr std::uint64_t kHour = 3600;
+    constexpr std::uint64_t kSafe = kHour << 38U;
+    const FixedPoint hourly = perHour * seconds;
     // The floating point quotient is off by less than 3 parts in 2^53, here 0.0001 at most. Only at
     // a half, or for more than that, can this be seen; all else is told by whole numbers.
-    const auto n = static_cast<std::uint64_t>(stundenfach.Raw());
-    const std::uint64_t halbe = 2 * n + kStunde;
-    const std::uint64_t ganze = halbe / (2 * kStunde);
-    if (n < kSicher && halbe != ganze * (2 * kStunde)) [[likely]] {
-        return FixedPoint::FromRaw(static_cast<std::int64_t>(ganze));
+    const auto n = static_cast<std::uint64_t>(hourly.Raw());
+    const std::uint64_t half = 2 * n + kHour;
+    const std::uint64_t whole = half / (2 * kHour);
+    if (n < kSafe && half != whole * (2 * kHour)) [[likely]] {
+        return FixedPoint::FromRaw(static_cast<std::int64_t>(whole));
     }
-    return FixedPoint::FromDouble(stundenfach.ToDouble() / kSekundenJeStunde);
+    return FixedPoint::FromDouble(hourly.ToDouble() / kSecondsPerHour);
 }
 
 }  // namespace
 
-Spielstand Anfang(const Startbedingungen& bedingungen) {
-    constexpr FixedPoint kStartvorrat = FixedPoint::FromWhole(500);
-    Spielstand stand;
-    stand.Vorrat = {{kStartvorrat, kStartvorrat, FixedPoint()}};
-    FrischeErtraegeAuf(stand, bedingungen);
-    return stand;
+GameState InitialState(const RunConditions& conditions) {
+    constexpr FixedPoint kInitialStock = FixedPoint::FromWhole(500);
+    GameState state;
+    state.stock = {{kInitialStock, kInitialStock, FixedPoint()}};
+    RefreshProduktion(state, conditions);
+    return state;
 }
 
-void BeginneSchritt(const Itemzeile& zeile, Spielstand& stand) {
-    const Kosten& preis = Preis(zeile.Item, stand.Stufen[zeile.Item]);
-    const JeRohstoff<FixedPoint>& abzug = Abzug(zeile.Item, stand.Stufen[zeile.Item]);
-    stand.ImAusbau[zeile.Besonders.Bedient] = true;
-    double verbaut = stand.VerbauteRessourcen;
-    JedenRohstoff([&](Rohstoff r) {
-        stand.Vorrat[r] = stand.Vorrat[r] - abzug[r];
-        verbaut += preis[r];
+void UpgradeStart(const ItemRow& row, GameState& state) {
+    const Cost& cost = CostOf(row.item, state.Stufe[row.item]);
+    const PerResource<FixedPoint>& deduction = StockDeduction(row.item, state.Stufe[row.item]);
+    state.Upgrading[row.traits.serves] = true;
+    double spent = state.VerbauteRessourcen;
+    ForEachResource([&](Resource resource) {
+        state.stock[resource] = state.stock[resource] - deduction[resource];
+        spent += cost[resource];
     });
-    stand.VerbauteRessourcen = HalfEvenLong(verbaut);
+    state.VerbauteRessourcen = HalfEvenLong(spent);
 }
 
-void BeendeSchritt(const Itemzeile& zeile, Spielstand& stand) {
-    stand.ImAusbau[zeile.Besonders.Bedient] = false;
-    stand.Stufen[zeile.Item] = Saturate<Byte>(stand.Stufen[zeile.Item] + 1);
-    stand.BilanzVeraltet |= zeile.Besonders.Energie != Energierolle::Keine;
+void UpgradeFinished(const ItemRow& row, GameState& state) {
+    state.Upgrading[row.traits.serves] = false;
+    state.Stufe[row.item] = Saturate<Byte>(state.Stufe[row.item] + 1);
+    state.balanceStale |= row.traits.energyRole != EnergyRole::None;
 }
 
-void SetzeMinenfaktoren(const Minenfaktoren& faktoren, Spielstand& stand) {
-    stand.Minenfaktor = faktoren;
-    stand.BilanzVeraltet = true;
+void SetProdfaktor(const MineFactors& factors, GameState& state) {
+    state.MinenProdfaktor = factors;
+    state.balanceStale = true;
 }
 
-void EnergieBilanz(Spielstand& stand, const Startbedingungen& bedingungen) {
-    if (!stand.BilanzVeraltet) {
+void EnergieBilanz(GameState& state, const RunConditions& conditions) {
+    if (!state.balanceStale) {
         return;
     }
-    stand.BilanzVeraltet = false;
-    double bedarf = 0;
-    JedenRohstoff([&](Rohstoff r) {
-        bedarf += Energiebedarf(r, stand.Stufen[kMinen[r]], stand.Minenfaktor[r]);
+    state.balanceStale = false;
+    double need = 0;
+    ForEachResource([&](Resource resource) {
+        need += GetEnergieVerbrauch(resource, state.Stufe[kMines[resource]],
+                                    state.MinenProdfaktor[resource]);
     });
-    stand.EnergieVerbrauch = HalfEvenLong(bedarf);
-    stand.EnergieProduktion =
-        HalfEvenLong((Satellitenertrag(stand.Stufen[ItemId::Solsats], bedingungen.Temperatur) +
-                      Kraftwerksertrag(stand.Stufen[ItemId::SKW]))
+    state.EnergieVerbrauch = HalfEvenLong(need);
+    state.EnergieProduktion =
+        HalfEvenLong((SatelliteProduction(state.Stufe[ItemId::Solsats], conditions.Temperatur) +
+                      PowerPlantProduction(state.Stufe[ItemId::SKW]))
                          .ToDouble());
-    constexpr FixedPoint kVoll = FixedPoint::FromWhole(1);
-    stand.ProdFaktor =
-        stand.EnergieVerbrauch == 0
-            ? kVoll
-            : std::min(kVoll, FixedPoint::FromDouble(static_cast<double>(stand.EnergieProduktion) /
-                                                     stand.EnergieVerbrauch));
-    FrischeErtraegeAuf(stand, bedingungen);
+    constexpr FixedPoint kFull = FixedPoint::FromWhole(1);
+    state.ProdFaktor =
+        state.EnergieVerbrauch == 0
+            ? kFull
+            : std::min(kFull, FixedPoint::FromDouble(static_cast<double>(state.EnergieProduktion) /
+                                                     state.EnergieVerbrauch));
+    RefreshProduktion(state, conditions);
 }
 
-void VergeheZeit(Long sekunden, Spielstand& stand) {
-    if (sekunden == 0) {
+void VergeheZeit(Long SecondsToPass, GameState& state) {
+    if (SecondsToPass == 0) {
         return;
     }
-    JedenRohstoff([&](Rohstoff r) {
-        stand.Vorrat[r] = stand.Vorrat[r] + Ertrag(stand.ProStunde[r], sekunden);
+    ForEachResource([&](Resource resource) {
+        state.stock[resource] =
+            state.stock[resource] + MineYield(state.ProStunde[resource], SecondsToPass);
     });
-    stand.secsgone = stand.secsgone + sekunden;
+    state.secsgone = state.secsgone + SecondsToPass;
 }
 
 }  // namespace tarvelin

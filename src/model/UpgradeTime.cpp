@@ -3,34 +3,30 @@
 
 namespace tarvelin {
 
-double Gebaeudedauer(const Kosten& preis, const Spielstand& stand,
-                     const Startbedingungen& bedingungen) {
-    constexpr double kRohstoffeJeStunde = 2500;
-    return (1.0 / bedingungen.Speedfaktor) *
-           ((preis[Rohstoff::Kristall] + preis[Rohstoff::Metall]) / kRohstoffeJeStunde) *
-           (1.0 / (1 + stand.Stufen[ItemId::Robo])) * kSekundenJeStunde;
+double BuildingTime(const Cost& cost, const GameState& state, const RunConditions& conditions) {
+    constexpr double kResourcesPerHour = 2500;
+    return (1.0 / conditions.Speedfaktor) *
+           ((cost[Resource::Kristall] + cost[Resource::Metall]) / kResourcesPerHour) *
+           (1.0 / (1 + state.Stufe[ItemId::Robo])) * kSecondsPerHour;
 }
 
-double Deuteriumminendauer(const Kosten& preis, const Spielstand& stand,
-                           const Startbedingungen& bedingungen) {
-    return HalfEvenLong(Gebaeudedauer(preis, stand, bedingungen));
+double DeuteriumMineTime(const Cost& cost, const GameState& state,
+                         const RunConditions& conditions) {
+    return HalfEvenLong(BuildingTime(cost, state, conditions));
 }
 
-double Einheitendauer(const Kosten& preis, const Spielstand& stand,
-                      const Startbedingungen& bedingungen) {
-    constexpr double kRohstoffeJeStunde = 5000;
-    return (1.0 / bedingungen.Speedfaktor) *
-           ((preis[Rohstoff::Kristall] + preis[Rohstoff::Metall]) / kRohstoffeJeStunde) *
-           (2.0 / (1 + stand.Stufen[ItemId::Werft])) * kSekundenJeStunde;
+double UnitTime(const Cost& cost, const GameState& state, const RunConditions& conditions) {
+    constexpr double kResourcesPerHour = 5000;
+    return (1.0 / conditions.Speedfaktor) *
+           ((cost[Resource::Kristall] + cost[Resource::Metall]) / kResourcesPerHour) *
+           (2.0 / (1 + state.Stufe[ItemId::Werft])) * kSecondsPerHour;
 }
 
 // The divisor is 1000 times the lab's level plus 1, not 1000 times (level plus 1).
-double Forschungsdauer(const Kosten& preis, const Spielstand& stand,
-                       const Startbedingungen& bedingungen) {
-    const Long divisor = 1000 * stand.Stufen[ItemId::Folab] + 1;
-    return ((1.0 / bedingungen.Speedfaktor) *
-            (preis[Rohstoff::Kristall] + preis[Rohstoff::Metall])) /
-           divisor * kSekundenJeStunde;
+double ResearchTime(const Cost& cost, const GameState& state, const RunConditions& conditions) {
+    const Long divisor = 1000 * state.Stufe[ItemId::Folab] + 1;
+    return ((1.0 / conditions.Speedfaktor) * (cost[Resource::Kristall] + cost[Resource::Metall])) /
+           divisor * kSecondsPerHour;
 }
 
 }  // namespace tarvelin

@@ -7,20 +7,20 @@
 
 namespace tarvelin {
 
-inline constexpr double kSekundenJeStunde = 3600;
+inline constexpr double kSecondsPerHour = 3600;
 
 /// Seconds that a step of this price takes with the factories and labs as they stand. Deuterium
 /// costs no time.
-using Dauerformel = double(const Kosten& preis, const Spielstand& stand,
-                           const Startbedingungen& bedingungen);
+using UpgradeTimeFormula = double(const Cost& cost, const GameState& state,
+                                  const RunConditions& conditions);
 
 /// Buildings. Robot factories make them faster.
-Dauerformel Gebaeudedauer;
+UpgradeTimeFormula BuildingTime;
 /// The deuterium mine alone: whole seconds, half to even.
-Dauerformel Deuteriumminendauer;
+UpgradeTimeFormula DeuteriumMineTime;
 /// Satellite, ships and defences. The shipyard makes them faster, robot factories play no part.
-Dauerformel Einheitendauer;
+UpgradeTimeFormula UnitTime;
 /// Research. The lab makes it faster, robot factories play no part.
-Dauerformel Forschungsdauer;
+UpgradeTimeFormula ResearchTime;
 
 }  // namespace tarvelin

@@ -10,136 +10,137 @@ namespace tarvelin {
 namespace {
 
 /// A gate that is closed.
-struct Torbefund {
-    Sperre Wert = Sperre::Offen;
-    Aufenthalt Grund;
+struct GateCheck {
+    GateValue value = GateValue::Open;
+    Delay delay;
 };
 
-const Stufenbedarf* FehlendeStufe(const Itemzeile& zeile, const Spielstand& stand) {
-    for (const Stufenbedarf& bedarf : zeile.Braucht) {
-        if (stand.Stufen[bedarf.Item] < bedarf.Stufe) {
-            return &bedarf;
+const LevelRequirement* MissingLevel(const ItemRow& row, const GameState& state) {
+    for (const LevelRequirement& requirement : row.requirements) {
+        if (state.Stufe[requirement.item] < requirement.minLevel) {
+            return &requirement;
         }
     }
     return nullptr;
 }
 
-Sperre Deuteriumtor(Deuteriumbedarf bedarf, const Spielstand& stand) {
-    if (bedarf == Deuteriumbedarf::Quelle) {
-        return stand.Stufen[ItemId::SKW] == 0 && stand.Stufen[ItemId::DeutMine] == 0
-                   ? Sperre::OhneDeuteriumQuelle
-                   : Sperre::Offen;
+GateValue CheckDeuteriumGate(DeuteriumGate gate, const GameState& state) {
+    if (gate == DeuteriumGate::PlantOrMine) {
+        return state.Stufe[ItemId::SKW] == 0 && state.Stufe[ItemId::DeutMine] == 0
+                   ? GateValue::NoDeuteriumSource
+                   : GateValue::Open;
     }
-    if (stand.ProStunde[Rohstoff::Deuterium] != FixedPoint()) {
-        return Sperre::Offen;
+    if (state.ProStunde[Resource::Deuterium] != FixedPoint()) {
+        return GateValue::Open;
     }
-    return bedarf == Deuteriumbedarf::Produktion ? Sperre::Voraussetzung : Sperre::Vorerst;
+    return gate == DeuteriumGate::Production ? GateValue::Prerequisite : GateValue::ForNow;
 }
 
-Torbefund PruefeTore(const Itemzeile& zeile, const Kosten& preis, const Spielstand& stand) {
-    if (stand.ImAusbau[zeile.Queue] && !zeile.Besonders.TrotzAusbau) {
-        return {Sperre::Voraussetzung, {.Was = Hindernis::Ausbau, .Queue = zeile.Queue}};
+GateCheck CheckGates(const ItemRow& row, const Cost& cost, const GameState& state) {
+    if (state.Upgrading[row.queue] && !row.traits.startsDuringUpgrade) {
+        return {GateValue::Prerequisite,
+                {.cause = DelayCause::FacilityUpgrade, .queue = row.queue}};
     }
-    if (const Stufenbedarf* const fehlt = FehlendeStufe(zeile, stand)) {
-        return {Sperre::Voraussetzung, {.Was = Hindernis::Stufe, .Fehlt = *fehlt}};
+    if (const LevelRequirement* const missing = MissingLevel(row, state)) {
+        return {GateValue::Prerequisite, {.cause = DelayCause::Level, .missing = *missing}};
     }
-    if (preis[Rohstoff::Deuterium] <= 0) {
+    if (cost[Resource::Deuterium] <= 0) {
         return {};
     }
-    const Sperre sperre = Deuteriumtor(zeile.Besonders.Deuterium, stand);
-    if (sperre == Sperre::Offen) {
+    const GateValue gate = CheckDeuteriumGate(row.traits.deuteriumGate, state);
+    if (gate == GateValue::Open) {
         return {};
     }
-    return {sperre, {.Was = Hindernis::Deuterium}};
+    return {gate, {.cause = DelayCause::Deuterium}};
 }
 
-/// What is short of a resource, and for how long. Figures side by side, not a `Verzoegerung`: the
+/// What is short of a resource, and for how long. Figures side by side, not a `Shortage`: the
 /// machine would wait for the halves of it at each copy.
-struct Mangel {
-    Long Sekunden = 0;
-    Verzoegerung::Art Art = Verzoegerung::Art::Keine;
-    double Fehlmenge = 0;
+struct ResourceWait {
+    Long seconds = 0;
+    Shortage::Kind kind = Shortage::Kind::None;
+    double missingAmount = 0;
 };
 
-constexpr JeRohstoff<Verzoegerung::Art> kArten{
-    {Verzoegerung::Art::Metall, Verzoegerung::Art::Kristall, Verzoegerung::Art::Deuterium}};
+constexpr PerResource<Shortage::Kind> kKinds{
+    {Shortage::Kind::Metall, Shortage::Kind::Kristall, Shortage::Kind::Deuterium}};
 
 /// The wait for a resource whose stock is short. One that never comes gives a wait so long that the
 /// next re-timing replaces it.
-Long SekundenBis(double fehlt, double proSekunde) {
-    constexpr Long kOhneEnde = 1'000'000'000;
-    if (proSekunde <= 0) {
-        return kOhneEnde;
+Long SecondsUntil(double missing, double perSecond) {
+    constexpr Long kEndless = 1'000'000'000;
+    if (perSecond <= 0) {
+        return kEndless;
     }
-    return Saturate<Long>(Rounding::Cut(1 + fehlt / proSekunde));
+    return Saturate<Long>(Rounding::Cut(1 + missing / perSecond));
 }
 
 /// Whether a stock is enough, told by whole numbers. Where they don't tell it surely, false.
-bool IstSicherGenug(FixedPoint vorrat, FixedPoint abzug) {
-    constexpr FixedPoint kGenau = FixedPoint::FromWhole(std::int64_t{1} << 38U);
-    return abzug <= vorrat && abzug < kGenau;
+bool IsSurelyEnough(FixedPoint stock, FixedPoint deduction) {
+    constexpr FixedPoint kExact = FixedPoint::FromWhole(std::int64_t{1} << 38U);
+    return deduction <= stock && deduction < kExact;
 }
 
 /// The longest wait for a resource; on a tie the earlier resource keeps the reason: metal before
 /// crystal before deuterium.
-Mangel LaengsterMangel(const Itemzeile& zeile, const Kosten& preis, const Spielstand& stand) {
-    const JeRohstoff<FixedPoint>& abzug = Abzug(zeile.Item, stand.Stufen[zeile.Item]);
-    Mangel laengster;
-    JedenRohstoff([&](Rohstoff r) __attribute__((always_inline)) {
-        if (IstSicherGenug(stand.Vorrat[r], abzug[r])) {
+ResourceWait LongestResourceWait(const ItemRow& row, const Cost& cost, const GameState& state) {
+    const PerResource<FixedPoint>& deduction = StockDeduction(row.item, state.Stufe[row.item]);
+    ResourceWait longest;
+    ForEachResource([&](Resource resource) __attribute__((always_inline)) {
+        if (IsSurelyEnough(state.stock[resource], deduction[resource])) {
             return;
         }
-        const double fehlt = preis[r] - stand.Vorrat[r].ToDouble();
-        if (fehlt <= 0) {
+        const double missing = cost[resource] - state.stock[resource].ToDouble();
+        if (missing <= 0) {
             return;
         }
-        const Long sekunden = SekundenBis(fehlt, stand.ProSekunde[r]);
-        if (sekunden > laengster.Sekunden) {
-            laengster = {.Sekunden = sekunden, .Art = kArten[r], .Fehlmenge = fehlt + 1};
+        const Long seconds = SecondsUntil(missing, state.perSecond[resource]);
+        if (seconds > longest.seconds) {
+            longest = {.seconds = seconds, .kind = kKinds[resource], .missingAmount = missing + 1};
         }
     });
-    return laengster;
+    return longest;
 }
 
 /// Moves a wait that ends inside a sleep window to that window's end. Each window is asked once,
 /// with the wait as the windows before it left it.
-Long NachSchlafzeiten(Long wartezeit, Moment jetzt, const Startbedingungen& bedingungen) {
-    for (const cSchlafzeit& schlafzeit : bedingungen.Schlafzeiten) {
-        if (schlafzeit.CheckifInside(bedingungen.Uhrzeit(jetzt + wartezeit))) {
-            wartezeit = schlafzeit.SecondsFrom_Insert_ToEnd(bedingungen.Uhrzeit(jetzt));
+Long AfterSleep(Long waitSeconds, SimTime now, const RunConditions& conditions) {
+    for (const cSchlafzeit& sleepWindow : conditions.Schlafzeiten) {
+        if (sleepWindow.CheckifInside(conditions.WallClock(now + waitSeconds))) {
+            waitSeconds = sleepWindow.SecondsFrom_Insert_ToEnd(conditions.WallClock(now));
         }
     }
-    return wartezeit;
+    return waitSeconds;
 }
 
 }  // namespace
 
-Wartezeit WarteAuf(const Itemzeile& zeile, const Spielstand& stand,
-                   const Startbedingungen& bedingungen) {
-    const Kosten& preis = Preis(zeile.Item, stand.Stufen[zeile.Item]);
-    const Schlange bedient = zeile.Besonders.Bedient;
-    const Long bisFrei = stand.FertigZeit[bedient] - stand.secsgone;
-    const Torbefund tor = PruefeTore(zeile, preis, stand);
-    if (tor.Wert != Sperre::Offen) {
-        return {.Sekunden = std::max(static_cast<Long>(tor.Wert), bisFrei),
-                .Mangel = {.Grund = Verzoegerung::Art::OhneAngabe},
-                .Grund = tor.Grund};
+Wait GetTimeUntilUpgradeIsPossible(const ItemRow& row, const GameState& state,
+                                   const RunConditions& conditions) {
+    const Cost& cost = CostOf(row.item, state.Stufe[row.item]);
+    const Queue served = row.traits.serves;
+    const Long untilFree = state.FertigZeit[served] - state.secsgone;
+    const GateCheck gate = CheckGates(row, cost, state);
+    if (gate.value != GateValue::Open) {
+        return {.seconds = std::max(static_cast<Long>(gate.value), untilFree),
+                .shortage = {.kind = Shortage::Kind::Unstated},
+                .delay = gate.delay};
     }
-    const Mangel mangel = LaengsterMangel(zeile, preis, stand);
-    const Long wach = std::max(mangel.Sekunden, bisFrei);
-    const Long ausgeschlafen = NachSchlafzeiten(wach, stand.secsgone, bedingungen);
-    Aufenthalt grund;
-    if (ausgeschlafen != wach) {
-        grund.Was = Hindernis::Schlafzeit;
-    } else if (bisFrei > mangel.Sekunden) {
-        grund = {.Was = Hindernis::Schlange, .Queue = bedient};
-    } else if (mangel.Sekunden > 0) {
-        grund.Was = Hindernis::Rohstoff;
+    const ResourceWait wait = LongestResourceWait(row, cost, state);
+    const Long sleepFree = std::max(wait.seconds, untilFree);
+    const Long afterSleep = AfterSleep(sleepFree, state.secsgone, conditions);
+    Delay delay;
+    if (afterSleep != sleepFree) {
+        delay.cause = DelayCause::Sleep;
+    } else if (untilFree > wait.seconds) {
+        delay = {.cause = DelayCause::Queue, .queue = served};
+    } else if (wait.seconds > 0) {
+        delay.cause = DelayCause::Resource;
     }
-    return {.Sekunden = ausgeschlafen == wach ? wach : std::max(ausgeschlafen, bisFrei),
-            .Mangel = {.Grund = mangel.Art, .Fehlmenge = mangel.Fehlmenge},
-            .Grund = grund,
-            .Wach = wach};
+    return {.seconds = afterSleep == sleepFree ? sleepFree : std::max(afterSleep, untilFree),
+            .shortage = {.kind = wait.kind, .missingAmount = wait.missingAmount},
+            .delay = delay,
+            .sleepFreeSeconds = sleepFree};
 }
 
 }  // namespace tarvelin

@@ -4,8 +4,8 @@
 namespace tarvelin {
 
 void cSchlafzeit::Init(DateTime theStartzeit, DateTime theEndzeit) {
-    m_startzeit = theStartzeit;
-    m_endzeit = theEndzeit;
+    m_Startzeit = theStartzeit;
+    m_Endzeit = theEndzeit;
 }
 
 }  // namespace tarvelin

@@ -14,25 +14,23 @@ class cSchlafzeit {
     void Init(DateTime theStartzeit, DateTime theEndzeit);
 
     [[nodiscard]] bool CheckifInside(DateTime theCheckzeit) const {
-        return IstSpaeter(m_startzeit, theCheckzeit) && !IstSpaeter(m_endzeit, theCheckzeit);
+        return IstSpaeter(m_Startzeit, theCheckzeit) && !IstSpaeter(m_Endzeit, theCheckzeit);
     }
 
     /// Seconds from a moment to the window's end; negative behind the end.
     [[nodiscard]] Long SecondsFrom_Insert_ToEnd(DateTime theInsertedDate) const {
-        return m_endzeit - theInsertedDate;
+        return m_Endzeit - theInsertedDate;
     }
 
-    [[nodiscard]] DateTime Beginn() const { return m_startzeit; }
-    [[nodiscard]] DateTime Ende() const { return m_endzeit; }
+    [[nodiscard]] DateTime Startzeit() const { return m_Startzeit; }
+    [[nodiscard]] DateTime Endzeit() const { return m_Endzeit; }
 
-    /// Whether `zweiter` lies at least one second behind `erster`.
-    [[nodiscard]] static bool IstSpaeter(DateTime erster, DateTime zweiter) {
-        return zweiter > erster;
-    }
+    /// Whether `second` lies at least one second behind `first`.
+    [[nodiscard]] static bool IstSpaeter(DateTime first, DateTime second) { return second > first; }
 
   private:
-    DateTime m_startzeit;
-    DateTime m_endzeit;
+    DateTime m_Startzeit;
+    DateTime m_Endzeit;
 };
 
 }  // namespace tarvelin

@@ -75,7 +75,7 @@ std::vector<Eintrag> Eintraege(const Ablauf& ablauf) {
     constexpr DateTime kLetzter(std::int64_t{2958466} * 86400);
     std::vector<const Startereignis*> starts;
     for (const Startereignis& start : ablauf.Starts) {
-        if (ablauf.Bedingungen.Uhrzeit(start.Start) < kLetzter) {
+        if (ablauf.Bedingungen.WallClock(start.Start) < kLetzter) {
             starts.push_back(&start);
         }
     }
@@ -96,10 +96,10 @@ std::string Beschreibung(const Ablauf& ablauf, const Eintrag& eintrag) {
     for (const Startereignis* const start : eintrag) {
         text += text.empty() ? "" : "\n";
         text +=
-            TimeOfDayText(ablauf.Bedingungen.Uhrzeit(start->Start)) + " " + Auftragstext(*start);
+            TimeOfDayText(ablauf.Bedingungen.WallClock(start->Start)) + " " + Auftragstext(*start);
         if (start->Order.Was == Auftrag::Art::Item) {
-            text +=
-                "\n" + Kostentext(Preis(start->Order.Item, static_cast<Byte>(start->Nummer - 1)));
+            text += "\n" + GetUpgradecostString(
+                               CostOf(start->Order.Item, static_cast<Byte>(start->Nummer - 1)));
         }
         const std::string grund = Wartetext(ablauf, start->Zeile);
         text += grund.empty() ? "" : "\n" + grund;
@@ -139,7 +139,7 @@ std::string Kalendertext(const Ablauf& ablauf, std::optional<Long> erinnerung,
         const std::string titel = Geschuetzt(Titel(eintrag));
         text += "BEGIN:VEVENT\r\n" + Zeile("UID:" + Kennung(ablauf, erster)) +
                 Zeile("DTSTAMP:" + Stempel(stand)) +
-                Zeile("DTSTART:" + Stempel(ablauf.Bedingungen.Uhrzeit(erster.Start))) +
+                Zeile("DTSTART:" + Stempel(ablauf.Bedingungen.WallClock(erster.Start))) +
                 "DURATION:PT1M\r\n" + Zeile("SUMMARY:" + titel) +
                 Zeile("DESCRIPTION:" + Geschuetzt(Beschreibung(ablauf, eintrag)));
         if (erinnerung) {

@@ -72,7 +72,7 @@ std::string Lesbar(std::string_view wert) {
 /// The steps of a load; each answers whether it found usable values.
 class Leser {
   public:
-    Leser(const Profil& profil, Plan& plan, const Startbedingungen& bedingungen)
+    Leser(const Profil& profil, Plan& plan, const RunConditions& bedingungen)
         : m_profil(profil), m_plan(plan), m_bedingungen(bedingungen) {}
 
     bool Lies() { return LiesEinstellungen() && LiesSchlafzeiten() && LiesBauliste(); }
@@ -153,7 +153,7 @@ class Leser {
 
     const Profil& m_profil;
     Plan& m_plan;
-    const Startbedingungen& m_bedingungen;
+    const RunConditions& m_bedingungen;
     std::string m_hindernis;
 };
 
@@ -205,7 +205,7 @@ bool SaveBauliste(const std::filesystem::path& File, const Plan& plan, const Dat
     return ErsetzeDatei(File, profil->Bytes(), system);
 }
 
-bool LadePlan(const Profil& profil, Plan& plan, const Startbedingungen& bedingungen,
+bool LadePlan(const Profil& profil, Plan& plan, const RunConditions& bedingungen,
               MessageSink& meldungen) {
     plan.Liste.Clear();
     const bool brauchbar = Leser(profil, plan, bedingungen).Lies();
@@ -217,7 +217,7 @@ bool LadePlan(const Profil& profil, Plan& plan, const Startbedingungen& bedingun
 
 std::string Ladehindernis(const Profil& profil) {
     Plan plan;
-    const Startbedingungen bedingungen;
+    const RunConditions bedingungen;
     Leser leser(profil, plan, bedingungen);
     return leser.Lies() ? "" : leser.Hindernis();
 }

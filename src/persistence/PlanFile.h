@@ -37,7 +37,7 @@ void SchreibePlan(const Plan& plan, Profil& profil);
 /// used the reading stops with a message: what was read up to there stays, and false comes back.
 /// Rows are replayed without a look at the game's rules; their factor texts follow the temperature
 /// of `bedingungen`, those of the last run or reset.
-[[nodiscard]] bool LadePlan(const Profil& profil, Plan& plan, const Startbedingungen& bedingungen,
+[[nodiscard]] bool LadePlan(const Profil& profil, Plan& plan, const RunConditions& bedingungen,
                             MessageSink& meldungen);
 
 /// The window's caption for a loaded plan.

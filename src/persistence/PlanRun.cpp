@@ -38,7 +38,7 @@ Planlauf::Planlauf(std::string name, const std::optional<Profil>& profil) : Name
         meldungen.Show(*absage);
         return;
     }
-    Lauf.Beginne(std::get<Startbedingungen>(bedingungen));
+    Lauf.Beginne(std::get<RunConditions>(bedingungen));
     RunSimulation(Plan.Liste.Auftraege().Alle(), Lauf, meldungen);
     Texte.NachLauf(Lauf.Stand);
     Gelaufen = true;

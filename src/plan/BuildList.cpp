@@ -16,15 +16,15 @@ namespace tarvelin {
 namespace {
 
 std::string Itemtext(ItemId item, Byte nummer) {
-    const Itemzeile& zeile = ZeileVon(item);
-    std::string text(zeile.Listentext);
-    return zeile.Besonders.MitNummer ? text + std::to_string(nummer) : text;
+    const ItemRow& zeile = RowOf(item);
+    std::string text(zeile.listText);
+    return zeile.traits.showsNumber ? text + std::to_string(nummer) : text;
 }
 
-std::string Produktionstext(const Minenfaktoren& faktoren) {
-    const auto prozent = [&](Rohstoff r) { return std::to_string(10 * faktoren[r]) + "%"; };
-    return "M:" + prozent(Rohstoff::Metall) + " K:" + prozent(Rohstoff::Kristall) +
-           " D:" + prozent(Rohstoff::Deuterium);
+std::string Produktionstext(const MineFactors& faktoren) {
+    const auto prozent = [&](Resource r) { return std::to_string(10 * faktoren[r]) + "%"; };
+    return "M:" + prozent(Resource::Metall) + " K:" + prozent(Resource::Kristall) +
+           " D:" + prozent(Resource::Deuterium);
 }
 
 /// The list text of the last order.
@@ -36,24 +36,24 @@ std::string Listentext(const Auftragsliste& liste) {
 
 }  // namespace
 
-std::optional<Message> Bauliste::AddItem(ItemId item, const Startbedingungen& bedingungen) {
-    return HaengeAn(Auftrag::Fuer(item), ZeileVon(item).Code, bedingungen);
+std::optional<Message> Bauliste::AddItem(ItemId item, const RunConditions& bedingungen) {
+    return HaengeAn(Auftrag::Fuer(item), RowOf(item).ItemCode, bedingungen);
 }
 
-std::optional<Message> Bauliste::AddProdaenderungsevent(const Minenfaktoren& faktoren,
-                                                        const Startbedingungen& bedingungen) {
+std::optional<Message> Bauliste::AddProdaenderungsevent(const MineFactors& faktoren,
+                                                        const RunConditions& bedingungen) {
     const Auftrag auftrag = Auftrag::Fuer(faktoren);
     return HaengeAn(auftrag, auftrag.Tag(), bedingungen);
 }
 
-bool Bauliste::Replay(std::string_view tag, const Startbedingungen& bedingungen) {
+bool Bauliste::Replay(std::string_view tag, const RunConditions& bedingungen) {
     const Auftrag auftrag = Auftrag::AusTag(tag);
     return auftrag.Was != Auftrag::Art::Unbekannt && !HaengeAn(auftrag, tag, bedingungen);
 }
 
 // The factor text sees the counters with the row done.
 std::optional<Message> Bauliste::HaengeAn(const Auftrag& auftrag, std::string_view tag,
-                                          const Startbedingungen& bedingungen) {
+                                          const RunConditions& bedingungen) {
     if (m_auftraege.IstVoll()) {
         return ListeVoll();
     }
@@ -85,7 +85,7 @@ std::vector<std::string> Bauliste::Tags() const {
     return tags;
 }
 
-void Bauliste::Setze(const std::vector<std::string>& tags, const Startbedingungen& bedingungen) {
+void Bauliste::Setze(const std::vector<std::string>& tags, const RunConditions& bedingungen) {
     Clear();
     for (const std::string& tag : tags) {
         static_cast<void>(Replay(tag, bedingungen));
@@ -97,17 +97,17 @@ Message ListeVoll() {
             .title = kBadInputTitle};
 }
 
-std::string GetProdfaktorText(const Auftragsliste& liste, const Startbedingungen& bedingungen) {
-    const auto bedarf = [&](Rohstoff r, ItemId mine) {
-        return EnergiebedarfDerListe(r, liste.ListStufe(mine), liste.ListFaktor()[r]);
+std::string GetProdfaktorText(const Auftragsliste& liste, const RunConditions& bedingungen) {
+    const auto bedarf = [&](Resource r, ItemId mine) {
+        return ListEnergieVerbrauch(r, liste.ListStufe(mine), liste.ListFaktor()[r]);
     };
-    const Long need = HalfEvenLong(bedarf(Rohstoff::Deuterium, ItemId::DeutMine) +
-                                   bedarf(Rohstoff::Kristall, ItemId::KrisMine) +
-                                   bedarf(Rohstoff::Metall, ItemId::MetMine));
-    const Long supply =
-        HalfEvenLong((Satellitenertrag(liste.ListStufe(ItemId::Solsats), bedingungen.Temperatur) +
-                      Kraftwerksertrag(liste.ListStufe(ItemId::SKW)))
-                         .ToDouble());
+    const Long need = HalfEvenLong(bedarf(Resource::Deuterium, ItemId::DeutMine) +
+                                   bedarf(Resource::Kristall, ItemId::KrisMine) +
+                                   bedarf(Resource::Metall, ItemId::MetMine));
+    const Long supply = HalfEvenLong(
+        (SatelliteProduction(liste.ListStufe(ItemId::Solsats), bedingungen.Temperatur) +
+         PowerPlantProduction(liste.ListStufe(ItemId::SKW)))
+            .ToDouble());
     constexpr int kStellen = 2;
     constexpr double kHundert = 100;
     const double anteil = need == 0 ? 1.0 : static_cast<double>(supply) / need;

@@ -38,15 +38,15 @@ class Bauliste {
 
     /// Adds a row of an item. Nothing is checked against the game's rules. A message if the list is
     /// full; nothing changes then.
-    [[nodiscard]] std::optional<Message> AddItem(ItemId item, const Startbedingungen& bedingungen);
+    [[nodiscard]] std::optional<Message> AddItem(ItemId item, const RunConditions& bedingungen);
 
     /// Adds a production row. A message if the list is full; nothing changes then.
-    [[nodiscard]] std::optional<Message> AddProdaenderungsevent(
-        const Minenfaktoren& faktoren, const Startbedingungen& bedingungen);
+    [[nodiscard]] std::optional<Message> AddProdaenderungsevent(const MineFactors& faktoren,
+                                                                const RunConditions& bedingungen);
 
     /// Adds the row of a stored `Tag`, which is kept as it is. False if the `Tag` is unknown or the
     /// list full; nothing changes then.
-    [[nodiscard]] bool Replay(std::string_view tag, const Startbedingungen& bedingungen);
+    [[nodiscard]] bool Replay(std::string_view tag, const RunConditions& bedingungen);
 
     /// Takes the last row out, if there is one, and puts back what it had changed.
     void Undo();
@@ -57,11 +57,11 @@ class Bauliste {
     [[nodiscard]] std::vector<std::string> Tags() const;
     /// All rows anew, with the texts that adding them one by one gives. Each `Tag` is one that
     /// `Replay` takes; at most 254.
-    void Setze(const std::vector<std::string>& tags, const Startbedingungen& bedingungen);
+    void Setze(const std::vector<std::string>& tags, const RunConditions& bedingungen);
 
   private:
     std::optional<Message> HaengeAn(const Auftrag& auftrag, std::string_view tag,
-                                    const Startbedingungen& bedingungen);
+                                    const RunConditions& bedingungen);
 
     Auftragsliste m_auftraege;
     std::vector<BaulistenZeile> m_zeilen;
@@ -73,6 +73,6 @@ class Bauliste {
 /// The production factor of a list as it stands, with two decimals: supply divided by need, at most
 /// "1,00".
 [[nodiscard]] std::string GetProdfaktorText(const Auftragsliste& liste,
-                                            const Startbedingungen& bedingungen);
+                                            const RunConditions& bedingungen);
 
 }  // namespace tarvelin

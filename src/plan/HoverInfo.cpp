@@ -13,9 +13,9 @@ namespace tarvelin {
 namespace {
 
 /// What the step from `stufe` to the next level needs, at full production.
-std::string Bedarfstext(Rohstoff mine, Byte stufe) {
+std::string Bedarfstext(Resource mine, Byte stufe) {
     const auto bedarf = [&](int s) {
-        return EnergiebedarfDerListe(mine, Saturate<Byte>(s), kVollerFaktor);
+        return ListEnergieVerbrauch(mine, Saturate<Byte>(s), kFullFactor);
     };
     return "  |  Energie: -" + WholeText(bedarf(stufe + 1) - bedarf(stufe));
 }
@@ -24,31 +24,32 @@ std::string Ertragstext(FixedPoint ertrag) {
     return "  |  Energie: +" + DecimalText(ertrag);
 }
 
-std::string Energieanhang(ItemId item, Byte stufe, const Startbedingungen& bedingungen) {
-    switch (ZeileVon(item).Besonders.Energie) {
-        case Energierolle::Keine:
+std::string Energieanhang(ItemId item, Byte stufe, const RunConditions& bedingungen) {
+    switch (RowOf(item).traits.energyRole) {
+        case EnergyRole::None:
             break;
-        case Energierolle::Mine:
-            return Bedarfstext(RohstoffDer(item), stufe);
-        case Energierolle::Kraftwerk:
-            return Ertragstext(Kraftwerksertrag(Saturate<Byte>(stufe + 1)) -
-                               Kraftwerksertrag(stufe));
-        case Energierolle::Satellit:
-            return Ertragstext(Satellitenertrag(1, bedingungen.Temperatur));
+        case EnergyRole::Mine:
+            return Bedarfstext(ResourceOf(item), stufe);
+        case EnergyRole::PowerPlant:
+            return Ertragstext(PowerPlantProduction(Saturate<Byte>(stufe + 1)) -
+                               PowerPlantProduction(stufe));
+        case EnergyRole::Satellite:
+            return Ertragstext(SatelliteProduction(1, bedingungen.Temperatur));
     }
     return "";
 }
 
 }  // namespace
 
-Hoverinfo HoverInfo(ItemId item, const Auftragsliste& liste, const Startbedingungen& bedingungen) {
+Hoverinfo HoverInfo(ItemId item, const Auftragsliste& liste, const RunConditions& bedingungen) {
     if (const auto absage = Absage(item, liste)) {
         return {.DragOffen = false, .Tooltip = std::string(*absage)};
     }
     const Byte stufe = liste.ListStufe(item);
     return {.DragOffen = true,
-            .Tooltip = " " + std::string(ZeileVon(item).Hovername()) + "  |  " +
-                       Kostentext(Preis(item, stufe)) + Energieanhang(item, stufe, bedingungen)};
+            .Tooltip = " " + std::string(RowOf(item).HoverName()) + "  |  " +
+                       GetUpgradecostString(CostOf(item, stufe)) +
+                       Energieanhang(item, stufe, bedingungen)};
 }
 
 }  // namespace tarvelin

@@ -19,6 +19,6 @@ struct Hoverinfo {
 /// `bedingungen` are those of the last run or reset: the satellites' figure follows the
 /// temperature.
 [[nodiscard]] Hoverinfo HoverInfo(ItemId item, const Auftragsliste& liste,
-                                  const Startbedingungen& bedingungen);
+                                  const RunConditions& bedingungen);
 
 }  // namespace tarvelin

@@ -11,27 +11,27 @@ namespace tarvelin {
 
 namespace {
 
-Schlange SchlangeVon(std::string_view tag) {
+Queue SchlangeVon(std::string_view tag) {
     switch (tag.empty() ? '\0' : tag.front()) {
         case 'G':
-            return Schlange::Gebaeude;
+            return Queue::Building;
         case 'W':
-            return Schlange::Werft;
+            return Queue::Shipyard;
         case 'F':
-            return Schlange::Forschung;
+            return Queue::Research;
         default:
-            return Schlange::Keine;
+            return Queue::None;
     }
 }
 
 }  // namespace
 
 Auftrag Auftrag::Fuer(ItemId item) {
-    return {.Was = Art::Item, .Queue = ZeileVon(item).Queue, .Item = item};
+    return {.Was = Art::Item, .Queue = RowOf(item).queue, .Item = item};
 }
 
-Auftrag Auftrag::Fuer(const Minenfaktoren& faktoren) {
-    return {.Was = Art::Produktion, .Queue = Schlange::Gebaeude, .Faktoren = faktoren};
+Auftrag Auftrag::Fuer(const MineFactors& faktoren) {
+    return {.Was = Art::Produktion, .Queue = Queue::Building, .Faktoren = faktoren};
 }
 
 Auftrag Auftrag::AusTag(std::string_view tag) {
@@ -47,9 +47,9 @@ Auftrag Auftrag::AusTag(std::string_view tag) {
 std::string Auftrag::Tag() const {
     switch (Was) {
         case Art::Item:
-            return std::string(ZeileVon(Item).Code);
+            return std::string(RowOf(Item).ItemCode);
         case Art::Produktion: {
-            std::string tag(kProduktionscode);
+            std::string tag(kProductionCode);
             for (const Byte faktor : Faktoren) {
                 tag += ":" + std::to_string(faktor);
             }
@@ -62,18 +62,18 @@ std::string Auftrag::Tag() const {
 }
 
 std::optional<ItemId> ItemVonCode(std::string_view code) {
-    const auto* const zeile = std::ranges::find(Itemtabelle(), code, &Itemzeile::Code);
-    return zeile == Itemtabelle().end() ? std::nullopt : std::optional(zeile->Item);
+    const auto* const zeile = std::ranges::find(ItemTable(), code, &ItemRow::ItemCode);
+    return zeile == ItemTable().end() ? std::nullopt : std::optional(zeile->item);
 }
 
-std::optional<Minenfaktoren> LiesMinenfaktoren(std::string_view tag) {
-    if (!tag.starts_with(kProduktionscode)) {
+std::optional<MineFactors> LiesMinenfaktoren(std::string_view tag) {
+    if (!tag.starts_with(kProductionCode)) {
         return std::nullopt;
     }
-    Minenfaktoren faktoren{};
+    MineFactors faktoren{};
     for (std::size_t i = 0; i < faktoren.size(); ++i) {
         const auto wert =
-            ParseWholeNumber(GetToken(tag, static_cast<int>(i) + 2, ":"), 0, kVollerFaktor);
+            ParseWholeNumber(GetToken(tag, static_cast<int>(i) + 2, ":"), 0, kFullFactor);
         if (!wert) {
             return std::nullopt;
         }

@@ -17,12 +17,12 @@ struct Auftrag {
     enum class Art : std::uint8_t { Unbekannt, Item, Produktion };
 
     Art Was = Art::Unbekannt;
-    Schlange Queue = Schlange::Keine;
+    Queue Queue = Queue::None;
     ItemId Item{};
-    Minenfaktoren Faktoren{};
+    MineFactors Faktoren{};
 
     static Auftrag Fuer(ItemId item);
-    static Auftrag Fuer(const Minenfaktoren& faktoren);
+    static Auftrag Fuer(const MineFactors& faktoren);
     /// Of a `Tag`: an item code, or a production row with three whole factors from 0 to 10; any
     /// other text gives an unknown order of the queue that its first letter names.
     static Auftrag AusTag(std::string_view tag);
@@ -41,6 +41,6 @@ static_assert(sizeof(Auftrag) <= kAuftragsgroesse);
 
 /// The factors of a `Tag` that begins with "GX": its tokens 2, 3 and 4. Nothing if one of them is
 /// no whole number from 0 to 10.
-[[nodiscard]] std::optional<Minenfaktoren> LiesMinenfaktoren(std::string_view tag);
+[[nodiscard]] std::optional<MineFactors> LiesMinenfaktoren(std::string_view tag);
 
 }  // namespace tarvelin

@@ -22,7 +22,7 @@ void Auftragsliste::NimmLetzten() {
         const auto uebrige = Alle();
         const auto vorige = std::ranges::find(uebrige.rbegin(), uebrige.rend(),
                                               Auftrag::Art::Produktion, &Auftrag::Was);
-        m_listFaktor = vorige == uebrige.rend() ? kVolleFaktoren : vorige->Faktoren;
+        m_listFaktor = vorige == uebrige.rend() ? kFullFactors : vorige->Faktoren;
     }
 }
 

@@ -23,9 +23,9 @@ class Auftragsliste {
     /// Orders of an item: the level, or the number, that its last one reaches.
     [[nodiscard]] Byte ListStufe(ItemId item) const { return m_listStufe[item]; }
     /// The same of all items.
-    [[nodiscard]] const JeItem<Byte>& ListStufen() const { return m_listStufe; }
+    [[nodiscard]] const PerItem<Byte>& ListStufen() const { return m_listStufe; }
     /// The factors that hold at the end of the list.
-    [[nodiscard]] const Minenfaktoren& ListFaktor() const { return m_listFaktor; }
+    [[nodiscard]] const MineFactors& ListFaktor() const { return m_listFaktor; }
 
     /// The list isn't full.
     void HaengeAn(const Auftrag& auftrag);
@@ -36,8 +36,8 @@ class Auftragsliste {
   private:
     std::array<Auftrag, kHoechstzahl> m_auftraege{};
     std::size_t m_zahl = 0;
-    JeItem<Byte> m_listStufe{};
-    Minenfaktoren m_listFaktor = kVolleFaktoren;
+    PerItem<Byte> m_listStufe{};
+    MineFactors m_listFaktor = kFullFactors;
 };
 
 }  // namespace tarvelin

@@ -8,7 +8,7 @@ Planstand StandVon(const Plan& plan) {
         .Parameter = plan.Parameter, .Tags = plan.Liste.Tags(), .Schlafzeiten = plan.Schlafzeiten};
 }
 
-std::variant<Startbedingungen, Message> LiesStartbedingungen(const Plan& plan) {
+std::variant<RunConditions, Message> LiesStartbedingungen(const Plan& plan) {
     if (plan.Liste.Auftraege().IstLeer()) {
         return Message{.text = "Die Bauliste ist leer...", .title = kBadInputTitle};
     }
@@ -20,11 +20,11 @@ std::variant<Startbedingungen, Message> LiesStartbedingungen(const Plan& plan) {
     if (!start) {
         return Message{.text = "Kein gültiges Datum eingegeben...", .title = kBadInputTitle};
     }
-    return Startbedingungen{.Speedfaktor = plan.Parameter.Speedfaktor(),
-                            .Temperatur = *temperatur,
-                            .KlickPuffer = plan.Parameter.KlickPuffer,
-                            .StartDate = *start,
-                            .Schlafzeiten = LiesSchlafzeiten(plan.Schlafzeiten)};
+    return RunConditions{.Speedfaktor = plan.Parameter.Speedfaktor(),
+                         .Temperatur = *temperatur,
+                         .KlickPuffer = plan.Parameter.KlickPuffer,
+                         .StartDate = *start,
+                         .Schlafzeiten = LiesSchlafzeiten(plan.Schlafzeiten)};
 }
 
 }  // namespace tarvelin

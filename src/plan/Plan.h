@@ -34,6 +34,6 @@ struct Planstand {
 
 /// The conditions of the plan's run, or what keeps it from running: an empty list, then a
 /// temperature, then a date that can't be used.
-[[nodiscard]] std::variant<Startbedingungen, Message> LiesStartbedingungen(const Plan& plan);
+[[nodiscard]] std::variant<RunConditions, Message> LiesStartbedingungen(const Plan& plan);
 
 }  // namespace tarvelin

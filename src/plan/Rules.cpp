@@ -14,14 +14,14 @@ namespace {
 struct Regel {
     ItemId Item;
     /// Rows that have to stand in the list.
-    Stufenbedarfe Braucht;
+    LevelRequirements Braucht;
     std::string_view Fehlt;
     std::string_view ErsterFehlt = {};
     std::string_view ZweiterFehlt = {};
 };
 
 // clang-format off
-constexpr JeItem<Regel> kRegeln{{{
+constexpr PerItem<Regel> kRegeln{{{
     {ItemId::MetMine, {}, {}},
     {ItemId::KrisMine, {}, {}},
     {ItemId::DeutMine, {}, {}},
@@ -77,24 +77,24 @@ constexpr JeItem<Regel> kRegeln{{{
 }}};
 // clang-format on
 
-static_assert(HatJedesItem(kRegeln), "every item has its rule, in the order of the items");
+static_assert(CoversEveryItem(kRegeln), "every item has its rule, in the order of the items");
 
 constexpr std::string_view kKuppelVorhanden =
     " Bereits eine kleine Schildkuppel in der Bauliste vorhanden! ";
 
 }  // namespace
 
-const Stufenbedarfe& Listenbedarf(ItemId item) {
+const LevelRequirements& Listenbedarf(ItemId item) {
     return kRegeln[item].Braucht;
 }
 
-bool IstErlaubt(ItemId item, const JeItem<Byte>& listStufen) {
+bool IstErlaubt(ItemId item, const PerItem<Byte>& listStufen) {
     // Exactly one: a loaded list with two domes opens the third.
     if (item == ItemId::klSchK && listStufen[item] == 1) {
         return false;
     }
-    return std::ranges::all_of(kRegeln[item].Braucht, [&](const Stufenbedarf& bedarf) {
-        return listStufen[bedarf.Item] >= bedarf.Stufe;
+    return std::ranges::all_of(kRegeln[item].Braucht, [&](const LevelRequirement& bedarf) {
+        return listStufen[bedarf.item] >= bedarf.minLevel;
     });
 }
 
@@ -106,8 +106,8 @@ std::optional<std::string_view> Absage(ItemId item, const Auftragsliste& liste) 
         return kKuppelVorhanden;
     }
     const Regel& regel = kRegeln[item];
-    const auto fehlt = [&](const Stufenbedarf& bedarf) {
-        return liste.ListStufe(bedarf.Item) < bedarf.Stufe;
+    const auto fehlt = [&](const LevelRequirement& bedarf) {
+        return liste.ListStufe(bedarf.item) < bedarf.minLevel;
     };
     const bool erster = fehlt(regel.Braucht[0]);
     if (regel.ErsterFehlt.empty() || (erster && fehlt(regel.Braucht[1]))) {

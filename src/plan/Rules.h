@@ -11,10 +11,10 @@
 namespace tarvelin {
 
 /// The rows that an item asks for above it.
-[[nodiscard]] const Stufenbedarfe& Listenbedarf(ItemId item);
+[[nodiscard]] const LevelRequirements& Listenbedarf(ItemId item);
 
 /// Whether an item can be added to a list with these counters.
-[[nodiscard]] bool IstErlaubt(ItemId item, const JeItem<Byte>& listStufen);
+[[nodiscard]] bool IstErlaubt(ItemId item, const PerItem<Byte>& listStufen);
 
 /// Why an item can't be added to the list as it stands: the refusal, or nothing if it can. The
 /// rules count rows of the list and nothing else. `GM`, `GK`, `GD` and `GS` have none.

@@ -18,11 +18,11 @@ class Probelauf::Waechter final : public Laufbeobachter {
         const bool zuFrueh = ereignis.Zeile >= m_aufgabe.Kopf && ereignis.Start < m_aufgabe.Ab;
         Verfehlt = Verfehlt || ereignis.TorZu || zuFrueh;
         Sitzungen.Gezaehlt.Nimm(ereignis.Start);
-        if (ereignis.Grund.Was == Hindernis::Schlafzeit) {
+        if (ereignis.Grund.cause == DelayCause::Sleep) {
             Sitzungen.Wach = ereignis.Wach;
         }
     }
-    void Schulden(const Spielstand& /*stand*/) override { Verfehlt = true; }
+    void Schulden(const GameState& /*stand*/) override { Verfehlt = true; }
 
     Sitzungsstand Sitzungen;
     /// Orders that have started.
@@ -50,7 +50,7 @@ std::optional<Wertung> Probelauf::Spiele(std::span<const Auftrag> orders, std::s
     Waechter waechter(*m_aufgabe, halt.Sitzungen);
     while (!lauf.IstFertig()) {
         lauf.Schritt(waechter);
-        if (waechter.Verfehlt || lauf.Stand().secsgone.Sekunden() > grenze) {
+        if (waechter.Verfehlt || lauf.Stand().secsgone.Seconds() > grenze) {
             return std::nullopt;
         }
         if (waechter.Starts > m_gestartet) {
@@ -60,10 +60,10 @@ std::optional<Wertung> Probelauf::Spiele(std::span<const Auftrag> orders, std::s
             neuer.Sitzungen = waechter.Sitzungen;
         }
     }
-    if (lauf.Stand().secsgone == Moment(std::numeric_limits<Long>::max())) {
+    if (lauf.Stand().secsgone == SimTime(std::numeric_limits<Long>::max())) {
         return std::nullopt;
     }
-    return Wertung{.Dauer = lauf.Stand().secsgone.Sekunden(),
+    return Wertung{.Dauer = lauf.Stand().secsgone.Seconds(),
                    .Sitzungen = waechter.Sitzungen.Gezaehlt.Zahl,
                    .Wach = waechter.Sitzungen.Wach};
 }

@@ -37,7 +37,7 @@ class Probelauf {
   private:
     struct Sitzungsstand {
         Sitzungszaehler Gezaehlt;
-        Moment Wach;
+        SimTime Wach;
     };
     struct Halt {
         Simulation Lauf;

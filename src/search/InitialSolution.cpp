@@ -24,16 +24,16 @@ enum class Vorzug : std::uint8_t {
 };
 
 bool KostetDeuterium(const Auftrag& order) {
-    return order.Was == Auftrag::Art::Item && ZeileVon(order.Item).Basis[Rohstoff::Deuterium] > 0;
+    return order.Was == Auftrag::Art::Item && RowOf(order.Item).baseCost[Resource::Deuterium] > 0;
 }
 
 /// The place of the order in `uebrige` that ends the list soonest if it comes next.
 std::optional<std::size_t> Naechster(Probelauf& probe, std::vector<Auftrag>& liste,
                                      const std::vector<Auftrag>& uebrige,
-                                     const JeItem<Byte>& stufen, Vorzug vorzug) {
+                                     const PerItem<Byte>& stufen, Vorzug vorzug) {
     std::optional<std::size_t> bester;
     std::pair<bool, Long> wert{true, kOhneGrenze};
-    JeItem<bool> gefragt{};
+    PerItem<bool> gefragt{};
     for (std::size_t i = 0; i < uebrige.size(); ++i) {
         const Auftrag& order = uebrige[i];
         const bool item = order.Was == Auftrag::Art::Item;
@@ -64,7 +64,7 @@ std::optional<std::vector<Auftrag>> GierigeListe(const Suchaufgabe& aufgabe, Vor
     }
     Probelauf probe(aufgabe);
     std::vector<Auftrag> liste;
-    JeItem<Byte> stufen{};
+    PerItem<Byte> stufen{};
     while (liste.size() < vorlage.size()) {
         const std::size_t zeile = liste.size();
         if (fest(zeile)) {

@@ -22,9 +22,9 @@ std::size_t Weite(Zufall& zufall, std::size_t hoechste) {
     return 1 + zufall.Bis(zufall.Eins(2) ? std::min(kNah, hoechste) : hoechste);
 }
 
-bool GleichOhneWirtschaft(const JeItem<Byte>& a, const JeItem<Byte>& b) {
-    return std::ranges::all_of(Itemtabelle(), [&](const Itemzeile& zeile) {
-        return IstWirtschaft(zeile.Item) || a[zeile.Item] == b[zeile.Item];
+bool GleichOhneWirtschaft(const PerItem<Byte>& a, const PerItem<Byte>& b) {
+    return std::ranges::all_of(ItemTable(), [&](const ItemRow& zeile) {
+        return IstWirtschaft(zeile.item) || a[zeile.item] == b[zeile.item];
     });
 }
 
@@ -183,7 +183,7 @@ bool Zuege::Tausche(Zufall& zufall) {
 
 /// Rows that the move left alone need no look, unless something was struck above them.
 bool Zuege::HaeltRegeln() const {
-    JeItem<Byte> stufen = m_vorher[m_von];
+    PerItem<Byte> stufen = m_vorher[m_von];
     auto fester = static_cast<std::size_t>(std::count(
         m_nachbarFest.begin(), m_nachbarFest.begin() + static_cast<std::ptrdiff_t>(m_von), true));
     const bool ziel = m_aufgabe->Was == Suchaufgabe::Art::Ziel;

@@ -47,9 +47,9 @@ class Zuege {
     /// The rows that may move.
     std::vector<std::size_t> m_frei;
     /// The counters above each row, and behind the last.
-    std::vector<JeItem<Byte>> m_vorher;
+    std::vector<PerItem<Byte>> m_vorher;
     /// What stood above each pinned row at the beginning.
-    std::vector<JeItem<Byte>> m_vorFesten;
+    std::vector<PerItem<Byte>> m_vorFesten;
     /// From the first row that the last move changed to behind the last.
     std::size_t m_von = 0;
     std::size_t m_bis = 0;

@@ -13,7 +13,7 @@ namespace tarvelin {
 
 namespace {
 
-using Stufen = JeItem<Byte>;
+using Stufen = PerItem<Byte>;
 
 Suchabsage Falsch(std::string text) {
     return {.Text = std::move(text), .FalscherAufruf = true};
@@ -63,9 +63,9 @@ std::variant<Stufen, Suchabsage> LiesZiel(std::string_view text) {
 /// The plan's own research, units and defences.
 std::variant<Stufen, Suchabsage> ZielDesPlans(const Plan& plan) {
     Stufen ziel = plan.Liste.Auftraege().ListStufen();
-    for (const Itemzeile& zeile : Itemtabelle()) {
-        if (IstWirtschaft(zeile.Item)) {
-            ziel[zeile.Item] = 0;
+    for (const ItemRow& zeile : ItemTable()) {
+        if (IstWirtschaft(zeile.item)) {
+            ziel[zeile.item] = 0;
         }
     }
     if (ziel == Stufen{}) {
@@ -113,7 +113,7 @@ std::optional<Suchabsage> SetzeFeste(const Plan& plan, const Suchwunsch& wunsch,
 /// The moments of all starts.
 class Startzeiten final : public Laufbeobachter {
   public:
-    static std::vector<Moment> Von(const Plan& plan, const Startbedingungen& bedingungen) {
+    static std::vector<SimTime> Von(const Plan& plan, const RunConditions& bedingungen) {
         Startzeiten zeiten;
         Simulation(plan.Liste.Auftraege().Alle(), bedingungen).Laufe(zeiten);
         return zeiten.m_starts;
@@ -121,7 +121,7 @@ class Startzeiten final : public Laufbeobachter {
     void Start(const Startereignis& ereignis) override { m_starts.push_back(ereignis.Start); }
 
   private:
-    std::vector<Moment> m_starts;
+    std::vector<SimTime> m_starts;
 };
 
 constexpr std::int64_t kMinute = 60;
@@ -132,15 +132,15 @@ std::string AufDieMinute(DateTime zeit) {
 
 /// What is played already, and the pause behind it.
 std::optional<Suchabsage> SetzeKopf(const Plan& plan, DateTime ab, Planaufgabe& aufgabe) {
-    Startbedingungen& bedingungen = aufgabe.Aufgabe.Bedingungen;
+    RunConditions& bedingungen = aufgabe.Aufgabe.Bedingungen;
     const auto starts = Startzeiten::Von(plan, bedingungen);
     const DateTime anfang = bedingungen.StartDate;
     const auto kopf = static_cast<std::size_t>(
         std::ranges::find_if(starts,
-                             [&](Moment start) { return bedingungen.Uhrzeit(start) >= ab; }) -
+                             [&](SimTime start) { return bedingungen.WallClock(start) >= ab; }) -
         starts.begin());
     aufgabe.Aufgabe.Kopf = kopf;
-    aufgabe.Aufgabe.Ab = Moment(std::max(Long{0}, ab - anfang));
+    aufgabe.Aufgabe.Ab = SimTime(std::max(Long{0}, ab - anfang));
     if (kopf == starts.size()) {
         return Suchabsage{.Text = "Alle Aufträge beginnen vor dem " + DateTimeText(ab) +
                                   ": es bleibt nichts umzustellen"};
@@ -148,7 +148,7 @@ std::optional<Suchabsage> SetzeKopf(const Plan& plan, DateTime ab, Planaufgabe& 
     if (kopf == 0) {
         return std::nullopt;
     }
-    const DateTime letzter = bedingungen.Uhrzeit(starts[kopf - 1]);
+    const DateTime letzter = bedingungen.WallClock(starts[kopf - 1]);
     const DateTime von(letzter.Seconds() / kMinute * kMinute + kMinute);
     const DateTime bis((ab.Seconds() + kMinute - 1) / kMinute * kMinute);
     if (von >= bis) {
@@ -187,10 +187,10 @@ void RichteAufZiel(Suchaufgabe& aufgabe) {
     }
     for (bool mehr = true; mehr;) {
         mehr = false;
-        for (const Itemzeile& zeile : Itemtabelle()) {
-            while (stufen[zeile.Item] < aufgabe.Mindestens[zeile.Item] &&
-                   IstErlaubt(zeile.Item, stufen)) {
-                nimm(Auftrag::Fuer(zeile.Item), false);
+        for (const ItemRow& zeile : ItemTable()) {
+            while (stufen[zeile.item] < aufgabe.Mindestens[zeile.item] &&
+                   IstErlaubt(zeile.item, stufen)) {
+                nimm(Auftrag::Fuer(zeile.item), false);
                 mehr = true;
             }
         }
@@ -204,9 +204,9 @@ bool Erreicht(const Auftragsliste& liste, const Stufen& ziel) {
 }
 
 /// Conditions for an empty list too.
-std::variant<Startbedingungen, Message> BedingungenVon(Plan plan) {
+std::variant<RunConditions, Message> BedingungenVon(Plan plan) {
     if (plan.Liste.Auftraege().IstLeer()) {
-        static_cast<void>(plan.Liste.AddItem(ItemId::MetMine, Startbedingungen()));
+        static_cast<void>(plan.Liste.AddItem(ItemId::MetMine, RunConditions()));
     }
     return LiesStartbedingungen(plan);
 }
@@ -239,7 +239,7 @@ std::variant<Planaufgabe, Suchabsage> StelleAufgabe(const Plan& plan, const Such
         return Suchabsage{.Text = meldung->text};
     }
     Planaufgabe aufgabe;
-    aufgabe.Aufgabe.Bedingungen = std::get<Startbedingungen>(bedingungen);
+    aufgabe.Aufgabe.Bedingungen = std::get<RunConditions>(bedingungen);
     const auto orders = plan.Liste.Auftraege().Alle();
     aufgabe.Aufgabe.Orders.assign(orders.begin(), orders.end());
     std::optional<Suchabsage> absage = PruefeRegeln(plan);
@@ -278,7 +278,7 @@ Plan MitListe(const Plan& plan, const std::vector<Auftrag>& orders,
               const std::optional<SchlafzeitZeile>& pause) {
     Plan neu = plan;
     neu.Liste.Clear();
-    const Startbedingungen bedingungen{.Temperatur = LiesTemperatur(plan.Parameter).value_or(0)};
+    const RunConditions bedingungen{.Temperatur = LiesTemperatur(plan.Parameter).value_or(0)};
     for (const Auftrag& order : orders) {
         static_cast<void>(neu.Liste.Replay(order.Tag(), bedingungen));
     }

@@ -15,7 +15,7 @@ struct Wertung {
     int Sitzungen = 0;
     /// When the last order that a night held back could have started without: the closer to the
     /// night's begin, the closer a plan is to gaining a night.
-    Moment Wach;
+    SimTime Wach;
 
     friend auto operator<=>(const Wertung&, const Wertung&) = default;
 };

@@ -61,7 +61,7 @@ double Energie(const Wertung& wertung, Neigung neigung) {
         case Neigung::Dauer:
             break;
         case Neigung::Nachtnaehe:
-            return wertung.Dauer + kJeSekundeNacht * wertung.Wach.Sekunden();
+            return wertung.Dauer + kJeSekundeNacht * wertung.Wach.Seconds();
         case Neigung::Sitzungen:
             return wertung.Dauer + kJeSitzung * wertung.Sitzungen;
     }

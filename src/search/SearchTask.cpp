@@ -15,25 +15,25 @@ bool IstWirtschaft(ItemId item) {
     return std::ranges::find(kWirtschaft, item) != kWirtschaft.end();
 }
 
-JeItem<Byte> MitVoraussetzungen(JeItem<Byte> ziel) {
+PerItem<Byte> MitVoraussetzungen(PerItem<Byte> ziel) {
     // What an item needs can need something itself.
     for (bool mehr = true; mehr;) {
         mehr = false;
-        for (const Itemzeile& zeile : Itemtabelle()) {
-            if (ziel[zeile.Item] == 0) {
+        for (const ItemRow& zeile : ItemTable()) {
+            if (ziel[zeile.item] == 0) {
                 continue;
             }
-            for (const Stufenbedarf& bedarf : Listenbedarf(zeile.Item)) {
-                mehr = mehr || ziel[bedarf.Item] < bedarf.Stufe;
-                ziel[bedarf.Item] = std::max(ziel[bedarf.Item], bedarf.Stufe);
+            for (const LevelRequirement& bedarf : Listenbedarf(zeile.item)) {
+                mehr = mehr || ziel[bedarf.item] < bedarf.minLevel;
+                ziel[bedarf.item] = std::max(ziel[bedarf.item], bedarf.minLevel);
             }
         }
     }
     return ziel;
 }
 
-JeItem<Byte> Endstufen(const std::vector<Auftrag>& orders) {
-    JeItem<Byte> stufen{};
+PerItem<Byte> Endstufen(const std::vector<Auftrag>& orders) {
+    PerItem<Byte> stufen{};
     for (const Auftrag& order : orders) {
         if (order.Was == Auftrag::Art::Item) {
             ++stufen[order.Item];

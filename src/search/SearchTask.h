@@ -25,7 +25,7 @@ struct Suchaufgabe {
     };
 
     Art Was = Art::Reihenfolge;
-    Startbedingungen Bedingungen;
+    RunConditions Bedingungen;
     /// The plan to begin with, by the rules of the list.
     std::vector<Auftrag> Orders;
     /// Rows that keep their place: as many as orders. In a search for an order a place is the
@@ -35,15 +35,15 @@ struct Suchaufgabe {
     /// So many rows at the head are played already.
     std::size_t Kopf = 0;
     /// No other order may start before.
-    Moment Ab;
+    SimTime Ab;
     /// Goal: levels and numbers that have to stand at the end; of what is no economy exactly these.
-    JeItem<Byte> Mindestens{};
+    PerItem<Byte> Mindestens{};
 };
 
 /// The goal with all that the rules of the list ask for on the way.
-[[nodiscard]] JeItem<Byte> MitVoraussetzungen(JeItem<Byte> ziel);
+[[nodiscard]] PerItem<Byte> MitVoraussetzungen(PerItem<Byte> ziel);
 
 /// What a list brings to its end.
-[[nodiscard]] JeItem<Byte> Endstufen(const std::vector<Auftrag>& orders);
+[[nodiscard]] PerItem<Byte> Endstufen(const std::vector<Auftrag>& orders);
 
 }  // namespace tarvelin

@@ -12,8 +12,8 @@ template <class Text>
 std::string Gereiht(const Auftragsliste& mehr, const Auftragsliste& weniger, const char* zwischen,
                     Text text) {
     std::string alle;
-    for (const Itemzeile& zeile : Itemtabelle()) {
-        const int unterschied = mehr.ListStufe(zeile.Item) - weniger.ListStufe(zeile.Item);
+    for (const ItemRow& zeile : ItemTable()) {
+        const int unterschied = mehr.ListStufe(zeile.item) - weniger.ListStufe(zeile.item);
         if (unterschied > 0) {
             alle += (alle.empty() ? "" : zwischen) + text(zeile, std::to_string(unterschied));
         }
@@ -24,14 +24,14 @@ std::string Gereiht(const Auftragsliste& mehr, const Auftragsliste& weniger, con
 }  // namespace
 
 std::string Ueberschuss(const Auftragsliste& mehr, const Auftragsliste& weniger) {
-    return Gereiht(mehr, weniger, " ", [](const Itemzeile& zeile, const std::string& zahl) {
-        return std::string(zeile.Code) + zahl;
+    return Gereiht(mehr, weniger, " ", [](const ItemRow& zeile, const std::string& zahl) {
+        return std::string(zeile.ItemCode) + zahl;
     });
 }
 
 std::string UeberschussInWorten(const Auftragsliste& mehr, const Auftragsliste& weniger) {
-    return Gereiht(mehr, weniger, ", ", [](const Itemzeile& zeile, const std::string& zahl) {
-        return zahl + " x " + std::string(zeile.Name);
+    return Gereiht(mehr, weniger, ", ", [](const ItemRow& zeile, const std::string& zahl) {
+        return zahl + " x " + std::string(zeile.name);
     });
 }
 
@@ -39,10 +39,10 @@ std::string Anzahltext(std::size_t zahl, const char* einzahl, const char* mehrza
     return std::to_string(zahl) + " " + (zahl == 1 ? einzahl : mehrzahl);
 }
 
-std::string ProStundeText(const Spielstand& stand) {
-    return "Metall " + std::to_string(stand.ProStunde[Rohstoff::Metall].WholePart()) +
-           ", Kristall " + std::to_string(stand.ProStunde[Rohstoff::Kristall].WholePart()) +
-           ", Deuterium " + std::to_string(stand.ProStunde[Rohstoff::Deuterium].WholePart());
+std::string ProStundeText(const GameState& stand) {
+    return "Metall " + std::to_string(stand.ProStunde[Resource::Metall].WholePart()) +
+           ", Kristall " + std::to_string(stand.ProStunde[Resource::Kristall].WholePart()) +
+           ", Deuterium " + std::to_string(stand.ProStunde[Resource::Deuterium].WholePart());
 }
 
 }  // namespace tarvelin

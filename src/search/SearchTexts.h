@@ -20,6 +20,6 @@ namespace tarvelin {
 [[nodiscard]] std::string Anzahltext(std::size_t zahl, const char* einzahl, const char* mehrzahl);
 
 /// "Metall 120, Kristall 60, Deuterium 20", whole units.
-[[nodiscard]] std::string ProStundeText(const Spielstand& stand);
+[[nodiscard]] std::string ProStundeText(const GameState& stand);
 
 }  // namespace tarvelin

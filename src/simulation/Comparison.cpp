@@ -16,7 +16,7 @@ namespace {
 /// What makes two orders the same: the code or the factors, and the number.
 using Schluessel = std::pair<std::string, int>;
 
-void Trage(const Ablauf& ablauf, std::optional<Moment> Vergleichszeile::*seite,
+void Trage(const Ablauf& ablauf, std::optional<SimTime> Vergleichszeile::*seite,
            std::map<Schluessel, Vergleichszeile>& zeilen) {
     std::map<std::string, int> produktionen;
     for (const Startereignis& start : ablauf.Starts) {
@@ -31,20 +31,20 @@ void Trage(const Ablauf& ablauf, std::optional<Moment> Vergleichszeile::*seite,
 }
 
 /// The same whichever run is which.
-std::tuple<Moment, Moment, std::string, int> Rang(const Vergleichszeile& zeile) {
-    const Moment a = zeile.A ? *zeile.A : *zeile.B;
-    const Moment b = zeile.B ? *zeile.B : *zeile.A;
+std::tuple<SimTime, SimTime, std::string, int> Rang(const Vergleichszeile& zeile) {
+    const SimTime a = zeile.A ? *zeile.A : *zeile.B;
+    const SimTime b = zeile.B ? *zeile.B : *zeile.A;
     return {std::min(a, b), std::max(a, b), zeile.Order.Tag(), zeile.Nummer};
 }
 
 }  // namespace
 
 Kennzahlen Kennzahlen::Von(const Ablauf& ablauf) {
-    Kennzahlen zahlen{.Dauer = ablauf.Dauer().Sekunden(),
+    Kennzahlen zahlen{.Dauer = ablauf.Dauer().Seconds(),
                       .VerbauteRessourcen = ablauf.Ende.VerbauteRessourcen,
-                      .Vorrat = ablauf.Ende.Vorrat};
+                      .Vorrat = ablauf.Ende.stock};
     Sitzungszaehler sitzungen;
-    JeSchlange<std::int64_t> beschaeftigt{};
+    PerQueue<std::int64_t> beschaeftigt{};
     for (const Startereignis& start : ablauf.Starts) {
         sitzungen.Nimm(start.Start);
         beschaeftigt[start.Order.Queue] += start.Finish - start.Start;

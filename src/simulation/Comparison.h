@@ -13,10 +13,10 @@ struct Kennzahlen {
     /// Seconds.
     Long Dauer = 0;
     Long VerbauteRessourcen = 0;
-    JeRohstoff<FixedPoint> Vorrat{};
+    PerResource<FixedPoint> Vorrat{};
     int Sitzungen = 0;
     /// Seconds in which a queue has nothing to do.
-    JeSchlange<Long> Leerlauf{};
+    PerQueue<Long> Leerlauf{};
 
     static Kennzahlen Von(const Ablauf& ablauf);
 
@@ -28,8 +28,8 @@ struct Vergleichszeile {
     Auftrag Order;
     /// The level or number of an item; of a production row how manieth of its kind it is.
     int Nummer = 0;
-    std::optional<Moment> A;
-    std::optional<Moment> B;
+    std::optional<SimTime> A;
+    std::optional<SimTime> B;
 
     /// How many seconds it starts later in B; nothing if only one has it.
     [[nodiscard]] std::optional<Long> Unterschied() const {

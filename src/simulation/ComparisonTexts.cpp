@@ -29,17 +29,17 @@ std::vector<Vergleichstext> Kennzahltexte(const Vergleich& vergleich) {
                                        Zahl("Punkte", a.VerbauteRessourcen / kRessourcenJePunkt,
                                             b.VerbauteRessourcen / kRessourcenJePunkt, kStellen)};
     struct Name {
-        Rohstoff Was;
+        Resource Was;
         const char* Text;
     };
     for (const auto& [was, name] :
-         {Name{Rohstoff::Metall, "Metall"}, Name{Rohstoff::Kristall, "Kristall"},
-          Name{Rohstoff::Deuterium, "Deuterium"}}) {
+         {Name{Resource::Metall, "Metall"}, Name{Resource::Kristall, "Kristall"},
+          Name{Resource::Deuterium, "Deuterium"}}) {
         zeilen.push_back(Zahl(name, static_cast<double>(a.Vorrat[was].WholePart()),
                               static_cast<double>(b.Vorrat[was].WholePart()), 0));
     }
     zeilen.push_back(Zahl("Sitzungen", a.Sitzungen, b.Sitzungen, 0));
-    for (const Schlange schlange : {Schlange::Gebaeude, Schlange::Forschung, Schlange::Werft}) {
+    for (const Queue schlange : {Queue::Building, Queue::Research, Queue::Shipyard}) {
         zeilen.push_back(Zeit(std::string(Schlangenname(schlange)) + " ohne Arbeit",
                               a.Leerlauf[schlange], b.Leerlauf[schlange]));
     }
@@ -48,8 +48,8 @@ std::vector<Vergleichstext> Kennzahltexte(const Vergleich& vergleich) {
 
 std::vector<Vergleichstext> Auftragstexte(const Vergleich& vergleich) {
     std::vector<Vergleichstext> zeilen;
-    const auto text = [](const std::optional<Moment>& moment) {
-        return moment ? Spannentext(moment->Sekunden()) : "fehlt";
+    const auto text = [](const std::optional<SimTime>& moment) {
+        return moment ? Spannentext(moment->Seconds()) : "fehlt";
     };
     for (const Vergleichszeile& zeile : vergleich.Unterschiede) {
         const auto unterschied = zeile.Unterschied();

@@ -3,7 +3,7 @@
 
 namespace tarvelin {
 
-void EventTabelle::SetFinish(Moment zeit, std::size_t order) {
+void EventTabelle::SetFinish(SimTime zeit, std::size_t order) {
     std::size_t platz = m_zahl++;
     for (; platz > 0 && m_finishs[platz - 1].Zeit <= zeit; --platz) {
         m_finishs.at(platz) = m_finishs[platz - 1];

@@ -16,14 +16,14 @@ namespace tarvelin {
 class EventTabelle {
   public:
     struct Zeile {
-        Moment Zeit;
+        SimTime Zeit;
         std::uint16_t Order = 0;
         bool IstStart = false;
     };
 
     /// Enters the start row; none waits yet.
     void SetStart(std::size_t order) {
-        m_startzeit = Moment();
+        m_startzeit = SimTime();
         m_wartender = static_cast<std::uint16_t>(order);
         m_wartetEiner = true;
     }
@@ -31,12 +31,12 @@ class EventTabelle {
     /// The place of the order that waits.
     [[nodiscard]] std::size_t Wartender() const { return m_wartender; }
     /// Gives the start row that waits another moment.
-    void SetStartzeit(Moment zeit) { m_startzeit = zeit; }
+    void SetStartzeit(SimTime zeit) { m_startzeit = zeit; }
 
     /// Enters a finish row.
-    void SetFinish(Moment zeit, std::size_t order);
+    void SetFinish(SimTime zeit, std::size_t order);
 
-    [[nodiscard]] bool HatFinishVor(Moment zeit) const {
+    [[nodiscard]] bool HatFinishVor(SimTime zeit) const {
         return m_zahl > 0 && m_finishs[m_zahl - 1].Zeit < zeit;
     }
 
@@ -52,7 +52,7 @@ class EventTabelle {
     /// bring one such order.
     static constexpr std::size_t kFinishzeilen = 8;
 
-    Moment m_startzeit;
+    SimTime m_startzeit;
     std::uint16_t m_wartender = 0;
     bool m_wartetEiner = false;
     std::size_t m_zahl = 0;

@@ -5,21 +5,21 @@
 
 namespace tarvelin {
 
-void Verlauf::NachSchritt(const Spielstand& stand) {
+void Verlauf::NachSchritt(const GameState& stand) {
     m_punkte.push_back({.Zeit = stand.secsgone,
-                        .Vorrat = stand.Vorrat,
+                        .Vorrat = stand.stock,
                         .ProStunde = stand.ProStunde,
                         .EnergieProduktion = stand.EnergieProduktion,
                         .EnergieVerbrauch = stand.EnergieVerbrauch,
-                        .Stufen = stand.Stufen});
+                        .Stufen = stand.Stufe});
 }
 
-JeRohstoff<FixedPoint> VorratNach(const Verlaufspunkt& punkt, Long sekunden) {
-    Spielstand stand;
-    stand.Vorrat = punkt.Vorrat;
+PerResource<FixedPoint> VorratNach(const Verlaufspunkt& punkt, Long sekunden) {
+    GameState stand;
+    stand.stock = punkt.Vorrat;
     stand.ProStunde = punkt.ProStunde;
     VergeheZeit(sekunden, stand);
-    return stand.Vorrat;
+    return stand.stock;
 }
 
 }  // namespace tarvelin

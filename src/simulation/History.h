@@ -11,21 +11,21 @@ namespace tarvelin {
 
 /// The state behind an event. Until the next one the stocks go on by the rates, in a straight line.
 struct Verlaufspunkt {
-    Moment Zeit;
-    JeRohstoff<FixedPoint> Vorrat{};
-    JeRohstoff<FixedPoint> ProStunde{};
+    SimTime Zeit;
+    PerResource<FixedPoint> Vorrat{};
+    PerResource<FixedPoint> ProStunde{};
     Long EnergieProduktion = 0;
     Long EnergieVerbrauch = 0;
-    JeItem<Byte> Stufen{};
+    PerItem<Byte> Stufen{};
 };
 
 /// Keeps a point of each step, in the order of the run: the clock can step back by a click buffer.
 class Verlauf final : public Laufbeobachter {
   public:
     /// `anfang` is the state before the first step.
-    explicit Verlauf(const Spielstand& anfang) { NachSchritt(anfang); }
+    explicit Verlauf(const GameState& anfang) { NachSchritt(anfang); }
 
-    void NachSchritt(const Spielstand& stand) override;
+    void NachSchritt(const GameState& stand) override;
 
     [[nodiscard]] const std::vector<Verlaufspunkt>& Punkte() const { return m_punkte; }
 
@@ -34,6 +34,6 @@ class Verlauf final : public Laufbeobachter {
 };
 
 /// The stocks `sekunden` behind a point, as the run rounds them if nothing happens meanwhile.
-[[nodiscard]] JeRohstoff<FixedPoint> VorratNach(const Verlaufspunkt& punkt, Long sekunden);
+[[nodiscard]] PerResource<FixedPoint> VorratNach(const Verlaufspunkt& punkt, Long sekunden);
 
 }  // namespace tarvelin

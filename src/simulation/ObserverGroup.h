@@ -21,7 +21,7 @@ class Beobachterreihe final : public Laufbeobachter {
     void Finish(const Auftrag& order) override {
         FuerAlle([&](auto& b) { b.Finish(order); });
     }
-    void Schulden(const Spielstand& stand) override {
+    void Schulden(const GameState& stand) override {
         FuerAlle([&](auto& b) { b.Schulden(stand); });
     }
     void Unbekannt(Unbekanntes was) override {
@@ -30,7 +30,7 @@ class Beobachterreihe final : public Laufbeobachter {
     void Piepton() override {
         FuerAlle([](auto& b) { b.Piepton(); });
     }
-    void NachSchritt(const Spielstand& stand) override {
+    void NachSchritt(const GameState& stand) override {
         FuerAlle([&](auto& b) { b.NachSchritt(stand); });
     }
 

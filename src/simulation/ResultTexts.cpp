@@ -16,18 +16,18 @@ std::string AlsPunkte(double ressourcen) {
 
 }  // namespace
 
-std::string Dauertext(const Spielstand& stand) {
-    return FormatDuration(stand.secsgone.Sekunden(), "s", "dd(0)hh:mm:ss", "d");
+std::string Dauertext(const GameState& stand) {
+    return FormatDuration(stand.secsgone.Seconds(), "s", "dd(0)hh:mm:ss", "d");
 }
 
-std::string Punktetext(const Spielstand& stand) {
+std::string Punktetext(const GameState& stand) {
     return AlsPunkte(stand.VerbauteRessourcen);
 }
 
-std::string PunkteMitVorratText(const Spielstand& stand) {
+std::string PunkteMitVorratText(const GameState& stand) {
     return AlsPunkte((FixedPoint::FromWhole(stand.VerbauteRessourcen) +
-                      stand.Vorrat[Rohstoff::Deuterium] + stand.Vorrat[Rohstoff::Kristall] +
-                      stand.Vorrat[Rohstoff::Metall])
+                      stand.stock[Resource::Deuterium] + stand.stock[Resource::Kristall] +
+                      stand.stock[Resource::Metall])
                          .ToDouble());
 }
 
@@ -46,12 +46,12 @@ void Ergebnistexte::NachClear() {
     LBL_ENergie = anfang.LBL_ENergie;
 }
 
-void Ergebnistexte::NachLauf(const Spielstand& stand) {
+void Ergebnistexte::NachLauf(const GameState& stand) {
     LBL_Timegone = "Dauer: " + Dauertext(stand);
     LBL_Timegone2 = LBL_Timegone;
-    LBL_Met = std::to_string(stand.Vorrat[Rohstoff::Metall].WholePart());
-    LBL_Kris = std::to_string(stand.Vorrat[Rohstoff::Kristall].WholePart());
-    LBL_Deut = std::to_string(stand.Vorrat[Rohstoff::Deuterium].WholePart());
+    LBL_Met = std::to_string(stand.stock[Resource::Metall].WholePart());
+    LBL_Kris = std::to_string(stand.stock[Resource::Kristall].WholePart());
+    LBL_Deut = std::to_string(stand.stock[Resource::Deuterium].WholePart());
     LBL_ENergie =
         std::to_string(LongSum(stand.EnergieProduktion, -std::int64_t{stand.EnergieVerbrauch})) +
         " / " + std::to_string(stand.EnergieProduktion);

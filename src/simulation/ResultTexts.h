@@ -8,11 +8,11 @@
 namespace tarvelin {
 
 /// "01 Tage 01:01:01": the clock of a run.
-[[nodiscard]] std::string Dauertext(const Spielstand& stand);
+[[nodiscard]] std::string Dauertext(const GameState& stand);
 /// "75,3": a point is a thousand units of resources spent.
-[[nodiscard]] std::string Punktetext(const Spielstand& stand);
+[[nodiscard]] std::string Punktetext(const GameState& stand);
 /// The same with what lies unspent.
-[[nodiscard]] std::string PunkteMitVorratText(const Spielstand& stand);
+[[nodiscard]] std::string PunkteMitVorratText(const GameState& stand);
 
 /// The captions, as the window starts with them. Each of the functions below writes the labels
 /// that its event touches and leaves the others.
@@ -28,7 +28,7 @@ struct Ergebnistexte {
 
     void NachReset();
     void NachClear();
-    void NachLauf(const Spielstand& stand);
+    void NachLauf(const GameState& stand);
 };
 
 }  // namespace tarvelin

@@ -18,18 +18,18 @@ struct Startereignis {
     Auftrag Order;
     /// The level or number that an item reaches; 0 for a production row.
     Byte Nummer = 0;
-    Moment Start;
+    SimTime Start;
     /// A production row finishes as it starts.
-    Moment Finish;
+    SimTime Finish;
     /// What the stocks lacked when the start was last timed.
-    Verzoegerung Mangel;
-    /// What held it back last; `Keines` if it waited for nothing but the row before it.
-    Aufenthalt Grund;
+    Shortage Mangel;
+    /// What held it back last; `None` if it waited for nothing but the row before it.
+    Delay Grund;
     /// It starts on the value of a closed gate, as nothing was left that could open it.
     bool TorZu = false;
     /// When it could have started without the sleep windows; the last moment there is if none held
     /// it back.
-    Moment Wach{};
+    SimTime Wach{};
 
     friend bool operator==(const Startereignis&, const Startereignis&) = default;
 };
@@ -49,12 +49,12 @@ class Laufbeobachter {
     virtual void Start(const Startereignis& /*ereignis*/) {}
     virtual void Finish(const Auftrag& /*order*/) {}
     /// A start has left a stock below 0.
-    virtual void Schulden(const Spielstand& /*stand*/) {}
+    virtual void Schulden(const GameState& /*stand*/) {}
     virtual void Unbekannt(Unbekanntes /*was*/) {}
     /// A step found nothing to do.
     virtual void Piepton() {}
     /// A step is over, and the balance struck.
-    virtual void NachSchritt(const Spielstand& /*stand*/) {}
+    virtual void NachSchritt(const GameState& /*stand*/) {}
 };
 
 }  // namespace tarvelin

@@ -5,11 +5,11 @@
 
 namespace tarvelin {
 
-void Laufmeldungen::Schulden(const Spielstand& stand) {
+void Laufmeldungen::Schulden(const GameState& stand) {
     m_ausgabe.Show(
-        {.text = "Negative Ressourcen: Metall: " + DecimalText(stand.Vorrat[Rohstoff::Metall]) +
-                 "    Kristall:" + DecimalText(stand.Vorrat[Rohstoff::Kristall]) +
-                 "    Deuterium: " + DecimalText(stand.Vorrat[Rohstoff::Deuterium]),
+        {.text = "Negative Ressourcen: Metall: " + DecimalText(stand.stock[Resource::Metall]) +
+                 "    Kristall:" + DecimalText(stand.stock[Resource::Kristall]) +
+                 "    Deuterium: " + DecimalText(stand.stock[Resource::Deuterium]),
          .title = "Simulations-Fehler, bitte melden"});
 }
 

@@ -12,7 +12,7 @@ class Laufmeldungen final : public Laufbeobachter {
     /// `ausgabe` must outlive it.
     explicit Laufmeldungen(MessageSink& ausgabe) : m_ausgabe(ausgabe) {}
 
-    void Schulden(const Spielstand& stand) override;
+    void Schulden(const GameState& stand) override;
     void Unbekannt(Unbekanntes was) override;
     void Piepton() override { m_ausgabe.Beep(); }
 

@@ -8,15 +8,15 @@
 
 namespace tarvelin {
 
-void Lauf::Beginne(const Startbedingungen& bedingungen) {
+void Lauf::Beginne(const RunConditions& bedingungen) {
     Bedingungen = bedingungen;
-    Stand = Anfang(Bedingungen);
+    Stand = InitialState(Bedingungen);
     LV_Bauzeiten.clear();
 }
 
 void Lauf::ResetSimulation(const Startparameter& parameter) {
     Bedingungen.Temperatur = LiesTemperatur(parameter).value_or(Bedingungen.Temperatur);
-    Stand = Anfang(Bedingungen);
+    Stand = InitialState(Bedingungen);
     LV_Bauzeiten.clear();
 }
 

@@ -13,12 +13,12 @@ namespace tarvelin {
 
 /// What a run leaves behind until the next run or reset.
 struct Lauf {
-    Startbedingungen Bedingungen;
-    Spielstand Stand;
+    RunConditions Bedingungen;
+    GameState Stand;
     Bauzeiten LV_Bauzeiten;
 
     /// The state before the first event of a run.
-    void Beginne(const Startbedingungen& bedingungen);
+    void Beginne(const RunConditions& bedingungen);
 
     /// The same without a run: a temperature that can't be used leaves the former one, all other
     /// conditions stay.

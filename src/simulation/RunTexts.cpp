@@ -14,33 +14,34 @@ namespace {
 
 /// When the wait was over: the click comes behind it.
 DateTime BereitUm(const Ablauf& ablauf, const Startereignis& start) {
-    return ablauf.Bedingungen.Uhrzeit(start.Start + -std::int64_t{ablauf.Bedingungen.KlickPuffer});
+    return ablauf.Bedingungen.WallClock(start.Start +
+                                        -std::int64_t{ablauf.Bedingungen.KlickPuffer});
 }
 
-std::string Stufentext(const Stufenbedarf& fehlt) {
-    return std::string(ZeileVon(fehlt.Item).Name) + " " + std::to_string(fehlt.Stufe);
+std::string Stufentext(const LevelRequirement& fehlt) {
+    return std::string(RowOf(fehlt.item).name) + " " + std::to_string(fehlt.minLevel);
 }
 
 /// The window whose end the order waited for, or that which began to hold it back.
 std::string Schlaftext(const Ablauf& ablauf, const Startereignis& start) {
     const auto& fenster = ablauf.Bedingungen.Schlafzeiten;
-    auto gesucht = std::ranges::find(fenster, BereitUm(ablauf, start), &cSchlafzeit::Ende);
+    auto gesucht = std::ranges::find(fenster, BereitUm(ablauf, start), &cSchlafzeit::Endzeit);
     if (gesucht == fenster.end()) {
-        const DateTime wach = ablauf.Bedingungen.Uhrzeit(start.Wach);
+        const DateTime wach = ablauf.Bedingungen.WallClock(start.Wach);
         gesucht = std::ranges::find_if(fenster,
                                        [&](const cSchlafzeit& f) { return f.CheckifInside(wach); });
     }
     if (gesucht == fenster.end()) {
         return "Schlafzeit";
     }
-    return "Schlafzeit " + TimeOfDayText(gesucht->Beginn()) + " bis " +
-           TimeOfDayText(gesucht->Ende());
+    return "Schlafzeit " + TimeOfDayText(gesucht->Startzeit()) + " bis " +
+           TimeOfDayText(gesucht->Endzeit());
 }
 
 /// Whether no order before the row waited for anything but clicks.
 bool NurKlicksDavor(const Ablauf& ablauf, std::size_t zeile) {
     return std::ranges::all_of(ablauf.Starts, [&](const Startereignis& start) {
-        return start.Zeile >= zeile || start.Grund.Was == Hindernis::Keines;
+        return start.Zeile >= zeile || start.Grund.cause == DelayCause::None;
     });
 }
 
@@ -58,26 +59,26 @@ std::string Benannt(const Auftrag& order, int nummer, std::string_view name) {
         return Bauzeit{.Order = order}.theText();
     }
     std::string text(name);
-    return ZeileVon(order.Item).Besonders.MitNummer ? text + " " + std::to_string(nummer) : text;
+    return RowOf(order.Item).traits.showsNumber ? text + " " + std::to_string(nummer) : text;
 }
 
 std::string Grundtext(const Ablauf& ablauf, const Startereignis& start) {
-    const Aufenthalt& grund = start.Grund;
-    switch (grund.Was) {
-        case Hindernis::Keines:
+    const Delay& grund = start.Grund;
+    switch (grund.cause) {
+        case DelayCause::None:
             return Klicktext(ablauf, start.Zeile);
-        case Hindernis::Stufe:
-            return "Es fehlte: " + Stufentext(grund.Fehlt);
-        case Hindernis::Ausbau:
-            return std::string(Schlangenname(grund.Queue)) + ": Ausbau";
-        case Hindernis::Deuterium:
+        case DelayCause::Level:
+            return "Es fehlte: " + Stufentext(grund.missing);
+        case DelayCause::FacilityUpgrade:
+            return std::string(Schlangenname(grund.queue)) + ": Ausbau";
+        case DelayCause::Deuterium:
             return "Es fehlte: Produktion von Deuterium";
-        case Hindernis::Rohstoff:
-            return grund.Mangel.Text();
-        case Hindernis::Schlange:
-            return std::string(Schlangenname(grund.Queue)) + " bis " +
+        case DelayCause::Resource:
+            return grund.shortage.Text();
+        case DelayCause::Queue:
+            return std::string(Schlangenname(grund.queue)) + " bis " +
                    TimeOfDayText(BereitUm(ablauf, start));
-        case Hindernis::Schlafzeit:
+        case DelayCause::Sleep:
             return Schlaftext(ablauf, start);
     }
     return "";
@@ -96,15 +97,15 @@ std::string Wartetext(const Ablauf& ablauf, std::size_t zeile) {
 
 std::string UeberDieUhrText() {
     return "Der Plan dauert länger, als die Uhr zeigen kann: was später als " +
-           Spannentext(Moment::Letzter().Sekunden()) + " käme, steht bei diesem Zeitpunkt.";
+           Spannentext(SimTime::Last().Seconds()) + " käme, steht bei diesem Zeitpunkt.";
 }
 
 std::string Auftragstext(const Auftrag& order, int nummer) {
-    return Benannt(order, nummer, ZeileVon(order.Item).Name);
+    return Benannt(order, nummer, RowOf(order.Item).name);
 }
 
 std::string Auftragsschluessel(const Auftrag& order, int nummer) {
-    return Benannt(order, nummer, ZeileVon(order.Item).Hovername());
+    return Benannt(order, nummer, RowOf(order.Item).HoverName());
 }
 
 std::string Auftragstext(const Startereignis& start) {
@@ -122,16 +123,16 @@ std::string Aenderungstext(Long sekunden) {
     return (sekunden < 0 ? "-" : sekunden > 0 ? "+" : "±") + Spannentext(std::abs(sekunden));
 }
 
-std::string_view Schlangenname(Schlange schlange) {
+std::string_view Schlangenname(Queue schlange) {
     switch (schlange) {
-        case Schlange::Gebaeude:
+        case Queue::Building:
             return "Bauschleife";
-        case Schlange::Werft:
+        case Queue::Shipyard:
             return "Werftschleife";
-        case Schlange::Forschung:
+        case Queue::Research:
             return "Forschungsschleife";
-        case Schlange::Keine:
-        case Schlange::Anzahl:
+        case Queue::None:
+        case Queue::Size:
             break;
     }
     return "";

@@ -30,6 +30,6 @@ namespace tarvelin {
 [[nodiscard]] std::string Aenderungstext(Long sekunden);
 
 /// "Bauschleife", "Werftschleife" or "Forschungsschleife"; empty for none.
-[[nodiscard]] std::string_view Schlangenname(Schlange schlange);
+[[nodiscard]] std::string_view Schlangenname(Queue schlange);
 
 }  // namespace tarvelin

@@ -28,7 +28,7 @@ const Startereignis* Ablauf::StartDer(std::size_t zeile) const {
     return start != Starts.end() && start->Zeile == zeile ? &*start : nullptr;
 }
 
-Ablauf SpieleAb(std::span<const Auftrag> auftraege, const Startbedingungen& bedingungen) {
+Ablauf SpieleAb(std::span<const Auftrag> auftraege, const RunConditions& bedingungen) {
     Ablauf ablauf;
     ablauf.Bedingungen = bedingungen;
     ablauf.Starts.reserve(auftraege.size());
@@ -56,7 +56,7 @@ std::vector<Verlaufspunkt> KurveAus(std::span<const Verlaufspunkt> verlauf) {
     return kurve;
 }
 
-const Verlaufspunkt& PunktUm(std::span<const Verlaufspunkt> kurve, Moment moment) {
+const Verlaufspunkt& PunktUm(std::span<const Verlaufspunkt> kurve, SimTime moment) {
     const auto naechster = std::ranges::upper_bound(kurve, moment, {}, &Verlaufspunkt::Zeit);
     return naechster == kurve.begin() ? kurve.front() : *(naechster - 1);
 }

@@ -13,29 +13,28 @@
 namespace tarvelin {
 
 struct Ablauf {
-    Startbedingungen Bedingungen;
+    RunConditions Bedingungen;
     /// The starts in the order of the rows. A row without a rule of its own has none.
     std::vector<Startereignis> Starts;
     /// The history, at each moment with the last state that the run recorded for it.
     std::vector<Verlaufspunkt> Kurve;
-    Spielstand Ende;
+    GameState Ende;
     std::vector<Message> Meldungen;
 
     /// When the last order is done.
-    [[nodiscard]] Moment Dauer() const { return Ende.secsgone; }
+    [[nodiscard]] SimTime Dauer() const { return Ende.secsgone; }
     /// Nothing for a row that never started.
     [[nodiscard]] const Startereignis* StartDer(std::size_t zeile) const;
 };
 
 /// Plays orders to the end.
-[[nodiscard]] Ablauf SpieleAb(std::span<const Auftrag> auftraege,
-                              const Startbedingungen& bedingungen);
+[[nodiscard]] Ablauf SpieleAb(std::span<const Auftrag> auftraege, const RunConditions& bedingungen);
 
 /// The points of a history in the order of time. Where the clock stepped back, by a click buffer,
 /// what was recorded before for the moments behind it is gone.
 [[nodiscard]] std::vector<Verlaufspunkt> KurveAus(std::span<const Verlaufspunkt> verlauf);
 
 /// The last point not behind a moment, or the first. The curve isn't empty.
-[[nodiscard]] const Verlaufspunkt& PunktUm(std::span<const Verlaufspunkt> kurve, Moment moment);
+[[nodiscard]] const Verlaufspunkt& PunktUm(std::span<const Verlaufspunkt> kurve, SimTime moment);
 
 }  // namespace tarvelin

@@ -7,18 +7,17 @@ namespace tarvelin {
 
 std::string Bauzeit::theText() const {
     if (Order.Was == Auftrag::Art::Produktion) {
-        const auto prozent = [this](Rohstoff r) { return std::to_string(Order.Faktoren[r] * 10); };
-        return prozent(Rohstoff::Metall) + "% " + prozent(Rohstoff::Kristall) + "% " +
-               prozent(Rohstoff::Deuterium) + "%";
+        const auto prozent = [this](Resource r) { return std::to_string(Order.Faktoren[r] * 10); };
+        return prozent(Resource::Metall) + "% " + prozent(Resource::Kristall) + "% " +
+               prozent(Resource::Deuterium) + "%";
     }
-    const Itemzeile& zeile = ZeileVon(Order.Item);
-    std::string text(zeile.Zeitentext);
-    return zeile.Besonders.MitNummer ? text + std::to_string(Nummer) : text;
+    const ItemRow& zeile = RowOf(Order.Item);
+    std::string text(zeile.reportText);
+    return zeile.traits.showsNumber ? text + std::to_string(Nummer) : text;
 }
 
 std::string Bauzeit::VerzoegerungsGrund() const {
-    const bool mitGrund =
-        Order.Was == Auftrag::Art::Item && ZeileVon(Order.Item).Besonders.MitGrund;
+    const bool mitGrund = Order.Was == Auftrag::Art::Item && RowOf(Order.Item).traits.showsReason;
     return mitGrund ? Mangel.Text() : "";
 }
 
@@ -32,9 +31,9 @@ void Bauzeitenschreiber::Start(const Startereignis& ereignis) {
     Bauzeit& zeile = m_zeilen.emplace_back();
     zeile.Order = ereignis.Order;
     zeile.Nummer = ereignis.Nummer;
-    zeile.Start = m_bedingungen.Uhrzeit(ereignis.Start);
-    zeile.Finish = m_bedingungen.Uhrzeit(ereignis.Finish);
-    zeile.Mangel.Uebernimm(ereignis.Mangel);
+    zeile.Start = m_bedingungen.WallClock(ereignis.Start);
+    zeile.Finish = m_bedingungen.WallClock(ereignis.Finish);
+    zeile.Mangel.Assign(ereignis.Mangel);
     zeile.Grund = ereignis.Grund;
 }
 

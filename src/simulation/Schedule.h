@@ -18,9 +18,9 @@ struct Bauzeit {
     DateTime Start{};
     DateTime Finish{};
     /// What the stocks lacked when the start was last timed.
-    Verzoegerung Mangel{};
+    Shortage Mangel{};
     /// What held the order back last.
-    Aufenthalt Grund{};
+    Delay Grund{};
 
     /// Short name of the weekday.
     [[nodiscard]] std::string Wochentag() const { return std::string(WeekdayShort(Start)); }
@@ -41,13 +41,13 @@ using Bauzeiten = std::vector<Bauzeit>;
 class Bauzeitenschreiber final : public Laufbeobachter {
   public:
     /// Both must outlive it.
-    Bauzeitenschreiber(const Startbedingungen& bedingungen, Bauzeiten& zeilen)
+    Bauzeitenschreiber(const RunConditions& bedingungen, Bauzeiten& zeilen)
         : m_bedingungen(bedingungen), m_zeilen(zeilen) {}
 
     void Start(const Startereignis& ereignis) override;
 
   private:
-    const Startbedingungen& m_bedingungen;
+    const RunConditions& m_bedingungen;
     Bauzeiten& m_zeilen;
 };
 

@@ -12,12 +12,12 @@ namespace tarvelin {
 
 namespace {
 
-constexpr Moment kNie(std::numeric_limits<Long>::max());
+constexpr SimTime kNie(std::numeric_limits<Long>::max());
 
 }  // namespace
 
-Simulation::Simulation(std::span<const Auftrag> auftraege, const Startbedingungen& bedingungen)
-    : m_auftraege(auftraege), m_bedingungen(&bedingungen), m_stand(Anfang(bedingungen)) {}
+Simulation::Simulation(std::span<const Auftrag> auftraege, const RunConditions& bedingungen)
+    : m_auftraege(auftraege), m_bedingungen(&bedingungen), m_stand(InitialState(bedingungen)) {}
 
 void Simulation::Laufe(Laufbeobachter& beobachter) {
     while (!IstFertig()) {
@@ -65,15 +65,15 @@ void Simulation::ReiheEin() {
 /// nothing.
 void Simulation::TerminiereWartende(Laufbeobachter& beobachter) {
     const Auftrag& order = m_auftraege[m_tabelle.Wartender()];
-    const Moment frei = m_stand.FertigZeit[order.Queue];
-    Aufenthalt grund;
+    const SimTime frei = m_stand.FertigZeit[order.Queue];
+    Delay grund;
     switch (order.Was) {
         case Auftrag::Art::Item:
-            if (KommtErstNachEinemFinish(ZeileVon(order.Item), frei)) {
+            if (KommtErstNachEinemFinish(RowOf(order.Item), frei)) {
                 m_tabelle.SetStartzeit(frei);
                 return;
             }
-            grund = TerminiereItem(ZeileVon(order.Item));
+            grund = TerminiereItem(RowOf(order.Item));
             break;
         case Auftrag::Art::Produktion:
             m_bereitAb = m_stand.secsgone;
@@ -83,14 +83,14 @@ void Simulation::TerminiereWartende(Laufbeobachter& beobachter) {
             break;
     }
     if (frei > m_bereitAb) {
-        grund = {.Was = Hindernis::Schlange, .Queue = order.Queue};
+        grund = {.cause = DelayCause::Queue, .queue = order.Queue};
     }
-    const Moment start = std::max(m_bereitAb, frei);
+    const SimTime start = std::max(m_bereitAb, frei);
     m_tabelle.SetStartzeit(start);
     if (start > m_stand.secsgone) {
         m_aufenthalt = grund;
-        if (grund.Was == Hindernis::Rohstoff) {
-            m_aufenthalt.Mangel.Uebernimm(m_stand.Verzoegerungen[order.Item]);
+        if (grund.cause == DelayCause::Resource) {
+            m_aufenthalt.shortage.Assign(m_stand.VerzoegerungsGrund[order.Item]);
         }
     }
 }
@@ -98,21 +98,21 @@ void Simulation::TerminiereWartende(Laufbeobachter& beobachter) {
 /// Whether the order's queue is at work beyond the next finish. Then the order is timed again
 /// before it can start, and what it waits for by now is forgotten; but not where a gate could have
 /// shut until then, as nobody asks for the stocks behind a shut one.
-bool Simulation::KommtErstNachEinemFinish(const Itemzeile& zeile, Moment frei) const {
-    return m_tabelle.HatFinishVor(frei) && zeile.Besonders.Deuterium == Deuteriumbedarf::Quelle;
+bool Simulation::KommtErstNachEinemFinish(const ItemRow& zeile, SimTime frei) const {
+    return m_tabelle.HatFinishVor(frei) && zeile.traits.deuteriumGate == DeuteriumGate::PlantOrMine;
 }
 
-Aufenthalt Simulation::TerminiereItem(const Itemzeile& zeile) {
-    const Wartezeit warten = WarteAuf(zeile, m_stand, *m_bedingungen);
-    m_bereitAb = m_stand.secsgone + warten.Sekunden;
-    m_torZu = warten.TorZu();
-    if (warten.Grund.Was == Hindernis::Schlafzeit) {
-        m_wach = std::min(m_wach, m_stand.secsgone + warten.Wach);
+Delay Simulation::TerminiereItem(const ItemRow& zeile) {
+    const Wait warten = GetTimeUntilUpgradeIsPossible(zeile, m_stand, *m_bedingungen);
+    m_bereitAb = m_stand.secsgone + warten.seconds;
+    m_torZu = warten.GateClosed();
+    if (warten.delay.cause == DelayCause::Sleep) {
+        m_wach = std::min(m_wach, m_stand.secsgone + warten.sleepFreeSeconds);
     }
     if (!m_torZu) {
-        m_stand.Verzoegerungen[zeile.Item].Uebernimm(warten.Mangel);
+        m_stand.VerzoegerungsGrund[zeile.item].Assign(warten.shortage);
     }
-    return warten.Grund;
+    return warten.delay;
 }
 
 void Simulation::Starte(std::size_t zeile, Laufbeobachter& beobachter) {
@@ -129,7 +129,7 @@ void Simulation::Starte(std::size_t zeile, Laufbeobachter& beobachter) {
     }
     // A first order that costs more than the start stocks, or one without any source of deuterium,
     // starts all the same. It is told again at each start until the stocks have recovered.
-    if (std::ranges::min(m_stand.Vorrat) < FixedPoint()) {
+    if (std::ranges::min(m_stand.stock) < FixedPoint()) {
         beobachter.Schulden(m_stand);
     }
 }
@@ -138,14 +138,15 @@ void Simulation::Starte(std::size_t zeile, Laufbeobachter& beobachter) {
 // free.
 void Simulation::StarteItem(std::size_t zeile, Laufbeobachter& beobachter) {
     const Auftrag& order = m_auftraege[zeile];
-    const Itemzeile& item = ZeileVon(order.Item);
-    const Byte stufe = m_stand.Stufen[order.Item];
-    BeginneSchritt(item, m_stand);
-    const double fertig =
-        m_stand.secsgone.Sekunden() + item.Dauer(Preis(order.Item, stufe), m_stand, *m_bedingungen);
-    const Moment finish(HalfEvenLong(fertig));
+    const ItemRow& item = RowOf(order.Item);
+    const Byte stufe = m_stand.Stufe[order.Item];
+    UpgradeStart(item, m_stand);
+    const double fertig = m_stand.secsgone.Seconds() +
+                          item.upgradeTime(CostOf(order.Item, stufe), m_stand, *m_bedingungen);
+    const SimTime finish(HalfEvenLong(fertig));
     m_tabelle.SetFinish(finish, zeile);
-    m_stand.FertigZeit[order.Queue] = Moment(HalfEvenLong(fertig + 1 + m_bedingungen->KlickPuffer));
+    m_stand.FertigZeit[order.Queue] =
+        SimTime(HalfEvenLong(fertig + 1 + m_bedingungen->KlickPuffer));
     Startereignis ereignis{.Zeile = zeile,
                            .Order = order,
                            .Nummer = Saturate<Byte>(stufe + 1),
@@ -155,26 +156,26 @@ void Simulation::StarteItem(std::size_t zeile, Laufbeobachter& beobachter) {
                            .Grund = m_aufenthalt,
                            .TorZu = m_torZu,
                            .Wach = m_wach};
-    ereignis.Mangel.Uebernimm(m_stand.Verzoegerungen[order.Item]);
+    ereignis.Mangel.Assign(m_stand.VerzoegerungsGrund[order.Item]);
     beobachter.Start(ereignis);
 }
 
 /// It occupies no queue: the next order of the building queue need not wait for it.
 void Simulation::StarteProduktion(std::size_t zeile, Laufbeobachter& beobachter) {
     const Auftrag& order = m_auftraege[zeile];
-    SetzeMinenfaktoren(order.Faktoren, m_stand);
+    SetProdfaktor(order.Faktoren, m_stand);
     m_tabelle.SetFinish(m_stand.secsgone, zeile);
     beobachter.Start({.Zeile = zeile,
                       .Order = order,
                       .Start = m_stand.secsgone,
                       .Finish = m_stand.secsgone,
-                      .Mangel = {.Grund = Verzoegerung::Art::OhneAngabe},
+                      .Mangel = {.kind = Shortage::Kind::Unstated},
                       .Grund = m_aufenthalt});
 }
 
 void Simulation::Beende(const Auftrag& order, Laufbeobachter& beobachter) {
     if (order.Was == Auftrag::Art::Item) {
-        BeendeSchritt(ZeileVon(order.Item), m_stand);
+        UpgradeFinished(RowOf(order.Item), m_stand);
     }
     beobachter.Finish(order);
 }

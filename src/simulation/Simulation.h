@@ -19,7 +19,7 @@ namespace tarvelin {
 /// Orders and conditions must outlive it; at most 254 orders.
 class Simulation {
   public:
-    Simulation(std::span<const Auftrag> auftraege, const Startbedingungen& bedingungen);
+    Simulation(std::span<const Auftrag> auftraege, const RunConditions& bedingungen);
 
     /// Goes on over other orders, of which the first `Eingereiht()` are those of the former.
     void WechsleAuftraege(std::span<const Auftrag> auftraege) { m_auftraege = auftraege; }
@@ -40,33 +40,33 @@ class Simulation {
     void Laufe(Laufbeobachter& beobachter);
 
     /// The state behind the last step.
-    [[nodiscard]] const Spielstand& Stand() const { return m_stand; }
+    [[nodiscard]] const GameState& Stand() const { return m_stand; }
 
   private:
     void ReiheEin();
     void TerminiereWartende(Laufbeobachter& beobachter);
-    [[nodiscard]] bool KommtErstNachEinemFinish(const Itemzeile& zeile, Moment frei) const;
-    Aufenthalt TerminiereItem(const Itemzeile& zeile);
+    [[nodiscard]] bool KommtErstNachEinemFinish(const ItemRow& zeile, SimTime frei) const;
+    Delay TerminiereItem(const ItemRow& zeile);
     void Starte(std::size_t zeile, Laufbeobachter& beobachter);
     void StarteItem(std::size_t zeile, Laufbeobachter& beobachter);
     void StarteProduktion(std::size_t zeile, Laufbeobachter& beobachter);
     void Beende(const Auftrag& order, Laufbeobachter& beobachter);
 
     std::span<const Auftrag> m_auftraege;
-    const Startbedingungen* m_bedingungen;
-    Spielstand m_stand;
+    const RunConditions* m_bedingungen;
+    GameState m_stand;
     EventTabelle m_tabelle;
     /// The next order that has not yet entered the timetable.
     std::size_t m_naechste = 0;
     std::size_t m_schritte = 0;
     /// When the wait of the waiting order ends; an unknown order keeps that of the one before it.
-    Moment m_bereitAb;
+    SimTime m_bereitAb;
     /// What the waiting order last waited for.
-    Aufenthalt m_aufenthalt;
+    Delay m_aufenthalt;
     /// Whether a gate was shut when it was last timed.
     bool m_torZu = false;
     /// The earliest moment from which on only a sleep window held it back.
-    Moment m_wach;
+    SimTime m_wach;
 };
 
 }  // namespace tarvelin

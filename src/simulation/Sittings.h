@@ -12,9 +12,9 @@ inline constexpr Long kSitzung = 600;
 struct Sitzungszaehler {
     int Zahl = 0;
     /// Of the last sitting.
-    Moment Beginn;
+    SimTime Beginn;
 
-    void Nimm(Moment start) {
+    void Nimm(SimTime start) {
         if (Zahl == 0 || start - Beginn > kSitzung) {
             ++Zahl;
             Beginn = start;

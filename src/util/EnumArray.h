@@ -16,7 +16,7 @@ constexpr std::size_t IndexOf(Enumeration value) {
 template <class Enumeration, class T>
 class EnumArray : public std::array<T, IndexOf(Enumeration::Size)> {
   public:
-    using std::array<T, IndexOf(Enumeration::Anzahl)>::operator[];
+    using std::array<T, IndexOf(Enumeration::Size)>::operator[];
     constexpr T& operator[](Enumeration value) { return (*this)[IndexOf(value)]; }
     constexpr const T& operator[](Enumeration value) const { return (*this)[IndexOf(value)]; }
 };

@@ -58,8 +58,8 @@ Fra_Rest::Fra_Rest(const Bauliste& liste, const Lauf& lauf, QWidget* parent)
     }
 }
 
-JeItem<QPixmap> Fra_Rest::Itembilder() const {
-    JeItem<QPixmap> bilder;
+PerItem<QPixmap> Fra_Rest::Itembilder() const {
+    PerItem<QPixmap> bilder;
     for (const Itemplatz& platz : m_plaetze) {
         bilder[platz.Item] = platz.Bild->pixmap(Qt::ReturnByValue);
     }

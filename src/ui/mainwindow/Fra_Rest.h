@@ -29,7 +29,7 @@ class Fra_Rest : public QWidget {
     void ZeigeNamen(bool zeigen);
 
     /// What the pictures show.
-    [[nodiscard]] JeItem<QPixmap> Itembilder() const;
+    [[nodiscard]] PerItem<QPixmap> Itembilder() const;
 
     void SetzeZeiger(const Ziehzeiger& zeiger);
     void SetzeSpendenbild(const QPixmap& bild) { m_Frame6->ImgDonate_1->SetzeBild(bild); }

@@ -37,14 +37,14 @@ Fra_Special::Fra_Special(QWidget* parent)
         const QString text = QString::fromLatin1(kRegler[i].Text);
         QSlider* const regler =
             NeuerRegler(QString::fromLatin1(kRegler[i].Name),
-                        text.chopped(2) + QStringLiteral(" in Zehnteln"), kVollerFaktor, gruppe);
+                        text.chopped(2) + QStringLiteral(" in Zehnteln"), kFullFactor, gruppe);
         QLabel* const label = NeuesLabel(QString::fromLatin1(kRegler[i].Label), {}, gruppe);
         const auto zeige = [label, text](int stellung) {
             label->setText(text + QString::number(10 * stellung) + QStringLiteral("%"));
         };
         connect(regler, &QSlider::valueChanged, label, zeige);
         regler->setPageStep(1);
-        regler->setValue(kVollerFaktor);
+        regler->setValue(kFullFactor);
         label->setFixedWidth(label->sizeHint().width());
         const auto zeile = static_cast<int>(i);
         zeilen->addWidget(label, zeile, 0);
@@ -63,8 +63,8 @@ Fra_Special::Fra_Special(QWidget* parent)
     hide();
 }
 
-Minenfaktoren Fra_Special::Faktoren() const {
-    Minenfaktoren faktoren{};
+MineFactors Fra_Special::Faktoren() const {
+    MineFactors faktoren{};
     for (std::size_t i = 0; i < faktoren.size(); ++i) {
         faktoren[i] = static_cast<Byte>(m_regler[i]->value());
     }

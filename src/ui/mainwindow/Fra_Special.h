@@ -15,7 +15,7 @@ class Fra_Special : public Feld {
     explicit Fra_Special(QWidget* parent);
 
     /// The positions of the three sliders. Only the user moves them.
-    [[nodiscard]] Minenfaktoren Faktoren() const;
+    [[nodiscard]] MineFactors Faktoren() const;
 
     QPushButton* const Cmd_AddProdaenderungsevent;
 

@@ -22,7 +22,7 @@ QLabel* NeuesSchild(const QString& name, const QString& text, QWidget* parent) {
 Itemplatz NeuerPlatz(ItemId item, QWidget* parent) {
     const Itemansicht& ansicht = Itemansichten()[item];
     QLabel* const stufe = NeuesSchild(AlsQString(ansicht.Stufenlabel), QStringLiteral("0"), parent);
-    stufe->setAccessibleDescription(AlsQString(ZeileVon(item).Hovername()));
+    stufe->setAccessibleDescription(AlsQString(RowOf(item).HoverName()));
     return {.Item = item,
             .Bild = new Itembild(item, parent),
             .Stufe = stufe,

@@ -18,7 +18,7 @@ struct Itemskin {
 };
 
 // clang-format off
-constexpr std::array<Itemskin, kItemAnzahl> kItemskins{{
+constexpr std::array<Itemskin, kNumItems> kItemskins{{
     {ItemId::MetMine, "1"},
     {ItemId::KrisMine, "2"},
     {ItemId::DeutMine, "3"},
@@ -48,7 +48,7 @@ constexpr bool HatSkin(ItemId item) {
 
 static_assert(
     [] {
-        for (std::size_t i = 0; i < kItemAnzahl; ++i) {
+        for (std::size_t i = 0; i < kNumItems; ++i) {
             if (!HatSkin(static_cast<ItemId>(i))) {
                 return false;
             }

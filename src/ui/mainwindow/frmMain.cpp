@@ -391,7 +391,7 @@ void frmMain::StellePlan(const Planstand& stand) {
 void frmMain::SpieleStill() {
     Chk_Speedfaktor_Click();
     const auto bedingungen = LiesStartbedingungen(m_plan);
-    if (const auto* const gute = std::get_if<Startbedingungen>(&bedingungen)) {
+    if (const auto* const gute = std::get_if<RunConditions>(&bedingungen)) {
         m_lauf.Beginne(*gute);
         m_texte.NachReset();
         std::vector<Message> meldungen;
@@ -503,7 +503,7 @@ void frmMain::StarteSimulation(bool silent) {
     m_Fra_Rest->ZeigeBauzeiten();
 }
 
-std::optional<Startbedingungen> frmMain::PruefeEingaben(bool silent) {
+std::optional<RunConditions> frmMain::PruefeEingaben(bool silent) {
     const bool leer = m_plan.Liste.Auftraege().IstLeer();
     if (!leer) {
         FuelleStartdatum();
@@ -511,7 +511,7 @@ std::optional<Startbedingungen> frmMain::PruefeEingaben(bool silent) {
     const auto bedingungen = LiesStartbedingungen(m_plan);
     const auto* const absage = std::get_if<Message>(&bedingungen);
     if (absage == nullptr) {
-        return std::get<Startbedingungen>(bedingungen);
+        return std::get<RunConditions>(bedingungen);
     }
     if (!silent || !leer) {
         ZeigeStandDesLaufs();

@@ -138,7 +138,7 @@ class frmMain : public QMainWindow {
     void ZeigeInWerkbank();
     void ZeigeSkin(Byte mode, const std::string& pfad);
     /// What a run can begin with; nothing, with a message, if it can't.
-    std::optional<Startbedingungen> PruefeEingaben(bool silent);
+    std::optional<RunConditions> PruefeEingaben(bool silent);
     void ZeigeNeueZeile();
     void ZeigePlan();
     void ZeigeStandDesLaufs();

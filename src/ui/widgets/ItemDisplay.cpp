@@ -11,7 +11,7 @@ using enum ItemId;
 using enum Bildgruppe;
 
 // clang-format off
-constexpr JeItem<Itemansicht> kAnsichten{{{
+constexpr PerItem<Itemansicht> kAnsichten{{{
     {MetMine,   "ImgMetMine",   "LBL_MetMine_Stufe",   "Metallmine",     Gebaeude},
     {KrisMine,  "ImgKrisMine",  "LBL_Krismine_Stufe",  "Kristallmine",   Gebaeude},
     {DeutMine,  "ImgDeutMine",  "LBL_Deutmine_Stufe",  "Deutmine",       Gebaeude},
@@ -35,11 +35,11 @@ constexpr JeItem<Itemansicht> kAnsichten{{{
 }}};
 // clang-format on
 
-static_assert(HatJedesItem(kAnsichten), "every item has its picture, in the order of the items");
+static_assert(CoversEveryItem(kAnsichten), "every item has its picture, in the order of the items");
 
 }  // namespace
 
-const JeItem<Itemansicht>& Itemansichten() {
+const PerItem<Itemansicht>& Itemansichten() {
     return kAnsichten;
 }
 

@@ -23,7 +23,7 @@ struct Itemansicht {
 };
 
 /// The twenty items.
-[[nodiscard]] const JeItem<Itemansicht>& Itemansichten();
+[[nodiscard]] const PerItem<Itemansicht>& Itemansichten();
 
 /// Exact compare; nothing for any other text.
 [[nodiscard]] std::optional<ItemId> ItemVonBild(std::string_view bild);

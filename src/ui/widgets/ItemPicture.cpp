@@ -16,7 +16,7 @@ namespace tarvelin {
 
 Itembild::Itembild(ItemId item, QWidget* parent) : QLabel(parent) {
     setObjectName(AlsQString(Itemansichten()[item].Bild));
-    setAccessibleName(AlsQString(ZeileVon(item).Hovername()));
+    setAccessibleName(AlsQString(RowOf(item).HoverName()));
     setScaledContents(true);
     setMouseTracking(true);
     setFocusPolicy(Qt::TabFocus);

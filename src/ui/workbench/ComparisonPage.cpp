@@ -98,7 +98,7 @@ void Vergleichsfeld::LadeDatei() {
         emit Meldung(lauf.Meldungen.empty() ? "" : lauf.Meldungen.back().text);
         return;
     }
-    emit Meldung(lauf.Lauf.Stand.IstAmEndeDerUhr() ? UeberDieUhrText() : "");
+    emit Meldung(lauf.Lauf.Stand.IsAtEndOfClock() ? UeberDieUhrText() : "");
     Setze(lauf.Abgespielt(), QStringLiteral("Verglichen mit ") + AlsQString(lauf.Name));
 }
 

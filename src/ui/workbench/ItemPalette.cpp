@@ -32,7 +32,7 @@ void Itempalette::BaueBilder() {
     int platz = 0;
     for (const Itemansicht& ansicht : Itemansichten()) {
         auto* const bild = new Palettenbild(AlsQString(ansicht.Bild), QSize(0, 0), {}, this);
-        bild->setAccessibleName(AlsQString(ZeileVon(ansicht.Item).Name));
+        bild->setAccessibleName(AlsQString(RowOf(ansicht.Item).name));
         m_layout->addWidget(bild, platz / kJeZeile, platz % kJeZeile);
         connect(bild, &QAbstractButton::clicked, this,
                 [this, item = ansicht.Item] { emit ItemGewaehlt(item); });
@@ -48,7 +48,7 @@ void Itempalette::BaueProduktion() {
         auto* const wahl = new QComboBox(this);
         wahl->setObjectName(QStringLiteral("Comb_") + name);
         wahl->setAccessibleName(name + QStringLiteral(" in Prozent"));
-        for (int zehntel = kVollerFaktor; zehntel >= 0; --zehntel) {
+        for (int zehntel = kFullFactor; zehntel >= 0; --zehntel) {
             wahl->addItem(QStringLiteral("%1 %").arg(10 * zehntel), zehntel);
         }
         auto* const label = new QLabel(name + QStringLiteral(":"), this);
@@ -63,7 +63,7 @@ void Itempalette::BaueProduktion() {
     m_layout->addWidget(knopf, zeile, 0, 1, kJeZeile);
     m_layout->setRowStretch(zeile + 1, 1);
     connect(knopf, &QPushButton::clicked, this, [this] {
-        Minenfaktoren faktoren{};
+        MineFactors faktoren{};
         for (std::size_t i = 0; i < faktoren.size(); ++i) {
             faktoren[i] = static_cast<Byte>(m_faktoren[i]->currentData().toInt());
         }
@@ -71,7 +71,7 @@ void Itempalette::BaueProduktion() {
     });
 }
 
-void Itempalette::SetzeBilder(const JeItem<QPixmap>& bilder) {
+void Itempalette::SetzeBilder(const PerItem<QPixmap>& bilder) {
     for (const Itemansicht& ansicht : Itemansichten()) {
         m_bilder[ansicht.Item]->SetzeBild(bilder[ansicht.Item]);
     }
@@ -83,7 +83,7 @@ void Itempalette::SetzeEinwaende(const std::function<std::optional<std::string>(
         Palettenbild& bild = *m_bilder[ansicht.Item];
         bild.SetzeBlass(wort.has_value());
         const QString grund = AlsQString(wort.value_or(""));
-        SetzeHinweis(bild, wort ? grund : AlsQString(ZeileVon(ansicht.Item).Name));
+        SetzeHinweis(bild, wort ? grund : AlsQString(RowOf(ansicht.Item).name));
         bild.setAccessibleDescription(grund);
     }
 }

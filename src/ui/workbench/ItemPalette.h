@@ -23,13 +23,13 @@ class Itempalette : public QWidget {
   public:
     explicit Itempalette(QWidget* parent);
 
-    void SetzeBilder(const JeItem<QPixmap>& bilder);
+    void SetzeBilder(const PerItem<QPixmap>& bilder);
     /// What the place where a row would go in says against each item.
     void SetzeEinwaende(const std::function<std::optional<std::string>(ItemId)>& einwand);
 
   signals:
     void ItemGewaehlt(ItemId item);
-    void ProduktionGewaehlt(const Minenfaktoren& faktoren);
+    void ProduktionGewaehlt(const MineFactors& faktoren);
 
   protected:
     void changeEvent(QEvent* event) override;
@@ -40,7 +40,7 @@ class Itempalette : public QWidget {
     void PasseGroesseAn();
 
     QGridLayout* m_layout;
-    JeItem<Palettenbild*> m_bilder{};
+    PerItem<Palettenbild*> m_bilder{};
     std::array<QComboBox*, 3> m_faktoren{};
 };
 

@@ -261,7 +261,7 @@ std::string Suchfeld::Bericht() const {
                                       std::pair("\nEntfällt: ", UeberschussInWorten(alte, neue))}) {
         text += dabei.empty() ? "" : name + dabei;
     }
-    const Startbedingungen& bedingungen = m_gesucht->Aufgabe.Aufgabe.Bedingungen;
+    const RunConditions& bedingungen = m_gesucht->Aufgabe.Aufgabe.Bedingungen;
     if (!alte.IstLeer()) {
         text += "\nJe Stunde vorher: " + ProStundeText(SpieleAb(alte.Alle(), bedingungen).Ende);
     }

@@ -11,17 +11,17 @@ namespace tarvelin {
 
 namespace {
 
-std::string Vorratstext(const Ablauf& ablauf, Moment moment) {
+std::string Vorratstext(const Ablauf& ablauf, SimTime moment) {
     struct Name {
-        Rohstoff Was;
+        Resource Was;
         const char* Text;
     };
     const Verlaufspunkt& punkt = PunktUm(ablauf.Kurve, moment);
     const auto vorrat = VorratNach(punkt, std::max(Long{0}, moment - punkt.Zeit));
     std::string text;
     for (const auto& [was, name] :
-         {Name{Rohstoff::Metall, "Metall"}, Name{Rohstoff::Kristall, "Kristall"},
-          Name{Rohstoff::Deuterium, "Deuterium"}}) {
+         {Name{Resource::Metall, "Metall"}, Name{Resource::Kristall, "Kristall"},
+          Name{Resource::Deuterium, "Deuterium"}}) {
         text += std::string("   ") + name + ": " + std::to_string(vorrat[was].WholePart()) + " (" +
                 DecimalText(punkt.ProStunde[was]) + "/h)";
     }
@@ -32,10 +32,10 @@ std::string Vorratstext(const Ablauf& ablauf, Moment moment) {
 
 std::string Stufentext(const Verlaufspunkt& punkt) {
     std::string text;
-    for (const Itemzeile& zeile : Itemtabelle()) {
-        if (const Byte stufe = punkt.Stufen[zeile.Item]; stufe > 0) {
+    for (const ItemRow& zeile : ItemTable()) {
+        if (const Byte stufe = punkt.Stufen[zeile.item]; stufe > 0) {
             text +=
-                (text.empty() ? "" : ", ") + std::string(zeile.Name) + " " + std::to_string(stufe);
+                (text.empty() ? "" : ", ") + std::string(zeile.name) + " " + std::to_string(stufe);
         }
     }
     return text;
@@ -49,31 +49,31 @@ std::string Zeittext(DateTime zeitpunkt) {
            " " + TimeOfDayText(zeitpunkt);
 }
 
-std::string Standtext(const Ablauf& ablauf, Moment moment) {
-    return Zeittext(ablauf.Bedingungen.Uhrzeit(moment)) +
-           "   Spielzeit: " + Spannentext(moment.Sekunden()) + Vorratstext(ablauf, moment) + "\n" +
+std::string Standtext(const Ablauf& ablauf, SimTime moment) {
+    return Zeittext(ablauf.Bedingungen.WallClock(moment)) +
+           "   Spielzeit: " + Spannentext(moment.Seconds()) + Vorratstext(ablauf, moment) + "\n" +
            Stufentext(PunktUm(ablauf.Kurve, moment));
 }
 
 std::optional<std::string> NaechsterAuftrag(const Ablauf& ablauf, DateTime jetzt) {
-    const Startbedingungen& bedingungen = ablauf.Bedingungen;
-    if (jetzt < bedingungen.StartDate || jetzt > bedingungen.Uhrzeit(ablauf.Dauer())) {
+    const RunConditions& bedingungen = ablauf.Bedingungen;
+    if (jetzt < bedingungen.StartDate || jetzt > bedingungen.WallClock(ablauf.Dauer())) {
         return std::nullopt;
     }
     const auto naechster = std::ranges::find_if(ablauf.Starts, [&](const Startereignis& start) {
-        return bedingungen.Uhrzeit(start.Start) >= jetzt;
+        return bedingungen.WallClock(start.Start) >= jetzt;
     });
     if (naechster == ablauf.Starts.end()) {
         return "alle Aufträge sind gegeben";
     }
-    const DateTime um = bedingungen.Uhrzeit(naechster->Start);
+    const DateTime um = bedingungen.WallClock(naechster->Start);
     return Auftragstext(*naechster) + " um " + TimeOfDayText(um) + ", in " +
            Spannentext(um - jetzt);
 }
 
 std::string Meldungszeile(const Ablauf& ablauf) {
     std::vector<std::string> texte;
-    if (ablauf.Ende.IstAmEndeDerUhr()) {
+    if (ablauf.Ende.IsAtEndOfClock()) {
         texte.push_back(UeberDieUhrText());
     }
     std::ranges::transform(ablauf.Meldungen, std::back_inserter(texte), &Message::text);

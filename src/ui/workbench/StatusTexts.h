@@ -13,7 +13,7 @@ namespace tarvelin {
 [[nodiscard]] std::string Zeittext(DateTime zeitpunkt);
 
 /// All there is at a moment: stocks, rates, energy, levels.
-[[nodiscard]] std::string Standtext(const Ablauf& ablauf, Moment moment);
+[[nodiscard]] std::string Standtext(const Ablauf& ablauf, SimTime moment);
 
 /// The first order that is still to be given, as long as the plan covers the moment: its name, when
 /// and in how long. Nothing before the plan's start and behind its end.

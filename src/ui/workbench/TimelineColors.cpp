@@ -40,36 +40,36 @@ Werkbankfarben::Werkbankfarben(const QPalette& palette)
     Produktion    = farbe(0x8a5a00, 0xe0b050);
     Energie       = farbe(0xa07800, 0xe8d040);
     Energiemangel = farbe(0xd02020, 0xff5040);
-    Balken[Schlange::Gebaeude]  = farbe(0xf0c070, 0x8a6220);
-    Balken[Schlange::Werft]     = farbe(0x9ccf9c, 0x3c703c);
-    Balken[Schlange::Forschung] = farbe(0x9cc4f0, 0x35608f);
-    Vorrat[Rohstoff::Metall]    = farbe(0x606060, 0xb8b8b8);
-    Vorrat[Rohstoff::Kristall]  = farbe(0x1060c8, 0x60a8ff);
-    Vorrat[Rohstoff::Deuterium] = farbe(0x008878, 0x40d0b8);
+    Balken[Queue::Building]  = farbe(0xf0c070, 0x8a6220);
+    Balken[Queue::Shipyard]     = farbe(0x9ccf9c, 0x3c703c);
+    Balken[Queue::Research] = farbe(0x9cc4f0, 0x35608f);
+    Vorrat[Resource::Metall]    = farbe(0x606060, 0xb8b8b8);
+    Vorrat[Resource::Kristall]  = farbe(0x1060c8, 0x60a8ff);
+    Vorrat[Resource::Deuterium] = farbe(0x008878, 0x40d0b8);
     // clang-format on
 }
 
-QColor Werkbankfarben::Warten(const Aufenthalt& grund) const {
-    switch (grund.Was) {
-        case Hindernis::Rohstoff:
-            switch (grund.Mangel.Grund) {
-                case Verzoegerung::Art::Kristall:
-                    return Vorrat[Rohstoff::Kristall];
-                case Verzoegerung::Art::Deuterium:
-                    return Vorrat[Rohstoff::Deuterium];
+QColor Werkbankfarben::Warten(const Delay& grund) const {
+    switch (grund.cause) {
+        case DelayCause::Resource:
+            switch (grund.shortage.kind) {
+                case Shortage::Kind::Kristall:
+                    return Vorrat[Resource::Kristall];
+                case Shortage::Kind::Deuterium:
+                    return Vorrat[Resource::Deuterium];
                 default:
-                    return Vorrat[Rohstoff::Metall];
+                    return Vorrat[Resource::Metall];
             }
-        case Hindernis::Deuterium:
-            return Vorrat[Rohstoff::Deuterium];
-        case Hindernis::Schlange:
-        case Hindernis::Ausbau:
-            return Balken[grund.Queue];
-        case Hindernis::Schlafzeit:
+        case DelayCause::Deuterium:
+            return Vorrat[Resource::Deuterium];
+        case DelayCause::Queue:
+        case DelayCause::FacilityUpgrade:
+            return Balken[grund.queue];
+        case DelayCause::Sleep:
             return Durchscheinend(Schlaf, 255);
-        case Hindernis::Stufe:
+        case DelayCause::Level:
             return Energiemangel;
-        case Hindernis::Keines:
+        case DelayCause::None:
             break;
     }
     return Linie;

@@ -24,13 +24,13 @@ struct Werkbankfarben {
     QColor Produktion;
     QColor Energie;
     QColor Energiemangel;
-    JeSchlange<QColor> Balken;
-    JeRohstoff<QColor> Vorrat;
+    PerQueue<QColor> Balken;
+    PerResource<QColor> Vorrat;
 
     explicit Werkbankfarben(const QPalette& palette);
 
     /// Of a wait, after its reason.
-    [[nodiscard]] QColor Warten(const Aufenthalt& grund) const;
+    [[nodiscard]] QColor Warten(const Delay& grund) const;
 };
 
 }  // namespace tarvelin

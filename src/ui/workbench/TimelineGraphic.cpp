@@ -25,12 +25,12 @@ template <class Wert>
 void JedesStueck(const Ablauf& ablauf, Wert wert) {
     for (std::size_t i = 0; i < ablauf.Kurve.size(); ++i) {
         const Verlaufspunkt& punkt = ablauf.Kurve[i];
-        const Moment bis = i + 1 < ablauf.Kurve.size() ? ablauf.Kurve[i + 1].Zeit : ablauf.Dauer();
+        const SimTime bis = i + 1 < ablauf.Kurve.size() ? ablauf.Kurve[i + 1].Zeit : ablauf.Dauer();
         wert(punkt, std::max(bis, punkt.Zeit));
     }
 }
 
-qreal Vorratszahl(const Verlaufspunkt& punkt, Moment um, Rohstoff r) {
+qreal Vorratszahl(const Verlaufspunkt& punkt, SimTime um, Resource r) {
     return VorratNach(punkt, um - punkt.Zeit)[r].ToDouble();
 }
 
@@ -55,9 +55,9 @@ struct Bereich {
 }  // namespace
 
 const std::array<Zeitbild::Spur, 3> Zeitbild::kSpuren{{
-    {Schlange::Gebaeude, "Gebäude"},
-    {Schlange::Forschung, "Forschung"},
-    {Schlange::Werft, "Werft"},
+    {Queue::Building, "Gebäude"},
+    {Queue::Research, "Forschung"},
+    {Queue::Shipyard, "Werft"},
 }};
 
 /// Paints in pixels, whatever the stretch of the scene.
@@ -94,7 +94,7 @@ class Zeitbild::Maler {
 
   private:
     [[nodiscard]] qreal X(qreal sekunde) const { return sekunde * m_jeSekunde; }
-    [[nodiscard]] qreal X(Moment moment) const { return X(static_cast<qreal>(moment.Sekunden())); }
+    [[nodiscard]] qreal X(SimTime moment) const { return X(static_cast<qreal>(moment.Seconds())); }
     [[nodiscard]] QRectF Breit(const QRectF& flaeche) const {
         return {m_links, flaeche.top(), m_rechts - m_links, flaeche.height()};
     }
@@ -145,8 +145,8 @@ class Zeitbild::Maler {
     void MaleSchlaf() {
         for (const cSchlafzeit& fenster : m_ablauf.Bedingungen.Schlafzeiten) {
             const DateTime beginn = m_ablauf.Bedingungen.StartDate;
-            const qreal von = X(static_cast<qreal>(fenster.Beginn() - beginn));
-            const qreal bis = X(static_cast<qreal>(fenster.Ende() - beginn));
+            const qreal von = X(static_cast<qreal>(fenster.Startzeit() - beginn));
+            const qreal bis = X(static_cast<qreal>(fenster.Endzeit() - beginn));
             if (InSicht(von, bis)) {
                 const QRectF unten = m_bild.Spurflaeche(kSpuren.back().Queue);
                 m_painter.fillRect(QRectF(std::max(von, m_links), m_bild.Achse(),
@@ -161,7 +161,7 @@ class Zeitbild::Maler {
         const Startereignis& start = m_ablauf.Starts[nummer];
         const qreal von = X(m_bild.WartetAb(nummer));
         const qreal bis = X(start.Start);
-        if (start.Grund.Was == Hindernis::Keines || !InSicht(von, bis) || bis <= von) {
+        if (start.Grund.cause == DelayCause::None || !InSicht(von, bis) || bis <= von) {
             return;
         }
         const QRectF spur = m_bild.Spurflaeche(start.Order.Queue);
@@ -219,7 +219,7 @@ class Zeitbild::Maler {
                 continue;
             }
             const bool gewaehlt = m_bild.m_auswahl.contains(start.Zeile);
-            const QRectF spur = m_bild.Spurflaeche(Schlange::Gebaeude);
+            const QRectF spur = m_bild.Spurflaeche(Queue::Building);
             m_painter.setPen(QPen(gewaehlt ? m_bild.m_farben.Auswahl : m_bild.m_farben.Produktion,
                                   2, Qt::DashLine));
             m_painter.drawLine(QPointF(x, spur.top()),
@@ -239,7 +239,7 @@ class Zeitbild::Maler {
     void MaleKurve(const Ablauf& ablauf, const QRectF& feld, const Bereich& bereich,
                    const QColor& farbe, Wert wert) {
         QPolygonF linie;
-        JedesStueck(ablauf, [&](const Verlaufspunkt& punkt, Moment bis) {
+        JedesStueck(ablauf, [&](const Verlaufspunkt& punkt, SimTime bis) {
             if (InSicht(X(punkt.Zeit), X(bis))) {
                 linie << QPointF(X(punkt.Zeit), bereich.Y(wert(punkt, punkt.Zeit), feld))
                       << QPointF(X(bis), bereich.Y(wert(punkt, bis), feld));
@@ -267,8 +267,8 @@ class Zeitbild::Maler {
         const QRectF feld = m_bild.Vorratsflaeche();
         Bereich bereich;
         const auto nimm = [&](const Ablauf& ablauf) {
-            JedesStueck(ablauf, [&](const Verlaufspunkt& punkt, Moment bis) {
-                for (const Rohstoff r : kRohstoffe) {
+            JedesStueck(ablauf, [&](const Verlaufspunkt& punkt, SimTime bis) {
+                for (const Resource r : kResources) {
                     bereich.Nimm(Vorratszahl(punkt, punkt.Zeit, r));
                     bereich.Nimm(Vorratszahl(punkt, bis, r));
                 }
@@ -279,8 +279,8 @@ class Zeitbild::Maler {
             nimm(*m_bild.m_anderer);
         }
         m_painter.setRenderHint(QPainter::Antialiasing);
-        for (const Rohstoff r : kRohstoffe) {
-            const auto vorrat = [r](const Verlaufspunkt& p, Moment um) {
+        for (const Resource r : kResources) {
+            const auto vorrat = [r](const Verlaufspunkt& p, SimTime um) {
                 return Vorratszahl(p, um, r);
             };
             const QColor& farbe = m_bild.m_farben.Vorrat[r];
@@ -295,8 +295,8 @@ class Zeitbild::Maler {
         m_painter.setRenderHint(QPainter::Antialiasing, false);
         qreal x = MaleFeld(feld, bereich, QStringLiteral("Vorräte"));
         for (const auto& [r, name] :
-             {std::pair(Rohstoff::Metall, "  Metall"), std::pair(Rohstoff::Kristall, "  Kristall"),
-              std::pair(Rohstoff::Deuterium, "  Deuterium ")}) {
+             {std::pair(Resource::Metall, "  Metall"), std::pair(Resource::Kristall, "  Kristall"),
+              std::pair(Resource::Deuterium, "  Deuterium ")}) {
             x = MaleWort(x, feld.top(), QString::fromLatin1(name), m_bild.m_farben.Vorrat[r]);
         }
     }
@@ -305,9 +305,9 @@ class Zeitbild::Maler {
         const QRectF feld = m_bild.Energieflaeche();
         Bereich bereich;
         JedesStueck(m_ablauf,
-                    [&](const Verlaufspunkt& punkt, Moment) { bereich.Nimm(Bilanz(punkt)); });
+                    [&](const Verlaufspunkt& punkt, SimTime) { bereich.Nimm(Bilanz(punkt)); });
         const qreal null = bereich.Y(0, feld);
-        JedesStueck(m_ablauf, [&](const Verlaufspunkt& punkt, Moment bis) {
+        JedesStueck(m_ablauf, [&](const Verlaufspunkt& punkt, SimTime bis) {
             if (!InSicht(X(punkt.Zeit), X(bis))) {
                 return;
             }
@@ -354,7 +354,7 @@ void Zeitbild::SetzeAnderen(const std::optional<Ablauf>& anderer) {
     m_anderer = anderer;
 }
 
-void Zeitbild::SetzeBilder(const JeItem<QPixmap>& bilder) {
+void Zeitbild::SetzeBilder(const PerItem<QPixmap>& bilder) {
     m_bilder = bilder;
     update();
 }
@@ -395,12 +395,12 @@ qreal Zeitbild::Mindesthoehe() const {
 
 qreal Zeitbild::Ende() const {
     const auto bis = [](const std::optional<Ablauf>& ablauf) {
-        return ablauf ? static_cast<qreal>(ablauf->Dauer().Sekunden()) : 0.0;
+        return ablauf ? static_cast<qreal>(ablauf->Dauer().Seconds()) : 0.0;
     };
     return std::max({1.0, bis(m_ablauf), bis(m_anderer)});
 }
 
-QRectF Zeitbild::Spurflaeche(Schlange queue) const {
+QRectF Zeitbild::Spurflaeche(Queue queue) const {
     const auto* const spur = std::ranges::find(kSpuren, queue, &Spur::Queue);
     const auto nummer = static_cast<qreal>(spur == kSpuren.end() ? 0 : spur - kSpuren.begin());
     return {0, Achse() + nummer * (Spurhoehe() + kRand), Ende(), Spurhoehe()};
@@ -417,8 +417,8 @@ QRectF Zeitbild::Energieflaeche() const {
     return {0, oben, Ende(), m_hoehe - oben - kRand};
 }
 
-Moment Zeitbild::WartetAb(std::size_t nummer) const {
-    return nummer == 0 ? Moment() : m_ablauf->Starts[nummer - 1].Start;
+SimTime Zeitbild::WartetAb(std::size_t nummer) const {
+    return nummer == 0 ? SimTime() : m_ablauf->Starts[nummer - 1].Start;
 }
 
 std::optional<QRectF> Zeitbild::BalkenVon(std::size_t zeile) const {
@@ -427,7 +427,7 @@ std::optional<QRectF> Zeitbild::BalkenVon(std::size_t zeile) const {
         return std::nullopt;
     }
     const QRectF spur = Spurflaeche(start->Order.Queue);
-    return QRectF(start->Start.Sekunden(), spur.top() + 1, start->Finish - start->Start,
+    return QRectF(start->Start.Seconds(), spur.top() + 1, start->Finish - start->Start,
                   kBalkenanteil * spur.height() - 1);
 }
 
@@ -441,7 +441,7 @@ std::optional<std::size_t> Zeitbild::ZeileBei(const QPointF& ort, qreal daneben)
         const QRectF balken = *BalkenVon(start.Zeile);
         const QRectF spur = Spurflaeche(start.Order.Queue);
         const bool aufBalken = ort.y() <= balken.bottom();
-        const qreal von = aufBalken ? balken.left() : static_cast<qreal>(WartetAb(i).Sekunden());
+        const qreal von = aufBalken ? balken.left() : static_cast<qreal>(WartetAb(i).Seconds());
         const qreal bis = aufBalken ? balken.right() : balken.left();
         if (ort.y() >= spur.top() && ort.y() <= spur.bottom() && ort.x() >= von - daneben &&
             ort.x() <= bis + daneben) {

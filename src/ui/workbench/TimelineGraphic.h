@@ -23,7 +23,7 @@ class Zeitbild : public QGraphicsItem {
     void Setze(const std::optional<Ablauf>& ablauf);
     /// A run whose curves are drawn pale behind the others.
     void SetzeAnderen(const std::optional<Ablauf>& anderer);
-    void SetzeBilder(const JeItem<QPixmap>& bilder);
+    void SetzeBilder(const PerItem<QPixmap>& bilder);
     void SetzeAussehen(const Werkbankfarben& farben, const QFont& schrift);
     void SetzeHoehe(qreal hoehe);
     void SetzeAuswahl(std::set<std::size_t> zeilen);
@@ -45,7 +45,7 @@ class Zeitbild : public QGraphicsItem {
   private:
     class Maler;
     struct Spur {
-        Schlange Queue;
+        Queue Queue;
         const char* Name;
     };
     static const std::array<Spur, 3> kSpuren;
@@ -53,15 +53,15 @@ class Zeitbild : public QGraphicsItem {
     [[nodiscard]] qreal Zeile() const;
     [[nodiscard]] qreal Achse() const;
     [[nodiscard]] qreal Spurhoehe() const;
-    [[nodiscard]] QRectF Spurflaeche(Schlange queue) const;
+    [[nodiscard]] QRectF Spurflaeche(Queue queue) const;
     [[nodiscard]] QRectF Vorratsflaeche() const;
     [[nodiscard]] QRectF Energieflaeche() const;
     /// When the order of a start began to wait.
-    [[nodiscard]] Moment WartetAb(std::size_t nummer) const;
+    [[nodiscard]] SimTime WartetAb(std::size_t nummer) const;
 
     std::optional<Ablauf> m_ablauf;
     std::optional<Ablauf> m_anderer;
-    JeItem<QPixmap> m_bilder;
+    PerItem<QPixmap> m_bilder;
     Werkbankfarben m_farben{QPalette()};
     QFont m_schrift;
     qreal m_hoehe = 0;

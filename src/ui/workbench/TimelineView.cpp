@@ -91,8 +91,8 @@ void Zeitleiste::SetzeJetzt(DateTime jetzt) {
     viewport()->update();
 }
 
-int Zeitleiste::SpalteVon(Moment moment) const {
-    return mapFromScene(QPointF(moment.Sekunden(), 0)).x();
+int Zeitleiste::SpalteVon(SimTime moment) const {
+    return mapFromScene(QPointF(moment.Seconds(), 0)).x();
 }
 
 qreal Zeitleiste::KleinsterMassstab() const {
@@ -203,7 +203,7 @@ void Zeitleiste::keyPressEvent(QKeyEvent* event) {
             if (m_bild->Lauf() && m_zeiger) {
                 const auto& starts = m_bild->Lauf()->Starts;
                 const auto naechster = std::ranges::find_if(starts, [&](const Startereignis& s) {
-                    return s.Start.Sekunden() >= std::floor(*m_zeiger);
+                    return s.Start.Seconds() >= std::floor(*m_zeiger);
                 });
                 if (naechster != starts.end()) {
                     emit Gewaehlt(naechster->Zeile);
@@ -222,7 +222,7 @@ void Zeitleiste::GeheZuStart(bool vor) {
     const qreal hier = m_zeiger.value_or(-1);
     std::optional<qreal> ziel;
     for (const Startereignis& start : m_bild->Lauf()->Starts) {
-        const auto dort = static_cast<qreal>(start.Start.Sekunden());
+        const auto dort = static_cast<qreal>(start.Start.Seconds());
         if (vor ? dort > hier && !ziel : dort < hier) {
             ziel = dort;
         }
@@ -239,7 +239,7 @@ void Zeitleiste::SetzeZeiger(std::optional<qreal> sekunde) {
     m_zeiger = sekunde;
     viewport()->update();
     emit Zeiger(m_bild->Lauf() && sekunde
-                    ? std::optional(Moment(static_cast<Long>(std::floor(*sekunde))))
+                    ? std::optional(SimTime(static_cast<Long>(std::floor(*sekunde))))
                     : std::nullopt);
 }
 

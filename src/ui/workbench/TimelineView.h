@@ -22,7 +22,7 @@ class Zeitleiste : public QGraphicsView {
     void Setze(const std::optional<Ablauf>& ablauf);
     /// Another run, whose curves stand pale behind those of the first; or none.
     void SetzeAnderen(const std::optional<Ablauf>& anderer);
-    void SetzeBilder(const JeItem<QPixmap>& bilder) { m_bild->SetzeBilder(bilder); }
+    void SetzeBilder(const PerItem<QPixmap>& bilder) { m_bild->SetzeBilder(bilder); }
     void SetzeAussehen(const QPalette& palette, const QFont& schrift);
     void SetzeAuswahl(const std::set<std::size_t>& zeilen) { m_bild->SetzeAuswahl(zeilen); }
     /// Brings a row's bar to sight.
@@ -37,11 +37,11 @@ class Zeitleiste : public QGraphicsView {
     /// What a lack is written in.
     [[nodiscard]] const QColor& Mangelfarbe() const { return m_bild->Farben().Energiemangel; }
     /// The pixel column of a moment, in the viewport.
-    [[nodiscard]] int SpalteVon(Moment moment) const;
+    [[nodiscard]] int SpalteVon(SimTime moment) const;
 
   signals:
     /// The moment below the cursor; none when the pointer has left.
-    void Zeiger(std::optional<Moment> moment);
+    void Zeiger(std::optional<SimTime> moment);
     void Gewaehlt(std::size_t zeile);
 
   protected:

@@ -17,8 +17,8 @@ std::vector<Zeile> Zeilen(const Ablauf& ablauf) {
     std::vector<Zeile> zeilen{{"Nr.", "Auftrag", "Start", "Fertig", "Grund"}};
     for (const Startereignis& start : ablauf.Starts) {
         zeilen.push_back({std::to_string(start.Zeile + 1), Auftragstext(start),
-                          DateTimeText(ablauf.Bedingungen.Uhrzeit(start.Start)),
-                          DateTimeText(ablauf.Bedingungen.Uhrzeit(start.Finish)),
+                          DateTimeText(ablauf.Bedingungen.WallClock(start.Start)),
+                          DateTimeText(ablauf.Bedingungen.WallClock(start.Finish)),
                           Wartetext(ablauf, start.Zeile)});
     }
     return zeilen;

@@ -196,15 +196,14 @@ void frmWerkbank::Verbinde() {
     connect(m_liste, &Auftragsansicht::BildAbgelegt, this,
             [this](const QString& bild, std::size_t vor) {
                 if (const auto item = ItemVonBild(bild.toStdString())) {
-                    FuegeEin(ZeileVon(*item).Code, vor);
+                    FuegeEin(RowOf(*item).ItemCode, vor);
                 }
             });
     connect(m_palette, &Itempalette::ItemGewaehlt, this,
-            [this](ItemId item) { FuegeEin(ZeileVon(item).Code, Einfuegestelle()); });
-    connect(m_palette, &Itempalette::ProduktionGewaehlt, this,
-            [this](const Minenfaktoren& faktoren) {
-                FuegeEin(Auftrag::Fuer(faktoren).Tag(), Einfuegestelle());
-            });
+            [this](ItemId item) { FuegeEin(RowOf(item).ItemCode, Einfuegestelle()); });
+    connect(m_palette, &Itempalette::ProduktionGewaehlt, this, [this](const MineFactors& faktoren) {
+        FuegeEin(Auftrag::Fuer(faktoren).Tag(), Einfuegestelle());
+    });
     connect(m_zeitleiste, &Zeitleiste::Zeiger, this, &frmWerkbank::ZeigeZeiger);
     connect(m_zeitleiste, &Zeitleiste::Gewaehlt, this,
             [this](std::size_t zeile) { m_liste->Waehle({zeile}); });
@@ -302,7 +301,7 @@ Konfiguration::Werte frmWerkbank::Lage() const {
             {Konfiguration::kWerkbankGross, isMaximized() ? "1" : "0"}};
 }
 
-void frmWerkbank::SetzeBilder(const JeItem<QPixmap>& bilder) {
+void frmWerkbank::SetzeBilder(const PerItem<QPixmap>& bilder) {
     m_palette->SetzeBilder(bilder);
     m_zeitleiste->SetzeBilder(bilder);
 }
@@ -325,20 +324,19 @@ void frmWerkbank::ZeigePlan() {
 void frmWerkbank::Spiele() {
     if (m_schritte != m_verlauf.Schritte()) {
         m_schritte = m_verlauf.Schritte();
-        m_dauerDavor = m_ablauf ? std::optional(m_ablauf->Dauer().Sekunden()) : std::nullopt;
+        m_dauerDavor = m_ablauf ? std::optional(m_ablauf->Dauer().Seconds()) : std::nullopt;
     }
     const auto bedingungen = LiesStartbedingungen(m_plan);
     if (const auto* const absage = std::get_if<Message>(&bedingungen)) {
         m_ablauf.reset();
         Melde(m_plan.Liste.Auftraege().IstLeer() ? "" : absage->text);
     } else {
-        m_ablauf =
-            SpieleAb(m_plan.Liste.Auftraege().Alle(), std::get<Startbedingungen>(bedingungen));
+        m_ablauf = SpieleAb(m_plan.Liste.Auftraege().Alle(), std::get<RunConditions>(bedingungen));
         Melde(Meldungszeile(*m_ablauf));
     }
     const bool bearbeitet = m_verlauf.HatVorige() || m_verlauf.HatNaechste();
     m_aenderung = bearbeitet && m_dauerDavor && m_ablauf
-                      ? std::optional(m_ablauf->Dauer().Sekunden() - *m_dauerDavor)
+                      ? std::optional(m_ablauf->Dauer().Seconds() - *m_dauerDavor)
                       : std::nullopt;
 }
 
@@ -369,12 +367,12 @@ void frmWerkbank::ZeigeAuswahl() {
 void frmWerkbank::ZeigeEinwaende() {
     m_palette->SetzeEinwaende([&](ItemId item) {
         Umstellung umstellung(m_plan.Liste);
-        umstellung.FuegeEin(Einfuegestelle(), ZeileVon(item).Code);
+        umstellung.FuegeEin(Einfuegestelle(), RowOf(item).ItemCode);
         return umstellung.Einwand();
     });
 }
 
-void frmWerkbank::ZeigeZeiger(std::optional<Moment> moment) {
+void frmWerkbank::ZeigeZeiger(std::optional<SimTime> moment) {
     m_LBL_Stand->setText(m_ablauf && moment ? AlsQString(Standtext(*m_ablauf, *moment))
                                             : QStringLiteral("\n"));
     m_zeitleiste->setAccessibleDescription(m_LBL_Stand->text());
@@ -516,9 +514,9 @@ std::string frmWerkbank::Zellentext(std::size_t zeile, int spalte) const {
         case kAuftrag:
             return texte.SubItems1;
         case kStart:
-            return start != nullptr ? Zeittext(m_ablauf->Bedingungen.Uhrzeit(start->Start)) : "";
+            return start != nullptr ? Zeittext(m_ablauf->Bedingungen.WallClock(start->Start)) : "";
         case kFertig:
-            return start != nullptr ? Zeittext(m_ablauf->Bedingungen.Uhrzeit(start->Finish)) : "";
+            return start != nullptr ? Zeittext(m_ablauf->Bedingungen.WallClock(start->Finish)) : "";
         case kGrund:
             return m_ablauf ? Wartetext(*m_ablauf, zeile) : "";
         default:

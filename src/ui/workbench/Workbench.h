@@ -42,7 +42,7 @@ class frmWerkbank : public QWidget {
 
     /// The plan has changed; plays it anew, if the window is open.
     void ZeigePlan();
-    void SetzeBilder(const JeItem<QPixmap>& bilder);
+    void SetzeBilder(const PerItem<QPixmap>& bilder);
 
     /// Opens the window where `konfiguration` says, the first time, or brings it to the front.
     void Oeffne(const Konfiguration& konfiguration);
@@ -73,7 +73,7 @@ class frmWerkbank : public QWidget {
     void ZeigeFuss();
     void ZeigeAuswahl();
     void ZeigeEinwaende();
-    void ZeigeZeiger(std::optional<Moment> moment);
+    void ZeigeZeiger(std::optional<SimTime> moment);
     void Ticke();
     void Melde(const std::string& text);
 
