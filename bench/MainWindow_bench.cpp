@@ -67,7 +67,7 @@ void ZeigeGanz(frmMain& fenster) {
 /// As many rows as a list can hold, all items in turn.
 void Fuelle(const frmMain& fenster) {
     auto* const liste = fenster.findChild<Baulistenansicht*>();
-    for (std::size_t i = 0; i < Auftragsliste::kHoechstzahl; ++i) {
+    for (std::size_t i = 0; i < OrderList::kMaxSize; ++i) {
         emit liste->DragDrop(AlsQString(Itemansichten()[i % kNumItems].Bild));
     }
 }

@@ -37,24 +37,24 @@ class Zaehler final : public Laufbeobachter {
 
 /// Orders as a player would give them: within the rules, buildings and research up to levels that
 /// an opening reaches, ships and defences in batches, now and then a production row.
-Auftragsliste MacheListe(std::size_t zeilen) {
+OrderList MacheListe(std::size_t zeilen) {
     constexpr int kHoechsteMine = 20;
     constexpr int kHoechsteStufe = 6;
     constexpr unsigned kProduktionJede = 40;
     constexpr int kStapel = 5;
     std::minstd_rand zufall(20061118);
-    Auftragsliste liste;
-    while (liste.Zahl() < zeilen) {
+    OrderList liste;
+    while (liste.Size() < zeilen) {
         const ItemRow& zeile = RowOf(static_cast<ItemId>(zufall() % kNumItems));
         // The first four items are the mines and the power plant.
         const int hoechste = zeile.item < ItemId::Robo ? kHoechsteMine : kHoechsteStufe;
         const bool einheit = zeile.queue == Queue::Shipyard && zeile.item != ItemId::klSchK;
         if (zufall() % kProduktionJede == 0) {
-            liste.HaengeAn(Auftrag::Fuer(MineFactors{{10, 10, 8}}));
-        } else if (!Absage(zeile.item, liste) &&
+            liste.Append(Order::Of(MineFactors{{10, 10, 8}}));
+        } else if (!Refusal(zeile.item, liste) &&
                    (einheit || liste.ListStufe(zeile.item) < hoechste)) {
-            for (int i = 0; i < (einheit ? kStapel : 1) && liste.Zahl() < zeilen; ++i) {
-                liste.HaengeAn(Auftrag::Fuer(zeile.item));
+            for (int i = 0; i < (einheit ? kStapel : 1) && liste.Size() < zeilen; ++i) {
+                liste.Append(Order::Of(zeile.item));
             }
         }
     }
@@ -64,20 +64,20 @@ Auftragsliste MacheListe(std::size_t zeilen) {
 /// With two nights of sleep.
 Plan MachePlan(std::size_t zeilen) {
     Plan plan;
-    plan.Parameter.UniStartZeitTag = "18";
-    plan.Parameter.UniStartZeitMonat = "11";
-    plan.Parameter.UniStartZeitJahr = "2006";
-    plan.Schlafzeiten = {{"18.11.2006 23:00", "19.11.2006 07:00"},
-                         {"19.11.2006 23:00", "20.11.2006 07:00"}};
-    const Auftragsliste liste = MacheListe(zeilen);
-    for (const Auftrag& order : liste.Alle()) {
-        (void)plan.Liste.Replay(order.Tag(), RunConditions());
+    plan.parameters.UniStartZeitTag = "18";
+    plan.parameters.UniStartZeitMonat = "11";
+    plan.parameters.UniStartZeitJahr = "2006";
+    plan.LV_Schlafzeiten = {{"18.11.2006 23:00", "19.11.2006 07:00"},
+                            {"19.11.2006 23:00", "20.11.2006 07:00"}};
+    const OrderList liste = MacheListe(zeilen);
+    for (const Order& order : liste.All()) {
+        (void)plan.LV_Bauliste.Replay(order.Tag(), RunConditions());
     }
     return plan;
 }
 
 RunConditions Bedingungen() {
-    return std::get<RunConditions>(LiesStartbedingungen(MachePlan(1)));
+    return std::get<RunConditions>(ParseRunConditions(MachePlan(1)));
 }
 
 std::size_t Zeilen(const benchmark::State& state) {
@@ -91,14 +91,14 @@ void MerkeAllokationen(benchmark::State& state, std::size_t vorher) {
 
 /// With the rows of its build times, as the window shows them.
 void Laufen(benchmark::State& state) {
-    const Auftragsliste liste = MacheListe(Zeilen(state));
+    const OrderList liste = MacheListe(Zeilen(state));
     const RunConditions bedingungen = Bedingungen();
     Schweigend meldungen;
     const std::size_t vorher = Allokationen();
     for (auto _ : state) {
         Lauf lauf;
         lauf.Beginne(bedingungen);
-        RunSimulation(liste.Alle(), lauf, meldungen);
+        RunSimulation(liste.All(), lauf, meldungen);
         benchmark::DoNotOptimize(lauf.Stand);
     }
     MerkeAllokationen(state, vorher);
@@ -107,12 +107,12 @@ BENCHMARK(Laufen)->Arg(60)->Arg(254);
 
 /// With an observer that only counts.
 void Zaehlen(benchmark::State& state) {
-    const Auftragsliste liste = MacheListe(Zeilen(state));
+    const OrderList liste = MacheListe(Zeilen(state));
     const RunConditions bedingungen = Bedingungen();
     const std::size_t vorher = Allokationen();
     for (auto _ : state) {
         Zaehler zaehler;
-        Simulation simulation(liste.Alle(), bedingungen);
+        Simulation simulation(liste.All(), bedingungen);
         simulation.Laufe(zaehler);
         benchmark::DoNotOptimize(zaehler.Starts);
     }
@@ -122,11 +122,11 @@ BENCHMARK(Zaehlen)->Arg(60)->Arg(254);
 
 /// The last third of a run, from a copy of its state.
 void Fortsetzen(benchmark::State& state) {
-    const Auftragsliste liste = MacheListe(Zeilen(state));
+    const OrderList liste = MacheListe(Zeilen(state));
     const RunConditions bedingungen = Bedingungen();
     Zaehler zaehler;
-    Simulation stand(liste.Alle(), bedingungen);
-    while (stand.Eingereiht() < liste.Zahl() * 2 / 3 || stand.WartetEiner()) {
+    Simulation stand(liste.All(), bedingungen);
+    while (stand.Eingereiht() < liste.Size() * 2 / 3 || stand.WartetEiner()) {
         stand.Schritt(zaehler);
     }
     for (auto _ : state) {
@@ -138,9 +138,9 @@ void Fortsetzen(benchmark::State& state) {
 BENCHMARK(Fortsetzen)->Arg(60);
 
 void Kopieren(benchmark::State& state) {
-    const Auftragsliste liste = MacheListe(1);
+    const OrderList liste = MacheListe(1);
     const RunConditions bedingungen = Bedingungen();
-    const Simulation simulation(liste.Alle(), bedingungen);
+    const Simulation simulation(liste.All(), bedingungen);
     Simulation kopie = simulation;
     for (auto _ : state) {
         kopie = simulation;
@@ -151,11 +151,11 @@ BENCHMARK(Kopieren);
 
 /// A list of orders, without a text.
 void Bauen(benchmark::State& state) {
-    const Auftragsliste vorlage = MacheListe(Zeilen(state));
+    const OrderList vorlage = MacheListe(Zeilen(state));
     for (auto _ : state) {
-        Auftragsliste liste;
-        for (const Auftrag& order : vorlage.Alle()) {
-            liste.HaengeAn(order);
+        OrderList liste;
+        for (const Order& order : vorlage.All()) {
+            liste.Append(order);
         }
         benchmark::DoNotOptimize(liste);
     }

@@ -18,11 +18,11 @@ void Drucke(const Planlauf& lauf) {
     SchreibeText(strom, lauf);
     SchreibeCsvKopf(strom);
     SchreibeCsv(strom, lauf);
-    strom << JsonText(lauf) << RefreshWeekday(lauf.Plan.Parameter).Hint
+    strom << JsonText(lauf) << RefreshWeekday(lauf.Plan.parameters).hint
           << PunkteMitVorratText(lauf.Lauf.Stand);
     for (const auto& bauzeit : lauf.Lauf.LV_Bauzeiten) {
         strom << FaelligeBauzeiten(lauf.Lauf.LV_Bauzeiten, bauzeit.Start, "0")
-              << FaelligeSchlafzeiten(lauf.Plan.Schlafzeiten, bauzeit.Start);
+              << FaelligeSchlafzeiten(lauf.Plan.LV_Schlafzeiten, bauzeit.Start);
     }
     Verlange(lauf.Gelaufen || !lauf.Meldungen.empty(), "a plan runs or says why not");
 }
@@ -35,7 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t lae
     const std::string_view bytes(reinterpret_cast<const char*>(daten), laenge);
     const Planlauf lauf("plan.tvf", Profil(bytes));
     Drucke(lauf);
-    if (lauf.Geladen && lauf.Plan.Liste.Zeilen().size() <= kHoechstzahl) {
+    if (lauf.Geladen && lauf.Plan.LV_Bauliste.Rows().size() <= kHoechstzahl) {
         const Befund befund = PruefeGesetze(lauf.Plan);
         Verlange(befund.empty(), "the laws of every plan", befund);
     }

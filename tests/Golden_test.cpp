@@ -44,14 +44,14 @@ TEST(Starterplan, HaeltDieRegelnUndLaeuftOhneMeldung) {
     const Planlauf lauf(std::filesystem::path(TARVELIN_SOURCE_DIR) / "data/saves/basic.tvf");
     EXPECT_TRUE(lauf.Gelaufen);
     EXPECT_TRUE(lauf.Meldungen.empty());
-    const auto orders = lauf.Plan.Liste.Auftraege().Alle();
+    const auto orders = lauf.Plan.LV_Bauliste.Orders().All();
     EXPECT_GE(orders.size(), 30U);
     EXPECT_LE(orders.size(), 60U);
-    Auftragsliste liste;
-    for (const Auftrag& order : orders) {
-        ASSERT_EQ(order.Was, Auftrag::Art::Item);
-        EXPECT_FALSE(Absage(order.Item, liste)) << order.Tag();
-        liste.HaengeAn(order);
+    OrderList liste;
+    for (const Order& order : orders) {
+        ASSERT_EQ(order.kind, Order::Kind::Item);
+        EXPECT_FALSE(Refusal(order.item, liste)) << order.Tag();
+        liste.Append(order);
     }
 }
 

@@ -155,7 +155,7 @@ class Fenster : public testing::Test {
         Druecke("Cmd_Clear");
         for (std::size_t anfang = 0; anfang < codes.size();) {
             const std::size_t ende = std::min(codes.find(' ', anfang), codes.size());
-            const auto item = ItemVonCode(codes.substr(anfang, ende - anfang));
+            const auto item = ItemFromCode(codes.substr(anfang, ende - anfang));
             emit Finde<Baulistenansicht>("LV_Bauliste")
                 .DragDrop(AlsQString(Itemansichten()[*item].Bild));
             anfang = ende + 1;

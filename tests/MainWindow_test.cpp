@@ -117,10 +117,11 @@ TEST_F(Fenster, ListenFassenIhreLaengstenTexte) {
     Plan plan = PlanAus("GX:10:10:10");
     for (const ItemRow& item : ItemTable()) {
         for (int i = 0; i < 12; ++i) {
-            ASSERT_FALSE(plan.Liste.AddItem(item.item, m_fenster.DerLauf().Bedingungen));
+            ASSERT_FALSE(plan.LV_Bauliste.AddItem(item.item, m_fenster.DerLauf().Bedingungen));
         }
     }
-    plan.Schlafzeiten.assign(30, {.Startzeit = "28.12.2006 22:30", .Endzeit = "28.12.2006 23:30"});
+    plan.LV_Schlafzeiten.assign(30,
+                                {.Startzeit = "28.12.2006 22:30", .Endzeit = "28.12.2006 23:30"});
     Lade(plan);
     m_fenster.StarteSimulation(true);
     Finde("Fra_Sleep").show();
@@ -330,7 +331,7 @@ TEST_F(Fenster, EingabenLassenSichInDerMitteAendern) {
     EXPECT_EQ(Text("txt_UniStartZeitJahr"), "2006");
     // As a screen reader sets it.
     jahr.setText(QStringLiteral("2007"));
-    EXPECT_EQ(m_fenster.DerPlan().Parameter.UniStartZeitJahr, "2007");
+    EXPECT_EQ(m_fenster.DerPlan().parameters.UniStartZeitJahr, "2007");
     EXPECT_EQ(Text("LBL_Weekday"), "So.");
 }
 
@@ -344,7 +345,7 @@ TEST_F(Fenster, EingabenBegrenzenNurTippenUndEinfuegen) {
     EXPECT_EQ(Text("txt_UniStartZeitJahr"), "2006");
     // A plan's text stands as it is, can be shortened, and then counts as typed.
     Plan plan = PlanAus("GM");
-    plan.Parameter.UniStartZeitTag = "00018";
+    plan.parameters.UniStartZeitTag = "00018";
     Lade(plan);
     EXPECT_EQ(Text("txt_UniStartZeitTag"), "00018");
     auto& tag = Finde<QLineEdit>("txt_UniStartZeitTag");
@@ -406,8 +407,8 @@ TEST_F(Fenster, WochentagFolgtDemDatumUndNichtDerUhrzeit) {
     // A load sets day, month and year before the hour, and refreshes at each.
     Tippe("txt_UniStartZeitStunden", "12");
     Plan plan = PlanAus("GM");
-    plan.Parameter.UniStartZeitTag = "16";
-    plan.Parameter.UniStartZeitStunden = "25";
+    plan.parameters.UniStartZeitTag = "16";
+    plan.parameters.UniStartZeitStunden = "25";
     Lade(plan);
     EXPECT_EQ(Text("LBL_Weekday"), "Do.");
 }
@@ -430,7 +431,7 @@ TEST_F(Fenster, KlickpufferSpeedfaktorUndBeschreibungen) {
     EXPECT_EQ(Text("LBL_KlickPuffer"), "00:00");
     QTest::keyClick(&puffer, Qt::Key_End);
     EXPECT_EQ(Text("LBL_KlickPuffer"), "10:00");
-    EXPECT_EQ(m_fenster.DerPlan().Parameter.KlickPuffer, 600);
+    EXPECT_EQ(m_fenster.DerPlan().parameters.KlickPuffer, 600);
     Druecke("Chk_Speedfaktor");
     EXPECT_EQ(m_fenster.DerLauf().Bedingungen.Speedfaktor, 2);
     Druecke("cmd_ShowDesc");
@@ -497,7 +498,7 @@ TEST_F(Fenster, Schlafzeiten) {
 
 TEST_F(Fenster, LangeZahlenEndenInPunktenUndStehenGanzImHinweis) {
     Plan plan = PlanAus("GM GM");
-    plan.Schlafzeiten = {{"18.11.2006 12:30", "18.11.3006 23:30"}};
+    plan.LV_Schlafzeiten = {{"18.11.2006 12:30", "18.11.3006 23:30"}};
     Lade(plan);
     auto& metall = Finde<QLabel>("LBL_Met");
     EXPECT_EQ(metall.toolTip(), metall.text());
@@ -585,9 +586,9 @@ TEST_F(Fenster, MeldungImLaufZeigtDenStandDesLaufs) {
 TEST_F(Fenster, NeuerLaufBeginntMitLeererListe) {
     Plan plan;
     for (int i = 0; i < 60; ++i) {
-        ASSERT_FALSE(plan.Liste.AddItem(ItemId::SKW, m_fenster.DerLauf().Bedingungen));
+        ASSERT_FALSE(plan.LV_Bauliste.AddItem(ItemId::SKW, m_fenster.DerLauf().Bedingungen));
     }
-    plan.Parameter = m_fenster.DerPlan().Parameter;
+    plan.parameters = m_fenster.DerPlan().parameters;
     Lade(plan);
     m_fenster.StarteSimulation(true);
     auto& liste = Finde<QTreeView>("LV_Bauzeiten");

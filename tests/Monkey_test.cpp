@@ -104,7 +104,7 @@ class Affe : public Fenster {
             })) << text;
         }
         m_boxen.Texte.clear();
-        const auto& zeilen = m_fenster.DerPlan().Liste.Zeilen();
+        const auto& zeilen = m_fenster.DerPlan().LV_Bauliste.Rows();
         ASSERT_EQ(Zeilen("LV_Bauliste"), static_cast<int>(zeilen.size()));
         for (std::size_t i = 0; i < zeilen.size(); ++i) {
             EXPECT_EQ(Zelle("LV_Bauliste", static_cast<int>(i), 1), zeilen[i].SubItems1);

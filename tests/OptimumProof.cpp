@@ -52,19 +52,19 @@ class Beweis {
         }
         PerItem<bool> versucht{};
         for (std::size_t i = 0; i < m_uebrig.size(); ++i) {
-            const Auftrag order = m_uebrig[i];
-            if (versucht[order.Item] || !IstErlaubt(order.Item, m_stufen)) {
+            const Order order = m_uebrig[i];
+            if (versucht[order.item] || !IsAllowed(order.item, m_stufen)) {
                 continue;
             }
             // Equal orders are one.
-            versucht[order.Item] = true;
+            versucht[order.item] = true;
             m_uebrig.erase(m_uebrig.begin() + static_cast<std::ptrdiff_t>(i));
             m_liste.push_back(order);
-            ++m_stufen[order.Item];
+            ++m_stufen[order.item];
             if (const auto weiter = Spiele(lauf, m_liste.size())) {
                 Vertiefe(*weiter);
             }
-            --m_stufen[order.Item];
+            --m_stufen[order.item];
             m_liste.pop_back();
             m_uebrig.insert(m_uebrig.begin() + static_cast<std::ptrdiff_t>(i), order);
         }
@@ -91,25 +91,25 @@ class Beweis {
     [[nodiscard]] Long FruehestesEnde(const GameState& stand) const {
         PerQueue<double> ende{};
         PerItem<Byte> stufen = m_stufen;
-        for (const Auftrag& order : m_uebrig) {
-            const ItemRow& zeile = RowOf(order.Item);
-            const Cost& preis = CostOf(order.Item, stufen[order.Item]++);
-            ende[order.Queue] += zeile.upgradeTime(preis, m_spaeter, m_bedingungen);
+        for (const Order& order : m_uebrig) {
+            const ItemRow& zeile = RowOf(order.item);
+            const Cost& preis = CostOf(order.item, stufen[order.item]++);
+            ende[order.queue] += zeile.upgradeTime(preis, m_spaeter, m_bedingungen);
         }
         double spaetestes = 0;
-        for (const Auftrag& order : m_uebrig) {
+        for (const Order& order : m_uebrig) {
             // Its queue's finish, before the buffer that keeps it busy.
-            const auto frei = static_cast<double>(stand.FertigZeit[order.Queue].Seconds()) - 1 -
+            const auto frei = static_cast<double>(stand.FertigZeit[order.queue].Seconds()) - 1 -
                               static_cast<double>(m_bedingungen.KlickPuffer);
-            spaetestes = std::max(spaetestes, ende[order.Queue] + std::max(0.0, frei));
+            spaetestes = std::max(spaetestes, ende[order.queue] + std::max(0.0, frei));
         }
         // Durations are rounded.
         return static_cast<Long>(spaetestes) - static_cast<Long>(m_uebrig.size());
     }
 
     const RunConditions& m_bedingungen;
-    std::vector<Auftrag> m_uebrig;
-    std::vector<Auftrag> m_liste;
+    std::vector<Order> m_uebrig;
+    std::vector<Order> m_liste;
     PerItem<Byte> m_stufen{};
     /// With all levels that the plan will ever have.
     GameState m_spaeter;
@@ -140,16 +140,16 @@ Suchaufgabe Kleinplan(unsigned saat) {
         const DateTime abend = welt.StartDate + (9 + 24 * nacht) * kStunde;
         welt.Schlafzeiten.emplace_back(abend, abend + schlaf);
     }
-    Auftragsliste liste;
-    for (Long zahl = 8 + bis(2); static_cast<Long>(liste.Zahl()) < zahl;) {
+    OrderList liste;
+    for (Long zahl = 8 + bis(2); static_cast<Long>(liste.Size()) < zahl;) {
         const ItemId item = bis(3) == 0
                                 ? static_cast<ItemId>(bis(kNumItems - 1))
                                 : kAnfang[static_cast<std::size_t>(bis(kAnfang.size() - 1))];
-        if (!Absage(item, liste)) {
-            liste.HaengeAn(Auftrag::Fuer(item));
+        if (!Refusal(item, liste)) {
+            liste.Append(Order::Of(item));
         }
     }
-    aufgabe.Orders.assign(liste.Alle().begin(), liste.Alle().end());
+    aufgabe.Orders.assign(liste.All().begin(), liste.All().end());
     aufgabe.Fest.assign(aufgabe.Orders.size(), false);
     return aufgabe;
 }

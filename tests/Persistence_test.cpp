@@ -133,9 +133,9 @@ TEST(Wecker, KlingeltAufDieSekunde) {
 }
 
 TEST(Wecker, KlingeltEineMinuteVorDemAufwachen) {
-    const Schlaftabelle tabelle{{"17.11.2006 22:30", "18.11.2006 06:30"},
-                                {"x", "Unsinn"},
-                                {"17.11.2006 23:30", "18.11.2006 06:30"}};
+    const SleepTable tabelle{{"17.11.2006 22:30", "18.11.2006 06:30"},
+                             {"x", "Unsinn"},
+                             {"17.11.2006 23:30", "18.11.2006 06:30"}};
     EXPECT_EQ(FaelligeSchlafzeiten(tabelle, *ParseDateTime("18.11.2006 06:29:00")), 2U);
     EXPECT_EQ(FaelligeSchlafzeiten(tabelle, *ParseDateTime("18.11.2006 06:29:01")), 0U);
     EXPECT_EQ(FaelligeSchlafzeiten(tabelle, *ParseDateTime("18.11.2006 06:30:00")), 0U);

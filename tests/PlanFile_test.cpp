@@ -22,8 +22,8 @@ std::string Bytes(const Plan& plan, std::string_view vorher = "") {
 
 Plan Beispiel() {
     Plan plan = PlanAus("GM GS GX:8:10:5");
-    plan.Parameter.KlickPuffer = 5;
-    plan.Schlafzeiten = {{"18.11.2006 22:00", "19.11.2006 06:00"}};
+    plan.parameters.KlickPuffer = 5;
+    plan.LV_Schlafzeiten = {{"18.11.2006 22:00", "19.11.2006 06:00"}};
     return plan;
 }
 
@@ -45,11 +45,11 @@ std::string Mit(const std::string& alt, const std::string& neu) {
 TEST(Planablage, HatDasFormat) {
     EXPECT_EQ(Bytes(Beispiel()), kBeispiel);
     Plan kurz = Beispiel();
-    kurz.Liste.Undo();
+    kurz.LV_Bauliste.RemoveLast();
     const std::string ueber = Bytes(kurz, kBeispiel);
     EXPECT_NE(ueber.find("ItemCount=2\r\nItem_001=GM\r\nItem_002=GS\r\nItem_003=GX:8:10:5"),
               std::string::npos);
-    EXPECT_EQ(Ladung(ueber).Geladen.Liste.Zeilen().size(), 2U);
+    EXPECT_EQ(Ladung(ueber).Geladen.LV_Bauliste.Rows().size(), 2U);
     EXPECT_EQ(FenstertitelMit("/ein/Ordner/x.y.tvf"),
               "Tarvelin  |  Kelva Aufbau-Simulator      ( x.y.tvf )");
 }
@@ -85,8 +85,8 @@ TEST(Planablage, HoertAmErstenUnbrauchbarenWertAuf) {
         EXPECT_FALSE(ladung.Gelesen);
         EXPECT_EQ(ladung.Meldungen.Texte,
                   std::vector<std::string>{"Die Bauliste konnte nicht geladen werden..."});
-        EXPECT_EQ(ladung.Geladen.Liste.Zeilen().size(), fall.Zeilen);
-        EXPECT_EQ(ladung.Geladen.Schlafzeiten.size(), fall.Schlafzeiten);
+        EXPECT_EQ(ladung.Geladen.LV_Bauliste.Rows().size(), fall.Zeilen);
+        EXPECT_EQ(ladung.Geladen.LV_Schlafzeiten.size(), fall.Schlafzeiten);
         EXPECT_EQ(Ladehindernis(Profil(Mit(fall.Alt, fall.Neu))), fall.Hindernis);
     }
     EXPECT_EQ(Ladehindernis(Profil(kBeispiel)), "");
@@ -98,18 +98,18 @@ TEST(Planablage, LiestWasBrauchbarIst) {
     EXPECT_FALSE(Ladung(Mit("ShowDesc=1", "ShowDesc=0,0")).Geladen.ShowDesc);
     EXPECT_TRUE(Ladung(Mit("ShowDesc=1", "ShowDesc=-7")).Geladen.ShowDesc);
     EXPECT_TRUE(
-        Ladung(Mit("Speedfaktor_X2=0", "Speedfaktor_X2=1")).Geladen.Parameter.SpeedfaktorX2);
+        Ladung(Mit("Speedfaktor_X2=0", "Speedfaktor_X2=1")).Geladen.parameters.Speedfaktor_X2);
     EXPECT_FALSE(
-        Ladung(Mit("Speedfaktor_X2=0", "Speedfaktor_X2=01")).Geladen.Parameter.SpeedfaktorX2);
-    EXPECT_FALSE(Ladung(Mit("Speedfaktor_X2=0", "")).Geladen.Parameter.SpeedfaktorX2);
+        Ladung(Mit("Speedfaktor_X2=0", "Speedfaktor_X2=01")).Geladen.parameters.Speedfaktor_X2);
+    EXPECT_FALSE(Ladung(Mit("Speedfaktor_X2=0", "")).Geladen.parameters.Speedfaktor_X2);
     const Ladung kalt(Mit("TempMax=11", "TempMax=-20,5"));
-    EXPECT_EQ(kalt.Geladen.Parameter.TempMin, "-60,5");
+    EXPECT_EQ(kalt.Geladen.parameters.tempMin, "-60,5");
     const Ladung ohneDatum(Mit("UniStartZeitTag=18", "UniStartZeitTag=31"));
     EXPECT_TRUE(ohneDatum.Gelesen);
     EXPECT_FALSE(Probe(ohneDatum.Geladen).Gelungen);
     const Ladung vorzeichen(Mit("Item_003=GX:8:10:5", "Item_003=GX:+8:010: 5 :x"));
-    EXPECT_EQ(vorzeichen.Geladen.Liste.Zeilen()[2].Tag, "GX:+8:010: 5 :x");
-    EXPECT_EQ(vorzeichen.Geladen.Liste.Zeilen()[2].SubItems1, "M:80% K:100% D:50%");
+    EXPECT_EQ(vorzeichen.Geladen.LV_Bauliste.Rows()[2].Tag, "GX:+8:010: 5 :x");
+    EXPECT_EQ(vorzeichen.Geladen.LV_Bauliste.Rows()[2].SubItems1, "M:80% K:100% D:50%");
     EXPECT_EQ(Probe(vorzeichen.Geladen).Gelaufen.LV_Bauzeiten[2].theText(), "80% 100% 50%");
 }
 

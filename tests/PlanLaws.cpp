@@ -60,26 +60,26 @@ std::string Bytes(const Plan& plan) {
     return profil.Bytes();
 }
 
-std::array<const std::string*, 6> Eingaben(const Startparameter& p) {
+std::array<const std::string*, 6> Eingaben(const StartParameters& p) {
     return {&p.UniStartZeitTag,     &p.UniStartZeitMonat,   &p.UniStartZeitJahr,
             &p.UniStartZeitStunden, &p.UniStartZeitMinuten, &p.TempMax};
 }
 
 bool IstSpeicherbar(const Plan& plan) {
-    const auto eingaben = Eingaben(plan.Parameter);
+    const auto eingaben = Eingaben(plan.parameters);
     return std::ranges::all_of(eingaben, [](const auto* text) { return KommtZurueck(*text); }) &&
-           std::ranges::all_of(plan.Schlafzeiten,
-                               [](const SchlafzeitZeile& zeile) {
+           std::ranges::all_of(plan.LV_Schlafzeiten,
+                               [](const SleepRow& zeile) {
                                    return KommtZurueck(zeile.Startzeit) &&
                                           KommtZurueck(zeile.Endzeit);
                                }) &&
-           std::ranges::all_of(plan.Liste.Zeilen(),
-                               [](const BaulistenZeile& zeile) { return KommtZurueck(zeile.Tag); });
+           std::ranges::all_of(plan.LV_Bauliste.Rows(),
+                               [](const BuildListRow& zeile) { return KommtZurueck(zeile.Tag); });
 }
 
 /// The conditions of a plan's run, or some where it has none.
 RunConditions BedingungenVon(const Plan& plan) {
-    const auto bedingungen = LiesStartbedingungen(plan);
+    const auto bedingungen = ParseRunConditions(plan);
     const auto* const gelesen = std::get_if<RunConditions>(&bedingungen);
     return gelesen == nullptr ? RunConditions{.Speedfaktor = 1} : *gelesen;
 }
@@ -89,8 +89,8 @@ PerResource<FixedPoint> VorratNachSchritt(const GameState& vorher, const GameSta
                                           const Startereignis* start) {
     const Verlauf verlauf(vorher);
     auto vorrat = VorratNach(verlauf.Punkte().back(), nachher.secsgone - vorher.secsgone);
-    if (start != nullptr && start->Order.Was == Auftrag::Art::Item) {
-        const Cost& preis = CostOf(start->Order.Item, static_cast<Byte>(start->Nummer - 1));
+    if (start != nullptr && start->Order.kind == Order::Kind::Item) {
+        const Cost& preis = CostOf(start->Order.item, static_cast<Byte>(start->Nummer - 1));
         for (const Resource r : kResources) {
             vorrat[r] = vorrat[r] - FixedPoint::FromDouble(preis[r]);
         }
@@ -123,7 +123,7 @@ Befund PruefeSchlangen(const Mitschrift& lauf) {
     std::map<char, SimTime> frei;
     for (const Startereignis& start : lauf.Starts) {
         SimTime& bis = frei[start.Order.Tag().front()];
-        if (start.Order.Was == Auftrag::Art::Item && start.Start < bis) {
+        if (start.Order.kind == Order::Kind::Item && start.Start < bis) {
             return "row " + std::to_string(start.Zeile + 1) + " starts within its queue's last one";
         }
         bis = std::max(bis, start.Finish);
@@ -131,7 +131,7 @@ Befund PruefeSchlangen(const Mitschrift& lauf) {
     return {};
 }
 
-Befund PruefeSummen(const Auftragsliste& liste, const GameState& stand) {
+Befund PruefeSummen(const OrderList& liste, const GameState& stand) {
     double verbaut = 0;
     for (const ItemRow& zeile : ItemTable()) {
         if (stand.Stufe[zeile.item] != liste.ListStufe(zeile.item)) {
@@ -155,7 +155,7 @@ bool GehtWeiterWie(const Mitschrift& ganz, std::size_t schritt, const Mitschrift
 }
 
 /// A run over the first `n` orders, up to the step that started the last of them.
-Simulation LaufBis(std::span<const Auftrag> auftraege, std::size_t n,
+Simulation LaufBis(std::span<const Order> auftraege, std::size_t n,
                    const RunConditions& bedingungen) {
     Simulation lauf(auftraege.first(n), bedingungen);
     Mitschrift stumm;
@@ -168,77 +168,77 @@ Simulation LaufBis(std::span<const Auftrag> auftraege, std::size_t n,
 /// How many rows the rules wouldn't let be where they stand.
 std::size_t Regelbrueche(const std::vector<std::string>& tags) {
     std::size_t brueche = 0;
-    Auftragsliste liste;
+    OrderList liste;
     for (const std::string& tag : tags) {
-        const Auftrag order = Auftrag::AusTag(tag);
-        if (order.Was == Auftrag::Art::Item && Absage(order.Item, liste)) {
+        const Order order = Order::FromTag(tag);
+        if (order.kind == Order::Kind::Item && Refusal(order.item, liste)) {
             ++brueche;
         }
-        liste.HaengeAn(order);
+        liste.Append(order);
     }
     return brueche;
 }
 
 /// Some edit of some rows.
-Umstellung Irgendeine(const Bauliste& liste, std::minstd_rand& zufall) {
-    const std::size_t zeilen = liste.Zeilen().size();
+ListEdit Irgendeine(const BuildList& liste, std::minstd_rand& zufall) {
+    const std::size_t zeilen = liste.Rows().size();
     std::vector<std::size_t> gewaehlt;
     for (std::size_t i = 0; i < zeilen; ++i) {
         if (zufall() % zeilen < 2) {
             gewaehlt.push_back(i);
         }
     }
-    Umstellung umstellung(liste);
+    ListEdit umstellung(liste);
     const std::size_t stelle = zufall() % (zeilen + 1);
     switch (zufall() % 7) {
         case 0:
-            umstellung.Hoch(gewaehlt);
+            umstellung.MoveUp(gewaehlt);
             break;
         case 1:
-            umstellung.Runter(gewaehlt);
+            umstellung.MoveDown(gewaehlt);
             break;
         case 2:
-            umstellung.StelleVor(stelle, gewaehlt);
+            umstellung.MoveBefore(stelle, gewaehlt);
             break;
         case 3:
-            umstellung.Loesche(gewaehlt);
+            umstellung.Remove(gewaehlt);
             break;
         case 4:
-            umstellung.Verdopple(gewaehlt);
+            umstellung.Duplicate(gewaehlt);
             break;
         case 5:
-            umstellung.FuegeEin(stelle, "GX:1:2:3");
+            umstellung.Insert(stelle, "GX:1:2:3");
             break;
         default:
-            umstellung.FuegeEin(stelle, ItemTable()[zufall() % kNumItems].ItemCode);
+            umstellung.Insert(stelle, ItemTable()[zufall() % kNumItems].ItemCode);
     }
     return umstellung;
 }
 
 /// What dropping rows one by one gives.
-Bauliste Nacheinander(const std::vector<std::string>& tags, const RunConditions& bedingungen) {
-    Bauliste liste;
+BuildList Nacheinander(const std::vector<std::string>& tags, const RunConditions& bedingungen) {
+    BuildList liste;
     for (const std::string& tag : tags) {
-        const Auftrag order = Auftrag::AusTag(tag);
-        static_cast<void>(order.Was == Auftrag::Art::Item
-                              ? liste.AddItem(order.Item, bedingungen)
-                              : liste.AddProdaenderungsevent(order.Faktoren, bedingungen));
+        const Order order = Order::FromTag(tag);
+        static_cast<void>(order.kind == Order::Kind::Item
+                              ? liste.AddItem(order.item, bedingungen)
+                              : liste.AddProduction(order.factors, bedingungen));
     }
     return liste;
 }
 
 }  // namespace
 
-std::string Zustand(const Bauliste& liste) {
+std::string Zustand(const BuildList& liste) {
     std::string text;
-    for (const BaulistenZeile& zeile : liste.Zeilen()) {
-        text += zeile.Text + "|" + zeile.Tag + "|" + zeile.SubItems1 + "|" + zeile.SubItems2 + "|" +
-                (zeile.SubItems2Farbe == Farbe::Rot ? "rot\n" : "schwarz\n");
+    for (const BuildListRow& zeile : liste.Rows()) {
+        text += zeile.text + "|" + zeile.Tag + "|" + zeile.SubItems1 + "|" + zeile.SubItems2 + "|" +
+                (zeile.SubItems2Color == TextColor::Red ? "rot\n" : "schwarz\n");
     }
     for (const ItemRow& zeile : ItemTable()) {
-        text += std::to_string(liste.Auftraege().ListStufe(zeile.item)) + " ";
+        text += std::to_string(liste.Orders().ListStufe(zeile.item)) + " ";
     }
-    for (const Byte faktor : liste.Auftraege().ListFaktor()) {
+    for (const Byte faktor : liste.Orders().ListFaktor()) {
         text += std::to_string(faktor) + " ";
     }
     return text;
@@ -266,27 +266,27 @@ Befund PruefeSpeichern(const Plan& plan) {
         !LadePlan(Profil(Bytes(vorher)), nachher, bedingungen, meldungen)) {
         return "a saved plan can't be loaded";
     }
-    if (Bytes(nachher) != Bytes(plan) || nachher.Schlafzeiten != plan.Schlafzeiten) {
+    if (Bytes(nachher) != Bytes(plan) || nachher.LV_Schlafzeiten != plan.LV_Schlafzeiten) {
         return "a saved plan comes back as\n" + Bytes(nachher);
     }
-    if (Zustand(nachher.Liste) != Zustand(vorher.Liste)) {
-        return "a saved list comes back as\n" + Zustand(nachher.Liste);
+    if (Zustand(nachher.LV_Bauliste) != Zustand(vorher.LV_Bauliste)) {
+        return "a saved list comes back as\n" + Zustand(nachher.LV_Bauliste);
     }
     return Ergebnis(nachher) == Ergebnis(plan) ? "" : "a saved plan has another result";
 }
 
 Befund PruefeUndo(const Plan& plan) {
     const RunConditions bedingungen = BedingungenVon(plan);
-    Bauliste liste;
-    for (const BaulistenZeile& zeile : plan.Liste.Zeilen()) {
+    BuildList liste;
+    for (const BuildListRow& zeile : plan.LV_Bauliste.Rows()) {
         const std::string vorher = Zustand(liste);
-        const auto anderes = static_cast<ItemId>(liste.Zeilen().size() % ItemTable().size());
+        const auto anderes = static_cast<ItemId>(liste.Rows().size() % ItemTable().size());
         if (liste.AddItem(anderes, bedingungen)) {
             return "a row can't be added";
         }
-        liste.Undo();
-        if (!liste.AddProdaenderungsevent({{1, 2, 3}}, bedingungen)) {
-            liste.Undo();
+        liste.RemoveLast();
+        if (!liste.AddProduction({{1, 2, 3}}, bedingungen)) {
+            liste.RemoveLast();
         }
         if (Zustand(liste) != vorher) {
             return "an undo leaves\n" + Zustand(liste);
@@ -299,18 +299,18 @@ Befund PruefeUndo(const Plan& plan) {
 }
 
 Befund PruefeBuecher(const Plan& plan) {
-    if (std::holds_alternative<Message>(LiesStartbedingungen(plan))) {
+    if (std::holds_alternative<Message>(ParseRunConditions(plan))) {
         return {};
     }
     const RunConditions bedingungen = BedingungenVon(plan);
-    const Auftragsliste& liste = plan.Liste.Auftraege();
-    Simulation simulation(liste.Alle(), bedingungen);
+    const OrderList& liste = plan.LV_Bauliste.Orders();
+    Simulation simulation(liste.All(), bedingungen);
     const GameState anfang = simulation.Stand();
     Mitschrift lauf;
     simulation.Laufe(lauf);
-    for (std::size_t i = 0; i < liste.Zahl(); ++i) {
-        if (lauf.Starts.size() != liste.Zahl() || lauf.Starts[i].Zeile != i ||
-            lauf.Starts[i].Order != liste.Alle()[i]) {
+    for (std::size_t i = 0; i < liste.Size(); ++i) {
+        if (lauf.Starts.size() != liste.Size() || lauf.Starts[i].Zeile != i ||
+            lauf.Starts[i].Order != liste.All()[i]) {
             return "row " + std::to_string(i + 1) + " hasn't started in its turn";
         }
     }
@@ -326,8 +326,8 @@ Befund PruefeBuecher(const Plan& plan) {
 Befund PruefeWiederaufnahme(const Plan& plan) {
     constexpr std::size_t kProben = 12;
     const RunConditions bedingungen = BedingungenVon(plan);
-    const auto orders = plan.Liste.Auftraege().Alle();
-    std::vector<Auftrag> andere(orders.begin(), orders.end());
+    const auto orders = plan.LV_Bauliste.Orders().All();
+    std::vector<Order> andere(orders.begin(), orders.end());
     Simulation lauf(orders, bedingungen);
     std::vector<Simulation> kopien;
     Mitschrift ganz;
@@ -370,7 +370,7 @@ Befund PruefeZeitsprung(const Plan& plan) {
     constexpr std::int64_t kStunde = 3600;
     constexpr std::int64_t kGenau = std::int64_t{1} << 40U;
     const RunConditions bedingungen = BedingungenVon(plan);
-    Simulation lauf(plan.Liste.Auftraege().Alle(), bedingungen);
+    Simulation lauf(plan.LV_Bauliste.Orders().All(), bedingungen);
     Mitschrift stumm;
     lauf.Laufe(stumm);
     GameState gesprungen = lauf.Stand();
@@ -398,19 +398,19 @@ Befund PruefeWiederholung(const Plan& plan) {
     if (lauf.Gelaufen) {
         Stumm meldungen;
         lauf.Lauf.Beginne(BedingungenVon(lauf.Plan));
-        RunSimulation(lauf.Plan.Liste.Auftraege().Alle(), lauf.Lauf, meldungen);
+        RunSimulation(lauf.Plan.LV_Bauliste.Orders().All(), lauf.Lauf, meldungen);
         lauf.Texte.NachLauf(lauf.Lauf.Stand);
     }
     return JsonText(lauf) == einmal ? "" : "a second run has another result";
 }
 
 Befund PruefeKurve(const Plan& plan) {
-    if (plan.Liste.Auftraege().IstLeer()) {
+    if (plan.LV_Bauliste.Orders().IsEmpty()) {
         return {};
     }
     const RunConditions bedingungen = BedingungenVon(plan);
-    const Ablauf ablauf = SpieleAb(plan.Liste.Auftraege().Alle(), bedingungen);
-    Simulation simulation(plan.Liste.Auftraege().Alle(), bedingungen);
+    const Ablauf ablauf = SpieleAb(plan.LV_Bauliste.Orders().All(), bedingungen);
+    Simulation simulation(plan.LV_Bauliste.Orders().All(), bedingungen);
     Mitschrift lauf;
     lauf.NachSchritt(simulation.Stand());
     simulation.Laufe(lauf);
@@ -442,17 +442,17 @@ Befund PruefeKurve(const Plan& plan) {
 Befund PruefeUmstellungen(const Plan& plan) {
     constexpr int kProben = 25;
     const RunConditions bedingungen = BedingungenVon(plan);
-    std::minstd_rand zufall(static_cast<unsigned>(plan.Liste.Zeilen().size()) + 1);
-    Bauliste liste = Nacheinander(plan.Liste.Tags(), bedingungen);
-    Listenverlauf verlauf;
+    std::minstd_rand zufall(static_cast<unsigned>(plan.LV_Bauliste.Rows().size()) + 1);
+    BuildList liste = Nacheinander(plan.LV_Bauliste.Tags(), bedingungen);
+    EditHistory verlauf;
     std::vector<std::vector<std::string>> staende{liste.Tags()};
-    verlauf.Beginne({.Tags = liste.Tags()});
+    verlauf.Begin({.tags = liste.Tags()});
     for (int i = 0; i < kProben; ++i) {
-        const Umstellung umstellung = Irgendeine(liste, zufall);
+        const ListEdit umstellung = Irgendeine(liste, zufall);
         const auto tags = umstellung.Tags();
-        const bool zuLang = tags.size() > Auftragsliste::kHoechstzahl;
+        const bool zuLang = tags.size() > OrderList::kMaxSize;
         const std::size_t brueche = Regelbrueche(liste.Tags());
-        const auto einwand = umstellung.Einwand();
+        const auto einwand = umstellung.Objection();
         if (!einwand && (zuLang || Regelbrueche(tags) > brueche)) {
             return "an edit is let be that breaks a rule";
         }
@@ -462,29 +462,29 @@ Befund PruefeUmstellungen(const Plan& plan) {
         if (einwand || tags == staende.back()) {
             continue;
         }
-        verlauf.Merke({.Tags = tags});
-        liste.Setze(tags, bedingungen);
+        verlauf.Record({.tags = tags});
+        liste.SetTags(tags, bedingungen);
         staende.push_back(tags);
         if (Zustand(liste) != Zustand(Nacheinander(tags, bedingungen))) {
             return "an edited list isn't its rows dropped anew";
         }
     }
     for (std::size_t i = staende.size() - 1; i > 0; --i) {
-        if (verlauf.Zurueck().Tags != staende[i - 1] || verlauf.Vor().Tags != staende[i] ||
-            verlauf.Zurueck().Tags != staende[i - 1]) {
+        if (verlauf.Undo().tags != staende[i - 1] || verlauf.Redo().tags != staende[i] ||
+            verlauf.Undo().tags != staende[i - 1]) {
             return "an edit can't be taken back and done again";
         }
     }
-    return verlauf.HatVorige() ? "there is more to take back than was done" : "";
+    return verlauf.CanUndo() ? "there is more to take back than was done" : "";
 }
 
 Befund PruefeVergleich(const Plan& plan) {
-    if (plan.Liste.Auftraege().IstLeer()) {
+    if (plan.LV_Bauliste.Orders().IsEmpty()) {
         return {};
     }
     const RunConditions bedingungen = BedingungenVon(plan);
-    const auto orders = plan.Liste.Auftraege().Alle();
-    std::vector<Auftrag> andere(orders.begin(), orders.end());
+    const auto orders = plan.LV_Bauliste.Orders().All();
+    std::vector<Order> andere(orders.begin(), orders.end());
     std::ranges::reverse(andere);
     andere.resize(andere.size() / 2 + 1);
     const Ablauf a = SpieleAb(orders, bedingungen);

@@ -12,7 +12,7 @@ namespace tarvelin {
 using Befund = std::string;
 
 /// All that a list shows and counts.
-[[nodiscard]] std::string Zustand(const Bauliste& liste);
+[[nodiscard]] std::string Zustand(const BuildList& liste);
 
 /// The whole result of a plan's run on a fresh planet, in every form in which it is printed.
 [[nodiscard]] std::string Ergebnis(const Plan& plan);

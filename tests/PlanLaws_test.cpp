@@ -24,16 +24,17 @@ class Plangeber {
 
     Plan Zieh() {
         Plan plan = PlanAus("");
-        plan.Parameter.KlickPuffer = Eins(4) ? Bis(kMaxKlickPuffer) : Bis(20);
-        plan.Parameter.SpeedfaktorX2 = Eins(2);
+        plan.parameters.KlickPuffer = Eins(4) ? Bis(kMaxKlickPuffer) : Bis(20);
+        plan.parameters.Speedfaktor_X2 = Eins(2);
         plan.ShowDesc = Eins(2);
-        AendereTempMax(plan.Parameter, std::to_string(Eins(8) ? Bis(4000) - 2000 : Bis(160) - 60));
+        ChangeTempMax(plan.parameters, std::to_string(Eins(8) ? Bis(4000) - 2000 : Bis(160) - 60));
         m_jedesBild = Eins(3);
-        FuelleListe(plan.Liste, Eins(10) ? Bis(Auftragsliste::kHoechstzahl) : 1 + Bis(60));
+        FuelleListe(plan.LV_Bauliste, Eins(10) ? Bis(OrderList::kMaxSize) : 1 + Bis(60));
         const DateTime start = *ParseDateTime("18.11.2006 12:30");
         for (int n = Eins(2) ? Bis(5) : 0; n > 0; --n) {
             const DateTime schlaf = start + 60 * Bis(6000);
-            plan.Schlafzeiten.push_back({DateTimeText(schlaf), DateTimeText(schlaf + Bis(40000))});
+            plan.LV_Schlafzeiten.push_back(
+                {DateTimeText(schlaf), DateTimeText(schlaf + Bis(40000))});
         }
         return plan;
     }
@@ -44,14 +45,14 @@ class Plangeber {
     }
     bool Eins(unsigned von) { return m_zufall() % von == 0; }
 
-    void FuelleListe(Bauliste& liste, int zeilen) {
-        while (static_cast<int>(liste.Zeilen().size()) < zeilen) {
+    void FuelleListe(BuildList& liste, int zeilen) {
+        while (static_cast<int>(liste.Rows().size()) < zeilen) {
             const auto item = static_cast<ItemId>(m_zufall() % ItemTable().size());
             if (Eins(12)) {
                 const auto faktor = [this] { return static_cast<Byte>(Bis(kFullFactor)); };
-                EXPECT_FALSE(liste.AddProdaenderungsevent({{faktor(), faktor(), faktor()}},
-                                                          RunConditions()));
-            } else if (m_jedesBild || !Absage(item, liste.Auftraege())) {
+                EXPECT_FALSE(
+                    liste.AddProduction({{faktor(), faktor(), faktor()}}, RunConditions()));
+            } else if (m_jedesBild || !Refusal(item, liste.Orders())) {
                 EXPECT_FALSE(liste.AddItem(item, RunConditions()));
             }
         }

@@ -12,7 +12,7 @@ namespace {
 
 TEST(Bauliste, HaeltZeilenMitTextFaktorUndFarbe) {
     const Plan plan = PlanAus("GS GM GK GD GX:10:10:0 WKSK WS WS WKT");
-    EXPECT_EQ(Zustand(plan.Liste),
+    EXPECT_EQ(Zustand(plan.LV_Bauliste),
               "1|GS|Solarkraftwerk Stufe: 1|1,00|schwarz\n"
               "2|GM|MetallMine Stufe: 1|1,00|schwarz\n"
               "3|GK|KristallMine Stufe: 1|1,00|schwarz\n"
@@ -23,41 +23,41 @@ TEST(Bauliste, HaeltZeilenMitTextFaktorUndFarbe) {
               "8|WS|Solarsatellit Nr.: 2|1,00|schwarz\n"
               "9|WKT|Kl. Transporter Nr: 1|1,00|schwarz\n"
               "1 1 1 1 0 0 0 2 0 1 0 0 0 0 1 0 0 0 0 0 10 10 0 ");
-    EXPECT_EQ(PlanAus("GM").Liste.Zeilen()[0].SubItems2, "0,00");
-    EXPECT_EQ(PlanAus("GX:0:0:0 GM GK GD").Liste.Zeilen()[3].SubItems2, "1,00");
+    EXPECT_EQ(PlanAus("GM").LV_Bauliste.Rows()[0].SubItems2, "0,00");
+    EXPECT_EQ(PlanAus("GX:0:0:0 GM GK GD").LV_Bauliste.Rows()[3].SubItems2, "1,00");
 }
 
 TEST(Bauliste, FaktortextFolgtDerTemperaturDesLetztenLaufs) {
-    EXPECT_EQ(PlanAus("GM WS").Liste.Zeilen()[1].SubItems2, "1,00");
-    EXPECT_EQ(PlanAus("GM WS", {.Temperatur = -100}).Liste.Zeilen()[1].SubItems2, "-0,45");
+    EXPECT_EQ(PlanAus("GM WS").LV_Bauliste.Rows()[1].SubItems2, "1,00");
+    EXPECT_EQ(PlanAus("GM WS", {.Temperatur = -100}).LV_Bauliste.Rows()[1].SubItems2, "-0,45");
 }
 
 TEST(Bauliste, WeistUnbekanntesUndDie255teZeileAb) {
     const RunConditions bedingungen;
-    Bauliste liste;
+    BuildList liste;
     EXPECT_FALSE(liste.Replay("Quatsch", bedingungen));
-    while (!liste.Auftraege().IstVoll()) {
+    while (!liste.Orders().IsFull()) {
         ASSERT_FALSE(liste.AddItem(ItemId::DeutMine, bedingungen));
     }
     const std::string voll = Zustand(liste);
     const Message absage{"Die Bauliste ist voll: mehr als 254 Einträge sind nicht möglich...",
                          "Schwerer Ausnahmefehler 1337 !"};
     EXPECT_EQ(liste.AddItem(ItemId::SKW, bedingungen), absage);
-    EXPECT_EQ(liste.AddProdaenderungsevent(kFullFactors, bedingungen), absage);
+    EXPECT_EQ(liste.AddProduction(kFullFactors, bedingungen), absage);
     EXPECT_EQ(Zustand(liste), voll);
-    EXPECT_EQ(liste.Zeilen().size(), 254U);
-    EXPECT_EQ(liste.Zeilen().back().SubItems2, "0,00");  // a need beyond 32 bits
+    EXPECT_EQ(liste.Rows().size(), 254U);
+    EXPECT_EQ(liste.Rows().back().SubItems2, "0,00");  // a need beyond 32 bits
     liste.Clear();
-    EXPECT_EQ(Zustand(liste), Zustand(Bauliste()));
+    EXPECT_EQ(Zustand(liste), Zustand(BuildList()));
 }
 
 TEST(Auftrag, VerstehtNurGanzeFaktorenVonNullBisZehn) {
     for (const char* tag : {"GX:8:10:5", "GX: 8 :+010:-0", "GXfoo:8:10:5:99", "GX8:1:2:3"}) {
-        EXPECT_EQ(Auftrag::AusTag(tag).Was, Auftrag::Art::Produktion) << tag;
+        EXPECT_EQ(Order::FromTag(tag).kind, Order::Kind::Production) << tag;
     }
     for (const char* tag : {"GX", "GX:8:10", "GX:8:10:11", "GX:8:10:-1", "GX:8:10:5,0",
                             "GX::8:10:5", "gx:8:10:5", "GX:8:10:", "gm", "GM ", "", "G"}) {
-        EXPECT_EQ(Auftrag::AusTag(tag).Was, Auftrag::Art::Unbekannt) << tag;
+        EXPECT_EQ(Order::FromTag(tag).kind, Order::Kind::Unknown) << tag;
     }
 }
 
@@ -112,7 +112,7 @@ std::string AbsageOhne(const Regelfall& fall, const std::set<std::size_t>& zuWen
         }
     }
     return std::string(
-        Absage(*ItemVonCode(fall.Item), PlanAus(codes).Liste.Auftraege()).value_or("offen"));
+        Refusal(*ItemFromCode(fall.Item), PlanAus(codes).LV_Bauliste.Orders()).value_or("offen"));
 }
 
 TEST(Regeln, OeffnenAufDieZeileGenau) {
@@ -138,7 +138,7 @@ TEST(Regeln, OeffnenAufDieZeileGenau) {
 
 TEST(Regeln, LassenGenauEineKuppelAllein) {
     const auto kuppel = [](const char* codes) {
-        return Absage(ItemId::klSchK, PlanAus(codes).Liste.Auftraege()).value_or("offen");
+        return Refusal(ItemId::klSchK, PlanAus(codes).LV_Bauliste.Orders()).value_or("offen");
     };
     for (const char* eine : {"WKSK", "GW FSCH FSCH WKSK"}) {
         EXPECT_EQ(kuppel(eine), " Bereits eine kleine Schildkuppel in der Bauliste vorhanden! ");
@@ -150,7 +150,7 @@ TEST(Hovertexte, NennenKostenUndEnergieDerNaechstenZeile) {
     using enum ItemId;
     RunConditions bedingungen;
     const auto text = [&](const char* codes, ItemId item) {
-        return HoverInfo(item, PlanAus(codes).Liste.Auftraege(), bedingungen).Tooltip;
+        return HoverInfoFor(item, PlanAus(codes).LV_Bauliste.Orders(), bedingungen).tooltip;
     };
     EXPECT_EQ(text("", DeutMine),
               " Deuteriummine  |  Kosten:  Met: 225  Kris: 75  Deut: 0  |  Energie: -22");
@@ -163,84 +163,84 @@ TEST(Hovertexte, NennenKostenUndEnergieDerNaechstenZeile) {
               " Solarsatellit  |  Kosten:  Met: 0  Kris: 2000  Deut: 500  |  Energie: +20");
     bedingungen.Temperatur = 30;
     EXPECT_TRUE(text("GW WS", Solsats).ends_with("  |  Energie: +27"));
-    const Hoverinfo zu = HoverInfo(Rakws, Auftragsliste(), bedingungen);
-    EXPECT_FALSE(zu.DragOffen);
-    EXPECT_EQ(zu.Tooltip, " Noch keine Raumschiffwerft in der Bauliste, bauen wäre unmöglich! ");
+    const HoverInfo zu = HoverInfoFor(Rakws, OrderList(), bedingungen);
+    EXPECT_FALSE(zu.dragEnabled);
+    EXPECT_EQ(zu.tooltip, " Noch keine Raumschiffwerft in der Bauliste, bauen wäre unmöglich! ");
 }
 
 TEST(Listenverlauf, TippenInEineEingabeIstEinSchritt) {
-    Listenverlauf verlauf;
+    EditHistory verlauf;
     const auto tippe = [&](const char* eingabe, const char* temperatur) {
-        Planstand stand;
-        stand.Parameter.TempMax = temperatur;
-        verlauf.Merke(stand, eingabe);
+        PlanSnapshot stand;
+        stand.parameters.TempMax = temperatur;
+        verlauf.Record(stand, eingabe);
     };
     for (const char* const text : {"", "2", "25"}) {
         tippe("TempMax", text);
     }
     tippe("TempMin", "26");
     tippe("TempMax", "27");
-    EXPECT_EQ(verlauf.Zurueck().Parameter.TempMax, "26");
+    EXPECT_EQ(verlauf.Undo().parameters.TempMax, "26");
     tippe("TempMax", "28");
-    EXPECT_FALSE(verlauf.HatNaechste());
+    EXPECT_FALSE(verlauf.CanRedo());
     tippe("TempMax", "26");
-    EXPECT_EQ(verlauf.Zurueck().Parameter.TempMax, "25") << "typed back to what it was";
-    EXPECT_EQ(verlauf.Zurueck().Parameter.TempMax, "11");
-    EXPECT_FALSE(verlauf.HatVorige());
+    EXPECT_EQ(verlauf.Undo().parameters.TempMax, "25") << "typed back to what it was";
+    EXPECT_EQ(verlauf.Undo().parameters.TempMax, "11");
+    EXPECT_FALSE(verlauf.CanUndo());
 }
 
 TEST(Listenverlauf, EinAndersGeschriebenerTagIstKeinSchritt) {
-    Listenverlauf verlauf;
-    Planstand stand;
-    const auto tag = [&](const char* text) -> Planstand& {
-        stand.Parameter.UniStartZeitTag = text;
+    EditHistory verlauf;
+    PlanSnapshot stand;
+    const auto tag = [&](const char* text) -> PlanSnapshot& {
+        stand.parameters.UniStartZeitTag = text;
         return stand;
     };
-    verlauf.Beginne(tag("05"));
-    EXPECT_TRUE(verlauf.Merke(tag("5"), "Tag"));
-    stand.Tags = {"GM"};
-    EXPECT_TRUE(verlauf.Merke(stand));
-    const Startparameter vorher = stand.Parameter;
-    verlauf.SchreibeTagUm(vorher, tag("05").Parameter);
-    EXPECT_FALSE(verlauf.Merke(stand));
-    EXPECT_EQ(verlauf.Schritte(), 1U);
-    EXPECT_EQ(verlauf.Zurueck().Parameter.UniStartZeitTag, "05");
-    EXPECT_TRUE(verlauf.HatNaechste() && !verlauf.HatVorige());
+    verlauf.Begin(tag("05"));
+    EXPECT_TRUE(verlauf.Record(tag("5"), "Tag"));
+    stand.tags = {"GM"};
+    EXPECT_TRUE(verlauf.Record(stand));
+    const StartParameters vorher = stand.parameters;
+    verlauf.RewriteDay(vorher, tag("05").parameters);
+    EXPECT_FALSE(verlauf.Record(stand));
+    EXPECT_EQ(verlauf.StepCount(), 1U);
+    EXPECT_EQ(verlauf.Undo().parameters.UniStartZeitTag, "05");
+    EXPECT_TRUE(verlauf.CanRedo() && !verlauf.CanUndo());
 }
 
 TEST(Startparameter, WochentagUndStartdatum) {
-    Startparameter parameter = PlanAus("").Parameter;
-    EXPECT_EQ(RefreshWeekday(parameter).Caption, "Sa.");
-    EXPECT_EQ(RefreshWeekday(parameter).Hint, "Samstag");
+    StartParameters parameter = PlanAus("").parameters;
+    EXPECT_EQ(RefreshWeekday(parameter).caption, "Sa.");
+    EXPECT_EQ(RefreshWeekday(parameter).hint, "Samstag");
     parameter.UniStartZeitTag = "5";
     EXPECT_EQ(*ReadUniStartZeit(parameter), *ParseDateTime("05.11.2006 12:30:00"));
     parameter.UniStartZeitMonat = "2";
     parameter.UniStartZeitTag = "30";
-    EXPECT_EQ(RefreshWeekday(parameter).Caption, "Err.");
+    EXPECT_EQ(RefreshWeekday(parameter).caption, "Err.");
     EXPECT_FALSE(ReadUniStartZeit(parameter));
-    FuelleStartdatumAuf(parameter);
+    PadStartDate(parameter);
     EXPECT_EQ(parameter.UniStartZeitMonat, "02");
     EXPECT_EQ(KlickPufferText(600), "10:00");
 }
 
 TEST(Startparameter, TemperaturenHaengenZusammen) {
-    Startparameter parameter;
+    StartParameters parameter;
     const auto max = [&](const char* text) {
-        AendereTempMax(parameter, text);
-        return parameter.TempMin + " " + parameter.TempMax;
+        ChangeTempMax(parameter, text);
+        return parameter.tempMin + " " + parameter.TempMax;
     };
     EXPECT_EQ(max("011"), "-29 11");
     EXPECT_EQ(max("+5"), "-35 5");
     EXPECT_EQ(max("0,1"), "-39,9 0,1");
     EXPECT_EQ(max("abc"), "-39,9 abc");
     EXPECT_EQ(max(" 12,05 "), "-27,95 12,05");
-    AendereTempMin(parameter, "-10");
+    ChangeTempMin(parameter, "-10");
     EXPECT_EQ(parameter.TempMax, "30");
-    AendereTempMin(parameter, "");
+    ChangeTempMin(parameter, "");
     EXPECT_EQ(parameter.TempMax, "30");
     const auto grad = [&](const char* text) {
         parameter.TempMax = text;
-        return LiesTemperatur(parameter);
+        return ParseTemperature(parameter);
     };
     EXPECT_EQ(grad("25,5"), 26);
     EXPECT_EQ(grad("24,5"), 24);
@@ -251,16 +251,16 @@ TEST(Startparameter, TemperaturenHaengenZusammen) {
 }
 
 TEST(Schlaftabelle, NimmtNurWasSichNichtUeberschneidet) {
-    Schlaftabelle tabelle{{"kein", "Datum"}};
+    SleepTable tabelle{{"kein", "Datum"}};
     const auto fuege = [&](const char* stunde, const char* minute, const char* dauerStunden,
                            const char* dauerMinuten) {
         const auto meldung =
-            AddSchlafzeit({"18.11.2006", stunde, minute, dauerStunden, dauerMinuten}, tabelle);
+            AddSleepRow({"18.11.2006", stunde, minute, dauerStunden, dauerMinuten}, tabelle);
         return meldung ? meldung->text : std::to_string(tabelle.size());
     };
     const std::string trifft = "Kein überschneidenden Zeiträumen eingegeben...";
     EXPECT_EQ(fuege("10", "00", "2", "00"), "2");
-    EXPECT_EQ(tabelle.back(), (SchlafzeitZeile{"18.11.2006 10:00", "18.11.2006 12:00"}));
+    EXPECT_EQ(tabelle.back(), (SleepRow{"18.11.2006 10:00", "18.11.2006 12:00"}));
     EXPECT_EQ(fuege("10", "00", "2", "00"), trifft);
     EXPECT_EQ(fuege("11", "59", "0", "01"), trifft);
     EXPECT_EQ(fuege("09", "00", "1", "00"), trifft);  // ends where the row begins
@@ -268,13 +268,13 @@ TEST(Schlaftabelle, NimmtNurWasSichNichtUeberschneidet) {
     EXPECT_EQ(fuege("12", "00", "0", "00"), "4");     // begins where the row ends
     EXPECT_EQ(fuege("08", "00", "9", "00"), trifft);  // around rows
     EXPECT_EQ(fuege("23", "30", "1,5", "30"), "5");
-    EXPECT_EQ(tabelle.back(), (SchlafzeitZeile{"18.11.2006 23:30", "19.11.2006 01:30"}));
+    EXPECT_EQ(tabelle.back(), (SleepRow{"18.11.2006 23:30", "19.11.2006 01:30"}));
     EXPECT_EQ(fuege("24", "00", "x", "00"), "Keine gültige Dauer eingegeben...");
     EXPECT_EQ(fuege("24", "00", "1", "00"), "Kein gültiges Datum eingegeben...");
-    EXPECT_EQ(LiesSchlafzeiten(tabelle).size(), 4U);
-    EXPECT_EQ(SchlafendeText({"18.11.2006", "22", "30", "01", "00"}), "Sa.  18.11.2006 23:30");
-    EXPECT_EQ(SchlafendeText({"18.11.2006", "22", "30", "", "00"}), "Error");
-    EXPECT_EQ(SchlafendeText({"18.11.2006", "22", "60", "1", "00"}), "Error");
+    EXPECT_EQ(ParseSleepTable(tabelle).size(), 4U);
+    EXPECT_EQ(SleepEndText({"18.11.2006", "22", "30", "01", "00"}), "Sa.  18.11.2006 23:30");
+    EXPECT_EQ(SleepEndText({"18.11.2006", "22", "30", "", "00"}), "Error");
+    EXPECT_EQ(SleepEndText({"18.11.2006", "22", "60", "1", "00"}), "Error");
 }
 
 }  // namespace

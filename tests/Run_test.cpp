@@ -10,7 +10,7 @@ namespace {
 
 Plan MitPuffer(std::string_view tags, int puffer) {
     Plan plan = PlanAus(tags);
-    plan.Parameter.KlickPuffer = puffer;
+    plan.parameters.KlickPuffer = puffer;
     return plan;
 }
 
@@ -41,8 +41,8 @@ TEST(Startbedingungen, WerdenDerReiheNachGelesen) {
           Fall{"GM", "11", "x", {"Kein gültiges Datum eingegeben..."}},
           Fall{"GM", "11", "18", {}}}) {
         Plan plan = PlanAus(tags);
-        plan.Parameter.TempMax = temperatur;
-        plan.Parameter.UniStartZeitTag = tag;
+        plan.parameters.TempMax = temperatur;
+        plan.parameters.UniStartZeitTag = tag;
         const Probe probe(plan);
         EXPECT_EQ(probe.Meldungen.Texte, texte);
         EXPECT_EQ(probe.Gelungen, texte.empty());
@@ -74,7 +74,7 @@ class Fremdenzaehler final : public Laufbeobachter {
 };
 
 TEST(Lauf, UnbekannteAuftraegeFallenWeg) {
-    const auto laufe = [](const std::vector<Auftrag>& orders, Long puffer) {
+    const auto laufe = [](const std::vector<Order>& orders, Long puffer) {
         const RunConditions bedingungen{.Speedfaktor = 1, .KlickPuffer = puffer};
         Fremdenzaehler zaehler;
         Simulation(orders, bedingungen).Laufe(zaehler);
@@ -82,12 +82,12 @@ TEST(Lauf, UnbekannteAuftraegeFallenWeg) {
         return std::array{zaehler.Starts, zaehler.Zeiten, zaehler.Pieptoene,
                           static_cast<int>(zaehler.Letzter.Start.Seconds())};
     };
-    const Auftrag mine = Auftrag::Fuer(ItemId::MetMine);
-    const Auftrag quatsch = Auftrag::AusTag("Quatsch");
-    EXPECT_EQ(quatsch.Queue, Queue::None);
-    EXPECT_EQ(Auftrag::AusTag("WZZ").Queue, Queue::Shipyard);
+    const Order mine = Order::Of(ItemId::MetMine);
+    const Order quatsch = Order::FromTag("Quatsch");
+    EXPECT_EQ(quatsch.queue, Queue::None);
+    EXPECT_EQ(Order::FromTag("WZZ").queue, Queue::Shipyard);
     // The finishes of both are beeps. The mines follow each other in their queue.
-    EXPECT_EQ(laufe({mine, quatsch, Auftrag::AusTag("WZZ"), mine}, 0), (std::array{2, 2, 2, 109}));
+    EXPECT_EQ(laufe({mine, quatsch, Order::FromTag("WZZ"), mine}, 0), (std::array{2, 2, 2, 109}));
     // Timed at the moment of the order before: not before it, and not held back by any queue.
     EXPECT_EQ(laufe({quatsch, mine}, 7), (std::array{1, 0, 1, 14}));
 }
@@ -109,7 +109,7 @@ TEST(Lauf, NenntWasEinenAuftragAufhielt) {
     };
     Plan plan = PlanAus("GM GM GM GM GS GM");
     EXPECT_EQ(gruende(plan), "-sssrr");
-    plan.Schlafzeiten = {{"18.11.2006 12:31", "18.11.2006 20:00"}};
+    plan.LV_Schlafzeiten = {{"18.11.2006 12:31", "18.11.2006 20:00"}};
     EXPECT_EQ(gruende(plan), "-zsssr");
     const Probe gesperrt(PlanAus("GS GD GR FE"));
     EXPECT_EQ(gesperrt.Gelaufen.LV_Bauzeiten.back().Grund,
@@ -118,9 +118,9 @@ TEST(Lauf, NenntWasEinenAuftragAufhielt) {
 
 TEST(Lauf, SagtWasEinenAuftragAufhielt) {
     const auto texte = [](const Plan& plan) {
-        const auto bedingungen = LiesStartbedingungen(plan);
+        const auto bedingungen = ParseRunConditions(plan);
         const Ablauf ablauf =
-            SpieleAb(plan.Liste.Auftraege().Alle(), std::get<RunConditions>(bedingungen));
+            SpieleAb(plan.LV_Bauliste.Orders().All(), std::get<RunConditions>(bedingungen));
         std::vector<std::string> gruende;
         for (std::size_t i = 0; i < ablauf.Starts.size(); ++i) {
             gruende.push_back(Wartetext(ablauf, i));
@@ -133,7 +133,7 @@ TEST(Lauf, SagtWasEinenAuftragAufhielt) {
                      "Bauschleife bis 12:34:31", "wartete auf Zeile 4", "Bauschleife bis 12:38:34",
                      "Es fehlten: 286 Metall", "Es fehlten: 72 Metall"}));
     Plan plan = MitPuffer("GX:9:9:9 GM GM GX:1:1:1 GM", 5);
-    plan.Schlafzeiten = {{"18.11.2006 12:31", "18.11.2006 20:00"}};
+    plan.LV_Schlafzeiten = {{"18.11.2006 12:31", "18.11.2006 20:00"}};
     EXPECT_EQ(texte(plan),
               (Texte{"Klickpuffer: 5 s", "Klickpuffer: 5 s", "Schlafzeit 12:31:00 bis 20:00:00",
                      "Bauschleife bis 20:02:52", "wartete auf Zeile 4"}));

@@ -42,18 +42,18 @@ Planlauf Wiedergefunden(const Plan& plan, const Planaufgabe& aufgabe, const Fund
     return {"gefunden", Profil(profil.Bytes())};
 }
 
-bool HaeltRegeln(const std::vector<Auftrag>& orders) {
-    Auftragsliste liste;
-    return std::ranges::all_of(orders, [&](const Auftrag& order) {
-        const bool gut = order.Was != Auftrag::Art::Item || !Absage(order.Item, liste);
-        liste.HaengeAn(order);
+bool HaeltRegeln(const std::vector<Order>& orders) {
+    OrderList liste;
+    return std::ranges::all_of(orders, [&](const Order& order) {
+        const bool gut = order.kind != Order::Kind::Item || !Refusal(order.item, liste);
+        liste.Append(order);
         return gut;
     });
 }
 
-std::map<std::string, int> Gezaehlt(const std::vector<Auftrag>& orders) {
+std::map<std::string, int> Gezaehlt(const std::vector<Order>& orders) {
     std::map<std::string, int> zahlen;
-    for (const Auftrag& order : orders) {
+    for (const Order& order : orders) {
         ++zahlen[order.Tag()];
     }
     return zahlen;
@@ -184,8 +184,8 @@ TEST(Suche, HaeltFesteZeilenEinesZiels) {
     const auto ergebnis = Suche(aufgabe, kEineKette, kWeiter, Still);
     Pruefe(plan, aufgabe, ergebnis);
     std::string ohneWirtschaft;
-    for (const Auftrag& order : ergebnis.Bester->Orders) {
-        if (order.Was == Auftrag::Art::Produktion || !IstWirtschaft(order.Item)) {
+    for (const Order& order : ergebnis.Bester->Orders) {
+        if (order.kind == Order::Kind::Production || !IstWirtschaft(order.item)) {
             ohneWirtschaft += order.Tag() + " ";
         }
     }
@@ -205,12 +205,12 @@ TEST(Suche, SpartSitzungenInnerhalbDesErlaubten) {
 TEST(Suche, SagtWarumSieNichtSuchenKann) {
     const Plan wirtschaft = PlanAus("GM GM GK");
     Plan gebrochen = PlanAus("GM");
-    gebrochen.Liste.Clear();
+    gebrochen.LV_Bauliste.Clear();
     for (const char* const tag : {"GM", "GW", "GR"}) {
-        EXPECT_TRUE(gebrochen.Liste.Replay(tag, RunConditions()));
+        EXPECT_TRUE(gebrochen.LV_Bauliste.Replay(tag, RunConditions()));
     }
     Plan ohneTag = wirtschaft;
-    ohneTag.Parameter.UniStartZeitTag = "";
+    ohneTag.parameters.UniStartZeitTag = "";
     const std::vector<std::tuple<Plan, Suchwunsch, bool, const char*>> faelle{
         {wirtschaft, {.Ziel = "plan"}, false, "Der Plan hat kein Ziel außerhalb der Wirtschaft"},
         {wirtschaft, {.Ziel = " "}, true, "Das Ziel ist leer"},

@@ -28,7 +28,7 @@ class NeuerStart {
     ~NeuerStart() { m_fenster.close(); }
 
     frmMain* operator->() { return &m_fenster; }
-    std::size_t Zeilen() { return m_fenster.DerPlan().Liste.Zeilen().size(); }
+    std::size_t Zeilen() { return m_fenster.DerPlan().LV_Bauliste.Rows().size(); }
 
   private:
     frmMain m_fenster;
@@ -325,10 +325,10 @@ TEST_F(Fensterleben, ErsetzteWerdenBewahrtWennSieNirgendsLiegen) {
 
 TEST_F(Fensterleben, NeuBeginntHeuteUndLaesstDenRest) {
     Plan plan = PlanAus("GM");
-    plan.Schlafzeiten = {{"18.11.2006 22:30", "18.11.2006 23:30"}};
-    plan.Parameter.UniStartZeitStunden = "x";
+    plan.LV_Schlafzeiten = {{"18.11.2006 22:30", "18.11.2006 23:30"}};
+    plan.parameters.UniStartZeitStunden = "x";
     Lade(plan);
-    plan.Parameter.UniStartZeitStunden = "7";
+    plan.parameters.UniStartZeitStunden = "7";
     Lade(plan);
     Waehle("mnuSleep");
     Waehle("mnuEinstellungen");

@@ -100,13 +100,13 @@ inline std::string InUtf16(const std::u16string& text, bool hochVorn) {
 /// A plan of 18.11.2006 12:30 without a click buffer, its rows by `Tag`s parted by blanks.
 inline Plan PlanAus(std::string_view tags, const RunConditions& bedingungen = {}) {
     Plan plan;
-    plan.Parameter.UniStartZeitTag = "18";
-    plan.Parameter.UniStartZeitMonat = "11";
-    plan.Parameter.UniStartZeitJahr = "2006";
-    plan.Parameter.KlickPuffer = 0;
+    plan.parameters.UniStartZeitTag = "18";
+    plan.parameters.UniStartZeitMonat = "11";
+    plan.parameters.UniStartZeitJahr = "2006";
+    plan.parameters.KlickPuffer = 0;
     while (!tags.empty()) {
         const auto tag = tags.substr(0, tags.find(' '));
-        EXPECT_TRUE(plan.Liste.Replay(tag, bedingungen)) << tag;
+        EXPECT_TRUE(plan.LV_Bauliste.Replay(tag, bedingungen)) << tag;
         tags.remove_prefix(std::min(tag.size() + 1, tags.size()));
     }
     return plan;
@@ -119,13 +119,13 @@ struct Probe {
     bool Gelungen = false;
 
     explicit Probe(const Plan& plan) {
-        const auto bedingungen = LiesStartbedingungen(plan);
+        const auto bedingungen = ParseRunConditions(plan);
         if (const auto* const absage = std::get_if<Message>(&bedingungen)) {
             Meldungen.Show(*absage);
             return;
         }
         Gelaufen.Beginne(std::get<RunConditions>(bedingungen));
-        RunSimulation(plan.Liste.Auftraege().Alle(), Gelaufen, Meldungen);
+        RunSimulation(plan.LV_Bauliste.Orders().All(), Gelaufen, Meldungen);
         Gelungen = true;
     }
 };

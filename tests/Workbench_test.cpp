@@ -70,19 +70,19 @@ class Werkbank : public Fenster {
     }
     [[nodiscard]] std::string Tags() const {
         std::string text;
-        for (const std::string& tag : m_fenster.DerPlan().Liste.Tags()) {
+        for (const std::string& tag : m_fenster.DerPlan().LV_Bauliste.Tags()) {
             text += (text.empty() ? "" : " ") + tag;
         }
         return text;
     }
     /// Both windows show the plan, with the texts of dropping its rows anew.
     void ErwarteEinig() {
-        Bauliste anew;
-        anew.Setze(m_fenster.DerPlan().Liste.Tags(), m_fenster.DerLauf().Bedingungen);
-        ASSERT_EQ(Zeilen("LV_Bauliste"), static_cast<int>(anew.Zeilen().size()));
+        BuildList anew;
+        anew.SetTags(m_fenster.DerPlan().LV_Bauliste.Tags(), m_fenster.DerLauf().Bedingungen);
+        ASSERT_EQ(Zeilen("LV_Bauliste"), static_cast<int>(anew.Rows().size()));
         ASSERT_EQ(Dort<QTreeView>("LV_Werkbank").model()->rowCount(), Zeilen("LV_Bauliste"));
         for (int i = 0; i < Zeilen("LV_Bauliste"); ++i) {
-            const BaulistenZeile& zeile = anew.Zeilen()[static_cast<std::size_t>(i)];
+            const BuildListRow& zeile = anew.Rows()[static_cast<std::size_t>(i)];
             const auto& dort = *Dort<QTreeView>("LV_Werkbank").model();
             EXPECT_EQ(Zelle("LV_Bauliste", i, 1), zeile.SubItems1);
             EXPECT_EQ(dort.index(i, 1).data().toString().toStdString(), zeile.SubItems1);
@@ -181,7 +181,7 @@ TEST_F(Werkbank, SpieltNachJederBearbeitungInBeidenFenstern) {
     EXPECT_EQ(Tags(), "GD GS") << "a load is a step";
     // The end of the clock.
     Plan spaet = PlanAus("GS GS");
-    spaet.Schlafzeiten = {{"18.11.2006 12:30", "18.11.3006 23:30"}};
+    spaet.LV_Schlafzeiten = {{"18.11.2006 12:30", "18.11.3006 23:30"}};
     Lade(spaet);
     EXPECT_NE(Sagt("LBL_Meldung").find("was später als 24855 Tage 03:14:07 käme"),
               std::string::npos);
@@ -239,7 +239,7 @@ TEST_F(Werkbank, BleibtMitDemAnderenFensterEinig) {
     const std::array bilder{"ImgMetMine", "ImgSKW",   "ImgDeutMine",
                             "ImgRobo",    "imgFolab", "ImgWerft"};
     for (int i = 0; i < 150; ++i) {
-        const auto zeilen = m_fenster.DerPlan().Liste.Zeilen().size();
+        const auto zeilen = m_fenster.DerPlan().LV_Bauliste.Rows().size();
         std::vector<std::size_t> gewaehlt;
         for (std::size_t z = 0; z < zeilen; ++z) {
             if (eins(6)) {
@@ -287,7 +287,7 @@ TEST_F(Werkbank, BleibtMitDemAnderenFensterEinig) {
 TEST_F(Werkbank, ZeigtDenPlanAlsBild) {
     m_jetzt = *ParseDateTime("18.11.2006 12:33:00");
     Plan plan = PlanAus("GM GM GS GX:10:0:10 GM");
-    plan.Parameter.KlickPuffer = 5;
+    plan.parameters.KlickPuffer = 5;
     Lade(plan);
     auto& leiste = Dort<Zeitleiste>("Zeitleiste");
     EXPECT_EQ(Sagt("LBL_Naechster"), "Als Nächstes: Solarkraftwerk 1 um 12:34:56, in 00:01:56");
@@ -422,8 +422,8 @@ TEST_F(Werkbank, SuchtUndUebernimmtAlsEinenSchritt) {
     Dort<QAbstractButton>("Cmd_Uebernehmen").click();
     const std::string nachher = bytes();
     EXPECT_NE(nachher, vorher);
-    EXPECT_EQ(m_fenster.DerPlan().Liste.Tags()[40], starter.Plan.Liste.Tags()[40]);
-    EXPECT_EQ(m_fenster.DerPlan().Schlafzeiten.front().Startzeit, "03.12.2026 10:30");
+    EXPECT_EQ(m_fenster.DerPlan().LV_Bauliste.Tags()[40], starter.Plan.LV_Bauliste.Tags()[40]);
+    EXPECT_EQ(m_fenster.DerPlan().LV_Schlafzeiten.front().Startzeit, "03.12.2026 10:30");
     EXPECT_EQ(Sagt("LBL_Dauer"), Text("LBL_Timegone"));
     const auto dauer = Spannentext(m_fenster.DerLauf().Stand.secsgone.Seconds());
     EXPECT_NE(bericht.find("Nachher: " + dauer + ","), std::string::npos) << bericht << dauer;
@@ -432,7 +432,7 @@ TEST_F(Werkbank, SuchtUndUebernimmtAlsEinenSchritt) {
     Taste(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(bytes(), vorher);
     EXPECT_EQ(Sagt("LBL_Aenderung"), "+" + aenderung.substr(1)) << "told once, of the whole plan";
-    EXPECT_EQ(Zeilen("LV_Schlafzeiten"), static_cast<int>(starter.Plan.Schlafzeiten.size()));
+    EXPECT_EQ(Zeilen("LV_Schlafzeiten"), static_cast<int>(starter.Plan.LV_Schlafzeiten.size()));
     Taste(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(bytes(), nachher);
     // A plan that was edited meanwhile isn't overwritten unasked.
@@ -486,7 +486,7 @@ TEST_F(Werkbank, VergleichtMitGemerktemUndMitDateien) {
               "Metallmine 1|00:02:47|00:02:00|-00:00:47|Metallmine 2|00:04:46|00:06:41|+00:01:55|");
     // In another file, from another start: both are counted from their own.
     Plan anderer = PlanAus("GM GM");
-    anderer.Parameter.UniStartZeitTag = "1";
+    anderer.parameters.UniStartZeitTag = "1";
     ASSERT_TRUE(SaveBauliste(m_ordner / "saves" / "anderer.tvf", anderer));
     m_boxen.Datei = "anderer.tvf";
     Dort<QAbstractButton>("Cmd_MitDatei").click();

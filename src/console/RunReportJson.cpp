@@ -20,14 +20,14 @@ json Meldungen(const Planlauf& lauf) {
     return liste;
 }
 
-json Zeilen(const Bauliste& bauliste) {
+json Zeilen(const BuildList& bauliste) {
     json liste = json::array();
-    for (const BaulistenZeile& zeile : bauliste.Zeilen()) {
-        liste.push_back({{"Text", zeile.Text},
+    for (const BuildListRow& zeile : bauliste.Rows()) {
+        liste.push_back({{"Text", zeile.text},
                          {"Tag", zeile.Tag},
                          {"SubItems1", zeile.SubItems1},
                          {"SubItems2", zeile.SubItems2},
-                         {"Farbe", static_cast<int>(zeile.SubItems2Farbe)}});
+                         {"Farbe", static_cast<int>(zeile.SubItems2Color)}});
     }
     return liste;
 }
@@ -42,9 +42,9 @@ json JeCode(Wert wert) {
     return objekt;
 }
 
-json Schlafzeiten(const Schlaftabelle& tabelle) {
+json Schlafzeiten(const SleepTable& tabelle) {
     json liste = json::array();
-    for (const SchlafzeitZeile& zeile : tabelle) {
+    for (const SleepRow& zeile : tabelle) {
         liste.push_back({zeile.Startzeit, zeile.Endzeit});
     }
     return liste;
@@ -118,7 +118,7 @@ json VerlaufVon(const Ablauf& ablauf) {
              {"Finish", start.Finish.Seconds()},
              {"Startzeit", DateTimeText(ablauf.Bedingungen.WallClock(start.Start))},
              {"Fertigzeit", DateTimeText(ablauf.Bedingungen.WallClock(start.Finish))},
-             {"Schlange", Schlangenname(start.Order.Queue)},
+             {"Schlange", Schlangenname(start.Order.queue)},
              {"Grund", Wartetext(ablauf, start.Zeile)}});
     }
     return {{"Punkte", punkte}, {"Auftraege", auftraege}};
@@ -127,15 +127,14 @@ json VerlaufVon(const Ablauf& ablauf) {
 }  // namespace
 
 std::string JsonText(const Planlauf& lauf, bool mitVerlauf) {
-    const Bauliste& liste = lauf.Plan.Liste;
-    json objekt{
-        {"Meldungen", Meldungen(lauf)},
-        {"Geladen", lauf.Geladen},
-        {"Gelaufen", lauf.Gelaufen},
-        {"Bauliste", Zeilen(liste)},
-        {"ListStufe", JeCode([&](ItemId item) { return liste.Auftraege().ListStufe(item); })},
-        {"ListFaktor", liste.Auftraege().ListFaktor()},
-        {"Schlafzeiten", Schlafzeiten(lauf.Plan.Schlafzeiten)}};
+    const BuildList& liste = lauf.Plan.LV_Bauliste;
+    json objekt{{"Meldungen", Meldungen(lauf)},
+                {"Geladen", lauf.Geladen},
+                {"Gelaufen", lauf.Gelaufen},
+                {"Bauliste", Zeilen(liste)},
+                {"ListStufe", JeCode([&](ItemId item) { return liste.Orders().ListStufe(item); })},
+                {"ListFaktor", liste.Orders().ListFaktor()},
+                {"Schlafzeiten", Schlafzeiten(lauf.Plan.LV_Schlafzeiten)}};
     if (lauf.Gelaufen) {
         FuegeZustandAn(objekt, lauf.Lauf.Stand, lauf.Lauf.Bedingungen);
         FuegeTexteAn(objekt, lauf.Texte);

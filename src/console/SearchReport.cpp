@@ -66,8 +66,8 @@ void SchreibeSuche(std::ostream& strom, const Suchbericht& bericht) {
         SchreibeZeile(strom, "Gewinn",
                       Gewinntext(gewinn) + " (" + Prozent(gewinn, vorher->Wertung.Dauer) + ")");
     }
-    const Auftragsliste& alte = bericht.Plan.Plan.Liste.Auftraege();
-    const Auftragsliste& neue = bericht.Neuer.Plan.Liste.Auftraege();
+    const OrderList& alte = bericht.Plan.Plan.LV_Bauliste.Orders();
+    const OrderList& neue = bericht.Neuer.Plan.LV_Bauliste.Orders();
     for (const auto& [name, text] : {std::pair("Kommt dazu", UeberschussInWorten(neue, alte)),
                                      std::pair("Entfällt", UeberschussInWorten(alte, neue))}) {
         if (!text.empty()) {
@@ -91,11 +91,11 @@ void SchreibeSuche(std::ostream& strom, const Suchbericht& bericht) {
 std::string SuchJson(const Suchbericht& bericht) {
     const auto& vorher = bericht.Aufgabe.Vorher;
     json tags = json::array();
-    for (const Auftrag& order : bericht.Ergebnis.Bester->Orders) {
+    for (const Order& order : bericht.Ergebnis.Bester->Orders) {
         tags.push_back(order.Tag());
     }
-    const Auftragsliste& alte = bericht.Plan.Plan.Liste.Auftraege();
-    const Auftragsliste& neue = bericht.Neuer.Plan.Liste.Auftraege();
+    const OrderList& alte = bericht.Plan.Plan.LV_Bauliste.Orders();
+    const OrderList& neue = bericht.Neuer.Plan.LV_Bauliste.Orders();
     json objekt{{"Vorher", vorher ? AlsJson(*vorher, bericht.Plan.Lauf.Stand) : json()},
                 {"Nachher", AlsJson(*bericht.Ergebnis.Bester, bericht.Neuer.Lauf.Stand)},
                 {"Versuche", bericht.Ergebnis.Versuche},

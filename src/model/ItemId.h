@@ -49,7 +49,7 @@ using PerQueue = EnumArray<Queue, T>;
 template <class Table>
 constexpr bool CoversEveryItem(const Table& table) {
     for (std::size_t i = 0; i < kNumItems; ++i) {
-        if (table[i].Item != static_cast<ItemId>(i)) {
+        if (table[i].item != static_cast<ItemId>(i)) {
             return false;
         }
     }

@@ -92,7 +92,7 @@ bool Autosave::Schreibe(const Plan& plan, bool auchOhneVorige) {
 void Autosave::BewahreErsetzten(const Plan& plan) const {
     const std::string bytes = AlsBytes(plan);
     const auto letzter = Profil::Lade(Ersetzter(1), m_system);
-    if (plan.Liste.Auftraege().IstLeer() || (letzter && letzter->Bytes() == bytes)) {
+    if (plan.LV_Bauliste.Orders().IsEmpty() || (letzter && letzter->Bytes() == bytes)) {
         return;
     }
     static_cast<void>(m_system.LegeOrdnerAn(m_datei.parent_path()));

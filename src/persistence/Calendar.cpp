@@ -97,9 +97,9 @@ std::string Beschreibung(const Ablauf& ablauf, const Eintrag& eintrag) {
         text += text.empty() ? "" : "\n";
         text +=
             TimeOfDayText(ablauf.Bedingungen.WallClock(start->Start)) + " " + Auftragstext(*start);
-        if (start->Order.Was == Auftrag::Art::Item) {
+        if (start->Order.kind == Order::Kind::Item) {
             text += "\n" + GetUpgradecostString(
-                               CostOf(start->Order.Item, static_cast<Byte>(start->Nummer - 1)));
+                               CostOf(start->Order.item, static_cast<Byte>(start->Nummer - 1)));
         }
         const std::string grund = Wartetext(ablauf, start->Zeile);
         text += grund.empty() ? "" : "\n" + grund;
@@ -118,9 +118,9 @@ std::string Titel(const Eintrag& eintrag) {
 
 /// A production row has no level: it is told by how manieth of them it is.
 std::string Kennung(const Ablauf& ablauf, const Startereignis& start) {
-    const bool item = start.Order.Was == Auftrag::Art::Item;
+    const bool item = start.Order.kind == Order::Kind::Item;
     const auto produktion = std::ranges::count_if(ablauf.Starts, [&](const Startereignis& s) {
-        return s.Order.Was == Auftrag::Art::Produktion && s.Zeile <= start.Zeile;
+        return s.Order.kind == Order::Kind::Production && s.Zeile <= start.Zeile;
     });
     const std::string tag = start.Order.Tag();
     return tag.substr(0, tag.find(':')) + "-" + std::to_string(item ? start.Nummer : produktion) +

@@ -33,15 +33,15 @@ std::string Zeilenkey(std::string_view name, std::size_t n) {
 /// they are written and read. The highest temperature is no row, as the lowest follows from it.
 struct Textkey {
     std::string_view Key;
-    std::string Startparameter::*Text;
+    std::string StartParameters::*Text;
 };
 
 constexpr std::array<Textkey, 5> kDatumskeys{{
-    {"UniStartZeitTag", &Startparameter::UniStartZeitTag},
-    {"UniStartZeitMonat", &Startparameter::UniStartZeitMonat},
-    {"UniStartZeitJahr", &Startparameter::UniStartZeitJahr},
-    {"UniStartZeitStunden", &Startparameter::UniStartZeitStunden},
-    {"UniStartZeitMinuten", &Startparameter::UniStartZeitMinuten},
+    {"UniStartZeitTag", &StartParameters::UniStartZeitTag},
+    {"UniStartZeitMonat", &StartParameters::UniStartZeitMonat},
+    {"UniStartZeitJahr", &StartParameters::UniStartZeitJahr},
+    {"UniStartZeitStunden", &StartParameters::UniStartZeitStunden},
+    {"UniStartZeitMinuten", &StartParameters::UniStartZeitMinuten},
 }};
 
 /// A value of any file as a person reads it: in one line, and not too long.
@@ -82,8 +82,8 @@ class Leser {
 
   private:
     bool LiesEinstellungen() {
-        Startparameter& parameter = m_plan.Parameter;
-        parameter.SpeedfaktorX2 = m_profil.Lies(kEinstellungen, "Speedfaktor_X2", "0") == "1";
+        StartParameters& parameter = m_plan.parameters;
+        parameter.Speedfaktor_X2 = m_profil.Lies(kEinstellungen, "Speedfaktor_X2", "0") == "1";
         const auto klickPuffer = LiesZahlVon0(kEinstellungen, "KlickPuffer", kMaxKlickPuffer);
         if (!klickPuffer) {
             return false;
@@ -92,17 +92,17 @@ class Leser {
         for (const Textkey& textkey : kDatumskeys) {
             parameter.*textkey.Text = m_profil.Lies(kEinstellungen, textkey.Key, "");
         }
-        AendereTempMax(parameter, m_profil.Lies(kEinstellungen, "TempMax", ""));
+        ChangeTempMax(parameter, m_profil.Lies(kEinstellungen, "TempMax", ""));
         const auto showDesc = ParseNumber(m_profil.Lies(kEinstellungen, "ShowDesc", ""));
         m_plan.ShowDesc = showDesc ? *showDesc != 0 : m_plan.ShowDesc;
         return showDesc || Scheitere(kEinstellungen, "ShowDesc", "ist keine Zahl");
     }
 
     bool LiesSchlafzeiten() {
-        m_plan.Schlafzeiten.clear();
+        m_plan.LV_Schlafzeiten.clear();
         const auto anzahl = LiesZahlVon0(kSchlafzeiten, kItemCount, kMeisteSchlafzeiten);
         for (std::size_t n = 1; anzahl && n <= static_cast<std::size_t>(*anzahl); ++n) {
-            m_plan.Schlafzeiten.push_back(
+            m_plan.LV_Schlafzeiten.push_back(
                 {m_profil.Lies(kSchlafzeiten, Zeilenkey("Item_", n), ""),
                  m_profil.Lies(kSchlafzeiten, Zeilenkey("SubItem_", n), "")});
         }
@@ -113,14 +113,14 @@ class Leser {
         const auto anzahl = ParseWholeNumber(m_profil.Lies(kBauliste, kItemCount, ""), 0,
                                              std::numeric_limits<std::int64_t>::max());
         const std::string erwartet =
-            "ist keine Zahl von 0 bis " + std::to_string(Auftragsliste::kHoechstzahl);
+            "ist keine Zahl von 0 bis " + std::to_string(OrderList::kMaxSize);
         if (!anzahl) {
             return Scheitere(kBauliste, kItemCount, erwartet);
         }
-        const auto zeilen = std::min(*anzahl, std::int64_t{Auftragsliste::kHoechstzahl});
+        const auto zeilen = std::min(*anzahl, std::int64_t{OrderList::kMaxSize});
         for (std::int64_t n = 1; n <= zeilen; ++n) {
             const auto key = Zeilenkey("Item_", static_cast<std::size_t>(n));
-            if (!m_plan.Liste.Replay(m_profil.Lies(kBauliste, key, ""), m_bedingungen)) {
+            if (!m_plan.LV_Bauliste.Replay(m_profil.Lies(kBauliste, key, ""), m_bedingungen)) {
                 return Scheitere(kBauliste, key, "ist kein Code der Bauliste");
             }
         }
@@ -174,25 +174,27 @@ bool HatZeilen(const Profil& profil) {
 }
 
 void SchreibePlan(const Plan& plan, Profil& profil) {
-    const Startparameter& parameter = plan.Parameter;
+    const StartParameters& parameter = plan.parameters;
     profil.Schreibe(kEinstellungen, "KlickPuffer", std::to_string(parameter.KlickPuffer));
     for (const Textkey& textkey : kDatumskeys) {
         profil.Schreibe(kEinstellungen, textkey.Key, parameter.*textkey.Text);
     }
     profil.Schreibe(kEinstellungen, "TempMax", parameter.TempMax);
     profil.Schreibe(kEinstellungen, "ShowDesc", plan.ShowDesc ? "1" : "0");
-    profil.Schreibe(kEinstellungen, "Speedfaktor_X2", parameter.SpeedfaktorX2 ? "1" : "0");
+    profil.Schreibe(kEinstellungen, "Speedfaktor_X2", parameter.Speedfaktor_X2 ? "1" : "0");
 
-    const auto& zeilen = plan.Liste.Zeilen();
+    const auto& zeilen = plan.LV_Bauliste.Rows();
     profil.Schreibe(kBauliste, kItemCount, std::to_string(zeilen.size()));
     for (std::size_t i = 0; i < zeilen.size(); ++i) {
         profil.Schreibe(kBauliste, Zeilenkey("Item_", i + 1), zeilen[i].Tag);
     }
 
-    profil.Schreibe(kSchlafzeiten, kItemCount, std::to_string(plan.Schlafzeiten.size()));
-    for (std::size_t i = 0; i < plan.Schlafzeiten.size(); ++i) {
-        profil.Schreibe(kSchlafzeiten, Zeilenkey("Item_", i + 1), plan.Schlafzeiten[i].Startzeit);
-        profil.Schreibe(kSchlafzeiten, Zeilenkey("SubItem_", i + 1), plan.Schlafzeiten[i].Endzeit);
+    profil.Schreibe(kSchlafzeiten, kItemCount, std::to_string(plan.LV_Schlafzeiten.size()));
+    for (std::size_t i = 0; i < plan.LV_Schlafzeiten.size(); ++i) {
+        profil.Schreibe(kSchlafzeiten, Zeilenkey("Item_", i + 1),
+                        plan.LV_Schlafzeiten[i].Startzeit);
+        profil.Schreibe(kSchlafzeiten, Zeilenkey("SubItem_", i + 1),
+                        plan.LV_Schlafzeiten[i].Endzeit);
     }
 }
 
@@ -207,7 +209,7 @@ bool SaveBauliste(const std::filesystem::path& File, const Plan& plan, const Dat
 
 bool LadePlan(const Profil& profil, Plan& plan, const RunConditions& bedingungen,
               MessageSink& meldungen) {
-    plan.Liste.Clear();
+    plan.LV_Bauliste.Clear();
     const bool brauchbar = Leser(profil, plan, bedingungen).Lies();
     if (!brauchbar) {
         meldungen.Show(Ladefehler());

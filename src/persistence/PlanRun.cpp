@@ -17,7 +17,7 @@ std::string Dateiname(const std::filesystem::path& datei) {
 }  // namespace
 
 Ablauf Planlauf::Abgespielt() const {
-    return SpieleAb(Plan.Liste.Auftraege().Alle(), Lauf.Bedingungen);
+    return SpieleAb(Plan.LV_Bauliste.Orders().All(), Lauf.Bedingungen);
 }
 
 Planlauf::Planlauf(const std::filesystem::path& datei)
@@ -33,13 +33,13 @@ Planlauf::Planlauf(std::string name, const std::optional<Profil>& profil) : Name
     if (!Geladen) {
         return;
     }
-    const auto bedingungen = LiesStartbedingungen(Plan);
+    const auto bedingungen = ParseRunConditions(Plan);
     if (const auto* const absage = std::get_if<Message>(&bedingungen)) {
         meldungen.Show(*absage);
         return;
     }
     Lauf.Beginne(std::get<RunConditions>(bedingungen));
-    RunSimulation(Plan.Liste.Auftraege().Alle(), Lauf, meldungen);
+    RunSimulation(Plan.LV_Bauliste.Orders().All(), Lauf, meldungen);
     Texte.NachLauf(Lauf.Stand);
     Gelaufen = true;
 }

@@ -15,105 +15,107 @@ namespace tarvelin {
 
 namespace {
 
-std::string Itemtext(ItemId item, Byte nummer) {
-    const ItemRow& zeile = RowOf(item);
-    std::string text(zeile.listText);
-    return zeile.traits.showsNumber ? text + std::to_string(nummer) : text;
+std::string ItemText(ItemId item, Byte number) {
+    const ItemRow& row = RowOf(item);
+    std::string text(row.listText);
+    return row.traits.showsNumber ? text + std::to_string(number) : text;
 }
 
-std::string Produktionstext(const MineFactors& faktoren) {
-    const auto prozent = [&](Resource r) { return std::to_string(10 * faktoren[r]) + "%"; };
-    return "M:" + prozent(Resource::Metall) + " K:" + prozent(Resource::Kristall) +
-           " D:" + prozent(Resource::Deuterium);
+std::string ProductionText(const MineFactors& factors) {
+    const auto percent = [&](Resource resource) {
+        return std::to_string(10 * factors[resource]) + "%";
+    };
+    return "M:" + percent(Resource::Metall) + " K:" + percent(Resource::Kristall) +
+           " D:" + percent(Resource::Deuterium);
 }
 
 /// The list text of the last order.
-std::string Listentext(const Auftragsliste& liste) {
-    const Auftrag& letzter = liste.Alle().back();
-    return letzter.Was == Auftrag::Art::Item ? Itemtext(letzter.Item, liste.ListStufe(letzter.Item))
-                                             : Produktionstext(letzter.Faktoren);
+std::string ListText(const OrderList& list) {
+    const Order& last = list.All().back();
+    return last.kind == Order::Kind::Item ? ItemText(last.item, list.ListStufe(last.item))
+                                          : ProductionText(last.factors);
 }
 
 }  // namespace
 
-std::optional<Message> Bauliste::AddItem(ItemId item, const RunConditions& bedingungen) {
-    return HaengeAn(Auftrag::Fuer(item), RowOf(item).ItemCode, bedingungen);
+std::optional<Message> BuildList::AddItem(ItemId item, const RunConditions& conditions) {
+    return Append(Order::Of(item), RowOf(item).ItemCode, conditions);
 }
 
-std::optional<Message> Bauliste::AddProdaenderungsevent(const MineFactors& faktoren,
-                                                        const RunConditions& bedingungen) {
-    const Auftrag auftrag = Auftrag::Fuer(faktoren);
-    return HaengeAn(auftrag, auftrag.Tag(), bedingungen);
+std::optional<Message> BuildList::AddProduction(const MineFactors& factors,
+                                                const RunConditions& conditions) {
+    const Order order = Order::Of(factors);
+    return Append(order, order.Tag(), conditions);
 }
 
-bool Bauliste::Replay(std::string_view tag, const RunConditions& bedingungen) {
-    const Auftrag auftrag = Auftrag::AusTag(tag);
-    return auftrag.Was != Auftrag::Art::Unbekannt && !HaengeAn(auftrag, tag, bedingungen);
+bool BuildList::Replay(std::string_view tag, const RunConditions& conditions) {
+    const Order order = Order::FromTag(tag);
+    return order.kind != Order::Kind::Unknown && !Append(order, tag, conditions);
 }
 
 // The factor text sees the counters with the row done.
-std::optional<Message> Bauliste::HaengeAn(const Auftrag& auftrag, std::string_view tag,
-                                          const RunConditions& bedingungen) {
-    if (m_auftraege.IstVoll()) {
-        return ListeVoll();
+std::optional<Message> BuildList::Append(const Order& order, std::string_view tag,
+                                         const RunConditions& conditions) {
+    if (m_orders.IsFull()) {
+        return ListFullMessage();
     }
-    m_auftraege.HaengeAn(auftrag);
-    const std::string faktor = GetProdfaktorText(m_auftraege, bedingungen);
-    m_zeilen.push_back({.Text = std::to_string(m_auftraege.Zahl()),
-                        .Tag = std::string(tag),
-                        .SubItems1 = Listentext(m_auftraege),
-                        .SubItems2 = faktor,
-                        .SubItems2Farbe = faktor == "1,00" ? Farbe::Schwarz : Farbe::Rot});
+    m_orders.Append(order);
+    const std::string factor = GetProdfaktorText(m_orders, conditions);
+    m_rows.push_back({.text = std::to_string(m_orders.Size()),
+                      .Tag = std::string(tag),
+                      .SubItems1 = ListText(m_orders),
+                      .SubItems2 = factor,
+                      .SubItems2Color = factor == "1,00" ? TextColor::Black : TextColor::Red});
     return std::nullopt;
 }
 
-void Bauliste::Undo() {
-    if (!m_zeilen.empty()) {
-        m_auftraege.NimmLetzten();
-        m_zeilen.pop_back();
+void BuildList::RemoveLast() {
+    if (!m_rows.empty()) {
+        m_orders.RemoveLast();
+        m_rows.pop_back();
     }
 }
 
-void Bauliste::Clear() {
-    *this = Bauliste();
+void BuildList::Clear() {
+    *this = BuildList();
 }
 
-std::vector<std::string> Bauliste::Tags() const {
+std::vector<std::string> BuildList::Tags() const {
     std::vector<std::string> tags;
-    tags.reserve(m_zeilen.size());
-    std::ranges::transform(m_zeilen, std::back_inserter(tags), &BaulistenZeile::Tag);
+    tags.reserve(m_rows.size());
+    std::ranges::transform(m_rows, std::back_inserter(tags), &BuildListRow::Tag);
     return tags;
 }
 
-void Bauliste::Setze(const std::vector<std::string>& tags, const RunConditions& bedingungen) {
+void BuildList::SetTags(const std::vector<std::string>& tags, const RunConditions& conditions) {
     Clear();
     for (const std::string& tag : tags) {
-        static_cast<void>(Replay(tag, bedingungen));
+        static_cast<void>(Replay(tag, conditions));
     }
 }
 
-Message ListeVoll() {
+Message ListFullMessage() {
     return {.text = "Die Bauliste ist voll: mehr als 254 Einträge sind nicht möglich...",
             .title = kBadInputTitle};
 }
 
-std::string GetProdfaktorText(const Auftragsliste& liste, const RunConditions& bedingungen) {
-    const auto bedarf = [&](Resource r, ItemId mine) {
-        return ListEnergieVerbrauch(r, liste.ListStufe(mine), liste.ListFaktor()[r]);
+std::string GetProdfaktorText(const OrderList& list, const RunConditions& conditions) {
+    const auto needOf = [&](Resource resource, ItemId mine) {
+        return ListEnergieVerbrauch(resource, list.ListStufe(mine), list.ListFaktor()[resource]);
     };
-    const Long need = HalfEvenLong(bedarf(Resource::Deuterium, ItemId::DeutMine) +
-                                   bedarf(Resource::Kristall, ItemId::KrisMine) +
-                                   bedarf(Resource::Metall, ItemId::MetMine));
-    const Long supply = HalfEvenLong(
-        (SatelliteProduction(liste.ListStufe(ItemId::Solsats), bedingungen.Temperatur) +
-         PowerPlantProduction(liste.ListStufe(ItemId::SKW)))
-            .ToDouble());
-    constexpr int kStellen = 2;
-    constexpr double kHundert = 100;
-    const double anteil = need == 0 ? 1.0 : static_cast<double>(supply) / need;
-    const auto hundertstel = std::min(Rounding::HalfEven(anteil * kHundert), std::int64_t{100});
-    const FixedPoint faktor = FixedPoint::FromRaw(hundertstel * (FixedPoint::kUnit / 100));
-    return PadDecimals(DecimalText(faktor), kStellen);
+    const Long need = HalfEvenLong(needOf(Resource::Deuterium, ItemId::DeutMine) +
+                                   needOf(Resource::Kristall, ItemId::KrisMine) +
+                                   needOf(Resource::Metall, ItemId::MetMine));
+    const Long supply =
+        HalfEvenLong((SatelliteProduction(list.ListStufe(ItemId::Solsats), conditions.Temperatur) +
+                      PowerPlantProduction(list.ListStufe(ItemId::SKW)))
+                         .ToDouble());
+    constexpr int kDecimals = 2;
+    constexpr double kHundred = 100;
+    const double share = need == 0 ? 1.0 : static_cast<double>(supply) / need;
+    const auto hundredths = std::min(Rounding::HalfEven(share * kHundred), std::int64_t{100});
+    const FixedPoint factor = FixedPoint::FromRaw(hundredths * (FixedPoint::kUnit / 100));
+    return PadDecimals(DecimalText(factor), kDecimals);
 }
 
 }  // namespace tarvelin

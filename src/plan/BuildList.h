@@ -13,43 +13,43 @@
 namespace tarvelin {
 
 /// Colour of a row's factor text, as the red share of a colour.
-enum class Farbe : Byte { Schwarz = 0, Rot = 255 };
+enum class TextColor : Byte { Black = 0, Red = 255 };
 
-struct BaulistenZeile {
+struct BuildListRow {
     /// First column: the row's position, from 1.
-    std::string Text;
+    std::string text;
     /// Not shown: the item code or the production row's "GX:" + m + ":" + k + ":" + d.
     std::string Tag;
     /// Second column: the list text.
     std::string SubItems1;
     /// Third column: the production factor with this row done, as it was when the row was added.
     std::string SubItems2;
-    Farbe SubItems2Farbe = Farbe::Schwarz;
+    TextColor SubItems2Color = TextColor::Black;
 };
 
 /// The orders and the texts of the screen. A row's texts are made when it is added and never
 /// change; the operations that work out a factor text take the conditions of the last run or reset,
 /// as the satellites' share follows the temperature.
-class Bauliste {
+class BuildList {
   public:
-    [[nodiscard]] const Auftragsliste& Auftraege() const { return m_auftraege; }
+    [[nodiscard]] const OrderList& Orders() const { return m_orders; }
     /// As many as there are orders.
-    [[nodiscard]] const std::vector<BaulistenZeile>& Zeilen() const { return m_zeilen; }
+    [[nodiscard]] const std::vector<BuildListRow>& Rows() const { return m_rows; }
 
     /// Adds a row of an item. Nothing is checked against the game's rules. A message if the list is
     /// full; nothing changes then.
-    [[nodiscard]] std::optional<Message> AddItem(ItemId item, const RunConditions& bedingungen);
+    [[nodiscard]] std::optional<Message> AddItem(ItemId item, const RunConditions& conditions);
 
     /// Adds a production row. A message if the list is full; nothing changes then.
-    [[nodiscard]] std::optional<Message> AddProdaenderungsevent(const MineFactors& faktoren,
-                                                                const RunConditions& bedingungen);
+    [[nodiscard]] std::optional<Message> AddProduction(const MineFactors& factors,
+                                                       const RunConditions& conditions);
 
     /// Adds the row of a stored `Tag`, which is kept as it is. False if the `Tag` is unknown or the
     /// list full; nothing changes then.
-    [[nodiscard]] bool Replay(std::string_view tag, const RunConditions& bedingungen);
+    [[nodiscard]] bool Replay(std::string_view tag, const RunConditions& conditions);
 
     /// Takes the last row out, if there is one, and puts back what it had changed.
-    void Undo();
+    void RemoveLast();
 
     void Clear();
 
@@ -57,22 +57,21 @@ class Bauliste {
     [[nodiscard]] std::vector<std::string> Tags() const;
     /// All rows anew, with the texts that adding them one by one gives. Each `Tag` is one that
     /// `Replay` takes; at most 254.
-    void Setze(const std::vector<std::string>& tags, const RunConditions& bedingungen);
+    void SetTags(const std::vector<std::string>& tags, const RunConditions& conditions);
 
   private:
-    std::optional<Message> HaengeAn(const Auftrag& auftrag, std::string_view tag,
-                                    const RunConditions& bedingungen);
+    std::optional<Message> Append(const Order& order, std::string_view tag,
+                                  const RunConditions& conditions);
 
-    Auftragsliste m_auftraege;
-    std::vector<BaulistenZeile> m_zeilen;
+    OrderList m_orders;
+    std::vector<BuildListRow> m_rows;
 };
 
 /// What is told of a row beyond the last that a list has room for.
-[[nodiscard]] Message ListeVoll();
+[[nodiscard]] Message ListFullMessage();
 
 /// The production factor of a list as it stands, with two decimals: supply divided by need, at most
 /// "1,00".
-[[nodiscard]] std::string GetProdfaktorText(const Auftragsliste& liste,
-                                            const RunConditions& bedingungen);
+[[nodiscard]] std::string GetProdfaktorText(const OrderList& list, const RunConditions& conditions);
 
 }  // namespace tarvelin

@@ -5,58 +5,58 @@
 
 namespace tarvelin {
 
-void Listenverlauf::Beginne(Planstand stand) {
-    *this = Listenverlauf();
-    m_staende.front() = std::move(stand);
+void EditHistory::Begin(PlanSnapshot snapshot) {
+    *this = EditHistory();
+    m_snapshots.front() = std::move(snapshot);
 }
 
-bool Listenverlauf::Merke(Planstand stand, std::string_view eingabe) {
-    if (stand == m_staende[m_jetzt]) {
+bool EditHistory::Record(PlanSnapshot snapshot, std::string_view input) {
+    if (snapshot == m_snapshots[m_now]) {
         return false;
     }
-    m_staende.resize(m_jetzt + 1);
-    if (!eingabe.empty() && eingabe == m_eingabe) {
-        m_staende.pop_back();
+    m_snapshots.resize(m_now + 1);
+    if (!input.empty() && input == m_input) {
+        m_snapshots.pop_back();
         // Typed back to what it was.
-        if (stand == m_staende.back()) {
-            m_eingabe.clear();
-            --m_jetzt;
+        if (snapshot == m_snapshots.back()) {
+            m_input.clear();
+            --m_now;
             return true;
         }
     } else {
-        ++m_jetzt;
+        ++m_now;
     }
-    m_staende.push_back(std::move(stand));
-    m_eingabe = eingabe;
+    m_snapshots.push_back(std::move(snapshot));
+    m_input = input;
     return true;
 }
 
-void Listenverlauf::SchreibeTagUm(const Startparameter& vorher, const Startparameter& nachher) {
-    for (Planstand& stand : m_staende) {
-        Startparameter& parameter = stand.Parameter;
-        if (parameter.UniStartZeitTag == vorher.UniStartZeitTag &&
-            parameter.UniStartZeitMonat == vorher.UniStartZeitMonat) {
-            parameter.UniStartZeitTag = nachher.UniStartZeitTag;
-            parameter.UniStartZeitMonat = nachher.UniStartZeitMonat;
+void EditHistory::RewriteDay(const StartParameters& before, const StartParameters& after) {
+    for (PlanSnapshot& snapshot : m_snapshots) {
+        StartParameters& parameters = snapshot.parameters;
+        if (parameters.UniStartZeitTag == before.UniStartZeitTag &&
+            parameters.UniStartZeitMonat == before.UniStartZeitMonat) {
+            parameters.UniStartZeitTag = after.UniStartZeitTag;
+            parameters.UniStartZeitMonat = after.UniStartZeitMonat;
         }
     }
-    for (std::size_t i = m_staende.size() - 1; i > 0; --i) {
-        if (m_staende[i] == m_staende[i - 1]) {
-            m_staende.erase(m_staende.begin() + static_cast<std::ptrdiff_t>(i));
-            m_jetzt -= i <= m_jetzt ? 1 : 0;
-            m_eingabe.clear();
+    for (std::size_t i = m_snapshots.size() - 1; i > 0; --i) {
+        if (m_snapshots[i] == m_snapshots[i - 1]) {
+            m_snapshots.erase(m_snapshots.begin() + static_cast<std::ptrdiff_t>(i));
+            m_now -= i <= m_now ? 1 : 0;
+            m_input.clear();
         }
     }
 }
 
-const Planstand& Listenverlauf::Zurueck() {
-    m_eingabe.clear();
-    return m_staende[--m_jetzt];
+const PlanSnapshot& EditHistory::Undo() {
+    m_input.clear();
+    return m_snapshots[--m_now];
 }
 
-const Planstand& Listenverlauf::Vor() {
-    m_eingabe.clear();
-    return m_staende[++m_jetzt];
+const PlanSnapshot& EditHistory::Redo() {
+    m_input.clear();
+    return m_snapshots[++m_now];
 }
 
 }  // namespace tarvelin

@@ -11,37 +11,37 @@
 namespace tarvelin {
 
 /// Keeps the plan as it was behind each edit, so that there can be as many as the user likes.
-class Listenverlauf {
+class EditHistory {
   public:
     /// Begins anew with a plan that has no edits behind it.
-    void Beginne(Planstand stand);
+    void Begin(PlanSnapshot snapshot);
 
     /// Takes note of the plan behind an edit. What was taken back before it can't be done again
-    /// then. An edit that changed nothing isn't one. `eingabe` names the input that was typed into:
+    /// then. An edit that changed nothing isn't one. `input` names the input that was typed into:
     /// as long as it stays the same, its edits are one. Whether there was an edit.
-    bool Merke(Planstand stand, std::string_view eingabe = {});
+    bool Record(PlanSnapshot snapshot, std::string_view input = {});
 
     /// Writes the day of a date in another way, wherever it stands. Edits that differed in that
     /// alone are none.
-    void SchreibeTagUm(const Startparameter& vorher, const Startparameter& nachher);
+    void RewriteDay(const StartParameters& before, const StartParameters& after);
 
     /// How many edits the plan as it stands has behind it.
-    [[nodiscard]] std::size_t Schritte() const { return m_jetzt; }
+    [[nodiscard]] std::size_t StepCount() const { return m_now; }
 
-    [[nodiscard]] bool HatVorige() const { return m_jetzt > 0; }
-    [[nodiscard]] bool HatNaechste() const { return m_jetzt + 1 < m_staende.size(); }
+    [[nodiscard]] bool CanUndo() const { return m_now > 0; }
+    [[nodiscard]] bool CanRedo() const { return m_now + 1 < m_snapshots.size(); }
 
     /// The plan before the last edit; there is one.
-    [[nodiscard]] const Planstand& Zurueck();
+    [[nodiscard]] const PlanSnapshot& Undo();
     /// The plan behind the edit that was taken back last; there is one.
-    [[nodiscard]] const Planstand& Vor();
+    [[nodiscard]] const PlanSnapshot& Redo();
 
   private:
-    std::vector<Planstand> m_staende{Planstand()};
+    std::vector<PlanSnapshot> m_snapshots{PlanSnapshot()};
     /// Which of them is the plan as it stands.
-    std::size_t m_jetzt = 0;
+    std::size_t m_now = 0;
     /// The input of the last edit; empty if none was typed into, or a step was taken since.
-    std::string m_eingabe;
+    std::string m_input;
 };
 
 }  // namespace tarvelin

@@ -12,44 +12,44 @@ namespace tarvelin {
 
 namespace {
 
-/// What the step from `stufe` to the next level needs, at full production.
-std::string Bedarfstext(Resource mine, Byte stufe) {
-    const auto bedarf = [&](int s) {
+/// What the step from `level` to the next level needs, at full production.
+std::string NeedText(Resource mine, Byte level) {
+    const auto needOf = [&](int s) {
         return ListEnergieVerbrauch(mine, Saturate<Byte>(s), kFullFactor);
     };
-    return "  |  Energie: -" + WholeText(bedarf(stufe + 1) - bedarf(stufe));
+    return "  |  Energie: -" + WholeText(needOf(level + 1) - needOf(level));
 }
 
-std::string Ertragstext(FixedPoint ertrag) {
-    return "  |  Energie: +" + DecimalText(ertrag);
+std::string YieldText(FixedPoint production) {
+    return "  |  Energie: +" + DecimalText(production);
 }
 
-std::string Energieanhang(ItemId item, Byte stufe, const RunConditions& bedingungen) {
+std::string EnergySuffix(ItemId item, Byte level, const RunConditions& conditions) {
     switch (RowOf(item).traits.energyRole) {
         case EnergyRole::None:
             break;
         case EnergyRole::Mine:
-            return Bedarfstext(ResourceOf(item), stufe);
+            return NeedText(ResourceOf(item), level);
         case EnergyRole::PowerPlant:
-            return Ertragstext(PowerPlantProduction(Saturate<Byte>(stufe + 1)) -
-                               PowerPlantProduction(stufe));
+            return YieldText(PowerPlantProduction(Saturate<Byte>(level + 1)) -
+                             PowerPlantProduction(level));
         case EnergyRole::Satellite:
-            return Ertragstext(SatelliteProduction(1, bedingungen.Temperatur));
+            return YieldText(SatelliteProduction(1, conditions.Temperatur));
     }
     return "";
 }
 
 }  // namespace
 
-Hoverinfo HoverInfo(ItemId item, const Auftragsliste& liste, const RunConditions& bedingungen) {
-    if (const auto absage = Absage(item, liste)) {
-        return {.DragOffen = false, .Tooltip = std::string(*absage)};
+HoverInfo HoverInfoFor(ItemId item, const OrderList& list, const RunConditions& conditions) {
+    if (const auto refusal = Refusal(item, list)) {
+        return {.dragEnabled = false, .tooltip = std::string(*refusal)};
     }
-    const Byte stufe = liste.ListStufe(item);
-    return {.DragOffen = true,
-            .Tooltip = " " + std::string(RowOf(item).HoverName()) + "  |  " +
-                       GetUpgradecostString(CostOf(item, stufe)) +
-                       Energieanhang(item, stufe, bedingungen)};
+    const Byte level = list.ListStufe(item);
+    return {.dragEnabled = true,
+            .tooltip = " " + std::string(RowOf(item).HoverName()) + "  |  " +
+                       GetUpgradecostString(CostOf(item, level)) +
+                       EnergySuffix(item, level, conditions)};
 }
 
 }  // namespace tarvelin

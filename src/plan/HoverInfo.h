@@ -9,16 +9,16 @@
 
 namespace tarvelin {
 
-struct Hoverinfo {
+struct HoverInfo {
     /// Whether a press on the picture starts a drag.
-    bool DragOffen = true;
+    bool dragEnabled = true;
     /// What the next row of the item would cost, or why it can't be had.
-    std::string Tooltip;
+    std::string tooltip;
 };
 
-/// `bedingungen` are those of the last run or reset: the satellites' figure follows the
+/// `conditions` are those of the last run or reset: the satellites' figure follows the
 /// temperature.
-[[nodiscard]] Hoverinfo HoverInfo(ItemId item, const Auftragsliste& liste,
-                                  const RunConditions& bedingungen);
+[[nodiscard]] HoverInfo HoverInfoFor(ItemId item, const OrderList& list,
+                                     const RunConditions& conditions);
 
 }  // namespace tarvelin

@@ -12,130 +12,131 @@ namespace tarvelin {
 namespace {
 
 /// The words of the rule that an order would break behind these orders.
-std::optional<std::string_view> Regelbruch(const Auftrag& order, const Auftragsliste& darueber) {
-    return order.Was == Auftrag::Art::Item ? Absage(order.Item, darueber) : std::nullopt;
+std::optional<std::string_view> RuleBreach(const Order& order, const OrderList& above) {
+    return order.kind == Order::Kind::Item ? Refusal(order.item, above) : std::nullopt;
 }
 
 /// Each marked row changes places with an unmarked one before it.
-template <class Anfang, class Ende>
-void RueckeVor(Anfang anfang, Ende ende) {
-    for (auto zeile = std::next(anfang); zeile != ende; ++zeile) {
-        if (zeile->Betroffen && !std::prev(zeile)->Betroffen) {
-            std::iter_swap(std::prev(zeile), zeile);
+template <class Begin, class End>
+void ShiftForward(Begin begin, End end) {
+    for (auto row = std::next(begin); row != end; ++row) {
+        if (row->affected && !std::prev(row)->affected) {
+            std::iter_swap(std::prev(row), row);
         }
     }
 }
 
 }  // namespace
 
-Umstellung::Umstellung(const Bauliste& liste) : m_liste(&liste) {
-    m_zeilen.reserve(liste.Zeilen().size() + 1);
-    for (std::size_t i = 0; i < liste.Zeilen().size(); ++i) {
-        m_zeilen.push_back({.Vorher = i, .Tag = liste.Zeilen()[i].Tag});
+ListEdit::ListEdit(const BuildList& list) : m_list(&list) {
+    m_rows.reserve(list.Rows().size() + 1);
+    for (std::size_t i = 0; i < list.Rows().size(); ++i) {
+        m_rows.push_back({.original = i, .Tag = list.Rows()[i].Tag});
     }
 }
 
-void Umstellung::Markiere(std::span<const std::size_t> zeilen) {
-    for (const std::size_t zeile : zeilen) {
-        m_zeilen[zeile].Betroffen = true;
+void ListEdit::Mark(std::span<const std::size_t> rows) {
+    for (const std::size_t row : rows) {
+        m_rows[row].affected = true;
     }
 }
 
-void Umstellung::Hoch(std::span<const std::size_t> zeilen) {
-    Markiere(zeilen);
-    if (!m_zeilen.empty()) {
-        RueckeVor(m_zeilen.begin(), m_zeilen.end());
+void ListEdit::MoveUp(std::span<const std::size_t> rows) {
+    Mark(rows);
+    if (!m_rows.empty()) {
+        ShiftForward(m_rows.begin(), m_rows.end());
     }
 }
 
-void Umstellung::Runter(std::span<const std::size_t> zeilen) {
-    Markiere(zeilen);
-    if (!m_zeilen.empty()) {
-        RueckeVor(m_zeilen.rbegin(), m_zeilen.rend());
+void ListEdit::MoveDown(std::span<const std::size_t> rows) {
+    Mark(rows);
+    if (!m_rows.empty()) {
+        ShiftForward(m_rows.rbegin(), m_rows.rend());
     }
 }
 
-void Umstellung::StelleVor(std::size_t ziel, std::span<const std::size_t> zeilen) {
-    Markiere(zeilen);
-    const auto mitte = m_zeilen.begin() + static_cast<std::ptrdiff_t>(ziel);
-    std::stable_partition(m_zeilen.begin(), mitte, [](const Zeile& z) { return !z.Betroffen; });
-    std::stable_partition(mitte, m_zeilen.end(), [](const Zeile& z) { return z.Betroffen; });
+void ListEdit::MoveBefore(std::size_t target, std::span<const std::size_t> rows) {
+    Mark(rows);
+    const auto middle = m_rows.begin() + static_cast<std::ptrdiff_t>(target);
+    std::stable_partition(m_rows.begin(), middle,
+                          [](const DraftRow& row) { return !row.affected; });
+    std::stable_partition(middle, m_rows.end(), [](const DraftRow& row) { return row.affected; });
 }
 
-void Umstellung::Loesche(std::span<const std::size_t> zeilen) {
-    if (zeilen.empty()) {
+void ListEdit::Remove(std::span<const std::size_t> rows) {
+    if (rows.empty()) {
         return;
     }
-    Markiere(zeilen);
-    std::erase_if(m_zeilen, [](const Zeile& z) { return z.Betroffen; });
-    const std::size_t naechste = zeilen.back() + 1 - zeilen.size();
-    if (!m_zeilen.empty()) {
-        m_zeilen[std::min(naechste, m_zeilen.size() - 1)].Betroffen = true;
+    Mark(rows);
+    std::erase_if(m_rows, [](const DraftRow& row) { return row.affected; });
+    const std::size_t next = rows.back() + 1 - rows.size();
+    if (!m_rows.empty()) {
+        m_rows[std::min(next, m_rows.size() - 1)].affected = true;
     }
 }
 
-void Umstellung::FuegeEin(std::size_t vor, std::string_view tag) {
-    m_zeilen.insert(m_zeilen.begin() + static_cast<std::ptrdiff_t>(vor),
-                    {.Vorher = std::nullopt, .Tag = std::string(tag)});
+void ListEdit::Insert(std::size_t before, std::string_view tag) {
+    m_rows.insert(m_rows.begin() + static_cast<std::ptrdiff_t>(before),
+                  {.original = std::nullopt, .Tag = std::string(tag)});
 }
 
-void Umstellung::Verdopple(std::span<const std::size_t> zeilen) {
-    std::vector<Zeile> kopien;
-    for (const std::size_t zeile : zeilen) {
-        kopien.push_back({.Vorher = std::nullopt, .Tag = m_zeilen[zeile].Tag, .Betroffen = true});
+void ListEdit::Duplicate(std::span<const std::size_t> rows) {
+    std::vector<DraftRow> copies;
+    for (const std::size_t row : rows) {
+        copies.push_back({.original = std::nullopt, .Tag = m_rows[row].Tag, .affected = true});
     }
-    if (!zeilen.empty()) {
-        m_zeilen.insert(m_zeilen.begin() + static_cast<std::ptrdiff_t>(zeilen.back()) + 1,
-                        kopien.begin(), kopien.end());
+    if (!rows.empty()) {
+        m_rows.insert(m_rows.begin() + static_cast<std::ptrdiff_t>(rows.back()) + 1, copies.begin(),
+                      copies.end());
     }
 }
 
-std::vector<bool> Umstellung::RegeltreueZeilen() const {
-    std::vector<bool> treu;
-    Auftragsliste darueber;
-    for (const Auftrag& order : m_liste->Auftraege().Alle()) {
-        treu.push_back(!Regelbruch(order, darueber));
-        darueber.HaengeAn(order);
+std::vector<bool> ListEdit::RowsKeepingRules() const {
+    std::vector<bool> keepsRules;
+    OrderList above;
+    for (const Order& order : m_list->Orders().All()) {
+        keepsRules.push_back(!RuleBreach(order, above));
+        above.Append(order);
     }
-    return treu;
+    return keepsRules;
 }
 
-std::optional<std::string> Umstellung::Einwand() const {
-    const std::vector<bool> treu = RegeltreueZeilen();
-    Auftragsliste darueber;
-    for (const Zeile& zeile : m_zeilen) {
-        if (darueber.IstVoll()) {
-            return ListeVoll().text;
+std::optional<std::string> ListEdit::Objection() const {
+    const std::vector<bool> keepsRules = RowsKeepingRules();
+    OrderList above;
+    for (const DraftRow& row : m_rows) {
+        if (above.IsFull()) {
+            return ListFullMessage().text;
         }
-        const Auftrag order = Auftrag::AusTag(zeile.Tag);
-        const auto bruch = Regelbruch(order, darueber);
-        if (bruch && !zeile.Vorher) {
-            return std::string(*bruch);
+        const Order order = Order::FromTag(row.Tag);
+        const auto breach = RuleBreach(order, above);
+        if (breach && !row.original) {
+            return std::string(*breach);
         }
-        if (bruch && treu[*zeile.Vorher]) {
-            const BaulistenZeile& name = m_liste->Zeilen()[*zeile.Vorher];
-            return "Zeile " + name.Text + " (" + name.SubItems1 + "):" + std::string(*bruch);
+        if (breach && keepsRules[*row.original]) {
+            const BuildListRow& name = m_list->Rows()[*row.original];
+            return "Zeile " + name.text + " (" + name.SubItems1 + "):" + std::string(*breach);
         }
-        darueber.HaengeAn(order);
+        above.Append(order);
     }
     return std::nullopt;
 }
 
-std::vector<std::string> Umstellung::Tags() const {
+std::vector<std::string> ListEdit::Tags() const {
     std::vector<std::string> tags;
-    tags.reserve(m_zeilen.size());
-    std::ranges::transform(m_zeilen, std::back_inserter(tags), &Zeile::Tag);
+    tags.reserve(m_rows.size());
+    std::ranges::transform(m_rows, std::back_inserter(tags), &DraftRow::Tag);
     return tags;
 }
 
-std::vector<std::size_t> Umstellung::Betroffene() const {
-    std::vector<std::size_t> betroffene;
-    for (std::size_t i = 0; i < m_zeilen.size(); ++i) {
-        if (m_zeilen[i].Betroffen) {
-            betroffene.push_back(i);
+std::vector<std::size_t> ListEdit::Affected() const {
+    std::vector<std::size_t> affected;
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        if (m_rows[i].affected) {
+            affected.push_back(i);
         }
     }
-    return betroffene;
+    return affected;
 }
 
 }  // namespace tarvelin

@@ -15,44 +15,44 @@ namespace tarvelin {
 /// A list that is being edited. Nothing is changed in the list it was made from; `Tags` are what
 /// that would have to hold. Rows count from 0; those that an edit is given are rows of the list as
 /// it stands, in their order, none twice.
-class Umstellung {
+class ListEdit {
   public:
-    /// `liste` must outlive it.
-    explicit Umstellung(const Bauliste& liste);
+    /// `list` must outlive it.
+    explicit ListEdit(const BuildList& list);
 
     /// Moves each row up or down by one place; rows at the end of the list stay.
-    void Hoch(std::span<const std::size_t> zeilen);
-    void Runter(std::span<const std::size_t> zeilen);
+    void MoveUp(std::span<const std::size_t> rows);
+    void MoveDown(std::span<const std::size_t> rows);
     /// Puts the rows beside each other in front of a row, or at the end.
-    void StelleVor(std::size_t ziel, std::span<const std::size_t> zeilen);
-    void Loesche(std::span<const std::size_t> zeilen);
+    void MoveBefore(std::size_t target, std::span<const std::size_t> rows);
+    void Remove(std::span<const std::size_t> rows);
     /// Adds a new row in front of a row, or at the end.
-    void FuegeEin(std::size_t vor, std::string_view tag);
+    void Insert(std::size_t before, std::string_view tag);
     /// Adds copies of the rows behind the last of them.
-    void Verdopple(std::span<const std::size_t> zeilen);
+    void Duplicate(std::span<const std::size_t> rows);
 
     /// Why the edit can't be: the list would be too long, a new row isn't allowed at its place, or
     /// a row would break its rule that has kept it so far. A loaded list may hold rows that never
     /// kept theirs. Nothing if it can be.
-    [[nodiscard]] std::optional<std::string> Einwand() const;
+    [[nodiscard]] std::optional<std::string> Objection() const;
 
     [[nodiscard]] std::vector<std::string> Tags() const;
     /// Where the rows that were moved stand now, or the copies, or the row behind those that went.
-    [[nodiscard]] std::vector<std::size_t> Betroffene() const;
+    [[nodiscard]] std::vector<std::size_t> Affected() const;
 
   private:
-    struct Zeile {
+    struct DraftRow {
         /// The row of the list as it stood; nothing for a new one.
-        std::optional<std::size_t> Vorher;
+        std::optional<std::size_t> original;
         std::string Tag;
-        bool Betroffen = false;
+        bool affected = false;
     };
 
-    void Markiere(std::span<const std::size_t> zeilen);
-    [[nodiscard]] std::vector<bool> RegeltreueZeilen() const;
+    void Mark(std::span<const std::size_t> rows);
+    [[nodiscard]] std::vector<bool> RowsKeepingRules() const;
 
-    const Bauliste* m_liste;
-    std::vector<Zeile> m_zeilen;
+    const BuildList* m_list;
+    std::vector<DraftRow> m_rows;
 };
 
 }  // namespace tarvelin

@@ -11,7 +11,7 @@ namespace tarvelin {
 
 namespace {
 
-Queue SchlangeVon(std::string_view tag) {
+Queue QueueOf(std::string_view tag) {
     switch (tag.empty() ? '\0' : tag.front()) {
         case 'G':
             return Queue::Building;
@@ -26,60 +26,60 @@ Queue SchlangeVon(std::string_view tag) {
 
 }  // namespace
 
-Auftrag Auftrag::Fuer(ItemId item) {
-    return {.Was = Art::Item, .Queue = RowOf(item).queue, .Item = item};
+Order Order::Of(ItemId id) {
+    return {.kind = Kind::Item, .queue = RowOf(id).queue, .item = id};
 }
 
-Auftrag Auftrag::Fuer(const MineFactors& faktoren) {
-    return {.Was = Art::Produktion, .Queue = Queue::Building, .Faktoren = faktoren};
+Order Order::Of(const MineFactors& tenths) {
+    return {.kind = Kind::Production, .queue = Queue::Building, .factors = tenths};
 }
 
-Auftrag Auftrag::AusTag(std::string_view tag) {
-    if (const auto item = ItemVonCode(tag)) {
-        return Fuer(*item);
+Order Order::FromTag(std::string_view tag) {
+    if (const auto known = ItemFromCode(tag)) {
+        return Of(*known);
     }
-    if (const auto faktoren = LiesMinenfaktoren(tag)) {
-        return Fuer(*faktoren);
+    if (const auto parsed = ParseMineFactors(tag)) {
+        return Of(*parsed);
     }
-    return {.Queue = SchlangeVon(tag)};
+    return {.queue = QueueOf(tag)};
 }
 
-std::string Auftrag::Tag() const {
-    switch (Was) {
-        case Art::Item:
-            return std::string(RowOf(Item).ItemCode);
-        case Art::Produktion: {
+std::string Order::Tag() const {
+    switch (kind) {
+        case Kind::Item:
+            return std::string(RowOf(item).ItemCode);
+        case Kind::Production: {
             std::string tag(kProductionCode);
-            for (const Byte faktor : Faktoren) {
-                tag += ":" + std::to_string(faktor);
+            for (const Byte factor : factors) {
+                tag += ":" + std::to_string(factor);
             }
             return tag;
         }
-        case Art::Unbekannt:
+        case Kind::Unknown:
             break;
     }
     return "";
 }
 
-std::optional<ItemId> ItemVonCode(std::string_view code) {
-    const auto* const zeile = std::ranges::find(ItemTable(), code, &ItemRow::ItemCode);
-    return zeile == ItemTable().end() ? std::nullopt : std::optional(zeile->item);
+std::optional<ItemId> ItemFromCode(std::string_view code) {
+    const auto* const row = std::ranges::find(ItemTable(), code, &ItemRow::ItemCode);
+    return row == ItemTable().end() ? std::nullopt : std::optional(row->item);
 }
 
-std::optional<MineFactors> LiesMinenfaktoren(std::string_view tag) {
+std::optional<MineFactors> ParseMineFactors(std::string_view tag) {
     if (!tag.starts_with(kProductionCode)) {
         return std::nullopt;
     }
-    MineFactors faktoren{};
-    for (std::size_t i = 0; i < faktoren.size(); ++i) {
-        const auto wert =
+    MineFactors factors{};
+    for (std::size_t i = 0; i < factors.size(); ++i) {
+        const auto value =
             ParseWholeNumber(GetToken(tag, static_cast<int>(i) + 2, ":"), 0, kFullFactor);
-        if (!wert) {
+        if (!value) {
             return std::nullopt;
         }
-        faktoren[i] = static_cast<Byte>(*wert);
+        factors[i] = static_cast<Byte>(*value);
     }
-    return faktoren;
+    return factors;
 }
 
 }  // namespace tarvelin

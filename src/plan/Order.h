@@ -13,34 +13,34 @@
 namespace tarvelin {
 
 /// An order, without a text.
-struct Auftrag {
-    enum class Art : std::uint8_t { Unbekannt, Item, Produktion };
+struct Order {
+    enum class Kind : std::uint8_t { Unknown, Item, Production };
 
-    Art Was = Art::Unbekannt;
-    Queue Queue = Queue::None;
-    ItemId Item{};
-    MineFactors Faktoren{};
+    Kind kind = Kind::Unknown;
+    Queue queue = Queue::None;
+    ItemId item{};
+    MineFactors factors{};
 
-    static Auftrag Fuer(ItemId item);
-    static Auftrag Fuer(const MineFactors& faktoren);
+    static Order Of(ItemId id);
+    static Order Of(const MineFactors& tenths);
     /// Of a `Tag`: an item code, or a production row with three whole factors from 0 to 10; any
     /// other text gives an unknown order of the queue that its first letter names.
-    static Auftrag AusTag(std::string_view tag);
+    static Order FromTag(std::string_view tag);
 
     /// The `Tag`: the item code, or "GX:8:10:5"; empty for an unknown order.
     [[nodiscard]] std::string Tag() const;
 
-    friend bool operator==(const Auftrag&, const Auftrag&) = default;
+    friend bool operator==(const Order&, const Order&) = default;
 };
 
-inline constexpr std::size_t kAuftragsgroesse = 6;
-static_assert(sizeof(Auftrag) <= kAuftragsgroesse);
+inline constexpr std::size_t kOrderSize = 6;
+static_assert(sizeof(Order) <= kOrderSize);
 
 /// Exact compare, with regard to case; nothing for any other text.
-[[nodiscard]] std::optional<ItemId> ItemVonCode(std::string_view code);
+[[nodiscard]] std::optional<ItemId> ItemFromCode(std::string_view code);
 
 /// The factors of a `Tag` that begins with "GX": its tokens 2, 3 and 4. Nothing if one of them is
 /// no whole number from 0 to 10.
-[[nodiscard]] std::optional<MineFactors> LiesMinenfaktoren(std::string_view tag);
+[[nodiscard]] std::optional<MineFactors> ParseMineFactors(std::string_view tag);
 
 }  // namespace tarvelin

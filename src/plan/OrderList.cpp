@@ -5,24 +5,24 @@
 
 namespace tarvelin {
 
-void Auftragsliste::HaengeAn(const Auftrag& auftrag) {
-    m_auftraege[m_zahl++] = auftrag;
-    if (auftrag.Was == Auftrag::Art::Item) {
-        ++m_listStufe[auftrag.Item];
-    } else if (auftrag.Was == Auftrag::Art::Produktion) {
-        m_listFaktor = auftrag.Faktoren;
+void OrderList::Append(const Order& order) {
+    m_orders[m_number++] = order;
+    if (order.kind == Order::Kind::Item) {
+        ++m_listStufe[order.item];
+    } else if (order.kind == Order::Kind::Production) {
+        m_listFaktor = order.factors;
     }
 }
 
-void Auftragsliste::NimmLetzten() {
-    const Auftrag letzter = m_auftraege[--m_zahl];
-    if (letzter.Was == Auftrag::Art::Item) {
-        --m_listStufe[letzter.Item];
-    } else if (letzter.Was == Auftrag::Art::Produktion) {
-        const auto uebrige = Alle();
-        const auto vorige = std::ranges::find(uebrige.rbegin(), uebrige.rend(),
-                                              Auftrag::Art::Produktion, &Auftrag::Was);
-        m_listFaktor = vorige == uebrige.rend() ? kFullFactors : vorige->Faktoren;
+void OrderList::RemoveLast() {
+    const Order last = m_orders[--m_number];
+    if (last.kind == Order::Kind::Item) {
+        --m_listStufe[last.item];
+    } else if (last.kind == Order::Kind::Production) {
+        const auto remaining = All();
+        const auto previous = std::ranges::find(remaining.rbegin(), remaining.rend(),
+                                                Order::Kind::Production, &Order::kind);
+        m_listFaktor = previous == remaining.rend() ? kFullFactors : previous->factors;
     }
 }
 

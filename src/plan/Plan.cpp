@@ -3,28 +3,29 @@
 
 namespace tarvelin {
 
-Planstand StandVon(const Plan& plan) {
-    return {
-        .Parameter = plan.Parameter, .Tags = plan.Liste.Tags(), .Schlafzeiten = plan.Schlafzeiten};
+PlanSnapshot SnapshotOf(const Plan& plan) {
+    return {.parameters = plan.parameters,
+            .tags = plan.LV_Bauliste.Tags(),
+            .Schlafzeiten = plan.LV_Schlafzeiten};
 }
 
-std::variant<RunConditions, Message> LiesStartbedingungen(const Plan& plan) {
-    if (plan.Liste.Auftraege().IstLeer()) {
+std::variant<RunConditions, Message> ParseRunConditions(const Plan& plan) {
+    if (plan.LV_Bauliste.Orders().IsEmpty()) {
         return Message{.text = "Die Bauliste ist leer...", .title = kBadInputTitle};
     }
-    const auto temperatur = LiesTemperatur(plan.Parameter);
-    if (!temperatur) {
+    const auto temperature = ParseTemperature(plan.parameters);
+    if (!temperature) {
         return Message{.text = "Keine gültige Temperatur eingegeben...", .title = kBadInputTitle};
     }
-    const auto start = ReadUniStartZeit(plan.Parameter);
+    const auto start = ReadUniStartZeit(plan.parameters);
     if (!start) {
         return Message{.text = "Kein gültiges Datum eingegeben...", .title = kBadInputTitle};
     }
-    return RunConditions{.Speedfaktor = plan.Parameter.Speedfaktor(),
-                         .Temperatur = *temperatur,
-                         .KlickPuffer = plan.Parameter.KlickPuffer,
+    return RunConditions{.Speedfaktor = plan.parameters.Speedfaktor(),
+                         .Temperatur = *temperature,
+                         .KlickPuffer = plan.parameters.KlickPuffer,
                          .StartDate = *start,
-                         .Schlafzeiten = LiesSchlafzeiten(plan.Schlafzeiten)};
+                         .Schlafzeiten = ParseSleepTable(plan.LV_Schlafzeiten)};
 }
 
 }  // namespace tarvelin

@@ -13,27 +13,27 @@
 namespace tarvelin {
 
 struct Plan {
-    Startparameter Parameter;
-    Bauliste Liste;
-    Schlaftabelle Schlafzeiten;
+    StartParameters parameters;
+    BuildList LV_Bauliste;
+    SleepTable LV_Schlafzeiten;
     /// Whether the names under the item pictures are shown.
     bool ShowDesc = true;
 };
 
 /// What edits change of a plan, as a value that can be kept and compared.
-struct Planstand {
-    Startparameter Parameter{};
+struct PlanSnapshot {
+    StartParameters parameters{};
     /// The `Tag`s of the rows.
-    std::vector<std::string> Tags{};
-    Schlaftabelle Schlafzeiten{};
+    std::vector<std::string> tags{};
+    SleepTable Schlafzeiten{};
 
-    friend bool operator==(const Planstand&, const Planstand&) = default;
+    friend bool operator==(const PlanSnapshot&, const PlanSnapshot&) = default;
 };
 
-[[nodiscard]] Planstand StandVon(const Plan& plan);
+[[nodiscard]] PlanSnapshot SnapshotOf(const Plan& plan);
 
 /// The conditions of the plan's run, or what keeps it from running: an empty list, then a
 /// temperature, then a date that can't be used.
-[[nodiscard]] std::variant<RunConditions, Message> LiesStartbedingungen(const Plan& plan);
+[[nodiscard]] std::variant<RunConditions, Message> ParseRunConditions(const Plan& plan);
 
 }  // namespace tarvelin

@@ -10,18 +10,18 @@ namespace tarvelin {
 namespace {
 
 /// What an item needs, and the words for what is missing. Where two needs have words of their
-/// own, `Fehlt` is for both; elsewhere it is for any that is missing.
-struct Regel {
-    ItemId Item;
+/// own, `missingText` is for both; elsewhere it is for any that is missing.
+struct Rule {
+    ItemId item;
     /// Rows that have to stand in the list.
-    LevelRequirements Braucht;
-    std::string_view Fehlt;
-    std::string_view ErsterFehlt = {};
-    std::string_view ZweiterFehlt = {};
+    LevelRequirements requirements;
+    std::string_view missingText;
+    std::string_view firstMissingText = {};
+    std::string_view secondMissingText = {};
 };
 
 // clang-format off
-constexpr PerItem<Regel> kRegeln{{{
+constexpr PerItem<Rule> kRules{{{
     {ItemId::MetMine, {}, {}},
     {ItemId::KrisMine, {}, {}},
     {ItemId::DeutMine, {}, {}},
@@ -77,43 +77,43 @@ constexpr PerItem<Regel> kRegeln{{{
 }}};
 // clang-format on
 
-static_assert(CoversEveryItem(kRegeln), "every item has its rule, in the order of the items");
+static_assert(CoversEveryItem(kRules), "every item has its rule, in the order of the items");
 
-constexpr std::string_view kKuppelVorhanden =
+constexpr std::string_view kDomePresent =
     " Bereits eine kleine Schildkuppel in der Bauliste vorhanden! ";
 
 }  // namespace
 
-const LevelRequirements& Listenbedarf(ItemId item) {
-    return kRegeln[item].Braucht;
+const LevelRequirements& ListRequirements(ItemId item) {
+    return kRules[item].requirements;
 }
 
-bool IstErlaubt(ItemId item, const PerItem<Byte>& listStufen) {
+bool IsAllowed(ItemId item, const PerItem<Byte>& listStufen) {
     // Exactly one: a loaded list with two domes opens the third.
     if (item == ItemId::klSchK && listStufen[item] == 1) {
         return false;
     }
-    return std::ranges::all_of(kRegeln[item].Braucht, [&](const LevelRequirement& bedarf) {
-        return listStufen[bedarf.item] >= bedarf.minLevel;
+    return std::ranges::all_of(kRules[item].requirements, [&](const LevelRequirement& requirement) {
+        return listStufen[requirement.item] >= requirement.minLevel;
     });
 }
 
-std::optional<std::string_view> Absage(ItemId item, const Auftragsliste& liste) {
-    if (IstErlaubt(item, liste.ListStufen())) {
+std::optional<std::string_view> Refusal(ItemId item, const OrderList& list) {
+    if (IsAllowed(item, list.ListStufe())) {
         return std::nullopt;
     }
-    if (item == ItemId::klSchK && liste.ListStufe(item) == 1) {
-        return kKuppelVorhanden;
+    if (item == ItemId::klSchK && list.ListStufe(item) == 1) {
+        return kDomePresent;
     }
-    const Regel& regel = kRegeln[item];
-    const auto fehlt = [&](const LevelRequirement& bedarf) {
-        return liste.ListStufe(bedarf.item) < bedarf.minLevel;
+    const Rule& rule = kRules[item];
+    const auto missing = [&](const LevelRequirement& requirement) {
+        return list.ListStufe(requirement.item) < requirement.minLevel;
     };
-    const bool erster = fehlt(regel.Braucht[0]);
-    if (regel.ErsterFehlt.empty() || (erster && fehlt(regel.Braucht[1]))) {
-        return regel.Fehlt;
+    const bool first = missing(rule.requirements[0]);
+    if (rule.firstMissingText.empty() || (first && missing(rule.requirements[1]))) {
+        return rule.missingText;
     }
-    return erster ? regel.ErsterFehlt : regel.ZweiterFehlt;
+    return first ? rule.firstMissingText : rule.secondMissingText;
 }
 
 }  // namespace tarvelin

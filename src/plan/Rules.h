@@ -11,13 +11,13 @@
 namespace tarvelin {
 
 /// The rows that an item asks for above it.
-[[nodiscard]] const LevelRequirements& Listenbedarf(ItemId item);
+[[nodiscard]] const LevelRequirements& ListRequirements(ItemId item);
 
 /// Whether an item can be added to a list with these counters.
-[[nodiscard]] bool IstErlaubt(ItemId item, const PerItem<Byte>& listStufen);
+[[nodiscard]] bool IsAllowed(ItemId item, const PerItem<Byte>& listStufen);
 
 /// Why an item can't be added to the list as it stands: the refusal, or nothing if it can. The
 /// rules count rows of the list and nothing else. `GM`, `GK`, `GD` and `GS` have none.
-[[nodiscard]] std::optional<std::string_view> Absage(ItemId item, const Auftragsliste& liste);
+[[nodiscard]] std::optional<std::string_view> Refusal(ItemId item, const OrderList& list);
 
 }  // namespace tarvelin

@@ -9,99 +9,97 @@ namespace tarvelin {
 
 namespace {
 
-struct Zeitraum {
-    DateTime Start;
-    DateTime Ende;
+struct Period {
+    DateTime start;
+    DateTime end;
 };
 
-std::string Minutentext(DateTime zeitpunkt) {
-    constexpr std::size_t kOhneSekunden = 16;
-    return DateTimeText(zeitpunkt).substr(0, kOhneSekunden);
+std::string MinutesText(DateTime time) {
+    constexpr std::size_t kWithoutSeconds = 16;
+    return DateTimeText(time).substr(0, kWithoutSeconds);
 }
 
-std::optional<Zeitraum> LiesZeile(const SchlafzeitZeile& zeile) {
-    const auto start = ParseDateTime(zeile.Startzeit);
-    const auto ende = ParseDateTime(zeile.Endzeit);
-    if (!start || !ende) {
+std::optional<Period> ParseRow(const SleepRow& row) {
+    const auto start = ParseDateTime(row.Startzeit);
+    const auto end = ParseDateTime(row.Endzeit);
+    if (!start || !end) {
         return std::nullopt;
     }
-    return Zeitraum{*start, *ende};
+    return Period{*start, *end};
 }
 
-std::optional<DateTime> LiesStart(const Schlafeingabe& eingabe) {
-    return ParseDateTime(eingabe.Datum + " " + eingabe.StartStunden + ":" + eingabe.StartMinuten);
+std::optional<DateTime> ParseStart(const SleepInput& input) {
+    return ParseDateTime(input.date + " " + input.startHours + ":" + input.startMinutes);
 }
 
-std::optional<Long> LiesDauer(const Schlafeingabe& eingabe) {
-    const auto stunden = ParseNumber(eingabe.DauerStunden);
-    const auto minuten = ParseNumber(eingabe.DauerMinuten);
-    if (!stunden || !minuten) {
+std::optional<Long> ParseDuration(const SleepInput& input) {
+    const auto hours = ParseNumber(input.durationHours);
+    const auto minutes = ParseNumber(input.durationMinutes);
+    if (!hours || !minutes) {
         return std::nullopt;
     }
-    return HalfEvenLong(*stunden * 3600 + *minuten * 60);
+    return HalfEvenLong(*hours * 3600 + *minutes * 60);
 }
 
-bool Ueberschneiden(const Zeitraum& alt, const Zeitraum& neu) {
-    const auto nicht_spaeter = [](DateTime a, DateTime b) {
-        return !cSchlafzeit::IstSpaeter(b, a);
+bool Overlap(const Period& oldPeriod, const Period& newPeriod) {
+    const auto notLater = [](DateTime a, DateTime b) { return !cSchlafzeit::IstSpaeter(b, a); };
+    const auto inOld = [&](DateTime time) {
+        return notLater(oldPeriod.start, time) && cSchlafzeit::IstSpaeter(time, oldPeriod.end);
     };
-    const auto im_alten = [&](DateTime zeitpunkt) {
-        return nicht_spaeter(alt.Start, zeitpunkt) && cSchlafzeit::IstSpaeter(zeitpunkt, alt.Ende);
-    };
-    const bool alter_im_neuen =
-        cSchlafzeit::IstSpaeter(neu.Start, alt.Start) && nicht_spaeter(alt.Ende, neu.Ende);
-    return im_alten(neu.Start) || im_alten(neu.Ende) || alter_im_neuen;
+    const bool oldBeginsInNew = cSchlafzeit::IstSpaeter(newPeriod.start, oldPeriod.start) &&
+                                notLater(oldPeriod.end, newPeriod.end);
+    return inOld(newPeriod.start) || inOld(newPeriod.end) || oldBeginsInNew;
 }
 
-Message Eingabefehler(const char* text) {
+Message InputError(const char* text) {
     return {.text = text, .title = kBadInputTitle};
 }
 
 }  // namespace
 
-std::optional<Message> AddSchlafzeit(const Schlafeingabe& eingabe, Schlaftabelle& tabelle) {
-    const auto dauer = LiesDauer(eingabe);
-    if (!dauer) {
-        return Eingabefehler("Keine gültige Dauer eingegeben...");
+std::optional<Message> AddSleepRow(const SleepInput& input, SleepTable& table) {
+    const auto duration = ParseDuration(input);
+    if (!duration) {
+        return InputError("Keine gültige Dauer eingegeben...");
     }
-    const auto start = LiesStart(eingabe);
+    const auto start = ParseStart(input);
     if (!start) {
-        return Eingabefehler("Kein gültiges Datum eingegeben...");
+        return InputError("Kein gültiges Datum eingegeben...");
     }
-    const Zeitraum neu{*start, *start + *dauer};
-    const bool belegt = std::ranges::any_of(tabelle, [&](const SchlafzeitZeile& zeile) {
-        const auto alt = LiesZeile(zeile);
-        return alt && Ueberschneiden(*alt, neu);
+    const Period newPeriod{*start, *start + *duration};
+    const bool occupied = std::ranges::any_of(table, [&](const SleepRow& row) {
+        const auto oldPeriod = ParseRow(row);
+        return oldPeriod && Overlap(*oldPeriod, newPeriod);
     });
-    if (belegt) {
-        return Eingabefehler("Kein überschneidenden Zeiträumen eingegeben...");
+    if (occupied) {
+        return InputError("Kein überschneidenden Zeiträumen eingegeben...");
     }
-    tabelle.push_back({Minutentext(neu.Start), Minutentext(neu.Ende)});
+    table.push_back({MinutesText(newPeriod.start), MinutesText(newPeriod.end)});
     return std::nullopt;
 }
 
-std::string SchlafendeText(const Schlafeingabe& eingabe) {
-    const auto start = LiesStart(eingabe);
-    const auto dauer = LiesDauer(eingabe);
-    if (!start || !dauer) {
+std::string SleepEndText(const SleepInput& input) {
+    const auto start = ParseStart(input);
+    const auto duration = ParseDuration(input);
+    if (!start || !duration) {
         return "Error";
     }
-    const DateTime ende = *start + *dauer;
-    const std::string uhrzeit = TimeOfDayText(ende);
-    constexpr std::size_t kOhneSekunden = 5;
-    return std::string(WeekdayShort(ende)) + ".  " + DateText(ende) + " " +
-           uhrzeit.substr(0, kOhneSekunden);
+    const DateTime end = *start + *duration;
+    const std::string timeOfDay = TimeOfDayText(end);
+    constexpr std::size_t kWithoutSeconds = 5;
+    return std::string(WeekdayShort(end)) + ".  " + DateText(end) + " " +
+           timeOfDay.substr(0, kWithoutSeconds);
 }
 
-std::vector<cSchlafzeit> LiesSchlafzeiten(const Schlaftabelle& tabelle) {
-    std::vector<cSchlafzeit> schlafzeiten;
-    schlafzeiten.reserve(tabelle.size());
-    for (const SchlafzeitZeile& zeile : tabelle) {
-        if (const auto zeitraum = LiesZeile(zeile)) {
-            schlafzeiten.emplace_back(zeitraum->Start, zeitraum->Ende);
+std::vector<cSchlafzeit> ParseSleepTable(const SleepTable& table) {
+    std::vector<cSchlafzeit> sleepWindows;
+    sleepWindows.reserve(table.size());
+    for (const SleepRow& row : table) {
+        if (const auto period = ParseRow(row)) {
+            sleepWindows.emplace_back(period->start, period->end);
         }
     }
-    return schlafzeiten;
+    return sleepWindows;
 }
 
 }  // namespace tarvelin

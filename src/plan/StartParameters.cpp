@@ -10,81 +10,82 @@ namespace tarvelin {
 
 namespace {
 
-constexpr double kTemperaturspanne = 40;
+constexpr double kTemperatureSpan = 40;
 
-/// Writes a number text moved by `abstand` into the other input of the link. Whether it did.
-bool SetzeVerschoben(const std::string& von, double abstand, std::string& nach) {
-    constexpr int kStellen = 10;
-    const auto zahl = ParseNumber(von);
-    if (zahl) {
-        nach = DecimalText(*zahl + abstand, kStellen);
+/// Writes a number text moved by `distance` into the other input of the link. Whether it did.
+bool SetShifted(const std::string& from, double distance, std::string& target) {
+    constexpr int kDecimals = 10;
+    const auto number = ParseNumber(from);
+    if (number) {
+        target = DecimalText(*number + distance, kDecimals);
     }
-    return zahl.has_value();
+    return number.has_value();
 }
 
 }  // namespace
 
-std::string Startparameter::Datumstext() const {
+std::string StartParameters::StartDateText() const {
     return UniStartZeitTag + "." + UniStartZeitMonat + "." + UniStartZeitJahr + " " +
            UniStartZeitStunden + ":" + UniStartZeitMinuten + ":00";
 }
 
-void SetzeStartdatum(Startparameter& parameter, DateTime tag) {
+void SetStartDate(StartParameters& parameters, DateTime day) {
     // "18.11.2006"
-    const std::string datum = DateText(tag);
-    parameter.UniStartZeitTag = datum.substr(0, 2);
-    parameter.UniStartZeitMonat = datum.substr(3, 2);
-    parameter.UniStartZeitJahr = datum.substr(6);
+    const std::string date = DateText(day);
+    parameters.UniStartZeitTag = date.substr(0, 2);
+    parameters.UniStartZeitMonat = date.substr(3, 2);
+    parameters.UniStartZeitJahr = date.substr(6);
 }
 
-Wochentagsanzeige WochentagVon(DateTime tag) {
-    return {.Caption = std::string(WeekdayShort(tag)) + ".", .Hint = std::string(WeekdayLong(tag))};
+WeekdayLabel WeekdayOf(DateTime day) {
+    return {.caption = std::string(WeekdayShort(day)) + ".", .hint = std::string(WeekdayLong(day))};
 }
 
-Wochentagsanzeige RefreshWeekday(const Startparameter& parameter) {
-    const auto datum = ReadUniStartZeit(parameter);
-    return datum ? WochentagVon(*datum) : Wochentagsanzeige{.Caption = "Err.", .Hint = ""};
+WeekdayLabel RefreshWeekday(const StartParameters& parameters) {
+    const auto date = ReadUniStartZeit(parameters);
+    return date ? WeekdayOf(*date) : WeekdayLabel{.caption = "Err.", .hint = ""};
 }
 
-std::optional<DateTime> ReadUniStartZeit(const Startparameter& parameter) {
-    return ParseDateTime(parameter.Datumstext());
+std::optional<DateTime> ReadUniStartZeit(const StartParameters& parameters) {
+    return ParseDateTime(parameters.StartDateText());
 }
 
-void FuelleStartdatumAuf(Startparameter& parameter) {
-    if (LiesTemperatur(parameter)) {
-        parameter.UniStartZeitTag = PadIntegerDigits(parameter.UniStartZeitTag, 2);
-        parameter.UniStartZeitMonat = PadIntegerDigits(parameter.UniStartZeitMonat, 2);
+void PadStartDate(StartParameters& parameters) {
+    if (ParseTemperature(parameters)) {
+        parameters.UniStartZeitTag = PadIntegerDigits(parameters.UniStartZeitTag, 2);
+        parameters.UniStartZeitMonat = PadIntegerDigits(parameters.UniStartZeitMonat, 2);
     }
 }
 
-std::optional<Integer> LiesTemperatur(const Startparameter& parameter) {
-    const auto zahl = ParseNumber(parameter.TempMax);
-    if (!zahl) {
+std::optional<Integer> ParseTemperature(const StartParameters& parameters) {
+    const auto number = ParseNumber(parameters.TempMax);
+    if (!number) {
         return std::nullopt;
     }
-    const auto grad = Rounding::HalfEven(*zahl);
-    if (grad < std::numeric_limits<Integer>::min() || grad > std::numeric_limits<Integer>::max()) {
+    const auto degrees = Rounding::HalfEven(*number);
+    if (degrees < std::numeric_limits<Integer>::min() ||
+        degrees > std::numeric_limits<Integer>::max()) {
         return std::nullopt;
     }
-    return static_cast<Integer>(grad);
+    return static_cast<Integer>(degrees);
 }
 
-void AendereTempMax(Startparameter& parameter, std::string_view text) {
-    parameter.TempMax = text;
-    if (SetzeVerschoben(parameter.TempMax, -kTemperaturspanne, parameter.TempMin)) {
-        SetzeVerschoben(parameter.TempMin, kTemperaturspanne, parameter.TempMax);
+void ChangeTempMax(StartParameters& parameters, std::string_view text) {
+    parameters.TempMax = text;
+    if (SetShifted(parameters.TempMax, -kTemperatureSpan, parameters.tempMin)) {
+        SetShifted(parameters.tempMin, kTemperatureSpan, parameters.TempMax);
     }
 }
 
-void AendereTempMin(Startparameter& parameter, std::string_view text) {
-    parameter.TempMin = text;
-    if (SetzeVerschoben(parameter.TempMin, kTemperaturspanne, parameter.TempMax)) {
-        SetzeVerschoben(parameter.TempMax, -kTemperaturspanne, parameter.TempMin);
+void ChangeTempMin(StartParameters& parameters, std::string_view text) {
+    parameters.tempMin = text;
+    if (SetShifted(parameters.tempMin, kTemperatureSpan, parameters.TempMax)) {
+        SetShifted(parameters.TempMax, -kTemperatureSpan, parameters.tempMin);
     }
 }
 
-std::string KlickPufferText(int sekunden) {
-    return FormatDuration(sekunden, "s", "mm:ss", "d");
+std::string KlickPufferText(int seconds) {
+    return FormatDuration(seconds, "s", "mm:ss", "d");
 }
 
 }  // namespace tarvelin

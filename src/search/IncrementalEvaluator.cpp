@@ -36,11 +36,11 @@ class Probelauf::Waechter final : public Laufbeobachter {
 
 Probelauf::Probelauf(const Suchaufgabe& aufgabe)
     : m_aufgabe(&aufgabe),
-      m_halte(Auftragsliste::kHoechstzahl + 1, {Halt{Simulation({}, aufgabe.Bedingungen), {}},
-                                                Halt{Simulation({}, aufgabe.Bedingungen), {}}}),
-      m_gueltig(Auftragsliste::kHoechstzahl + 1) {}
+      m_halte(OrderList::kMaxSize + 1, {Halt{Simulation({}, aufgabe.Bedingungen), {}},
+                                        Halt{Simulation({}, aufgabe.Bedingungen), {}}}),
+      m_gueltig(OrderList::kMaxSize + 1) {}
 
-std::optional<Wertung> Probelauf::Spiele(std::span<const Auftrag> orders, std::size_t gleich,
+std::optional<Wertung> Probelauf::Spiele(std::span<const Order> orders, std::size_t gleich,
                                          Long grenze) {
     m_gleich = gleich;
     m_gestartet = gleich;

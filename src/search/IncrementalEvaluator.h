@@ -25,7 +25,7 @@ class Probelauf {
     /// last. Nothing if the list doesn't end: if an order starts in debt or on the value of a
     /// closed gate, or one that isn't played yet before its time; nothing as well as soon as the
     /// clock passes `grenze`.
-    [[nodiscard]] std::optional<Wertung> Spiele(std::span<const Auftrag> orders, std::size_t gleich,
+    [[nodiscard]] std::optional<Wertung> Spiele(std::span<const Order> orders, std::size_t gleich,
                                                 Long grenze);
 
     /// The list that was played last is the one to begin with from now on. It has ended.

@@ -23,24 +23,24 @@ enum class Vorzug : std::uint8_t {
     Deuterium,
 };
 
-bool KostetDeuterium(const Auftrag& order) {
-    return order.Was == Auftrag::Art::Item && RowOf(order.Item).baseCost[Resource::Deuterium] > 0;
+bool KostetDeuterium(const Order& order) {
+    return order.kind == Order::Kind::Item && RowOf(order.item).baseCost[Resource::Deuterium] > 0;
 }
 
 /// The place of the order in `uebrige` that ends the list soonest if it comes next.
-std::optional<std::size_t> Naechster(Probelauf& probe, std::vector<Auftrag>& liste,
-                                     const std::vector<Auftrag>& uebrige,
-                                     const PerItem<Byte>& stufen, Vorzug vorzug) {
+std::optional<std::size_t> Naechster(Probelauf& probe, std::vector<Order>& liste,
+                                     const std::vector<Order>& uebrige, const PerItem<Byte>& stufen,
+                                     Vorzug vorzug) {
     std::optional<std::size_t> bester;
     std::pair<bool, Long> wert{true, kOhneGrenze};
     PerItem<bool> gefragt{};
     for (std::size_t i = 0; i < uebrige.size(); ++i) {
-        const Auftrag& order = uebrige[i];
-        const bool item = order.Was == Auftrag::Art::Item;
-        if (item && (gefragt[order.Item] || !IstErlaubt(order.Item, stufen))) {
+        const Order& order = uebrige[i];
+        const bool item = order.kind == Order::Kind::Item;
+        if (item && (gefragt[order.item] || !IsAllowed(order.item, stufen))) {
             continue;
         }
-        gefragt[order.Item] = gefragt[order.Item] || item;
+        gefragt[order.item] = gefragt[order.item] || item;
         liste.push_back(order);
         const auto wertung = probe.Spiele(liste, liste.size() - 1, kOhneGrenze);
         liste.pop_back();
@@ -53,17 +53,17 @@ std::optional<std::size_t> Naechster(Probelauf& probe, std::vector<Auftrag>& lis
     return bester;
 }
 
-std::optional<std::vector<Auftrag>> GierigeListe(const Suchaufgabe& aufgabe, Vorzug vorzug) {
-    const std::vector<Auftrag>& vorlage = aufgabe.Orders;
+std::optional<std::vector<Order>> GierigeListe(const Suchaufgabe& aufgabe, Vorzug vorzug) {
+    const std::vector<Order>& vorlage = aufgabe.Orders;
     const auto fest = [&](std::size_t i) { return i < aufgabe.Kopf || aufgabe.Fest[i]; };
-    std::vector<Auftrag> uebrige;
+    std::vector<Order> uebrige;
     for (std::size_t i = 0; i < vorlage.size(); ++i) {
         if (!fest(i)) {
             uebrige.push_back(vorlage[i]);
         }
     }
     Probelauf probe(aufgabe);
-    std::vector<Auftrag> liste;
+    std::vector<Order> liste;
     PerItem<Byte> stufen{};
     while (liste.size() < vorlage.size()) {
         const std::size_t zeile = liste.size();
@@ -77,12 +77,12 @@ std::optional<std::vector<Auftrag>> GierigeListe(const Suchaufgabe& aufgabe, Vor
             liste.push_back(uebrige[*naechster]);
             uebrige.erase(uebrige.begin() + static_cast<std::ptrdiff_t>(*naechster));
         }
-        const Auftrag& order = liste.back();
-        if (order.Was == Auftrag::Art::Item) {
-            if (!IstErlaubt(order.Item, stufen)) {
+        const Order& order = liste.back();
+        if (order.kind == Order::Kind::Item) {
+            if (!IsAllowed(order.item, stufen)) {
                 return std::nullopt;
             }
-            ++stufen[order.Item];
+            ++stufen[order.item];
         }
         if (!probe.Spiele(liste, zeile, kOhneGrenze)) {
             return std::nullopt;
@@ -93,8 +93,8 @@ std::optional<std::vector<Auftrag>> GierigeListe(const Suchaufgabe& aufgabe, Vor
 }
 
 /// Moves that let no fewer orders start, until all do.
-std::optional<std::vector<Auftrag>> ReparierteListe(const Suchaufgabe& aufgabe,
-                                                    const std::atomic<bool>& halt) {
+std::optional<std::vector<Order>> ReparierteListe(const Suchaufgabe& aufgabe,
+                                                  const std::atomic<bool>& halt) {
     constexpr int kVersuche = 40'000;
     Zufall zufall(1);
     Zuege zuege(aufgabe, aufgabe.Orders, aufgabe.Fest);
@@ -120,8 +120,8 @@ std::optional<std::vector<Auftrag>> ReparierteListe(const Suchaufgabe& aufgabe,
 
 }  // namespace
 
-std::optional<std::vector<Auftrag>> EndendeListe(const Suchaufgabe& aufgabe,
-                                                 const std::atomic<bool>& halt) {
+std::optional<std::vector<Order>> EndendeListe(const Suchaufgabe& aufgabe,
+                                               const std::atomic<bool>& halt) {
     for (const Vorzug vorzug : {Vorzug::Keiner, Vorzug::Deuterium}) {
         if (auto liste = GierigeListe(aufgabe, vorzug)) {
             return liste;

@@ -13,7 +13,7 @@ namespace tarvelin {
 /// by the order that lets it end soonest; if that gets stuck, by moves that let more and more of
 /// the task's list start. Head and pinned rows stay where they are. Nothing if none is found, or
 /// `halt` was set.
-[[nodiscard]] std::optional<std::vector<Auftrag>> EndendeListe(const Suchaufgabe& aufgabe,
-                                                               const std::atomic<bool>& halt);
+[[nodiscard]] std::optional<std::vector<Order>> EndendeListe(const Suchaufgabe& aufgabe,
+                                                             const std::atomic<bool>& halt);
 
 }  // namespace tarvelin

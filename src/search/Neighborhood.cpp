@@ -30,7 +30,7 @@ bool GleichOhneWirtschaft(const PerItem<Byte>& a, const PerItem<Byte>& b) {
 
 }  // namespace
 
-Zuege::Zuege(const Suchaufgabe& aufgabe, std::vector<Auftrag> orders, std::vector<bool> fest)
+Zuege::Zuege(const Suchaufgabe& aufgabe, std::vector<Order> orders, std::vector<bool> fest)
     : m_aufgabe(&aufgabe), m_orders(std::move(orders)), m_fest(std::move(fest)) {
     m_nachbar = m_orders;
     m_nachbarFest = m_fest;
@@ -47,8 +47,8 @@ void Zuege::MerkeAb(std::size_t zeile) {
     m_vorher.resize(m_orders.size() + 1);
     for (std::size_t i = zeile; i < m_orders.size(); ++i) {
         m_vorher[i + 1] = m_vorher[i];
-        if (m_orders[i].Was == Auftrag::Art::Item) {
-            ++m_vorher[i + 1][m_orders[i].Item];
+        if (m_orders[i].kind == Order::Kind::Item) {
+            ++m_vorher[i + 1][m_orders[i].item];
         }
     }
     m_frei.clear();
@@ -134,13 +134,13 @@ void Zuege::Vertausche(std::size_t a, std::size_t b) {
 
 /// Another mine, plant, satellite, factory, shipyard or lab.
 bool Zuege::Fuege(Zufall& zufall) {
-    if (m_orders.size() >= Auftragsliste::kHoechstzahl) {
+    if (m_orders.size() >= OrderList::kMaxSize) {
         return false;
     }
     const std::size_t platz = m_aufgabe->Kopf + zufall.Bis(m_orders.size() - m_aufgabe->Kopf + 1);
     const auto stelle = static_cast<std::ptrdiff_t>(platz);
     m_nachbar.insert(m_nachbar.begin() + stelle,
-                     Auftrag::Fuer(kWirtschaft[zufall.Bis(kWirtschaft.size())]));
+                     Order::Of(kWirtschaft[zufall.Bis(kWirtschaft.size())]));
     m_nachbarFest.insert(m_nachbarFest.begin() + stelle, false);
     m_von = platz;
     m_bis = m_nachbar.size();
@@ -153,9 +153,9 @@ bool Zuege::Streiche(Zufall& zufall) {
         return false;
     }
     const std::size_t platz = m_frei[zufall.Bis(m_frei.size())];
-    const Auftrag& order = m_orders[platz];
-    if (order.Was != Auftrag::Art::Item || !IstWirtschaft(order.Item) ||
-        m_vorher.back()[order.Item] <= m_aufgabe->Mindestens[order.Item]) {
+    const Order& order = m_orders[platz];
+    if (order.kind != Order::Kind::Item || !IstWirtschaft(order.item) ||
+        m_vorher.back()[order.item] <= m_aufgabe->Mindestens[order.item]) {
         return false;
     }
     const auto stelle = static_cast<std::ptrdiff_t>(platz);
@@ -174,7 +174,7 @@ bool Zuege::Tausche(Zufall& zufall) {
     const std::size_t platz = m_aufgabe->Kopf + zufall.Bis(m_nachbar.size() - m_aufgabe->Kopf + 1);
     const auto stelle = static_cast<std::ptrdiff_t>(platz);
     m_nachbar.insert(m_nachbar.begin() + stelle,
-                     Auftrag::Fuer(kWirtschaft[zufall.Bis(kWirtschaft.size())]));
+                     Order::Of(kWirtschaft[zufall.Bis(kWirtschaft.size())]));
     m_nachbarFest.insert(m_nachbarFest.begin() + stelle, false);
     m_von = std::min(m_von, platz);
     m_bis = m_nachbar.size();
@@ -188,15 +188,15 @@ bool Zuege::HaeltRegeln() const {
         m_nachbarFest.begin(), m_nachbarFest.begin() + static_cast<std::ptrdiff_t>(m_von), true));
     const bool ziel = m_aufgabe->Was == Suchaufgabe::Art::Ziel;
     for (std::size_t i = m_von; i < m_bis; ++i) {
-        const Auftrag& order = m_nachbar[i];
+        const Order& order = m_nachbar[i];
         if (ziel && m_nachbarFest[i] && !GleichOhneWirtschaft(stufen, m_vorFesten[fester++])) {
             return false;
         }
-        if (order.Was == Auftrag::Art::Item) {
-            if (!IstErlaubt(order.Item, stufen)) {
+        if (order.kind == Order::Kind::Item) {
+            if (!IsAllowed(order.item, stufen)) {
                 return false;
             }
-            ++stufen[order.Item];
+            ++stufen[order.item];
         }
     }
     return true;

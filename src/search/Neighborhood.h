@@ -15,15 +15,15 @@ namespace tarvelin {
 class Zuege {
   public:
     /// The task must outlive it. The list is by the rules.
-    Zuege(const Suchaufgabe& aufgabe, std::vector<Auftrag> orders, std::vector<bool> fest);
+    Zuege(const Suchaufgabe& aufgabe, std::vector<Order> orders, std::vector<bool> fest);
 
     /// Makes a move. The first row that differs from the present list; nothing if the move came to
     /// nothing or breaks a rule.
     [[nodiscard]] std::optional<std::size_t> Ziehe(Zufall& zufall);
 
     /// The list after the last move.
-    [[nodiscard]] std::span<const Auftrag> Nachbar() const { return m_nachbar; }
-    [[nodiscard]] const std::vector<Auftrag>& Liste() const { return m_orders; }
+    [[nodiscard]] std::span<const Order> Nachbar() const { return m_nachbar; }
+    [[nodiscard]] const std::vector<Order>& Liste() const { return m_orders; }
     [[nodiscard]] const std::vector<bool>& Fest() const { return m_fest; }
 
     /// The list after the last move is the present one from now on.
@@ -40,9 +40,9 @@ class Zuege {
     void MerkeAb(std::size_t zeile);
 
     const Suchaufgabe* m_aufgabe;
-    std::vector<Auftrag> m_orders;
+    std::vector<Order> m_orders;
     std::vector<bool> m_fest;
-    std::vector<Auftrag> m_nachbar;
+    std::vector<Order> m_nachbar;
     std::vector<bool> m_nachbarFest;
     /// The rows that may move.
     std::vector<std::size_t> m_frei;

@@ -22,12 +22,12 @@ Suchabsage Falsch(std::string text) {
 /// One word of a goal, "GW2".
 std::variant<std::pair<ItemId, Byte>, Suchabsage> LiesZielwort(std::string_view wort) {
     const auto ziffer = std::min(wort.find_first_of("0123456789"), wort.size());
-    const auto item = ItemVonCode(wort.substr(0, ziffer));
+    const auto item = ItemFromCode(wort.substr(0, ziffer));
     if (!item) {
         return Falsch("\"" + std::string(wort) +
                       "\" nennt kein Item: erwartet wird etwa GW2 oder WKT1");
     }
-    const auto hoechste = item == ItemId::klSchK ? 1 : std::int64_t{Auftragsliste::kHoechstzahl};
+    const auto hoechste = item == ItemId::klSchK ? 1 : std::int64_t{OrderList::kMaxSize};
     const auto stufe = ParseWholeNumber(wort.substr(ziffer), 1, hoechste);
     if (!stufe) {
         return Falsch("\"" + std::string(wort) + "\": die Stufe oder Anzahl muss von 1 bis " +
@@ -62,7 +62,7 @@ std::variant<Stufen, Suchabsage> LiesZiel(std::string_view text) {
 
 /// The plan's own research, units and defences.
 std::variant<Stufen, Suchabsage> ZielDesPlans(const Plan& plan) {
-    Stufen ziel = plan.Liste.Auftraege().ListStufen();
+    Stufen ziel = plan.LV_Bauliste.Orders().ListStufe();
     for (const ItemRow& zeile : ItemTable()) {
         if (IstWirtschaft(zeile.item)) {
             ziel[zeile.item] = 0;
@@ -79,25 +79,25 @@ std::variant<Stufen, Suchabsage> ZielDesPlans(const Plan& plan) {
 
 /// The first row that the rules of the list refuse.
 std::optional<Suchabsage> PruefeRegeln(const Plan& plan) {
-    Auftragsliste liste;
-    for (const Auftrag& order : plan.Liste.Auftraege().Alle()) {
-        if (order.Was == Auftrag::Art::Item) {
-            if (const auto absage = Absage(order.Item, liste)) {
+    OrderList liste;
+    for (const Order& order : plan.LV_Bauliste.Orders().All()) {
+        if (order.kind == Order::Kind::Item) {
+            if (const auto absage = Refusal(order.item, liste)) {
                 return Suchabsage{
-                    .Text = "Zeile " + std::to_string(liste.Zahl() + 1) + " (" + order.Tag() +
+                    .Text = "Zeile " + std::to_string(liste.Size() + 1) + " (" + order.Tag() +
                             ") hält die Regeln der Bauliste nicht:" + std::string(*absage)};
             }
         }
-        liste.HaengeAn(order);
+        liste.Append(order);
     }
     return std::nullopt;
 }
 
 std::optional<Suchabsage> SetzeFeste(const Plan& plan, const Suchwunsch& wunsch,
                                      std::vector<bool>& fest) {
-    const auto orders = plan.Liste.Auftraege().Alle();
-    for (const Auftrag& order : orders) {
-        fest.push_back(!wunsch.Frei && order.Was == Auftrag::Art::Produktion);
+    const auto orders = plan.LV_Bauliste.Orders().All();
+    for (const Order& order : orders) {
+        fest.push_back(!wunsch.Frei && order.kind == Order::Kind::Production);
     }
     for (const auto& [erste, letzte] : wunsch.Fest) {
         if (erste < 1 || erste > letzte || letzte > orders.size()) {
@@ -115,7 +115,7 @@ class Startzeiten final : public Laufbeobachter {
   public:
     static std::vector<SimTime> Von(const Plan& plan, const RunConditions& bedingungen) {
         Startzeiten zeiten;
-        Simulation(plan.Liste.Auftraege().Alle(), bedingungen).Laufe(zeiten);
+        Simulation(plan.LV_Bauliste.Orders().All(), bedingungen).Laufe(zeiten);
         return zeiten.m_starts;
     }
     void Start(const Startereignis& ereignis) override { m_starts.push_back(ereignis.Start); }
@@ -168,19 +168,19 @@ std::optional<Suchabsage> SetzeKopf(const Plan& plan, DateTime ab, Planaufgabe& 
 /// Without what the goal doesn't ask for, and with what it misses at the end.
 void RichteAufZiel(Suchaufgabe& aufgabe) {
     Stufen stufen{};
-    std::vector<Auftrag> orders;
+    std::vector<Order> orders;
     std::vector<bool> fest;
-    const auto nimm = [&](const Auftrag& order, bool istFest) {
+    const auto nimm = [&](const Order& order, bool istFest) {
         orders.push_back(order);
         fest.push_back(istFest);
-        if (order.Was == Auftrag::Art::Item) {
-            ++stufen[order.Item];
+        if (order.kind == Order::Kind::Item) {
+            ++stufen[order.item];
         }
     };
     for (std::size_t i = 0; i < aufgabe.Orders.size(); ++i) {
-        const Auftrag& order = aufgabe.Orders[i];
-        const bool ueberzaehlig = order.Was == Auftrag::Art::Item && !IstWirtschaft(order.Item) &&
-                                  stufen[order.Item] >= aufgabe.Mindestens[order.Item];
+        const Order& order = aufgabe.Orders[i];
+        const bool ueberzaehlig = order.kind == Order::Kind::Item && !IstWirtschaft(order.item) &&
+                                  stufen[order.item] >= aufgabe.Mindestens[order.item];
         if (!ueberzaehlig || i < aufgabe.Kopf || aufgabe.Fest[i]) {
             nimm(order, aufgabe.Fest[i]);
         }
@@ -189,8 +189,8 @@ void RichteAufZiel(Suchaufgabe& aufgabe) {
         mehr = false;
         for (const ItemRow& zeile : ItemTable()) {
             while (stufen[zeile.item] < aufgabe.Mindestens[zeile.item] &&
-                   IstErlaubt(zeile.item, stufen)) {
-                nimm(Auftrag::Fuer(zeile.item), false);
+                   IsAllowed(zeile.item, stufen)) {
+                nimm(Order::Of(zeile.item), false);
                 mehr = true;
             }
         }
@@ -199,16 +199,16 @@ void RichteAufZiel(Suchaufgabe& aufgabe) {
     aufgabe.Fest = std::move(fest);
 }
 
-bool Erreicht(const Auftragsliste& liste, const Stufen& ziel) {
-    return std::ranges::equal(liste.ListStufen(), ziel, std::ranges::greater_equal());
+bool Erreicht(const OrderList& liste, const Stufen& ziel) {
+    return std::ranges::equal(liste.ListStufe(), ziel, std::ranges::greater_equal());
 }
 
 /// Conditions for an empty list too.
 std::variant<RunConditions, Message> BedingungenVon(Plan plan) {
-    if (plan.Liste.Auftraege().IstLeer()) {
-        static_cast<void>(plan.Liste.AddItem(ItemId::MetMine, RunConditions()));
+    if (plan.LV_Bauliste.Orders().IsEmpty()) {
+        static_cast<void>(plan.LV_Bauliste.AddItem(ItemId::MetMine, RunConditions()));
     }
-    return LiesStartbedingungen(plan);
+    return ParseRunConditions(plan);
 }
 
 std::optional<Suchabsage> SetzeZiel(const Plan& plan, const std::string& text,
@@ -221,10 +221,10 @@ std::optional<Suchabsage> SetzeZiel(const Plan& plan, const std::string& text,
     suche.Was = Suchaufgabe::Art::Ziel;
     suche.Mindestens = MitVoraussetzungen(std::get<Stufen>(ziel));
     RichteAufZiel(suche);
-    if (!Erreicht(plan.Liste.Auftraege(), suche.Mindestens)) {
+    if (!Erreicht(plan.LV_Bauliste.Orders(), suche.Mindestens)) {
         aufgabe.Vorher.reset();
     }
-    if (suche.Orders.size() > Auftragsliste::kHoechstzahl) {
+    if (suche.Orders.size() > OrderList::kMaxSize) {
         return Falsch("Das Ziel braucht mit seinen Voraussetzungen mehr als 254 Zeilen");
     }
     return std::nullopt;
@@ -234,13 +234,13 @@ std::optional<Suchabsage> SetzeZiel(const Plan& plan, const std::string& text,
 
 std::variant<Planaufgabe, Suchabsage> StelleAufgabe(const Plan& plan, const Suchwunsch& wunsch) {
     const bool benannt = wunsch.Ziel && *wunsch.Ziel != "plan";
-    const auto bedingungen = benannt ? BedingungenVon(plan) : LiesStartbedingungen(plan);
+    const auto bedingungen = benannt ? BedingungenVon(plan) : ParseRunConditions(plan);
     if (const auto* const meldung = std::get_if<Message>(&bedingungen)) {
         return Suchabsage{.Text = meldung->text};
     }
     Planaufgabe aufgabe;
     aufgabe.Aufgabe.Bedingungen = std::get<RunConditions>(bedingungen);
-    const auto orders = plan.Liste.Auftraege().Alle();
+    const auto orders = plan.LV_Bauliste.Orders().All();
     aufgabe.Aufgabe.Orders.assign(orders.begin(), orders.end());
     std::optional<Suchabsage> absage = PruefeRegeln(plan);
     if (!absage) {
@@ -274,16 +274,16 @@ Suchergebnis Suche(const Planaufgabe& aufgabe, const Suchumfang& umfang,
     return ergebnis;
 }
 
-Plan MitListe(const Plan& plan, const std::vector<Auftrag>& orders,
-              const std::optional<SchlafzeitZeile>& pause) {
+Plan MitListe(const Plan& plan, const std::vector<Order>& orders,
+              const std::optional<SleepRow>& pause) {
     Plan neu = plan;
-    neu.Liste.Clear();
-    const RunConditions bedingungen{.Temperatur = LiesTemperatur(plan.Parameter).value_or(0)};
-    for (const Auftrag& order : orders) {
-        static_cast<void>(neu.Liste.Replay(order.Tag(), bedingungen));
+    neu.LV_Bauliste.Clear();
+    const RunConditions bedingungen{.Temperatur = ParseTemperature(plan.parameters).value_or(0)};
+    for (const Order& order : orders) {
+        static_cast<void>(neu.LV_Bauliste.Replay(order.Tag(), bedingungen));
     }
     if (pause) {
-        neu.Schlafzeiten.insert(neu.Schlafzeiten.begin(), *pause);
+        neu.LV_Schlafzeiten.insert(neu.LV_Schlafzeiten.begin(), *pause);
     }
     return neu;
 }

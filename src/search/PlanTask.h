@@ -37,7 +37,7 @@ struct Planaufgabe {
     /// What the plan itself is worth, if it ends and has what is wanted.
     std::optional<Fund> Vorher;
     /// The sleep row that keeps the others from starting too early.
-    std::optional<SchlafzeitZeile> Pause;
+    std::optional<SleepRow> Pause;
 };
 
 [[nodiscard]] std::variant<Planaufgabe, Suchabsage> StelleAufgabe(const Plan& plan,
@@ -49,7 +49,7 @@ struct Planaufgabe {
                                  const std::function<void(const Fortschritt&)>& melde);
 
 /// The plan with another list, and with the pause in front of its sleep rows.
-[[nodiscard]] Plan MitListe(const Plan& plan, const std::vector<Auftrag>& orders,
-                            const std::optional<SchlafzeitZeile>& pause);
+[[nodiscard]] Plan MitListe(const Plan& plan, const std::vector<Order>& orders,
+                            const std::optional<SleepRow>& pause);
 
 }  // namespace tarvelin

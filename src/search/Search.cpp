@@ -345,7 +345,7 @@ class Suchlauf {
 
 }  // namespace
 
-std::optional<Fund> Bewerte(const Suchaufgabe& aufgabe, const std::vector<Auftrag>& orders) {
+std::optional<Fund> Bewerte(const Suchaufgabe& aufgabe, const std::vector<Order>& orders) {
     const auto wertung = Probelauf(aufgabe).Spiele(orders, 0, kOhneGrenze);
     return wertung
                ? std::optional(Fund{.Orders = orders, .Fest = aufgabe.Fest, .Wertung = *wertung})

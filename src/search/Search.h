@@ -27,7 +27,7 @@ struct Suchumfang {
 
 /// A list that ends, and what it is worth.
 struct Fund {
-    std::vector<Auftrag> Orders;
+    std::vector<Order> Orders;
     /// Which of them are pinned.
     std::vector<bool> Fest;
     tarvelin::Wertung Wertung;
@@ -57,7 +57,7 @@ struct Suchergebnis {
 
 /// What the orders of a list are worth; nothing if it doesn't end.
 [[nodiscard]] std::optional<Fund> Bewerte(const Suchaufgabe& aufgabe,
-                                          const std::vector<Auftrag>& orders);
+                                          const std::vector<Order>& orders);
 
 /// Searches until the tries are done or `halt` is set, which takes a few milliseconds. `melde` is
 /// called from the caller's thread, at most ten times a second.

@@ -23,7 +23,7 @@ PerItem<Byte> MitVoraussetzungen(PerItem<Byte> ziel) {
             if (ziel[zeile.item] == 0) {
                 continue;
             }
-            for (const LevelRequirement& bedarf : Listenbedarf(zeile.item)) {
+            for (const LevelRequirement& bedarf : ListRequirements(zeile.item)) {
                 mehr = mehr || ziel[bedarf.item] < bedarf.minLevel;
                 ziel[bedarf.item] = std::max(ziel[bedarf.item], bedarf.minLevel);
             }
@@ -32,11 +32,11 @@ PerItem<Byte> MitVoraussetzungen(PerItem<Byte> ziel) {
     return ziel;
 }
 
-PerItem<Byte> Endstufen(const std::vector<Auftrag>& orders) {
+PerItem<Byte> Endstufen(const std::vector<Order>& orders) {
     PerItem<Byte> stufen{};
-    for (const Auftrag& order : orders) {
-        if (order.Was == Auftrag::Art::Item) {
-            ++stufen[order.Item];
+    for (const Order& order : orders) {
+        if (order.kind == Order::Kind::Item) {
+            ++stufen[order.item];
         }
     }
     return stufen;

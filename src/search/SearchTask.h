@@ -27,7 +27,7 @@ struct Suchaufgabe {
     Art Was = Art::Reihenfolge;
     RunConditions Bedingungen;
     /// The plan to begin with, by the rules of the list.
-    std::vector<Auftrag> Orders;
+    std::vector<Order> Orders;
     /// Rows that keep their place: as many as orders. In a search for an order a place is the
     /// number of a row; in one for a goal pinned rows keep their sequence and the orders before
     /// them that are no economy.
@@ -44,6 +44,6 @@ struct Suchaufgabe {
 [[nodiscard]] PerItem<Byte> MitVoraussetzungen(PerItem<Byte> ziel);
 
 /// What a list brings to its end.
-[[nodiscard]] PerItem<Byte> Endstufen(const std::vector<Auftrag>& orders);
+[[nodiscard]] PerItem<Byte> Endstufen(const std::vector<Order>& orders);
 
 }  // namespace tarvelin

@@ -9,7 +9,7 @@ namespace {
 
 /// What `text` makes of each item that one list has more of than the other.
 template <class Text>
-std::string Gereiht(const Auftragsliste& mehr, const Auftragsliste& weniger, const char* zwischen,
+std::string Gereiht(const OrderList& mehr, const OrderList& weniger, const char* zwischen,
                     Text text) {
     std::string alle;
     for (const ItemRow& zeile : ItemTable()) {
@@ -23,13 +23,13 @@ std::string Gereiht(const Auftragsliste& mehr, const Auftragsliste& weniger, con
 
 }  // namespace
 
-std::string Ueberschuss(const Auftragsliste& mehr, const Auftragsliste& weniger) {
+std::string Ueberschuss(const OrderList& mehr, const OrderList& weniger) {
     return Gereiht(mehr, weniger, " ", [](const ItemRow& zeile, const std::string& zahl) {
         return std::string(zeile.ItemCode) + zahl;
     });
 }
 
-std::string UeberschussInWorten(const Auftragsliste& mehr, const Auftragsliste& weniger) {
+std::string UeberschussInWorten(const OrderList& mehr, const OrderList& weniger) {
     return Gereiht(mehr, weniger, ", ", [](const ItemRow& zeile, const std::string& zahl) {
         return zahl + " x " + std::string(zeile.name);
     });

@@ -10,11 +10,10 @@
 namespace tarvelin {
 
 /// Levels that one list has and the other lacks, "GM2 WS1"; empty for none.
-[[nodiscard]] std::string Ueberschuss(const Auftragsliste& mehr, const Auftragsliste& weniger);
+[[nodiscard]] std::string Ueberschuss(const OrderList& mehr, const OrderList& weniger);
 
 /// The same for people: "4 x Metallmine, 1 x Raketenwerfer".
-[[nodiscard]] std::string UeberschussInWorten(const Auftragsliste& mehr,
-                                              const Auftragsliste& weniger);
+[[nodiscard]] std::string UeberschussInWorten(const OrderList& mehr, const OrderList& weniger);
 
 /// "1 Sitzung", "2 Sitzungen".
 [[nodiscard]] std::string Anzahltext(std::size_t zahl, const char* einzahl, const char* mehrzahl);

@@ -22,7 +22,7 @@ void Trage(const Ablauf& ablauf, std::optional<SimTime> Vergleichszeile::*seite,
     for (const Startereignis& start : ablauf.Starts) {
         const std::string tag = start.Order.Tag();
         const int nummer =
-            start.Order.Was == Auftrag::Art::Item ? start.Nummer : ++produktionen[tag];
+            start.Order.kind == Order::Kind::Item ? start.Nummer : ++produktionen[tag];
         Vergleichszeile& zeile = zeilen[{tag, nummer}];
         zeile.Order = start.Order;
         zeile.Nummer = nummer;
@@ -47,7 +47,7 @@ Kennzahlen Kennzahlen::Von(const Ablauf& ablauf) {
     PerQueue<std::int64_t> beschaeftigt{};
     for (const Startereignis& start : ablauf.Starts) {
         sitzungen.Nimm(start.Start);
-        beschaeftigt[start.Order.Queue] += start.Finish - start.Start;
+        beschaeftigt[start.Order.queue] += start.Finish - start.Start;
     }
     zahlen.Sitzungen = sitzungen.Zahl;
     for (std::size_t i = 0; i < beschaeftigt.size(); ++i) {

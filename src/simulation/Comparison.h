@@ -25,7 +25,7 @@ struct Kennzahlen {
 
 /// An order that one run starts at another moment than the other, or that only one of them has.
 struct Vergleichszeile {
-    Auftrag Order;
+    Order Order;
     /// The level or number of an item; of a production row how manieth of its kind it is.
     int Nummer = 0;
     std::optional<SimTime> A;

@@ -22,11 +22,11 @@ std::size_t FaelligeBauzeiten(const Bauzeiten& bauzeiten, DateTime jetzt, std::s
         std::ranges::count(bauzeiten, jetzt + *sekunden, &Bauzeit::Start));
 }
 
-std::size_t FaelligeSchlafzeiten(const Schlaftabelle& tabelle, DateTime jetzt) {
+std::size_t FaelligeSchlafzeiten(const SleepTable& tabelle, DateTime jetzt) {
     constexpr std::int64_t kEineMinute = 60;
     const std::string gleich = DateTimeText(jetzt + kEineMinute);
     return static_cast<std::size_t>(std::ranges::count_if(
-        tabelle, [&](const SchlafzeitZeile& zeile) { return zeile.Endzeit + ":00" == gleich; }));
+        tabelle, [&](const SleepRow& zeile) { return zeile.Endzeit + ":00" == gleich; }));
 }
 
 }  // namespace tarvelin

@@ -21,6 +21,6 @@ namespace tarvelin {
 
 /// How many sleep windows end in the minute that begins one minute after `jetzt`. The texts of the
 /// table are compared as they stand.
-[[nodiscard]] std::size_t FaelligeSchlafzeiten(const Schlaftabelle& tabelle, DateTime jetzt);
+[[nodiscard]] std::size_t FaelligeSchlafzeiten(const SleepTable& tabelle, DateTime jetzt);
 
 }  // namespace tarvelin

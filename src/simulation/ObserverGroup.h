@@ -18,7 +18,7 @@ class Beobachterreihe final : public Laufbeobachter {
     void Start(const Startereignis& ereignis) override {
         FuerAlle([&](auto& b) { b.Start(ereignis); });
     }
-    void Finish(const Auftrag& order) override {
+    void Finish(const Order& order) override {
         FuerAlle([&](auto& b) { b.Finish(order); });
     }
     void Schulden(const GameState& stand) override {

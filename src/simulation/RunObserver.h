@@ -15,7 +15,7 @@ namespace tarvelin {
 struct Startereignis {
     /// Of the list, from 0.
     std::size_t Zeile = 0;
-    Auftrag Order;
+    Order Order;
     /// The level or number that an item reaches; 0 for a production row.
     Byte Nummer = 0;
     SimTime Start;
@@ -47,7 +47,7 @@ class Laufbeobachter {
     virtual ~Laufbeobachter() = default;
 
     virtual void Start(const Startereignis& /*ereignis*/) {}
-    virtual void Finish(const Auftrag& /*order*/) {}
+    virtual void Finish(const Order& /*order*/) {}
     /// A start has left a stock below 0.
     virtual void Schulden(const GameState& /*stand*/) {}
     virtual void Unbekannt(Unbekanntes /*was*/) {}

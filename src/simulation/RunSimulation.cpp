@@ -14,13 +14,13 @@ void Lauf::Beginne(const RunConditions& bedingungen) {
     LV_Bauzeiten.clear();
 }
 
-void Lauf::ResetSimulation(const Startparameter& parameter) {
-    Bedingungen.Temperatur = LiesTemperatur(parameter).value_or(Bedingungen.Temperatur);
+void Lauf::ResetSimulation(const StartParameters& parameter) {
+    Bedingungen.Temperatur = ParseTemperature(parameter).value_or(Bedingungen.Temperatur);
     Stand = InitialState(Bedingungen);
     LV_Bauzeiten.clear();
 }
 
-void RunSimulation(std::span<const Auftrag> auftraege, Lauf& lauf, MessageSink& meldungen) {
+void RunSimulation(std::span<const Order> auftraege, Lauf& lauf, MessageSink& meldungen) {
     lauf.LV_Bauzeiten.reserve(auftraege.size());
     Bauzeitenschreiber zeilen(lauf.Bedingungen, lauf.LV_Bauzeiten);
     Laufmeldungen worte(meldungen);

@@ -22,10 +22,10 @@ struct Lauf {
 
     /// The same without a run: a temperature that can't be used leaves the former one, all other
     /// conditions stay.
-    void ResetSimulation(const Startparameter& parameter);
+    void ResetSimulation(const StartParameters& parameter);
 };
 
 /// Plays the orders from the first to the last; `lauf` has begun.
-void RunSimulation(std::span<const Auftrag> auftraege, Lauf& lauf, MessageSink& meldungen);
+void RunSimulation(std::span<const Order> auftraege, Lauf& lauf, MessageSink& meldungen);
 
 }  // namespace tarvelin

@@ -54,12 +54,12 @@ std::string Klicktext(const Ablauf& ablauf, std::size_t zeile) {
                : "Klickpuffer: " + std::to_string(ablauf.Bedingungen.KlickPuffer) + " s";
 }
 
-std::string Benannt(const Auftrag& order, int nummer, std::string_view name) {
-    if (order.Was != Auftrag::Art::Item) {
+std::string Benannt(const Order& order, int nummer, std::string_view name) {
+    if (order.kind != Order::Kind::Item) {
         return Bauzeit{.Order = order}.theText();
     }
     std::string text(name);
-    return RowOf(order.Item).traits.showsNumber ? text + " " + std::to_string(nummer) : text;
+    return RowOf(order.item).traits.showsNumber ? text + " " + std::to_string(nummer) : text;
 }
 
 std::string Grundtext(const Ablauf& ablauf, const Startereignis& start) {
@@ -100,12 +100,12 @@ std::string UeberDieUhrText() {
            Spannentext(SimTime::Last().Seconds()) + " käme, steht bei diesem Zeitpunkt.";
 }
 
-std::string Auftragstext(const Auftrag& order, int nummer) {
-    return Benannt(order, nummer, RowOf(order.Item).name);
+std::string Auftragstext(const Order& order, int nummer) {
+    return Benannt(order, nummer, RowOf(order.item).name);
 }
 
-std::string Auftragsschluessel(const Auftrag& order, int nummer) {
-    return Benannt(order, nummer, RowOf(order.Item).HoverName());
+std::string Auftragsschluessel(const Order& order, int nummer) {
+    return Benannt(order, nummer, RowOf(order.item).HoverName());
 }
 
 std::string Auftragstext(const Startereignis& start) {

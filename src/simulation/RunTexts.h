@@ -19,10 +19,10 @@ namespace tarvelin {
 [[nodiscard]] std::string UeberDieUhrText();
 
 /// "Metallmine 3", "Kleine Schildkuppel", or "80% 100% 50%". `nummer` is that of an item.
-[[nodiscard]] std::string Auftragstext(const Auftrag& order, int nummer);
+[[nodiscard]] std::string Auftragstext(const Order& order, int nummer);
 [[nodiscard]] std::string Auftragstext(const Startereignis& start);
 /// The same as other programs read it, with the name that the hint over the picture has.
-[[nodiscard]] std::string Auftragsschluessel(const Auftrag& order, int nummer);
+[[nodiscard]] std::string Auftragsschluessel(const Order& order, int nummer);
 
 /// "02:13:05", with days in front from one on: "1 Tag 00:01:01", "3 Tage 00:00:00".
 [[nodiscard]] std::string Spannentext(Long sekunden);

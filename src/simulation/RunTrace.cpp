@@ -28,7 +28,7 @@ const Startereignis* Ablauf::StartDer(std::size_t zeile) const {
     return start != Starts.end() && start->Zeile == zeile ? &*start : nullptr;
 }
 
-Ablauf SpieleAb(std::span<const Auftrag> auftraege, const RunConditions& bedingungen) {
+Ablauf SpieleAb(std::span<const Order> auftraege, const RunConditions& bedingungen) {
     Ablauf ablauf;
     ablauf.Bedingungen = bedingungen;
     ablauf.Starts.reserve(auftraege.size());

@@ -28,7 +28,7 @@ struct Ablauf {
 };
 
 /// Plays orders to the end.
-[[nodiscard]] Ablauf SpieleAb(std::span<const Auftrag> auftraege, const RunConditions& bedingungen);
+[[nodiscard]] Ablauf SpieleAb(std::span<const Order> auftraege, const RunConditions& bedingungen);
 
 /// The points of a history in the order of time. Where the clock stepped back, by a click buffer,
 /// what was recorded before for the moments behind it is gone.

@@ -6,18 +6,18 @@
 namespace tarvelin {
 
 std::string Bauzeit::theText() const {
-    if (Order.Was == Auftrag::Art::Produktion) {
-        const auto prozent = [this](Resource r) { return std::to_string(Order.Faktoren[r] * 10); };
+    if (Order.kind == Order::Kind::Production) {
+        const auto prozent = [this](Resource r) { return std::to_string(Order.factors[r] * 10); };
         return prozent(Resource::Metall) + "% " + prozent(Resource::Kristall) + "% " +
                prozent(Resource::Deuterium) + "%";
     }
-    const ItemRow& zeile = RowOf(Order.Item);
+    const ItemRow& zeile = RowOf(Order.item);
     std::string text(zeile.reportText);
     return zeile.traits.showsNumber ? text + std::to_string(Nummer) : text;
 }
 
 std::string Bauzeit::VerzoegerungsGrund() const {
-    const bool mitGrund = Order.Was == Auftrag::Art::Item && RowOf(Order.Item).traits.showsReason;
+    const bool mitGrund = Order.kind == Order::Kind::Item && RowOf(Order.item).traits.showsReason;
     return mitGrund ? Mangel.Text() : "";
 }
 

@@ -12,7 +12,7 @@ namespace tarvelin {
 
 /// A row of `LV_Bauzeiten`. Its cells are worked out from figures when they are read.
 struct Bauzeit {
-    Auftrag Order{};
+    Order Order{};
     /// The level or number that an item reaches; 0 for a production row.
     Byte Nummer = 0;
     DateTime Start{};

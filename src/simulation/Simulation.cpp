@@ -16,7 +16,7 @@ constexpr SimTime kNie(std::numeric_limits<Long>::max());
 
 }  // namespace
 
-Simulation::Simulation(std::span<const Auftrag> auftraege, const RunConditions& bedingungen)
+Simulation::Simulation(std::span<const Order> auftraege, const RunConditions& bedingungen)
     : m_auftraege(auftraege), m_bedingungen(&bedingungen), m_stand(InitialState(bedingungen)) {}
 
 void Simulation::Laufe(Laufbeobachter& beobachter) {
@@ -64,33 +64,33 @@ void Simulation::ReiheEin() {
 /// Times the waiting order from the state as it stands. An estimate made earlier counts for
 /// nothing.
 void Simulation::TerminiereWartende(Laufbeobachter& beobachter) {
-    const Auftrag& order = m_auftraege[m_tabelle.Wartender()];
-    const SimTime frei = m_stand.FertigZeit[order.Queue];
+    const Order& order = m_auftraege[m_tabelle.Wartender()];
+    const SimTime frei = m_stand.FertigZeit[order.queue];
     Delay grund;
-    switch (order.Was) {
-        case Auftrag::Art::Item:
-            if (KommtErstNachEinemFinish(RowOf(order.Item), frei)) {
+    switch (order.kind) {
+        case Order::Kind::Item:
+            if (KommtErstNachEinemFinish(RowOf(order.item), frei)) {
                 m_tabelle.SetStartzeit(frei);
                 return;
             }
-            grund = TerminiereItem(RowOf(order.Item));
+            grund = TerminiereItem(RowOf(order.item));
             break;
-        case Auftrag::Art::Produktion:
+        case Order::Kind::Production:
             m_bereitAb = m_stand.secsgone;
             break;
-        case Auftrag::Art::Unbekannt:
+        case Order::Kind::Unknown:
             beobachter.Unbekannt(Unbekanntes::Wartezeit);
             break;
     }
     if (frei > m_bereitAb) {
-        grund = {.cause = DelayCause::Queue, .queue = order.Queue};
+        grund = {.cause = DelayCause::Queue, .queue = order.queue};
     }
     const SimTime start = std::max(m_bereitAb, frei);
     m_tabelle.SetStartzeit(start);
     if (start > m_stand.secsgone) {
         m_aufenthalt = grund;
         if (grund.cause == DelayCause::Resource) {
-            m_aufenthalt.shortage.Assign(m_stand.VerzoegerungsGrund[order.Item]);
+            m_aufenthalt.shortage.Assign(m_stand.VerzoegerungsGrund[order.item]);
         }
     }
 }
@@ -116,14 +116,14 @@ Delay Simulation::TerminiereItem(const ItemRow& zeile) {
 }
 
 void Simulation::Starte(std::size_t zeile, Laufbeobachter& beobachter) {
-    switch (m_auftraege[zeile].Was) {
-        case Auftrag::Art::Item:
+    switch (m_auftraege[zeile].kind) {
+        case Order::Kind::Item:
             StarteItem(zeile, beobachter);
             break;
-        case Auftrag::Art::Produktion:
+        case Order::Kind::Production:
             StarteProduktion(zeile, beobachter);
             break;
-        case Auftrag::Art::Unbekannt:
+        case Order::Kind::Unknown:
             beobachter.Unbekannt(Unbekanntes::Start);
             break;
     }
@@ -137,15 +137,15 @@ void Simulation::Starte(std::size_t zeile, Laufbeobachter& beobachter) {
 // The click buffer counts twice: before the start, and behind the finish until the queue falls
 // free.
 void Simulation::StarteItem(std::size_t zeile, Laufbeobachter& beobachter) {
-    const Auftrag& order = m_auftraege[zeile];
-    const ItemRow& item = RowOf(order.Item);
-    const Byte stufe = m_stand.Stufe[order.Item];
+    const Order& order = m_auftraege[zeile];
+    const ItemRow& item = RowOf(order.item);
+    const Byte stufe = m_stand.Stufe[order.item];
     UpgradeStart(item, m_stand);
     const double fertig = m_stand.secsgone.Seconds() +
-                          item.upgradeTime(CostOf(order.Item, stufe), m_stand, *m_bedingungen);
+                          item.upgradeTime(CostOf(order.item, stufe), m_stand, *m_bedingungen);
     const SimTime finish(HalfEvenLong(fertig));
     m_tabelle.SetFinish(finish, zeile);
-    m_stand.FertigZeit[order.Queue] =
+    m_stand.FertigZeit[order.queue] =
         SimTime(HalfEvenLong(fertig + 1 + m_bedingungen->KlickPuffer));
     Startereignis ereignis{.Zeile = zeile,
                            .Order = order,
@@ -156,14 +156,14 @@ void Simulation::StarteItem(std::size_t zeile, Laufbeobachter& beobachter) {
                            .Grund = m_aufenthalt,
                            .TorZu = m_torZu,
                            .Wach = m_wach};
-    ereignis.Mangel.Assign(m_stand.VerzoegerungsGrund[order.Item]);
+    ereignis.Mangel.Assign(m_stand.VerzoegerungsGrund[order.item]);
     beobachter.Start(ereignis);
 }
 
 /// It occupies no queue: the next order of the building queue need not wait for it.
 void Simulation::StarteProduktion(std::size_t zeile, Laufbeobachter& beobachter) {
-    const Auftrag& order = m_auftraege[zeile];
-    SetProdfaktor(order.Faktoren, m_stand);
+    const Order& order = m_auftraege[zeile];
+    SetProdfaktor(order.factors, m_stand);
     m_tabelle.SetFinish(m_stand.secsgone, zeile);
     beobachter.Start({.Zeile = zeile,
                       .Order = order,
@@ -173,9 +173,9 @@ void Simulation::StarteProduktion(std::size_t zeile, Laufbeobachter& beobachter)
                       .Grund = m_aufenthalt});
 }
 
-void Simulation::Beende(const Auftrag& order, Laufbeobachter& beobachter) {
-    if (order.Was == Auftrag::Art::Item) {
-        UpgradeFinished(RowOf(order.Item), m_stand);
+void Simulation::Beende(const Order& order, Laufbeobachter& beobachter) {
+    if (order.kind == Order::Kind::Item) {
+        UpgradeFinished(RowOf(order.item), m_stand);
     }
     beobachter.Finish(order);
 }

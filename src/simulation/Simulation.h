@@ -19,10 +19,10 @@ namespace tarvelin {
 /// Orders and conditions must outlive it; at most 254 orders.
 class Simulation {
   public:
-    Simulation(std::span<const Auftrag> auftraege, const RunConditions& bedingungen);
+    Simulation(std::span<const Order> auftraege, const RunConditions& bedingungen);
 
     /// Goes on over other orders, of which the first `Eingereiht()` are those of the former.
-    void WechsleAuftraege(std::span<const Auftrag> auftraege) { m_auftraege = auftraege; }
+    void WechsleAuftraege(std::span<const Order> auftraege) { m_auftraege = auftraege; }
 
     /// How many orders have entered the timetable: the others don't matter yet.
     [[nodiscard]] std::size_t Eingereiht() const { return m_naechste; }
@@ -50,9 +50,9 @@ class Simulation {
     void Starte(std::size_t zeile, Laufbeobachter& beobachter);
     void StarteItem(std::size_t zeile, Laufbeobachter& beobachter);
     void StarteProduktion(std::size_t zeile, Laufbeobachter& beobachter);
-    void Beende(const Auftrag& order, Laufbeobachter& beobachter);
+    void Beende(const Order& order, Laufbeobachter& beobachter);
 
-    std::span<const Auftrag> m_auftraege;
+    std::span<const Order> m_auftraege;
     const RunConditions* m_bedingungen;
     GameState m_stand;
     EventTabelle m_tabelle;

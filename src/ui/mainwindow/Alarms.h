@@ -19,7 +19,7 @@ class Alarme : public QObject {
   public:
     struct Quellen {
         const Bauzeiten& LV_Bauzeiten;
-        const Schlaftabelle& LV_Schlafzeiten;
+        const SleepTable& LV_Schlafzeiten;
         QCheckBox& Chk_BauWeckfunktion;
         QCheckBox& Chk_Schlafzeitenwecker;
         const QComboBox& Comb_Before;

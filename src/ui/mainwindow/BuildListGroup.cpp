@@ -8,24 +8,24 @@ namespace tarvelin {
 
 namespace {
 
-Tabellenmodell::Quelle QuelleVon(const Bauliste& liste) {
+Tabellenmodell::Quelle QuelleVon(const BuildList& liste) {
     return {
-        .Zeilen = [&liste] { return liste.Zeilen().size(); },
+        .Zeilen = [&liste] { return liste.Rows().size(); },
         .Text =
             [&liste](std::size_t zeile, int spalte) {
-                const BaulistenZeile& z = liste.Zeilen()[zeile];
-                return AlsQString(spalte == 0 ? z.Text : spalte == 1 ? z.SubItems1 : z.SubItems2);
+                const BuildListRow& z = liste.Rows()[zeile];
+                return AlsQString(spalte == 0 ? z.text : spalte == 1 ? z.SubItems1 : z.SubItems2);
             },
         .Farbe =
             [&liste](std::size_t zeile, int spalte) {
-                const Farbe farbe = liste.Zeilen()[zeile].SubItems2Farbe;
+                const TextColor farbe = liste.Rows()[zeile].SubItems2Color;
                 return QColor(spalte == 2 ? static_cast<int>(farbe) : 0, 0, 0);
             }};
 }
 
 }  // namespace
 
-Baulistengruppe::Baulistengruppe(const Bauliste& liste, QWidget* parent)
+Baulistengruppe::Baulistengruppe(const BuildList& liste, QWidget* parent)
     : Gruppe(QStringLiteral("Frame8"), QStringLiteral("Bauliste:"), parent),
       LV_Bauliste(new Baulistenansicht(this)),
       Cmd_Undo(NeuerKnopf(QStringLiteral("Cmd_Undo"), QStringLiteral("Undo"), this)),

@@ -16,7 +16,7 @@ class Baulistengruppe : public Gruppe {
 
   public:
     /// Shows the rows of `liste`, which must outlive the group.
-    Baulistengruppe(const Bauliste& liste, QWidget* parent);
+    Baulistengruppe(const BuildList& liste, QWidget* parent);
 
     /// After a change of the list.
     void ZeigeListe() { m_modell->Aktualisiere(); }

@@ -64,14 +64,14 @@ QWidget* Fra_Einstellungen::NeueTemperaturen() {
                                           Eingabe::kUnbegrenzt, gruppe);
         connect(eingabe, &QLineEdit::textChanged, this,
                 [this, eingabe, aendere](const QString& text) {
-                    aendere(m_plan.Parameter, text.toStdString());
+                    aendere(m_plan.parameters, text.toStdString());
                     ZeigeTemperaturen();
                     emit Geaendert(eingabe->objectName());
                 });
         return eingabe;
     };
-    m_txt_TempMin = neue("txt_TempMin", "Minimaltemperatur", AendereTempMin);
-    m_txt_TempMax = neue("txt_TempMax", "Maximaltemperatur", AendereTempMax);
+    m_txt_TempMin = neue("txt_TempMin", "Minimaltemperatur", ChangeTempMin);
+    m_txt_TempMax = neue("txt_TempMax", "Maximaltemperatur", ChangeTempMax);
     zeile->addWidget(NeuesLabel({}, QStringLiteral("Min:"), gruppe));
     zeile->addWidget(m_txt_TempMin);
     zeile->addWidget(NeuesLabel({}, QStringLiteral("Max:"), gruppe));
@@ -81,12 +81,12 @@ QWidget* Fra_Einstellungen::NeueTemperaturen() {
 
 Eingabe* Fra_Einstellungen::NeueStartzeitEingabe(const char* name, const char* bedeutung,
                                                  int grenze, int breite,
-                                                 std::string Startparameter::*wert) {
+                                                 std::string StartParameters::*wert) {
     auto* const eingabe =
         new Eingabe(QString::fromLatin1(name), QString::fromLatin1(bedeutung), grenze, this);
     eingabe->setFixedWidth(breite);
     connect(eingabe, &QLineEdit::textChanged, this, [this, eingabe, wert](const QString& text) {
-        m_plan.Parameter.*wert = text.toStdString();
+        m_plan.parameters.*wert = text.toStdString();
         emit Geaendert(eingabe->objectName());
     });
     m_startzeit.push_back({eingabe, wert});
@@ -108,7 +108,7 @@ QWidget* Fra_Einstellungen::NeueStartzeit() {
 }
 
 QLayout* Fra_Einstellungen::NeueDatumszeile(QWidget* gruppe) {
-    using P = Startparameter;
+    using P = StartParameters;
     m_LBL_Weekday = NeuesLabel(QStringLiteral("LBL_Weekday"), {}, gruppe);
     QLayout* const zeile = NeueMittelzeile(
         {m_LBL_Weekday,
@@ -127,7 +127,7 @@ QLayout* Fra_Einstellungen::NeueDatumszeile(QWidget* gruppe) {
 }
 
 QLayout* Fra_Einstellungen::NeueUhrzeile(QWidget* gruppe) {
-    using P = Startparameter;
+    using P = StartParameters;
     return NeueMittelzeile({NeueStartzeitEingabe("txt_UniStartZeitStunden", "Stunden", 2,
                                                  kZweistellig, &P::UniStartZeitStunden),
                             NeuesLabel({}, QStringLiteral(":"), gruppe),
@@ -153,8 +153,8 @@ QWidget* Fra_Einstellungen::NeuerKlickPuffer() {
     connect(m_HSC_KlickPuffer, &QSlider::valueChanged, this, [this](int sekunden) {
         m_LBL_KlickPuffer->setText(AlsQString(KlickPufferText(sekunden)));
         // The program moves it to where the plan is already.
-        if (m_plan.Parameter.KlickPuffer != sekunden) {
-            m_plan.Parameter.KlickPuffer = sekunden;
+        if (m_plan.parameters.KlickPuffer != sekunden) {
+            m_plan.parameters.KlickPuffer = sekunden;
             emit Geaendert(m_HSC_KlickPuffer->objectName());
         }
     });
@@ -191,7 +191,7 @@ QWidget* Fra_Einstellungen::NeuerSpeedfaktor() {
     m_Chk_Speedfaktor = new QCheckBox(QStringLiteral("Speedfaktor x2 !"), gruppe);
     m_Chk_Speedfaktor->setObjectName(QStringLiteral("Chk_Speedfaktor"));
     connect(m_Chk_Speedfaktor, &QCheckBox::clicked, this, [this](bool gesetzt) {
-        m_plan.Parameter.SpeedfaktorX2 = gesetzt;
+        m_plan.parameters.Speedfaktor_X2 = gesetzt;
         emit Chk_Speedfaktor_Click();
         emit Geaendert(m_Chk_Speedfaktor->objectName());
     });
@@ -202,35 +202,35 @@ QWidget* Fra_Einstellungen::NeuerSpeedfaktor() {
 void Fra_Einstellungen::Zeige() {
     constexpr std::size_t kDatumsteile = 3;
     for (std::size_t i = 0; i < m_startzeit.size(); ++i) {
-        const bool geaendert = m_startzeit[i].Input->Setze(m_plan.Parameter.*m_startzeit[i].Wert);
+        const bool geaendert = m_startzeit[i].Input->Setze(m_plan.parameters.*m_startzeit[i].Wert);
         if (geaendert && i < kDatumsteile) {
             RefreshWeekday();
         }
     }
     ZeigeTemperaturen();
-    m_HSC_KlickPuffer->setValue(m_plan.Parameter.KlickPuffer);
-    m_LBL_KlickPuffer->setText(AlsQString(KlickPufferText(m_plan.Parameter.KlickPuffer)));
-    m_Chk_Speedfaktor->setChecked(m_plan.Parameter.SpeedfaktorX2);
+    m_HSC_KlickPuffer->setValue(m_plan.parameters.KlickPuffer);
+    m_LBL_KlickPuffer->setText(AlsQString(KlickPufferText(m_plan.parameters.KlickPuffer)));
+    m_Chk_Speedfaktor->setChecked(m_plan.parameters.Speedfaktor_X2);
     ZeigeShowDesc();
 }
 
 // Of what the inputs show: a part of the date that comes next doesn't count yet.
 void Fra_Einstellungen::RefreshWeekday() {
-    Startparameter gezeigte;
+    StartParameters gezeigte;
     for (const Datumsteil& teil : m_startzeit) {
         gezeigte.*teil.Wert = teil.Input->Text();
     }
     Zeige(tarvelin::RefreshWeekday(gezeigte));
 }
 
-void Fra_Einstellungen::Zeige(const Wochentagsanzeige& wochentag) {
-    m_LBL_Weekday->setText(AlsQString(wochentag.Caption));
-    m_LBL_Weekday->setToolTip(AlsQString(wochentag.Hint));
+void Fra_Einstellungen::Zeige(const WeekdayLabel& wochentag) {
+    m_LBL_Weekday->setText(AlsQString(wochentag.caption));
+    m_LBL_Weekday->setToolTip(AlsQString(wochentag.hint));
 }
 
 void Fra_Einstellungen::ZeigeTemperaturen() {
-    m_txt_TempMin->Setze(m_plan.Parameter.TempMin);
-    m_txt_TempMax->Setze(m_plan.Parameter.TempMax);
+    m_txt_TempMin->Setze(m_plan.parameters.tempMin);
+    m_txt_TempMax->Setze(m_plan.parameters.TempMax);
 }
 
 void Fra_Einstellungen::ZeigeShowDesc() {

@@ -18,7 +18,7 @@ class Fra_Einstellungen : public Feld {
     /// After the program changed the parameters.
     void Zeige();
     void RefreshWeekday();
-    void Zeige(const Wochentagsanzeige& wochentag);
+    void Zeige(const WeekdayLabel& wochentag);
 
   signals:
     /// The user has changed a parameter of a run in the input of this name.
@@ -35,7 +35,7 @@ class Fra_Einstellungen : public Feld {
     QWidget* NeueBeschreibungen();
     QWidget* NeuerSpeedfaktor();
     Eingabe* NeueStartzeitEingabe(const char* name, const char* bedeutung, int grenze, int breite,
-                                  std::string Startparameter::*wert);
+                                  std::string StartParameters::*wert);
 
     void ZeigeTemperaturen();
     void ZeigeShowDesc();
@@ -44,7 +44,7 @@ class Fra_Einstellungen : public Feld {
 
     struct Datumsteil {
         Eingabe* Input;
-        std::string Startparameter::*Wert;
+        std::string StartParameters::*Wert;
     };
     /// Day, month, year, hour and minute.
     std::vector<Datumsteil> m_startzeit;

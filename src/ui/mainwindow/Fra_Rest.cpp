@@ -33,7 +33,7 @@ void Stelle(QWidget& gruppe, int links, int breite) {
 
 }  // namespace
 
-Fra_Rest::Fra_Rest(const Bauliste& liste, const Lauf& lauf, QWidget* parent)
+Fra_Rest::Fra_Rest(const BuildList& liste, const Lauf& lauf, QWidget* parent)
     : QWidget(parent),
       m_liste(liste),
       m_Frame8(new Baulistengruppe(liste, this)),
@@ -92,7 +92,7 @@ std::vector<Itemplatz> Fra_Rest::BaueItemgruppen() {
 void Fra_Rest::ZeigeListe() {
     m_Frame8->ZeigeListe();
     for (const Itemplatz& platz : m_plaetze) {
-        platz.Stufe->setNum(m_liste.Auftraege().ListStufe(platz.Item));
+        platz.Stufe->setNum(m_liste.Orders().ListStufe(platz.Item));
     }
 }
 

@@ -17,7 +17,7 @@ class Fra_Rest : public QWidget {
 
   public:
     /// Shows `liste` and `lauf`, which must outlive the surface.
-    Fra_Rest(const Bauliste& liste, const Lauf& lauf, QWidget* parent);
+    Fra_Rest(const BuildList& liste, const Lauf& lauf, QWidget* parent);
 
     /// The rows of the list and the levels over the pictures.
     void ZeigeListe();
@@ -52,7 +52,7 @@ class Fra_Rest : public QWidget {
   private:
     std::vector<Itemplatz> BaueItemgruppen();
 
-    const Bauliste& m_liste;
+    const BuildList& m_liste;
     Baulistengruppe* m_Frame8;
     Bauzeitengruppe* m_Frame6;
     std::vector<Itemplatz> m_plaetze;

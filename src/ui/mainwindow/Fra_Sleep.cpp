@@ -10,11 +10,11 @@ namespace tarvelin {
 
 namespace {
 
-Tabellenmodell::Quelle QuelleVon(const Schlaftabelle& tabelle) {
+Tabellenmodell::Quelle QuelleVon(const SleepTable& tabelle) {
     return {.Zeilen = [&tabelle] { return tabelle.size(); },
             .Text =
                 [&tabelle](std::size_t zeile, int spalte) {
-                    const SchlafzeitZeile& z = tabelle[zeile];
+                    const SleepRow& z = tabelle[zeile];
                     return AlsQString(spalte == 0 ? z.Startzeit : z.Endzeit);
                 }};
 }
@@ -23,14 +23,14 @@ Tabellenmodell::Quelle QuelleVon(const Schlaftabelle& tabelle) {
 struct Zeitfeld {
     const char* Name;
     const char* Bedeutung;
-    std::string Schlafeingabe::*Wert;
+    std::string SleepInput::*Wert;
 };
 
 constexpr std::array<Zeitfeld, 4> kZeitfelder{{
-    {"txt_SchlafStartStunden", "Startzeit, Stunden", &Schlafeingabe::StartStunden},
-    {"txt_SchlafStartMinuten", "Startzeit, Minuten", &Schlafeingabe::StartMinuten},
-    {"txt_SchlafdauerStunden", "Dauer, Stunden", &Schlafeingabe::DauerStunden},
-    {"txt_SchlafdauerMinuten", "Dauer, Minuten", &Schlafeingabe::DauerMinuten},
+    {"txt_SchlafStartStunden", "Startzeit, Stunden", &SleepInput::startHours},
+    {"txt_SchlafStartMinuten", "Startzeit, Minuten", &SleepInput::startMinutes},
+    {"txt_SchlafdauerStunden", "Dauer, Stunden", &SleepInput::durationHours},
+    {"txt_SchlafdauerMinuten", "Dauer, Minuten", &SleepInput::durationMinutes},
 }};
 
 QDate AlsDatum(DateTime zeitpunkt) {
@@ -57,7 +57,7 @@ QCalendarWidget* NeuerKalender(const QDate& tag, QWidget* parent) {
 
 }  // namespace
 
-Fra_Sleep::Fra_Sleep(Schlaftabelle& tabelle, const Umgebung& umgebung, QWidget* parent)
+Fra_Sleep::Fra_Sleep(SleepTable& tabelle, const Umgebung& umgebung, QWidget* parent)
     : Feld(QStringLiteral("Fra_Sleep"), QStringLiteral("Schlaf/Pausen-zeiten:"),
            {160, 2, 6855, 3615}, parent),
       LV_Schlafzeiten(new Liste(QStringLiteral("LV_Schlafzeiten"), QStringLiteral("Schlafzeiten"),
@@ -89,7 +89,7 @@ void Fra_Sleep::BaueEingaben() {
                                           QString::fromLatin1(feld.Bedeutung), 2, this);
         constexpr int kBreite = 22;
         eingabe->setFixedWidth(kBreite);
-        eingabe->Setze(Schlafeingabe().*feld.Wert);
+        eingabe->Setze(SleepInput().*feld.Wert);
         connect(eingabe, &QLineEdit::textChanged, this, &Fra_Sleep::RefreshSchlafEnde);
         m_zeiten.push_back(eingabe);
     }
@@ -156,9 +156,9 @@ void Fra_Sleep::Zeige() {
     LV_Schlafzeiten->setCurrentIndex({});
 }
 
-Schlafeingabe Fra_Sleep::Lies() const {
-    Schlafeingabe eingabe;
-    eingabe.Datum =
+SleepInput Fra_Sleep::Lies() const {
+    SleepInput eingabe;
+    eingabe.date =
         m_SchlafKalender->selectedDate().toString(QStringLiteral("dd.MM.yyyy")).toStdString();
     for (std::size_t i = 0; i < kZeitfelder.size(); ++i) {
         eingabe.*kZeitfelder[i].Wert = m_zeiten[i]->Text();
@@ -176,11 +176,11 @@ void Fra_Sleep::Blaettere(int jahr, int monat) {
 }
 
 void Fra_Sleep::RefreshSchlafEnde() {
-    m_LBL_Schlafendzeit->setText(AlsQString(SchlafendeText(Lies())));
+    m_LBL_Schlafendzeit->setText(AlsQString(SleepEndText(Lies())));
 }
 
 void Fra_Sleep::Cmd_AddSchlafzeit_Click() {
-    if (const auto meldung = AddSchlafzeit(Lies(), m_tabelle)) {
+    if (const auto meldung = AddSleepRow(Lies(), m_tabelle)) {
         m_umgebung.Boxen.Show(*meldung);
         return;
     }

@@ -17,7 +17,7 @@ class Fra_Sleep : public Feld {
 
   public:
     /// Edits `tabelle`, which must outlive the panel, as must `umgebung`.
-    Fra_Sleep(Schlaftabelle& tabelle, const Umgebung& umgebung, QWidget* parent);
+    Fra_Sleep(SleepTable& tabelle, const Umgebung& umgebung, QWidget* parent);
 
     /// After the table changed. No row is selected then.
     void Zeige();
@@ -37,12 +37,12 @@ class Fra_Sleep : public Feld {
     QPushButton* NeuerTabellenknopf(const char* name, const char* text,
                                     void (Fra_Sleep::*handler)());
     void Blaettere(int jahr, int monat);
-    [[nodiscard]] Schlafeingabe Lies() const;
+    [[nodiscard]] SleepInput Lies() const;
     void Cmd_AddSchlafzeit_Click();
     void Cmd_RemoveSchlafzeit_Click();
     void Cmd_ClearSchlafzeiten_Click();
 
-    Schlaftabelle& m_tabelle;
+    SleepTable& m_tabelle;
     const Umgebung& m_umgebung;
     Tabellenmodell* m_modell;
     QCalendarWidget* m_SchlafKalender;

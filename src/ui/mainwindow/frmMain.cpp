@@ -51,12 +51,12 @@ frmMain::frmMain(const Umgebung& umgebung)
       m_Fra_Einstellungen(new Fra_Einstellungen(m_plan, m_flaeche)),
       m_Fra_Special(new Fra_Special(m_flaeche)),
       m_Fra_Skin(new Fra_Skin(umgebung.Programmordner / "img" / "skins", m_flaeche)),
-      m_Fra_Sleep(new Fra_Sleep(m_plan.Schlafzeiten, umgebung, m_flaeche)),
-      m_Fra_Rest(new Fra_Rest(m_plan.Liste, m_lauf, m_flaeche)),
+      m_Fra_Sleep(new Fra_Sleep(m_plan.LV_Schlafzeiten, umgebung, m_flaeche)),
+      m_Fra_Rest(new Fra_Rest(m_plan.LV_Bauliste, m_lauf, m_flaeche)),
       m_TopLine(new QFrame(m_flaeche)),
       m_menue(new Menueleiste(this)),
       m_alarme(new Alarme({.LV_Bauzeiten = m_lauf.LV_Bauzeiten,
-                           .LV_Schlafzeiten = m_plan.Schlafzeiten,
+                           .LV_Schlafzeiten = m_plan.LV_Schlafzeiten,
                            .Chk_BauWeckfunktion = *m_Fra_Rest->Bauwecker(),
                            .Chk_Schlafzeitenwecker = *m_Fra_Sleep->Chk_Schlafzeitenwecker,
                            .Comb_Before = *m_Fra_Rest->SekundenVorher()},
@@ -68,7 +68,7 @@ frmMain::frmMain(const Umgebung& umgebung)
     Verbinde();
     LadeBilder();
     SetzeHeute();
-    m_verlauf.Beginne(StandVon(m_plan));
+    m_verlauf.Begin(SnapshotOf(m_plan));
     m_Fra_Rest->Zeige(m_texte);
     m_Fra_Rest->ZeigeNamen(m_plan.ShowDesc);
     m_Tmr_Autosave.setObjectName(QStringLiteral("Tmr_Autosave"));
@@ -237,10 +237,10 @@ bool frmMain::eventFilter(QObject* ziel, QEvent* event) {
 
 void frmMain::SetzeHeute() {
     const DateTime heute = m_umgebung.Jetzt();
-    SetzeStartdatum(m_plan.Parameter, heute);
+    SetStartDate(m_plan.parameters, heute);
     m_Fra_Einstellungen->Zeige();
     // Whatever the hour says.
-    m_Fra_Einstellungen->Zeige(WochentagVon(heute));
+    m_Fra_Einstellungen->Zeige(WeekdayOf(heute));
 }
 
 void frmMain::mnu_UpdateCheck_Click() {
@@ -339,49 +339,50 @@ void frmMain::mnuSleep_Click() {
 }
 
 void frmMain::Img_MouseMove(const Itemplatz& platz) {
-    platz.Bild->SetzeGate(HoverInfo(platz.Item, m_plan.Liste.Auftraege(), m_lauf.Bedingungen));
+    platz.Bild->SetzeGate(
+        HoverInfoFor(platz.Item, m_plan.LV_Bauliste.Orders(), m_lauf.Bedingungen));
 }
 
 void frmMain::Bearbeitet(std::string_view eingabe) {
-    if (m_verlauf.Merke(StandVon(m_plan), eingabe)) {
+    if (m_verlauf.Record(SnapshotOf(m_plan), eingabe)) {
         ZeigeInWerkbank();
     }
 }
 
 void frmMain::NimmZurueck() {
-    if (m_verlauf.HatVorige()) {
-        StellePlan(m_verlauf.Zurueck());
+    if (m_verlauf.CanUndo()) {
+        StellePlan(m_verlauf.Undo());
     }
 }
 
 void frmMain::WiederholeZurueckgenommenes() {
-    if (m_verlauf.HatNaechste()) {
-        StellePlan(m_verlauf.Vor());
+    if (m_verlauf.CanRedo()) {
+        StellePlan(m_verlauf.Redo());
     }
 }
 
 void frmMain::Uebernimm(const std::vector<std::string>& tags,
-                        const std::optional<SchlafzeitZeile>& pause) {
-    Planstand stand = StandVon(m_plan);
-    stand.Tags = tags;
+                        const std::optional<SleepRow>& pause) {
+    PlanSnapshot stand = SnapshotOf(m_plan);
+    stand.tags = tags;
     if (pause) {
         stand.Schlafzeiten.insert(stand.Schlafzeiten.begin(), *pause);
     }
-    static_cast<void>(m_verlauf.Merke(stand));
+    static_cast<void>(m_verlauf.Record(stand));
     StellePlan(stand);
 }
 
-void frmMain::StellePlan(const Planstand& stand) {
-    m_plan.Parameter = stand.Parameter;
+void frmMain::StellePlan(const PlanSnapshot& stand) {
+    m_plan.parameters = stand.parameters;
     m_Fra_Einstellungen->Zeige();
-    if (m_plan.Schlafzeiten != stand.Schlafzeiten) {
-        m_plan.Schlafzeiten = stand.Schlafzeiten;
+    if (m_plan.LV_Schlafzeiten != stand.Schlafzeiten) {
+        m_plan.LV_Schlafzeiten = stand.Schlafzeiten;
         m_Fra_Sleep->Zeige();
     }
     // The factor texts are those of the run that follows.
     m_lauf.Bedingungen.Temperatur =
-        LiesTemperatur(m_plan.Parameter).value_or(m_lauf.Bedingungen.Temperatur);
-    m_plan.Liste.Setze(stand.Tags, m_lauf.Bedingungen);
+        ParseTemperature(m_plan.parameters).value_or(m_lauf.Bedingungen.Temperatur);
+    m_plan.LV_Bauliste.SetTags(stand.tags, m_lauf.Bedingungen);
     m_Fra_Rest->ZeigeListe();
     SpieleStill();
     ZeigeInWerkbank();
@@ -390,16 +391,16 @@ void frmMain::StellePlan(const Planstand& stand) {
 // What a run would tell in boxes stands in the workbench.
 void frmMain::SpieleStill() {
     Chk_Speedfaktor_Click();
-    const auto bedingungen = LiesStartbedingungen(m_plan);
+    const auto bedingungen = ParseRunConditions(m_plan);
     if (const auto* const gute = std::get_if<RunConditions>(&bedingungen)) {
         m_lauf.Beginne(*gute);
         m_texte.NachReset();
         std::vector<Message> meldungen;
         MessageCollector liste(meldungen);
-        RunSimulation(m_plan.Liste.Auftraege().Alle(), m_lauf, liste);
+        RunSimulation(m_plan.LV_Bauliste.Orders().All(), m_lauf, liste);
         m_texte.NachLauf(m_lauf.Stand);
-    } else if (m_plan.Liste.Auftraege().IstLeer()) {
-        m_lauf.ResetSimulation(m_plan.Parameter);
+    } else if (m_plan.LV_Bauliste.Orders().IsEmpty()) {
+        m_lauf.ResetSimulation(m_plan.parameters);
         m_texte.NachReset();
         m_texte.NachClear();
     }
@@ -417,7 +418,7 @@ void frmMain::LV_Bauliste_DragDrop(const QString& Source) {
     const auto item = ItemVonBild(Source.toStdString());
     std::optional<Message> meldung;
     if (item) {
-        meldung = m_plan.Liste.AddItem(*item, m_lauf.Bedingungen);
+        meldung = m_plan.LV_Bauliste.AddItem(*item, m_lauf.Bedingungen);
     } else {
         meldung = Message{.text = "KA", .title = "", .icon = MessageIcon::None};
     }
@@ -432,7 +433,7 @@ void frmMain::LV_Bauliste_DragDrop(const QString& Source) {
 
 void frmMain::Cmd_AddProdaenderungsevent_Click() {
     const auto meldung =
-        m_plan.Liste.AddProdaenderungsevent(m_Fra_Special->Faktoren(), m_lauf.Bedingungen);
+        m_plan.LV_Bauliste.AddProduction(m_Fra_Special->Faktoren(), m_lauf.Bedingungen);
     if (meldung) {
         m_umgebung.Boxen.Show(*meldung);
         return;
@@ -447,7 +448,7 @@ void frmMain::ZeigeNeueZeile() {
 }
 
 void frmMain::Cmd_Undo_Click() {
-    m_plan.Liste.Undo();
+    m_plan.LV_Bauliste.RemoveLast();
     m_Fra_Rest->ZeigeListe();
     Bearbeitet();
 }
@@ -458,7 +459,7 @@ void frmMain::Cmd_Clear_Click() {
 }
 
 void frmMain::LeereListe() {
-    m_plan.Liste.Clear();
+    m_plan.LV_Bauliste.Clear();
     m_texte.NachClear();
     m_Fra_Rest->ZeigeListe();
     m_Fra_Rest->Zeige(m_texte);
@@ -473,7 +474,7 @@ void frmMain::Cmd_Simulate_Click() {
 }
 
 void frmMain::Chk_Speedfaktor_Click() {
-    m_lauf.Bedingungen.Speedfaktor = m_plan.Parameter.Speedfaktor();
+    m_lauf.Bedingungen.Speedfaktor = m_plan.parameters.Speedfaktor();
 }
 
 void frmMain::ZeigePlan() {
@@ -497,18 +498,18 @@ void frmMain::StarteSimulation(bool silent) {
     m_Fra_Rest->MacheErsteBauzeitSichtbar();
     m_Fra_Einstellungen->RefreshWeekday();
     Standmeldungen meldungen([this] { ZeigeStandDesLaufs(); }, m_umgebung.Boxen);
-    RunSimulation(m_plan.Liste.Auftraege().Alle(), m_lauf, meldungen);
+    RunSimulation(m_plan.LV_Bauliste.Orders().All(), m_lauf, meldungen);
     m_texte.NachLauf(m_lauf.Stand);
     m_Fra_Rest->Zeige(m_texte);
     m_Fra_Rest->ZeigeBauzeiten();
 }
 
 std::optional<RunConditions> frmMain::PruefeEingaben(bool silent) {
-    const bool leer = m_plan.Liste.Auftraege().IstLeer();
+    const bool leer = m_plan.LV_Bauliste.Orders().IsEmpty();
     if (!leer) {
         FuelleStartdatum();
     }
-    const auto bedingungen = LiesStartbedingungen(m_plan);
+    const auto bedingungen = ParseRunConditions(m_plan);
     const auto* const absage = std::get_if<Message>(&bedingungen);
     if (absage == nullptr) {
         return std::get<RunConditions>(bedingungen);
@@ -522,12 +523,12 @@ std::optional<RunConditions> frmMain::PruefeEingaben(bool silent) {
 
 // Not an edit: the plan lies where it lay, and there is nothing to take back.
 void frmMain::FuelleStartdatum() {
-    const bool liegtInDatei = m_gesichert == StandVon(m_plan);
-    const Startparameter vorher = m_plan.Parameter;
-    FuelleStartdatumAuf(m_plan.Parameter);
-    m_verlauf.SchreibeTagUm(vorher, m_plan.Parameter);
+    const bool liegtInDatei = m_gesichert == SnapshotOf(m_plan);
+    const StartParameters vorher = m_plan.parameters;
+    PadStartDate(m_plan.parameters);
+    m_verlauf.RewriteDay(vorher, m_plan.parameters);
     if (liegtInDatei) {
-        m_gesichert = StandVon(m_plan);
+        m_gesichert = SnapshotOf(m_plan);
     }
 }
 

@@ -127,10 +127,9 @@ class frmMain : public QMainWindow {
     void NimmZurueck();
     void WiederholeZurueckgenommenes();
     /// Takes rows that the workbench made, and a pause in front of the sleep rows.
-    void Uebernimm(const std::vector<std::string>& tags,
-                   const std::optional<SchlafzeitZeile>& pause);
+    void Uebernimm(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause);
     /// Makes the plan what it is to be, and runs it without a box.
-    void StellePlan(const Planstand& stand);
+    void StellePlan(const PlanSnapshot& stand);
     void SpieleStill();
     void BewahreErsetzten() const;
     void MerkeGesichert(const std::filesystem::path& datei);
@@ -148,9 +147,9 @@ class frmMain : public QMainWindow {
     Autosave m_autosave;
     QTimer m_Tmr_Autosave{this};
     Plan m_plan;
-    Listenverlauf m_verlauf;
+    EditHistory m_verlauf;
     /// The plan as it was last loaded from a file of the user's, or saved into one.
-    std::optional<Planstand> m_gesichert;
+    std::optional<PlanSnapshot> m_gesichert;
     Lauf m_lauf;
     Ergebnistexte m_texte;
 

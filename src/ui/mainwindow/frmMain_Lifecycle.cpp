@@ -35,7 +35,7 @@ void frmMain::Form_Load() {
     }
     if (!IstGeschlossen()) {
         m_abschnitt = Abschnitt::Arbeit;
-        m_verlauf.Beginne(StandVon(m_plan));
+        m_verlauf.Begin(SnapshotOf(m_plan));
         ZeigeInWerkbank();
         constexpr std::chrono::seconds kTakt(4);
         m_Tmr_Autosave.start(kTakt);
@@ -174,7 +174,7 @@ void frmMain::Behalte(Abschnitt stand) {
         {Konfiguration::kSchlafzeitenwecker, schalter(*m_Fra_Sleep->Chk_Schlafzeitenwecker)}};
     if (mitPlan) {
         werte.emplace_back(Konfiguration::kItemCount,
-                           std::to_string(m_plan.Liste.Auftraege().Zahl()));
+                           std::to_string(m_plan.LV_Bauliste.Orders().Size()));
     }
     if (m_frmWerkbank) {
         const auto lage = m_frmWerkbank->Lage();
@@ -188,7 +188,7 @@ void frmMain::Behalte(Abschnitt stand) {
 
 void frmMain::mnu_DateiNeu_Click() {
     BewahreErsetzten();
-    m_lauf.ResetSimulation(m_plan.Parameter);
+    m_lauf.ResetSimulation(m_plan.parameters);
     m_texte.NachReset();
     m_Fra_Rest->ZeigeBauzeiten();
     LeereListe();
@@ -221,11 +221,11 @@ void frmMain::mnu_Datei_Speichern_Click() {
 
 // What the program moves on by itself is no place to lie in.
 void frmMain::MerkeGesichert(const std::filesystem::path& datei) {
-    m_gesichert = m_autosave.IstEigene(datei) ? std::nullopt : std::optional(StandVon(m_plan));
+    m_gesichert = m_autosave.IstEigene(datei) ? std::nullopt : std::optional(SnapshotOf(m_plan));
 }
 
 void frmMain::BewahreErsetzten() const {
-    if (m_abschnitt == Abschnitt::Arbeit && m_gesichert != StandVon(m_plan)) {
+    if (m_abschnitt == Abschnitt::Arbeit && m_gesichert != SnapshotOf(m_plan)) {
         m_autosave.BewahreErsetzten(m_plan);
     }
 }

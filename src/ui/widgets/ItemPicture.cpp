@@ -28,12 +28,12 @@ void Itembild::SetzeZeiger(const Ziehzeiger& zeiger) {
     setCursor(m_zeiger.Offen);
 }
 
-void Itembild::SetzeGate(const Hoverinfo& info) {
-    if (m_dragOffen != info.DragOffen) {
-        m_dragOffen = info.DragOffen;
+void Itembild::SetzeGate(const HoverInfo& info) {
+    if (m_dragOffen != info.dragEnabled) {
+        m_dragOffen = info.dragEnabled;
         setCursor(m_dragOffen ? m_zeiger.Offen : QCursor(Qt::ForbiddenCursor));
     }
-    const QString text = AlsQString(info.Tooltip);
+    const QString text = AlsQString(info.tooltip);
     SetzeHinweis(*this, text);
     setAccessibleDescription(text);
 }

@@ -26,7 +26,7 @@ class Itembild : public QLabel {
     void SetzeZeiger(const Ziehzeiger& zeiger);
 
     /// Opens or closes the gate: drag, pointer and hint go together.
-    void SetzeGate(const Hoverinfo& info);
+    void SetzeGate(const HoverInfo& info);
 
   signals:
     /// The pointer moved over the picture, or the keyboard reached it.

@@ -43,10 +43,10 @@ std::string Bytes(const Plan& plan) {
     return profil.Bytes();
 }
 
-Auftragsliste ListeAus(const std::vector<Auftrag>& orders) {
-    Auftragsliste liste;
-    for (const Auftrag& order : orders) {
-        liste.HaengeAn(order);
+OrderList ListeAus(const std::vector<Order>& orders) {
+    OrderList liste;
+    for (const Order& order : orders) {
+        liste.Append(order);
     }
     return liste;
 }
@@ -255,17 +255,17 @@ std::string Suchfeld::Bericht() const {
     if (vorher) {
         text += "\nUnterschied: " + Aenderungstext(nachher.Wertung.Dauer - vorher->Wertung.Dauer);
     }
-    const Auftragsliste& alte = m_gesucht->Vorher.Liste.Auftraege();
-    const Auftragsliste neue = ListeAus(nachher.Orders);
+    const OrderList& alte = m_gesucht->Vorher.LV_Bauliste.Orders();
+    const OrderList neue = ListeAus(nachher.Orders);
     for (const auto& [name, dabei] : {std::pair("\nKommt dazu: ", UeberschussInWorten(neue, alte)),
                                       std::pair("\nEntfällt: ", UeberschussInWorten(alte, neue))}) {
         text += dabei.empty() ? "" : name + dabei;
     }
     const RunConditions& bedingungen = m_gesucht->Aufgabe.Aufgabe.Bedingungen;
-    if (!alte.IstLeer()) {
-        text += "\nJe Stunde vorher: " + ProStundeText(SpieleAb(alte.Alle(), bedingungen).Ende);
+    if (!alte.IsEmpty()) {
+        text += "\nJe Stunde vorher: " + ProStundeText(SpieleAb(alte.All(), bedingungen).Ende);
     }
-    return text + "\nJe Stunde nachher: " + ProStundeText(SpieleAb(neue.Alle(), bedingungen).Ende);
+    return text + "\nJe Stunde nachher: " + ProStundeText(SpieleAb(neue.All(), bedingungen).Ende);
 }
 
 void Suchfeld::Uebernimm() {
@@ -277,7 +277,7 @@ void Suchfeld::Uebernimm() {
         return;
     }
     std::vector<std::string> tags;
-    for (const Auftrag& order : m_gesucht->Bester->Orders) {
+    for (const Order& order : m_gesucht->Bester->Orders) {
         tags.push_back(order.Tag());
     }
     const auto pause = m_gesucht->Aufgabe.Pause;

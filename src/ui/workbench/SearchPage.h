@@ -38,8 +38,7 @@ class Suchfeld : public QWidget {
 
   signals:
     /// The player wants what was found: its rows, and the pause in front of the sleep rows.
-    void Uebernommen(const std::vector<std::string>& tags,
-                     const std::optional<SchlafzeitZeile>& pause);
+    void Uebernommen(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause);
     void Meldung(const std::string& text);
     /// Of the search's own, by its number.
     void StandKam(int nummer, const Fortschritt& stand);

@@ -82,7 +82,7 @@ class Zeitbild::Maler {
             MaleWarten(i);
         }
         for (const Startereignis& start : m_ablauf.Starts) {
-            if (start.Order.Was == Auftrag::Art::Item) {
+            if (start.Order.kind == Order::Kind::Item) {
                 MaleBalken(start);
             }
         }
@@ -164,7 +164,7 @@ class Zeitbild::Maler {
         if (start.Grund.cause == DelayCause::None || !InSicht(von, bis) || bis <= von) {
             return;
         }
-        const QRectF spur = m_bild.Spurflaeche(start.Order.Queue);
+        const QRectF spur = m_bild.Spurflaeche(start.Order.queue);
         QColor farbe = m_bild.m_farben.Warten(start.Grund);
         constexpr int kBlass = 130;
         farbe.setAlpha(kBlass);
@@ -182,7 +182,7 @@ class Zeitbild::Maler {
         }
         const Werkbankfarben& farben = m_bild.m_farben;
         const bool gewaehlt = m_bild.m_auswahl.contains(start.Zeile);
-        m_painter.fillRect(balken, farben.Balken[start.Order.Queue]);
+        m_painter.fillRect(balken, farben.Balken[start.Order.queue]);
         m_painter.setPen(QPen(gewaehlt ? farben.Auswahl : farben.Linie, gewaehlt ? 2 : 1));
         constexpr qreal kSchmal = 3;
         if (gewaehlt || balken.width() > kSchmal) {
@@ -195,7 +195,7 @@ class Zeitbild::Maler {
     }
 
     void MaleInhalt(const Startereignis& start, QRectF platz) {
-        const QPixmap& bild = m_bild.m_bilder[start.Order.Item];
+        const QPixmap& bild = m_bild.m_bilder[start.Order.item];
         const qreal seite = platz.height() - 2;
         if (!bild.isNull() && platz.width() >= seite) {
             m_painter.drawPixmap(QRectF(platz.left(), platz.top() + 1, seite, seite), bild,
@@ -215,7 +215,7 @@ class Zeitbild::Maler {
     void MaleProduktionen() {
         for (const Startereignis& start : m_ablauf.Starts) {
             const qreal x = X(start.Start);
-            if (start.Order.Was != Auftrag::Art::Produktion || !InSicht(x - kRand, x + kRand)) {
+            if (start.Order.kind != Order::Kind::Production || !InSicht(x - kRand, x + kRand)) {
                 continue;
             }
             const bool gewaehlt = m_bild.m_auswahl.contains(start.Zeile);
@@ -426,7 +426,7 @@ std::optional<QRectF> Zeitbild::BalkenVon(std::size_t zeile) const {
     if (start == nullptr) {
         return std::nullopt;
     }
-    const QRectF spur = Spurflaeche(start->Order.Queue);
+    const QRectF spur = Spurflaeche(start->Order.queue);
     return QRectF(start->Start.Seconds(), spur.top() + 1, start->Finish - start->Start,
                   kBalkenanteil * spur.height() - 1);
 }
@@ -439,7 +439,7 @@ std::optional<std::size_t> Zeitbild::ZeileBei(const QPointF& ort, qreal daneben)
     for (std::size_t i = 0; i < m_ablauf->Starts.size(); ++i) {
         const Startereignis& start = m_ablauf->Starts[i];
         const QRectF balken = *BalkenVon(start.Zeile);
-        const QRectF spur = Spurflaeche(start.Order.Queue);
+        const QRectF spur = Spurflaeche(start.Order.queue);
         const bool aufBalken = ort.y() <= balken.bottom();
         const qreal von = aufBalken ? balken.left() : static_cast<qreal>(WartetAb(i).Seconds());
         const qreal bis = aufBalken ? balken.right() : balken.left();

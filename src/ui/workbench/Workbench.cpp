@@ -66,7 +66,7 @@ QLabel* NeueZeile(const char* name, const char* bedeutung, QWidget* parent) {
 
 }  // namespace
 
-frmWerkbank::frmWerkbank(const Plan& plan, const Listenverlauf& verlauf,
+frmWerkbank::frmWerkbank(const Plan& plan, const EditHistory& verlauf,
                          std::function<std::string()> vorher, const Umgebung& umgebung)
     : m_plan(plan),
       m_verlauf(verlauf),
@@ -183,15 +183,15 @@ void frmWerkbank::LegeAus() {
 
 template <class Schritt>
 void frmWerkbank::Bearbeite(Schritt schritt) {
-    Umstellung umstellung(m_plan.Liste);
+    ListEdit umstellung(m_plan.LV_Bauliste);
     schritt(umstellung, m_liste->Gewaehlte());
-    Stelle(umstellung, umstellung.Betroffene());
+    Stelle(umstellung, umstellung.Affected());
 }
 
 void frmWerkbank::Verbinde() {
     connect(m_liste, &Auftragsansicht::AuswahlGeaendert, this, &frmWerkbank::ZeigeAuswahl);
     connect(m_liste, &Auftragsansicht::Verschoben, this, [this](std::size_t vor) {
-        Bearbeite([vor](Umstellung& u, const auto& zeilen) { u.StelleVor(vor, zeilen); });
+        Bearbeite([vor](ListEdit& u, const auto& zeilen) { u.MoveBefore(vor, zeilen); });
     });
     connect(m_liste, &Auftragsansicht::BildAbgelegt, this,
             [this](const QString& bild, std::size_t vor) {
@@ -202,7 +202,7 @@ void frmWerkbank::Verbinde() {
     connect(m_palette, &Itempalette::ItemGewaehlt, this,
             [this](ItemId item) { FuegeEin(RowOf(item).ItemCode, Einfuegestelle()); });
     connect(m_palette, &Itempalette::ProduktionGewaehlt, this, [this](const MineFactors& faktoren) {
-        FuegeEin(Auftrag::Fuer(faktoren).Tag(), Einfuegestelle());
+        FuegeEin(Order::Of(faktoren).Tag(), Einfuegestelle());
     });
     connect(m_zeitleiste, &Zeitleiste::Zeiger, this, &frmWerkbank::ZeigeZeiger);
     connect(m_zeitleiste, &Zeitleiste::Gewaehlt, this,
@@ -322,19 +322,20 @@ void frmWerkbank::ZeigePlan() {
 }
 
 void frmWerkbank::Spiele() {
-    if (m_schritte != m_verlauf.Schritte()) {
-        m_schritte = m_verlauf.Schritte();
+    if (m_schritte != m_verlauf.StepCount()) {
+        m_schritte = m_verlauf.StepCount();
         m_dauerDavor = m_ablauf ? std::optional(m_ablauf->Dauer().Seconds()) : std::nullopt;
     }
-    const auto bedingungen = LiesStartbedingungen(m_plan);
+    const auto bedingungen = ParseRunConditions(m_plan);
     if (const auto* const absage = std::get_if<Message>(&bedingungen)) {
         m_ablauf.reset();
-        Melde(m_plan.Liste.Auftraege().IstLeer() ? "" : absage->text);
+        Melde(m_plan.LV_Bauliste.Orders().IsEmpty() ? "" : absage->text);
     } else {
-        m_ablauf = SpieleAb(m_plan.Liste.Auftraege().Alle(), std::get<RunConditions>(bedingungen));
+        m_ablauf =
+            SpieleAb(m_plan.LV_Bauliste.Orders().All(), std::get<RunConditions>(bedingungen));
         Melde(Meldungszeile(*m_ablauf));
     }
-    const bool bearbeitet = m_verlauf.HatVorige() || m_verlauf.HatNaechste();
+    const bool bearbeitet = m_verlauf.CanUndo() || m_verlauf.CanRedo();
     m_aenderung = bearbeitet && m_dauerDavor && m_ablauf
                       ? std::optional(m_ablauf->Dauer().Seconds() - *m_dauerDavor)
                       : std::nullopt;
@@ -345,8 +346,8 @@ void frmWerkbank::ZeigeFuss() {
                              ? QStringLiteral("Dauer: ") + AlsQString(Dauertext(m_ablauf->Ende))
                              : QStringLiteral("Dauer: -"));
     m_LBL_Aenderung->setText(m_aenderung ? AlsQString(Aenderungstext(*m_aenderung)) : QString());
-    m_zurueck->setEnabled(m_verlauf.HatVorige());
-    m_vor->setEnabled(m_verlauf.HatNaechste());
+    m_zurueck->setEnabled(m_verlauf.CanUndo());
+    m_vor->setEnabled(m_verlauf.CanRedo());
 }
 
 void frmWerkbank::ZeigeAuswahl() {
@@ -366,9 +367,9 @@ void frmWerkbank::ZeigeAuswahl() {
 
 void frmWerkbank::ZeigeEinwaende() {
     m_palette->SetzeEinwaende([&](ItemId item) {
-        Umstellung umstellung(m_plan.Liste);
-        umstellung.FuegeEin(Einfuegestelle(), RowOf(item).ItemCode);
-        return umstellung.Einwand();
+        ListEdit umstellung(m_plan.LV_Bauliste);
+        umstellung.Insert(Einfuegestelle(), RowOf(item).ItemCode);
+        return umstellung.Objection();
     });
 }
 
@@ -397,12 +398,12 @@ void frmWerkbank::Melde(const std::string& text) {
     }
 }
 
-void frmWerkbank::Stelle(const Umstellung& umstellung, std::vector<std::size_t> auswahl) {
+void frmWerkbank::Stelle(const ListEdit& umstellung, std::vector<std::size_t> auswahl) {
     const auto tags = umstellung.Tags();
-    if (tags == m_plan.Liste.Tags()) {
+    if (tags == m_plan.LV_Bauliste.Tags()) {
         return;
     }
-    if (const auto einwand = umstellung.Einwand()) {
+    if (const auto einwand = umstellung.Objection()) {
         Melde(*einwand);
         return;
     }
@@ -411,25 +412,25 @@ void frmWerkbank::Stelle(const Umstellung& umstellung, std::vector<std::size_t> 
 }
 
 void frmWerkbank::Hoch() {
-    Bearbeite([](Umstellung& u, const auto& zeilen) { u.Hoch(zeilen); });
+    Bearbeite([](ListEdit& u, const auto& zeilen) { u.MoveUp(zeilen); });
 }
 
 void frmWerkbank::Runter() {
-    Bearbeite([](Umstellung& u, const auto& zeilen) { u.Runter(zeilen); });
+    Bearbeite([](ListEdit& u, const auto& zeilen) { u.MoveDown(zeilen); });
 }
 
 void frmWerkbank::Loesche() {
-    Bearbeite([](Umstellung& u, const auto& zeilen) { u.Loesche(zeilen); });
+    Bearbeite([](ListEdit& u, const auto& zeilen) { u.Remove(zeilen); });
 }
 
 void frmWerkbank::Verdopple() {
-    Bearbeite([](Umstellung& u, const auto& zeilen) { u.Verdopple(zeilen); });
+    Bearbeite([](ListEdit& u, const auto& zeilen) { u.Duplicate(zeilen); });
 }
 
 // What was chosen stays so: the next row goes in behind this one.
 void frmWerkbank::FuegeEin(std::string_view tag, std::size_t vor) {
-    Umstellung umstellung(m_plan.Liste);
-    umstellung.FuegeEin(vor, tag);
+    ListEdit umstellung(m_plan.LV_Bauliste);
+    umstellung.Insert(vor, tag);
     auto auswahl = m_liste->Gewaehlte();
     for (std::size_t& zeile : auswahl) {
         zeile += zeile >= vor ? 1 : 0;
@@ -439,7 +440,7 @@ void frmWerkbank::FuegeEin(std::string_view tag, std::size_t vor) {
 
 std::size_t frmWerkbank::Einfuegestelle() const {
     const auto gewaehlt = m_liste->Gewaehlte();
-    return gewaehlt.empty() ? m_plan.Liste.Zeilen().size() : gewaehlt.front();
+    return gewaehlt.empty() ? m_plan.LV_Bauliste.Rows().size() : gewaehlt.front();
 }
 
 void frmWerkbank::BildSpeichern() {
@@ -485,13 +486,14 @@ void frmWerkbank::SchreibeDatei(const std::filesystem::path& datei, const std::s
 }
 
 Tabellenmodell::Quelle frmWerkbank::Listenquelle() const {
-    return {.Zeilen = [this] { return m_plan.Liste.Zeilen().size(); },
+    return {.Zeilen = [this] { return m_plan.LV_Bauliste.Rows().size(); },
             .Text = [this](std::size_t zeile,
                            int spalte) { return AlsQString(Zellentext(zeile, spalte)); },
             .Farbe =
                 [this](std::size_t zeile, int spalte) {
-                    const bool rot = spalte == kFaktor &&
-                                     m_plan.Liste.Zeilen()[zeile].SubItems2Farbe == Farbe::Rot;
+                    const bool rot =
+                        spalte == kFaktor &&
+                        m_plan.LV_Bauliste.Rows()[zeile].SubItems2Color == TextColor::Red;
                     return rot ? m_zeitleiste->Mangelfarbe() : palette().color(QPalette::Text);
                 },
             .Beschreibung =
@@ -506,11 +508,11 @@ Tabellenmodell::Quelle frmWerkbank::Listenquelle() const {
 }
 
 std::string frmWerkbank::Zellentext(std::size_t zeile, int spalte) const {
-    const BaulistenZeile& texte = m_plan.Liste.Zeilen()[zeile];
+    const BuildListRow& texte = m_plan.LV_Bauliste.Rows()[zeile];
     const Startereignis* const start = m_ablauf ? m_ablauf->StartDer(zeile) : nullptr;
     switch (spalte) {
         case kNummer:
-            return texte.Text;
+            return texte.text;
         case kAuftrag:
             return texte.SubItems1;
         case kStart:

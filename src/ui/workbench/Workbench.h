@@ -34,7 +34,7 @@ class frmWerkbank : public QWidget {
   public:
     /// All of them must outlive it.
     /// `vorher` tells how many seconds before a start the alarm rings, as its input has it.
-    frmWerkbank(const Plan& plan, const Listenverlauf& verlauf, std::function<std::string()> vorher,
+    frmWerkbank(const Plan& plan, const EditHistory& verlauf, std::function<std::string()> vorher,
                 const Umgebung& umgebung);
     frmWerkbank(const frmWerkbank&) = delete;
     frmWerkbank& operator=(const frmWerkbank&) = delete;
@@ -51,8 +51,7 @@ class frmWerkbank : public QWidget {
 
   signals:
     /// The rows that the plan is to have, and what is to stand in front of its sleep rows.
-    void Umgestellt(const std::vector<std::string>& tags,
-                    const std::optional<SchlafzeitZeile>& pause);
+    void Umgestellt(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause);
     void ZurueckGewuenscht();
     void VorGewuenscht();
 
@@ -78,7 +77,7 @@ class frmWerkbank : public QWidget {
     void Melde(const std::string& text);
 
     /// Carries an edit out, after which these rows are chosen, or tells why it can't be.
-    void Stelle(const Umstellung& umstellung, std::vector<std::size_t> auswahl);
+    void Stelle(const ListEdit& umstellung, std::vector<std::size_t> auswahl);
     /// Makes one of an edit of the chosen rows, which stay so.
     template <class Schritt>
     void Bearbeite(Schritt schritt);
@@ -97,7 +96,7 @@ class frmWerkbank : public QWidget {
     [[nodiscard]] std::string Zellentext(std::size_t zeile, int spalte) const;
 
     const Plan& m_plan;
-    const Listenverlauf& m_verlauf;
+    const EditHistory& m_verlauf;
     std::function<std::string()> m_vorher;
     const Umgebung& m_umgebung;
     /// Nothing, with the reason in the strip, if the plan can't be run.
