@@ -28,9 +28,9 @@ class Schweigend final : public MessageSink {
 };
 
 /// Counts starts.
-class Zaehler final : public Laufbeobachter {
+class Zaehler final : public RunObserver {
   public:
-    void Start(const Startereignis& /*ereignis*/) override { ++Starts; }
+    void OnStart(const StartEvent& /*ereignis*/) override { ++Starts; }
 
     std::size_t Starts = 0;
 };
@@ -96,10 +96,10 @@ void Laufen(benchmark::State& state) {
     Schweigend meldungen;
     const std::size_t vorher = Allokationen();
     for (auto _ : state) {
-        Lauf lauf;
-        lauf.Beginne(bedingungen);
+        LastRun lauf;
+        lauf.ResetSimulation(bedingungen);
         RunSimulation(liste.All(), lauf, meldungen);
-        benchmark::DoNotOptimize(lauf.Stand);
+        benchmark::DoNotOptimize(lauf.state);
     }
     MerkeAllokationen(state, vorher);
 }
@@ -113,7 +113,7 @@ void Zaehlen(benchmark::State& state) {
     for (auto _ : state) {
         Zaehler zaehler;
         Simulation simulation(liste.All(), bedingungen);
-        simulation.Laufe(zaehler);
+        simulation.RunToEnd(zaehler);
         benchmark::DoNotOptimize(zaehler.Starts);
     }
     MerkeAllokationen(state, vorher);
@@ -126,12 +126,12 @@ void Fortsetzen(benchmark::State& state) {
     const RunConditions bedingungen = Bedingungen();
     Zaehler zaehler;
     Simulation stand(liste.All(), bedingungen);
-    while (stand.Eingereiht() < liste.Size() * 2 / 3 || stand.WartetEiner()) {
-        stand.Schritt(zaehler);
+    while (stand.NextListRow() < liste.Size() * 2 / 3 || stand.HasPendingOrder()) {
+        stand.Step(zaehler);
     }
     for (auto _ : state) {
         Simulation simulation = stand;
-        simulation.Laufe(zaehler);
+        simulation.RunToEnd(zaehler);
         benchmark::DoNotOptimize(zaehler.Starts);
     }
 }

@@ -19,10 +19,10 @@ void Drucke(const Planlauf& lauf) {
     SchreibeCsvKopf(strom);
     SchreibeCsv(strom, lauf);
     strom << JsonText(lauf) << RefreshWeekday(lauf.Plan.parameters).hint
-          << PunkteMitVorratText(lauf.Lauf.Stand);
+          << PointsWithStockText(lauf.Lauf.state);
     for (const auto& bauzeit : lauf.Lauf.LV_Bauzeiten) {
-        strom << FaelligeBauzeiten(lauf.Lauf.LV_Bauzeiten, bauzeit.Start, "0")
-              << FaelligeSchlafzeiten(lauf.Plan.LV_Schlafzeiten, bauzeit.Start);
+        strom << DueStarts(lauf.Lauf.LV_Bauzeiten, bauzeit.start, "0")
+              << DueSleepEnds(lauf.Plan.LV_Schlafzeiten, bauzeit.start);
     }
     Verlange(lauf.Gelaufen || !lauf.Meldungen.empty(), "a plan runs or says why not");
 }

@@ -117,7 +117,7 @@ TEST_F(Fenster, ListenFassenIhreLaengstenTexte) {
     Plan plan = PlanAus("GX:10:10:10");
     for (const ItemRow& item : ItemTable()) {
         for (int i = 0; i < 12; ++i) {
-            ASSERT_FALSE(plan.LV_Bauliste.AddItem(item.item, m_fenster.DerLauf().Bedingungen));
+            ASSERT_FALSE(plan.LV_Bauliste.AddItem(item.item, m_fenster.DerLauf().conditions));
         }
     }
     plan.LV_Schlafzeiten.assign(30,
@@ -433,7 +433,7 @@ TEST_F(Fenster, KlickpufferSpeedfaktorUndBeschreibungen) {
     EXPECT_EQ(Text("LBL_KlickPuffer"), "10:00");
     EXPECT_EQ(m_fenster.DerPlan().parameters.KlickPuffer, 600);
     Druecke("Chk_Speedfaktor");
-    EXPECT_EQ(m_fenster.DerLauf().Bedingungen.Speedfaktor, 2);
+    EXPECT_EQ(m_fenster.DerLauf().conditions.Speedfaktor, 2);
     Druecke("cmd_ShowDesc");
     EXPECT_EQ(Text("cmd_ShowDesc"), "ein/AUS");
     EXPECT_FALSE(Finde("LBLDesc(0)").isVisible() || Finde("LBLDesc(19)").isVisible());
@@ -586,7 +586,7 @@ TEST_F(Fenster, MeldungImLaufZeigtDenStandDesLaufs) {
 TEST_F(Fenster, NeuerLaufBeginntMitLeererListe) {
     Plan plan;
     for (int i = 0; i < 60; ++i) {
-        ASSERT_FALSE(plan.LV_Bauliste.AddItem(ItemId::SKW, m_fenster.DerLauf().Bedingungen));
+        ASSERT_FALSE(plan.LV_Bauliste.AddItem(ItemId::SKW, m_fenster.DerLauf().conditions));
     }
     plan.parameters = m_fenster.DerPlan().parameters;
     Lade(plan);

@@ -15,13 +15,13 @@ namespace tarvelin {
 namespace {
 
 /// Whether an order started that can't be paid, or whose gate was shut.
-class Schiedsrichter final : public Laufbeobachter {
+class Schiedsrichter final : public RunObserver {
   public:
-    void Start(const Startereignis& ereignis) override {
-        Gestartet = ereignis.Zeile + 1;
-        Gut = Gut && !ereignis.TorZu;
+    void OnStart(const StartEvent& ereignis) override {
+        Gestartet = ereignis.row + 1;
+        Gut = Gut && !ereignis.gateClosed;
     }
-    void Schulden(const GameState& /*stand*/) override { Gut = false; }
+    void OnNegativeStock(const GameState& /*stand*/) override { Gut = false; }
 
     std::size_t Gestartet = 0;
     bool Gut = true;
@@ -32,7 +32,7 @@ class Beweis {
     explicit Beweis(const Suchaufgabe& aufgabe)
         : m_bedingungen(aufgabe.Bedingungen),
           m_uebrig(aufgabe.Orders),
-          m_spaeter(Simulation({}, aufgabe.Bedingungen).Stand()) {
+          m_spaeter(Simulation({}, aufgabe.Bedingungen).State()) {
         m_spaeter.Stufe = Endstufen(aufgabe.Orders);
     }
 
@@ -47,7 +47,7 @@ class Beweis {
             Spiele(lauf, m_liste.size() + 1);
             return;
         }
-        if (FruehestesEnde(lauf.Stand()) >= m_beste) {
+        if (FruehestesEnde(lauf.State()) >= m_beste) {
             return;
         }
         PerItem<bool> versucht{};
@@ -72,16 +72,16 @@ class Beweis {
 
     /// Goes on until so many orders have started, or to the end. Nothing if one can't.
     std::optional<Simulation> Spiele(Simulation lauf, std::size_t starts) {
-        lauf.WechsleAuftraege(m_liste);
+        lauf.ReplaceOrders(m_liste);
         Schiedsrichter schiedsrichter;
-        while (!lauf.IstFertig() && schiedsrichter.Gestartet < starts) {
-            lauf.Schritt(schiedsrichter);
+        while (!lauf.IsFinished() && schiedsrichter.Gestartet < starts) {
+            lauf.Step(schiedsrichter);
             if (!schiedsrichter.Gut) {
                 return std::nullopt;
             }
         }
-        if (lauf.IstFertig()) {
-            m_beste = std::min(m_beste, lauf.Stand().secsgone.Seconds());
+        if (lauf.IsFinished()) {
+            m_beste = std::min(m_beste, lauf.State().secsgone.Seconds());
         }
         return lauf;
     }

@@ -114,7 +114,7 @@ TEST(Konfiguration, SchreibtNebenFremdeZeilenUndVerliertSichOhneOrdner) {
 
 TEST(Wecker, KlingeltAufDieSekunde) {
     const DateTime start = *ParseDateTime("18.11.2006 12:00:00");
-    const Bauzeiten bauzeiten{{.Start = start}, {.Start = start + 86400}, {.Start = start}};
+    const Schedule bauzeiten{{.start = start}, {.start = start + 86400}, {.start = start}};
     struct Fall {
         const char* Jetzt;
         const char* Vorher;
@@ -126,19 +126,19 @@ TEST(Wecker, KlingeltAufDieSekunde) {
           Fall{"18.11.2006 12:00:00", "86400", 1}, Fall{"18.11.2006 11:59:59", "86401", 0},
           Fall{"18.11.2006 12:00:00", "", 0}, Fall{"18.11.2006 11:59:59", "eins", 0},
           Fall{"18.11.2006 12:00:00", "99999999999999999999", 0}}) {
-        EXPECT_EQ(FaelligeBauzeiten(bauzeiten, *ParseDateTime(jetzt), vorher), erwartet)
+        EXPECT_EQ(DueStarts(bauzeiten, *ParseDateTime(jetzt), vorher), erwartet)
             << jetzt << " " << vorher;
     }
-    EXPECT_EQ(FaelligeBauzeiten({}, start, "0"), 0U);
+    EXPECT_EQ(DueStarts({}, start, "0"), 0U);
 }
 
 TEST(Wecker, KlingeltEineMinuteVorDemAufwachen) {
     const SleepTable tabelle{{"17.11.2006 22:30", "18.11.2006 06:30"},
                              {"x", "Unsinn"},
                              {"17.11.2006 23:30", "18.11.2006 06:30"}};
-    EXPECT_EQ(FaelligeSchlafzeiten(tabelle, *ParseDateTime("18.11.2006 06:29:00")), 2U);
-    EXPECT_EQ(FaelligeSchlafzeiten(tabelle, *ParseDateTime("18.11.2006 06:29:01")), 0U);
-    EXPECT_EQ(FaelligeSchlafzeiten(tabelle, *ParseDateTime("18.11.2006 06:30:00")), 0U);
+    EXPECT_EQ(DueSleepEnds(tabelle, *ParseDateTime("18.11.2006 06:29:00")), 2U);
+    EXPECT_EQ(DueSleepEnds(tabelle, *ParseDateTime("18.11.2006 06:29:01")), 0U);
+    EXPECT_EQ(DueSleepEnds(tabelle, *ParseDateTime("18.11.2006 06:30:00")), 0U);
 }
 
 TEST(Dateisystem, SchautInOrdner) {

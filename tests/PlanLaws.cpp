@@ -38,16 +38,18 @@ class Stumm final : public MessageSink {
 };
 
 /// All that a run tells, and the state behind each of its steps.
-class Mitschrift final : public Laufbeobachter {
+class Mitschrift final : public RunObserver {
   public:
-    void Start(const Startereignis& ereignis) override {
+    void OnStart(const StartEvent& ereignis) override {
         Starts.push_back(ereignis);
         StartIm.push_back(Staende.size());
     }
-    void Schulden(const GameState& /*stand*/) override { SchuldenIm.push_back(Staende.size()); }
-    void NachSchritt(const GameState& stand) override { Staende.push_back(stand); }
+    void OnNegativeStock(const GameState& /*stand*/) override {
+        SchuldenIm.push_back(Staende.size());
+    }
+    void OnStepDone(const GameState& stand) override { Staende.push_back(stand); }
 
-    std::vector<Startereignis> Starts;
+    std::vector<StartEvent> Starts;
     /// The step of each start, and of each debt that was told.
     std::vector<std::size_t> StartIm;
     std::vector<std::size_t> SchuldenIm;
@@ -86,11 +88,11 @@ RunConditions BedingungenVon(const Plan& plan) {
 
 /// What goes on from a point of the history, less what the start of that step costs.
 PerResource<FixedPoint> VorratNachSchritt(const GameState& vorher, const GameState& nachher,
-                                          const Startereignis* start) {
-    const Verlauf verlauf(vorher);
-    auto vorrat = VorratNach(verlauf.Punkte().back(), nachher.secsgone - vorher.secsgone);
-    if (start != nullptr && start->Order.kind == Order::Kind::Item) {
-        const Cost& preis = CostOf(start->Order.item, static_cast<Byte>(start->Nummer - 1));
+                                          const StartEvent* start) {
+    const HistoryRecorder verlauf(vorher);
+    auto vorrat = StockAfter(verlauf.Recorded().back(), nachher.secsgone - vorher.secsgone);
+    if (start != nullptr && start->order.kind == Order::Kind::Item) {
+        const Cost& preis = CostOf(start->order.item, static_cast<Byte>(start->number - 1));
         for (const Resource r : kResources) {
             vorrat[r] = vorrat[r] - FixedPoint::FromDouble(preis[r]);
         }
@@ -121,12 +123,12 @@ Befund PruefeVorraete(const Mitschrift& lauf, const GameState& anfang) {
 /// The code's first letter names the queue, whatever the run thinks.
 Befund PruefeSchlangen(const Mitschrift& lauf) {
     std::map<char, SimTime> frei;
-    for (const Startereignis& start : lauf.Starts) {
-        SimTime& bis = frei[start.Order.Tag().front()];
-        if (start.Order.kind == Order::Kind::Item && start.Start < bis) {
-            return "row " + std::to_string(start.Zeile + 1) + " starts within its queue's last one";
+    for (const StartEvent& start : lauf.Starts) {
+        SimTime& bis = frei[start.order.Tag().front()];
+        if (start.order.kind == Order::Kind::Item && start.start < bis) {
+            return "row " + std::to_string(start.row + 1) + " starts within its queue's last one";
         }
-        bis = std::max(bis, start.Finish);
+        bis = std::max(bis, start.finish);
     }
     return {};
 }
@@ -159,8 +161,8 @@ Simulation LaufBis(std::span<const Order> auftraege, std::size_t n,
                    const RunConditions& bedingungen) {
     Simulation lauf(auftraege.first(n), bedingungen);
     Mitschrift stumm;
-    while (lauf.Eingereiht() < n || lauf.WartetEiner()) {
-        lauf.Schritt(stumm);
+    while (lauf.NextListRow() < n || lauf.HasPendingOrder()) {
+        lauf.Step(stumm);
     }
     return lauf;
 }
@@ -305,17 +307,17 @@ Befund PruefeBuecher(const Plan& plan) {
     const RunConditions bedingungen = BedingungenVon(plan);
     const OrderList& liste = plan.LV_Bauliste.Orders();
     Simulation simulation(liste.All(), bedingungen);
-    const GameState anfang = simulation.Stand();
+    const GameState anfang = simulation.State();
     Mitschrift lauf;
-    simulation.Laufe(lauf);
+    simulation.RunToEnd(lauf);
     for (std::size_t i = 0; i < liste.Size(); ++i) {
-        if (lauf.Starts.size() != liste.Size() || lauf.Starts[i].Zeile != i ||
-            lauf.Starts[i].Order != liste.All()[i]) {
+        if (lauf.Starts.size() != liste.Size() || lauf.Starts[i].row != i ||
+            lauf.Starts[i].order != liste.All()[i]) {
             return "row " + std::to_string(i + 1) + " hasn't started in its turn";
         }
     }
     for (const Befund& befund : {PruefeSchlangen(lauf), PruefeVorraete(lauf, anfang),
-                                 PruefeSummen(liste, simulation.Stand())}) {
+                                 PruefeSummen(liste, simulation.State())}) {
         if (!befund.empty()) {
             return befund;
         }
@@ -331,19 +333,19 @@ Befund PruefeWiederaufnahme(const Plan& plan) {
     Simulation lauf(orders, bedingungen);
     std::vector<Simulation> kopien;
     Mitschrift ganz;
-    while (!lauf.IstFertig()) {
+    while (!lauf.IsFinished()) {
         kopien.push_back(lauf);
-        lauf.Schritt(ganz);
+        lauf.Step(ganz);
     }
     for (std::size_t schritt = 0; schritt < kopien.size(); schritt += 1 + kopien.size() / kProben) {
-        const GameState vorher = kopien[schritt].Stand();
+        const GameState vorher = kopien[schritt].State();
         Simulation kopie = kopien[schritt];
         Mitschrift rest;
-        kopie.Laufe(rest);
-        if (!GehtWeiterWie(ganz, schritt, rest) || kopie.Stand() != lauf.Stand()) {
+        kopie.RunToEnd(rest);
+        if (!GehtWeiterWie(ganz, schritt, rest) || kopie.State() != lauf.State()) {
             return "a copy goes on otherwise from step " + std::to_string(schritt);
         }
-        if (kopien[schritt].Stand() != vorher) {
+        if (kopien[schritt].State() != vorher) {
             return "a copy has changed what it was copied from";
         }
     }
@@ -352,11 +354,11 @@ Befund PruefeWiederaufnahme(const Plan& plan) {
         std::ranges::reverse(andere.begin() + static_cast<std::ptrdiff_t>(n), andere.end());
         Simulation neu(andere, bedingungen);
         Mitschrift vonVorn;
-        neu.Laufe(vonVorn);
+        neu.RunToEnd(vonVorn);
         Simulation fortgesetzt = LaufBis(orders, n, bedingungen);
-        fortgesetzt.WechsleAuftraege(andere);
+        fortgesetzt.ReplaceOrders(andere);
         Mitschrift rest;
-        fortgesetzt.Laufe(rest);
+        fortgesetzt.RunToEnd(rest);
         if (!GehtWeiterWie(vonVorn, vonVorn.Staende.size() - rest.Staende.size(), rest) ||
             rest.Starts.size() != orders.size() - n) {
             return "a run goes on otherwise behind row " + std::to_string(n);
@@ -372,9 +374,9 @@ Befund PruefeZeitsprung(const Plan& plan) {
     const RunConditions bedingungen = BedingungenVon(plan);
     Simulation lauf(plan.LV_Bauliste.Orders().All(), bedingungen);
     Mitschrift stumm;
-    lauf.Laufe(stumm);
-    GameState gesprungen = lauf.Stand();
-    GameState gegangen = lauf.Stand();
+    lauf.RunToEnd(stumm);
+    GameState gesprungen = lauf.State();
+    GameState gegangen = lauf.State();
     std::int64_t teiler = kStunde;
     for (const FixedPoint rate : gesprungen.ProStunde) {
         teiler = std::gcd(teiler, rate.Raw());
@@ -397,9 +399,9 @@ Befund PruefeWiederholung(const Plan& plan) {
     const std::string einmal = JsonText(lauf);
     if (lauf.Gelaufen) {
         Stumm meldungen;
-        lauf.Lauf.Beginne(BedingungenVon(lauf.Plan));
+        lauf.Lauf.ResetSimulation(BedingungenVon(lauf.Plan));
         RunSimulation(lauf.Plan.LV_Bauliste.Orders().All(), lauf.Lauf, meldungen);
-        lauf.Texte.NachLauf(lauf.Lauf.Stand);
+        lauf.Texte.AfterRun(lauf.Lauf.state);
     }
     return JsonText(lauf) == einmal ? "" : "a second run has another result";
 }
@@ -409,15 +411,15 @@ Befund PruefeKurve(const Plan& plan) {
         return {};
     }
     const RunConditions bedingungen = BedingungenVon(plan);
-    const Ablauf ablauf = SpieleAb(plan.LV_Bauliste.Orders().All(), bedingungen);
+    const RunTrace ablauf = TraceRun(plan.LV_Bauliste.Orders().All(), bedingungen);
     Simulation simulation(plan.LV_Bauliste.Orders().All(), bedingungen);
     Mitschrift lauf;
-    lauf.NachSchritt(simulation.Stand());
-    simulation.Laufe(lauf);
-    const auto nachZeit = [](const Verlaufspunkt& a, const Verlaufspunkt& b) {
-        return a.Zeit >= b.Zeit;
+    lauf.OnStepDone(simulation.State());
+    simulation.RunToEnd(lauf);
+    const auto nachZeit = [](const HistoryPoint& a, const HistoryPoint& b) {
+        return a.time >= b.time;
     };
-    if (std::ranges::adjacent_find(ablauf.Kurve, nachZeit) != ablauf.Kurve.end()) {
+    if (std::ranges::adjacent_find(ablauf.curve, nachZeit) != ablauf.curve.end()) {
         return "the curve goes back in time";
     }
     for (std::size_t i = 0; i < lauf.Staende.size(); ++i) {
@@ -427,14 +429,14 @@ Befund PruefeKurve(const Plan& plan) {
         for (std::size_t j = i + 1; j < lauf.Staende.size(); ++j) {
             letzter = lauf.Staende[j].secsgone <= um ? j : letzter;
         }
-        const Verlaufspunkt& punkt = PunktUm(ablauf.Kurve, um);
+        const HistoryPoint& punkt = PointAt(ablauf.curve, um);
         const GameState& stand = lauf.Staende[letzter];
-        if (punkt.Zeit != stand.secsgone || punkt.Vorrat != stand.stock ||
-            punkt.ProStunde != stand.ProStunde || punkt.Stufen != stand.Stufe) {
+        if (punkt.time != stand.secsgone || punkt.stock != stand.stock ||
+            punkt.ProStunde != stand.ProStunde || punkt.Stufe != stand.Stufe) {
             return "the curve is wrong at " + std::to_string(um.Seconds());
         }
     }
-    return ablauf.Ende == simulation.Stand() && ablauf.Starts == lauf.Starts
+    return ablauf.end == simulation.State() && ablauf.starts == lauf.Starts
                ? ""
                : "a run that is drawn is another one";
 }
@@ -487,27 +489,27 @@ Befund PruefeVergleich(const Plan& plan) {
     std::vector<Order> andere(orders.begin(), orders.end());
     std::ranges::reverse(andere);
     andere.resize(andere.size() / 2 + 1);
-    const Ablauf a = SpieleAb(orders, bedingungen);
-    const Ablauf b = SpieleAb(andere, bedingungen);
-    if (!Vergleiche(a, a).Unterschiede.empty()) {
+    const RunTrace a = TraceRun(orders, bedingungen);
+    const RunTrace b = TraceRun(andere, bedingungen);
+    if (!Compare(a, a).differences.empty()) {
         return "a run differs from itself";
     }
-    const Vergleich hin = Vergleiche(a, b);
-    Vergleich her = Vergleiche(b, a);
-    for (Vergleichszeile& zeile : her.Unterschiede) {
-        std::swap(zeile.A, zeile.B);
+    const Comparison hin = Compare(a, b);
+    Comparison her = Compare(b, a);
+    for (ComparisonRow& zeile : her.differences) {
+        std::swap(zeile.a, zeile.b);
     }
-    if (hin.A != her.B || hin.B != her.A || hin.Unterschiede != her.Unterschiede) {
+    if (hin.a != her.b || hin.b != her.a || hin.differences != her.differences) {
         return "a comparison has no mirror";
     }
     // Each start of either is in it, or the same in both.
     std::size_t in_a = 0;
     std::size_t in_b = 0;
-    for (const Vergleichszeile& zeile : hin.Unterschiede) {
-        in_a += zeile.A ? 1U : 0U;
-        in_b += zeile.B ? 1U : 0U;
+    for (const ComparisonRow& zeile : hin.differences) {
+        in_a += zeile.a ? 1U : 0U;
+        in_b += zeile.b ? 1U : 0U;
     }
-    return a.Starts.size() - in_a == b.Starts.size() - in_b ? "" : "a comparison loses orders";
+    return a.starts.size() - in_a == b.starts.size() - in_b ? "" : "a comparison loses orders";
 }
 
 Befund PruefeGesetze(const Plan& plan) {

@@ -16,14 +16,14 @@ Plan MitPuffer(std::string_view tags, int puffer) {
 
 TEST(Ergebnistexte, FolgenLaufClearUndReset) {
     const Probe probe(MitPuffer("GM", 5));
-    Ergebnistexte texte;
-    texte.NachLauf(probe.Gelaufen.Stand);
+    ResultTexts texte;
+    texte.AfterRun(probe.Gelaufen.state);
     EXPECT_EQ(texte.LBL_Timegone2, "Dauer: 00 Tage 00:01:53");
     EXPECT_EQ(texte.LBL_Punkte, "0,075 P");
-    texte.NachClear();
+    texte.AfterClear();
     EXPECT_EQ(texte.LBL_Timegone + texte.LBL_Met, "Dauer: dd:hh:mm:ss500");
     EXPECT_EQ(texte.LBL_Punkte, "0,075 P");
-    texte.NachReset();
+    texte.AfterReset();
     EXPECT_EQ(texte.LBL_Timegone2 + texte.LBL_Punkte, "Dauer: dd:hh:mm:ss0");
 }
 
@@ -61,13 +61,15 @@ TEST(Lauf, SchuldenJedesRohstoffsWerdenGemeldet) {
 }
 
 /// Counts what orders bring that no rule knows.
-class Fremdenzaehler final : public Laufbeobachter {
+class Fremdenzaehler final : public RunObserver {
   public:
-    void Start(const Startereignis& ereignis) override { Letzter = ereignis; }
-    void Unbekannt(Unbekanntes was) override { ++(was == Unbekanntes::Start ? Starts : Zeiten); }
-    void Piepton() override { ++Pieptoene; }
+    void OnStart(const StartEvent& ereignis) override { Letzter = ereignis; }
+    void OnUnknownOrder(UnknownOrderAt was) override {
+        ++(was == UnknownOrderAt::Start ? Starts : Zeiten);
+    }
+    void OnEmptyStep() override { ++Pieptoene; }
 
-    Startereignis Letzter;
+    StartEvent Letzter;
     int Starts = 0;
     int Zeiten = 0;
     int Pieptoene = 0;
@@ -77,10 +79,10 @@ TEST(Lauf, UnbekannteAuftraegeFallenWeg) {
     const auto laufe = [](const std::vector<Order>& orders, Long puffer) {
         const RunConditions bedingungen{.Speedfaktor = 1, .KlickPuffer = puffer};
         Fremdenzaehler zaehler;
-        Simulation(orders, bedingungen).Laufe(zaehler);
-        EXPECT_EQ(zaehler.Letzter.Zeile, orders.size() - 1);
+        Simulation(orders, bedingungen).RunToEnd(zaehler);
+        EXPECT_EQ(zaehler.Letzter.row, orders.size() - 1);
         return std::array{zaehler.Starts, zaehler.Zeiten, zaehler.Pieptoene,
-                          static_cast<int>(zaehler.Letzter.Start.Seconds())};
+                          static_cast<int>(zaehler.Letzter.start.Seconds())};
     };
     const Order mine = Order::Of(ItemId::MetMine);
     const Order quatsch = Order::FromTag("Quatsch");
@@ -94,16 +96,16 @@ TEST(Lauf, UnbekannteAuftraegeFallenWeg) {
 
 TEST(Lauf, HaeltDieUhrAmEndeIhresBereichs) {
     const Probe probe(MitPuffer("GW WR GX:10:10:10 FS GX:5:5:5 FE GM GM", 600));
-    EXPECT_EQ(probe.Gelaufen.Stand.secsgone.Seconds(), 2147483647);
+    EXPECT_EQ(probe.Gelaufen.state.secsgone.Seconds(), 2147483647);
     EXPECT_EQ(probe.Gelaufen.LV_Bauzeiten.size(), 8U);
 }
 
 TEST(Lauf, NenntWasEinenAuftragAufhielt) {
     const auto gruende = [](const Plan& plan) {
         std::string text;
-        for (const Bauzeit& zeile : Probe(plan).Gelaufen.LV_Bauzeiten) {
+        for (const ScheduleEntry& zeile : Probe(plan).Gelaufen.LV_Bauzeiten) {
             constexpr std::array kBuchstaben{'-', 'l', 'a', 'd', 'r', 's', 'z'};
-            text += kBuchstaben.at(static_cast<std::size_t>(zeile.Grund.cause));
+            text += kBuchstaben.at(static_cast<std::size_t>(zeile.delay.cause));
         }
         return text;
     };
@@ -112,18 +114,18 @@ TEST(Lauf, NenntWasEinenAuftragAufhielt) {
     plan.LV_Schlafzeiten = {{"18.11.2006 12:31", "18.11.2006 20:00"}};
     EXPECT_EQ(gruende(plan), "-zsssr");
     const Probe gesperrt(PlanAus("GS GD GR FE"));
-    EXPECT_EQ(gesperrt.Gelaufen.LV_Bauzeiten.back().Grund,
+    EXPECT_EQ(gesperrt.Gelaufen.LV_Bauzeiten.back().delay,
               (Delay{.cause = DelayCause::Level, .missing = {ItemId::Folab, 1}}));
 }
 
 TEST(Lauf, SagtWasEinenAuftragAufhielt) {
     const auto texte = [](const Plan& plan) {
         const auto bedingungen = ParseRunConditions(plan);
-        const Ablauf ablauf =
-            SpieleAb(plan.LV_Bauliste.Orders().All(), std::get<RunConditions>(bedingungen));
+        const RunTrace ablauf =
+            TraceRun(plan.LV_Bauliste.Orders().All(), std::get<RunConditions>(bedingungen));
         std::vector<std::string> gruende;
-        for (std::size_t i = 0; i < ablauf.Starts.size(); ++i) {
-            gruende.push_back(Wartetext(ablauf, i));
+        for (std::size_t i = 0; i < ablauf.starts.size(); ++i) {
+            gruende.push_back(DelayText(ablauf, i));
         }
         return gruende;
     };
@@ -144,18 +146,18 @@ TEST(Lauf, SagtWasEinenAuftragAufhielt) {
 }
 
 TEST(EventTabelle, OrdnetNachZeitArtUndEintritt) {
-    EventTabelle tabelle;
-    EXPECT_TRUE(tabelle.IstLeer());
-    tabelle.SetStart(4);
-    tabelle.SetStartzeit(SimTime(100));
-    tabelle.SetFinish(SimTime(100), 2);
-    tabelle.SetFinish(SimTime(100), 1);
-    tabelle.SetFinish(SimTime(99), 3);
-    EXPECT_EQ(tabelle.Wartender(), 4U);
+    EventTable tabelle;
+    EXPECT_TRUE(tabelle.IsEmpty());
+    tabelle.SetEvent(4);
+    tabelle.RetimeStart(SimTime(100));
+    tabelle.SetEvent(SimTime(100), 2);
+    tabelle.SetEvent(SimTime(100), 1);
+    tabelle.SetEvent(SimTime(99), 3);
+    EXPECT_EQ(tabelle.PendingOrder(), 4U);
     for (const std::size_t order : {3U, 2U, 1U, 4U}) {
-        EXPECT_EQ(tabelle.NimmErste().Order, order);
+        EXPECT_EQ(tabelle.ClearEvent().order, order);
     }
-    EXPECT_TRUE(tabelle.NoStartPending() && tabelle.IstLeer());
+    EXPECT_TRUE(tabelle.NoStartPending() && tabelle.IsEmpty());
 }
 
 }  // namespace

@@ -62,8 +62,8 @@ std::map<std::string, int> Gezaehlt(const std::vector<Order>& orders) {
 /// The moments of the starts of a run.
 std::vector<DateTime> Startzeiten(const Planlauf& lauf) {
     std::vector<DateTime> zeiten;
-    for (const Bauzeit& zeile : lauf.Lauf.LV_Bauzeiten) {
-        zeiten.push_back(zeile.Start);
+    for (const ScheduleEntry& zeile : lauf.Lauf.LV_Bauzeiten) {
+        zeiten.push_back(zeile.start);
     }
     return zeiten;
 }
@@ -78,7 +78,7 @@ void Pruefe(const Plan& plan, const Planaufgabe& aufgabe, const Suchergebnis& er
     }
     const Planlauf lauf = Wiedergefunden(plan, aufgabe, fund);
     ASSERT_TRUE(lauf.Gelaufen);
-    EXPECT_EQ(lauf.Lauf.Stand.secsgone.Seconds(), fund.Wertung.Dauer);
+    EXPECT_EQ(lauf.Lauf.state.secsgone.Seconds(), fund.Wertung.Dauer);
     EXPECT_TRUE(lauf.Meldungen.empty());
     if (aufgabe.Aufgabe.Was == Suchaufgabe::Art::Reihenfolge) {
         EXPECT_EQ(Gezaehlt(fund.Orders), Gezaehlt(aufgabe.Aufgabe.Orders));

@@ -355,7 +355,7 @@ TEST_F(Fensterleben, AlarmeKlingelnNurSolangeSieAnSind) {
     Lade("GS GM");
     Tippe("txt_UniStartZeitStunden", "12");
     m_fenster.StarteSimulation(true);
-    m_jetzt = m_fenster.DerLauf().LV_Bauzeiten[1].Start + -10;
+    m_jetzt = m_fenster.DerLauf().LV_Bauzeiten[1].start + -10;
     auto& takt = Finde<QTimer>("Tmr_BauWeckfunktion");
     const auto ticke = [&] { QMetaObject::invokeMethod(&takt, "timeout"); };
     EXPECT_FALSE(takt.isActive());

@@ -114,7 +114,7 @@ inline Plan PlanAus(std::string_view tags, const RunConditions& bedingungen = {}
 
 /// A plan that was run, unless its inputs can't be used.
 struct Probe {
-    Lauf Gelaufen;
+    LastRun Gelaufen;
     Merker Meldungen;
     bool Gelungen = false;
 
@@ -124,7 +124,7 @@ struct Probe {
             Meldungen.Show(*absage);
             return;
         }
-        Gelaufen.Beginne(std::get<RunConditions>(bedingungen));
+        Gelaufen.ResetSimulation(std::get<RunConditions>(bedingungen));
         RunSimulation(plan.LV_Bauliste.Orders().All(), Gelaufen, Meldungen);
         Gelungen = true;
     }

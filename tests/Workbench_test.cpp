@@ -78,7 +78,7 @@ class Werkbank : public Fenster {
     /// Both windows show the plan, with the texts of dropping its rows anew.
     void ErwarteEinig() {
         BuildList anew;
-        anew.SetTags(m_fenster.DerPlan().LV_Bauliste.Tags(), m_fenster.DerLauf().Bedingungen);
+        anew.SetTags(m_fenster.DerPlan().LV_Bauliste.Tags(), m_fenster.DerLauf().conditions);
         ASSERT_EQ(Zeilen("LV_Bauliste"), static_cast<int>(anew.Rows().size()));
         ASSERT_EQ(Dort<QTreeView>("LV_Werkbank").model()->rowCount(), Zeilen("LV_Bauliste"));
         for (int i = 0; i < Zeilen("LV_Bauliste"); ++i) {
@@ -425,7 +425,7 @@ TEST_F(Werkbank, SuchtUndUebernimmtAlsEinenSchritt) {
     EXPECT_EQ(m_fenster.DerPlan().LV_Bauliste.Tags()[40], starter.Plan.LV_Bauliste.Tags()[40]);
     EXPECT_EQ(m_fenster.DerPlan().LV_Schlafzeiten.front().Startzeit, "03.12.2026 10:30");
     EXPECT_EQ(Sagt("LBL_Dauer"), Text("LBL_Timegone"));
-    const auto dauer = Spannentext(m_fenster.DerLauf().Stand.secsgone.Seconds());
+    const auto dauer = TimeSpanText(m_fenster.DerLauf().state.secsgone.Seconds());
     EXPECT_NE(bericht.find("Nachher: " + dauer + ","), std::string::npos) << bericht << dauer;
     EXPECT_TRUE(m_boxen.Texte.empty());
     const std::string aenderung = Sagt("LBL_Aenderung");
@@ -522,9 +522,9 @@ TEST_F(Werkbank, GibtDenZeitplanMit) {
 }
 
 TEST(Standtexte, NennenDieAenderung) {
-    EXPECT_EQ(Aenderungstext(-7985), "-02:13:05");
-    EXPECT_EQ(Aenderungstext(86400 + 61), "+1 Tag 00:01:01");
-    EXPECT_EQ(Aenderungstext(-3 * 86400), "-3 Tage 00:00:00");
+    EXPECT_EQ(SignedTimeSpanText(-7985), "-02:13:05");
+    EXPECT_EQ(SignedTimeSpanText(86400 + 61), "+1 Tag 00:01:01");
+    EXPECT_EQ(SignedTimeSpanText(-3 * 86400), "-3 Tage 00:00:00");
 }
 
 }  // namespace

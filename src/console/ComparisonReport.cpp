@@ -14,26 +14,26 @@ namespace {
 using nlohmann::json;
 using Zeilen = std::vector<std::vector<std::string>>;
 
-Zeilen MitKopf(std::vector<std::string> kopf, const std::vector<Vergleichstext>& texte) {
+Zeilen MitKopf(std::vector<std::string> kopf, const std::vector<ComparisonText>& texte) {
     Zeilen zeilen{std::move(kopf)};
-    for (const Vergleichstext& text : texte) {
+    for (const ComparisonText& text : texte) {
         zeilen.emplace_back(text.begin(), text.end());
     }
     return zeilen;
 }
 
-json AlsJson(const Planlauf& plan, const Kennzahlen& zahlen) {
+json AlsJson(const Planlauf& plan, const RunSummary& zahlen) {
     return {{"Plan", plan.Name},
-            {"Sekunden", zahlen.Dauer},
+            {"Sekunden", zahlen.duration},
             {"VerbauteRessourcen", zahlen.VerbauteRessourcen},
-            {"Metall", FourDecimalsText(zahlen.Vorrat[Resource::Metall])},
-            {"Kristall", FourDecimalsText(zahlen.Vorrat[Resource::Kristall])},
-            {"Deuterium", FourDecimalsText(zahlen.Vorrat[Resource::Deuterium])},
-            {"Sitzungen", zahlen.Sitzungen},
+            {"Metall", FourDecimalsText(zahlen.stock[Resource::Metall])},
+            {"Kristall", FourDecimalsText(zahlen.stock[Resource::Kristall])},
+            {"Deuterium", FourDecimalsText(zahlen.stock[Resource::Deuterium])},
+            {"Sitzungen", zahlen.sittings},
             {"Leerlauf",
-             {{"Bauschleife", zahlen.Leerlauf[Queue::Building]},
-              {"Forschungsschleife", zahlen.Leerlauf[Queue::Research]},
-              {"Werftschleife", zahlen.Leerlauf[Queue::Shipyard]}}}};
+             {{"Bauschleife", zahlen.idle[Queue::Building]},
+              {"Forschungsschleife", zahlen.idle[Queue::Research]},
+              {"Werftschleife", zahlen.idle[Queue::Shipyard]}}}};
 }
 
 json Sekunden(const std::optional<SimTime>& moment) {
@@ -43,13 +43,13 @@ json Sekunden(const std::optional<SimTime>& moment) {
 }  // namespace
 
 void SchreibeVergleich(std::ostream& strom, const Planlauf& a, const Planlauf& b) {
-    const Vergleich vergleich = Vergleiche(a.Abgespielt(), b.Abgespielt());
+    const Comparison vergleich = Compare(a.Abgespielt(), b.Abgespielt());
     constexpr const char* kUnterschied = "Unterschied";
     const std::vector<std::size_t> rechts{1, 2, 3};
-    SchreibeTabelle(strom, MitKopf({"", a.Name, b.Name, kUnterschied}, Kennzahltexte(vergleich)),
+    SchreibeTabelle(strom, MitKopf({"", a.Name, b.Name, kUnterschied}, SummaryTexts(vergleich)),
                     rechts);
     strom << '\n';
-    const auto auftraege = Auftragstexte(vergleich);
+    const auto auftraege = OrderDifferences(vergleich);
     if (auftraege.empty()) {
         strom << "Alle Aufträge beginnen zur selben Zeit.\n";
         return;
@@ -58,19 +58,19 @@ void SchreibeVergleich(std::ostream& strom, const Planlauf& a, const Planlauf& b
 }
 
 std::string VergleichsJson(const Planlauf& a, const Planlauf& b) {
-    const Vergleich vergleich = Vergleiche(a.Abgespielt(), b.Abgespielt());
+    const Comparison vergleich = Compare(a.Abgespielt(), b.Abgespielt());
     json unterschiede = json::array();
-    for (const Vergleichszeile& zeile : vergleich.Unterschiede) {
-        const auto unterschied = zeile.Unterschied();
-        unterschiede.push_back({{"Auftrag", Auftragsschluessel(zeile.Order, zeile.Nummer)},
-                                {"Tag", zeile.Order.Tag()},
-                                {"Nummer", zeile.Nummer},
-                                {"A", Sekunden(zeile.A)},
-                                {"B", Sekunden(zeile.B)},
+    for (const ComparisonRow& zeile : vergleich.differences) {
+        const auto unterschied = zeile.Difference();
+        unterschiede.push_back({{"Auftrag", OrderKey(zeile.order, zeile.number)},
+                                {"Tag", zeile.order.Tag()},
+                                {"Nummer", zeile.number},
+                                {"A", Sekunden(zeile.a)},
+                                {"B", Sekunden(zeile.b)},
                                 {"Unterschied", unterschied ? json(*unterschied) : json()}});
     }
-    return json{{"A", AlsJson(a, vergleich.A)},
-                {"B", AlsJson(b, vergleich.B)},
+    return json{{"A", AlsJson(a, vergleich.a)},
+                {"B", AlsJson(b, vergleich.b)},
                 {"Unterschiede", unterschiede}}
         .dump(1);
 }

@@ -18,7 +18,7 @@ void SchreibeCsvKopf(std::ostream& strom);
 void SchreibeCsv(std::ostream& strom, const Planlauf& lauf);
 
 /// One object with the whole plan and the whole result; on request with the history of the stocks
-/// and the orders with their reasons, under `Verlauf`.
+/// and the orders with their reasons, under `HistoryRecorder`.
 [[nodiscard]] std::string JsonText(const Planlauf& lauf, bool mitVerlauf = false);
 
 }  // namespace tarvelin

@@ -50,11 +50,11 @@ json Schlafzeiten(const SleepTable& tabelle) {
     return liste;
 }
 
-json Zeittabelle(const Bauzeiten& bauzeiten) {
+json Zeittabelle(const Schedule& bauzeiten) {
     json liste = json::array();
-    for (const Bauzeit& zeile : bauzeiten) {
-        liste.push_back({{"Wochentag", zeile.Wochentag()},
-                         {"Uhrzeit", zeile.Uhrzeit()},
+    for (const ScheduleEntry& zeile : bauzeiten) {
+        liste.push_back({{"Wochentag", zeile.Weekday()},
+                         {"Uhrzeit", zeile.TimeOfDay()},
                          {"theText", zeile.theText()},
                          {"Tag", zeile.Tag()}});
     }
@@ -81,22 +81,22 @@ void FuegeZustandAn(json& objekt, const GameState& stand, const RunConditions& b
     objekt["Stufen"] = JeCode([&](ItemId item) { return stand.Stufe[item]; });
 }
 
-void FuegeTexteAn(json& objekt, const Ergebnistexte& texte) {
+void FuegeTexteAn(json& objekt, const ResultTexts& texte) {
     objekt["LBL_Timegone"] = texte.LBL_Timegone;
     objekt["LBL_Met"] = texte.LBL_Met;
     objekt["LBL_Kris"] = texte.LBL_Kris;
     objekt["LBL_Deut"] = texte.LBL_Deut;
     objekt["LBL_ENergie"] = texte.LBL_ENergie;
     objekt["LBL_Punkte"] = texte.LBL_Punkte;
-    objekt["LBL_Punkte_Hinweis"] = texte.LBL_Punkte_Hinweis;
+    objekt["LBL_Punkte_Hinweis"] = texte.LBL_Punkte_Hint;
 }
 
-json Punkt(const Verlaufspunkt& punkt, const RunConditions& bedingungen) {
-    return {{"Sekunde", punkt.Zeit.Seconds()},
-            {"Zeitpunkt", DateTimeText(bedingungen.WallClock(punkt.Zeit))},
-            {"Metall", FourDecimalsText(punkt.Vorrat[Resource::Metall])},
-            {"Kristall", FourDecimalsText(punkt.Vorrat[Resource::Kristall])},
-            {"Deuterium", FourDecimalsText(punkt.Vorrat[Resource::Deuterium])},
+json Punkt(const HistoryPoint& punkt, const RunConditions& bedingungen) {
+    return {{"Sekunde", punkt.time.Seconds()},
+            {"Zeitpunkt", DateTimeText(bedingungen.WallClock(punkt.time))},
+            {"Metall", FourDecimalsText(punkt.stock[Resource::Metall])},
+            {"Kristall", FourDecimalsText(punkt.stock[Resource::Kristall])},
+            {"Deuterium", FourDecimalsText(punkt.stock[Resource::Deuterium])},
             {"MetallProStunde", FourDecimalsText(punkt.ProStunde[Resource::Metall])},
             {"KristallProStunde", FourDecimalsText(punkt.ProStunde[Resource::Kristall])},
             {"DeuteriumProStunde", FourDecimalsText(punkt.ProStunde[Resource::Deuterium])},
@@ -104,22 +104,22 @@ json Punkt(const Verlaufspunkt& punkt, const RunConditions& bedingungen) {
             {"EnergieVerbrauch", punkt.EnergieVerbrauch}};
 }
 
-json VerlaufVon(const Ablauf& ablauf) {
+json VerlaufVon(const RunTrace& ablauf) {
     json punkte = json::array();
-    for (const Verlaufspunkt& punkt : ablauf.Kurve) {
-        punkte.push_back(Punkt(punkt, ablauf.Bedingungen));
+    for (const HistoryPoint& punkt : ablauf.curve) {
+        punkte.push_back(Punkt(punkt, ablauf.conditions));
     }
     json auftraege = json::array();
-    for (const Startereignis& start : ablauf.Starts) {
+    for (const StartEvent& start : ablauf.starts) {
         auftraege.push_back(
-            {{"Zeile", start.Zeile + 1},
-             {"Auftrag", Auftragsschluessel(start.Order, start.Nummer)},
-             {"Start", start.Start.Seconds()},
-             {"Finish", start.Finish.Seconds()},
-             {"Startzeit", DateTimeText(ablauf.Bedingungen.WallClock(start.Start))},
-             {"Fertigzeit", DateTimeText(ablauf.Bedingungen.WallClock(start.Finish))},
-             {"Schlange", Schlangenname(start.Order.queue)},
-             {"Grund", Wartetext(ablauf, start.Zeile)}});
+            {{"Zeile", start.row + 1},
+             {"Auftrag", OrderKey(start.order, start.number)},
+             {"Start", start.start.Seconds()},
+             {"Finish", start.finish.Seconds()},
+             {"Startzeit", DateTimeText(ablauf.conditions.WallClock(start.start))},
+             {"Fertigzeit", DateTimeText(ablauf.conditions.WallClock(start.finish))},
+             {"Schlange", QueueName(start.order.queue)},
+             {"Grund", DelayText(ablauf, start.row)}});
     }
     return {{"Punkte", punkte}, {"Auftraege", auftraege}};
 }
@@ -136,7 +136,7 @@ std::string JsonText(const Planlauf& lauf, bool mitVerlauf) {
                 {"ListFaktor", liste.Orders().ListFaktor()},
                 {"Schlafzeiten", Schlafzeiten(lauf.Plan.LV_Schlafzeiten)}};
     if (lauf.Gelaufen) {
-        FuegeZustandAn(objekt, lauf.Lauf.Stand, lauf.Lauf.Bedingungen);
+        FuegeZustandAn(objekt, lauf.Lauf.state, lauf.Lauf.conditions);
         FuegeTexteAn(objekt, lauf.Texte);
         objekt["LV_Bauzeiten"] = Zeittabelle(lauf.Lauf.LV_Bauzeiten);
         if (mitVerlauf) {

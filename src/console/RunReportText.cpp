@@ -18,28 +18,28 @@ Zeile Kopf(const char* letzte) {
 }
 
 /// The rows, with what `text` gives for each in the last column.
-std::vector<Zeile> Zeittabelle(const Bauzeiten& bauzeiten,
+std::vector<Zeile> Zeittabelle(const Schedule& bauzeiten,
                                const std::function<std::string(std::size_t)>& text) {
     std::vector<Zeile> zeilen;
     zeilen.reserve(bauzeiten.size());
     for (std::size_t i = 0; i < bauzeiten.size(); ++i) {
-        const Bauzeit& bauzeit = bauzeiten[i];
-        zeilen.push_back({std::to_string(i + 1), bauzeit.Wochentag(), bauzeit.Uhrzeit(),
-                          bauzeit.theText(), DateTimeText(bauzeit.Start), text(i)});
+        const ScheduleEntry& bauzeit = bauzeiten[i];
+        zeilen.push_back({std::to_string(i + 1), bauzeit.Weekday(), bauzeit.TimeOfDay(),
+                          bauzeit.theText(), DateTimeText(bauzeit.start), text(i)});
     }
     return zeilen;
 }
 
 /// Name and figure of what a run came to.
 std::vector<Zeile> Ergebnisfiguren(const Planlauf& lauf) {
-    const GameState& stand = lauf.Lauf.Stand;
-    return {{"Dauer:", Dauertext(stand)},
+    const GameState& stand = lauf.Lauf.state;
+    return {{"Dauer:", DurationText(stand)},
             {"Metall:", lauf.Texte.LBL_Met},
             {"Kristall:", lauf.Texte.LBL_Kris},
             {"Deuterium:", lauf.Texte.LBL_Deut},
             {"Energie:", lauf.Texte.LBL_ENergie},
-            {"Punkte:", Punktetext(stand)},
-            {"Punkte inkl. Res.:", PunkteMitVorratText(stand)}};
+            {"Punkte:", PointsText(stand)},
+            {"Punkte inkl. Res.:", PointsWithStockText(stand)}};
 }
 
 std::string Csvfeld(const std::string& text) {
@@ -68,9 +68,9 @@ void SchreibeCsvZeile(std::ostream& strom, const std::string& plan, const Zeile&
 
 void SchreibeText(std::ostream& strom, const Planlauf& lauf) {
     strom << lauf.Name << "\n\n";
-    const Ablauf ablauf = lauf.Abgespielt();
+    const RunTrace ablauf = lauf.Abgespielt();
     auto zeilen = Zeittabelle(lauf.Lauf.LV_Bauzeiten, [&](std::size_t i) {
-        return Wartetext(ablauf, ablauf.Starts[i].Zeile);
+        return DelayText(ablauf, ablauf.starts[i].row);
     });
     zeilen.insert(zeilen.begin(), Kopf("Grund"));
     SchreibeTabelle(strom, zeilen, {0});
@@ -84,7 +84,7 @@ void SchreibeCsvKopf(std::ostream& strom) {
 }
 
 void SchreibeCsv(std::ostream& strom, const Planlauf& lauf) {
-    const Bauzeiten& bauzeiten = lauf.Lauf.LV_Bauzeiten;
+    const Schedule& bauzeiten = lauf.Lauf.LV_Bauzeiten;
     for (const Zeile& zeile :
          Zeittabelle(bauzeiten, [&](std::size_t i) { return bauzeiten[i].VerzoegerungsGrund(); })) {
         SchreibeCsvZeile(strom, lauf.Name, zeile);

@@ -118,8 +118,8 @@ int FuehreSucheAus(const Suchbefehl& befehl, const std::atomic<bool>& halt) {
         std::cerr << befehl.Plandatei << ": " << Ladehindernis(AlsPfad(befehl.Plandatei)) << '\n';
         return code;
     }
-    if (plan.Lauf.Stand.IsAtEndOfClock()) {
-        std::cerr << befehl.Plandatei << ": " << UeberDieUhrText() << '\n';
+    if (plan.Lauf.state.IsAtEndOfClock()) {
+        std::cerr << befehl.Plandatei << ": " << BeyondClockText() << '\n';
     }
     const auto aufgabe = StelleAufgabe(plan.Plan, std::get<Suchwunsch>(wunsch));
     if (const auto* const absage = std::get_if<Suchabsage>(&aufgabe)) {

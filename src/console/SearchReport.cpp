@@ -75,9 +75,9 @@ void SchreibeSuche(std::ostream& strom, const Suchbericht& bericht) {
         }
     }
     if (bericht.Plan.Gelaufen) {
-        SchreibeZeile(strom, "Je Stunde", ProStundeText(bericht.Plan.Lauf.Stand) + " (vorher)");
+        SchreibeZeile(strom, "Je Stunde", ProStundeText(bericht.Plan.Lauf.state) + " (vorher)");
     }
-    SchreibeZeile(strom, "Je Stunde", ProStundeText(bericht.Neuer.Lauf.Stand) + " (nachher)");
+    SchreibeZeile(strom, "Je Stunde", ProStundeText(bericht.Neuer.Lauf.state) + " (nachher)");
     if (const auto& pause = bericht.Aufgabe.Pause) {
         SchreibeZeile(strom, "Pause", pause->Startzeit + " bis " + pause->Endzeit);
     }
@@ -96,8 +96,8 @@ std::string SuchJson(const Suchbericht& bericht) {
     }
     const OrderList& alte = bericht.Plan.Plan.LV_Bauliste.Orders();
     const OrderList& neue = bericht.Neuer.Plan.LV_Bauliste.Orders();
-    json objekt{{"Vorher", vorher ? AlsJson(*vorher, bericht.Plan.Lauf.Stand) : json()},
-                {"Nachher", AlsJson(*bericht.Ergebnis.Bester, bericht.Neuer.Lauf.Stand)},
+    json objekt{{"Vorher", vorher ? AlsJson(*vorher, bericht.Plan.Lauf.state) : json()},
+                {"Nachher", AlsJson(*bericht.Ergebnis.Bester, bericht.Neuer.Lauf.state)},
                 {"Versuche", bericht.Ergebnis.Versuche},
                 {"Saat", bericht.Saat},
                 {"Hinzu", Ueberschuss(neue, alte)},

@@ -124,7 +124,7 @@ tarvelin::Planlauf SpieleDatei(const std::string& datei) {
     }
     const std::string text = !lauf.Geladen    ? tarvelin::Ladehindernis(AlsPfad(datei))
                              : !lauf.Gelaufen ? "dieser Plan kann nicht gespielt werden"
-                             : lauf.Lauf.Stand.IsAtEndOfClock() ? tarvelin::UeberDieUhrText()
+                             : lauf.Lauf.state.IsAtEndOfClock() ? tarvelin::BeyondClockText()
                                                                 : "";
     std::cerr << (text.empty() ? "" : datei + ": " + text + "\n");
     return lauf;

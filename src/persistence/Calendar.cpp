@@ -69,21 +69,21 @@ std::string Stempel(std::chrono::sys_seconds stand) {
 }
 
 /// Orders of one entry.
-using Eintrag = std::vector<const Startereignis*>;
+using Eintrag = std::vector<const StartEvent*>;
 
-std::vector<Eintrag> Eintraege(const Ablauf& ablauf) {
+std::vector<Eintrag> Eintraege(const RunTrace& ablauf) {
     constexpr DateTime kLetzter(std::int64_t{2958466} * 86400);
-    std::vector<const Startereignis*> starts;
-    for (const Startereignis& start : ablauf.Starts) {
-        if (ablauf.Bedingungen.WallClock(start.Start) < kLetzter) {
+    std::vector<const StartEvent*> starts;
+    for (const StartEvent& start : ablauf.starts) {
+        if (ablauf.conditions.WallClock(start.start) < kLetzter) {
             starts.push_back(&start);
         }
     }
     // A click buffer can put a row's start before that of the row above.
-    std::ranges::stable_sort(starts, {}, [](const Startereignis* s) { return s->Start; });
+    std::ranges::stable_sort(starts, {}, [](const StartEvent* s) { return s->start; });
     std::vector<Eintrag> eintraege;
-    for (const Startereignis* const start : starts) {
-        if (eintraege.empty() || start->Start - eintraege.back().front()->Start > kMinute) {
+    for (const StartEvent* const start : starts) {
+        if (eintraege.empty() || start->start - eintraege.back().front()->start > kMinute) {
             eintraege.emplace_back();
         }
         eintraege.back().push_back(start);
@@ -91,17 +91,16 @@ std::vector<Eintrag> Eintraege(const Ablauf& ablauf) {
     return eintraege;
 }
 
-std::string Beschreibung(const Ablauf& ablauf, const Eintrag& eintrag) {
+std::string Beschreibung(const RunTrace& ablauf, const Eintrag& eintrag) {
     std::string text;
-    for (const Startereignis* const start : eintrag) {
+    for (const StartEvent* const start : eintrag) {
         text += text.empty() ? "" : "\n";
-        text +=
-            TimeOfDayText(ablauf.Bedingungen.WallClock(start->Start)) + " " + Auftragstext(*start);
-        if (start->Order.kind == Order::Kind::Item) {
+        text += TimeOfDayText(ablauf.conditions.WallClock(start->start)) + " " + OrderText(*start);
+        if (start->order.kind == Order::Kind::Item) {
             text += "\n" + GetUpgradecostString(
-                               CostOf(start->Order.item, static_cast<Byte>(start->Nummer - 1)));
+                               CostOf(start->order.item, static_cast<Byte>(start->number - 1)));
         }
-        const std::string grund = Wartetext(ablauf, start->Zeile);
+        const std::string grund = DelayText(ablauf, start->row);
         text += grund.empty() ? "" : "\n" + grund;
     }
     return text;
@@ -109,37 +108,37 @@ std::string Beschreibung(const Ablauf& ablauf, const Eintrag& eintrag) {
 
 std::string Titel(const Eintrag& eintrag) {
     std::string text;
-    for (const Startereignis* const start : eintrag) {
+    for (const StartEvent* const start : eintrag) {
         text += text.empty() ? "" : ", ";
-        text += Auftragstext(*start);
+        text += OrderText(*start);
     }
     return text;
 }
 
 /// A production row has no level: it is told by how manieth of them it is.
-std::string Kennung(const Ablauf& ablauf, const Startereignis& start) {
-    const bool item = start.Order.kind == Order::Kind::Item;
-    const auto produktion = std::ranges::count_if(ablauf.Starts, [&](const Startereignis& s) {
-        return s.Order.kind == Order::Kind::Production && s.Zeile <= start.Zeile;
+std::string Kennung(const RunTrace& ablauf, const StartEvent& start) {
+    const bool item = start.order.kind == Order::Kind::Item;
+    const auto produktion = std::ranges::count_if(ablauf.starts, [&](const StartEvent& s) {
+        return s.order.kind == Order::Kind::Production && s.row <= start.row;
     });
-    const std::string tag = start.Order.Tag();
-    return tag.substr(0, tag.find(':')) + "-" + std::to_string(item ? start.Nummer : produktion) +
-           "-" + Stempel(ablauf.Bedingungen.StartDate) + "@tarvelin";
+    const std::string tag = start.order.Tag();
+    return tag.substr(0, tag.find(':')) + "-" + std::to_string(item ? start.number : produktion) +
+           "-" + Stempel(ablauf.conditions.StartDate) + "@tarvelin";
 }
 
 }  // namespace
 
-std::string Kalendertext(const Ablauf& ablauf, std::optional<Long> erinnerung,
+std::string Kalendertext(const RunTrace& ablauf, std::optional<Long> erinnerung,
                          std::chrono::sys_seconds stand) {
     std::string text =
         "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//Tarvelin//Tarvelin//DE\r\n"
         "CALSCALE:GREGORIAN\r\n";
     for (const Eintrag& eintrag : Eintraege(ablauf)) {
-        const Startereignis& erster = *eintrag.front();
+        const StartEvent& erster = *eintrag.front();
         const std::string titel = Geschuetzt(Titel(eintrag));
         text += "BEGIN:VEVENT\r\n" + Zeile("UID:" + Kennung(ablauf, erster)) +
                 Zeile("DTSTAMP:" + Stempel(stand)) +
-                Zeile("DTSTART:" + Stempel(ablauf.Bedingungen.WallClock(erster.Start))) +
+                Zeile("DTSTART:" + Stempel(ablauf.conditions.WallClock(erster.start))) +
                 "DURATION:PT1M\r\n" + Zeile("SUMMARY:" + titel) +
                 Zeile("DESCRIPTION:" + Geschuetzt(Beschreibung(ablauf, eintrag)));
         if (erinnerung) {

@@ -16,7 +16,7 @@ namespace tarvelin {
 ///
 /// `erinnerung`: seconds before the start at which the calendar reminds; nothing for never.
 /// `stand`: when the file is made, in universal time. Starts behind the year 9999 are left out.
-[[nodiscard]] std::string Kalendertext(const Ablauf& ablauf, std::optional<Long> erinnerung,
+[[nodiscard]] std::string Kalendertext(const RunTrace& ablauf, std::optional<Long> erinnerung,
                                        std::chrono::sys_seconds stand);
 
 }  // namespace tarvelin

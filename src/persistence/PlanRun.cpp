@@ -16,8 +16,8 @@ std::string Dateiname(const std::filesystem::path& datei) {
 
 }  // namespace
 
-Ablauf Planlauf::Abgespielt() const {
-    return SpieleAb(Plan.LV_Bauliste.Orders().All(), Lauf.Bedingungen);
+RunTrace Planlauf::Abgespielt() const {
+    return TraceRun(Plan.LV_Bauliste.Orders().All(), Lauf.conditions);
 }
 
 Planlauf::Planlauf(const std::filesystem::path& datei)
@@ -29,7 +29,7 @@ Planlauf::Planlauf(std::string name, const std::optional<Profil>& profil) : Name
         meldungen.Show(Ladefehler());
         return;
     }
-    Geladen = LadePlan(*profil, Plan, Lauf.Bedingungen, meldungen);
+    Geladen = LadePlan(*profil, Plan, Lauf.conditions, meldungen);
     if (!Geladen) {
         return;
     }
@@ -38,9 +38,9 @@ Planlauf::Planlauf(std::string name, const std::optional<Profil>& profil) : Name
         meldungen.Show(*absage);
         return;
     }
-    Lauf.Beginne(std::get<RunConditions>(bedingungen));
+    Lauf.ResetSimulation(std::get<RunConditions>(bedingungen));
     RunSimulation(Plan.LV_Bauliste.Orders().All(), Lauf, meldungen);
-    Texte.NachLauf(Lauf.Stand);
+    Texte.AfterRun(Lauf.state);
     Gelaufen = true;
 }
 

@@ -19,8 +19,8 @@ struct Planlauf {
     /// The name of the file without its folders.
     std::string Name;
     tarvelin::Plan Plan;
-    tarvelin::Lauf Lauf;
-    Ergebnistexte Texte;
+    tarvelin::LastRun Lauf;
+    ResultTexts Texte;
     /// The whole file was read, and the run was called.
     bool Geladen = false;
     /// The run got past its checks of the inputs.
@@ -28,7 +28,7 @@ struct Planlauf {
     std::vector<Message> Meldungen;
 
     /// The same run once more with all that charts and comparisons show; `Gelaufen` holds.
-    [[nodiscard]] Ablauf Abgespielt() const;
+    [[nodiscard]] RunTrace Abgespielt() const;
 
     /// Loads and runs the plan of a file.
     explicit Planlauf(const std::filesystem::path& datei);

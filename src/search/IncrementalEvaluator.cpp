@@ -8,21 +8,21 @@
 namespace tarvelin {
 
 /// Looks at each start: whether it may be, and what it adds to the sittings.
-class Probelauf::Waechter final : public Laufbeobachter {
+class Probelauf::Waechter final : public RunObserver {
   public:
     Waechter(const Suchaufgabe& aufgabe, const Sitzungsstand& sitzungen)
         : Sitzungen(sitzungen), m_aufgabe(aufgabe) {}
 
-    void Start(const Startereignis& ereignis) override {
-        Starts = ereignis.Zeile + 1;
-        const bool zuFrueh = ereignis.Zeile >= m_aufgabe.Kopf && ereignis.Start < m_aufgabe.Ab;
-        Verfehlt = Verfehlt || ereignis.TorZu || zuFrueh;
-        Sitzungen.Gezaehlt.Nimm(ereignis.Start);
-        if (ereignis.Grund.cause == DelayCause::Sleep) {
-            Sitzungen.Wach = ereignis.Wach;
+    void OnStart(const StartEvent& ereignis) override {
+        Starts = ereignis.row + 1;
+        const bool zuFrueh = ereignis.row >= m_aufgabe.Kopf && ereignis.start < m_aufgabe.Ab;
+        Verfehlt = Verfehlt || ereignis.gateClosed || zuFrueh;
+        Sitzungen.Gezaehlt.Add(ereignis.start);
+        if (ereignis.delay.cause == DelayCause::Sleep) {
+            Sitzungen.Wach = ereignis.sleepFreeStart;
         }
     }
-    void Schulden(const GameState& /*stand*/) override { Verfehlt = true; }
+    void OnNegativeStock(const GameState& /*stand*/) override { Verfehlt = true; }
 
     Sitzungsstand Sitzungen;
     /// Orders that have started.
@@ -46,11 +46,11 @@ std::optional<Wertung> Probelauf::Spiele(std::span<const Order> orders, std::siz
     m_gestartet = gleich;
     const Halt& halt = m_halte[gleich][m_gueltig[gleich]];
     Simulation lauf = halt.Lauf;
-    lauf.WechsleAuftraege(orders);
+    lauf.ReplaceOrders(orders);
     Waechter waechter(*m_aufgabe, halt.Sitzungen);
-    while (!lauf.IstFertig()) {
-        lauf.Schritt(waechter);
-        if (waechter.Verfehlt || lauf.Stand().secsgone.Seconds() > grenze) {
+    while (!lauf.IsFinished()) {
+        lauf.Step(waechter);
+        if (waechter.Verfehlt || lauf.State().secsgone.Seconds() > grenze) {
             return std::nullopt;
         }
         if (waechter.Starts > m_gestartet) {
@@ -60,11 +60,11 @@ std::optional<Wertung> Probelauf::Spiele(std::span<const Order> orders, std::siz
             neuer.Sitzungen = waechter.Sitzungen;
         }
     }
-    if (lauf.Stand().secsgone == SimTime(std::numeric_limits<Long>::max())) {
+    if (lauf.State().secsgone == SimTime(std::numeric_limits<Long>::max())) {
         return std::nullopt;
     }
-    return Wertung{.Dauer = lauf.Stand().secsgone.Seconds(),
-                   .Sitzungen = waechter.Sitzungen.Gezaehlt.Zahl,
+    return Wertung{.Dauer = lauf.State().secsgone.Seconds(),
+                   .Sitzungen = waechter.Sitzungen.Gezaehlt.count,
                    .Wach = waechter.Sitzungen.Wach};
 }
 

@@ -36,7 +36,7 @@ class Probelauf {
 
   private:
     struct Sitzungsstand {
-        Sitzungszaehler Gezaehlt;
+        SittingCounter Gezaehlt;
         SimTime Wach;
     };
     struct Halt {

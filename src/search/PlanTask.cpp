@@ -111,14 +111,14 @@ std::optional<Suchabsage> SetzeFeste(const Plan& plan, const Suchwunsch& wunsch,
 }
 
 /// The moments of all starts.
-class Startzeiten final : public Laufbeobachter {
+class Startzeiten final : public RunObserver {
   public:
     static std::vector<SimTime> Von(const Plan& plan, const RunConditions& bedingungen) {
         Startzeiten zeiten;
-        Simulation(plan.LV_Bauliste.Orders().All(), bedingungen).Laufe(zeiten);
+        Simulation(plan.LV_Bauliste.Orders().All(), bedingungen).RunToEnd(zeiten);
         return zeiten.m_starts;
     }
-    void Start(const Startereignis& ereignis) override { m_starts.push_back(ereignis.Start); }
+    void OnStart(const StartEvent& ereignis) override { m_starts.push_back(ereignis.start); }
 
   private:
     std::vector<SimTime> m_starts;

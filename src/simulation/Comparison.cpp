@@ -14,60 +14,60 @@ namespace tarvelin {
 namespace {
 
 /// What makes two orders the same: the code or the factors, and the number.
-using Schluessel = std::pair<std::string, int>;
+using RowKey = std::pair<std::string, int>;
 
-void Trage(const Ablauf& ablauf, std::optional<SimTime> Vergleichszeile::*seite,
-           std::map<Schluessel, Vergleichszeile>& zeilen) {
-    std::map<std::string, int> produktionen;
-    for (const Startereignis& start : ablauf.Starts) {
-        const std::string tag = start.Order.Tag();
-        const int nummer =
-            start.Order.kind == Order::Kind::Item ? start.Nummer : ++produktionen[tag];
-        Vergleichszeile& zeile = zeilen[{tag, nummer}];
-        zeile.Order = start.Order;
-        zeile.Nummer = nummer;
-        zeile.*seite = start.Start;
+void Enter(const RunTrace& trace, std::optional<SimTime> ComparisonRow::*side,
+           std::map<RowKey, ComparisonRow>& rows) {
+    std::map<std::string, int> productions;
+    for (const StartEvent& start : trace.starts) {
+        const std::string tag = start.order.Tag();
+        const int number =
+            start.order.kind == Order::Kind::Item ? start.number : ++productions[tag];
+        ComparisonRow& row = rows[{tag, number}];
+        row.order = start.order;
+        row.number = number;
+        row.*side = start.start;
     }
 }
 
 /// The same whichever run is which.
-std::tuple<SimTime, SimTime, std::string, int> Rang(const Vergleichszeile& zeile) {
-    const SimTime a = zeile.A ? *zeile.A : *zeile.B;
-    const SimTime b = zeile.B ? *zeile.B : *zeile.A;
-    return {std::min(a, b), std::max(a, b), zeile.Order.Tag(), zeile.Nummer};
+std::tuple<SimTime, SimTime, std::string, int> Rank(const ComparisonRow& row) {
+    const SimTime a = row.a ? *row.a : *row.b;
+    const SimTime b = row.b ? *row.b : *row.a;
+    return {std::min(a, b), std::max(a, b), row.order.Tag(), row.number};
 }
 
 }  // namespace
 
-Kennzahlen Kennzahlen::Von(const Ablauf& ablauf) {
-    Kennzahlen zahlen{.Dauer = ablauf.Dauer().Seconds(),
-                      .VerbauteRessourcen = ablauf.Ende.VerbauteRessourcen,
-                      .Vorrat = ablauf.Ende.stock};
-    Sitzungszaehler sitzungen;
-    PerQueue<std::int64_t> beschaeftigt{};
-    for (const Startereignis& start : ablauf.Starts) {
-        sitzungen.Nimm(start.Start);
-        beschaeftigt[start.Order.queue] += start.Finish - start.Start;
+RunSummary RunSummary::Of(const RunTrace& trace) {
+    RunSummary figures{.duration = trace.Duration().Seconds(),
+                       .VerbauteRessourcen = trace.end.VerbauteRessourcen,
+                       .stock = trace.end.stock};
+    SittingCounter counter;
+    PerQueue<std::int64_t> busySeconds{};
+    for (const StartEvent& start : trace.starts) {
+        counter.Add(start.start);
+        busySeconds[start.order.queue] += start.finish - start.start;
     }
-    zahlen.Sitzungen = sitzungen.Zahl;
-    for (std::size_t i = 0; i < beschaeftigt.size(); ++i) {
-        zahlen.Leerlauf[i] = Saturate<Long>(zahlen.Dauer - beschaeftigt[i]);
+    figures.sittings = counter.count;
+    for (std::size_t i = 0; i < busySeconds.size(); ++i) {
+        figures.idle[i] = Saturate<Long>(figures.duration - busySeconds[i]);
     }
-    return zahlen;
+    return figures;
 }
 
-Vergleich Vergleiche(const Ablauf& a, const Ablauf& b) {
-    std::map<Schluessel, Vergleichszeile> zeilen;
-    Trage(a, &Vergleichszeile::A, zeilen);
-    Trage(b, &Vergleichszeile::B, zeilen);
-    Vergleich vergleich{.A = Kennzahlen::Von(a), .B = Kennzahlen::Von(b), .Unterschiede = {}};
-    for (const auto& [schluessel, zeile] : zeilen) {
-        if (zeile.A != zeile.B) {
-            vergleich.Unterschiede.push_back(zeile);
+Comparison Compare(const RunTrace& a, const RunTrace& b) {
+    std::map<RowKey, ComparisonRow> rows;
+    Enter(a, &ComparisonRow::a, rows);
+    Enter(b, &ComparisonRow::b, rows);
+    Comparison comparison{.a = RunSummary::Of(a), .b = RunSummary::Of(b), .differences = {}};
+    for (const auto& [key, line] : rows) {
+        if (line.a != line.b) {
+            comparison.differences.push_back(line);
         }
     }
-    std::ranges::sort(vergleich.Unterschiede, {}, Rang);
-    return vergleich;
+    std::ranges::sort(comparison.differences, {}, Rank);
+    return comparison;
 }
 
 }  // namespace tarvelin

@@ -9,45 +9,45 @@
 namespace tarvelin {
 
 /// What a run comes to.
-struct Kennzahlen {
+struct RunSummary {
     /// Seconds.
-    Long Dauer = 0;
+    Long duration = 0;
     Long VerbauteRessourcen = 0;
-    PerResource<FixedPoint> Vorrat{};
-    int Sitzungen = 0;
+    PerResource<FixedPoint> stock{};
+    int sittings = 0;
     /// Seconds in which a queue has nothing to do.
-    PerQueue<Long> Leerlauf{};
+    PerQueue<Long> idle{};
 
-    static Kennzahlen Von(const Ablauf& ablauf);
+    static RunSummary Of(const RunTrace& trace);
 
-    friend bool operator==(const Kennzahlen&, const Kennzahlen&) = default;
+    friend bool operator==(const RunSummary&, const RunSummary&) = default;
 };
 
 /// An order that one run starts at another moment than the other, or that only one of them has.
-struct Vergleichszeile {
-    Order Order;
+struct ComparisonRow {
+    Order order;
     /// The level or number of an item; of a production row how manieth of its kind it is.
-    int Nummer = 0;
-    std::optional<SimTime> A;
-    std::optional<SimTime> B;
+    int number = 0;
+    std::optional<SimTime> a;
+    std::optional<SimTime> b;
 
     /// How many seconds it starts later in B; nothing if only one has it.
-    [[nodiscard]] std::optional<Long> Unterschied() const {
-        return A && B ? std::optional(*B - *A) : std::nullopt;
+    [[nodiscard]] std::optional<Long> Difference() const {
+        return a && b ? std::optional(*b - *a) : std::nullopt;
     }
 
-    friend bool operator==(const Vergleichszeile&, const Vergleichszeile&) = default;
+    friend bool operator==(const ComparisonRow&, const ComparisonRow&) = default;
 };
 
-struct Vergleich {
-    Kennzahlen A;
-    Kennzahlen B;
+struct Comparison {
+    RunSummary a;
+    RunSummary b;
     /// By the earlier of both starts.
-    std::vector<Vergleichszeile> Unterschiede;
+    std::vector<ComparisonRow> differences;
 };
 
 /// Orders are the same if item and level or number are, production rows if their factors and their
 /// number among those with these factors are. With the runs exchanged A and B are.
-[[nodiscard]] Vergleich Vergleiche(const Ablauf& a, const Ablauf& b);
+[[nodiscard]] Comparison Compare(const RunTrace& a, const RunTrace& b);
 
 }  // namespace tarvelin

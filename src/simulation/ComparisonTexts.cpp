@@ -8,55 +8,56 @@ namespace tarvelin {
 
 namespace {
 
-Vergleichstext Zeit(std::string name, Long a, Long b) {
-    return {std::move(name), Spannentext(a), Spannentext(b),
-            Aenderungstext(LongSum(b, -std::int64_t{a}))};
+ComparisonText TimeText(std::string name, Long a, Long b) {
+    return {std::move(name), TimeSpanText(a), TimeSpanText(b),
+            SignedTimeSpanText(LongSum(b, -std::int64_t{a}))};
 }
 
-Vergleichstext Zahl(std::string name, double a, double b, int stellen) {
-    const auto text = [stellen](double wert) { return DecimalText(wert, stellen); };
+ComparisonText NumberText(std::string name, double a, double b, int decimals) {
+    const auto text = [decimals](double value) { return DecimalText(value, decimals); };
     return {std::move(name), text(a), text(b), (b > a ? "+" : "") + text(b - a)};
 }
 
 }  // namespace
 
-std::vector<Vergleichstext> Kennzahltexte(const Vergleich& vergleich) {
-    const Kennzahlen& a = vergleich.A;
-    const Kennzahlen& b = vergleich.B;
-    constexpr double kRessourcenJePunkt = 1000;
-    constexpr int kStellen = 3;
-    std::vector<Vergleichstext> zeilen{Zeit("Dauer", a.Dauer, b.Dauer),
-                                       Zahl("Punkte", a.VerbauteRessourcen / kRessourcenJePunkt,
-                                            b.VerbauteRessourcen / kRessourcenJePunkt, kStellen)};
+std::vector<ComparisonText> SummaryTexts(const Comparison& comparison) {
+    const RunSummary& a = comparison.a;
+    const RunSummary& b = comparison.b;
+    constexpr double kResourcesPerPoint = 1000;
+    constexpr int kDecimals = 3;
+    std::vector<ComparisonText> rows{
+        TimeText("Dauer", a.duration, b.duration),
+        NumberText("Punkte", a.VerbauteRessourcen / kResourcesPerPoint,
+                   b.VerbauteRessourcen / kResourcesPerPoint, kDecimals)};
     struct Name {
-        Resource Was;
-        const char* Text;
+        Resource resource;
+        const char* text;
     };
-    for (const auto& [was, name] :
+    for (const auto& [what, name] :
          {Name{Resource::Metall, "Metall"}, Name{Resource::Kristall, "Kristall"},
           Name{Resource::Deuterium, "Deuterium"}}) {
-        zeilen.push_back(Zahl(name, static_cast<double>(a.Vorrat[was].WholePart()),
-                              static_cast<double>(b.Vorrat[was].WholePart()), 0));
+        rows.push_back(NumberText(name, static_cast<double>(a.stock[what].WholePart()),
+                                  static_cast<double>(b.stock[what].WholePart()), 0));
     }
-    zeilen.push_back(Zahl("Sitzungen", a.Sitzungen, b.Sitzungen, 0));
-    for (const Queue schlange : {Queue::Building, Queue::Research, Queue::Shipyard}) {
-        zeilen.push_back(Zeit(std::string(Schlangenname(schlange)) + " ohne Arbeit",
-                              a.Leerlauf[schlange], b.Leerlauf[schlange]));
+    rows.push_back(NumberText("Sitzungen", a.sittings, b.sittings, 0));
+    for (const Queue queue : {Queue::Building, Queue::Research, Queue::Shipyard}) {
+        rows.push_back(
+            TimeText(std::string(QueueName(queue)) + " ohne Arbeit", a.idle[queue], b.idle[queue]));
     }
-    return zeilen;
+    return rows;
 }
 
-std::vector<Vergleichstext> Auftragstexte(const Vergleich& vergleich) {
-    std::vector<Vergleichstext> zeilen;
+std::vector<ComparisonText> OrderDifferences(const Comparison& comparison) {
+    std::vector<ComparisonText> rows;
     const auto text = [](const std::optional<SimTime>& moment) {
-        return moment ? Spannentext(moment->Seconds()) : "fehlt";
+        return moment ? TimeSpanText(moment->Seconds()) : "fehlt";
     };
-    for (const Vergleichszeile& zeile : vergleich.Unterschiede) {
-        const auto unterschied = zeile.Unterschied();
-        zeilen.push_back({Auftragstext(zeile.Order, zeile.Nummer), text(zeile.A), text(zeile.B),
-                          unterschied ? Aenderungstext(*unterschied) : ""});
+    for (const ComparisonRow& row : comparison.differences) {
+        const auto difference = row.Difference();
+        rows.push_back({OrderText(row.order, row.number), text(row.a), text(row.b),
+                        difference ? SignedTimeSpanText(*difference) : ""});
     }
-    return zeilen;
+    return rows;
 }
 
 }  // namespace tarvelin

@@ -7,26 +7,26 @@
 
 namespace tarvelin {
 
-std::optional<Long> LiesVorlauf(std::string_view vorher) {
-    constexpr std::int64_t kLaengstens = 86400;
-    const auto sekunden = ParseWholeNumber(vorher, 0, kLaengstens);
-    return sekunden ? std::optional(static_cast<Long>(*sekunden)) : std::nullopt;
+std::optional<Long> ParseLeadTime(std::string_view before) {
+    constexpr std::int64_t kLongest = 86400;
+    const auto seconds = ParseWholeNumber(before, 0, kLongest);
+    return seconds ? std::optional(static_cast<Long>(*seconds)) : std::nullopt;
 }
 
-std::size_t FaelligeBauzeiten(const Bauzeiten& bauzeiten, DateTime jetzt, std::string_view vorher) {
-    const auto sekunden = LiesVorlauf(vorher);
-    if (!sekunden) {
+std::size_t DueStarts(const Schedule& schedule, DateTime now, std::string_view before) {
+    const auto seconds = ParseLeadTime(before);
+    if (!seconds) {
         return 0;
     }
     return static_cast<std::size_t>(
-        std::ranges::count(bauzeiten, jetzt + *sekunden, &Bauzeit::Start));
+        std::ranges::count(schedule, now + *seconds, &ScheduleEntry::start));
 }
 
-std::size_t FaelligeSchlafzeiten(const SleepTable& tabelle, DateTime jetzt) {
-    constexpr std::int64_t kEineMinute = 60;
-    const std::string gleich = DateTimeText(jetzt + kEineMinute);
+std::size_t DueSleepEnds(const SleepTable& table, DateTime now) {
+    constexpr std::int64_t kOneMinute = 60;
+    const std::string same = DateTimeText(now + kOneMinute);
     return static_cast<std::size_t>(std::ranges::count_if(
-        tabelle, [&](const SleepRow& zeile) { return zeile.Endzeit + ":00" == gleich; }));
+        table, [&](const SleepRow& row) { return row.Endzeit + ":00" == same; }));
 }
 
 }  // namespace tarvelin

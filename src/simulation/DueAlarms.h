@@ -12,15 +12,15 @@ namespace tarvelin {
 
 /// How many seconds before a start the alarm rings; nothing for a text that is no whole number from
 /// 0 to 86400.
-[[nodiscard]] std::optional<Long> LiesVorlauf(std::string_view vorher);
+[[nodiscard]] std::optional<Long> ParseLeadTime(std::string_view before);
 
-/// How many build times are due `vorher` seconds after `jetzt`, to the second. None
+/// How many build times are due `before` seconds after `now`, to the second. None
 /// without a number of seconds.
-[[nodiscard]] std::size_t FaelligeBauzeiten(const Bauzeiten& bauzeiten, DateTime jetzt,
-                                            std::string_view vorher);
+[[nodiscard]] std::size_t DueStarts(const Schedule& schedule, DateTime now,
+                                    std::string_view before);
 
-/// How many sleep windows end in the minute that begins one minute after `jetzt`. The texts of the
+/// How many sleep windows end in the minute that begins one minute after `now`. The texts of the
 /// table are compared as they stand.
-[[nodiscard]] std::size_t FaelligeSchlafzeiten(const SleepTable& tabelle, DateTime jetzt);
+[[nodiscard]] std::size_t DueSleepEnds(const SleepTable& table, DateTime now);
 
 }  // namespace tarvelin

@@ -3,20 +3,20 @@
 
 namespace tarvelin {
 
-void EventTabelle::SetFinish(SimTime zeit, std::size_t order) {
-    std::size_t platz = m_zahl++;
-    for (; platz > 0 && m_finishs[platz - 1].Zeit <= zeit; --platz) {
-        m_finishs.at(platz) = m_finishs[platz - 1];
+void EventTable::SetEvent(SimTime Zeit, std::size_t order) {
+    std::size_t slot = m_number++;
+    for (; slot > 0 && m_finishes[slot - 1].time <= Zeit; --slot) {
+        m_finishes.at(slot) = m_finishes[slot - 1];
     }
-    m_finishs.at(platz) = {.Zeit = zeit, .Order = static_cast<std::uint16_t>(order)};
+    m_finishes.at(slot) = {.time = Zeit, .order = static_cast<std::uint16_t>(order)};
 }
 
-EventTabelle::Zeile EventTabelle::NimmErste() {
-    if (m_wartetEiner && (m_zahl == 0 || m_startzeit < m_finishs[m_zahl - 1].Zeit)) {
-        m_wartetEiner = false;
-        return {.Zeit = m_startzeit, .Order = m_wartender, .IstStart = true};
+EventTable::Event EventTable::ClearEvent() {
+    if (m_isPending && (m_number == 0 || m_startTime < m_finishes[m_number - 1].time)) {
+        m_isPending = false;
+        return {.time = m_startTime, .order = m_pendingOrder, .StartFlag = true};
     }
-    return m_finishs[--m_zahl];
+    return m_finishes[--m_number];
 }
 
 }  // namespace tarvelin

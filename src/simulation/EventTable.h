@@ -13,51 +13,51 @@ namespace tarvelin {
 /// The rows' order is that of their moments; at one moment finish rows come before the start row,
 /// and finish rows in the order in which they were entered. Rows name orders by their places in the
 /// list.
-class EventTabelle {
+class EventTable {
   public:
-    struct Zeile {
-        SimTime Zeit;
-        std::uint16_t Order = 0;
-        bool IstStart = false;
+    struct Event {
+        SimTime time;
+        std::uint16_t order = 0;
+        bool StartFlag = false;
     };
 
     /// Enters the start row; none waits yet.
-    void SetStart(std::size_t order) {
-        m_startzeit = SimTime();
-        m_wartender = static_cast<std::uint16_t>(order);
-        m_wartetEiner = true;
+    void SetEvent(std::size_t order) {
+        m_startTime = SimTime();
+        m_pendingOrder = static_cast<std::uint16_t>(order);
+        m_isPending = true;
     }
-    [[nodiscard]] bool NoStartPending() const { return !m_wartetEiner; }
+    [[nodiscard]] bool NoStartPending() const { return !m_isPending; }
     /// The place of the order that waits.
-    [[nodiscard]] std::size_t Wartender() const { return m_wartender; }
+    [[nodiscard]] std::size_t PendingOrder() const { return m_pendingOrder; }
     /// Gives the start row that waits another moment.
-    void SetStartzeit(SimTime zeit) { m_startzeit = zeit; }
+    void RetimeStart(SimTime time) { m_startTime = time; }
 
     /// Enters a finish row.
-    void SetFinish(SimTime zeit, std::size_t order);
+    void SetEvent(SimTime Zeit, std::size_t order);
 
-    [[nodiscard]] bool HatFinishVor(SimTime zeit) const {
-        return m_zahl > 0 && m_finishs[m_zahl - 1].Zeit < zeit;
+    [[nodiscard]] bool HasFinishBefore(SimTime time) const {
+        return m_number > 0 && m_finishes[m_number - 1].time < time;
     }
 
-    [[nodiscard]] bool IstLeer() const { return NoStartPending() && m_zahl == 0; }
+    [[nodiscard]] bool IsEmpty() const { return NoStartPending() && m_number == 0; }
 
     /// Takes out the earliest row. There is one.
-    Zeile NimmErste();
+    Event ClearEvent();
 
   private:
     /// All that a run ever has in use: one finish for each queue, as a queue's next order can't
     /// start before its finish, and the finishes of production rows. The next event carries those
     /// out, unless an order without a source of deuterium starts a second before; each queue can
     /// bring one such order.
-    static constexpr std::size_t kFinishzeilen = 8;
+    static constexpr std::size_t kFinishEvents = 8;
 
-    SimTime m_startzeit;
-    std::uint16_t m_wartender = 0;
-    bool m_wartetEiner = false;
-    std::size_t m_zahl = 0;
+    SimTime m_startTime;
+    std::uint16_t m_pendingOrder = 0;
+    bool m_isPending = false;
+    std::size_t m_number = 0;
     /// The earliest stands at the end.
-    std::array<Zeile, kFinishzeilen> m_finishs{};
+    std::array<Event, kFinishEvents> m_finishes{};
 };
 
 }  // namespace tarvelin

@@ -5,21 +5,21 @@
 
 namespace tarvelin {
 
-void Verlauf::NachSchritt(const GameState& stand) {
-    m_punkte.push_back({.Zeit = stand.secsgone,
-                        .Vorrat = stand.stock,
-                        .ProStunde = stand.ProStunde,
-                        .EnergieProduktion = stand.EnergieProduktion,
-                        .EnergieVerbrauch = stand.EnergieVerbrauch,
-                        .Stufen = stand.Stufe});
+void HistoryRecorder::OnStepDone(const GameState& state) {
+    m_points.push_back({.time = state.secsgone,
+                        .stock = state.stock,
+                        .ProStunde = state.ProStunde,
+                        .EnergieProduktion = state.EnergieProduktion,
+                        .EnergieVerbrauch = state.EnergieVerbrauch,
+                        .Stufe = state.Stufe});
 }
 
-PerResource<FixedPoint> VorratNach(const Verlaufspunkt& punkt, Long sekunden) {
-    GameState stand;
-    stand.stock = punkt.Vorrat;
-    stand.ProStunde = punkt.ProStunde;
-    VergeheZeit(sekunden, stand);
-    return stand.stock;
+PerResource<FixedPoint> StockAfter(const HistoryPoint& point, Long seconds) {
+    GameState state;
+    state.stock = point.stock;
+    state.ProStunde = point.ProStunde;
+    VergeheZeit(seconds, state);
+    return state.stock;
 }
 
 }  // namespace tarvelin

@@ -10,30 +10,30 @@
 namespace tarvelin {
 
 /// The state behind an event. Until the next one the stocks go on by the rates, in a straight line.
-struct Verlaufspunkt {
-    SimTime Zeit;
-    PerResource<FixedPoint> Vorrat{};
+struct HistoryPoint {
+    SimTime time;
+    PerResource<FixedPoint> stock{};
     PerResource<FixedPoint> ProStunde{};
     Long EnergieProduktion = 0;
     Long EnergieVerbrauch = 0;
-    PerItem<Byte> Stufen{};
+    PerItem<Byte> Stufe{};
 };
 
 /// Keeps a point of each step, in the order of the run: the clock can step back by a click buffer.
-class Verlauf final : public Laufbeobachter {
+class HistoryRecorder final : public RunObserver {
   public:
-    /// `anfang` is the state before the first step.
-    explicit Verlauf(const GameState& anfang) { NachSchritt(anfang); }
+    /// `initial` is the state before the first step.
+    explicit HistoryRecorder(const GameState& initial) { OnStepDone(initial); }
 
-    void NachSchritt(const GameState& stand) override;
+    void OnStepDone(const GameState& state) override;
 
-    [[nodiscard]] const std::vector<Verlaufspunkt>& Punkte() const { return m_punkte; }
+    [[nodiscard]] const std::vector<HistoryPoint>& Recorded() const { return m_points; }
 
   private:
-    std::vector<Verlaufspunkt> m_punkte;
+    std::vector<HistoryPoint> m_points;
 };
 
-/// The stocks `sekunden` behind a point, as the run rounds them if nothing happens meanwhile.
-[[nodiscard]] PerResource<FixedPoint> VorratNach(const Verlaufspunkt& punkt, Long sekunden);
+/// The stocks `seconds` behind a point, as the run rounds them if nothing happens meanwhile.
+[[nodiscard]] PerResource<FixedPoint> StockAfter(const HistoryPoint& point, Long seconds);
 
 }  // namespace tarvelin

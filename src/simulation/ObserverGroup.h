@@ -9,38 +9,38 @@ namespace tarvelin {
 
 /// Tells each event to all of them, one after the other. Their kinds are known, so that what an
 /// observer doesn't ask for costs nothing.
-template <class... Beobachter>
-class Beobachterreihe final : public Laufbeobachter {
+template <class... Observer>
+class ObserverGroup final : public RunObserver {
   public:
     /// They must outlive it.
-    explicit Beobachterreihe(Beobachter&... alle) : m_alle(alle...) {}
+    explicit ObserverGroup(Observer&... all) : m_all(all...) {}
 
-    void Start(const Startereignis& ereignis) override {
-        FuerAlle([&](auto& b) { b.Start(ereignis); });
+    void OnStart(const StartEvent& event) override {
+        ForAll([&](auto& b) { b.OnStart(event); });
     }
-    void Finish(const Order& order) override {
-        FuerAlle([&](auto& b) { b.Finish(order); });
+    void OnFinish(const Order& order) override {
+        ForAll([&](auto& b) { b.OnFinish(order); });
     }
-    void Schulden(const GameState& stand) override {
-        FuerAlle([&](auto& b) { b.Schulden(stand); });
+    void OnNegativeStock(const GameState& state) override {
+        ForAll([&](auto& b) { b.OnNegativeStock(state); });
     }
-    void Unbekannt(Unbekanntes was) override {
-        FuerAlle([&](auto& b) { b.Unbekannt(was); });
+    void OnUnknownOrder(UnknownOrderAt what) override {
+        ForAll([&](auto& b) { b.OnUnknownOrder(what); });
     }
-    void Piepton() override {
-        FuerAlle([](auto& b) { b.Piepton(); });
+    void OnEmptyStep() override {
+        ForAll([](auto& b) { b.OnEmptyStep(); });
     }
-    void NachSchritt(const GameState& stand) override {
-        FuerAlle([&](auto& b) { b.NachSchritt(stand); });
+    void OnStepDone(const GameState& state) override {
+        ForAll([&](auto& b) { b.OnStepDone(state); });
     }
 
   private:
-    template <class Melde>
-    void FuerAlle(Melde melde) {
-        std::apply([&](Beobachter&... b) { (melde(b), ...); }, m_alle);
+    template <class Report>
+    void ForAll(Report report) {
+        std::apply([&](Observer&... b) { (report(b), ...); }, m_all);
     }
 
-    std::tuple<Beobachter&...> m_alle;
+    std::tuple<Observer&...> m_all;
 };
 
 }  // namespace tarvelin

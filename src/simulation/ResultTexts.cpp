@@ -8,55 +8,55 @@ namespace tarvelin {
 
 namespace {
 
-std::string AlsPunkte(double ressourcen) {
-    constexpr double kRessourcenJePunkt = 1000;
-    constexpr int kStellen = 3;
-    return DecimalText(ressourcen / kRessourcenJePunkt, kStellen);
+std::string ToPoints(double resources) {
+    constexpr double kResourcesPerPoint = 1000;
+    constexpr int kDecimals = 3;
+    return DecimalText(resources / kResourcesPerPoint, kDecimals);
 }
 
 }  // namespace
 
-std::string Dauertext(const GameState& stand) {
-    return FormatDuration(stand.secsgone.Seconds(), "s", "dd(0)hh:mm:ss", "d");
+std::string DurationText(const GameState& state) {
+    return FormatDuration(state.secsgone.Seconds(), "s", "dd(0)hh:mm:ss", "d");
 }
 
-std::string Punktetext(const GameState& stand) {
-    return AlsPunkte(stand.VerbauteRessourcen);
+std::string PointsText(const GameState& state) {
+    return ToPoints(state.VerbauteRessourcen);
 }
 
-std::string PunkteMitVorratText(const GameState& stand) {
-    return AlsPunkte((FixedPoint::FromWhole(stand.VerbauteRessourcen) +
-                      stand.stock[Resource::Deuterium] + stand.stock[Resource::Kristall] +
-                      stand.stock[Resource::Metall])
-                         .ToDouble());
+std::string PointsWithStockText(const GameState& state) {
+    return ToPoints((FixedPoint::FromWhole(state.VerbauteRessourcen) +
+                     state.stock[Resource::Deuterium] + state.stock[Resource::Kristall] +
+                     state.stock[Resource::Metall])
+                        .ToDouble());
 }
 
-void Ergebnistexte::NachReset() {
-    const Ergebnistexte anfang;
-    LBL_Timegone2 = anfang.LBL_Timegone2;
-    LBL_Punkte = anfang.LBL_Punkte;
+void ResultTexts::AfterReset() {
+    const ResultTexts initial;
+    LBL_Timegone2 = initial.LBL_Timegone2;
+    LBL_Punkte = initial.LBL_Punkte;
 }
 
-void Ergebnistexte::NachClear() {
-    const Ergebnistexte anfang;
-    LBL_Timegone = anfang.LBL_Timegone;
-    LBL_Deut = anfang.LBL_Deut;
-    LBL_Kris = anfang.LBL_Kris;
-    LBL_Met = anfang.LBL_Met;
-    LBL_ENergie = anfang.LBL_ENergie;
+void ResultTexts::AfterClear() {
+    const ResultTexts initial;
+    LBL_Timegone = initial.LBL_Timegone;
+    LBL_Deut = initial.LBL_Deut;
+    LBL_Kris = initial.LBL_Kris;
+    LBL_Met = initial.LBL_Met;
+    LBL_ENergie = initial.LBL_ENergie;
 }
 
-void Ergebnistexte::NachLauf(const GameState& stand) {
-    LBL_Timegone = "Dauer: " + Dauertext(stand);
+void ResultTexts::AfterRun(const GameState& state) {
+    LBL_Timegone = "Dauer: " + DurationText(state);
     LBL_Timegone2 = LBL_Timegone;
-    LBL_Met = std::to_string(stand.stock[Resource::Metall].WholePart());
-    LBL_Kris = std::to_string(stand.stock[Resource::Kristall].WholePart());
-    LBL_Deut = std::to_string(stand.stock[Resource::Deuterium].WholePart());
+    LBL_Met = std::to_string(state.stock[Resource::Metall].WholePart());
+    LBL_Kris = std::to_string(state.stock[Resource::Kristall].WholePart());
+    LBL_Deut = std::to_string(state.stock[Resource::Deuterium].WholePart());
     LBL_ENergie =
-        std::to_string(LongSum(stand.EnergieProduktion, -std::int64_t{stand.EnergieVerbrauch})) +
-        " / " + std::to_string(stand.EnergieProduktion);
-    LBL_Punkte = Punktetext(stand) + " P";
-    LBL_Punkte_Hinweis = "Inkl. Res.: " + PunkteMitVorratText(stand) + " Punkte";
+        std::to_string(LongSum(state.EnergieProduktion, -std::int64_t{state.EnergieVerbrauch})) +
+        " / " + std::to_string(state.EnergieProduktion);
+    LBL_Punkte = PointsText(state) + " P";
+    LBL_Punkte_Hint = "Inkl. Res.: " + PointsWithStockText(state) + " Punkte";
 }
 
 }  // namespace tarvelin

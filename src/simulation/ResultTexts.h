@@ -8,15 +8,15 @@
 namespace tarvelin {
 
 /// "01 Tage 01:01:01": the clock of a run.
-[[nodiscard]] std::string Dauertext(const GameState& stand);
+[[nodiscard]] std::string DurationText(const GameState& state);
 /// "75,3": a point is a thousand units of resources spent.
-[[nodiscard]] std::string Punktetext(const GameState& stand);
+[[nodiscard]] std::string PointsText(const GameState& state);
 /// The same with what lies unspent.
-[[nodiscard]] std::string PunkteMitVorratText(const GameState& stand);
+[[nodiscard]] std::string PointsWithStockText(const GameState& state);
 
 /// The captions, as the window starts with them. Each of the functions below writes the labels
 /// that its event touches and leaves the others.
-struct Ergebnistexte {
+struct ResultTexts {
     std::string LBL_Timegone = "Dauer: dd:hh:mm:ss";
     std::string LBL_Timegone2 = "Dauer: dd:hh:mm:ss";
     std::string LBL_Met = "500";
@@ -24,11 +24,11 @@ struct Ergebnistexte {
     std::string LBL_Deut = "0";
     std::string LBL_ENergie = "0 / 0";
     std::string LBL_Punkte = "0";
-    std::string LBL_Punkte_Hinweis;
+    std::string LBL_Punkte_Hint;
 
-    void NachReset();
-    void NachClear();
-    void NachLauf(const GameState& stand);
+    void AfterReset();
+    void AfterClear();
+    void AfterRun(const GameState& state);
 };
 
 }  // namespace tarvelin

@@ -12,49 +12,49 @@
 namespace tarvelin {
 
 /// An order is given.
-struct Startereignis {
+struct StartEvent {
     /// Of the list, from 0.
-    std::size_t Zeile = 0;
-    Order Order;
+    std::size_t row = 0;
+    Order order;
     /// The level or number that an item reaches; 0 for a production row.
-    Byte Nummer = 0;
-    SimTime Start;
+    Byte number = 0;
+    SimTime start;
     /// A production row finishes as it starts.
-    SimTime Finish;
+    SimTime finish;
     /// What the stocks lacked when the start was last timed.
-    Shortage Mangel;
+    Shortage shortage;
     /// What held it back last; `None` if it waited for nothing but the row before it.
-    Delay Grund;
+    Delay delay;
     /// It starts on the value of a closed gate, as nothing was left that could open it.
-    bool TorZu = false;
+    bool gateClosed = false;
     /// When it could have started without the sleep windows; the last moment there is if none held
     /// it back.
-    SimTime Wach{};
+    SimTime sleepFreeStart{};
 
-    friend bool operator==(const Startereignis&, const Startereignis&) = default;
+    friend bool operator==(const StartEvent&, const StartEvent&) = default;
 };
 
 /// Where an order is met that no rule knows.
-enum class Unbekanntes : std::uint8_t { Start, Wartezeit };
+enum class UnknownOrderAt : std::uint8_t { Start, Wait };
 
 /// Is told a run as figures. The state is that behind the event, before the next balance. Each of
 /// these does nothing unless it is overridden.
-class Laufbeobachter {
+class RunObserver {
   public:
-    Laufbeobachter() = default;
-    Laufbeobachter(const Laufbeobachter&) = delete;
-    Laufbeobachter& operator=(const Laufbeobachter&) = delete;
-    virtual ~Laufbeobachter() = default;
+    RunObserver() = default;
+    RunObserver(const RunObserver&) = delete;
+    RunObserver& operator=(const RunObserver&) = delete;
+    virtual ~RunObserver() = default;
 
-    virtual void Start(const Startereignis& /*ereignis*/) {}
-    virtual void Finish(const Order& /*order*/) {}
+    virtual void OnStart(const StartEvent& /*ereignis*/) {}
+    virtual void OnFinish(const Order& /*order*/) {}
     /// A start has left a stock below 0.
-    virtual void Schulden(const GameState& /*stand*/) {}
-    virtual void Unbekannt(Unbekanntes /*was*/) {}
+    virtual void OnNegativeStock(const GameState& /*stand*/) {}
+    virtual void OnUnknownOrder(UnknownOrderAt /*was*/) {}
     /// A step found nothing to do.
-    virtual void Piepton() {}
+    virtual void OnEmptyStep() {}
     /// A step is over, and the balance struck.
-    virtual void NachSchritt(const GameState& /*stand*/) {}
+    virtual void OnStepDone(const GameState& /*stand*/) {}
 };
 
 }  // namespace tarvelin

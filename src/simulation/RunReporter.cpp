@@ -5,18 +5,18 @@
 
 namespace tarvelin {
 
-void Laufmeldungen::Schulden(const GameState& stand) {
-    m_ausgabe.Show(
-        {.text = "Negative Ressourcen: Metall: " + DecimalText(stand.stock[Resource::Metall]) +
-                 "    Kristall:" + DecimalText(stand.stock[Resource::Kristall]) +
-                 "    Deuterium: " + DecimalText(stand.stock[Resource::Deuterium]),
+void RunReporter::OnNegativeStock(const GameState& state) {
+    m_messages.Show(
+        {.text = "Negative Ressourcen: Metall: " + DecimalText(state.stock[Resource::Metall]) +
+                 "    Kristall:" + DecimalText(state.stock[Resource::Kristall]) +
+                 "    Deuterium: " + DecimalText(state.stock[Resource::Deuterium]),
          .title = "Simulations-Fehler, bitte melden"});
 }
 
-void Laufmeldungen::Unbekannt(Unbekanntes was) {
-    m_ausgabe.Show({.text = was == Unbekanntes::Start ? "STARTAUFTRAG NICHT ERKANNT"
-                                                      : "UpgrdingensSAUFTRAG NICHT ERKANNT",
-                    .title = ""});
+void RunReporter::OnUnknownOrder(UnknownOrderAt what) {
+    m_messages.Show({.text = what == UnknownOrderAt::Start ? "STARTAUFTRAG NICHT ERKANNT"
+                                                           : "UpgrdingensSAUFTRAG NICHT ERKANNT",
+                     .title = ""});
 }
 
 }  // namespace tarvelin

@@ -7,17 +7,17 @@
 namespace tarvelin {
 
 /// Hands out messages and beeps as they come.
-class Laufmeldungen final : public Laufbeobachter {
+class RunReporter final : public RunObserver {
   public:
-    /// `ausgabe` must outlive it.
-    explicit Laufmeldungen(MessageSink& ausgabe) : m_ausgabe(ausgabe) {}
+    /// `messages` must outlive it.
+    explicit RunReporter(MessageSink& messages) : m_messages(messages) {}
 
-    void Schulden(const GameState& stand) override;
-    void Unbekannt(Unbekanntes was) override;
-    void Piepton() override { m_ausgabe.Beep(); }
+    void OnNegativeStock(const GameState& state) override;
+    void OnUnknownOrder(UnknownOrderAt what) override;
+    void OnEmptyStep() override { m_messages.Beep(); }
 
   private:
-    MessageSink& m_ausgabe;
+    MessageSink& m_messages;
 };
 
 }  // namespace tarvelin

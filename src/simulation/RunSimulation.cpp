@@ -8,26 +8,26 @@
 
 namespace tarvelin {
 
-void Lauf::Beginne(const RunConditions& bedingungen) {
-    Bedingungen = bedingungen;
-    Stand = InitialState(Bedingungen);
+void LastRun::ResetSimulation(const RunConditions& given) {
+    conditions = given;
+    state = InitialState(conditions);
     LV_Bauzeiten.clear();
 }
 
-void Lauf::ResetSimulation(const StartParameters& parameter) {
-    Bedingungen.Temperatur = ParseTemperature(parameter).value_or(Bedingungen.Temperatur);
-    Stand = InitialState(Bedingungen);
+void LastRun::ResetSimulation(const StartParameters& parameters) {
+    conditions.Temperatur = ParseTemperature(parameters).value_or(conditions.Temperatur);
+    state = InitialState(conditions);
     LV_Bauzeiten.clear();
 }
 
-void RunSimulation(std::span<const Order> auftraege, Lauf& lauf, MessageSink& meldungen) {
-    lauf.LV_Bauzeiten.reserve(auftraege.size());
-    Bauzeitenschreiber zeilen(lauf.Bedingungen, lauf.LV_Bauzeiten);
-    Laufmeldungen worte(meldungen);
-    Beobachterreihe beobachter(zeilen, worte);
-    Simulation simulation(auftraege, lauf.Bedingungen);
-    simulation.Laufe(beobachter);
-    lauf.Stand = simulation.Stand();
+void RunSimulation(std::span<const Order> orders, LastRun& run, MessageSink& messages) {
+    run.LV_Bauzeiten.reserve(orders.size());
+    ScheduleRecorder rows(run.conditions, run.LV_Bauzeiten);
+    RunReporter words(messages);
+    ObserverGroup observer(rows, words);
+    Simulation simulation(orders, run.conditions);
+    simulation.RunToEnd(observer);
+    run.state = simulation.State();
 }
 
 }  // namespace tarvelin

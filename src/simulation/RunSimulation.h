@@ -12,20 +12,20 @@
 namespace tarvelin {
 
 /// What a run leaves behind until the next run or reset.
-struct Lauf {
-    RunConditions Bedingungen;
-    GameState Stand;
-    Bauzeiten LV_Bauzeiten;
+struct LastRun {
+    RunConditions conditions;
+    GameState state;
+    Schedule LV_Bauzeiten;
 
     /// The state before the first event of a run.
-    void Beginne(const RunConditions& bedingungen);
+    void ResetSimulation(const RunConditions& given);
 
     /// The same without a run: a temperature that can't be used leaves the former one, all other
     /// conditions stay.
-    void ResetSimulation(const StartParameters& parameter);
+    void ResetSimulation(const StartParameters& parameters);
 };
 
-/// Plays the orders from the first to the last; `lauf` has begun.
-void RunSimulation(std::span<const Order> auftraege, Lauf& lauf, MessageSink& meldungen);
+/// Plays the orders from the first to the last; `run` has begun.
+void RunSimulation(std::span<const Order> orders, LastRun& run, MessageSink& messages);
 
 }  // namespace tarvelin

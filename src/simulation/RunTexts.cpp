@@ -13,118 +13,118 @@ namespace tarvelin {
 namespace {
 
 /// When the wait was over: the click comes behind it.
-DateTime BereitUm(const Ablauf& ablauf, const Startereignis& start) {
-    return ablauf.Bedingungen.WallClock(start.Start +
-                                        -std::int64_t{ablauf.Bedingungen.KlickPuffer});
+DateTime ReadyAt(const RunTrace& trace, const StartEvent& start) {
+    return trace.conditions.WallClock(start.start + -std::int64_t{trace.conditions.KlickPuffer});
 }
 
-std::string Stufentext(const LevelRequirement& fehlt) {
-    return std::string(RowOf(fehlt.item).name) + " " + std::to_string(fehlt.minLevel);
+std::string LevelText(const LevelRequirement& missing) {
+    return std::string(RowOf(missing.item).name) + " " + std::to_string(missing.minLevel);
 }
 
 /// The window whose end the order waited for, or that which began to hold it back.
-std::string Schlaftext(const Ablauf& ablauf, const Startereignis& start) {
-    const auto& fenster = ablauf.Bedingungen.Schlafzeiten;
-    auto gesucht = std::ranges::find(fenster, BereitUm(ablauf, start), &cSchlafzeit::Endzeit);
-    if (gesucht == fenster.end()) {
-        const DateTime wach = ablauf.Bedingungen.WallClock(start.Wach);
-        gesucht = std::ranges::find_if(fenster,
-                                       [&](const cSchlafzeit& f) { return f.CheckifInside(wach); });
+std::string SleepText(const RunTrace& trace, const StartEvent& start) {
+    const auto& sleepWindows = trace.conditions.Schlafzeiten;
+    auto wanted = std::ranges::find(sleepWindows, ReadyAt(trace, start), &cSchlafzeit::Endzeit);
+    if (wanted == sleepWindows.end()) {
+        const DateTime sleepFree = trace.conditions.WallClock(start.sleepFreeStart);
+        wanted = std::ranges::find_if(sleepWindows, [&](const cSchlafzeit& sleepWindow) {
+            return sleepWindow.CheckifInside(sleepFree);
+        });
     }
-    if (gesucht == fenster.end()) {
+    if (wanted == sleepWindows.end()) {
         return "Schlafzeit";
     }
-    return "Schlafzeit " + TimeOfDayText(gesucht->Startzeit()) + " bis " +
-           TimeOfDayText(gesucht->Endzeit());
+    return "Schlafzeit " + TimeOfDayText(wanted->Startzeit()) + " bis " +
+           TimeOfDayText(wanted->Endzeit());
 }
 
 /// Whether no order before the row waited for anything but clicks.
-bool NurKlicksDavor(const Ablauf& ablauf, std::size_t zeile) {
-    return std::ranges::all_of(ablauf.Starts, [&](const Startereignis& start) {
-        return start.Zeile >= zeile || start.Grund.cause == DelayCause::None;
+bool OnlyClicksBefore(const RunTrace& trace, std::size_t row) {
+    return std::ranges::all_of(trace.starts, [&](const StartEvent& start) {
+        return start.row >= row || start.delay.cause == DelayCause::None;
     });
 }
 
-std::string Klicktext(const Ablauf& ablauf, std::size_t zeile) {
-    if (!NurKlicksDavor(ablauf, zeile) || (ablauf.Bedingungen.KlickPuffer == 0 && zeile > 0)) {
-        return "wartete auf Zeile " + std::to_string(zeile);
+std::string ClickText(const RunTrace& trace, std::size_t row) {
+    if (!OnlyClicksBefore(trace, row) || (trace.conditions.KlickPuffer == 0 && row > 0)) {
+        return "wartete auf Zeile " + std::to_string(row);
     }
-    return ablauf.Bedingungen.KlickPuffer == 0
+    return trace.conditions.KlickPuffer == 0
                ? ""
-               : "Klickpuffer: " + std::to_string(ablauf.Bedingungen.KlickPuffer) + " s";
+               : "Klickpuffer: " + std::to_string(trace.conditions.KlickPuffer) + " s";
 }
 
-std::string Benannt(const Order& order, int nummer, std::string_view name) {
+std::string Named(const Order& order, int number, std::string_view name) {
     if (order.kind != Order::Kind::Item) {
-        return Bauzeit{.Order = order}.theText();
+        return ScheduleEntry{.order = order}.theText();
     }
     std::string text(name);
-    return RowOf(order.item).traits.showsNumber ? text + " " + std::to_string(nummer) : text;
+    return RowOf(order.item).traits.showsNumber ? text + " " + std::to_string(number) : text;
 }
 
-std::string Grundtext(const Ablauf& ablauf, const Startereignis& start) {
-    const Delay& grund = start.Grund;
-    switch (grund.cause) {
+std::string DelayReasonText(const RunTrace& trace, const StartEvent& start) {
+    const Delay& delay = start.delay;
+    switch (delay.cause) {
         case DelayCause::None:
-            return Klicktext(ablauf, start.Zeile);
+            return ClickText(trace, start.row);
         case DelayCause::Level:
-            return "Es fehlte: " + Stufentext(grund.missing);
+            return "Es fehlte: " + LevelText(delay.missing);
         case DelayCause::FacilityUpgrade:
-            return std::string(Schlangenname(grund.queue)) + ": Ausbau";
+            return std::string(QueueName(delay.queue)) + ": Ausbau";
         case DelayCause::Deuterium:
             return "Es fehlte: Produktion von Deuterium";
         case DelayCause::Resource:
-            return grund.shortage.Text();
+            return delay.shortage.Text();
         case DelayCause::Queue:
-            return std::string(Schlangenname(grund.queue)) + " bis " +
-                   TimeOfDayText(BereitUm(ablauf, start));
+            return std::string(QueueName(delay.queue)) + " bis " +
+                   TimeOfDayText(ReadyAt(trace, start));
         case DelayCause::Sleep:
-            return Schlaftext(ablauf, start);
+            return SleepText(trace, start);
     }
     return "";
 }
 
 }  // namespace
 
-std::string Wartetext(const Ablauf& ablauf, std::size_t zeile) {
-    const Startereignis* const start = ablauf.StartDer(zeile);
+std::string DelayText(const RunTrace& trace, std::size_t row) {
+    const StartEvent* const start = trace.StartOf(row);
     if (start == nullptr) {
         return "";
     }
     // Nothing was left that could have opened the gate.
-    return Grundtext(ablauf, *start) + (start->TorZu ? " (bis zuletzt)" : "");
+    return DelayReasonText(trace, *start) + (start->gateClosed ? " (bis zuletzt)" : "");
 }
 
-std::string UeberDieUhrText() {
+std::string BeyondClockText() {
     return "Der Plan dauert länger, als die Uhr zeigen kann: was später als " +
-           Spannentext(SimTime::Last().Seconds()) + " käme, steht bei diesem Zeitpunkt.";
+           TimeSpanText(SimTime::Last().Seconds()) + " käme, steht bei diesem Zeitpunkt.";
 }
 
-std::string Auftragstext(const Order& order, int nummer) {
-    return Benannt(order, nummer, RowOf(order.item).name);
+std::string OrderText(const Order& order, int number) {
+    return Named(order, number, RowOf(order.item).name);
 }
 
-std::string Auftragsschluessel(const Order& order, int nummer) {
-    return Benannt(order, nummer, RowOf(order.item).HoverName());
+std::string OrderKey(const Order& order, int number) {
+    return Named(order, number, RowOf(order.item).HoverName());
 }
 
-std::string Auftragstext(const Startereignis& start) {
-    return Auftragstext(start.Order, start.Nummer);
+std::string OrderText(const StartEvent& start) {
+    return OrderText(start.order, start.number);
 }
 
-std::string Spannentext(Long sekunden) {
-    constexpr Long kTag = 86400;
-    const Long tage = sekunden / kTag;
-    return (tage > 0 ? std::to_string(tage) + (tage == 1 ? " Tag " : " Tage ") : "") +
-           FormatDuration(sekunden % kTag, "s", "hh:mm:ss", "d");
+std::string TimeSpanText(Long seconds) {
+    constexpr Long kDay = 86400;
+    const Long days = seconds / kDay;
+    return (days > 0 ? std::to_string(days) + (days == 1 ? " Tag " : " Tage ") : "") +
+           FormatDuration(seconds % kDay, "s", "hh:mm:ss", "d");
 }
 
-std::string Aenderungstext(Long sekunden) {
-    return (sekunden < 0 ? "-" : sekunden > 0 ? "+" : "±") + Spannentext(std::abs(sekunden));
+std::string SignedTimeSpanText(Long seconds) {
+    return (seconds < 0 ? "-" : seconds > 0 ? "+" : "±") + TimeSpanText(std::abs(seconds));
 }
 
-std::string_view Schlangenname(Queue schlange) {
-    switch (schlange) {
+std::string_view QueueName(Queue queue) {
+    switch (queue) {
         case Queue::Building:
             return "Bauschleife";
         case Queue::Shipyard:

@@ -13,23 +13,23 @@ namespace tarvelin {
 /// until when, a level that was missing, the sleep window that moved it, or the row before it; the
 /// click buffer, as long as nothing but clicks lay before it. Empty for the first order of a player
 /// without a click buffer, and for a row that never started.
-[[nodiscard]] std::string Wartetext(const Ablauf& ablauf, std::size_t zeile);
+[[nodiscard]] std::string DelayText(const RunTrace& trace, std::size_t row);
 
 /// What is told of a plan that goes beyond the clock.
-[[nodiscard]] std::string UeberDieUhrText();
+[[nodiscard]] std::string BeyondClockText();
 
-/// "Metallmine 3", "Kleine Schildkuppel", or "80% 100% 50%". `nummer` is that of an item.
-[[nodiscard]] std::string Auftragstext(const Order& order, int nummer);
-[[nodiscard]] std::string Auftragstext(const Startereignis& start);
+/// "Metallmine 3", "Kleine Schildkuppel", or "80% 100% 50%". `number` is that of an item.
+[[nodiscard]] std::string OrderText(const Order& order, int number);
+[[nodiscard]] std::string OrderText(const StartEvent& start);
 /// The same as other programs read it, with the name that the hint over the picture has.
-[[nodiscard]] std::string Auftragsschluessel(const Order& order, int nummer);
+[[nodiscard]] std::string OrderKey(const Order& order, int number);
 
 /// "02:13:05", with days in front from one on: "1 Tag 00:01:01", "3 Tage 00:00:00".
-[[nodiscard]] std::string Spannentext(Long sekunden);
+[[nodiscard]] std::string TimeSpanText(Long seconds);
 /// The same with a sign: "-02:13:05", "±00:00:00".
-[[nodiscard]] std::string Aenderungstext(Long sekunden);
+[[nodiscard]] std::string SignedTimeSpanText(Long seconds);
 
 /// "Bauschleife", "Werftschleife" or "Forschungsschleife"; empty for none.
-[[nodiscard]] std::string_view Schlangenname(Queue schlange);
+[[nodiscard]] std::string_view QueueName(Queue queue);
 
 }  // namespace tarvelin

@@ -11,54 +11,54 @@ namespace tarvelin {
 
 namespace {
 
-class Startliste final : public Laufbeobachter {
+class StartRecorder final : public RunObserver {
   public:
-    explicit Startliste(std::vector<Startereignis>& starts) : m_starts(starts) {}
+    explicit StartRecorder(std::vector<StartEvent>& starts) : m_starts(starts) {}
 
-    void Start(const Startereignis& ereignis) override { m_starts.push_back(ereignis); }
+    void OnStart(const StartEvent& event) override { m_starts.push_back(event); }
 
   private:
-    std::vector<Startereignis>& m_starts;
+    std::vector<StartEvent>& m_starts;
 };
 
 }  // namespace
 
-const Startereignis* Ablauf::StartDer(std::size_t zeile) const {
-    const auto start = std::ranges::lower_bound(Starts, zeile, {}, &Startereignis::Zeile);
-    return start != Starts.end() && start->Zeile == zeile ? &*start : nullptr;
+const StartEvent* RunTrace::StartOf(std::size_t row) const {
+    const auto start = std::ranges::lower_bound(starts, row, {}, &StartEvent::row);
+    return start != starts.end() && start->row == row ? &*start : nullptr;
 }
 
-Ablauf SpieleAb(std::span<const Order> auftraege, const RunConditions& bedingungen) {
-    Ablauf ablauf;
-    ablauf.Bedingungen = bedingungen;
-    ablauf.Starts.reserve(auftraege.size());
-    Simulation simulation(auftraege, ablauf.Bedingungen);
-    Startliste starts(ablauf.Starts);
-    Verlauf verlauf(simulation.Stand());
-    MessageCollector liste(ablauf.Meldungen);
-    Laufmeldungen worte(liste);
-    Beobachterreihe beobachter(starts, verlauf, worte);
-    simulation.Laufe(beobachter);
-    ablauf.Ende = simulation.Stand();
-    ablauf.Kurve = KurveAus(verlauf.Punkte());
-    return ablauf;
+RunTrace TraceRun(std::span<const Order> orders, const RunConditions& conditions) {
+    RunTrace trace;
+    trace.conditions = conditions;
+    trace.starts.reserve(orders.size());
+    Simulation simulation(orders, trace.conditions);
+    StartRecorder starts(trace.starts);
+    HistoryRecorder recorder(simulation.State());
+    MessageCollector list(trace.messages);
+    RunReporter words(list);
+    ObserverGroup observer(starts, recorder, words);
+    simulation.RunToEnd(observer);
+    trace.end = simulation.State();
+    trace.curve = CurveFrom(recorder.Recorded());
+    return trace;
 }
 
-std::vector<Verlaufspunkt> KurveAus(std::span<const Verlaufspunkt> verlauf) {
-    std::vector<Verlaufspunkt> kurve;
-    kurve.reserve(verlauf.size());
-    for (const Verlaufspunkt& punkt : verlauf) {
-        while (!kurve.empty() && kurve.back().Zeit >= punkt.Zeit) {
-            kurve.pop_back();
+std::vector<HistoryPoint> CurveFrom(std::span<const HistoryPoint> history) {
+    std::vector<HistoryPoint> curve;
+    curve.reserve(history.size());
+    for (const HistoryPoint& point : history) {
+        while (!curve.empty() && curve.back().time >= point.time) {
+            curve.pop_back();
         }
-        kurve.push_back(punkt);
+        curve.push_back(point);
     }
-    return kurve;
+    return curve;
 }
 
-const Verlaufspunkt& PunktUm(std::span<const Verlaufspunkt> kurve, SimTime moment) {
-    const auto naechster = std::ranges::upper_bound(kurve, moment, {}, &Verlaufspunkt::Zeit);
-    return naechster == kurve.begin() ? kurve.front() : *(naechster - 1);
+const HistoryPoint& PointAt(std::span<const HistoryPoint> curve, SimTime moment) {
+    const auto next = std::ranges::upper_bound(curve, moment, {}, &HistoryPoint::time);
+    return next == curve.begin() ? curve.front() : *(next - 1);
 }
 
 }  // namespace tarvelin

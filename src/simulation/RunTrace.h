@@ -12,29 +12,29 @@
 
 namespace tarvelin {
 
-struct Ablauf {
-    RunConditions Bedingungen;
+struct RunTrace {
+    RunConditions conditions;
     /// The starts in the order of the rows. A row without a rule of its own has none.
-    std::vector<Startereignis> Starts;
+    std::vector<StartEvent> starts;
     /// The history, at each moment with the last state that the run recorded for it.
-    std::vector<Verlaufspunkt> Kurve;
-    GameState Ende;
-    std::vector<Message> Meldungen;
+    std::vector<HistoryPoint> curve;
+    GameState end;
+    std::vector<Message> messages;
 
     /// When the last order is done.
-    [[nodiscard]] SimTime Dauer() const { return Ende.secsgone; }
+    [[nodiscard]] SimTime Duration() const { return end.secsgone; }
     /// Nothing for a row that never started.
-    [[nodiscard]] const Startereignis* StartDer(std::size_t zeile) const;
+    [[nodiscard]] const StartEvent* StartOf(std::size_t row) const;
 };
 
 /// Plays orders to the end.
-[[nodiscard]] Ablauf SpieleAb(std::span<const Order> auftraege, const RunConditions& bedingungen);
+[[nodiscard]] RunTrace TraceRun(std::span<const Order> orders, const RunConditions& conditions);
 
 /// The points of a history in the order of time. Where the clock stepped back, by a click buffer,
 /// what was recorded before for the moments behind it is gone.
-[[nodiscard]] std::vector<Verlaufspunkt> KurveAus(std::span<const Verlaufspunkt> verlauf);
+[[nodiscard]] std::vector<HistoryPoint> CurveFrom(std::span<const HistoryPoint> history);
 
 /// The last point not behind a moment, or the first. The curve isn't empty.
-[[nodiscard]] const Verlaufspunkt& PunktUm(std::span<const Verlaufspunkt> kurve, SimTime moment);
+[[nodiscard]] const HistoryPoint& PointAt(std::span<const HistoryPoint> curve, SimTime moment);
 
 }  // namespace tarvelin

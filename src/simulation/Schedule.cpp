@@ -5,36 +5,38 @@
 
 namespace tarvelin {
 
-std::string Bauzeit::theText() const {
-    if (Order.kind == Order::Kind::Production) {
-        const auto prozent = [this](Resource r) { return std::to_string(Order.factors[r] * 10); };
-        return prozent(Resource::Metall) + "% " + prozent(Resource::Kristall) + "% " +
-               prozent(Resource::Deuterium) + "%";
+std::string ScheduleEntry::theText() const {
+    if (order.kind == Order::Kind::Production) {
+        const auto percent = [this](Resource resource) {
+            return std::to_string(order.factors[resource] * 10);
+        };
+        return percent(Resource::Metall) + "% " + percent(Resource::Kristall) + "% " +
+               percent(Resource::Deuterium) + "%";
     }
-    const ItemRow& zeile = RowOf(Order.item);
-    std::string text(zeile.reportText);
-    return zeile.traits.showsNumber ? text + std::to_string(Nummer) : text;
+    const ItemRow& row = RowOf(order.item);
+    std::string text(row.reportText);
+    return row.traits.showsNumber ? text + std::to_string(number) : text;
 }
 
-std::string Bauzeit::VerzoegerungsGrund() const {
-    const bool mitGrund = Order.kind == Order::Kind::Item && RowOf(Order.item).traits.showsReason;
-    return mitGrund ? Mangel.Text() : "";
+std::string ScheduleEntry::VerzoegerungsGrund() const {
+    const bool withReason = order.kind == Order::Kind::Item && RowOf(order.item).traits.showsReason;
+    return withReason ? shortage.Text() : "";
 }
 
-std::string Bauzeit::Tag() const {
-    const std::string tag = std::string(WeekdayLong(Start)) + " " + DateTimeText(Start);
-    const std::string grund = VerzoegerungsGrund();
-    return grund.empty() ? tag : tag + " | " + grund;
+std::string ScheduleEntry::Tag() const {
+    const std::string tag = std::string(WeekdayLong(start)) + " " + DateTimeText(start);
+    const std::string reason = VerzoegerungsGrund();
+    return reason.empty() ? tag : tag + " | " + reason;
 }
 
-void Bauzeitenschreiber::Start(const Startereignis& ereignis) {
-    Bauzeit& zeile = m_zeilen.emplace_back();
-    zeile.Order = ereignis.Order;
-    zeile.Nummer = ereignis.Nummer;
-    zeile.Start = m_bedingungen.WallClock(ereignis.Start);
-    zeile.Finish = m_bedingungen.WallClock(ereignis.Finish);
-    zeile.Mangel.Assign(ereignis.Mangel);
-    zeile.Grund = ereignis.Grund;
+void ScheduleRecorder::OnStart(const StartEvent& event) {
+    ScheduleEntry& row = m_rows.emplace_back();
+    row.order = event.order;
+    row.number = event.number;
+    row.start = m_conditions.WallClock(event.start);
+    row.finish = m_conditions.WallClock(event.finish);
+    row.shortage.Assign(event.shortage);
+    row.delay = event.delay;
 }
 
 }  // namespace tarvelin

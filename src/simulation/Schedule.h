@@ -11,21 +11,21 @@
 namespace tarvelin {
 
 /// A row of `LV_Bauzeiten`. Its cells are worked out from figures when they are read.
-struct Bauzeit {
-    Order Order{};
+struct ScheduleEntry {
+    Order order{};
     /// The level or number that an item reaches; 0 for a production row.
-    Byte Nummer = 0;
-    DateTime Start{};
-    DateTime Finish{};
+    Byte number = 0;
+    DateTime start{};
+    DateTime finish{};
     /// What the stocks lacked when the start was last timed.
-    Shortage Mangel{};
+    Shortage shortage{};
     /// What held the order back last.
-    Delay Grund{};
+    Delay delay{};
 
     /// Short name of the weekday.
-    [[nodiscard]] std::string Wochentag() const { return std::string(WeekdayShort(Start)); }
+    [[nodiscard]] std::string Weekday() const { return std::string(WeekdayShort(start)); }
     /// "hh:mm:ss".
-    [[nodiscard]] std::string Uhrzeit() const { return TimeOfDayText(Start); }
+    [[nodiscard]] std::string TimeOfDay() const { return TimeOfDayText(start); }
     /// "Metallmine: 1", or "80% 100% 50%".
     [[nodiscard]] std::string theText() const;
     /// Full weekday, date and time; behind them " | " and the reason, if it has one.
@@ -35,20 +35,20 @@ struct Bauzeit {
 };
 
 /// `LV_Bauzeiten`: rows in the order of the starts, never sorted.
-using Bauzeiten = std::vector<Bauzeit>;
+using Schedule = std::vector<ScheduleEntry>;
 
 /// Adds a row at each start.
-class Bauzeitenschreiber final : public Laufbeobachter {
+class ScheduleRecorder final : public RunObserver {
   public:
     /// Both must outlive it.
-    Bauzeitenschreiber(const RunConditions& bedingungen, Bauzeiten& zeilen)
-        : m_bedingungen(bedingungen), m_zeilen(zeilen) {}
+    ScheduleRecorder(const RunConditions& conditions, Schedule& rows)
+        : m_conditions(conditions), m_rows(rows) {}
 
-    void Start(const Startereignis& ereignis) override;
+    void OnStart(const StartEvent& event) override;
 
   private:
-    const RunConditions& m_bedingungen;
-    Bauzeiten& m_zeilen;
+    const RunConditions& m_conditions;
+    Schedule& m_rows;
 };
 
 }  // namespace tarvelin

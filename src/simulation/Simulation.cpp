@@ -12,85 +12,85 @@ namespace tarvelin {
 
 namespace {
 
-constexpr SimTime kNie(std::numeric_limits<Long>::max());
+constexpr SimTime kNever(std::numeric_limits<Long>::max());
 
 }  // namespace
 
-Simulation::Simulation(std::span<const Order> auftraege, const RunConditions& bedingungen)
-    : m_auftraege(auftraege), m_bedingungen(&bedingungen), m_stand(InitialState(bedingungen)) {}
+Simulation::Simulation(std::span<const Order> orders, const RunConditions& conditions)
+    : m_orders(orders), m_conditions(&conditions), m_state(InitialState(conditions)) {}
 
-void Simulation::Laufe(Laufbeobachter& beobachter) {
-    while (!IstFertig()) {
-        Schritt(beobachter);
+void Simulation::RunToEnd(RunObserver& observer) {
+    while (!IsFinished()) {
+        Step(observer);
     }
 }
 
-void Simulation::Schritt(Laufbeobachter& beobachter) {
-    ReiheEin();
+void Simulation::Step(RunObserver& observer) {
+    EnqueueNext();
     // The first order is never timed: it starts at moment 0, whatever stocks and gates say.
-    if (m_schritte > 0 && !m_tabelle.NoStartPending()) {
-        TerminiereWartende(beobachter);
+    if (m_steps > 0 && !m_LV_Eventhandler.NoStartPending()) {
+        RetimePending(observer);
     }
-    ++m_schritte;
-    if (m_tabelle.IstLeer()) {
+    ++m_steps;
+    if (m_LV_Eventhandler.IsEmpty()) {
         // Only orders with unknown codes leave a step without an event.
-        beobachter.Piepton();
+        observer.OnEmptyStep();
         return;
     }
-    const EventTabelle::Zeile erste = m_tabelle.NimmErste();
+    const EventTable::Event first = m_LV_Eventhandler.ClearEvent();
     // Negative where an order's click buffer has carried the clock past this row.
-    const Long differenz = erste.Zeit - m_stand.secsgone;
-    if (erste.IstStart) {
-        VergeheZeit(LongSum(differenz, m_bedingungen->KlickPuffer), m_stand);
-        Starte(erste.Order, beobachter);
+    const Long difference = first.time - m_state.secsgone;
+    if (first.StartFlag) {
+        VergeheZeit(LongSum(difference, m_conditions->KlickPuffer), m_state);
+        StartOrder(first.order, observer);
     } else {
-        VergeheZeit(differenz, m_stand);
-        Beende(m_auftraege[erste.Order], beobachter);
+        VergeheZeit(difference, m_state);
+        FinishOrder(m_orders[first.order], observer);
     }
-    EnergieBilanz(m_stand, *m_bedingungen);
-    beobachter.NachSchritt(m_stand);
+    EnergieBilanz(m_state, *m_conditions);
+    observer.OnStepDone(m_state);
 }
 
 /// Only one order at a time waits, in the order of the list.
-void Simulation::ReiheEin() {
-    if (m_tabelle.NoStartPending() && m_naechste < m_auftraege.size()) {
-        m_tabelle.SetStart(m_naechste++);
-        m_aufenthalt = {};
-        m_torZu = false;
-        m_wach = kNie;
+void Simulation::EnqueueNext() {
+    if (m_LV_Eventhandler.NoStartPending() && m_NextListRow < m_orders.size()) {
+        m_LV_Eventhandler.SetEvent(m_NextListRow++);
+        m_delay = {};
+        m_gateClosed = false;
+        m_sleepFree = kNever;
     }
 }
 
 /// Times the waiting order from the state as it stands. An estimate made earlier counts for
 /// nothing.
-void Simulation::TerminiereWartende(Laufbeobachter& beobachter) {
-    const Order& order = m_auftraege[m_tabelle.Wartender()];
-    const SimTime frei = m_stand.FertigZeit[order.queue];
-    Delay grund;
+void Simulation::RetimePending(RunObserver& observer) {
+    const Order& order = m_orders[m_LV_Eventhandler.PendingOrder()];
+    const SimTime free = m_state.FertigZeit[order.queue];
+    Delay delay;
     switch (order.kind) {
         case Order::Kind::Item:
-            if (KommtErstNachEinemFinish(RowOf(order.item), frei)) {
-                m_tabelle.SetStartzeit(frei);
+            if (WaitsForLaterFinish(RowOf(order.item), free)) {
+                m_LV_Eventhandler.RetimeStart(free);
                 return;
             }
-            grund = TerminiereItem(RowOf(order.item));
+            delay = RetimeItem(RowOf(order.item));
             break;
         case Order::Kind::Production:
-            m_bereitAb = m_stand.secsgone;
+            m_readyAt = m_state.secsgone;
             break;
         case Order::Kind::Unknown:
-            beobachter.Unbekannt(Unbekanntes::Wartezeit);
+            observer.OnUnknownOrder(UnknownOrderAt::Wait);
             break;
     }
-    if (frei > m_bereitAb) {
-        grund = {.cause = DelayCause::Queue, .queue = order.queue};
+    if (free > m_readyAt) {
+        delay = {.cause = DelayCause::Queue, .queue = order.queue};
     }
-    const SimTime start = std::max(m_bereitAb, frei);
-    m_tabelle.SetStartzeit(start);
-    if (start > m_stand.secsgone) {
-        m_aufenthalt = grund;
-        if (grund.cause == DelayCause::Resource) {
-            m_aufenthalt.shortage.Assign(m_stand.VerzoegerungsGrund[order.item]);
+    const SimTime start = std::max(m_readyAt, free);
+    m_LV_Eventhandler.RetimeStart(start);
+    if (start > m_state.secsgone) {
+        m_delay = delay;
+        if (delay.cause == DelayCause::Resource) {
+            m_delay.shortage.Assign(m_state.VerzoegerungsGrund[order.item]);
         }
     }
 }
@@ -98,86 +98,87 @@ void Simulation::TerminiereWartende(Laufbeobachter& beobachter) {
 /// Whether the order's queue is at work beyond the next finish. Then the order is timed again
 /// before it can start, and what it waits for by now is forgotten; but not where a gate could have
 /// shut until then, as nobody asks for the stocks behind a shut one.
-bool Simulation::KommtErstNachEinemFinish(const ItemRow& zeile, SimTime frei) const {
-    return m_tabelle.HatFinishVor(frei) && zeile.traits.deuteriumGate == DeuteriumGate::PlantOrMine;
+bool Simulation::WaitsForLaterFinish(const ItemRow& row, SimTime free) const {
+    return m_LV_Eventhandler.HasFinishBefore(free) &&
+           row.traits.deuteriumGate == DeuteriumGate::PlantOrMine;
 }
 
-Delay Simulation::TerminiereItem(const ItemRow& zeile) {
-    const Wait warten = GetTimeUntilUpgradeIsPossible(zeile, m_stand, *m_bedingungen);
-    m_bereitAb = m_stand.secsgone + warten.seconds;
-    m_torZu = warten.GateClosed();
-    if (warten.delay.cause == DelayCause::Sleep) {
-        m_wach = std::min(m_wach, m_stand.secsgone + warten.sleepFreeSeconds);
+Delay Simulation::RetimeItem(const ItemRow& row) {
+    const Wait wait = GetTimeUntilUpgradeIsPossible(row, m_state, *m_conditions);
+    m_readyAt = m_state.secsgone + wait.seconds;
+    m_gateClosed = wait.GateClosed();
+    if (wait.delay.cause == DelayCause::Sleep) {
+        m_sleepFree = std::min(m_sleepFree, m_state.secsgone + wait.sleepFreeSeconds);
     }
-    if (!m_torZu) {
-        m_stand.VerzoegerungsGrund[zeile.item].Assign(warten.shortage);
+    if (!m_gateClosed) {
+        m_state.VerzoegerungsGrund[row.item].Assign(wait.shortage);
     }
-    return warten.delay;
+    return wait.delay;
 }
 
-void Simulation::Starte(std::size_t zeile, Laufbeobachter& beobachter) {
-    switch (m_auftraege[zeile].kind) {
+void Simulation::StartOrder(std::size_t row, RunObserver& observer) {
+    switch (m_orders[row].kind) {
         case Order::Kind::Item:
-            StarteItem(zeile, beobachter);
+            StartItem(row, observer);
             break;
         case Order::Kind::Production:
-            StarteProduktion(zeile, beobachter);
+            StartProduction(row, observer);
             break;
         case Order::Kind::Unknown:
-            beobachter.Unbekannt(Unbekanntes::Start);
+            observer.OnUnknownOrder(UnknownOrderAt::Start);
             break;
     }
     // A first order that costs more than the start stocks, or one without any source of deuterium,
     // starts all the same. It is told again at each start until the stocks have recovered.
-    if (std::ranges::min(m_stand.stock) < FixedPoint()) {
-        beobachter.Schulden(m_stand);
+    if (std::ranges::min(m_state.stock) < FixedPoint()) {
+        observer.OnNegativeStock(m_state);
     }
 }
 
 // The click buffer counts twice: before the start, and behind the finish until the queue falls
 // free.
-void Simulation::StarteItem(std::size_t zeile, Laufbeobachter& beobachter) {
-    const Order& order = m_auftraege[zeile];
+void Simulation::StartItem(std::size_t row, RunObserver& observer) {
+    const Order& order = m_orders[row];
     const ItemRow& item = RowOf(order.item);
-    const Byte stufe = m_stand.Stufe[order.item];
-    UpgradeStart(item, m_stand);
-    const double fertig = m_stand.secsgone.Seconds() +
-                          item.upgradeTime(CostOf(order.item, stufe), m_stand, *m_bedingungen);
-    const SimTime finish(HalfEvenLong(fertig));
-    m_tabelle.SetFinish(finish, zeile);
-    m_stand.FertigZeit[order.queue] =
-        SimTime(HalfEvenLong(fertig + 1 + m_bedingungen->KlickPuffer));
-    Startereignis ereignis{.Zeile = zeile,
-                           .Order = order,
-                           .Nummer = Saturate<Byte>(stufe + 1),
-                           .Start = m_stand.secsgone,
-                           .Finish = finish,
-                           .Mangel = {},
-                           .Grund = m_aufenthalt,
-                           .TorZu = m_torZu,
-                           .Wach = m_wach};
-    ereignis.Mangel.Assign(m_stand.VerzoegerungsGrund[order.item]);
-    beobachter.Start(ereignis);
+    const Byte level = m_state.Stufe[order.item];
+    UpgradeStart(item, m_state);
+    const double finished = m_state.secsgone.Seconds() +
+                            item.upgradeTime(CostOf(order.item, level), m_state, *m_conditions);
+    const SimTime finish(HalfEvenLong(finished));
+    m_LV_Eventhandler.SetEvent(finish, row);
+    m_state.FertigZeit[order.queue] =
+        SimTime(HalfEvenLong(finished + 1 + m_conditions->KlickPuffer));
+    StartEvent event{.row = row,
+                     .order = order,
+                     .number = Saturate<Byte>(level + 1),
+                     .start = m_state.secsgone,
+                     .finish = finish,
+                     .shortage = {},
+                     .delay = m_delay,
+                     .gateClosed = m_gateClosed,
+                     .sleepFreeStart = m_sleepFree};
+    event.shortage.Assign(m_state.VerzoegerungsGrund[order.item]);
+    observer.OnStart(event);
 }
 
 /// It occupies no queue: the next order of the building queue need not wait for it.
-void Simulation::StarteProduktion(std::size_t zeile, Laufbeobachter& beobachter) {
-    const Order& order = m_auftraege[zeile];
-    SetProdfaktor(order.factors, m_stand);
-    m_tabelle.SetFinish(m_stand.secsgone, zeile);
-    beobachter.Start({.Zeile = zeile,
-                      .Order = order,
-                      .Start = m_stand.secsgone,
-                      .Finish = m_stand.secsgone,
-                      .Mangel = {.kind = Shortage::Kind::Unstated},
-                      .Grund = m_aufenthalt});
+void Simulation::StartProduction(std::size_t row, RunObserver& observer) {
+    const Order& order = m_orders[row];
+    SetProdfaktor(order.factors, m_state);
+    m_LV_Eventhandler.SetEvent(m_state.secsgone, row);
+    observer.OnStart({.row = row,
+                      .order = order,
+                      .start = m_state.secsgone,
+                      .finish = m_state.secsgone,
+                      .shortage = {.kind = Shortage::Kind::Unstated},
+                      .delay = m_delay});
 }
 
-void Simulation::Beende(const Order& order, Laufbeobachter& beobachter) {
+void Simulation::FinishOrder(const Order& order, RunObserver& observer) {
     if (order.kind == Order::Kind::Item) {
-        UpgradeFinished(RowOf(order.item), m_stand);
+        UpgradeFinished(RowOf(order.item), m_state);
     }
-    beobachter.Finish(order);
+    observer.OnFinish(order);
 }
 
 }  // namespace tarvelin

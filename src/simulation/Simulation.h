@@ -19,54 +19,54 @@ namespace tarvelin {
 /// Orders and conditions must outlive it; at most 254 orders.
 class Simulation {
   public:
-    Simulation(std::span<const Order> auftraege, const RunConditions& bedingungen);
+    Simulation(std::span<const Order> orders, const RunConditions& conditions);
 
-    /// Goes on over other orders, of which the first `Eingereiht()` are those of the former.
-    void WechsleAuftraege(std::span<const Order> auftraege) { m_auftraege = auftraege; }
+    /// Goes on over other orders, of which the first `NextListRow()` are those of the former.
+    void ReplaceOrders(std::span<const Order> orders) { m_orders = orders; }
 
     /// How many orders have entered the timetable: the others don't matter yet.
-    [[nodiscard]] std::size_t Eingereiht() const { return m_naechste; }
+    [[nodiscard]] std::size_t NextListRow() const { return m_NextListRow; }
 
     /// Whether an order that has entered is still waiting for its start.
-    [[nodiscard]] bool WartetEiner() const { return !m_tabelle.NoStartPending(); }
+    [[nodiscard]] bool HasPendingOrder() const { return !m_LV_Eventhandler.NoStartPending(); }
 
     /// Whether the run is over: each order goes through two steps, a start and a finish.
-    [[nodiscard]] bool IstFertig() const { return m_schritte >= 2 * m_auftraege.size(); }
+    [[nodiscard]] bool IsFinished() const { return m_steps >= 2 * m_orders.size(); }
 
     /// Carries out the earliest event; the run isn't over.
-    void Schritt(Laufbeobachter& beobachter);
+    void Step(RunObserver& observer);
 
     /// Goes to the end.
-    void Laufe(Laufbeobachter& beobachter);
+    void RunToEnd(RunObserver& observer);
 
     /// The state behind the last step.
-    [[nodiscard]] const GameState& Stand() const { return m_stand; }
+    [[nodiscard]] const GameState& State() const { return m_state; }
 
   private:
-    void ReiheEin();
-    void TerminiereWartende(Laufbeobachter& beobachter);
-    [[nodiscard]] bool KommtErstNachEinemFinish(const ItemRow& zeile, SimTime frei) const;
-    Delay TerminiereItem(const ItemRow& zeile);
-    void Starte(std::size_t zeile, Laufbeobachter& beobachter);
-    void StarteItem(std::size_t zeile, Laufbeobachter& beobachter);
-    void StarteProduktion(std::size_t zeile, Laufbeobachter& beobachter);
-    void Beende(const Order& order, Laufbeobachter& beobachter);
+    void EnqueueNext();
+    void RetimePending(RunObserver& observer);
+    [[nodiscard]] bool WaitsForLaterFinish(const ItemRow& row, SimTime free) const;
+    Delay RetimeItem(const ItemRow& row);
+    void StartOrder(std::size_t row, RunObserver& observer);
+    void StartItem(std::size_t row, RunObserver& observer);
+    void StartProduction(std::size_t row, RunObserver& observer);
+    void FinishOrder(const Order& order, RunObserver& observer);
 
-    std::span<const Order> m_auftraege;
-    const RunConditions* m_bedingungen;
-    GameState m_stand;
-    EventTabelle m_tabelle;
+    std::span<const Order> m_orders;
+    const RunConditions* m_conditions;
+    GameState m_state;
+    EventTable m_LV_Eventhandler;
     /// The next order that has not yet entered the timetable.
-    std::size_t m_naechste = 0;
-    std::size_t m_schritte = 0;
+    std::size_t m_NextListRow = 0;
+    std::size_t m_steps = 0;
     /// When the wait of the waiting order ends; an unknown order keeps that of the one before it.
-    SimTime m_bereitAb;
+    SimTime m_readyAt;
     /// What the waiting order last waited for.
-    Delay m_aufenthalt;
+    Delay m_delay;
     /// Whether a gate was shut when it was last timed.
-    bool m_torZu = false;
+    bool m_gateClosed = false;
     /// The earliest moment from which on only a sleep window held it back.
-    SimTime m_wach;
+    SimTime m_sleepFree;
 };
 
 }  // namespace tarvelin

@@ -6,18 +6,18 @@
 namespace tarvelin {
 
 /// How long a player sits at a stretch: all starts within so many seconds of the first one.
-inline constexpr Long kSitzung = 600;
+inline constexpr Long kSittingLength = 600;
 
 /// Counts the sittings of starts that come in their order.
-struct Sitzungszaehler {
-    int Zahl = 0;
+struct SittingCounter {
+    int count = 0;
     /// Of the last sitting.
-    SimTime Beginn;
+    SimTime begin;
 
-    void Nimm(SimTime start) {
-        if (Zahl == 0 || start - Beginn > kSitzung) {
-            ++Zahl;
-            Beginn = start;
+    void Add(SimTime start) {
+        if (count == 0 || start - begin > kSittingLength) {
+            ++count;
+            begin = start;
         }
     }
 };

@@ -34,12 +34,12 @@ void Alarme::Verstumme() {
 }
 
 void Alarme::Tmr_BauWeckfunktion_Tick() {
-    PlayAlert(FaelligeBauzeiten(m_quellen.LV_Bauzeiten, m_umgebung.Jetzt(),
-                                m_quellen.Comb_Before.currentText().toStdString()));
+    PlayAlert(DueStarts(m_quellen.LV_Bauzeiten, m_umgebung.Jetzt(),
+                        m_quellen.Comb_Before.currentText().toStdString()));
 }
 
 void Alarme::Tmr_Schlafweckfunktion_Tick() {
-    PlayAlert(FaelligeSchlafzeiten(m_quellen.LV_Schlafzeiten, m_umgebung.Jetzt()));
+    PlayAlert(DueSleepEnds(m_quellen.LV_Schlafzeiten, m_umgebung.Jetzt()));
 }
 
 // Once for each row that rings; the last one is heard to its end.

@@ -18,7 +18,7 @@ class Alarme : public QObject {
 
   public:
     struct Quellen {
-        const Bauzeiten& LV_Bauzeiten;
+        const Schedule& LV_Bauzeiten;
         const SleepTable& LV_Schlafzeiten;
         QCheckBox& Chk_BauWeckfunktion;
         QCheckBox& Chk_Schlafzeitenwecker;

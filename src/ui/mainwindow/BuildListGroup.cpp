@@ -76,7 +76,7 @@ Zahlenlabel* Baulistengruppe::NeuerVorrat(int nummer, int breite, const QString&
     return label;
 }
 
-void Baulistengruppe::Zeige(const Ergebnistexte& texte) {
+void Baulistengruppe::Zeige(const ResultTexts& texte) {
     m_LBL_Met->Setze(AlsQString(texte.LBL_Met));
     m_LBL_Kris->Setze(AlsQString(texte.LBL_Kris));
     m_LBL_Deut->Setze(AlsQString(texte.LBL_Deut));

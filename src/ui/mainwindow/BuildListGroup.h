@@ -21,7 +21,7 @@ class Baulistengruppe : public Gruppe {
     /// After a change of the list.
     void ZeigeListe() { m_modell->Aktualisiere(); }
     void MacheLetzteSichtbar() { LV_Bauliste->scrollToBottom(); }
-    void Zeige(const Ergebnistexte& texte);
+    void Zeige(const ResultTexts& texte);
 
     Baulistenansicht* const LV_Bauliste;
     QPushButton* const Cmd_Undo;

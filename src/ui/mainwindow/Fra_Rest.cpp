@@ -33,7 +33,7 @@ void Stelle(QWidget& gruppe, int links, int breite) {
 
 }  // namespace
 
-Fra_Rest::Fra_Rest(const BuildList& liste, const Lauf& lauf, QWidget* parent)
+Fra_Rest::Fra_Rest(const BuildList& liste, const LastRun& lauf, QWidget* parent)
     : QWidget(parent),
       m_liste(liste),
       m_Frame8(new Baulistengruppe(liste, this)),
@@ -96,7 +96,7 @@ void Fra_Rest::ZeigeListe() {
     }
 }
 
-void Fra_Rest::Zeige(const Ergebnistexte& texte) {
+void Fra_Rest::Zeige(const ResultTexts& texte) {
     m_Frame8->Zeige(texte);
     m_Frame6->Zeige(texte);
 }

@@ -17,14 +17,14 @@ class Fra_Rest : public QWidget {
 
   public:
     /// Shows `liste` and `lauf`, which must outlive the surface.
-    Fra_Rest(const BuildList& liste, const Lauf& lauf, QWidget* parent);
+    Fra_Rest(const BuildList& liste, const LastRun& lauf, QWidget* parent);
 
     /// The rows of the list and the levels over the pictures.
     void ZeigeListe();
     void MacheLetzteSichtbar() { m_Frame8->MacheLetzteSichtbar(); }
     void ZeigeBauzeiten() { m_Frame6->ZeigeBauzeiten(); }
     void MacheErsteBauzeitSichtbar() { m_Frame6->LV_Bauzeiten->scrollToTop(); }
-    void Zeige(const Ergebnistexte& texte);
+    void Zeige(const ResultTexts& texte);
     /// The names under the pictures.
     void ZeigeNamen(bool zeigen);
 

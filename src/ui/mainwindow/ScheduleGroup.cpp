@@ -11,13 +11,13 @@ namespace tarvelin {
 
 namespace {
 
-Tabellenmodell::Quelle QuelleVon(const Bauzeiten& bauzeiten) {
+Tabellenmodell::Quelle QuelleVon(const Schedule& bauzeiten) {
     return {.Zeilen = [&bauzeiten] { return bauzeiten.size(); },
             .Text =
                 [&bauzeiten](std::size_t zeile, int spalte) {
-                    const Bauzeit& z = bauzeiten[zeile];
-                    return AlsQString(spalte == 0   ? z.Wochentag()
-                                      : spalte == 1 ? z.Uhrzeit()
+                    const ScheduleEntry& z = bauzeiten[zeile];
+                    return AlsQString(spalte == 0   ? z.Weekday()
+                                      : spalte == 1 ? z.TimeOfDay()
                                                     : z.theText());
                 },
             .Beschreibung =
@@ -46,7 +46,7 @@ class Sekundenfeld : public QLineEdit {
 
 }  // namespace
 
-Bauzeitengruppe::Bauzeitengruppe(const Bauzeiten& bauzeiten, QWidget* parent)
+Bauzeitengruppe::Bauzeitengruppe(const Schedule& bauzeiten, QWidget* parent)
     : Gruppe(QStringLiteral("Frame6"), QStringLiteral("Optimale Bauzeiten:"), parent),
       LV_Bauzeiten(new Liste(QStringLiteral("LV_Bauzeiten"), QStringLiteral("Optimale Bauzeiten"),
                              {720, 1450, 2857}, this)),
@@ -109,9 +109,9 @@ void Bauzeitengruppe::LegeAus() {
     layout->setColumnStretch(1, 1);
 }
 
-void Bauzeitengruppe::Zeige(const Ergebnistexte& texte) {
+void Bauzeitengruppe::Zeige(const ResultTexts& texte) {
     m_LBL_Punkte->setText(AlsQString(texte.LBL_Punkte));
-    m_LBL_Punkte->setToolTip(AlsQString(texte.LBL_Punkte_Hinweis));
+    m_LBL_Punkte->setToolTip(AlsQString(texte.LBL_Punkte_Hint));
     m_LBL_Timegone2->setText(AlsQString(texte.LBL_Timegone2));
 }
 

@@ -18,11 +18,11 @@ class Bauzeitengruppe : public Gruppe {
 
   public:
     /// Shows the rows of `bauzeiten`, which must outlive the group.
-    Bauzeitengruppe(const Bauzeiten& bauzeiten, QWidget* parent);
+    Bauzeitengruppe(const Schedule& bauzeiten, QWidget* parent);
 
     /// After a run or a reset.
     void ZeigeBauzeiten() { m_modell->Aktualisiere(); }
-    void Zeige(const Ergebnistexte& texte);
+    void Zeige(const ResultTexts& texte);
 
     Liste* const LV_Bauzeiten;
     QCheckBox* const Chk_BauWeckfunktion;
@@ -35,7 +35,7 @@ class Bauzeitengruppe : public Gruppe {
     void LegeAus();
     void LV_Bauzeiten_MouseMove(const QModelIndex& zeile);
 
-    const Bauzeiten& m_bauzeiten;
+    const Schedule& m_bauzeiten;
     Tabellenmodell* m_modell;
     QLabel* m_LBL_Punkte;
     QLabel* m_LBL_Timegone2;

@@ -339,8 +339,7 @@ void frmMain::mnuSleep_Click() {
 }
 
 void frmMain::Img_MouseMove(const Itemplatz& platz) {
-    platz.Bild->SetzeGate(
-        HoverInfoFor(platz.Item, m_plan.LV_Bauliste.Orders(), m_lauf.Bedingungen));
+    platz.Bild->SetzeGate(HoverInfoFor(platz.Item, m_plan.LV_Bauliste.Orders(), m_lauf.conditions));
 }
 
 void frmMain::Bearbeitet(std::string_view eingabe) {
@@ -380,9 +379,9 @@ void frmMain::StellePlan(const PlanSnapshot& stand) {
         m_Fra_Sleep->Zeige();
     }
     // The factor texts are those of the run that follows.
-    m_lauf.Bedingungen.Temperatur =
-        ParseTemperature(m_plan.parameters).value_or(m_lauf.Bedingungen.Temperatur);
-    m_plan.LV_Bauliste.SetTags(stand.tags, m_lauf.Bedingungen);
+    m_lauf.conditions.Temperatur =
+        ParseTemperature(m_plan.parameters).value_or(m_lauf.conditions.Temperatur);
+    m_plan.LV_Bauliste.SetTags(stand.tags, m_lauf.conditions);
     m_Fra_Rest->ZeigeListe();
     SpieleStill();
     ZeigeInWerkbank();
@@ -393,16 +392,16 @@ void frmMain::SpieleStill() {
     Chk_Speedfaktor_Click();
     const auto bedingungen = ParseRunConditions(m_plan);
     if (const auto* const gute = std::get_if<RunConditions>(&bedingungen)) {
-        m_lauf.Beginne(*gute);
-        m_texte.NachReset();
+        m_lauf.ResetSimulation(*gute);
+        m_texte.AfterReset();
         std::vector<Message> meldungen;
         MessageCollector liste(meldungen);
         RunSimulation(m_plan.LV_Bauliste.Orders().All(), m_lauf, liste);
-        m_texte.NachLauf(m_lauf.Stand);
+        m_texte.AfterRun(m_lauf.state);
     } else if (m_plan.LV_Bauliste.Orders().IsEmpty()) {
         m_lauf.ResetSimulation(m_plan.parameters);
-        m_texte.NachReset();
-        m_texte.NachClear();
+        m_texte.AfterReset();
+        m_texte.AfterClear();
     }
     m_Fra_Rest->Zeige(m_texte);
     m_Fra_Rest->ZeigeBauzeiten();
@@ -418,7 +417,7 @@ void frmMain::LV_Bauliste_DragDrop(const QString& Source) {
     const auto item = ItemVonBild(Source.toStdString());
     std::optional<Message> meldung;
     if (item) {
-        meldung = m_plan.LV_Bauliste.AddItem(*item, m_lauf.Bedingungen);
+        meldung = m_plan.LV_Bauliste.AddItem(*item, m_lauf.conditions);
     } else {
         meldung = Message{.text = "KA", .title = "", .icon = MessageIcon::None};
     }
@@ -433,7 +432,7 @@ void frmMain::LV_Bauliste_DragDrop(const QString& Source) {
 
 void frmMain::Cmd_AddProdaenderungsevent_Click() {
     const auto meldung =
-        m_plan.LV_Bauliste.AddProduction(m_Fra_Special->Faktoren(), m_lauf.Bedingungen);
+        m_plan.LV_Bauliste.AddProduction(m_Fra_Special->Faktoren(), m_lauf.conditions);
     if (meldung) {
         m_umgebung.Boxen.Show(*meldung);
         return;
@@ -460,7 +459,7 @@ void frmMain::Cmd_Clear_Click() {
 
 void frmMain::LeereListe() {
     m_plan.LV_Bauliste.Clear();
-    m_texte.NachClear();
+    m_texte.AfterClear();
     m_Fra_Rest->ZeigeListe();
     m_Fra_Rest->Zeige(m_texte);
 }
@@ -474,7 +473,7 @@ void frmMain::Cmd_Simulate_Click() {
 }
 
 void frmMain::Chk_Speedfaktor_Click() {
-    m_lauf.Bedingungen.Speedfaktor = m_plan.parameters.Speedfaktor();
+    m_lauf.conditions.Speedfaktor = m_plan.parameters.Speedfaktor();
 }
 
 void frmMain::ZeigePlan() {
@@ -491,15 +490,15 @@ void frmMain::StarteSimulation(bool silent) {
     if (!bedingungen) {
         return;
     }
-    m_lauf.Beginne(*bedingungen);
-    m_texte.NachReset();
+    m_lauf.ResetSimulation(*bedingungen);
+    m_texte.AfterReset();
     m_Fra_Rest->Zeige(m_texte);
     ZeigeStandDesLaufs();
     m_Fra_Rest->MacheErsteBauzeitSichtbar();
     m_Fra_Einstellungen->RefreshWeekday();
     Standmeldungen meldungen([this] { ZeigeStandDesLaufs(); }, m_umgebung.Boxen);
     RunSimulation(m_plan.LV_Bauliste.Orders().All(), m_lauf, meldungen);
-    m_texte.NachLauf(m_lauf.Stand);
+    m_texte.AfterRun(m_lauf.state);
     m_Fra_Rest->Zeige(m_texte);
     m_Fra_Rest->ZeigeBauzeiten();
 }

@@ -42,7 +42,7 @@ class frmMain : public QMainWindow {
 
     /// The plan and the state of the last run or reset.
     [[nodiscard]] const Plan& DerPlan() const { return m_plan; }
-    [[nodiscard]] const Lauf& DerLauf() const { return m_lauf; }
+    [[nodiscard]] const LastRun& DerLauf() const { return m_lauf; }
 
     /// The window's size on a screen with this much room, in pixels: its own, or what there is.
     [[nodiscard]] static QSize GroesseAuf(const QSize& bildschirm);
@@ -150,8 +150,8 @@ class frmMain : public QMainWindow {
     EditHistory m_verlauf;
     /// The plan as it was last loaded from a file of the user's, or saved into one.
     std::optional<PlanSnapshot> m_gesichert;
-    Lauf m_lauf;
-    Ergebnistexte m_texte;
+    LastRun m_lauf;
+    ResultTexts m_texte;
 
     /// Moves the surface on a screen that has no room for it.
     QScrollArea* m_rollflaeche;

@@ -189,7 +189,7 @@ void frmMain::Behalte(Abschnitt stand) {
 void frmMain::mnu_DateiNeu_Click() {
     BewahreErsetzten();
     m_lauf.ResetSimulation(m_plan.parameters);
-    m_texte.NachReset();
+    m_texte.AfterReset();
     m_Fra_Rest->ZeigeBauzeiten();
     LeereListe();
     m_Fra_Einstellungen->show();
@@ -248,7 +248,7 @@ bool frmMain::LoadBauliste(const std::optional<Profil>& profil, const std::files
             ZeigeInWerkbank();
         },
         m_umgebung.Boxen);
-    const bool geladen = LadePlan(*profil, m_plan, m_lauf.Bedingungen, meldungen);
+    const bool geladen = LadePlan(*profil, m_plan, m_lauf.conditions, meldungen);
     if (geladen) {
         ZeigePlan();
         MerkeGesichert(File);

@@ -41,7 +41,7 @@ Vergleichsfeld::~Vergleichsfeld() {
 }
 
 Liste* Vergleichsfeld::NeueTabelle(const char* name, const char* bedeutung, const char* erste,
-                                   const std::vector<Vergleichstext>& zeilen,
+                                   const std::vector<ComparisonText>& zeilen,
                                    Tabellenmodell** modell) {
     *modell = new Tabellenmodell(
         {QString::fromUtf8(erste), QStringLiteral("dort"), QStringLiteral("hier"),
@@ -78,7 +78,7 @@ QSize Vergleichsfeld::minimumSizeHint() const {
         QSize(kZeichen * fontMetrics().averageCharWidth(), 0));
 }
 
-void Vergleichsfeld::Zeige(const std::optional<Ablauf>& dieser) {
+void Vergleichsfeld::Zeige(const std::optional<RunTrace>& dieser) {
     m_dieser = dieser;
     Vergleiche();
 }
@@ -98,7 +98,7 @@ void Vergleichsfeld::LadeDatei() {
         emit Meldung(lauf.Meldungen.empty() ? "" : lauf.Meldungen.back().text);
         return;
     }
-    emit Meldung(lauf.Lauf.Stand.IsAtEndOfClock() ? UeberDieUhrText() : "");
+    emit Meldung(lauf.Lauf.state.IsAtEndOfClock() ? BeyondClockText() : "");
     Setze(lauf.Abgespielt(), QStringLiteral("Verglichen mit ") + AlsQString(lauf.Name));
 }
 
@@ -106,7 +106,7 @@ void Vergleichsfeld::Ohne() {
     Setze(std::nullopt, {});
 }
 
-void Vergleichsfeld::Setze(std::optional<Ablauf> anderer, const QString& name) {
+void Vergleichsfeld::Setze(std::optional<RunTrace> anderer, const QString& name) {
     m_anderer = std::move(anderer);
     m_name->setText(name);
     Vergleiche();
@@ -117,9 +117,9 @@ void Vergleichsfeld::Vergleiche() {
     m_kennzahlen.clear();
     m_auftraege.clear();
     if (m_dieser && m_anderer) {
-        const Vergleich vergleich = tarvelin::Vergleiche(*m_anderer, *m_dieser);
-        m_kennzahlen = Kennzahltexte(vergleich);
-        m_auftraege = Auftragstexte(vergleich);
+        const Comparison vergleich = tarvelin::Compare(*m_anderer, *m_dieser);
+        m_kennzahlen = SummaryTexts(vergleich);
+        m_auftraege = OrderDifferences(vergleich);
     }
     m_kennzahlmodell->Aktualisiere();
     m_auftragsmodell->Aktualisiere();

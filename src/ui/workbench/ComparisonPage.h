@@ -27,9 +27,9 @@ class Vergleichsfeld : public QWidget {
     ~Vergleichsfeld() override;
 
     /// The run of the plan as it is now; nothing if it can't be run.
-    void Zeige(const std::optional<Ablauf>& dieser);
+    void Zeige(const std::optional<RunTrace>& dieser);
     /// What it is held against, if anything.
-    [[nodiscard]] const std::optional<Ablauf>& Anderer() const { return m_anderer; }
+    [[nodiscard]] const std::optional<RunTrace>& Anderer() const { return m_anderer; }
 
     [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -40,18 +40,18 @@ class Vergleichsfeld : public QWidget {
   private:
     void LegeAus();
     Liste* NeueTabelle(const char* name, const char* bedeutung, const char* erste,
-                       const std::vector<Vergleichstext>& zeilen, Tabellenmodell** modell);
+                       const std::vector<ComparisonText>& zeilen, Tabellenmodell** modell);
     void Merke();
     void LadeDatei();
     void Ohne();
-    void Setze(std::optional<Ablauf> anderer, const QString& name);
+    void Setze(std::optional<RunTrace> anderer, const QString& name);
     void Vergleiche();
 
     const Umgebung& m_umgebung;
-    std::optional<Ablauf> m_dieser;
-    std::optional<Ablauf> m_anderer;
-    std::vector<Vergleichstext> m_kennzahlen;
-    std::vector<Vergleichstext> m_auftraege;
+    std::optional<RunTrace> m_dieser;
+    std::optional<RunTrace> m_anderer;
+    std::vector<ComparisonText> m_kennzahlen;
+    std::vector<ComparisonText> m_auftraege;
     QPushButton* m_merken;
     QPushButton* m_datei;
     QPushButton* m_ohne;

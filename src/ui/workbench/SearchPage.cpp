@@ -62,7 +62,7 @@ int InProzent(double anteil) {
 }
 
 std::string Fundtext(const Fund& fund) {
-    return Spannentext(fund.Wertung.Dauer) + ", " +
+    return TimeSpanText(fund.Wertung.Dauer) + ", " +
            Anzahltext(static_cast<std::size_t>(fund.Wertung.Sitzungen), "Sitzung", "Sitzungen") +
            ", " + Anzahltext(fund.Orders.size(), "Zeile", "Zeilen");
 }
@@ -229,8 +229,8 @@ void Suchfeld::ZeigeStand(const Fortschritt& stand) {
     m_balken->setValue(InProzent(anteil));
     m_kurve->Merke(anteil, stand.BesteDauer);
     m_stand->setText(
-        AlsQString("Bisher: " + Spannentext(stand.BesteDauer) + " (" +
-                   Aenderungstext(-stand.Gewinn) + ")\n" + std::to_string(stand.Versuche) +
+        AlsQString("Bisher: " + TimeSpanText(stand.BesteDauer) + " (" +
+                   SignedTimeSpanText(-stand.Gewinn) + ")\n" + std::to_string(stand.Versuche) +
                    " von " + std::to_string(stand.VonVersuchen) + " Versuchen, " +
                    std::to_string(std::int64_t(stand.VersucheJeSekunde)) + " in der Sekunde"));
 }
@@ -253,7 +253,8 @@ std::string Suchfeld::Bericht() const {
         "Vorher: " + (vorher ? Fundtext(*vorher) : "der Plan endet nie oder verfehlt das Ziel") +
         "\nNachher: " + Fundtext(nachher);
     if (vorher) {
-        text += "\nUnterschied: " + Aenderungstext(nachher.Wertung.Dauer - vorher->Wertung.Dauer);
+        text +=
+            "\nUnterschied: " + SignedTimeSpanText(nachher.Wertung.Dauer - vorher->Wertung.Dauer);
     }
     const OrderList& alte = m_gesucht->Vorher.LV_Bauliste.Orders();
     const OrderList neue = ListeAus(nachher.Orders);
@@ -263,9 +264,9 @@ std::string Suchfeld::Bericht() const {
     }
     const RunConditions& bedingungen = m_gesucht->Aufgabe.Aufgabe.Bedingungen;
     if (!alte.IsEmpty()) {
-        text += "\nJe Stunde vorher: " + ProStundeText(SpieleAb(alte.All(), bedingungen).Ende);
+        text += "\nJe Stunde vorher: " + ProStundeText(TraceRun(alte.All(), bedingungen).end);
     }
-    return text + "\nJe Stunde nachher: " + ProStundeText(SpieleAb(neue.All(), bedingungen).Ende);
+    return text + "\nJe Stunde nachher: " + ProStundeText(TraceRun(neue.All(), bedingungen).end);
 }
 
 void Suchfeld::Uebernimm() {

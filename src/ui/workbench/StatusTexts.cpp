@@ -11,13 +11,13 @@ namespace tarvelin {
 
 namespace {
 
-std::string Vorratstext(const Ablauf& ablauf, SimTime moment) {
+std::string Vorratstext(const RunTrace& ablauf, SimTime moment) {
     struct Name {
         Resource Was;
         const char* Text;
     };
-    const Verlaufspunkt& punkt = PunktUm(ablauf.Kurve, moment);
-    const auto vorrat = VorratNach(punkt, std::max(Long{0}, moment - punkt.Zeit));
+    const HistoryPoint& punkt = PointAt(ablauf.curve, moment);
+    const auto vorrat = StockAfter(punkt, std::max(Long{0}, moment - punkt.time));
     std::string text;
     for (const auto& [was, name] :
          {Name{Resource::Metall, "Metall"}, Name{Resource::Kristall, "Kristall"},
@@ -30,10 +30,10 @@ std::string Vorratstext(const Ablauf& ablauf, SimTime moment) {
            std::to_string(punkt.EnergieProduktion);
 }
 
-std::string Stufentext(const Verlaufspunkt& punkt) {
+std::string Stufentext(const HistoryPoint& punkt) {
     std::string text;
     for (const ItemRow& zeile : ItemTable()) {
-        if (const Byte stufe = punkt.Stufen[zeile.item]; stufe > 0) {
+        if (const Byte stufe = punkt.Stufe[zeile.item]; stufe > 0) {
             text +=
                 (text.empty() ? "" : ", ") + std::string(zeile.name) + " " + std::to_string(stufe);
         }
@@ -49,34 +49,33 @@ std::string Zeittext(DateTime zeitpunkt) {
            " " + TimeOfDayText(zeitpunkt);
 }
 
-std::string Standtext(const Ablauf& ablauf, SimTime moment) {
-    return Zeittext(ablauf.Bedingungen.WallClock(moment)) +
-           "   Spielzeit: " + Spannentext(moment.Seconds()) + Vorratstext(ablauf, moment) + "\n" +
-           Stufentext(PunktUm(ablauf.Kurve, moment));
+std::string Standtext(const RunTrace& ablauf, SimTime moment) {
+    return Zeittext(ablauf.conditions.WallClock(moment)) +
+           "   Spielzeit: " + TimeSpanText(moment.Seconds()) + Vorratstext(ablauf, moment) + "\n" +
+           Stufentext(PointAt(ablauf.curve, moment));
 }
 
-std::optional<std::string> NaechsterAuftrag(const Ablauf& ablauf, DateTime jetzt) {
-    const RunConditions& bedingungen = ablauf.Bedingungen;
-    if (jetzt < bedingungen.StartDate || jetzt > bedingungen.WallClock(ablauf.Dauer())) {
+std::optional<std::string> NaechsterAuftrag(const RunTrace& ablauf, DateTime jetzt) {
+    const RunConditions& bedingungen = ablauf.conditions;
+    if (jetzt < bedingungen.StartDate || jetzt > bedingungen.WallClock(ablauf.Duration())) {
         return std::nullopt;
     }
-    const auto naechster = std::ranges::find_if(ablauf.Starts, [&](const Startereignis& start) {
-        return bedingungen.WallClock(start.Start) >= jetzt;
+    const auto naechster = std::ranges::find_if(ablauf.starts, [&](const StartEvent& start) {
+        return bedingungen.WallClock(start.start) >= jetzt;
     });
-    if (naechster == ablauf.Starts.end()) {
+    if (naechster == ablauf.starts.end()) {
         return "alle Aufträge sind gegeben";
     }
-    const DateTime um = bedingungen.WallClock(naechster->Start);
-    return Auftragstext(*naechster) + " um " + TimeOfDayText(um) + ", in " +
-           Spannentext(um - jetzt);
+    const DateTime um = bedingungen.WallClock(naechster->start);
+    return OrderText(*naechster) + " um " + TimeOfDayText(um) + ", in " + TimeSpanText(um - jetzt);
 }
 
-std::string Meldungszeile(const Ablauf& ablauf) {
+std::string Meldungszeile(const RunTrace& ablauf) {
     std::vector<std::string> texte;
-    if (ablauf.Ende.IsAtEndOfClock()) {
-        texte.push_back(UeberDieUhrText());
+    if (ablauf.end.IsAtEndOfClock()) {
+        texte.push_back(BeyondClockText());
     }
-    std::ranges::transform(ablauf.Meldungen, std::back_inserter(texte), &Message::text);
+    std::ranges::transform(ablauf.messages, std::back_inserter(texte), &Message::text);
     std::string text = texte.empty() ? "" : texte.front();
     if (texte.size() == 2) {
         text += "\n" + texte.back();

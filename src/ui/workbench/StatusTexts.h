@@ -13,13 +13,13 @@ namespace tarvelin {
 [[nodiscard]] std::string Zeittext(DateTime zeitpunkt);
 
 /// All there is at a moment: stocks, rates, energy, levels.
-[[nodiscard]] std::string Standtext(const Ablauf& ablauf, SimTime moment);
+[[nodiscard]] std::string Standtext(const RunTrace& ablauf, SimTime moment);
 
 /// The first order that is still to be given, as long as the plan covers the moment: its name, when
 /// and in how long. Nothing before the plan's start and behind its end.
-[[nodiscard]] std::optional<std::string> NaechsterAuftrag(const Ablauf& ablauf, DateTime jetzt);
+[[nodiscard]] std::optional<std::string> NaechsterAuftrag(const RunTrace& ablauf, DateTime jetzt);
 
 /// What a run has to tell, in two lines at most: of many messages the first one, and how many more.
-[[nodiscard]] std::string Meldungszeile(const Ablauf& ablauf);
+[[nodiscard]] std::string Meldungszeile(const RunTrace& ablauf);
 
 }  // namespace tarvelin

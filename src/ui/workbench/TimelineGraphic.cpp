@@ -22,19 +22,20 @@ constexpr qreal kRand = 3;
 
 /// What a curve is drawn through: its value at each point, and where it goes until the next.
 template <class Wert>
-void JedesStueck(const Ablauf& ablauf, Wert wert) {
-    for (std::size_t i = 0; i < ablauf.Kurve.size(); ++i) {
-        const Verlaufspunkt& punkt = ablauf.Kurve[i];
-        const SimTime bis = i + 1 < ablauf.Kurve.size() ? ablauf.Kurve[i + 1].Zeit : ablauf.Dauer();
-        wert(punkt, std::max(bis, punkt.Zeit));
+void JedesStueck(const RunTrace& ablauf, Wert wert) {
+    for (std::size_t i = 0; i < ablauf.curve.size(); ++i) {
+        const HistoryPoint& punkt = ablauf.curve[i];
+        const SimTime bis =
+            i + 1 < ablauf.curve.size() ? ablauf.curve[i + 1].time : ablauf.Duration();
+        wert(punkt, std::max(bis, punkt.time));
     }
 }
 
-qreal Vorratszahl(const Verlaufspunkt& punkt, SimTime um, Resource r) {
-    return VorratNach(punkt, um - punkt.Zeit)[r].ToDouble();
+qreal Vorratszahl(const HistoryPoint& punkt, SimTime um, Resource r) {
+    return StockAfter(punkt, um - punkt.time)[r].ToDouble();
 }
 
-qreal Bilanz(const Verlaufspunkt& punkt) {
+qreal Bilanz(const HistoryPoint& punkt) {
     return static_cast<qreal>(punkt.EnergieProduktion) - static_cast<qreal>(punkt.EnergieVerbrauch);
 }
 
@@ -78,11 +79,11 @@ class Zeitbild::Maler {
         MaleSpuren();
         MaleAchse();
         MaleSchlaf();
-        for (std::size_t i = 0; i < m_ablauf.Starts.size(); ++i) {
+        for (std::size_t i = 0; i < m_ablauf.starts.size(); ++i) {
             MaleWarten(i);
         }
-        for (const Startereignis& start : m_ablauf.Starts) {
-            if (start.Order.kind == Order::Kind::Item) {
+        for (const StartEvent& start : m_ablauf.starts) {
+            if (start.order.kind == Order::Kind::Item) {
                 MaleBalken(start);
             }
         }
@@ -130,7 +131,7 @@ class Zeitbild::Maler {
         QColor blass = m_bild.m_farben.Linie;
         constexpr int kBlass = 70;
         blass.setAlpha(kBlass);
-        const DateTime beginn = m_ablauf.Bedingungen.StartDate;
+        const DateTime beginn = m_ablauf.conditions.StartDate;
         achse.JederStrich(
             beginn, m_links / m_jeSekunde, m_rechts / m_jeSekunde,
             [&](std::int64_t sekunde, const std::string& text) {
@@ -143,8 +144,8 @@ class Zeitbild::Maler {
     }
 
     void MaleSchlaf() {
-        for (const cSchlafzeit& fenster : m_ablauf.Bedingungen.Schlafzeiten) {
-            const DateTime beginn = m_ablauf.Bedingungen.StartDate;
+        for (const cSchlafzeit& fenster : m_ablauf.conditions.Schlafzeiten) {
+            const DateTime beginn = m_ablauf.conditions.StartDate;
             const qreal von = X(static_cast<qreal>(fenster.Startzeit() - beginn));
             const qreal bis = X(static_cast<qreal>(fenster.Endzeit() - beginn));
             if (InSicht(von, bis)) {
@@ -158,14 +159,14 @@ class Zeitbild::Maler {
     }
 
     void MaleWarten(std::size_t nummer) {
-        const Startereignis& start = m_ablauf.Starts[nummer];
+        const StartEvent& start = m_ablauf.starts[nummer];
         const qreal von = X(m_bild.WartetAb(nummer));
-        const qreal bis = X(start.Start);
-        if (start.Grund.cause == DelayCause::None || !InSicht(von, bis) || bis <= von) {
+        const qreal bis = X(start.start);
+        if (start.delay.cause == DelayCause::None || !InSicht(von, bis) || bis <= von) {
             return;
         }
-        const QRectF spur = m_bild.Spurflaeche(start.Order.queue);
-        QColor farbe = m_bild.m_farben.Warten(start.Grund);
+        const QRectF spur = m_bild.Spurflaeche(start.order.queue);
+        QColor farbe = m_bild.m_farben.Warten(start.delay);
         constexpr int kBlass = 130;
         farbe.setAlpha(kBlass);
         m_painter.fillRect(QRectF(von, spur.top() + kBalkenanteil * spur.height() + 1, bis - von,
@@ -173,16 +174,16 @@ class Zeitbild::Maler {
                            farbe);
     }
 
-    void MaleBalken(const Startereignis& start) {
-        const QRectF szene = *m_bild.BalkenVon(start.Zeile);
+    void MaleBalken(const StartEvent& start) {
+        const QRectF szene = *m_bild.BalkenVon(start.row);
         const QRectF balken(X(szene.left()), szene.top(), std::max(1.0, X(szene.width())),
                             szene.height());
         if (!InSicht(balken.left(), balken.right())) {
             return;
         }
         const Werkbankfarben& farben = m_bild.m_farben;
-        const bool gewaehlt = m_bild.m_auswahl.contains(start.Zeile);
-        m_painter.fillRect(balken, farben.Balken[start.Order.queue]);
+        const bool gewaehlt = m_bild.m_auswahl.contains(start.row);
+        m_painter.fillRect(balken, farben.Balken[start.order.queue]);
         m_painter.setPen(QPen(gewaehlt ? farben.Auswahl : farben.Linie, gewaehlt ? 2 : 1));
         constexpr qreal kSchmal = 3;
         if (gewaehlt || balken.width() > kSchmal) {
@@ -194,8 +195,8 @@ class Zeitbild::Maler {
                        .adjusted(kRand, 0, -kRand, 0));
     }
 
-    void MaleInhalt(const Startereignis& start, QRectF platz) {
-        const QPixmap& bild = m_bild.m_bilder[start.Order.item];
+    void MaleInhalt(const StartEvent& start, QRectF platz) {
+        const QPixmap& bild = m_bild.m_bilder[start.order.item];
         const qreal seite = platz.height() - 2;
         if (!bild.isNull() && platz.width() >= seite) {
             m_painter.drawPixmap(QRectF(platz.left(), platz.top() + 1, seite, seite), bild,
@@ -209,16 +210,16 @@ class Zeitbild::Maler {
         m_painter.setPen(m_bild.m_farben.Text);
         m_painter.drawText(
             platz, static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter),
-            mass.elidedText(AlsQString(Auftragstext(start)), Qt::ElideRight, platz.width()));
+            mass.elidedText(AlsQString(OrderText(start)), Qt::ElideRight, platz.width()));
     }
 
     void MaleProduktionen() {
-        for (const Startereignis& start : m_ablauf.Starts) {
-            const qreal x = X(start.Start);
-            if (start.Order.kind != Order::Kind::Production || !InSicht(x - kRand, x + kRand)) {
+        for (const StartEvent& start : m_ablauf.starts) {
+            const qreal x = X(start.start);
+            if (start.order.kind != Order::Kind::Production || !InSicht(x - kRand, x + kRand)) {
                 continue;
             }
-            const bool gewaehlt = m_bild.m_auswahl.contains(start.Zeile);
+            const bool gewaehlt = m_bild.m_auswahl.contains(start.row);
             const QRectF spur = m_bild.Spurflaeche(Queue::Building);
             m_painter.setPen(QPen(gewaehlt ? m_bild.m_farben.Auswahl : m_bild.m_farben.Produktion,
                                   2, Qt::DashLine));
@@ -236,12 +237,12 @@ class Zeitbild::Maler {
 
     /// A line through the values of all pieces in sight.
     template <class Wert>
-    void MaleKurve(const Ablauf& ablauf, const QRectF& feld, const Bereich& bereich,
+    void MaleKurve(const RunTrace& ablauf, const QRectF& feld, const Bereich& bereich,
                    const QColor& farbe, Wert wert) {
         QPolygonF linie;
-        JedesStueck(ablauf, [&](const Verlaufspunkt& punkt, SimTime bis) {
-            if (InSicht(X(punkt.Zeit), X(bis))) {
-                linie << QPointF(X(punkt.Zeit), bereich.Y(wert(punkt, punkt.Zeit), feld))
+        JedesStueck(ablauf, [&](const HistoryPoint& punkt, SimTime bis) {
+            if (InSicht(X(punkt.time), X(bis))) {
+                linie << QPointF(X(punkt.time), bereich.Y(wert(punkt, punkt.time), feld))
                       << QPointF(X(bis), bereich.Y(wert(punkt, bis), feld));
             }
         });
@@ -266,10 +267,10 @@ class Zeitbild::Maler {
     void MaleVorraete() {
         const QRectF feld = m_bild.Vorratsflaeche();
         Bereich bereich;
-        const auto nimm = [&](const Ablauf& ablauf) {
-            JedesStueck(ablauf, [&](const Verlaufspunkt& punkt, SimTime bis) {
+        const auto nimm = [&](const RunTrace& ablauf) {
+            JedesStueck(ablauf, [&](const HistoryPoint& punkt, SimTime bis) {
                 for (const Resource r : kResources) {
-                    bereich.Nimm(Vorratszahl(punkt, punkt.Zeit, r));
+                    bereich.Nimm(Vorratszahl(punkt, punkt.time, r));
                     bereich.Nimm(Vorratszahl(punkt, bis, r));
                 }
             });
@@ -280,7 +281,7 @@ class Zeitbild::Maler {
         }
         m_painter.setRenderHint(QPainter::Antialiasing);
         for (const Resource r : kResources) {
-            const auto vorrat = [r](const Verlaufspunkt& p, SimTime um) {
+            const auto vorrat = [r](const HistoryPoint& p, SimTime um) {
                 return Vorratszahl(p, um, r);
             };
             const QColor& farbe = m_bild.m_farben.Vorrat[r];
@@ -305,16 +306,16 @@ class Zeitbild::Maler {
         const QRectF feld = m_bild.Energieflaeche();
         Bereich bereich;
         JedesStueck(m_ablauf,
-                    [&](const Verlaufspunkt& punkt, SimTime) { bereich.Nimm(Bilanz(punkt)); });
+                    [&](const HistoryPoint& punkt, SimTime) { bereich.Nimm(Bilanz(punkt)); });
         const qreal null = bereich.Y(0, feld);
-        JedesStueck(m_ablauf, [&](const Verlaufspunkt& punkt, SimTime bis) {
-            if (!InSicht(X(punkt.Zeit), X(bis))) {
+        JedesStueck(m_ablauf, [&](const HistoryPoint& punkt, SimTime bis) {
+            if (!InSicht(X(punkt.time), X(bis))) {
                 return;
             }
             const qreal bilanz = Bilanz(punkt);
             const qreal y = bereich.Y(bilanz, feld);
             m_painter.fillRect(
-                QRectF(X(punkt.Zeit), std::min(y, null), X(bis) - X(punkt.Zeit),
+                QRectF(X(punkt.time), std::min(y, null), X(bis) - X(punkt.time),
                        std::abs(null - y)),
                 bilanz < 0 ? m_bild.m_farben.Energiemangel : m_bild.m_farben.Energie);
         });
@@ -331,7 +332,7 @@ class Zeitbild::Maler {
     }
 
     const Zeitbild& m_bild;
-    const Ablauf& m_ablauf;
+    const RunTrace& m_ablauf;
     QPainter& m_painter;
     qreal m_jeSekunde = 1;
     /// What is in sight, in pixels.
@@ -344,12 +345,12 @@ Zeitbild::Zeitbild() {
     setFlag(ItemUsesExtendedStyleOption);
 }
 
-void Zeitbild::Setze(const std::optional<Ablauf>& ablauf) {
+void Zeitbild::Setze(const std::optional<RunTrace>& ablauf) {
     prepareGeometryChange();
     m_ablauf = ablauf;
 }
 
-void Zeitbild::SetzeAnderen(const std::optional<Ablauf>& anderer) {
+void Zeitbild::SetzeAnderen(const std::optional<RunTrace>& anderer) {
     prepareGeometryChange();
     m_anderer = anderer;
 }
@@ -394,8 +395,8 @@ qreal Zeitbild::Mindesthoehe() const {
 }
 
 qreal Zeitbild::Ende() const {
-    const auto bis = [](const std::optional<Ablauf>& ablauf) {
-        return ablauf ? static_cast<qreal>(ablauf->Dauer().Seconds()) : 0.0;
+    const auto bis = [](const std::optional<RunTrace>& ablauf) {
+        return ablauf ? static_cast<qreal>(ablauf->Duration().Seconds()) : 0.0;
     };
     return std::max({1.0, bis(m_ablauf), bis(m_anderer)});
 }
@@ -418,16 +419,16 @@ QRectF Zeitbild::Energieflaeche() const {
 }
 
 SimTime Zeitbild::WartetAb(std::size_t nummer) const {
-    return nummer == 0 ? SimTime() : m_ablauf->Starts[nummer - 1].Start;
+    return nummer == 0 ? SimTime() : m_ablauf->starts[nummer - 1].start;
 }
 
 std::optional<QRectF> Zeitbild::BalkenVon(std::size_t zeile) const {
-    const Startereignis* const start = m_ablauf ? m_ablauf->StartDer(zeile) : nullptr;
+    const StartEvent* const start = m_ablauf ? m_ablauf->StartOf(zeile) : nullptr;
     if (start == nullptr) {
         return std::nullopt;
     }
-    const QRectF spur = Spurflaeche(start->Order.queue);
-    return QRectF(start->Start.Seconds(), spur.top() + 1, start->Finish - start->Start,
+    const QRectF spur = Spurflaeche(start->order.queue);
+    return QRectF(start->start.Seconds(), spur.top() + 1, start->finish - start->start,
                   kBalkenanteil * spur.height() - 1);
 }
 
@@ -436,16 +437,16 @@ std::optional<std::size_t> Zeitbild::ZeileBei(const QPointF& ort, qreal daneben)
         return std::nullopt;
     }
     std::optional<std::size_t> gefunden;
-    for (std::size_t i = 0; i < m_ablauf->Starts.size(); ++i) {
-        const Startereignis& start = m_ablauf->Starts[i];
-        const QRectF balken = *BalkenVon(start.Zeile);
-        const QRectF spur = Spurflaeche(start.Order.queue);
+    for (std::size_t i = 0; i < m_ablauf->starts.size(); ++i) {
+        const StartEvent& start = m_ablauf->starts[i];
+        const QRectF balken = *BalkenVon(start.row);
+        const QRectF spur = Spurflaeche(start.order.queue);
         const bool aufBalken = ort.y() <= balken.bottom();
         const qreal von = aufBalken ? balken.left() : static_cast<qreal>(WartetAb(i).Seconds());
         const qreal bis = aufBalken ? balken.right() : balken.left();
         if (ort.y() >= spur.top() && ort.y() <= spur.bottom() && ort.x() >= von - daneben &&
             ort.x() <= bis + daneben) {
-            gefunden = start.Zeile;
+            gefunden = start.row;
         }
     }
     return gefunden;
@@ -457,7 +458,7 @@ QRectF Zeitbild::boundingRect() const {
 
 void Zeitbild::paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
                      QWidget* /*widget*/) {
-    if (!m_ablauf || m_ablauf->Kurve.empty()) {
+    if (!m_ablauf || m_ablauf->curve.empty()) {
         return;
     }
     painter->save();

@@ -20,9 +20,9 @@ class Zeitbild : public QGraphicsItem {
     Zeitbild();
 
     /// Nothing for a plan that can't be run.
-    void Setze(const std::optional<Ablauf>& ablauf);
+    void Setze(const std::optional<RunTrace>& ablauf);
     /// A run whose curves are drawn pale behind the others.
-    void SetzeAnderen(const std::optional<Ablauf>& anderer);
+    void SetzeAnderen(const std::optional<RunTrace>& anderer);
     void SetzeBilder(const PerItem<QPixmap>& bilder);
     void SetzeAussehen(const Werkbankfarben& farben, const QFont& schrift);
     void SetzeHoehe(qreal hoehe);
@@ -30,7 +30,7 @@ class Zeitbild : public QGraphicsItem {
 
     /// What it needs to be read.
     [[nodiscard]] qreal Mindesthoehe() const;
-    [[nodiscard]] const std::optional<Ablauf>& Lauf() const { return m_ablauf; }
+    [[nodiscard]] const std::optional<RunTrace>& Lauf() const { return m_ablauf; }
     [[nodiscard]] const Werkbankfarben& Farben() const { return m_farben; }
     /// From where to where it shows the run, in seconds.
     [[nodiscard]] qreal Ende() const;
@@ -59,8 +59,8 @@ class Zeitbild : public QGraphicsItem {
     /// When the order of a start began to wait.
     [[nodiscard]] SimTime WartetAb(std::size_t nummer) const;
 
-    std::optional<Ablauf> m_ablauf;
-    std::optional<Ablauf> m_anderer;
+    std::optional<RunTrace> m_ablauf;
+    std::optional<RunTrace> m_anderer;
     PerItem<QPixmap> m_bilder;
     Werkbankfarben m_farben{QPalette()};
     QFont m_schrift;

@@ -56,11 +56,11 @@ Zeitleiste::Zeitleiste(QWidget* parent) : QGraphicsView(parent), m_bild(new Zeit
     setFocusPolicy(Qt::StrongFocus);
 }
 
-void Zeitleiste::Setze(const std::optional<Ablauf>& ablauf) {
+void Zeitleiste::Setze(const std::optional<RunTrace>& ablauf) {
     Aendere([&] { m_bild->Setze(ablauf); });
 }
 
-void Zeitleiste::SetzeAnderen(const std::optional<Ablauf>& anderer) {
+void Zeitleiste::SetzeAnderen(const std::optional<RunTrace>& anderer) {
     Aendere([&] { m_bild->SetzeAnderen(anderer); });
 }
 
@@ -201,12 +201,12 @@ void Zeitleiste::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
             if (m_bild->Lauf() && m_zeiger) {
-                const auto& starts = m_bild->Lauf()->Starts;
-                const auto naechster = std::ranges::find_if(starts, [&](const Startereignis& s) {
-                    return s.Start.Seconds() >= std::floor(*m_zeiger);
+                const auto& starts = m_bild->Lauf()->starts;
+                const auto naechster = std::ranges::find_if(starts, [&](const StartEvent& s) {
+                    return s.start.Seconds() >= std::floor(*m_zeiger);
                 });
                 if (naechster != starts.end()) {
-                    emit Gewaehlt(naechster->Zeile);
+                    emit Gewaehlt(naechster->row);
                 }
             }
             break;
@@ -221,8 +221,8 @@ void Zeitleiste::GeheZuStart(bool vor) {
     }
     const qreal hier = m_zeiger.value_or(-1);
     std::optional<qreal> ziel;
-    for (const Startereignis& start : m_bild->Lauf()->Starts) {
-        const auto dort = static_cast<qreal>(start.Start.Seconds());
+    for (const StartEvent& start : m_bild->Lauf()->starts) {
+        const auto dort = static_cast<qreal>(start.start.Seconds());
         if (vor ? dort > hier && !ziel : dort < hier) {
             ziel = dort;
         }
@@ -276,10 +276,10 @@ void Zeitleiste::drawForeground(QPainter* painter, const QRectF& rect) {
         painter->setPen(QPen(farbe, 0));
         painter->drawLine(QPointF(sekunde, rect.top()), QPointF(sekunde, rect.bottom()));
     };
-    const Ablauf& ablauf = *m_bild->Lauf();
+    const RunTrace& ablauf = *m_bild->Lauf();
     const auto naechster = m_jetzt ? NaechsterAuftrag(ablauf, *m_jetzt) : std::nullopt;
     if (naechster) {
-        const auto jetzt = static_cast<qreal>(*m_jetzt - ablauf.Bedingungen.StartDate);
+        const auto jetzt = static_cast<qreal>(*m_jetzt - ablauf.conditions.StartDate);
         linie(jetzt, m_bild->Farben().Jetzt);
         const QPoint ort = mapFromScene(QPointF(jetzt, 0));
         const QString text = QStringLiteral("jetzt: ") + AlsQString(*naechster);

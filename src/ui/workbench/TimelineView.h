@@ -19,9 +19,9 @@ class Zeitleiste : public QGraphicsView {
     explicit Zeitleiste(QWidget* parent);
 
     /// Shows a run, or none. What is in sight stays, unless all was.
-    void Setze(const std::optional<Ablauf>& ablauf);
+    void Setze(const std::optional<RunTrace>& ablauf);
     /// Another run, whose curves stand pale behind those of the first; or none.
-    void SetzeAnderen(const std::optional<Ablauf>& anderer);
+    void SetzeAnderen(const std::optional<RunTrace>& anderer);
     void SetzeBilder(const PerItem<QPixmap>& bilder) { m_bild->SetzeBilder(bilder); }
     void SetzeAussehen(const QPalette& palette, const QFont& schrift);
     void SetzeAuswahl(const std::set<std::size_t>& zeilen) { m_bild->SetzeAuswahl(zeilen); }

@@ -13,13 +13,13 @@ namespace {
 
 using Zeile = std::array<std::string, 5>;
 
-std::vector<Zeile> Zeilen(const Ablauf& ablauf) {
+std::vector<Zeile> Zeilen(const RunTrace& ablauf) {
     std::vector<Zeile> zeilen{{"Nr.", "Auftrag", "Start", "Fertig", "Grund"}};
-    for (const Startereignis& start : ablauf.Starts) {
-        zeilen.push_back({std::to_string(start.Zeile + 1), Auftragstext(start),
-                          DateTimeText(ablauf.Bedingungen.WallClock(start.Start)),
-                          DateTimeText(ablauf.Bedingungen.WallClock(start.Finish)),
-                          Wartetext(ablauf, start.Zeile)});
+    for (const StartEvent& start : ablauf.starts) {
+        zeilen.push_back({std::to_string(start.row + 1), OrderText(start),
+                          DateTimeText(ablauf.conditions.WallClock(start.start)),
+                          DateTimeText(ablauf.conditions.WallClock(start.finish)),
+                          DelayText(ablauf, start.row)});
     }
     return zeilen;
 }
@@ -40,11 +40,11 @@ std::string Gesetzt(const std::vector<Zeile>& zeilen, const char* vorZeile, cons
 
 }  // namespace
 
-std::string ZeitplanMitTabs(const Ablauf& ablauf) {
+std::string ZeitplanMitTabs(const RunTrace& ablauf) {
     return Gesetzt(Zeilen(ablauf), "", "", "\t", "\n");
 }
 
-std::string ZeitplanAlsTabelle(const Ablauf& ablauf) {
+std::string ZeitplanAlsTabelle(const RunTrace& ablauf) {
     return "<table>" + Gesetzt(Zeilen(ablauf), "<tr>", "<td>", "</td>", "</td></tr>") + "</table>";
 }
 

@@ -8,9 +8,9 @@
 namespace tarvelin {
 
 /// A line for each order, columns parted by tabs, the captions first.
-[[nodiscard]] std::string ZeitplanMitTabs(const Ablauf& ablauf);
+[[nodiscard]] std::string ZeitplanMitTabs(const RunTrace& ablauf);
 
 /// The same as a table of a web page.
-[[nodiscard]] std::string ZeitplanAlsTabelle(const Ablauf& ablauf);
+[[nodiscard]] std::string ZeitplanAlsTabelle(const RunTrace& ablauf);
 
 }  // namespace tarvelin

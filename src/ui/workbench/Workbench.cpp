@@ -324,7 +324,7 @@ void frmWerkbank::ZeigePlan() {
 void frmWerkbank::Spiele() {
     if (m_schritte != m_verlauf.StepCount()) {
         m_schritte = m_verlauf.StepCount();
-        m_dauerDavor = m_ablauf ? std::optional(m_ablauf->Dauer().Seconds()) : std::nullopt;
+        m_dauerDavor = m_ablauf ? std::optional(m_ablauf->Duration().Seconds()) : std::nullopt;
     }
     const auto bedingungen = ParseRunConditions(m_plan);
     if (const auto* const absage = std::get_if<Message>(&bedingungen)) {
@@ -332,20 +332,21 @@ void frmWerkbank::Spiele() {
         Melde(m_plan.LV_Bauliste.Orders().IsEmpty() ? "" : absage->text);
     } else {
         m_ablauf =
-            SpieleAb(m_plan.LV_Bauliste.Orders().All(), std::get<RunConditions>(bedingungen));
+            TraceRun(m_plan.LV_Bauliste.Orders().All(), std::get<RunConditions>(bedingungen));
         Melde(Meldungszeile(*m_ablauf));
     }
     const bool bearbeitet = m_verlauf.CanUndo() || m_verlauf.CanRedo();
     m_aenderung = bearbeitet && m_dauerDavor && m_ablauf
-                      ? std::optional(m_ablauf->Dauer().Seconds() - *m_dauerDavor)
+                      ? std::optional(m_ablauf->Duration().Seconds() - *m_dauerDavor)
                       : std::nullopt;
 }
 
 void frmWerkbank::ZeigeFuss() {
     m_LBL_Dauer->setText(m_ablauf
-                             ? QStringLiteral("Dauer: ") + AlsQString(Dauertext(m_ablauf->Ende))
+                             ? QStringLiteral("Dauer: ") + AlsQString(DurationText(m_ablauf->end))
                              : QStringLiteral("Dauer: -"));
-    m_LBL_Aenderung->setText(m_aenderung ? AlsQString(Aenderungstext(*m_aenderung)) : QString());
+    m_LBL_Aenderung->setText(m_aenderung ? AlsQString(SignedTimeSpanText(*m_aenderung))
+                                         : QString());
     m_zurueck->setEnabled(m_verlauf.CanUndo());
     m_vor->setEnabled(m_verlauf.CanRedo());
 }
@@ -471,7 +472,7 @@ void frmWerkbank::KalenderSpeichern() {
     if (!datei.empty()) {
         const auto stand =
             std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
-        SchreibeDatei(datei, Kalendertext(*m_ablauf, LiesVorlauf(m_vorher()), stand));
+        SchreibeDatei(datei, Kalendertext(*m_ablauf, ParseLeadTime(m_vorher()), stand));
     }
 }
 
@@ -509,18 +510,18 @@ Tabellenmodell::Quelle frmWerkbank::Listenquelle() const {
 
 std::string frmWerkbank::Zellentext(std::size_t zeile, int spalte) const {
     const BuildListRow& texte = m_plan.LV_Bauliste.Rows()[zeile];
-    const Startereignis* const start = m_ablauf ? m_ablauf->StartDer(zeile) : nullptr;
+    const StartEvent* const start = m_ablauf ? m_ablauf->StartOf(zeile) : nullptr;
     switch (spalte) {
         case kNummer:
             return texte.text;
         case kAuftrag:
             return texte.SubItems1;
         case kStart:
-            return start != nullptr ? Zeittext(m_ablauf->Bedingungen.WallClock(start->Start)) : "";
+            return start != nullptr ? Zeittext(m_ablauf->conditions.WallClock(start->start)) : "";
         case kFertig:
-            return start != nullptr ? Zeittext(m_ablauf->Bedingungen.WallClock(start->Finish)) : "";
+            return start != nullptr ? Zeittext(m_ablauf->conditions.WallClock(start->finish)) : "";
         case kGrund:
-            return m_ablauf ? Wartetext(*m_ablauf, zeile) : "";
+            return m_ablauf ? DelayText(*m_ablauf, zeile) : "";
         default:
             return texte.SubItems2;
     }

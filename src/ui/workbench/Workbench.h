@@ -100,7 +100,7 @@ class frmWerkbank : public QWidget {
     std::function<std::string()> m_vorher;
     const Umgebung& m_umgebung;
     /// Nothing, with the reason in the strip, if the plan can't be run.
-    std::optional<Ablauf> m_ablauf;
+    std::optional<RunTrace> m_ablauf;
     /// The duration before the last step that was done or taken back, and how many lay behind the
     /// plan then.
     std::optional<Long> m_dauerDavor;
