@@ -14,20 +14,20 @@ using namespace tarvelin;
 
 const std::atomic<bool> kWeiter{false};
 
-void Still(const Fortschritt& /*stand*/) {}
+void Still(const SearchProgress& /*stand*/) {}
 
-Planaufgabe Aufgabe(const std::string& datei, const Suchwunsch& wunsch) {
-    return std::get<Planaufgabe>(
-        StelleAufgabe(Planlauf(std::filesystem::path(TARVELIN_SOURCE_DIR) / datei).Plan, wunsch));
+PlanTask Aufgabe(const std::string& datei, const SearchRequest& wunsch) {
+    return std::get<PlanTask>(
+        MakePlanTask(Planlauf(std::filesystem::path(TARVELIN_SOURCE_DIR) / datei).Plan, wunsch));
 }
 
 /// The starter plan's own orders, on as many threads.
 void Versuche(benchmark::State& state) {
-    const Planaufgabe aufgabe = Aufgabe("data/saves/basic.tvf", {});
-    const Suchumfang umfang{.Threads = static_cast<unsigned>(state.range(0))};
+    const PlanTask aufgabe = Aufgabe("data/saves/basic.tvf", {});
+    const SearchBudget umfang{.threads = static_cast<unsigned>(state.range(0))};
     std::uint64_t versuche = 0;
     for (auto _ : state) {
-        versuche += Suche(aufgabe, umfang, kWeiter, Still).Versuche;
+        versuche += Search(aufgabe, umfang, kWeiter, Still).tries;
     }
     state.counters["Versuche/s"] =
         benchmark::Counter(static_cast<double>(versuche), benchmark::Counter::kIsRate);
@@ -35,24 +35,24 @@ void Versuche(benchmark::State& state) {
 BENCHMARK(Versuche)->Arg(1)->Arg(2)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 /// Seconds before and after a search by the default settings.
-void Guete(benchmark::State& state, const std::string& datei, const Suchwunsch& wunsch) {
-    const Planaufgabe aufgabe = Aufgabe(datei, wunsch);
-    Suchergebnis ergebnis;
+void Guete(benchmark::State& state, const std::string& datei, const SearchRequest& wunsch) {
+    const PlanTask aufgabe = Aufgabe(datei, wunsch);
+    SearchResult ergebnis;
     for (auto _ : state) {
-        ergebnis = Suche(aufgabe, {}, kWeiter, Still);
+        ergebnis = Search(aufgabe, {}, kWeiter, Still);
     }
-    const auto vorher = static_cast<double>(aufgabe.Vorher->Wertung.Dauer);
-    const auto nachher = static_cast<double>(ergebnis.Bester->Wertung.Dauer);
+    const auto vorher = static_cast<double>(aufgabe.before->score.duration);
+    const auto nachher = static_cast<double>(ergebnis.best->score.duration);
     state.counters["vorher_s"] = vorher;
     state.counters["nachher_s"] = nachher;
     state.counters["Gewinn_%"] = 100 * (1 - nachher / vorher);
 }
-#define GUETE(name, datei, ...)                                    \
-    BENCHMARK_CAPTURE(Guete, name, datei, Suchwunsch{__VA_ARGS__}) \
-        ->Iterations(1)                                            \
+#define GUETE(name, datei, ...)                                       \
+    BENCHMARK_CAPTURE(Guete, name, datei, SearchRequest{__VA_ARGS__}) \
+        ->Iterations(1)                                               \
         ->Unit(benchmark::kMillisecond)
 GUETE(Startplan, "data/saves/basic.tvf");
-GUETE(StartplanZiel, "data/saves/basic.tvf", .Ziel = "plan");
+GUETE(StartplanZiel, "data/saves/basic.tvf", .goal = "plan");
 GUETE(Naechte60, "tests/data/golden/gedraengt-01.tvf");
 GUETE(Lang150, "tests/data/golden/gedraengt-03.tvf");
 GUETE(Forschung85, "tests/data/golden/regelgerecht-05.tvf");
@@ -65,9 +65,9 @@ void Bewiesen(benchmark::State& state) {
     unsigned optimal = 0;
     for (auto _ : state) {
         for (unsigned saat = 1; saat <= kPlaene; ++saat) {
-            const Suchaufgabe aufgabe = Kleinplan(saat);
-            const auto bester = Suche(aufgabe, {}, kWeiter, Still).Bester;
-            optimal += bester && bester->Wertung.Dauer == BewieseneDauer(aufgabe) ? 1U : 0U;
+            const SearchTask aufgabe = Kleinplan(saat);
+            const auto bester = Search(aufgabe, {}, kWeiter, Still).best;
+            optimal += bester && bester->score.duration == BewieseneDauer(aufgabe) ? 1U : 0U;
         }
     }
     state.counters["optimal_von_100"] = optimal;

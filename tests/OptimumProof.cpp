@@ -29,11 +29,11 @@ class Schiedsrichter final : public RunObserver {
 
 class Beweis {
   public:
-    explicit Beweis(const Suchaufgabe& aufgabe)
-        : m_bedingungen(aufgabe.Bedingungen),
-          m_uebrig(aufgabe.Orders),
-          m_spaeter(Simulation({}, aufgabe.Bedingungen).State()) {
-        m_spaeter.Stufe = Endstufen(aufgabe.Orders);
+    explicit Beweis(const SearchTask& aufgabe)
+        : m_bedingungen(aufgabe.conditions),
+          m_uebrig(aufgabe.orders),
+          m_spaeter(Simulation({}, aufgabe.conditions).State()) {
+        m_spaeter.Stufe = FinalLevels(aufgabe.orders);
     }
 
     Long Fuehre() {
@@ -118,7 +118,7 @@ class Beweis {
 
 }  // namespace
 
-Suchaufgabe Kleinplan(unsigned saat) {
+SearchTask Kleinplan(unsigned saat) {
     constexpr std::array<ItemId, 12> kAnfang{ItemId::MetMine,  ItemId::MetMine,  ItemId::KrisMine,
                                              ItemId::KrisMine, ItemId::DeutMine, ItemId::SKW,
                                              ItemId::SKW,      ItemId::Robo,     ItemId::Werft,
@@ -127,8 +127,8 @@ Suchaufgabe Kleinplan(unsigned saat) {
     const auto bis = [&quelle](unsigned hoechster) {
         return static_cast<Long>(quelle() % (hoechster + 1));
     };
-    Suchaufgabe aufgabe;
-    RunConditions& welt = aufgabe.Bedingungen;
+    SearchTask aufgabe;
+    RunConditions& welt = aufgabe.conditions;
     welt.Speedfaktor = 1 + bis(1);
     welt.Temperatur = static_cast<Integer>(bis(160) - 60);
     welt.KlickPuffer = bis(1) * bis(600);
@@ -149,12 +149,12 @@ Suchaufgabe Kleinplan(unsigned saat) {
             liste.Append(Order::Of(item));
         }
     }
-    aufgabe.Orders.assign(liste.All().begin(), liste.All().end());
-    aufgabe.Fest.assign(aufgabe.Orders.size(), false);
+    aufgabe.orders.assign(liste.All().begin(), liste.All().end());
+    aufgabe.pinned.assign(aufgabe.orders.size(), false);
     return aufgabe;
 }
 
-std::optional<Long> BewieseneDauer(const Suchaufgabe& aufgabe) {
+std::optional<Long> BewieseneDauer(const SearchTask& aufgabe) {
     const Long dauer = Beweis(aufgabe).Fuehre();
     return dauer == std::numeric_limits<Long>::max() ? std::nullopt : std::optional(dauer);
 }

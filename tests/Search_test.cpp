@@ -14,9 +14,9 @@ namespace {
 
 const std::atomic<bool> kWeiter{false};
 
-void Still(const Fortschritt& /*stand*/) {}
+void Still(const SearchProgress& /*stand*/) {}
 
-constexpr Suchumfang kEineKette{.Versuche = Suchumfang::kKette};
+constexpr SearchBudget kEineKette{.tries = SearchBudget::kChainLength};
 
 /// The starter plan.
 const Planlauf& Startlauf() {
@@ -28,17 +28,17 @@ const Plan& Startplan() {
     return Startlauf().Plan;
 }
 
-Planaufgabe Stelle(const Plan& plan, const Suchwunsch& wunsch) {
-    const auto aufgabe = StelleAufgabe(plan, wunsch);
-    const auto* const absage = std::get_if<Suchabsage>(&aufgabe);
-    EXPECT_EQ(absage, nullptr) << absage->Text;
-    return absage != nullptr ? Planaufgabe() : std::get<Planaufgabe>(aufgabe);
+PlanTask Stelle(const Plan& plan, const SearchRequest& wunsch) {
+    const auto aufgabe = MakePlanTask(plan, wunsch);
+    const auto* const absage = std::get_if<SearchRefusal>(&aufgabe);
+    EXPECT_EQ(absage, nullptr) << absage->text;
+    return absage != nullptr ? PlanTask() : std::get<PlanTask>(aufgabe);
 }
 
 /// As a player finds the plan again: written to a file, loaded and run.
-Planlauf Wiedergefunden(const Plan& plan, const Planaufgabe& aufgabe, const Fund& fund) {
+Planlauf Wiedergefunden(const Plan& plan, const PlanTask& aufgabe, const Solution& fund) {
     Profil profil("");
-    SchreibePlan(MitListe(plan, fund.Orders, aufgabe.Pause), profil);
+    SchreibePlan(WithOrders(plan, fund.orders, aufgabe.pause), profil);
     return {"gefunden", Profil(profil.Bytes())};
 }
 
@@ -69,123 +69,123 @@ std::vector<DateTime> Startzeiten(const Planlauf& lauf) {
 }
 
 /// What any result keeps: the rules, its duration in a file, and never less than the plan.
-void Pruefe(const Plan& plan, const Planaufgabe& aufgabe, const Suchergebnis& ergebnis) {
-    ASSERT_TRUE(ergebnis.Bester);
-    const Fund& fund = *ergebnis.Bester;
-    EXPECT_TRUE(HaeltRegeln(fund.Orders));
-    if (aufgabe.Vorher) {
-        EXPECT_LE(fund.Wertung.Dauer, aufgabe.Vorher->Wertung.Dauer);
+void Pruefe(const Plan& plan, const PlanTask& aufgabe, const SearchResult& ergebnis) {
+    ASSERT_TRUE(ergebnis.best);
+    const Solution& fund = *ergebnis.best;
+    EXPECT_TRUE(HaeltRegeln(fund.orders));
+    if (aufgabe.before) {
+        EXPECT_LE(fund.score.duration, aufgabe.before->score.duration);
     }
     const Planlauf lauf = Wiedergefunden(plan, aufgabe, fund);
     ASSERT_TRUE(lauf.Gelaufen);
-    EXPECT_EQ(lauf.Lauf.state.secsgone.Seconds(), fund.Wertung.Dauer);
+    EXPECT_EQ(lauf.Lauf.state.secsgone.Seconds(), fund.score.duration);
     EXPECT_TRUE(lauf.Meldungen.empty());
-    if (aufgabe.Aufgabe.Was == Suchaufgabe::Art::Reihenfolge) {
-        EXPECT_EQ(Gezaehlt(fund.Orders), Gezaehlt(aufgabe.Aufgabe.Orders));
-        for (std::size_t i = 0; i < fund.Orders.size(); ++i) {
-            EXPECT_TRUE(!aufgabe.Aufgabe.Fest[i] || fund.Orders[i] == aufgabe.Aufgabe.Orders[i]);
+    if (aufgabe.task.kind == SearchTask::Kind::Sequence) {
+        EXPECT_EQ(Gezaehlt(fund.orders), Gezaehlt(aufgabe.task.orders));
+        for (std::size_t i = 0; i < fund.orders.size(); ++i) {
+            EXPECT_TRUE(!aufgabe.task.pinned[i] || fund.orders[i] == aufgabe.task.orders[i]);
         }
         return;
     }
-    const PerItem<Byte> stufen = Endstufen(fund.Orders);
+    const PerItem<Byte> stufen = FinalLevels(fund.orders);
     for (const ItemRow& zeile : ItemTable()) {
-        EXPECT_GE(stufen[zeile.item], aufgabe.Aufgabe.Mindestens[zeile.item]) << zeile.ItemCode;
+        EXPECT_GE(stufen[zeile.item], aufgabe.task.minLevels[zeile.item]) << zeile.ItemCode;
     }
 }
 
 TEST(Suche, FindetDasOptimumKleinerPlaene) {
     for (unsigned saat = 1; saat <= 100; ++saat) {
-        const Suchaufgabe aufgabe = Kleinplan(saat);
+        const SearchTask aufgabe = Kleinplan(saat);
         // The whole search takes the sanitizers half an hour.
         const bool ganz = saat % 50 == 0;
-        const auto ergebnis = Suche(aufgabe, ganz ? Suchumfang() : kEineKette, kWeiter, Still);
-        ASSERT_TRUE(ergebnis.Bester) << saat;
-        EXPECT_EQ(ergebnis.Bester->Wertung.Dauer, BewieseneDauer(aufgabe)) << saat;
+        const auto ergebnis = Search(aufgabe, ganz ? SearchBudget() : kEineKette, kWeiter, Still);
+        ASSERT_TRUE(ergebnis.best) << saat;
+        EXPECT_EQ(ergebnis.best->score.duration, BewieseneDauer(aufgabe)) << saat;
     }
 }
 
 TEST(Suche, HaeltWasSieSagt) {
-    const std::vector<std::pair<const char*, Suchwunsch>> wuensche{
+    const std::vector<std::pair<const char*, SearchRequest>> wuensche{
         {"gedraengt-01", {}},
-        {"gedraengt-05", {.Ziel = "plan"}},
-        {"gedraengt-09", {.Frei = true}},
-        {"regelgerecht-01", {.Fest = {{2, 4}}}},
-        {"regelgerecht-03", {.Ziel = "plan", .Frei = true}},
-        {"regelgerecht-08", {.Ziel = "WKT2 FE2"}},
+        {"gedraengt-05", {.goal = "plan"}},
+        {"gedraengt-09", {.moveProduction = true}},
+        {"regelgerecht-01", {.pinnedRanges = {{2, 4}}}},
+        {"regelgerecht-03", {.goal = "plan", .moveProduction = true}},
+        {"regelgerecht-08", {.goal = "WKT2 FE2"}},
         {"schwere-laser", {}},
     };
     for (const auto& [name, wunsch] : wuensche) {
         SCOPED_TRACE(name);
         const Planlauf lauf(std::filesystem::path(TARVELIN_GOLDEN) / (std::string(name) + ".tvf"));
         ASSERT_TRUE(lauf.Geladen);
-        const Planaufgabe aufgabe = Stelle(lauf.Plan, wunsch);
-        Pruefe(lauf.Plan, aufgabe, Suche(aufgabe, kEineKette, kWeiter, Still));
+        const PlanTask aufgabe = Stelle(lauf.Plan, wunsch);
+        Pruefe(lauf.Plan, aufgabe, Search(aufgabe, kEineKette, kWeiter, Still));
     }
 }
 
 TEST(Suche, GibtMitAllenThreadsDasselbe) {
-    const Planaufgabe aufgabe = Stelle(Startplan(), {.Ziel = "plan"});
-    Suchumfang umfang{.Versuche = 5 * Suchumfang::kKette, .Saat = 7};
-    const auto eines = Suche(aufgabe, umfang, kWeiter, Still);
-    umfang.Threads = 3;
-    EXPECT_EQ(Suche(aufgabe, umfang, kWeiter, Still).Bester->Orders, eines.Bester->Orders);
-    umfang.Saat = 8;
-    EXPECT_NE(Suche(aufgabe, umfang, kWeiter, Still).Bester->Orders, eines.Bester->Orders);
+    const PlanTask aufgabe = Stelle(Startplan(), {.goal = "plan"});
+    SearchBudget umfang{.tries = 5 * SearchBudget::kChainLength, .seed = 7};
+    const auto eines = Search(aufgabe, umfang, kWeiter, Still);
+    umfang.threads = 3;
+    EXPECT_EQ(Search(aufgabe, umfang, kWeiter, Still).best->orders, eines.best->orders);
+    umfang.seed = 8;
+    EXPECT_NE(Search(aufgabe, umfang, kWeiter, Still).best->orders, eines.best->orders);
 }
 
 TEST(Suche, HoertAufUndBehaeltDasBeste) {
     const Plan& plan = Startplan();
-    const Planaufgabe aufgabe = Stelle(plan, {});
+    const PlanTask aufgabe = Stelle(plan, {});
     std::atomic<bool> halt{false};
-    const Suchumfang endlos{.Versuche = std::uint64_t{1} << 50U, .Threads = 2};
-    Fortschritt letzter;
-    const auto ergebnis = Suche(aufgabe, endlos, halt, [&](const Fortschritt& stand) {
+    const SearchBudget endlos{.tries = std::uint64_t{1} << 50U, .threads = 2};
+    SearchProgress letzter;
+    const auto ergebnis = Search(aufgabe, endlos, halt, [&](const SearchProgress& stand) {
         letzter = stand;
-        halt = stand.Gewinn > 0 && stand.Versuche > Suchumfang::kKette;
+        halt = stand.gain > 0 && stand.tries > SearchBudget::kChainLength;
     });
     Pruefe(plan, aufgabe, ergebnis);
-    EXPECT_EQ(letzter.Gewinn, aufgabe.Vorher->Wertung.Dauer - letzter.BesteDauer);
-    EXPECT_LE(ergebnis.Bester->Wertung.Dauer, letzter.BesteDauer);
-    EXPECT_LT(ergebnis.Versuche, letzter.VonVersuchen);
-    EXPECT_EQ(Suche(aufgabe, endlos, halt, Still).Bester->Orders, aufgabe.Aufgabe.Orders);
+    EXPECT_EQ(letzter.gain, aufgabe.before->score.duration - letzter.bestDuration);
+    EXPECT_LE(ergebnis.best->score.duration, letzter.bestDuration);
+    EXPECT_LT(ergebnis.tries, letzter.totalTries);
+    EXPECT_EQ(Search(aufgabe, endlos, halt, Still).best->orders, aufgabe.task.orders);
 }
 
 TEST(Suche, FindetEinenAnfangFuerEinenPlanDerNieEndet) {
     // The research comes behind the end of all deuterium.
     const Plan plan = PlanAus("GS GM GK GD GF GX:10:10:0 FE");
-    const Planaufgabe aufgabe = Stelle(plan, {});
-    EXPECT_FALSE(aufgabe.Vorher);
-    Pruefe(plan, aufgabe, Suche(aufgabe, kEineKette, kWeiter, Still));
+    const PlanTask aufgabe = Stelle(plan, {});
+    EXPECT_FALSE(aufgabe.before);
+    Pruefe(plan, aufgabe, Search(aufgabe, kEineKette, kWeiter, Still));
 }
 
 TEST(Suche, LaesstWasSchonGespieltIst) {
     const Plan& plan = Startplan();
     const auto vorher = Startzeiten(Startlauf());
-    const Suchwunsch wunsch{.Ab = ParseDateTime("03.12.2026 12:00:30")};
-    const Planaufgabe aufgabe = Stelle(plan, wunsch);
-    ASSERT_TRUE(aufgabe.Pause);
-    EXPECT_EQ(aufgabe.Pause->Startzeit + "/" + aufgabe.Pause->Endzeit,
+    const SearchRequest wunsch{.notBefore = ParseDateTime("03.12.2026 12:00:30")};
+    const PlanTask aufgabe = Stelle(plan, wunsch);
+    ASSERT_TRUE(aufgabe.pause);
+    EXPECT_EQ(aufgabe.pause->Startzeit + "/" + aufgabe.pause->Endzeit,
               "03.12.2026 10:30/03.12.2026 12:01");
-    EXPECT_EQ(aufgabe.Aufgabe.Kopf, 31U);
-    const auto ergebnis = Suche(aufgabe, kEineKette, kWeiter, Still);
+    EXPECT_EQ(aufgabe.task.headSize, 31U);
+    const auto ergebnis = Search(aufgabe, kEineKette, kWeiter, Still);
     Pruefe(plan, aufgabe, ergebnis);
-    const auto nachher = Startzeiten(Wiedergefunden(plan, aufgabe, *ergebnis.Bester));
-    const auto kopf = static_cast<std::ptrdiff_t>(aufgabe.Aufgabe.Kopf);
+    const auto nachher = Startzeiten(Wiedergefunden(plan, aufgabe, *ergebnis.best));
+    const auto kopf = static_cast<std::ptrdiff_t>(aufgabe.task.headSize);
     EXPECT_TRUE(std::equal(vorher.begin(), vorher.begin() + kopf, nachher.begin()));
     EXPECT_TRUE(std::all_of(nachher.begin() + kopf, nachher.end(),
-                            [&](const auto& zeit) { return zeit >= *wunsch.Ab; }));
-    EXPECT_LT(ergebnis.Bester->Wertung.Dauer, aufgabe.Vorher->Wertung.Dauer);
+                            [&](const auto& zeit) { return zeit >= *wunsch.notBefore; }));
+    EXPECT_LT(ergebnis.best->score.duration, aufgabe.before->score.duration);
 }
 
 /// Pinned rows of a goal keep their sequence and the orders above them that are no economy.
 TEST(Suche, HaeltFesteZeilenEinesZiels) {
     const Plan plan = PlanAus("GS GM GM GX:10:8:10 GK GD GF FE GX:10:10:10 GR GR GW FV WLJ WLJ");
-    const Planaufgabe aufgabe = Stelle(plan, {.Ziel = "plan", .Fest = {{13, 13}}});
-    const auto ergebnis = Suche(aufgabe, kEineKette, kWeiter, Still);
+    const PlanTask aufgabe = Stelle(plan, {.goal = "plan", .pinnedRanges = {{13, 13}}});
+    const auto ergebnis = Search(aufgabe, kEineKette, kWeiter, Still);
     Pruefe(plan, aufgabe, ergebnis);
     std::string ohneWirtschaft;
-    for (const Order& order : ergebnis.Bester->Orders) {
-        if (order.kind == Order::Kind::Production || !IstWirtschaft(order.item)) {
+    for (const Order& order : ergebnis.best->orders) {
+        if (order.kind == Order::Kind::Production || !IsEconomy(order.item)) {
             ohneWirtschaft += order.Tag() + " ";
         }
     }
@@ -193,13 +193,13 @@ TEST(Suche, HaeltFesteZeilenEinesZiels) {
 }
 
 TEST(Suche, SpartSitzungenInnerhalbDesErlaubten) {
-    const Planaufgabe aufgabe = Stelle(Startplan(), {});
-    Suchumfang umfang{.Versuche = 8 * Suchumfang::kKette};
-    const Wertung schnell = Suche(aufgabe, umfang, kWeiter, Still).Bester->Wertung;
-    umfang.Nachlass = 2;
-    const Wertung ruhig = Suche(aufgabe, umfang, kWeiter, Still).Bester->Wertung;
-    EXPECT_LT(ruhig.Sitzungen, schnell.Sitzungen);
-    EXPECT_LE(ruhig.Dauer, schnell.Dauer * 1.02);
+    const PlanTask aufgabe = Stelle(Startplan(), {});
+    SearchBudget umfang{.tries = 8 * SearchBudget::kChainLength};
+    const Score schnell = Search(aufgabe, umfang, kWeiter, Still).best->score;
+    umfang.slackPercent = 2;
+    const Score ruhig = Search(aufgabe, umfang, kWeiter, Still).best->score;
+    EXPECT_LT(ruhig.sittings, schnell.sittings);
+    EXPECT_LE(ruhig.duration, schnell.duration * 1.02);
 }
 
 TEST(Suche, SagtWarumSieNichtSuchenKann) {
@@ -211,40 +211,40 @@ TEST(Suche, SagtWarumSieNichtSuchenKann) {
     }
     Plan ohneTag = wirtschaft;
     ohneTag.parameters.UniStartZeitTag = "";
-    const std::vector<std::tuple<Plan, Suchwunsch, bool, const char*>> faelle{
-        {wirtschaft, {.Ziel = "plan"}, false, "Der Plan hat kein Ziel außerhalb der Wirtschaft"},
-        {wirtschaft, {.Ziel = " "}, true, "Das Ziel ist leer"},
-        {wirtschaft, {.Ziel = "GW2 XY3"}, true, "\"XY3\" nennt kein Item"},
-        {wirtschaft, {.Ziel = "gw2"}, true, "\"gw2\" nennt kein Item"},
-        {wirtschaft, {.Ziel = "GW0"}, true, "\"GW0\": die Stufe oder Anzahl muss von 1 bis 254"},
-        {wirtschaft, {.Ziel = "GW"}, true, "\"GW\": die Stufe"},
-        {wirtschaft, {.Ziel = "WLJ99999999999999999999"}, true, "die Stufe oder Anzahl"},
-        {wirtschaft, {.Ziel = "WLJ254"}, true, "mehr als 254 Zeilen"},
-        {wirtschaft, {.Fest = {{3, 4}}}, true, "Feste Zeilen gehen von 1 bis 3"},
-        {wirtschaft, {.Fest = {{2, 1}}}, true, "Feste Zeilen gehen von 1 bis 3"},
+    const std::vector<std::tuple<Plan, SearchRequest, bool, const char*>> faelle{
+        {wirtschaft, {.goal = "plan"}, false, "Der Plan hat kein Ziel außerhalb der Wirtschaft"},
+        {wirtschaft, {.goal = " "}, true, "Das Ziel ist leer"},
+        {wirtschaft, {.goal = "GW2 XY3"}, true, "\"XY3\" nennt kein Item"},
+        {wirtschaft, {.goal = "gw2"}, true, "\"gw2\" nennt kein Item"},
+        {wirtschaft, {.goal = "GW0"}, true, "\"GW0\": die Stufe oder Anzahl muss von 1 bis 254"},
+        {wirtschaft, {.goal = "GW"}, true, "\"GW\": die Stufe"},
+        {wirtschaft, {.goal = "WLJ99999999999999999999"}, true, "die Stufe oder Anzahl"},
+        {wirtschaft, {.goal = "WLJ254"}, true, "mehr als 254 Zeilen"},
+        {wirtschaft, {.pinnedRanges = {{3, 4}}}, true, "Feste Zeilen gehen von 1 bis 3"},
+        {wirtschaft, {.pinnedRanges = {{2, 1}}}, true, "Feste Zeilen gehen von 1 bis 3"},
         {gebrochen, {}, false, "Zeile 2 (GW) hält die Regeln der Bauliste nicht:"},
         {wirtschaft,
-         {.Ab = ParseDateTime("18.11.2016 12:30:00")},
+         {.notBefore = ParseDateTime("18.11.2016 12:30:00")},
          false,
          "Alle Aufträge beginnen vor dem 18.11.2016 12:30:00"},
         {ohneTag, {}, false, ""},
         {PlanAus(""), {}, false, ""},
     };
     for (const auto& [plan, wunsch, falsch, text] : faelle) {
-        const auto aufgabe = StelleAufgabe(plan, wunsch);
-        const auto* const absage = std::get_if<Suchabsage>(&aufgabe);
+        const auto aufgabe = MakePlanTask(plan, wunsch);
+        const auto* const absage = std::get_if<SearchRefusal>(&aufgabe);
         ASSERT_NE(absage, nullptr) << text;
-        EXPECT_EQ(absage->FalscherAufruf, falsch) << absage->Text;
-        EXPECT_NE(absage->Text.find(text), std::string::npos) << absage->Text;
-        EXPECT_NE(absage->Text, "");
+        EXPECT_EQ(absage->wrongCall, falsch) << absage->text;
+        EXPECT_NE(absage->text.find(text), std::string::npos) << absage->text;
+        EXPECT_NE(absage->text, "");
     }
 }
 
 TEST(Suche, ErreichtEinZielAusDemNichts) {
     Plan plan = PlanAus("");
-    const Planaufgabe aufgabe = Stelle(plan, {.Ziel = "WLL1 GF2 WSS1"});
-    EXPECT_FALSE(aufgabe.Vorher);
-    Pruefe(plan, aufgabe, Suche(aufgabe, kEineKette, kWeiter, Still));
+    const PlanTask aufgabe = Stelle(plan, {.goal = "WLL1 GF2 WSS1"});
+    EXPECT_FALSE(aufgabe.before);
+    Pruefe(plan, aufgabe, Search(aufgabe, kEineKette, kWeiter, Still));
 }
 
 }  // namespace

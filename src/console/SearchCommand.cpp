@@ -68,16 +68,16 @@ std::variant<Zeilenbereiche, std::string> LiesZeilen(std::string_view text) {
 }
 
 /// The wish, or what is wrong with the call.
-std::variant<Suchwunsch, std::string> LiesWunsch(const Suchbefehl& befehl) {
-    Suchwunsch wunsch{.Ziel = befehl.Ziel, .Frei = befehl.Frei};
+std::variant<SearchRequest, std::string> LiesWunsch(const Suchbefehl& befehl) {
+    SearchRequest wunsch{.goal = befehl.Ziel, .moveProduction = befehl.Frei};
     const auto zeilen = LiesZeilen(befehl.Fest);
     if (const auto* const fehler = std::get_if<std::string>(&zeilen)) {
         return *fehler;
     }
-    wunsch.Fest = std::get<Zeilenbereiche>(zeilen);
+    wunsch.pinnedRanges = std::get<Zeilenbereiche>(zeilen);
     if (befehl.Ab) {
-        wunsch.Ab = ParseDateTime(*befehl.Ab);
-        if (!wunsch.Ab) {
+        wunsch.notBefore = ParseDateTime(*befehl.Ab);
+        if (!wunsch.notBefore) {
             return "--ab erwartet einen Zeitpunkt wie \"18.11.2026 12:30:00\"";
         }
     }
@@ -88,13 +88,13 @@ std::filesystem::path AlsPfad(const std::string& datei) {
     return std::u8string(datei.begin(), datei.end());
 }
 
-Suchergebnis SucheMitAnzeige(const Planaufgabe& aufgabe, const Suchbefehl& befehl,
+SearchResult SucheMitAnzeige(const PlanTask& aufgabe, const Suchbefehl& befehl,
                              const std::atomic<bool>& halt) {
-    Suchumfang umfang{.Saat = befehl.Saat, .Threads = befehl.Threads};
-    umfang.Versuche = befehl.Versuche == 0 ? umfang.Versuche : befehl.Versuche;
-    umfang.Nachlass = befehl.Sitzungen.value_or(0);
+    SearchBudget umfang{.seed = befehl.Saat, .threads = befehl.Threads};
+    umfang.tries = befehl.Versuche == 0 ? umfang.tries : befehl.Versuche;
+    umfang.slackPercent = befehl.Sitzungen.value_or(0);
     const bool anzeigen = FehlerstromIstTerminal();
-    Suchergebnis ergebnis = Suche(aufgabe, umfang, halt, [&](const Fortschritt& stand) {
+    SearchResult ergebnis = Search(aufgabe, umfang, halt, [&](const SearchProgress& stand) {
         if (anzeigen) {
             std::cerr << '\r' << Fortschrittszeile(stand) << "   " << std::flush;
         }
@@ -121,16 +121,16 @@ int FuehreSucheAus(const Suchbefehl& befehl, const std::atomic<bool>& halt) {
     if (plan.Lauf.state.IsAtEndOfClock()) {
         std::cerr << befehl.Plandatei << ": " << BeyondClockText() << '\n';
     }
-    const auto aufgabe = StelleAufgabe(plan.Plan, std::get<Suchwunsch>(wunsch));
-    if (const auto* const absage = std::get_if<Suchabsage>(&aufgabe)) {
-        return Sage(absage->Text, absage->FalscherAufruf ? kFalscherAufruf : kPlanGescheitert);
+    const auto aufgabe = MakePlanTask(plan.Plan, std::get<SearchRequest>(wunsch));
+    if (const auto* const absage = std::get_if<SearchRefusal>(&aufgabe)) {
+        return Sage(absage->text, absage->wrongCall ? kFalscherAufruf : kPlanGescheitert);
     }
-    const auto& gestellt = std::get<Planaufgabe>(aufgabe);
-    const Suchergebnis ergebnis = SucheMitAnzeige(gestellt, befehl, halt);
-    if (!ergebnis.Bester) {
+    const auto& gestellt = std::get<PlanTask>(aufgabe);
+    const SearchResult ergebnis = SucheMitAnzeige(gestellt, befehl, halt);
+    if (!ergebnis.best) {
         return Sage("Es wurde keine Liste gefunden, die endet", kPlanGescheitert);
     }
-    const Plan neuer = MitListe(plan.Plan, ergebnis.Bester->Orders, gestellt.Pause);
+    const Plan neuer = WithOrders(plan.Plan, ergebnis.best->orders, gestellt.pause);
     Profil profil("");
     SchreibePlan(neuer, profil);
     const Planlauf lauf(befehl.Nach ? AlsPfad(*befehl.Nach).filename().string() : plan.Name,

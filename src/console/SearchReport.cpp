@@ -20,22 +20,22 @@ std::string Dauer(Long sekunden) {
     return FormatDuration(sekunden, "s", "dd(0)hh:mm:ss", "d");
 }
 
-json AlsJson(const Fund& fund, const GameState& stand) {
+json AlsJson(const Solution& fund, const GameState& stand) {
     json raten = json::array();
     for (const FixedPoint rate : stand.ProStunde) {
         raten.push_back(rate.WholePart());
     }
-    return {{"Sekunden", fund.Wertung.Dauer},
-            {"Dauer", Dauer(fund.Wertung.Dauer)},
-            {"Zeilen", fund.Orders.size()},
-            {"Sitzungen", fund.Wertung.Sitzungen},
+    return {{"Sekunden", fund.score.duration},
+            {"Dauer", Dauer(fund.score.duration)},
+            {"Zeilen", fund.orders.size()},
+            {"Sitzungen", fund.score.sittings},
             {"ProStunde", raten}};
 }
 
-std::string Fundtext(const Fund& fund) {
-    return Dauer(fund.Wertung.Dauer) + "   " +
-           Anzahltext(static_cast<std::size_t>(fund.Wertung.Sitzungen), "Sitzung", "Sitzungen") +
-           "   " + Anzahltext(fund.Orders.size(), "Zeile", "Zeilen");
+std::string Fundtext(const Solution& fund) {
+    return Dauer(fund.score.duration) + "   " +
+           CountText(static_cast<std::size_t>(fund.score.sittings), "Sitzung", "Sitzungen") +
+           "   " + CountText(fund.orders.size(), "Zeile", "Zeilen");
 }
 
 /// A list for fewer sittings may take longer.
@@ -56,64 +56,64 @@ std::string Prozent(Long gewinn, Long von) {
 }  // namespace
 
 void SchreibeSuche(std::ostream& strom, const Suchbericht& bericht) {
-    const Fund& nachher = *bericht.Ergebnis.Bester;
-    const auto& vorher = bericht.Aufgabe.Vorher;
+    const Solution& nachher = *bericht.Ergebnis.best;
+    const auto& vorher = bericht.Aufgabe.before;
     SchreibeZeile(strom, "Vorher",
                   vorher ? Fundtext(*vorher) : "der Plan endet nie oder verfehlt das Ziel");
     SchreibeZeile(strom, "Nachher", Fundtext(nachher));
     if (vorher) {
-        const Long gewinn = vorher->Wertung.Dauer - nachher.Wertung.Dauer;
+        const Long gewinn = vorher->score.duration - nachher.score.duration;
         SchreibeZeile(strom, "Gewinn",
-                      Gewinntext(gewinn) + " (" + Prozent(gewinn, vorher->Wertung.Dauer) + ")");
+                      Gewinntext(gewinn) + " (" + Prozent(gewinn, vorher->score.duration) + ")");
     }
     const OrderList& alte = bericht.Plan.Plan.LV_Bauliste.Orders();
     const OrderList& neue = bericht.Neuer.Plan.LV_Bauliste.Orders();
-    for (const auto& [name, text] : {std::pair("Kommt dazu", UeberschussInWorten(neue, alte)),
-                                     std::pair("Entfällt", UeberschussInWorten(alte, neue))}) {
+    for (const auto& [name, text] : {std::pair("Kommt dazu", SurplusInWords(neue, alte)),
+                                     std::pair("Entfällt", SurplusInWords(alte, neue))}) {
         if (!text.empty()) {
             SchreibeZeile(strom, name, text);
         }
     }
     if (bericht.Plan.Gelaufen) {
-        SchreibeZeile(strom, "Je Stunde", ProStundeText(bericht.Plan.Lauf.state) + " (vorher)");
+        SchreibeZeile(strom, "Je Stunde", RatesText(bericht.Plan.Lauf.state) + " (vorher)");
     }
-    SchreibeZeile(strom, "Je Stunde", ProStundeText(bericht.Neuer.Lauf.state) + " (nachher)");
-    if (const auto& pause = bericht.Aufgabe.Pause) {
+    SchreibeZeile(strom, "Je Stunde", RatesText(bericht.Neuer.Lauf.state) + " (nachher)");
+    if (const auto& pause = bericht.Aufgabe.pause) {
         SchreibeZeile(strom, "Pause", pause->Startzeit + " bis " + pause->Endzeit);
     }
     SchreibeZeile(
         strom, "Versuche",
-        std::to_string(bericht.Ergebnis.Versuche) + "   Saat: " + std::to_string(bericht.Saat));
+        std::to_string(bericht.Ergebnis.tries) + "   Saat: " + std::to_string(bericht.Saat));
     strom << '\n';
     SchreibeText(strom, bericht.Neuer);
 }
 
 std::string SuchJson(const Suchbericht& bericht) {
-    const auto& vorher = bericht.Aufgabe.Vorher;
+    const auto& vorher = bericht.Aufgabe.before;
     json tags = json::array();
-    for (const Order& order : bericht.Ergebnis.Bester->Orders) {
+    for (const Order& order : bericht.Ergebnis.best->orders) {
         tags.push_back(order.Tag());
     }
     const OrderList& alte = bericht.Plan.Plan.LV_Bauliste.Orders();
     const OrderList& neue = bericht.Neuer.Plan.LV_Bauliste.Orders();
     json objekt{{"Vorher", vorher ? AlsJson(*vorher, bericht.Plan.Lauf.state) : json()},
-                {"Nachher", AlsJson(*bericht.Ergebnis.Bester, bericht.Neuer.Lauf.state)},
-                {"Versuche", bericht.Ergebnis.Versuche},
+                {"Nachher", AlsJson(*bericht.Ergebnis.best, bericht.Neuer.Lauf.state)},
+                {"Versuche", bericht.Ergebnis.tries},
                 {"Saat", bericht.Saat},
-                {"Hinzu", Ueberschuss(neue, alte)},
-                {"Weg", Ueberschuss(alte, neue)},
+                {"Hinzu", SurplusText(neue, alte)},
+                {"Weg", SurplusText(alte, neue)},
                 {"Bauliste", tags}};
-    if (const auto& pause = bericht.Aufgabe.Pause) {
+    if (const auto& pause = bericht.Aufgabe.pause) {
         objekt["Pause"] = {pause->Startzeit, pause->Endzeit};
     }
     return objekt.dump(1);
 }
 
-std::string Fortschrittszeile(const Fortschritt& stand) {
-    return Dauer(stand.BesteDauer) + "  Gewinn " + Gewinntext(stand.Gewinn) + "  Versuch " +
-           std::to_string(stand.Versuche) + " von " + std::to_string(stand.VonVersuchen) +
-           "  Kette " + std::to_string(stand.Kette) + "  " + WholeText(stand.VersucheJeSekunde) +
-           "/s  besser vor " + WholeText(stand.SeitBestem) + " s";
+std::string Fortschrittszeile(const SearchProgress& stand) {
+    return Dauer(stand.bestDuration) + "  Gewinn " + Gewinntext(stand.gain) + "  Versuch " +
+           std::to_string(stand.tries) + " von " + std::to_string(stand.totalTries) + "  Kette " +
+           std::to_string(stand.chain) + "  " + WholeText(stand.triesPerSecond) +
+           "/s  besser vor " + WholeText(stand.secondsSinceBest) + " s";
 }
 
 }  // namespace tarvelin

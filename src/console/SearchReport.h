@@ -14,8 +14,8 @@ namespace tarvelin {
 struct Suchbericht {
     /// The plan as it was loaded.
     const Planlauf& Plan;
-    const Planaufgabe& Aufgabe;
-    const Suchergebnis& Ergebnis;
+    const PlanTask& Aufgabe;
+    const SearchResult& Ergebnis;
     /// The new plan, loaded and run as a file would be.
     const Planlauf& Neuer;
     std::uint64_t Saat;
@@ -28,6 +28,6 @@ void SchreibeSuche(std::ostream& strom, const Suchbericht& bericht);
 [[nodiscard]] std::string SuchJson(const Suchbericht& bericht);
 
 /// "1.234.000 von 2.000.000 ...": where a search stands, in one line without an end.
-[[nodiscard]] std::string Fortschrittszeile(const Fortschritt& stand);
+[[nodiscard]] std::string Fortschrittszeile(const SearchProgress& stand);
 
 }  // namespace tarvelin

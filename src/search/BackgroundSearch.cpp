@@ -5,13 +5,9 @@
 
 namespace tarvelin {
 
-Hintergrundsuche::Hintergrundsuche(Planaufgabe aufgabe, const Suchumfang& umfang,
-                                   Empfaenger empfaenger)
-    : m_aufgabe(std::move(aufgabe)),
-      m_umfang(umfang),
-      m_empfaenger(std::move(empfaenger)),
-      m_thread([this] {
-          m_empfaenger.Fertig(Suche(m_aufgabe, m_umfang, m_halt, m_empfaenger.Stand));
+BackgroundSearch::BackgroundSearch(PlanTask task, const SearchBudget& budget, Listener listener)
+    : m_task(std::move(task)), m_budget(budget), m_listener(std::move(listener)), m_thread([this] {
+          m_listener.onDone(Search(m_task, m_budget, m_stop, m_listener.onProgress));
       }) {}
 
 }  // namespace tarvelin

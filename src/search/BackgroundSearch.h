@@ -11,27 +11,27 @@ namespace tarvelin {
 
 /// Begins with its construction; its end stops the search and waits the few milliseconds that this
 /// takes.
-class Hintergrundsuche {
+class BackgroundSearch {
   public:
     /// Both are called from another thread than the caller's.
-    struct Empfaenger {
-        std::function<void(const Fortschritt&)> Stand;
-        std::function<void(const Suchergebnis&)> Fertig;
+    struct Listener {
+        std::function<void(const SearchProgress&)> onProgress;
+        std::function<void(const SearchResult&)> onDone;
     };
 
-    Hintergrundsuche(Planaufgabe aufgabe, const Suchumfang& umfang, Empfaenger empfaenger);
-    Hintergrundsuche(const Hintergrundsuche&) = delete;
-    Hintergrundsuche& operator=(const Hintergrundsuche&) = delete;
-    ~Hintergrundsuche() { Halte(); }
+    BackgroundSearch(PlanTask task, const SearchBudget& budget, Listener listener);
+    BackgroundSearch(const BackgroundSearch&) = delete;
+    BackgroundSearch& operator=(const BackgroundSearch&) = delete;
+    ~BackgroundSearch() { Stop(); }
 
     /// Ends the search with the best so far.
-    void Halte() { m_halt = true; }
+    void Stop() { m_stop = true; }
 
   private:
-    std::atomic<bool> m_halt{false};
-    Planaufgabe m_aufgabe;
-    Suchumfang m_umfang;
-    Empfaenger m_empfaenger;
+    std::atomic<bool> m_stop{false};
+    PlanTask m_task;
+    SearchBudget m_budget;
+    Listener m_listener;
     /// The last member: it ends before the others go.
     std::jthread m_thread;
 };

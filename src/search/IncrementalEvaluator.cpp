@@ -8,69 +8,69 @@
 namespace tarvelin {
 
 /// Looks at each start: whether it may be, and what it adds to the sittings.
-class Probelauf::Waechter final : public RunObserver {
+class IncrementalEvaluator::StartGuard final : public RunObserver {
   public:
-    Waechter(const Suchaufgabe& aufgabe, const Sitzungsstand& sitzungen)
-        : Sitzungen(sitzungen), m_aufgabe(aufgabe) {}
+    StartGuard(const SearchTask& task, const SittingState& counter)
+        : sittings(counter), m_task(task) {}
 
-    void OnStart(const StartEvent& ereignis) override {
-        Starts = ereignis.row + 1;
-        const bool zuFrueh = ereignis.row >= m_aufgabe.Kopf && ereignis.start < m_aufgabe.Ab;
-        Verfehlt = Verfehlt || ereignis.gateClosed || zuFrueh;
-        Sitzungen.Gezaehlt.Add(ereignis.start);
-        if (ereignis.delay.cause == DelayCause::Sleep) {
-            Sitzungen.Wach = ereignis.sleepFreeStart;
+    void OnStart(const StartEvent& event) override {
+        starts = event.row + 1;
+        const bool tooEarly = event.row >= m_task.headSize && event.start < m_task.notBefore;
+        missed = missed || event.gateClosed || tooEarly;
+        sittings.counted.Add(event.start);
+        if (event.delay.cause == DelayCause::Sleep) {
+            sittings.sleepFreeStart = event.sleepFreeStart;
         }
     }
-    void OnNegativeStock(const GameState& /*stand*/) override { Verfehlt = true; }
+    void OnNegativeStock(const GameState& /*stand*/) override { missed = true; }
 
-    Sitzungsstand Sitzungen;
+    SittingState sittings;
     /// Orders that have started.
-    std::size_t Starts = 0;
+    std::size_t starts = 0;
     /// An order has started that shouldn't have.
-    bool Verfehlt = false;
+    bool missed = false;
 
   private:
-    const Suchaufgabe& m_aufgabe;
+    const SearchTask& m_task;
 };
 
-Probelauf::Probelauf(const Suchaufgabe& aufgabe)
-    : m_aufgabe(&aufgabe),
-      m_halte(OrderList::kMaxSize + 1, {Halt{Simulation({}, aufgabe.Bedingungen), {}},
-                                        Halt{Simulation({}, aufgabe.Bedingungen), {}}}),
-      m_gueltig(OrderList::kMaxSize + 1) {}
+IncrementalEvaluator::IncrementalEvaluator(const SearchTask& task)
+    : m_task(&task),
+      m_checkpoints(OrderList::kMaxSize + 1, {Checkpoint{Simulation({}, task.conditions), {}},
+                                              Checkpoint{Simulation({}, task.conditions), {}}}),
+      m_valid(OrderList::kMaxSize + 1) {}
 
-std::optional<Wertung> Probelauf::Spiele(std::span<const Order> orders, std::size_t gleich,
-                                         Long grenze) {
-    m_gleich = gleich;
-    m_gestartet = gleich;
-    const Halt& halt = m_halte[gleich][m_gueltig[gleich]];
-    Simulation lauf = halt.Lauf;
-    lauf.ReplaceOrders(orders);
-    Waechter waechter(*m_aufgabe, halt.Sitzungen);
-    while (!lauf.IsFinished()) {
-        lauf.Step(waechter);
-        if (waechter.Verfehlt || lauf.State().secsgone.Seconds() > grenze) {
+std::optional<Score> IncrementalEvaluator::Evaluate(std::span<const Order> orders, std::size_t same,
+                                                    Long limit) {
+    m_samePrefix = same;
+    m_started = same;
+    const Checkpoint& checkpoint = m_checkpoints[same][m_valid[same]];
+    Simulation simulation = checkpoint.simulation;
+    simulation.ReplaceOrders(orders);
+    StartGuard guard(*m_task, checkpoint.sittings);
+    while (!simulation.IsFinished()) {
+        simulation.Step(guard);
+        if (guard.missed || simulation.State().secsgone.Seconds() > limit) {
             return std::nullopt;
         }
-        if (waechter.Starts > m_gestartet) {
-            m_gestartet = waechter.Starts;
-            Halt& neuer = m_halte[m_gestartet][1 - m_gueltig[m_gestartet]];
-            neuer.Lauf = lauf;
-            neuer.Sitzungen = waechter.Sitzungen;
+        if (guard.starts > m_started) {
+            m_started = guard.starts;
+            Checkpoint& fresh = m_checkpoints[m_started][1 - m_valid[m_started]];
+            fresh.simulation = simulation;
+            fresh.sittings = guard.sittings;
         }
     }
-    if (lauf.State().secsgone == SimTime(std::numeric_limits<Long>::max())) {
+    if (simulation.State().secsgone == SimTime(std::numeric_limits<Long>::max())) {
         return std::nullopt;
     }
-    return Wertung{.Dauer = lauf.State().secsgone.Seconds(),
-                   .Sitzungen = waechter.Sitzungen.Gezaehlt.count,
-                   .Wach = waechter.Sitzungen.Wach};
+    return Score{.duration = simulation.State().secsgone.Seconds(),
+                 .sittings = guard.sittings.counted.count,
+                 .sleepFreeStart = guard.sittings.sleepFreeStart};
 }
 
-void Probelauf::Uebernimm() {
-    for (std::size_t zeile = m_gleich + 1; zeile <= m_gestartet; ++zeile) {
-        m_gueltig[zeile] ^= 1U;
+void IncrementalEvaluator::Accept() {
+    for (std::size_t row = m_samePrefix + 1; row <= m_started; ++row) {
+        m_valid[row] ^= 1U;
     }
 }
 

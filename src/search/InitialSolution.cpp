@@ -14,121 +14,120 @@ namespace tarvelin {
 
 namespace {
 
-constexpr Long kOhneGrenze = std::numeric_limits<Long>::max();
+constexpr Long kNoLimit = std::numeric_limits<Long>::max();
 
 /// Which orders come first, before the soonest.
-enum class Vorzug : std::uint8_t {
-    Keiner,
+enum class Preference : std::uint8_t {
+    None,
     /// Those that cost deuterium: a production row may shut its mine later on.
     Deuterium,
 };
 
-bool KostetDeuterium(const Order& order) {
+bool CostsDeuterium(const Order& order) {
     return order.kind == Order::Kind::Item && RowOf(order.item).baseCost[Resource::Deuterium] > 0;
 }
 
-/// The place of the order in `uebrige` that ends the list soonest if it comes next.
-std::optional<std::size_t> Naechster(Probelauf& probe, std::vector<Order>& liste,
-                                     const std::vector<Order>& uebrige, const PerItem<Byte>& stufen,
-                                     Vorzug vorzug) {
-    std::optional<std::size_t> bester;
-    std::pair<bool, Long> wert{true, kOhneGrenze};
-    PerItem<bool> gefragt{};
-    for (std::size_t i = 0; i < uebrige.size(); ++i) {
-        const Order& order = uebrige[i];
+/// The place of the order in `remaining` that ends the list soonest if it comes next.
+std::optional<std::size_t> NextOrder(IncrementalEvaluator& evaluator, std::vector<Order>& list,
+                                     const std::vector<Order>& remaining,
+                                     const PerItem<Byte>& levels, Preference preference) {
+    std::optional<std::size_t> best;
+    std::pair<bool, Long> value{true, kNoLimit};
+    PerItem<bool> asked{};
+    for (std::size_t i = 0; i < remaining.size(); ++i) {
+        const Order& order = remaining[i];
         const bool item = order.kind == Order::Kind::Item;
-        if (item && (gefragt[order.item] || !IsAllowed(order.item, stufen))) {
+        if (item && (asked[order.item] || !IsAllowed(order.item, levels))) {
             continue;
         }
-        gefragt[order.item] = gefragt[order.item] || item;
-        liste.push_back(order);
-        const auto wertung = probe.Spiele(liste, liste.size() - 1, kOhneGrenze);
-        liste.pop_back();
-        const bool hinten = vorzug == Vorzug::Deuterium && !KostetDeuterium(order);
-        if (wertung && std::pair(hinten, wertung->Dauer) < wert) {
-            wert = {hinten, wertung->Dauer};
-            bester = i;
+        asked[order.item] = asked[order.item] || item;
+        list.push_back(order);
+        const auto score = evaluator.Evaluate(list, list.size() - 1, kNoLimit);
+        list.pop_back();
+        const bool back = preference == Preference::Deuterium && !CostsDeuterium(order);
+        if (score && std::pair(back, score->duration) < value) {
+            value = {back, score->duration};
+            best = i;
         }
     }
-    return bester;
+    return best;
 }
 
-std::optional<std::vector<Order>> GierigeListe(const Suchaufgabe& aufgabe, Vorzug vorzug) {
-    const std::vector<Order>& vorlage = aufgabe.Orders;
-    const auto fest = [&](std::size_t i) { return i < aufgabe.Kopf || aufgabe.Fest[i]; };
-    std::vector<Order> uebrige;
-    for (std::size_t i = 0; i < vorlage.size(); ++i) {
-        if (!fest(i)) {
-            uebrige.push_back(vorlage[i]);
+std::optional<std::vector<Order>> GreedyList(const SearchTask& task, Preference preference) {
+    const std::vector<Order>& pattern = task.orders;
+    const auto pinned = [&](std::size_t i) { return i < task.headSize || task.pinned[i]; };
+    std::vector<Order> remaining;
+    for (std::size_t i = 0; i < pattern.size(); ++i) {
+        if (!pinned(i)) {
+            remaining.push_back(pattern[i]);
         }
     }
-    Probelauf probe(aufgabe);
-    std::vector<Order> liste;
-    PerItem<Byte> stufen{};
-    while (liste.size() < vorlage.size()) {
-        const std::size_t zeile = liste.size();
-        if (fest(zeile)) {
-            liste.push_back(vorlage[zeile]);
+    IncrementalEvaluator evaluator(task);
+    std::vector<Order> list;
+    PerItem<Byte> levels{};
+    while (list.size() < pattern.size()) {
+        const std::size_t row = list.size();
+        if (pinned(row)) {
+            list.push_back(pattern[row]);
         } else {
-            const auto naechster = Naechster(probe, liste, uebrige, stufen, vorzug);
-            if (!naechster) {
+            const auto next = NextOrder(evaluator, list, remaining, levels, preference);
+            if (!next) {
                 return std::nullopt;
             }
-            liste.push_back(uebrige[*naechster]);
-            uebrige.erase(uebrige.begin() + static_cast<std::ptrdiff_t>(*naechster));
+            list.push_back(remaining[*next]);
+            remaining.erase(remaining.begin() + static_cast<std::ptrdiff_t>(*next));
         }
-        const Order& order = liste.back();
+        const Order& order = list.back();
         if (order.kind == Order::Kind::Item) {
-            if (!IsAllowed(order.item, stufen)) {
+            if (!IsAllowed(order.item, levels)) {
                 return std::nullopt;
             }
-            ++stufen[order.item];
+            ++levels[order.item];
         }
-        if (!probe.Spiele(liste, zeile, kOhneGrenze)) {
+        if (!evaluator.Evaluate(list, row, kNoLimit)) {
             return std::nullopt;
         }
-        probe.Uebernimm();
+        evaluator.Accept();
     }
-    return liste;
+    return list;
 }
 
 /// Moves that let no fewer orders start, until all do.
-std::optional<std::vector<Order>> ReparierteListe(const Suchaufgabe& aufgabe,
-                                                  const std::atomic<bool>& halt) {
-    constexpr int kVersuche = 40'000;
-    Zufall zufall(1);
-    Zuege zuege(aufgabe, aufgabe.Orders, aufgabe.Fest);
-    Probelauf probe(aufgabe);
-    bool endet = probe.Spiele(zuege.Liste(), 0, kOhneGrenze).has_value();
-    probe.Uebernimm();
-    std::size_t gestartet = probe.Gestartet();
-    for (int i = 0; i < kVersuche && !endet && !halt; ++i) {
-        const auto von = zuege.Ziehe(zufall);
+std::optional<std::vector<Order>> RepairedList(const SearchTask& task,
+                                               const std::atomic<bool>& stop) {
+    constexpr int kTries = 40'000;
+    Random random(1);
+    Neighborhood neighborhood(task, task.orders, task.pinned);
+    IncrementalEvaluator evaluator(task);
+    bool ends = evaluator.Evaluate(neighborhood.Current(), 0, kNoLimit).has_value();
+    evaluator.Accept();
+    std::size_t started = evaluator.StartedCount();
+    for (int i = 0; i < kTries && !ends && !stop; ++i) {
+        const auto from = neighborhood.Propose(random);
         // What comes behind the order that fails isn't played.
-        if (!von || *von >= gestartet) {
+        if (!from || *from >= started) {
             continue;
         }
-        endet = probe.Spiele(zuege.Nachbar(), *von, kOhneGrenze).has_value();
-        if (endet || probe.Gestartet() >= gestartet) {
-            gestartet = probe.Gestartet();
-            zuege.Uebernimm();
-            probe.Uebernimm();
+        ends = evaluator.Evaluate(neighborhood.Neighbor(), *from, kNoLimit).has_value();
+        if (ends || evaluator.StartedCount() >= started) {
+            started = evaluator.StartedCount();
+            neighborhood.Accept();
+            evaluator.Accept();
         }
     }
-    return endet ? std::optional(zuege.Liste()) : std::nullopt;
+    return ends ? std::optional(neighborhood.Current()) : std::nullopt;
 }
 
 }  // namespace
 
-std::optional<std::vector<Order>> EndendeListe(const Suchaufgabe& aufgabe,
-                                               const std::atomic<bool>& halt) {
-    for (const Vorzug vorzug : {Vorzug::Keiner, Vorzug::Deuterium}) {
-        if (auto liste = GierigeListe(aufgabe, vorzug)) {
-            return liste;
+std::optional<std::vector<Order>> FindInitialSolution(const SearchTask& task,
+                                                      const std::atomic<bool>& stop) {
+    for (const Preference preference : {Preference::None, Preference::Deuterium}) {
+        if (auto list = GreedyList(task, preference)) {
+            return list;
         }
     }
-    return aufgabe.Was == Suchaufgabe::Art::Reihenfolge ? ReparierteListe(aufgabe, halt)
-                                                        : std::nullopt;
+    return task.kind == SearchTask::Kind::Sequence ? RepairedList(task, stop) : std::nullopt;
 }
 
 }  // namespace tarvelin

@@ -12,8 +12,8 @@ namespace tarvelin {
 /// A list of exactly the task's orders by the rules that ends: put together row by row, each time
 /// by the order that lets it end soonest; if that gets stuck, by moves that let more and more of
 /// the task's list start. Head and pinned rows stay where they are. Nothing if none is found, or
-/// `halt` was set.
-[[nodiscard]] std::optional<std::vector<Order>> EndendeListe(const Suchaufgabe& aufgabe,
-                                                             const std::atomic<bool>& halt);
+/// `stop` was set.
+[[nodiscard]] std::optional<std::vector<Order>> FindInitialSolution(const SearchTask& task,
+                                                                    const std::atomic<bool>& stop);
 
 }  // namespace tarvelin

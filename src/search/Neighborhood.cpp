@@ -12,201 +12,206 @@ namespace tarvelin {
 
 namespace {
 
-constexpr std::array kWirtschaft{ItemId::MetMine, ItemId::KrisMine, ItemId::DeutMine,
-                                 ItemId::SKW,     ItemId::Solsats,  ItemId::Robo,
-                                 ItemId::Werft,   ItemId::Folab};
+constexpr std::array kEconomy{ItemId::MetMine, ItemId::KrisMine, ItemId::DeutMine, ItemId::SKW,
+                              ItemId::Solsats, ItemId::Robo,     ItemId::Werft,    ItemId::Folab};
 
 /// How far a move goes: half of them at most eight rows, the others anywhere.
-std::size_t Weite(Zufall& zufall, std::size_t hoechste) {
-    constexpr std::size_t kNah = 8;
-    return 1 + zufall.Bis(zufall.Eins(2) ? std::min(kNah, hoechste) : hoechste);
+std::size_t Reach(Random& random, std::size_t highest) {
+    constexpr std::size_t kNear = 8;
+    return 1 + random.Below(random.OneIn(2) ? std::min(kNear, highest) : highest);
 }
 
-bool GleichOhneWirtschaft(const PerItem<Byte>& a, const PerItem<Byte>& b) {
-    return std::ranges::all_of(ItemTable(), [&](const ItemRow& zeile) {
-        return IstWirtschaft(zeile.item) || a[zeile.item] == b[zeile.item];
+bool SameWithoutEconomy(const PerItem<Byte>& a, const PerItem<Byte>& b) {
+    return std::ranges::all_of(ItemTable(), [&](const ItemRow& row) {
+        return IsEconomy(row.item) || a[row.item] == b[row.item];
     });
 }
 
 }  // namespace
 
-Zuege::Zuege(const Suchaufgabe& aufgabe, std::vector<Order> orders, std::vector<bool> fest)
-    : m_aufgabe(&aufgabe), m_orders(std::move(orders)), m_fest(std::move(fest)) {
-    m_nachbar = m_orders;
-    m_nachbarFest = m_fest;
-    MerkeAb(0);
-    for (std::size_t i = 0; i < m_fest.size(); ++i) {
-        if (m_fest[i]) {
-            m_vorFesten.push_back(m_vorher[i]);
+Neighborhood::Neighborhood(const SearchTask& task, std::vector<Order> orders,
+                           std::vector<bool> pinned)
+    : m_task(&task), m_orders(std::move(orders)), m_pinned(std::move(pinned)) {
+    m_neighbor = m_orders;
+    m_neighborPinned = m_pinned;
+    RecountFrom(0);
+    for (std::size_t i = 0; i < m_pinned.size(); ++i) {
+        if (m_pinned[i]) {
+            m_beforePinned.push_back(m_before[i]);
         }
     }
 }
 
 /// Counters and free rows from a row on.
-void Zuege::MerkeAb(std::size_t zeile) {
-    m_vorher.resize(m_orders.size() + 1);
-    for (std::size_t i = zeile; i < m_orders.size(); ++i) {
-        m_vorher[i + 1] = m_vorher[i];
+void Neighborhood::RecountFrom(std::size_t row) {
+    m_before.resize(m_orders.size() + 1);
+    for (std::size_t i = row; i < m_orders.size(); ++i) {
+        m_before[i + 1] = m_before[i];
         if (m_orders[i].kind == Order::Kind::Item) {
-            ++m_vorher[i + 1][m_orders[i].item];
+            ++m_before[i + 1][m_orders[i].item];
         }
     }
-    m_frei.clear();
-    for (std::size_t i = m_aufgabe->Kopf; i < m_orders.size(); ++i) {
-        if (!m_fest[i]) {
-            m_frei.push_back(i);
+    m_free.clear();
+    for (std::size_t i = m_task->headSize; i < m_orders.size(); ++i) {
+        if (!m_pinned[i]) {
+            m_free.push_back(i);
         }
     }
 }
 
-std::optional<std::size_t> Zuege::Ziehe(Zufall& zufall) {
+std::optional<std::size_t> Neighborhood::Propose(Random& random) {
     // Takes the last move back, if it wasn't taken over.
-    if (m_nachbar.size() == m_orders.size()) {
-        std::copy(m_orders.begin() + static_cast<std::ptrdiff_t>(m_von),
-                  m_orders.begin() + static_cast<std::ptrdiff_t>(m_bis),
-                  m_nachbar.begin() + static_cast<std::ptrdiff_t>(m_von));
+    if (m_neighbor.size() == m_orders.size()) {
+        std::copy(m_orders.begin() + static_cast<std::ptrdiff_t>(m_from),
+                  m_orders.begin() + static_cast<std::ptrdiff_t>(m_until),
+                  m_neighbor.begin() + static_cast<std::ptrdiff_t>(m_from));
     } else {
-        m_nachbar = m_orders;
+        m_neighbor = m_orders;
     }
-    m_nachbarFest = m_fest;
-    m_von = m_bis = 0;
-    constexpr std::size_t kHundert = 100;
-    constexpr std::size_t kOrdnen = 60;
-    constexpr std::size_t kFuegen = 75;
-    constexpr std::size_t kStreichen = 90;
-    const std::size_t was =
-        m_aufgabe->Was == Suchaufgabe::Art::Reihenfolge ? 0 : zufall.Bis(kHundert);
-    const bool gezogen = was < kOrdnen      ? Ordne(zufall)
-                         : was < kFuegen    ? Fuege(zufall)
-                         : was < kStreichen ? Streiche(zufall)
-                                            : Tausche(zufall);
-    return gezogen && HaeltRegeln() ? std::optional(m_von) : std::nullopt;
+    m_neighborPinned = m_pinned;
+    m_from = m_until = 0;
+    constexpr std::size_t kHundred = 100;
+    constexpr std::size_t kReposition = 60;
+    constexpr std::size_t kInsert = 75;
+    constexpr std::size_t kRemove = 90;
+    const std::size_t what =
+        m_task->kind == SearchTask::Kind::Sequence ? 0 : random.Below(kHundred);
+    const bool proposed = what < kReposition ? Reposition(random)
+                          : what < kInsert   ? InsertEconomy(random)
+                          : what < kRemove   ? RemoveEconomy(random)
+                                             : ReplaceEconomy(random);
+    return proposed && KeepsRules() ? std::optional(m_from) : std::nullopt;
 }
 
 /// Moves one order, or a block of two to five, or lets two change places.
-bool Zuege::Ordne(Zufall& zufall) {
+bool Neighborhood::Reposition(Random& random) {
     constexpr std::size_t kBlock = 5;
-    const std::size_t n = m_frei.size();
+    const std::size_t n = m_free.size();
     if (n < 2) {
         return false;
     }
-    const std::size_t art = zufall.Bis(4);
+    const std::size_t kind = random.Below(4);
     const std::size_t block =
-        art == 3 ? 2 + zufall.Bis(std::min(kBlock, n - 1) > 2 ? std::min(kBlock, n - 1) - 1 : 1)
-                 : 1;
+        kind == 3 ? 2 + random.Below(std::min(kBlock, n - 1) > 2 ? std::min(kBlock, n - 1) - 1 : 1)
+                  : 1;
     if (block >= n) {
         return false;
     }
-    const std::size_t weite = Weite(zufall, n - block);
-    const std::size_t von = zufall.Bis(n - block - weite + 1);
-    if (art == 2) {
-        Vertausche(von, von + weite);
-    } else if (zufall.Eins(2)) {
-        Rotiere(von, von + block, von + block + weite);
+    const std::size_t extent = Reach(random, n - block);
+    const std::size_t from = random.Below(n - block - extent + 1);
+    if (kind == 2) {
+        SwapRows(from, from + extent);
+    } else if (random.OneIn(2)) {
+        Rotate(from, from + block, from + block + extent);
     } else {
-        Rotiere(von, von + weite, von + block + weite);
+        Rotate(from, from + extent, from + block + extent);
     }
     // Equal orders that change places change nothing.
-    while (m_von < m_bis && m_nachbar[m_von] == m_orders[m_von]) {
-        ++m_von;
+    while (m_from < m_until && m_neighbor[m_from] == m_orders[m_from]) {
+        ++m_from;
     }
-    while (m_von < m_bis && m_nachbar[m_bis - 1] == m_orders[m_bis - 1]) {
-        --m_bis;
+    while (m_from < m_until && m_neighbor[m_until - 1] == m_orders[m_until - 1]) {
+        --m_until;
     }
-    return m_von < m_bis;
+    return m_from < m_until;
 }
 
-/// Of the free rows from `von` to before `bis`: those from `mitte` on come first.
-void Zuege::Rotiere(std::size_t von, std::size_t mitte, std::size_t bis) {
-    m_von = m_frei[von];
-    m_bis = m_frei[bis - 1] + 1;
-    for (std::size_t i = von; i < bis; ++i) {
-        const std::size_t quelle = i + (mitte - von) < bis ? i + (mitte - von) : i - (bis - mitte);
-        m_nachbar[m_frei[i]] = m_orders[m_frei[quelle]];
+/// Of the free rows from `from` to before `until`: those from `middle` on come first.
+void Neighborhood::Rotate(std::size_t from, std::size_t middle, std::size_t until) {
+    m_from = m_free[from];
+    m_until = m_free[until - 1] + 1;
+    for (std::size_t i = from; i < until; ++i) {
+        const std::size_t source =
+            i + (middle - from) < until ? i + (middle - from) : i - (until - middle);
+        m_neighbor[m_free[i]] = m_orders[m_free[source]];
     }
 }
 
-void Zuege::Vertausche(std::size_t a, std::size_t b) {
-    m_von = m_frei[a];
-    m_bis = m_frei[b] + 1;
-    std::swap(m_nachbar[m_frei[a]], m_nachbar[m_frei[b]]);
+void Neighborhood::SwapRows(std::size_t a, std::size_t b) {
+    m_from = m_free[a];
+    m_until = m_free[b] + 1;
+    std::swap(m_neighbor[m_free[a]], m_neighbor[m_free[b]]);
 }
 
 /// Another mine, plant, satellite, factory, shipyard or lab.
-bool Zuege::Fuege(Zufall& zufall) {
+bool Neighborhood::InsertEconomy(Random& random) {
     if (m_orders.size() >= OrderList::kMaxSize) {
         return false;
     }
-    const std::size_t platz = m_aufgabe->Kopf + zufall.Bis(m_orders.size() - m_aufgabe->Kopf + 1);
-    const auto stelle = static_cast<std::ptrdiff_t>(platz);
-    m_nachbar.insert(m_nachbar.begin() + stelle,
-                     Order::Of(kWirtschaft[zufall.Bis(kWirtschaft.size())]));
-    m_nachbarFest.insert(m_nachbarFest.begin() + stelle, false);
-    m_von = platz;
-    m_bis = m_nachbar.size();
+    const std::size_t slot =
+        m_task->headSize + random.Below(m_orders.size() - m_task->headSize + 1);
+    const auto position = static_cast<std::ptrdiff_t>(slot);
+    m_neighbor.insert(m_neighbor.begin() + position,
+                      Order::Of(kEconomy[random.Below(kEconomy.size())]));
+    m_neighborPinned.insert(m_neighborPinned.begin() + position, false);
+    m_from = slot;
+    m_until = m_neighbor.size();
     return true;
 }
 
 /// One of them less, where the goal doesn't ask for it.
-bool Zuege::Streiche(Zufall& zufall) {
-    if (m_frei.empty()) {
+bool Neighborhood::RemoveEconomy(Random& random) {
+    if (m_free.empty()) {
         return false;
     }
-    const std::size_t platz = m_frei[zufall.Bis(m_frei.size())];
-    const Order& order = m_orders[platz];
-    if (order.kind != Order::Kind::Item || !IstWirtschaft(order.item) ||
-        m_vorher.back()[order.item] <= m_aufgabe->Mindestens[order.item]) {
+    const std::size_t slot = m_free[random.Below(m_free.size())];
+    const Order& order = m_orders[slot];
+    if (order.kind != Order::Kind::Item || !IsEconomy(order.item) ||
+        m_before.back()[order.item] <= m_task->minLevels[order.item]) {
         return false;
     }
-    const auto stelle = static_cast<std::ptrdiff_t>(platz);
-    m_nachbar.erase(m_nachbar.begin() + stelle);
-    m_nachbarFest.erase(m_nachbarFest.begin() + stelle);
-    m_von = platz;
-    m_bis = m_nachbar.size();
+    const auto position = static_cast<std::ptrdiff_t>(slot);
+    m_neighbor.erase(m_neighbor.begin() + position);
+    m_neighborPinned.erase(m_neighborPinned.begin() + position);
+    m_from = slot;
+    m_until = m_neighbor.size();
     return true;
 }
 
 /// One less here, another one there.
-bool Zuege::Tausche(Zufall& zufall) {
-    if (!Streiche(zufall)) {
+bool Neighborhood::ReplaceEconomy(Random& random) {
+    if (!RemoveEconomy(random)) {
         return false;
     }
-    const std::size_t platz = m_aufgabe->Kopf + zufall.Bis(m_nachbar.size() - m_aufgabe->Kopf + 1);
-    const auto stelle = static_cast<std::ptrdiff_t>(platz);
-    m_nachbar.insert(m_nachbar.begin() + stelle,
-                     Order::Of(kWirtschaft[zufall.Bis(kWirtschaft.size())]));
-    m_nachbarFest.insert(m_nachbarFest.begin() + stelle, false);
-    m_von = std::min(m_von, platz);
-    m_bis = m_nachbar.size();
+    const std::size_t slot =
+        m_task->headSize + random.Below(m_neighbor.size() - m_task->headSize + 1);
+    const auto position = static_cast<std::ptrdiff_t>(slot);
+    m_neighbor.insert(m_neighbor.begin() + position,
+                      Order::Of(kEconomy[random.Below(kEconomy.size())]));
+    m_neighborPinned.insert(m_neighborPinned.begin() + position, false);
+    m_from = std::min(m_from, slot);
+    m_until = m_neighbor.size();
     return true;
 }
 
 /// Rows that the move left alone need no look, unless something was struck above them.
-bool Zuege::HaeltRegeln() const {
-    PerItem<Byte> stufen = m_vorher[m_von];
-    auto fester = static_cast<std::size_t>(std::count(
-        m_nachbarFest.begin(), m_nachbarFest.begin() + static_cast<std::ptrdiff_t>(m_von), true));
-    const bool ziel = m_aufgabe->Was == Suchaufgabe::Art::Ziel;
-    for (std::size_t i = m_von; i < m_bis; ++i) {
-        const Order& order = m_nachbar[i];
-        if (ziel && m_nachbarFest[i] && !GleichOhneWirtschaft(stufen, m_vorFesten[fester++])) {
+bool Neighborhood::KeepsRules() const {
+    PerItem<Byte> levels = m_before[m_from];
+    auto pinnedCount = static_cast<std::size_t>(
+        std::count(m_neighborPinned.begin(),
+                   m_neighborPinned.begin() + static_cast<std::ptrdiff_t>(m_from), true));
+    const bool goal = m_task->kind == SearchTask::Kind::Goal;
+    for (std::size_t i = m_from; i < m_until; ++i) {
+        const Order& order = m_neighbor[i];
+        if (goal && m_neighborPinned[i] &&
+            !SameWithoutEconomy(levels, m_beforePinned[pinnedCount++])) {
             return false;
         }
         if (order.kind == Order::Kind::Item) {
-            if (!IsAllowed(order.item, stufen)) {
+            if (!IsAllowed(order.item, levels)) {
                 return false;
             }
-            ++stufen[order.item];
+            ++levels[order.item];
         }
     }
     return true;
 }
 
-void Zuege::Uebernimm() {
-    m_orders = m_nachbar;
-    m_fest = m_nachbarFest;
-    MerkeAb(m_von);
-    m_von = m_bis = 0;
+void Neighborhood::Accept() {
+    m_orders = m_neighbor;
+    m_pinned = m_neighborPinned;
+    RecountFrom(m_from);
+    m_from = m_until = 0;
 }
 
 }  // namespace tarvelin

@@ -12,47 +12,47 @@
 namespace tarvelin {
 
 /// The present list, and one move at a time away from it.
-class Zuege {
+class Neighborhood {
   public:
     /// The task must outlive it. The list is by the rules.
-    Zuege(const Suchaufgabe& aufgabe, std::vector<Order> orders, std::vector<bool> fest);
+    Neighborhood(const SearchTask& task, std::vector<Order> orders, std::vector<bool> pinned);
 
     /// Makes a move. The first row that differs from the present list; nothing if the move came to
     /// nothing or breaks a rule.
-    [[nodiscard]] std::optional<std::size_t> Ziehe(Zufall& zufall);
+    [[nodiscard]] std::optional<std::size_t> Propose(Random& random);
 
     /// The list after the last move.
-    [[nodiscard]] std::span<const Order> Nachbar() const { return m_nachbar; }
-    [[nodiscard]] const std::vector<Order>& Liste() const { return m_orders; }
-    [[nodiscard]] const std::vector<bool>& Fest() const { return m_fest; }
+    [[nodiscard]] std::span<const Order> Neighbor() const { return m_neighbor; }
+    [[nodiscard]] const std::vector<Order>& Current() const { return m_orders; }
+    [[nodiscard]] const std::vector<bool>& Pinned() const { return m_pinned; }
 
     /// The list after the last move is the present one from now on.
-    void Uebernimm();
+    void Accept();
 
   private:
-    [[nodiscard]] bool Ordne(Zufall& zufall);
-    [[nodiscard]] bool Fuege(Zufall& zufall);
-    [[nodiscard]] bool Streiche(Zufall& zufall);
-    [[nodiscard]] bool Tausche(Zufall& zufall);
-    void Rotiere(std::size_t von, std::size_t mitte, std::size_t bis);
-    void Vertausche(std::size_t a, std::size_t b);
-    [[nodiscard]] bool HaeltRegeln() const;
-    void MerkeAb(std::size_t zeile);
+    [[nodiscard]] bool Reposition(Random& random);
+    [[nodiscard]] bool InsertEconomy(Random& random);
+    [[nodiscard]] bool RemoveEconomy(Random& random);
+    [[nodiscard]] bool ReplaceEconomy(Random& random);
+    void Rotate(std::size_t from, std::size_t middle, std::size_t until);
+    void SwapRows(std::size_t a, std::size_t b);
+    [[nodiscard]] bool KeepsRules() const;
+    void RecountFrom(std::size_t row);
 
-    const Suchaufgabe* m_aufgabe;
+    const SearchTask* m_task;
     std::vector<Order> m_orders;
-    std::vector<bool> m_fest;
-    std::vector<Order> m_nachbar;
-    std::vector<bool> m_nachbarFest;
+    std::vector<bool> m_pinned;
+    std::vector<Order> m_neighbor;
+    std::vector<bool> m_neighborPinned;
     /// The rows that may move.
-    std::vector<std::size_t> m_frei;
+    std::vector<std::size_t> m_free;
     /// The counters above each row, and behind the last.
-    std::vector<PerItem<Byte>> m_vorher;
+    std::vector<PerItem<Byte>> m_before;
     /// What stood above each pinned row at the beginning.
-    std::vector<PerItem<Byte>> m_vorFesten;
+    std::vector<PerItem<Byte>> m_beforePinned;
     /// From the first row that the last move changed to behind the last.
-    std::size_t m_von = 0;
-    std::size_t m_bis = 0;
+    std::size_t m_from = 0;
+    std::size_t m_until = 0;
 };
 
 }  // namespace tarvelin

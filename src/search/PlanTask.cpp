@@ -13,112 +13,112 @@ namespace tarvelin {
 
 namespace {
 
-using Stufen = PerItem<Byte>;
+using Levels = PerItem<Byte>;
 
-Suchabsage Falsch(std::string text) {
-    return {.Text = std::move(text), .FalscherAufruf = true};
+SearchRefusal Wrong(std::string text) {
+    return {.text = std::move(text), .wrongCall = true};
 }
 
 /// One word of a goal, "GW2".
-std::variant<std::pair<ItemId, Byte>, Suchabsage> LiesZielwort(std::string_view wort) {
-    const auto ziffer = std::min(wort.find_first_of("0123456789"), wort.size());
-    const auto item = ItemFromCode(wort.substr(0, ziffer));
+std::variant<std::pair<ItemId, Byte>, SearchRefusal> ParseGoalWord(std::string_view word) {
+    const auto digit = std::min(word.find_first_of("0123456789"), word.size());
+    const auto item = ItemFromCode(word.substr(0, digit));
     if (!item) {
-        return Falsch("\"" + std::string(wort) +
-                      "\" nennt kein Item: erwartet wird etwa GW2 oder WKT1");
+        return Wrong("\"" + std::string(word) +
+                     "\" nennt kein Item: erwartet wird etwa GW2 oder WKT1");
     }
-    const auto hoechste = item == ItemId::klSchK ? 1 : std::int64_t{OrderList::kMaxSize};
-    const auto stufe = ParseWholeNumber(wort.substr(ziffer), 1, hoechste);
-    if (!stufe) {
-        return Falsch("\"" + std::string(wort) + "\": die Stufe oder Anzahl muss von 1 bis " +
-                      std::to_string(hoechste) + " gehen");
+    const auto highest = item == ItemId::klSchK ? 1 : std::int64_t{OrderList::kMaxSize};
+    const auto level = ParseWholeNumber(word.substr(digit), 1, highest);
+    if (!level) {
+        return Wrong("\"" + std::string(word) + "\": die Stufe oder Anzahl muss von 1 bis " +
+                     std::to_string(highest) + " gehen");
     }
-    return std::pair(*item, static_cast<Byte>(*stufe));
+    return std::pair(*item, static_cast<Byte>(*level));
 }
 
-std::variant<Stufen, Suchabsage> LiesZiel(std::string_view text) {
-    Stufen ziel{};
-    bool leer = true;
+std::variant<Levels, SearchRefusal> ParseGoal(std::string_view text) {
+    Levels goal{};
+    bool empty = true;
     while (!text.empty()) {
-        const auto ende = std::min(text.find(' '), text.size());
-        const auto wort = text.substr(0, ende);
-        text.remove_prefix(std::min(ende + 1, text.size()));
-        if (wort.empty()) {
+        const auto end = std::min(text.find(' '), text.size());
+        const auto word = text.substr(0, end);
+        text.remove_prefix(std::min(end + 1, text.size()));
+        if (word.empty()) {
             continue;
         }
-        const auto gelesen = LiesZielwort(wort);
-        if (const auto* const absage = std::get_if<Suchabsage>(&gelesen)) {
-            return *absage;
+        const auto parsed = ParseGoalWord(word);
+        if (const auto* const refusal = std::get_if<SearchRefusal>(&parsed)) {
+            return *refusal;
         }
-        const auto& [item, stufe] = std::get<0>(gelesen);
-        ziel[item] = std::max(ziel[item], stufe);
-        leer = false;
+        const auto& [item, level] = std::get<0>(parsed);
+        goal[item] = std::max(goal[item], level);
+        empty = false;
     }
-    if (leer) {
-        return Falsch("Das Ziel ist leer: erwartet wird etwa \"GW2 FV2 WKT1\" oder plan");
+    if (empty) {
+        return Wrong("Das Ziel ist leer: erwartet wird etwa \"GW2 FV2 WKT1\" oder plan");
     }
-    return ziel;
+    return goal;
 }
 
 /// The plan's own research, units and defences.
-std::variant<Stufen, Suchabsage> ZielDesPlans(const Plan& plan) {
-    Stufen ziel = plan.LV_Bauliste.Orders().ListStufe();
-    for (const ItemRow& zeile : ItemTable()) {
-        if (IstWirtschaft(zeile.item)) {
-            ziel[zeile.item] = 0;
+std::variant<Levels, SearchRefusal> GoalOfPlan(const Plan& plan) {
+    Levels goal = plan.LV_Bauliste.Orders().ListStufe();
+    for (const ItemRow& row : ItemTable()) {
+        if (IsEconomy(row.item)) {
+            goal[row.item] = 0;
         }
     }
-    if (ziel == Stufen{}) {
-        return Suchabsage{
-            .Text =
+    if (goal == Levels{}) {
+        return SearchRefusal{
+            .text =
                 "Der Plan hat kein Ziel außerhalb der Wirtschaft: weder Forschung noch Schiffe "
                 "oder Verteidigung"};
     }
-    return ziel;
+    return goal;
 }
 
 /// The first row that the rules of the list refuse.
-std::optional<Suchabsage> PruefeRegeln(const Plan& plan) {
-    OrderList liste;
+std::optional<SearchRefusal> CheckRules(const Plan& plan) {
+    OrderList list;
     for (const Order& order : plan.LV_Bauliste.Orders().All()) {
         if (order.kind == Order::Kind::Item) {
-            if (const auto absage = Refusal(order.item, liste)) {
-                return Suchabsage{
-                    .Text = "Zeile " + std::to_string(liste.Size() + 1) + " (" + order.Tag() +
-                            ") hält die Regeln der Bauliste nicht:" + std::string(*absage)};
+            if (const auto refusal = Refusal(order.item, list)) {
+                return SearchRefusal{
+                    .text = "Zeile " + std::to_string(list.Size() + 1) + " (" + order.Tag() +
+                            ") hält die Regeln der Bauliste nicht:" + std::string(*refusal)};
             }
         }
-        liste.Append(order);
+        list.Append(order);
     }
     return std::nullopt;
 }
 
-std::optional<Suchabsage> SetzeFeste(const Plan& plan, const Suchwunsch& wunsch,
-                                     std::vector<bool>& fest) {
+std::optional<SearchRefusal> SetPinned(const Plan& plan, const SearchRequest& request,
+                                       std::vector<bool>& pinned) {
     const auto orders = plan.LV_Bauliste.Orders().All();
     for (const Order& order : orders) {
-        fest.push_back(!wunsch.Frei && order.kind == Order::Kind::Production);
+        pinned.push_back(!request.moveProduction && order.kind == Order::Kind::Production);
     }
-    for (const auto& [erste, letzte] : wunsch.Fest) {
-        if (erste < 1 || erste > letzte || letzte > orders.size()) {
-            return Falsch("Feste Zeilen gehen von 1 bis " + std::to_string(orders.size()) +
-                          ", so lang ist die Bauliste");
+    for (const auto& [first, last] : request.pinnedRanges) {
+        if (first < 1 || first > last || last > orders.size()) {
+            return Wrong("Feste Zeilen gehen von 1 bis " + std::to_string(orders.size()) +
+                         ", so lang ist die Bauliste");
         }
-        std::fill(fest.begin() + static_cast<std::ptrdiff_t>(erste) - 1,
-                  fest.begin() + static_cast<std::ptrdiff_t>(letzte), true);
+        std::fill(pinned.begin() + static_cast<std::ptrdiff_t>(first) - 1,
+                  pinned.begin() + static_cast<std::ptrdiff_t>(last), true);
     }
     return std::nullopt;
 }
 
 /// The moments of all starts.
-class Startzeiten final : public RunObserver {
+class StartTimes final : public RunObserver {
   public:
-    static std::vector<SimTime> Von(const Plan& plan, const RunConditions& bedingungen) {
-        Startzeiten zeiten;
-        Simulation(plan.LV_Bauliste.Orders().All(), bedingungen).RunToEnd(zeiten);
-        return zeiten.m_starts;
+    static std::vector<SimTime> Of(const Plan& plan, const RunConditions& conditions) {
+        StartTimes times;
+        Simulation(plan.LV_Bauliste.Orders().All(), conditions).RunToEnd(times);
+        return times.m_starts;
     }
-    void OnStart(const StartEvent& ereignis) override { m_starts.push_back(ereignis.start); }
+    void OnStart(const StartEvent& event) override { m_starts.push_back(event.start); }
 
   private:
     std::vector<SimTime> m_starts;
@@ -126,166 +126,163 @@ class Startzeiten final : public RunObserver {
 
 constexpr std::int64_t kMinute = 60;
 
-std::string AufDieMinute(DateTime zeit) {
-    return DateText(zeit) + " " + TimeOfDayText(zeit).substr(0, 5);
+std::string ToTheMinute(DateTime time) {
+    return DateText(time) + " " + TimeOfDayText(time).substr(0, 5);
 }
 
 /// What is played already, and the pause behind it.
-std::optional<Suchabsage> SetzeKopf(const Plan& plan, DateTime ab, Planaufgabe& aufgabe) {
-    RunConditions& bedingungen = aufgabe.Aufgabe.Bedingungen;
-    const auto starts = Startzeiten::Von(plan, bedingungen);
-    const DateTime anfang = bedingungen.StartDate;
-    const auto kopf = static_cast<std::size_t>(
-        std::ranges::find_if(starts,
-                             [&](SimTime start) { return bedingungen.WallClock(start) >= ab; }) -
+std::optional<SearchRefusal> SetHead(const Plan& plan, DateTime notBefore, PlanTask& task) {
+    RunConditions& conditions = task.task.conditions;
+    const auto starts = StartTimes::Of(plan, conditions);
+    const DateTime initial = conditions.StartDate;
+    const auto header = static_cast<std::size_t>(
+        std::ranges::find_if(
+            starts, [&](SimTime start) { return conditions.WallClock(start) >= notBefore; }) -
         starts.begin());
-    aufgabe.Aufgabe.Kopf = kopf;
-    aufgabe.Aufgabe.Ab = SimTime(std::max(Long{0}, ab - anfang));
-    if (kopf == starts.size()) {
-        return Suchabsage{.Text = "Alle Aufträge beginnen vor dem " + DateTimeText(ab) +
-                                  ": es bleibt nichts umzustellen"};
+    task.task.headSize = header;
+    task.task.notBefore = SimTime(std::max(Long{0}, notBefore - initial));
+    if (header == starts.size()) {
+        return SearchRefusal{.text = "Alle Aufträge beginnen vor dem " + DateTimeText(notBefore) +
+                                     ": es bleibt nichts umzustellen"};
     }
-    if (kopf == 0) {
+    if (header == 0) {
         return std::nullopt;
     }
-    const DateTime letzter = bedingungen.WallClock(starts[kopf - 1]);
-    const DateTime von(letzter.Seconds() / kMinute * kMinute + kMinute);
-    const DateTime bis((ab.Seconds() + kMinute - 1) / kMinute * kMinute);
-    if (von >= bis) {
+    const DateTime last = conditions.WallClock(starts[header - 1]);
+    const DateTime from(last.Seconds() / kMinute * kMinute + kMinute);
+    const DateTime until((notBefore.Seconds() + kMinute - 1) / kMinute * kMinute);
+    if (from >= until) {
         return std::nullopt;
     }
-    aufgabe.Pause = {.Startzeit = AufDieMinute(von), .Endzeit = AufDieMinute(bis)};
-    bedingungen.Schlafzeiten.insert(bedingungen.Schlafzeiten.begin(), {von, bis});
-    const auto mitPause = Startzeiten::Von(plan, bedingungen);
-    if (!std::equal(starts.begin(), starts.begin() + static_cast<std::ptrdiff_t>(kopf),
-                    mitPause.begin())) {
-        return Suchabsage{.Text = "Mit der Pause vor dem " + DateTimeText(ab) +
-                                  " begännen schon gespielte Aufträge zu anderer Zeit"};
+    task.pause = {.Startzeit = ToTheMinute(from), .Endzeit = ToTheMinute(until)};
+    conditions.Schlafzeiten.insert(conditions.Schlafzeiten.begin(), {from, until});
+    const auto withPause = StartTimes::Of(plan, conditions);
+    if (!std::equal(starts.begin(), starts.begin() + static_cast<std::ptrdiff_t>(header),
+                    withPause.begin())) {
+        return SearchRefusal{.text = "Mit der Pause vor dem " + DateTimeText(notBefore) +
+                                     " begännen schon gespielte Aufträge zu anderer Zeit"};
     }
     return std::nullopt;
 }
 
 /// Without what the goal doesn't ask for, and with what it misses at the end.
-void RichteAufZiel(Suchaufgabe& aufgabe) {
-    Stufen stufen{};
+void AimAtGoal(SearchTask& task) {
+    Levels levels{};
     std::vector<Order> orders;
-    std::vector<bool> fest;
-    const auto nimm = [&](const Order& order, bool istFest) {
+    std::vector<bool> pinned;
+    const auto take = [&](const Order& order, bool isPinned) {
         orders.push_back(order);
-        fest.push_back(istFest);
+        pinned.push_back(isPinned);
         if (order.kind == Order::Kind::Item) {
-            ++stufen[order.item];
+            ++levels[order.item];
         }
     };
-    for (std::size_t i = 0; i < aufgabe.Orders.size(); ++i) {
-        const Order& order = aufgabe.Orders[i];
-        const bool ueberzaehlig = order.kind == Order::Kind::Item && !IstWirtschaft(order.item) &&
-                                  stufen[order.item] >= aufgabe.Mindestens[order.item];
-        if (!ueberzaehlig || i < aufgabe.Kopf || aufgabe.Fest[i]) {
-            nimm(order, aufgabe.Fest[i]);
+    for (std::size_t i = 0; i < task.orders.size(); ++i) {
+        const Order& order = task.orders[i];
+        const bool surplus = order.kind == Order::Kind::Item && !IsEconomy(order.item) &&
+                             levels[order.item] >= task.minLevels[order.item];
+        if (!surplus || i < task.headSize || task.pinned[i]) {
+            take(order, task.pinned[i]);
         }
     }
-    for (bool mehr = true; mehr;) {
-        mehr = false;
-        for (const ItemRow& zeile : ItemTable()) {
-            while (stufen[zeile.item] < aufgabe.Mindestens[zeile.item] &&
-                   IsAllowed(zeile.item, stufen)) {
-                nimm(Order::Of(zeile.item), false);
-                mehr = true;
+    for (bool more = true; more;) {
+        more = false;
+        for (const ItemRow& row : ItemTable()) {
+            while (levels[row.item] < task.minLevels[row.item] && IsAllowed(row.item, levels)) {
+                take(Order::Of(row.item), false);
+                more = true;
             }
         }
     }
-    aufgabe.Orders = std::move(orders);
-    aufgabe.Fest = std::move(fest);
+    task.orders = std::move(orders);
+    task.pinned = std::move(pinned);
 }
 
-bool Erreicht(const OrderList& liste, const Stufen& ziel) {
-    return std::ranges::equal(liste.ListStufe(), ziel, std::ranges::greater_equal());
+bool Reached(const OrderList& list, const Levels& goal) {
+    return std::ranges::equal(list.ListStufe(), goal, std::ranges::greater_equal());
 }
 
 /// Conditions for an empty list too.
-std::variant<RunConditions, Message> BedingungenVon(Plan plan) {
+std::variant<RunConditions, Message> ConditionsOf(Plan plan) {
     if (plan.LV_Bauliste.Orders().IsEmpty()) {
         static_cast<void>(plan.LV_Bauliste.AddItem(ItemId::MetMine, RunConditions()));
     }
     return ParseRunConditions(plan);
 }
 
-std::optional<Suchabsage> SetzeZiel(const Plan& plan, const std::string& text,
-                                    Planaufgabe& aufgabe) {
-    const auto ziel = text == "plan" ? ZielDesPlans(plan) : LiesZiel(text);
-    if (const auto* const absage = std::get_if<Suchabsage>(&ziel)) {
-        return *absage;
+std::optional<SearchRefusal> SetGoal(const Plan& plan, const std::string& text, PlanTask& task) {
+    const auto goal = text == "plan" ? GoalOfPlan(plan) : ParseGoal(text);
+    if (const auto* const refusal = std::get_if<SearchRefusal>(&goal)) {
+        return *refusal;
     }
-    Suchaufgabe& suche = aufgabe.Aufgabe;
-    suche.Was = Suchaufgabe::Art::Ziel;
-    suche.Mindestens = MitVoraussetzungen(std::get<Stufen>(ziel));
-    RichteAufZiel(suche);
-    if (!Erreicht(plan.LV_Bauliste.Orders(), suche.Mindestens)) {
-        aufgabe.Vorher.reset();
+    SearchTask& search = task.task;
+    search.kind = SearchTask::Kind::Goal;
+    search.minLevels = WithPrerequisites(std::get<Levels>(goal));
+    AimAtGoal(search);
+    if (!Reached(plan.LV_Bauliste.Orders(), search.minLevels)) {
+        task.before.reset();
     }
-    if (suche.Orders.size() > OrderList::kMaxSize) {
-        return Falsch("Das Ziel braucht mit seinen Voraussetzungen mehr als 254 Zeilen");
+    if (search.orders.size() > OrderList::kMaxSize) {
+        return Wrong("Das Ziel braucht mit seinen Voraussetzungen mehr als 254 Zeilen");
     }
     return std::nullopt;
 }
 
 }  // namespace
 
-std::variant<Planaufgabe, Suchabsage> StelleAufgabe(const Plan& plan, const Suchwunsch& wunsch) {
-    const bool benannt = wunsch.Ziel && *wunsch.Ziel != "plan";
-    const auto bedingungen = benannt ? BedingungenVon(plan) : ParseRunConditions(plan);
-    if (const auto* const meldung = std::get_if<Message>(&bedingungen)) {
-        return Suchabsage{.Text = meldung->text};
+std::variant<PlanTask, SearchRefusal> MakePlanTask(const Plan& plan, const SearchRequest& request) {
+    const bool named = request.goal && *request.goal != "plan";
+    const auto conditions = named ? ConditionsOf(plan) : ParseRunConditions(plan);
+    if (const auto* const message = std::get_if<Message>(&conditions)) {
+        return SearchRefusal{.text = message->text};
     }
-    Planaufgabe aufgabe;
-    aufgabe.Aufgabe.Bedingungen = std::get<RunConditions>(bedingungen);
+    PlanTask task;
+    task.task.conditions = std::get<RunConditions>(conditions);
     const auto orders = plan.LV_Bauliste.Orders().All();
-    aufgabe.Aufgabe.Orders.assign(orders.begin(), orders.end());
-    std::optional<Suchabsage> absage = PruefeRegeln(plan);
-    if (!absage) {
-        absage = SetzeFeste(plan, wunsch, aufgabe.Aufgabe.Fest);
+    task.task.orders.assign(orders.begin(), orders.end());
+    std::optional<SearchRefusal> refusal = CheckRules(plan);
+    if (!refusal) {
+        refusal = SetPinned(plan, request, task.task.pinned);
     }
-    if (!absage && wunsch.Ab && !orders.empty()) {
-        absage = SetzeKopf(plan, *wunsch.Ab, aufgabe);
+    if (!refusal && request.notBefore && !orders.empty()) {
+        refusal = SetHead(plan, *request.notBefore, task);
     }
-    if (!absage && !orders.empty()) {
-        aufgabe.Vorher = Bewerte(aufgabe.Aufgabe, aufgabe.Aufgabe.Orders);
+    if (!refusal && !orders.empty()) {
+        task.before = Evaluate(task.task, task.task.orders);
     }
-    if (!absage && wunsch.Ziel) {
-        absage = SetzeZiel(plan, *wunsch.Ziel, aufgabe);
+    if (!refusal && request.goal) {
+        refusal = SetGoal(plan, *request.goal, task);
     }
-    if (absage) {
-        return *absage;
+    if (refusal) {
+        return *refusal;
     }
-    return aufgabe;
+    return task;
 }
 
-Suchergebnis Suche(const Planaufgabe& aufgabe, const Suchumfang& umfang,
-                   const std::atomic<bool>& halt,
-                   const std::function<void(const Fortschritt&)>& melde) {
-    Suchergebnis ergebnis = Suche(aufgabe.Aufgabe, umfang, halt, melde);
-    constexpr double kHundert = 100;
-    const double erlaubt = 1 + umfang.Nachlass / kHundert;
-    if (aufgabe.Vorher && (!ergebnis.Bester || ergebnis.Bester->Wertung.Dauer >
-                                                   erlaubt * aufgabe.Vorher->Wertung.Dauer)) {
-        ergebnis.Bester = aufgabe.Vorher;
+SearchResult Search(const PlanTask& task, const SearchBudget& budget, const std::atomic<bool>& stop,
+                    const std::function<void(const SearchProgress&)>& report) {
+    SearchResult result = Search(task.task, budget, stop, report);
+    constexpr double kHundred = 100;
+    const double allowed = 1 + budget.slackPercent / kHundred;
+    if (task.before &&
+        (!result.best || result.best->score.duration > allowed * task.before->score.duration)) {
+        result.best = task.before;
     }
-    return ergebnis;
+    return result;
 }
 
-Plan MitListe(const Plan& plan, const std::vector<Order>& orders,
-              const std::optional<SleepRow>& pause) {
-    Plan neu = plan;
-    neu.LV_Bauliste.Clear();
-    const RunConditions bedingungen{.Temperatur = ParseTemperature(plan.parameters).value_or(0)};
+Plan WithOrders(const Plan& plan, const std::vector<Order>& orders,
+                const std::optional<SleepRow>& pause) {
+    Plan fresh = plan;
+    fresh.LV_Bauliste.Clear();
+    const RunConditions conditions{.Temperatur = ParseTemperature(plan.parameters).value_or(0)};
     for (const Order& order : orders) {
-        static_cast<void>(neu.LV_Bauliste.Replay(order.Tag(), bedingungen));
+        static_cast<void>(fresh.LV_Bauliste.Replay(order.Tag(), conditions));
     }
     if (pause) {
-        neu.LV_Schlafzeiten.insert(neu.LV_Schlafzeiten.begin(), *pause);
+        fresh.LV_Schlafzeiten.insert(fresh.LV_Schlafzeiten.begin(), *pause);
     }
-    return neu;
+    return fresh;
 }
 
 }  // namespace tarvelin

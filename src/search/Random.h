@@ -8,23 +8,23 @@
 namespace tarvelin {
 
 /// The distributions of the standard library may differ from one to the other; its engine doesn't.
-class Zufall {
+class Random {
   public:
-    explicit Zufall(std::uint64_t saat) : m_quelle(saat) {}
+    explicit Random(std::uint64_t seed) : m_source(seed) {}
 
-    /// From 0 to `anzahl` - 1; `anzahl` is above 0 and below 2^32.
-    std::size_t Bis(std::size_t anzahl) {
-        return static_cast<std::size_t>(((m_quelle() >> 32U) * anzahl) >> 32U);
+    /// From 0 to `count` - 1; `count` is above 0 and below 2^32.
+    std::size_t Below(std::size_t count) {
+        return static_cast<std::size_t>(((m_source() >> 32U) * count) >> 32U);
     }
-    bool Eins(std::size_t von) { return Bis(von) == 0; }
+    bool OneIn(std::size_t from) { return Below(from) == 0; }
     /// Above 0, at most 1.
-    double Anteil() {
-        constexpr double kJe = 1.0 / 9007199254740992.0;
-        return static_cast<double>((m_quelle() >> 11U) + 1) * kJe;
+    double UnitInterval() {
+        constexpr double kPer = 1.0 / 9007199254740992.0;
+        return static_cast<double>((m_source() >> 11U) + 1) * kPer;
     }
 
   private:
-    std::mt19937_64 m_quelle;
+    std::mt19937_64 m_source;
 };
 
 }  // namespace tarvelin

@@ -9,15 +9,15 @@
 namespace tarvelin {
 
 /// The fewer the better, the duration first.
-struct Wertung {
+struct Score {
     /// Seconds until the last finish, the clock of the run at its end.
-    Long Dauer = 0;
-    int Sitzungen = 0;
+    Long duration = 0;
+    int sittings = 0;
     /// When the last order that a night held back could have started without: the closer to the
     /// night's begin, the closer a plan is to gaining a night.
-    SimTime Wach;
+    SimTime sleepFreeStart;
 
-    friend auto operator<=>(const Wertung&, const Wertung&) = default;
+    friend auto operator<=>(const Score&, const Score&) = default;
 };
 
 }  // namespace tarvelin

@@ -20,347 +20,345 @@ namespace tarvelin {
 
 namespace {
 
-constexpr Long kOhneGrenze = std::numeric_limits<Long>::max();
+constexpr Long kNoLimit = std::numeric_limits<Long>::max();
 
 /// What a chain counts beside the duration.
-enum class Neigung : std::uint8_t {
-    Dauer,
+enum class Objective : std::uint8_t {
+    Duration,
     /// A little for each second that the last order held back by a night could have started
     /// earlier.
-    Nachtnaehe,
+    NightGap,
     /// Sittings, within a limit of the duration.
-    Sitzungen,
+    Sittings,
 };
 
 /// Share of the duration that a list may be worse at the first try of a chain. The chains take them
 /// in turn, two by two.
-std::span<const double> Anfangshitzen(const Suchaufgabe& aufgabe, std::size_t freie) {
-    constexpr std::size_t kKlein = 12;
-    static constexpr std::array kMitWirtschaft{0.02};
-    static constexpr std::array kWenige{0.1};
-    static constexpr std::array kViele{0.002, 0.01, 0.002, 0.03};
-    if (aufgabe.Was == Suchaufgabe::Art::Ziel) {
-        return kMitWirtschaft;
+std::span<const double> InitialHeats(const SearchTask& task, std::size_t freeCount) {
+    constexpr std::size_t kSmall = 12;
+    static constexpr std::array kWithEconomy{0.02};
+    static constexpr std::array kFew{0.1};
+    static constexpr std::array kMany{0.002, 0.01, 0.002, 0.03};
+    if (task.kind == SearchTask::Kind::Goal) {
+        return kWithEconomy;
     }
-    if (freie <= kKlein) {
-        return kWenige;
+    if (freeCount <= kSmall) {
+        return kFew;
     }
-    return kViele;
+    return kMany;
 }
 
 /// The same at the last try.
-constexpr double kEndhitze = 0.00001;
+constexpr double kFinalHeat = 0.00001;
 
 /// So much of it is left for the chains that set out from the best list of the others.
-constexpr double kNachhitze = 0.1;
+constexpr double kReheat = 0.1;
 
-double Energie(const Wertung& wertung, Neigung neigung) {
-    constexpr double kJeSekundeNacht = 0.02;
-    constexpr double kJeSitzung = 1000;
-    switch (neigung) {
-        case Neigung::Dauer:
+double ObjectiveValue(const Score& score, Objective objective) {
+    constexpr double kPerSecondOfNight = 0.02;
+    constexpr double kPerSitting = 1000;
+    switch (objective) {
+        case Objective::Duration:
             break;
-        case Neigung::Nachtnaehe:
-            return wertung.Dauer + kJeSekundeNacht * wertung.Wach.Seconds();
-        case Neigung::Sitzungen:
-            return wertung.Dauer + kJeSitzung * wertung.Sitzungen;
+        case Objective::NightGap:
+            return score.duration + kPerSecondOfNight * score.sleepFreeStart.Seconds();
+        case Objective::Sittings:
+            return score.duration + kPerSitting * score.sittings;
     }
-    return wertung.Dauer;
+    return score.duration;
 }
 
 /// Whether a list is better: the duration counts first, or the sittings.
-bool IstBesser(const Wertung& a, const Wertung& b, Neigung neigung) {
-    if (neigung == Neigung::Sitzungen && a.Sitzungen != b.Sitzungen) {
-        return a.Sitzungen < b.Sitzungen;
+bool IsBetter(const Score& a, const Score& b, Objective objective) {
+    if (objective == Objective::Sittings && a.sittings != b.sittings) {
+        return a.sittings < b.sittings;
     }
-    return a.Dauer != b.Dauer ? a.Dauer < b.Dauer : a.Sitzungen < b.Sitzungen;
+    return a.duration != b.duration ? a.duration < b.duration : a.sittings < b.sittings;
 }
 
 /// What all chains share: the best so far for the progress alone, as which it is depends on chance.
-class Anzeigestand {
+class SharedProgress {
   public:
-    explicit Anzeigestand(const std::atomic<bool>& halt) : m_halt(&halt) {}
+    explicit SharedProgress(const std::atomic<bool>& stop) : m_stop(&stop) {}
 
-    [[nodiscard]] bool Haelt() const { return m_halt->load(std::memory_order_relaxed); }
-    void Zaehle() { m_versuche.fetch_add(1, std::memory_order_relaxed); }
-    [[nodiscard]] std::uint64_t Versuche() const { return m_versuche.load(); }
+    [[nodiscard]] bool Stops() const { return m_stop->load(std::memory_order_relaxed); }
+    void CountTries() { m_tries.fetch_add(1, std::memory_order_relaxed); }
+    [[nodiscard]] std::uint64_t Tries() const { return m_tries.load(); }
 
-    void Melde(Long dauer) {
-        const std::scoped_lock sperre(m_mutex);
-        if (dauer < m_beste) {
-            m_beste = dauer;
-            m_bestesUm = std::chrono::steady_clock::now();
+    void Report(Long duration) {
+        const std::scoped_lock lock(m_mutex);
+        if (duration < m_best) {
+            m_best = duration;
+            m_bestAt = std::chrono::steady_clock::now();
         }
     }
-    [[nodiscard]] std::pair<Long, std::chrono::steady_clock::time_point> Beste() {
-        const std::scoped_lock sperre(m_mutex);
-        return {m_beste, m_bestesUm};
+    [[nodiscard]] std::pair<Long, std::chrono::steady_clock::time_point> Best() {
+        const std::scoped_lock lock(m_mutex);
+        return {m_best, m_bestAt};
     }
 
   private:
-    const std::atomic<bool>* m_halt;
-    std::atomic<std::uint64_t> m_versuche{0};
+    const std::atomic<bool>* m_stop;
+    std::atomic<std::uint64_t> m_tries{0};
     std::mutex m_mutex;
-    Long m_beste = kOhneGrenze;
-    std::chrono::steady_clock::time_point m_bestesUm = std::chrono::steady_clock::now();
+    Long m_best = kNoLimit;
+    std::chrono::steady_clock::time_point m_bestAt = std::chrono::steady_clock::now();
 };
 
-struct Kettenauftrag {
-    const Suchaufgabe* Aufgabe;
-    const Fund* Anfang;
-    Neigung Ziel;
-    double Hitze;
-    std::uint64_t Saat;
+struct ChainSpec {
+    const SearchTask* task;
+    const Solution* initial;
+    Objective goal;
+    double heat;
+    std::uint64_t seed;
     /// No list may take longer.
-    Long Grenze = kOhneGrenze;
+    Long limit = kNoLimit;
 };
 
 /// One chain. It depends on its task and seed alone.
-Fund Kette(const Kettenauftrag& auftrag, Anzeigestand& anzeige) {
-    Zufall zufall(auftrag.Saat);
-    Zuege zuege(*auftrag.Aufgabe, auftrag.Anfang->Orders, auftrag.Anfang->Fest);
-    Probelauf probe(*auftrag.Aufgabe);
-    Fund bester = *auftrag.Anfang;
-    static_cast<void>(probe.Spiele(zuege.Liste(), 0, kOhneGrenze));
-    probe.Uebernimm();
-    double energie = Energie(bester.Wertung, auftrag.Ziel);
-    const double schritt =
-        std::pow(kEndhitze / auftrag.Hitze, 1.0 / static_cast<double>(Suchumfang::kKette));
-    double anteil = auftrag.Hitze;
-    for (std::uint64_t i = 0; i < Suchumfang::kKette && !anzeige.Haelt(); ++i) {
-        anteil *= schritt;
-        anzeige.Zaehle();
-        const auto von = zuege.Ziehe(zufall);
-        if (!von) {
+Solution RunChain(const ChainSpec& chain, SharedProgress& progress) {
+    Random random(chain.seed);
+    Neighborhood neighborhood(*chain.task, chain.initial->orders, chain.initial->pinned);
+    IncrementalEvaluator evaluator(*chain.task);
+    Solution best = *chain.initial;
+    static_cast<void>(evaluator.Evaluate(neighborhood.Current(), 0, kNoLimit));
+    evaluator.Accept();
+    double objectiveValue = ObjectiveValue(best.score, chain.goal);
+    const double step =
+        std::pow(kFinalHeat / chain.heat, 1.0 / static_cast<double>(SearchBudget::kChainLength));
+    double heat = chain.heat;
+    for (std::uint64_t i = 0; i < SearchBudget::kChainLength && !progress.Stops(); ++i) {
+        heat *= step;
+        progress.CountTries();
+        const auto from = neighborhood.Propose(random);
+        if (!from) {
             continue;
         }
         // A list may be so much worse, whatever it turns out to be.
-        const double hoechste = energie - anteil * energie * std::log(zufall.Anteil());
-        const Long grenze =
-            hoechste < auftrag.Grenze ? static_cast<Long>(hoechste) : auftrag.Grenze;
-        const auto wertung = probe.Spiele(zuege.Nachbar(), *von, grenze);
-        if (!wertung || Energie(*wertung, auftrag.Ziel) > hoechste) {
+        const double limitValue =
+            objectiveValue - heat * objectiveValue * std::log(random.UnitInterval());
+        const Long limit = limitValue < chain.limit ? static_cast<Long>(limitValue) : chain.limit;
+        const auto score = evaluator.Evaluate(neighborhood.Neighbor(), *from, limit);
+        if (!score || ObjectiveValue(*score, chain.goal) > limitValue) {
             continue;
         }
-        zuege.Uebernimm();
-        probe.Uebernimm();
-        energie = Energie(*wertung, auftrag.Ziel);
-        if (IstBesser(*wertung, bester.Wertung, auftrag.Ziel)) {
-            bester = {.Orders = zuege.Liste(), .Fest = zuege.Fest(), .Wertung = *wertung};
-            anzeige.Melde(wertung->Dauer);
+        neighborhood.Accept();
+        evaluator.Accept();
+        objectiveValue = ObjectiveValue(*score, chain.goal);
+        if (IsBetter(*score, best.score, chain.goal)) {
+            best = {
+                .orders = neighborhood.Current(), .pinned = neighborhood.Pinned(), .score = *score};
+            progress.Report(score->duration);
         }
     }
-    return bester;
+    return best;
 }
 
 /// Chains that differ in their numbers alone.
-struct Kettenreihe {
-    const Suchaufgabe* Aufgabe;
-    Fund Anfang;
-    Neigung Ziel;
-    std::span<const double> Hitzen;
+struct ChainSeries {
+    const SearchTask* task;
+    Solution initial;
+    Objective goal;
+    std::span<const double> heats;
     /// So much of them is left.
-    double Nachhitze;
-    Long Grenze;
+    double reheat;
+    Long limit;
     /// The number of the first, and how many there are.
-    std::uint64_t Erste;
-    std::uint64_t Zahl;
-    std::uint64_t Saat;
+    std::uint64_t first;
+    std::uint64_t count;
+    std::uint64_t seed;
 
     /// With nights every other chain minds them.
-    [[nodiscard]] Kettenauftrag Nummer(std::uint64_t i) const {
-        constexpr std::uint64_t kSaatabstand = 1'000'003;
-        const std::uint64_t nummer = Erste + i;
-        const bool nacht =
-            Ziel == Neigung::Dauer && nummer % 2 == 1 && !Aufgabe->Bedingungen.Schlafzeiten.empty();
-        return {.Aufgabe = Aufgabe,
-                .Anfang = &Anfang,
-                .Ziel = nacht ? Neigung::Nachtnaehe : Ziel,
-                .Hitze = Nachhitze * Hitzen[nummer / 2 % Hitzen.size()],
-                .Saat = Saat * kSaatabstand + nummer,
-                .Grenze = Grenze};
+    [[nodiscard]] ChainSpec NumberOf(std::uint64_t i) const {
+        constexpr std::uint64_t kSeedDistance = 1'000'003;
+        const std::uint64_t number = first + i;
+        const bool night = goal == Objective::Duration && number % 2 == 1 &&
+                           !task->conditions.Schlafzeiten.empty();
+        return {.task = task,
+                .initial = &initial,
+                .goal = night ? Objective::NightGap : goal,
+                .heat = reheat * heats[number / 2 % heats.size()],
+                .seed = seed * kSeedDistance + number,
+                .limit = limit};
     }
 };
 
 /// Lets threads take one chain after the other. The best of them doesn't depend on who was first.
-class Kettenwerk {
+class ChainPool {
   public:
-    Kettenwerk(Kettenreihe reihe, unsigned threads, Anzeigestand& anzeige)
-        : m_reihe(std::move(reihe)), m_anzeige(&anzeige), m_bester(m_reihe.Anfang) {
-        m_laufend = std::clamp<std::uint64_t>(threads, 1, m_reihe.Zahl);
-        for (std::uint64_t i = m_laufend; i > 0; --i) {
-            m_threads.emplace_back([this] { Arbeite(); });
+    ChainPool(ChainSeries series, unsigned threads, SharedProgress& progress)
+        : m_series(std::move(series)), m_progress(&progress), m_best(m_series.initial) {
+        m_running = std::clamp<std::uint64_t>(threads, 1, m_series.count);
+        for (std::uint64_t i = m_running; i > 0; --i) {
+            m_threads.emplace_back([this] { Work(); });
         }
     }
 
     /// The chain that was taken last, from 1.
-    [[nodiscard]] std::uint64_t Letzte() const {
-        return m_reihe.Erste + std::min(m_naechste.load(), m_reihe.Zahl);
+    [[nodiscard]] std::uint64_t Last() const {
+        return m_series.first + std::min(m_next.load(), m_series.count);
     }
 
     /// Waits for the end; asks in between. The best list, of equals that of the first chain.
-    template <class Frage>
-    Fund Warte(Frage frage) {
-        constexpr std::chrono::milliseconds kTakt(100);
-        std::unique_lock sperre(m_mutex);
-        while (!m_fertig.wait_for(sperre, kTakt, [this] { return m_laufend == 0; })) {
-            sperre.unlock();
-            frage();
-            sperre.lock();
+    template <class Question>
+    Solution Wait(Question ask) {
+        constexpr std::chrono::milliseconds kInterval(100);
+        std::unique_lock lock(m_mutex);
+        while (!m_finished.wait_for(lock, kInterval, [this] { return m_running == 0; })) {
+            lock.unlock();
+            ask();
+            lock.lock();
         }
-        sperre.unlock();
+        lock.unlock();
         m_threads.clear();
-        return std::move(m_bester);
+        return std::move(m_best);
     }
 
   private:
-    void Arbeite() {
-        for (std::uint64_t i = m_naechste++; i < m_reihe.Zahl && !m_anzeige->Haelt();
-             i = m_naechste++) {
-            Nimm(Kette(m_reihe.Nummer(i), *m_anzeige), i);
+    void Work() {
+        for (std::uint64_t i = m_next++; i < m_series.count && !m_progress->Stops(); i = m_next++) {
+            Take(RunChain(m_series.NumberOf(i), *m_progress), i);
         }
-        const std::scoped_lock sperre(m_mutex);
-        --m_laufend;
-        m_fertig.notify_all();
+        const std::scoped_lock lock(m_mutex);
+        --m_running;
+        m_finished.notify_all();
     }
 
-    void Nimm(Fund fund, std::uint64_t kette) {
-        const std::scoped_lock sperre(m_mutex);
-        const bool schlechter = IstBesser(m_bester.Wertung, fund.Wertung, m_reihe.Ziel);
-        const bool besser = IstBesser(fund.Wertung, m_bester.Wertung, m_reihe.Ziel);
-        if (besser || (!schlechter && m_von && kette < *m_von)) {
-            m_bester = std::move(fund);
-            m_von = kette;
+    void Take(Solution solution, std::uint64_t chain) {
+        const std::scoped_lock lock(m_mutex);
+        const bool worse = IsBetter(m_best.score, solution.score, m_series.goal);
+        const bool isBetter = IsBetter(solution.score, m_best.score, m_series.goal);
+        if (isBetter || (!worse && m_from && chain < *m_from)) {
+            m_best = std::move(solution);
+            m_from = chain;
         }
     }
 
-    Kettenreihe m_reihe;
-    Anzeigestand* m_anzeige;
-    std::atomic<std::uint64_t> m_naechste{0};
+    ChainSeries m_series;
+    SharedProgress* m_progress;
+    std::atomic<std::uint64_t> m_next{0};
     std::mutex m_mutex;
-    std::condition_variable m_fertig;
-    std::uint64_t m_laufend = 0;
-    Fund m_bester;
+    std::condition_variable m_finished;
+    std::uint64_t m_running = 0;
+    Solution m_best;
     /// The chain that found it; nothing while it is the list to begin with.
-    std::optional<std::uint64_t> m_von;
+    std::optional<std::uint64_t> m_from;
     std::vector<std::jthread> m_threads;
 };
 
 /// The list of the task, or one of the same orders that ends sooner, or at all.
-std::optional<Fund> Anfang(const Suchaufgabe& aufgabe, const std::atomic<bool>& halt) {
-    std::optional<Fund> eigener = Bewerte(aufgabe, aufgabe.Orders);
+std::optional<Solution> InitialSolution(const SearchTask& task, const std::atomic<bool>& stop) {
+    std::optional<Solution> own = Evaluate(task, task.orders);
     // Another list could have other orders above the pinned rows.
-    const bool hatFeste = std::ranges::find(aufgabe.Fest, true) != aufgabe.Fest.end();
-    if (eigener && (aufgabe.Was == Suchaufgabe::Art::Reihenfolge || hatFeste)) {
-        return eigener;
+    const bool hasPinned = std::ranges::find(task.pinned, true) != task.pinned.end();
+    if (own && (task.kind == SearchTask::Kind::Sequence || hasPinned)) {
+        return own;
     }
-    const auto liste = EndendeListe(aufgabe, halt);
-    const std::optional<Fund> gierig = liste ? Bewerte(aufgabe, *liste) : std::nullopt;
-    if (!eigener || !gierig) {
-        return eigener ? eigener : gierig;
+    const auto list = FindInitialSolution(task, stop);
+    const std::optional<Solution> greedy = list ? Evaluate(task, *list) : std::nullopt;
+    if (!own || !greedy) {
+        return own ? own : greedy;
     }
-    return IstBesser(gierig->Wertung, eigener->Wertung, Neigung::Dauer) ? gierig : eigener;
+    return IsBetter(greedy->score, own->score, Objective::Duration) ? greedy : own;
 }
 
 /// A whole search: chains from the list to begin with, chains from the best of them, and chains for
 /// fewer sittings.
-class Suchlauf {
+class SearchDriver {
   public:
-    Suchlauf(const Suchaufgabe& aufgabe, const Suchumfang& umfang, const std::atomic<bool>& halt,
-             Fund anfang)
-        : m_aufgabe(aufgabe),
-          m_umfang(umfang),
-          m_anzeige(halt),
-          m_ketten(std::max<std::uint64_t>(1, umfang.Versuche / Suchumfang::kKette)),
-          m_anfangsdauer(anfang.Wertung.Dauer),
-          m_bester(std::move(anfang)) {
-        m_anzeige.Melde(m_anfangsdauer);
+    SearchDriver(const SearchTask& task, const SearchBudget& budget, const std::atomic<bool>& stop,
+                 Solution initial)
+        : m_task(task),
+          m_budget(budget),
+          m_progress(stop),
+          m_chains(std::max<std::uint64_t>(1, budget.tries / SearchBudget::kChainLength)),
+          m_initialDuration(initial.score.duration),
+          m_best(std::move(initial)) {
+        m_progress.Report(m_initialDuration);
     }
 
-    Suchergebnis Fuehre(const std::function<void(const Fortschritt&)>& melde) {
-        constexpr std::uint64_t kVonVieren = 4;
-        constexpr double kHundert = 100;
-        const std::uint64_t fuerSitzungen = m_ketten <= kVonVieren   ? 0
-                                            : m_umfang.Nachlass == 0 ? 2
-                                                                     : m_ketten / kVonVieren;
-        const std::uint64_t fuerDauer = m_ketten - fuerSitzungen;
-        const std::uint64_t spaetere = fuerDauer / kVonVieren;
-        Lass(fuerDauer - spaetere, Neigung::Dauer, 1, kOhneGrenze, melde);
-        Lass(spaetere, Neigung::Dauer, kNachhitze, kOhneGrenze, melde);
-        const double grenze = m_bester.Wertung.Dauer * (1 + m_umfang.Nachlass / kHundert);
-        Lass(fuerSitzungen, Neigung::Sitzungen, 1, static_cast<Long>(grenze), melde);
-        return {.Bester = m_bester,
-                .Versuche = m_anzeige.Versuche(),
-                .VonVersuchen = m_ketten * Suchumfang::kKette};
+    SearchResult Run(const std::function<void(const SearchProgress&)>& report) {
+        constexpr std::uint64_t kOfFour = 4;
+        constexpr double kHundred = 100;
+        const std::uint64_t forSittings = m_chains <= kOfFour          ? 0
+                                          : m_budget.slackPercent == 0 ? 2
+                                                                       : m_chains / kOfFour;
+        const std::uint64_t forDuration = m_chains - forSittings;
+        const std::uint64_t later = forDuration / kOfFour;
+        RunSeries(forDuration - later, Objective::Duration, 1, kNoLimit, report);
+        RunSeries(later, Objective::Duration, kReheat, kNoLimit, report);
+        const double limit = m_best.score.duration * (1 + m_budget.slackPercent / kHundred);
+        RunSeries(forSittings, Objective::Sittings, 1, static_cast<Long>(limit), report);
+        return {.best = m_best,
+                .tries = m_progress.Tries(),
+                .totalTries = m_chains * SearchBudget::kChainLength};
     }
 
   private:
     /// So many chains from the best list so far.
-    void Lass(std::uint64_t zahl, Neigung neigung, double nachhitze, Long grenze,
-              const std::function<void(const Fortschritt&)>& melde) {
-        if (zahl == 0 || m_anzeige.Haelt()) {
+    void RunSeries(std::uint64_t number, Objective objective, double reheat, Long limit,
+                   const std::function<void(const SearchProgress&)>& report) {
+        if (number == 0 || m_progress.Stops()) {
             return;
         }
-        const auto freie = static_cast<std::size_t>(
-            std::count(m_aufgabe.Fest.begin() + static_cast<std::ptrdiff_t>(m_aufgabe.Kopf),
-                       m_aufgabe.Fest.end(), false));
-        Kettenwerk werk({.Aufgabe = &m_aufgabe,
-                         .Anfang = m_bester,
-                         .Ziel = neigung,
-                         .Hitzen = Anfangshitzen(m_aufgabe, freie),
-                         .Nachhitze = nachhitze,
-                         .Grenze = grenze,
-                         .Erste = m_begonnen,
-                         .Zahl = zahl,
-                         .Saat = m_umfang.Saat},
-                        m_umfang.Threads, m_anzeige);
-        m_bester = werk.Warte([&] { melde(Stand(werk.Letzte())); });
-        m_begonnen += zahl;
+        const auto freeCount = static_cast<std::size_t>(
+            std::count(m_task.pinned.begin() + static_cast<std::ptrdiff_t>(m_task.headSize),
+                       m_task.pinned.end(), false));
+        ChainPool pool({.task = &m_task,
+                        .initial = m_best,
+                        .goal = objective,
+                        .heats = InitialHeats(m_task, freeCount),
+                        .reheat = reheat,
+                        .limit = limit,
+                        .first = m_begun,
+                        .count = number,
+                        .seed = m_budget.seed},
+                       m_budget.threads, m_progress);
+        m_best = pool.Wait([&] { report(Progress(pool.Last())); });
+        m_begun += number;
     }
 
-    Fortschritt Stand(std::uint64_t kette) {
-        using Sekunden = std::chrono::duration<double>;
-        const auto [beste, um] = m_anzeige.Beste();
-        const auto jetzt = std::chrono::steady_clock::now();
-        const std::uint64_t versuche = m_anzeige.Versuche();
-        return {
-            .BesteDauer = beste,
-            .Gewinn = m_anfangsdauer - beste,
-            .Versuche = versuche,
-            .VonVersuchen = m_ketten * Suchumfang::kKette,
-            .Kette = kette,
-            .VersucheJeSekunde = static_cast<double>(versuche) / Sekunden(jetzt - m_beginn).count(),
-            .SeitBestem = Sekunden(jetzt - um).count()};
+    SearchProgress Progress(std::uint64_t chain) {
+        using Seconds = std::chrono::duration<double>;
+        const auto [best, at] = m_progress.Best();
+        const auto now = std::chrono::steady_clock::now();
+        const std::uint64_t tries = m_progress.Tries();
+        return {.bestDuration = best,
+                .gain = m_initialDuration - best,
+                .tries = tries,
+                .totalTries = m_chains * SearchBudget::kChainLength,
+                .chain = chain,
+                .triesPerSecond = static_cast<double>(tries) / Seconds(now - m_begin).count(),
+                .secondsSinceBest = Seconds(now - at).count()};
     }
 
-    const Suchaufgabe& m_aufgabe;
-    const Suchumfang& m_umfang;
-    Anzeigestand m_anzeige;
-    std::chrono::steady_clock::time_point m_beginn = std::chrono::steady_clock::now();
-    std::uint64_t m_ketten;
-    Long m_anfangsdauer;
-    Fund m_bester;
-    std::uint64_t m_begonnen = 0;
+    const SearchTask& m_task;
+    const SearchBudget& m_budget;
+    SharedProgress m_progress;
+    std::chrono::steady_clock::time_point m_begin = std::chrono::steady_clock::now();
+    std::uint64_t m_chains;
+    Long m_initialDuration;
+    Solution m_best;
+    std::uint64_t m_begun = 0;
 };
 
 }  // namespace
 
-std::optional<Fund> Bewerte(const Suchaufgabe& aufgabe, const std::vector<Order>& orders) {
-    const auto wertung = Probelauf(aufgabe).Spiele(orders, 0, kOhneGrenze);
-    return wertung
-               ? std::optional(Fund{.Orders = orders, .Fest = aufgabe.Fest, .Wertung = *wertung})
-               : std::nullopt;
+std::optional<Solution> Evaluate(const SearchTask& task, const std::vector<Order>& orders) {
+    const auto score = IncrementalEvaluator(task).Evaluate(orders, 0, kNoLimit);
+    return score ? std::optional(Solution{.orders = orders, .pinned = task.pinned, .score = *score})
+                 : std::nullopt;
 }
 
-Suchergebnis Suche(const Suchaufgabe& aufgabe, const Suchumfang& umfang,
-                   const std::atomic<bool>& halt,
-                   const std::function<void(const Fortschritt&)>& melde) {
-    const std::optional<Fund> anfang = Anfang(aufgabe, halt);
-    if (!anfang) {
+SearchResult Search(const SearchTask& task, const SearchBudget& budget,
+                    const std::atomic<bool>& stop,
+                    const std::function<void(const SearchProgress&)>& report) {
+    const std::optional<Solution> initial = InitialSolution(task, stop);
+    if (!initial) {
         // There is nothing to try, unless the search was stopped before it had begun.
-        return {.Bester = {}, .VonVersuchen = halt ? umfang.Versuche : 0};
+        return {.best = {}, .totalTries = stop ? budget.tries : 0};
     }
-    return Suchlauf(aufgabe, umfang, halt, *anfang).Fuehre(melde);
+    return SearchDriver(task, budget, stop, *initial).Run(report);
 }
 
 }  // namespace tarvelin

@@ -8,38 +8,38 @@
 
 namespace tarvelin {
 
-bool IstWirtschaft(ItemId item) {
-    constexpr std::array kWirtschaft{ItemId::MetMine, ItemId::KrisMine, ItemId::DeutMine,
-                                     ItemId::SKW,     ItemId::Robo,     ItemId::Werft,
-                                     ItemId::Folab,   ItemId::Solsats};
-    return std::ranges::find(kWirtschaft, item) != kWirtschaft.end();
+bool IsEconomy(ItemId item) {
+    constexpr std::array kEconomy{ItemId::MetMine, ItemId::KrisMine, ItemId::DeutMine,
+                                  ItemId::SKW,     ItemId::Robo,     ItemId::Werft,
+                                  ItemId::Folab,   ItemId::Solsats};
+    return std::ranges::find(kEconomy, item) != kEconomy.end();
 }
 
-PerItem<Byte> MitVoraussetzungen(PerItem<Byte> ziel) {
+PerItem<Byte> WithPrerequisites(PerItem<Byte> goal) {
     // What an item needs can need something itself.
-    for (bool mehr = true; mehr;) {
-        mehr = false;
-        for (const ItemRow& zeile : ItemTable()) {
-            if (ziel[zeile.item] == 0) {
+    for (bool more = true; more;) {
+        more = false;
+        for (const ItemRow& row : ItemTable()) {
+            if (goal[row.item] == 0) {
                 continue;
             }
-            for (const LevelRequirement& bedarf : ListRequirements(zeile.item)) {
-                mehr = mehr || ziel[bedarf.item] < bedarf.minLevel;
-                ziel[bedarf.item] = std::max(ziel[bedarf.item], bedarf.minLevel);
+            for (const LevelRequirement& requirement : ListRequirements(row.item)) {
+                more = more || goal[requirement.item] < requirement.minLevel;
+                goal[requirement.item] = std::max(goal[requirement.item], requirement.minLevel);
             }
         }
     }
-    return ziel;
+    return goal;
 }
 
-PerItem<Byte> Endstufen(const std::vector<Order>& orders) {
-    PerItem<Byte> stufen{};
+PerItem<Byte> FinalLevels(const std::vector<Order>& orders) {
+    PerItem<Byte> levels{};
     for (const Order& order : orders) {
         if (order.kind == Order::Kind::Item) {
-            ++stufen[order.item];
+            ++levels[order.item];
         }
     }
-    return stufen;
+    return levels;
 }
 
 }  // namespace tarvelin

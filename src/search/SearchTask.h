@@ -13,37 +13,37 @@ namespace tarvelin {
 
 /// The items that bring resources, energy or speed. A search for a goal builds as many of them as
 /// pay off.
-[[nodiscard]] bool IstWirtschaft(ItemId item);
+[[nodiscard]] bool IsEconomy(ItemId item);
 
 /// A task of the search.
-struct Suchaufgabe {
-    enum class Art : std::uint8_t {
+struct SearchTask {
+    enum class Kind : std::uint8_t {
         /// The same orders in another order.
-        Reihenfolge,
+        Sequence,
         /// What has to stand at the end, by whatever economy.
-        Ziel,
+        Goal,
     };
 
-    Art Was = Art::Reihenfolge;
-    RunConditions Bedingungen;
+    Kind kind = Kind::Sequence;
+    RunConditions conditions;
     /// The plan to begin with, by the rules of the list.
-    std::vector<Order> Orders;
+    std::vector<Order> orders;
     /// Rows that keep their place: as many as orders. In a search for an order a place is the
     /// number of a row; in one for a goal pinned rows keep their sequence and the orders before
     /// them that are no economy.
-    std::vector<bool> Fest;
+    std::vector<bool> pinned;
     /// So many rows at the head are played already.
-    std::size_t Kopf = 0;
+    std::size_t headSize = 0;
     /// No other order may start before.
-    SimTime Ab;
+    SimTime notBefore;
     /// Goal: levels and numbers that have to stand at the end; of what is no economy exactly these.
-    PerItem<Byte> Mindestens{};
+    PerItem<Byte> minLevels{};
 };
 
 /// The goal with all that the rules of the list ask for on the way.
-[[nodiscard]] PerItem<Byte> MitVoraussetzungen(PerItem<Byte> ziel);
+[[nodiscard]] PerItem<Byte> WithPrerequisites(PerItem<Byte> goal);
 
 /// What a list brings to its end.
-[[nodiscard]] PerItem<Byte> Endstufen(const std::vector<Order>& orders);
+[[nodiscard]] PerItem<Byte> FinalLevels(const std::vector<Order>& orders);
 
 }  // namespace tarvelin

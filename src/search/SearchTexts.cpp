@@ -9,40 +9,39 @@ namespace {
 
 /// What `text` makes of each item that one list has more of than the other.
 template <class Text>
-std::string Gereiht(const OrderList& mehr, const OrderList& weniger, const char* zwischen,
-                    Text text) {
-    std::string alle;
-    for (const ItemRow& zeile : ItemTable()) {
-        const int unterschied = mehr.ListStufe(zeile.item) - weniger.ListStufe(zeile.item);
-        if (unterschied > 0) {
-            alle += (alle.empty() ? "" : zwischen) + text(zeile, std::to_string(unterschied));
+std::string Joined(const OrderList& more, const OrderList& fewer, const char* between, Text text) {
+    std::string all;
+    for (const ItemRow& row : ItemTable()) {
+        const int difference = more.ListStufe(row.item) - fewer.ListStufe(row.item);
+        if (difference > 0) {
+            all += (all.empty() ? "" : between) + text(row, std::to_string(difference));
         }
     }
-    return alle;
+    return all;
 }
 
 }  // namespace
 
-std::string Ueberschuss(const OrderList& mehr, const OrderList& weniger) {
-    return Gereiht(mehr, weniger, " ", [](const ItemRow& zeile, const std::string& zahl) {
-        return std::string(zeile.ItemCode) + zahl;
+std::string SurplusText(const OrderList& more, const OrderList& fewer) {
+    return Joined(more, fewer, " ", [](const ItemRow& row, const std::string& number) {
+        return std::string(row.ItemCode) + number;
     });
 }
 
-std::string UeberschussInWorten(const OrderList& mehr, const OrderList& weniger) {
-    return Gereiht(mehr, weniger, ", ", [](const ItemRow& zeile, const std::string& zahl) {
-        return zahl + " x " + std::string(zeile.name);
+std::string SurplusInWords(const OrderList& more, const OrderList& fewer) {
+    return Joined(more, fewer, ", ", [](const ItemRow& row, const std::string& number) {
+        return number + " x " + std::string(row.name);
     });
 }
 
-std::string Anzahltext(std::size_t zahl, const char* einzahl, const char* mehrzahl) {
-    return std::to_string(zahl) + " " + (zahl == 1 ? einzahl : mehrzahl);
+std::string CountText(std::size_t number, const char* singular, const char* plural) {
+    return std::to_string(number) + " " + (number == 1 ? singular : plural);
 }
 
-std::string ProStundeText(const GameState& stand) {
-    return "Metall " + std::to_string(stand.ProStunde[Resource::Metall].WholePart()) +
-           ", Kristall " + std::to_string(stand.ProStunde[Resource::Kristall].WholePart()) +
-           ", Deuterium " + std::to_string(stand.ProStunde[Resource::Deuterium].WholePart());
+std::string RatesText(const GameState& state) {
+    return "Metall " + std::to_string(state.ProStunde[Resource::Metall].WholePart()) +
+           ", Kristall " + std::to_string(state.ProStunde[Resource::Kristall].WholePart()) +
+           ", Deuterium " + std::to_string(state.ProStunde[Resource::Deuterium].WholePart());
 }
 
 }  // namespace tarvelin

@@ -61,10 +61,10 @@ int InProzent(double anteil) {
     return static_cast<int>(kGanz * anteil);
 }
 
-std::string Fundtext(const Fund& fund) {
-    return TimeSpanText(fund.Wertung.Dauer) + ", " +
-           Anzahltext(static_cast<std::size_t>(fund.Wertung.Sitzungen), "Sitzung", "Sitzungen") +
-           ", " + Anzahltext(fund.Orders.size(), "Zeile", "Zeilen");
+std::string Fundtext(const Solution& fund) {
+    return TimeSpanText(fund.score.duration) + ", " +
+           CountText(static_cast<std::size_t>(fund.score.sittings), "Sitzung", "Sitzungen") + ", " +
+           CountText(fund.orders.size(), "Zeile", "Zeilen");
 }
 
 }  // namespace
@@ -122,8 +122,8 @@ void Suchfeld::BaueEingaben(QFormLayout& form) {
     m_nachlass->setValue(kUeblich);
     m_nachlass->setSuffix(QStringLiteral(" %"));
     m_versuche->setRange(1, std::numeric_limits<int>::max());
-    m_versuche->setSingleStep(static_cast<int>(Suchumfang::kVersuche));
-    m_versuche->setValue(static_cast<int>(Suchumfang::kVersuche));
+    m_versuche->setSingleStep(static_cast<int>(SearchBudget::kDefaultTries));
+    m_versuche->setValue(static_cast<int>(SearchBudget::kDefaultTries));
     m_versuche->setGroupSeparatorShown(true);
     auto* const sitzungen = new QHBoxLayout;
     sitzungen->addWidget(m_sitzungen);
@@ -148,7 +148,7 @@ void Suchfeld::Verbinde() {
     // nothing.
     connect(
         this, &Suchfeld::StandKam, this,
-        [this](int nummer, const Fortschritt& stand) {
+        [this](int nummer, const SearchProgress& stand) {
             if (nummer == m_nummer) {
                 ZeigeStand(stand);
             }
@@ -156,7 +156,7 @@ void Suchfeld::Verbinde() {
         Qt::QueuedConnection);
     connect(
         this, &Suchfeld::ErgebnisKam, this,
-        [this](int nummer, const Suchergebnis& ergebnis) {
+        [this](int nummer, const SearchResult& ergebnis) {
             if (nummer == m_nummer) {
                 ZeigeErgebnis(ergebnis);
             }
@@ -172,101 +172,101 @@ void Suchfeld::Schalte() {
     m_uebernehmen->setEnabled(!m_laeuft && m_gesucht && m_gesucht->Bester);
 }
 
-Suchwunsch Suchfeld::Wunsch() const {
-    Suchwunsch wunsch{.Frei = m_frei->isChecked()};
+SearchRequest Suchfeld::Wunsch() const {
+    SearchRequest wunsch{.moveProduction = m_frei->isChecked()};
     if (m_aufgabe->currentIndex() == 1) {
-        wunsch.Ziel = m_ziel->text().trimmed().toStdString();
+        wunsch.goal = m_ziel->text().trimmed().toStdString();
     }
     if (m_fest->isChecked()) {
         for (const std::size_t zeile : m_gewaehlte()) {
-            wunsch.Fest.emplace_back(zeile + 1, zeile + 1);
+            wunsch.pinnedRanges.emplace_back(zeile + 1, zeile + 1);
         }
     }
     if (m_ab->isChecked()) {
-        wunsch.Ab = m_umgebung.Jetzt();
+        wunsch.notBefore = m_umgebung.Jetzt();
     }
     return wunsch;
 }
 
-Suchumfang Suchfeld::Umfang() const {
+SearchBudget Suchfeld::Umfang() const {
     // One core is left for the windows.
     const unsigned kerne = std::thread::hardware_concurrency();
-    return {.Versuche = static_cast<std::uint64_t>(m_versuche->value()),
-            .Threads = std::max(2U, kerne) - 1,
-            .Nachlass = m_sitzungen->isChecked() ? m_nachlass->value() : 0};
+    return {.tries = static_cast<std::uint64_t>(m_versuche->value()),
+            .threads = std::max(2U, kerne) - 1,
+            .slackPercent = m_sitzungen->isChecked() ? m_nachlass->value() : 0};
 }
 
 void Suchfeld::Suche() {
-    const auto aufgabe = StelleAufgabe(m_plan, Wunsch());
-    if (const auto* const absage = std::get_if<Suchabsage>(&aufgabe)) {
-        emit Meldung(absage->Text);
+    const auto aufgabe = MakePlanTask(m_plan, Wunsch());
+    if (const auto* const absage = std::get_if<SearchRefusal>(&aufgabe)) {
+        emit Meldung(absage->text);
         return;
     }
     emit Meldung("");
-    m_gesucht = {.Vorher = m_plan, .Aufgabe = std::get<Planaufgabe>(aufgabe), .Bester = {}};
+    m_gesucht = {.Vorher = m_plan, .Aufgabe = std::get<PlanTask>(aufgabe), .Bester = {}};
     m_kurve->Leere();
     m_balken->setValue(0);
     m_stand->clear();
     m_laeuft = true;
     Schalte();
     const int nummer = ++m_nummer;
-    m_suche = std::make_unique<Hintergrundsuche>(
+    m_suche = std::make_unique<BackgroundSearch>(
         m_gesucht->Aufgabe, Umfang(),
-        Hintergrundsuche::Empfaenger{
-            .Stand = [this, nummer](const Fortschritt& stand) { emit StandKam(nummer, stand); },
-            .Fertig = [this, nummer](
-                          const Suchergebnis& ergebnis) { emit ErgebnisKam(nummer, ergebnis); }});
+        BackgroundSearch::Listener{
+            .onProgress = [this,
+                           nummer](const SearchProgress& stand) { emit StandKam(nummer, stand); },
+            .onDone = [this, nummer](
+                          const SearchResult& ergebnis) { emit ErgebnisKam(nummer, ergebnis); }});
 }
 
 void Suchfeld::HalteAn() {
     if (m_suche) {
-        m_suche->Halte();
+        m_suche->Stop();
     }
 }
 
-void Suchfeld::ZeigeStand(const Fortschritt& stand) {
-    const double anteil = Anteil(stand.Versuche, stand.VonVersuchen);
+void Suchfeld::ZeigeStand(const SearchProgress& stand) {
+    const double anteil = Anteil(stand.tries, stand.totalTries);
     m_balken->setValue(InProzent(anteil));
-    m_kurve->Merke(anteil, stand.BesteDauer);
-    m_stand->setText(
-        AlsQString("Bisher: " + TimeSpanText(stand.BesteDauer) + " (" +
-                   SignedTimeSpanText(-stand.Gewinn) + ")\n" + std::to_string(stand.Versuche) +
-                   " von " + std::to_string(stand.VonVersuchen) + " Versuchen, " +
-                   std::to_string(std::int64_t(stand.VersucheJeSekunde)) + " in der Sekunde"));
+    m_kurve->Merke(anteil, stand.bestDuration);
+    m_stand->setText(AlsQString(
+        "Bisher: " + TimeSpanText(stand.bestDuration) + " (" + SignedTimeSpanText(-stand.gain) +
+        ")\n" + std::to_string(stand.tries) + " von " + std::to_string(stand.totalTries) +
+        " Versuchen, " + std::to_string(std::int64_t(stand.triesPerSecond)) + " in der Sekunde"));
 }
 
-void Suchfeld::ZeigeErgebnis(const Suchergebnis& ergebnis) {
+void Suchfeld::ZeigeErgebnis(const SearchResult& ergebnis) {
     m_suche.reset();
     m_laeuft = false;
-    m_gesucht->Bester = ergebnis.Bester;
-    m_balken->setValue(InProzent(Anteil(ergebnis.Versuche, ergebnis.VonVersuchen)));
-    m_stand->setText(
-        ergebnis.Bester ? AlsQString(Bericht() + "\nVersuche: " + std::to_string(ergebnis.Versuche))
-                        : QStringLiteral("Es wurde keine Liste gefunden, die endet."));
+    m_gesucht->Bester = ergebnis.best;
+    m_balken->setValue(InProzent(Anteil(ergebnis.tries, ergebnis.totalTries)));
+    m_stand->setText(ergebnis.best
+                         ? AlsQString(Bericht() + "\nVersuche: " + std::to_string(ergebnis.tries))
+                         : QStringLiteral("Es wurde keine Liste gefunden, die endet."));
     Schalte();
 }
 
 std::string Suchfeld::Bericht() const {
-    const Fund& nachher = *m_gesucht->Bester;
-    const auto& vorher = m_gesucht->Aufgabe.Vorher;
+    const Solution& nachher = *m_gesucht->Bester;
+    const auto& vorher = m_gesucht->Aufgabe.before;
     std::string text =
         "Vorher: " + (vorher ? Fundtext(*vorher) : "der Plan endet nie oder verfehlt das Ziel") +
         "\nNachher: " + Fundtext(nachher);
     if (vorher) {
         text +=
-            "\nUnterschied: " + SignedTimeSpanText(nachher.Wertung.Dauer - vorher->Wertung.Dauer);
+            "\nUnterschied: " + SignedTimeSpanText(nachher.score.duration - vorher->score.duration);
     }
     const OrderList& alte = m_gesucht->Vorher.LV_Bauliste.Orders();
-    const OrderList neue = ListeAus(nachher.Orders);
-    for (const auto& [name, dabei] : {std::pair("\nKommt dazu: ", UeberschussInWorten(neue, alte)),
-                                      std::pair("\nEntfällt: ", UeberschussInWorten(alte, neue))}) {
+    const OrderList neue = ListeAus(nachher.orders);
+    for (const auto& [name, dabei] : {std::pair("\nKommt dazu: ", SurplusInWords(neue, alte)),
+                                      std::pair("\nEntfällt: ", SurplusInWords(alte, neue))}) {
         text += dabei.empty() ? "" : name + dabei;
     }
-    const RunConditions& bedingungen = m_gesucht->Aufgabe.Aufgabe.Bedingungen;
+    const RunConditions& bedingungen = m_gesucht->Aufgabe.task.conditions;
     if (!alte.IsEmpty()) {
-        text += "\nJe Stunde vorher: " + ProStundeText(TraceRun(alte.All(), bedingungen).end);
+        text += "\nJe Stunde vorher: " + RatesText(TraceRun(alte.All(), bedingungen).end);
     }
-    return text + "\nJe Stunde nachher: " + ProStundeText(TraceRun(neue.All(), bedingungen).end);
+    return text + "\nJe Stunde nachher: " + RatesText(TraceRun(neue.All(), bedingungen).end);
 }
 
 void Suchfeld::Uebernimm() {
@@ -278,10 +278,10 @@ void Suchfeld::Uebernimm() {
         return;
     }
     std::vector<std::string> tags;
-    for (const Order& order : m_gesucht->Bester->Orders) {
+    for (const Order& order : m_gesucht->Bester->orders) {
         tags.push_back(order.Tag());
     }
-    const auto pause = m_gesucht->Aufgabe.Pause;
+    const auto pause = m_gesucht->Aufgabe.pause;
     m_gesucht.reset();
     Schalte();
     emit Uebernommen(tags, pause);

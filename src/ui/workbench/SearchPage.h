@@ -41,26 +41,26 @@ class Suchfeld : public QWidget {
     void Uebernommen(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause);
     void Meldung(const std::string& text);
     /// Of the search's own, by its number.
-    void StandKam(int nummer, const Fortschritt& stand);
-    void ErgebnisKam(int nummer, const Suchergebnis& ergebnis);
+    void StandKam(int nummer, const SearchProgress& stand);
+    void ErgebnisKam(int nummer, const SearchResult& ergebnis);
 
   private:
     void BaueEingaben(QFormLayout& form);
     void Verbinde();
-    [[nodiscard]] Suchwunsch Wunsch() const;
-    [[nodiscard]] Suchumfang Umfang() const;
+    [[nodiscard]] SearchRequest Wunsch() const;
+    [[nodiscard]] SearchBudget Umfang() const;
     void Suche();
     void Uebernimm();
-    void ZeigeStand(const Fortschritt& stand);
-    void ZeigeErgebnis(const Suchergebnis& ergebnis);
+    void ZeigeStand(const SearchProgress& stand);
+    void ZeigeErgebnis(const SearchResult& ergebnis);
     [[nodiscard]] std::string Bericht() const;
     void Schalte();
 
     /// What was searched, and what came of it.
     struct Gesucht {
         Plan Vorher;
-        Planaufgabe Aufgabe;
-        std::optional<Fund> Bester;
+        PlanTask Aufgabe;
+        std::optional<Solution> Bester;
     };
 
     const Plan& m_plan;
@@ -86,7 +86,7 @@ class Suchfeld : public QWidget {
     int m_nummer = 0;
     bool m_laeuft = false;
     /// Ends before what it tells.
-    std::unique_ptr<Hintergrundsuche> m_suche;
+    std::unique_ptr<BackgroundSearch> m_suche;
 };
 
 }  // namespace tarvelin
