@@ -163,13 +163,13 @@ void Bauen(benchmark::State& state) {
 BENCHMARK(Bauen)->Arg(60);
 
 void Laden(benchmark::State& state) {
-    Profil profil("");
-    SchreibePlan(MachePlan(Zeilen(state)), profil);
+    IniFile profil("");
+    WritePlan(MachePlan(Zeilen(state)), profil);
     const std::string bytes = profil.Bytes();
     Schweigend meldungen;
     for (auto _ : state) {
         Plan plan;
-        benchmark::DoNotOptimize(LadePlan(Profil(bytes), plan, RunConditions(), meldungen));
+        benchmark::DoNotOptimize(ReadPlan(IniFile(bytes), plan, RunConditions(), meldungen));
     }
 }
 BENCHMARK(Laden)->Arg(60)->Arg(254);
@@ -177,8 +177,8 @@ BENCHMARK(Laden)->Arg(60)->Arg(254);
 void Speichern(benchmark::State& state) {
     const Plan plan = MachePlan(Zeilen(state));
     for (auto _ : state) {
-        Profil profil("");
-        SchreibePlan(plan, profil);
+        IniFile profil("");
+        WritePlan(plan, profil);
         benchmark::DoNotOptimize(profil.Bytes());
     }
 }

@@ -18,7 +18,7 @@ void Still(const SearchProgress& /*stand*/) {}
 
 PlanTask Aufgabe(const std::string& datei, const SearchRequest& wunsch) {
     return std::get<PlanTask>(
-        MakePlanTask(Planlauf(std::filesystem::path(TARVELIN_SOURCE_DIR) / datei).Plan, wunsch));
+        MakePlanTask(PlanRun(std::filesystem::path(TARVELIN_SOURCE_DIR) / datei).plan, wunsch));
 }
 
 /// The starter plan's own orders, on as many threads.

@@ -114,8 +114,8 @@ bool IstName(std::string_view bytes) {
 
 void PruefeSchreiben(const std::string& datei, const std::string& section, const std::string& key,
                      const std::string& wert) {
-    Profil profil(datei);
-    profil.Schreibe(section, key, From1252(wert));
+    IniFile profil(datei);
+    profil.WriteINI(section, key, From1252(wert));
     const std::string nachher = profil.Bytes();
     const std::string inhalt = Inhalt(datei);
     const Zeilen zeilen = ZeilenVon(inhalt);
@@ -123,19 +123,19 @@ void PruefeSchreiben(const std::string& datei, const std::string& section, const
     Verlange(NurEineStelle(zeilen, ZeilenVon(Inhalt(nachher))), "a write changes one line",
              nachher);
 
-    const Profil vorher(datei);
-    const Profil gelesen(nachher);
+    const IniFile vorher(datei);
+    const IniFile gelesen(nachher);
     for (const auto& [s, k] : Namen(zeilen, Utf16(datei).has_value())) {
         const bool selbst = Klein(s) == Klein(section) && Klein(k) == Klein(key);
-        Verlange(
-            selbst || gelesen.Lies(s, k, "-") == vorher.Lies(s, k, "-") || HatRand(s) || HatRand(k),
-            "a write leaves the other keys", k);
+        Verlange(selbst || gelesen.ReadINI(s, k, "-") == vorher.ReadINI(s, k, "-") || HatRand(s) ||
+                     HatRand(k),
+                 "a write leaves the other keys", k);
     }
-    Verlange(gelesen.Lies(section, key, "-") == profil.Lies(section, key, "-"),
+    Verlange(gelesen.ReadINI(section, key, "-") == profil.ReadINI(section, key, "-"),
              "the file holds what the memory holds", nachher);
-    Verlange(!KommtZurueck(From1252(wert)) || gelesen.Lies(section, key, "-") == From1252(wert),
-             "a plain value comes back", gelesen.Lies(section, key, "-"));
-    profil.Schreibe(section, key, From1252(wert));
+    Verlange(!KommtZurueck(From1252(wert)) || gelesen.ReadINI(section, key, "-") == From1252(wert),
+             "a plain value comes back", gelesen.ReadINI(section, key, "-"));
+    profil.WriteINI(section, key, From1252(wert));
     Verlange(profil.Bytes() == nachher, "the same write again changes nothing", profil.Bytes());
 }
 
@@ -146,12 +146,12 @@ void PruefeUtf16(const std::string& datei, const std::string& section, const std
         const auto in16 = [&](const std::string& bytes) {
             return ToUtf16("\xEF\xBB\xBF" + From1252(bytes), folge);
         };
-        Profil acht(datei);
-        Profil sechzehn(in16(datei));
-        Verlange(sechzehn.Lies(section, key, "-") == acht.Lies(section, key, "-"),
-                 "16 bits are read like 8", sechzehn.Lies(section, key, "-"));
-        acht.Schreibe(section, key, From1252(wert));
-        sechzehn.Schreibe(section, key, From1252(wert));
+        IniFile acht(datei);
+        IniFile sechzehn(in16(datei));
+        Verlange(sechzehn.ReadINI(section, key, "-") == acht.ReadINI(section, key, "-"),
+                 "16 bits are read like 8", sechzehn.ReadINI(section, key, "-"));
+        acht.WriteINI(section, key, From1252(wert));
+        sechzehn.WriteINI(section, key, From1252(wert));
         Verlange(sechzehn.Bytes() == in16(acht.Bytes()), "16 bits are written like 8",
                  sechzehn.Bytes());
     }
@@ -170,9 +170,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t lae
     if (Utf16(datei)) {
         datei.resize(datei.size() - datei.size() % 2);
     }
-    const Profil profil(eingabe.Rest());
+    const IniFile profil(eingabe.Rest());
     Verlange(profil.Bytes() == datei, "a profile keeps its bytes", datei);
-    Verlange(To1252(profil.Lies(section, key, From1252(wert))).size() <= 255,
+    Verlange(To1252(profil.ReadINI(section, key, From1252(wert))).size() <= 255,
              "a value is 255 at most");
     Verlange(To1252(From1252(datei)) == datei, "the code page loses no byte", datei);
     static_cast<void>(From1252(To1252(datei)));

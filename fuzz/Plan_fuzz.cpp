@@ -13,18 +13,18 @@ namespace {
 /// The longest list that the laws are tried on; they build it anew after each row.
 constexpr std::size_t kHoechstzahl = 60;
 
-void Drucke(const Planlauf& lauf) {
+void Drucke(const PlanRun& lauf) {
     std::ostringstream strom;
     SchreibeText(strom, lauf);
     SchreibeCsvKopf(strom);
     SchreibeCsv(strom, lauf);
-    strom << JsonText(lauf) << RefreshWeekday(lauf.Plan.parameters).hint
-          << PointsWithStockText(lauf.Lauf.state);
-    for (const auto& bauzeit : lauf.Lauf.LV_Bauzeiten) {
-        strom << DueStarts(lauf.Lauf.LV_Bauzeiten, bauzeit.start, "0")
-              << DueSleepEnds(lauf.Plan.LV_Schlafzeiten, bauzeit.start);
+    strom << JsonText(lauf) << RefreshWeekday(lauf.plan.parameters).hint
+          << PointsWithStockText(lauf.run.state);
+    for (const auto& bauzeit : lauf.run.LV_Bauzeiten) {
+        strom << DueStarts(lauf.run.LV_Bauzeiten, bauzeit.start, "0")
+              << DueSleepEnds(lauf.plan.LV_Schlafzeiten, bauzeit.start);
     }
-    Verlange(lauf.Gelaufen || !lauf.Meldungen.empty(), "a plan runs or says why not");
+    Verlange(lauf.hasRun || !lauf.messages.empty(), "a plan runs or says why not");
 }
 
 }  // namespace
@@ -33,10 +33,10 @@ void Drucke(const Planlauf& lauf) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t laenge) {
     using namespace tarvelin;
     const std::string_view bytes(reinterpret_cast<const char*>(daten), laenge);
-    const Planlauf lauf("plan.tvf", Profil(bytes));
+    const PlanRun lauf("plan.tvf", IniFile(bytes));
     Drucke(lauf);
-    if (lauf.Geladen && lauf.Plan.LV_Bauliste.Rows().size() <= kHoechstzahl) {
-        const Befund befund = PruefeGesetze(lauf.Plan);
+    if (lauf.loaded && lauf.plan.LV_Bauliste.Rows().size() <= kHoechstzahl) {
+        const Befund befund = PruefeGesetze(lauf.plan);
         Verlange(befund.empty(), "the laws of every plan", befund);
     }
     return 0;

@@ -12,7 +12,7 @@ namespace tarvelin {
 enum class Ausfallart { Einmal, DieserAufrufFuerImmer, AllesFuerImmer };
 
 /// The platform with its n-th call failing, from 1. A write that fails has written half.
-class Stoersystem : public Dateisystem {
+class Stoersystem : public FileSystem {
   public:
     Stoersystem(int n, Ausfallart art) : m_n(n), m_art(art) {}
 
@@ -25,69 +25,69 @@ class Stoersystem : public Dateisystem {
     /// The name of the call that failed first.
     [[nodiscard]] std::string_view Gestoert() const { return m_gestoert; }
 
-    [[nodiscard]] std::optional<Art> Sieh(const std::filesystem::path& pfad) const override {
-        return Stoert("Sieh") ? std::nullopt : Platte().Sieh(pfad);
+    [[nodiscard]] std::optional<Kind> KindOf(const std::filesystem::path& pfad) const override {
+        return Stoert("Sieh") ? std::nullopt : NativeFileSystem().KindOf(pfad);
     }
-    [[nodiscard]] std::optional<std::filesystem::path> LoeseAuf(
+    [[nodiscard]] std::optional<std::filesystem::path> Resolve(
         const std::filesystem::path& pfad) const override {
-        return Stoert("LoeseAuf") ? std::nullopt : Platte().LoeseAuf(pfad);
+        return Stoert("LoeseAuf") ? std::nullopt : NativeFileSystem().Resolve(pfad);
     }
-    [[nodiscard]] bool IstBeschreibbar(const std::filesystem::path& pfad) const override {
-        return !Stoert("IstBeschreibbar") && Platte().IstBeschreibbar(pfad);
+    [[nodiscard]] bool IsWritable(const std::filesystem::path& pfad) const override {
+        return !Stoert("IstBeschreibbar") && NativeFileSystem().IsWritable(pfad);
     }
-    [[nodiscard]] std::vector<std::filesystem::path> Eintraege(
+    [[nodiscard]] std::vector<std::filesystem::path> Entries(
         const std::filesystem::path& ordner) const override {
         return Stoert("Eintraege") ? std::vector<std::filesystem::path>()
-                                   : Platte().Eintraege(ordner);
+                                   : NativeFileSystem().Entries(ordner);
     }
-    [[nodiscard]] bool IstSchlichterOrdner(const std::filesystem::path& pfad) const override {
-        return !Stoert("IstSchlichterOrdner") && Platte().IstSchlichterOrdner(pfad);
+    [[nodiscard]] bool IsPlainFolder(const std::filesystem::path& pfad) const override {
+        return !Stoert("IstSchlichterOrdner") && NativeFileSystem().IsPlainFolder(pfad);
     }
-    [[nodiscard]] bool LegeOrdnerAn(const std::filesystem::path& pfad) const override {
-        return !Stoert("LegeOrdnerAn") && Platte().LegeOrdnerAn(pfad);
+    [[nodiscard]] bool CreateFolders(const std::filesystem::path& pfad) const override {
+        return !Stoert("LegeOrdnerAn") && NativeFileSystem().CreateFolders(pfad);
     }
-    [[nodiscard]] int Oeffne(const std::filesystem::path& datei) const override {
-        return Stoert("Oeffne") ? -1 : Platte().Oeffne(datei);
+    [[nodiscard]] int Open(const std::filesystem::path& datei) const override {
+        return Stoert("Oeffne") ? -1 : NativeFileSystem().Open(datei);
     }
-    [[nodiscard]] int LegeAn(const std::filesystem::path& datei) const override {
-        return Stoert("LegeAn") ? -1 : Platte().LegeAn(datei);
+    [[nodiscard]] int Create(const std::filesystem::path& datei) const override {
+        return Stoert("LegeAn") ? -1 : NativeFileSystem().Create(datei);
     }
-    [[nodiscard]] std::ptrdiff_t Lies(int nummer, std::span<char> bytes) const override {
-        return Stoert("Lies") ? -1 : Platte().Lies(nummer, bytes);
+    [[nodiscard]] std::ptrdiff_t Read(int nummer, std::span<char> bytes) const override {
+        return Stoert("Lies") ? -1 : NativeFileSystem().Read(nummer, bytes);
     }
-    [[nodiscard]] std::ptrdiff_t Schreibe(int nummer, std::string_view bytes) const override {
+    [[nodiscard]] std::ptrdiff_t Write(int nummer, std::string_view bytes) const override {
         // In two pieces, so that something can fail between them.
         const auto haelfte = bytes.substr(0, (bytes.size() + 1) / 2);
         if (Stoert("Schreibe")) {
-            static_cast<void>(Platte().Schreibe(nummer, haelfte));
+            static_cast<void>(NativeFileSystem().Write(nummer, haelfte));
             return -1;
         }
-        return Platte().Schreibe(nummer, haelfte);
+        return NativeFileSystem().Write(nummer, haelfte);
     }
-    [[nodiscard]] bool UebernimmRechte(int nummer,
+    [[nodiscard]] bool CopyPermissions(int nummer,
                                        const std::filesystem::path& von) const override {
-        return !Stoert("UebernimmRechte") && Platte().UebernimmRechte(nummer, von);
+        return !Stoert("UebernimmRechte") && NativeFileSystem().CopyPermissions(nummer, von);
     }
-    [[nodiscard]] bool BringAufPlatte(int nummer) const override {
-        return !Stoert("BringAufPlatte") && Platte().BringAufPlatte(nummer);
+    [[nodiscard]] bool Sync(int nummer) const override {
+        return !Stoert("BringAufPlatte") && NativeFileSystem().Sync(nummer);
     }
-    bool Schliesse(int nummer) const override {
+    bool Close(int nummer) const override {
         const bool gestoert = Stoert("Schliesse");
-        return Platte().Schliesse(nummer) && !gestoert;
+        return NativeFileSystem().Close(nummer) && !gestoert;
     }
-    [[nodiscard]] bool BenenneUm(const std::filesystem::path& von,
-                                 const std::filesystem::path& nach) const override {
-        return !Stoert("BenenneUm") && Platte().BenenneUm(von, nach);
+    [[nodiscard]] bool Rename(const std::filesystem::path& von,
+                              const std::filesystem::path& nach) const override {
+        return !Stoert("BenenneUm") && NativeFileSystem().Rename(von, nach);
     }
-    bool BringOrdnerAufPlatte(const std::filesystem::path& ordner) const override {
-        return !Stoert("BringOrdnerAufPlatte") && Platte().BringOrdnerAufPlatte(ordner);
+    bool SyncFolder(const std::filesystem::path& ordner) const override {
+        return !Stoert("BringOrdnerAufPlatte") && NativeFileSystem().SyncFolder(ordner);
     }
-    bool Loesche(const std::filesystem::path& datei) const override {
-        return !Stoert("Loesche") && Platte().Loesche(datei);
+    bool Remove(const std::filesystem::path& datei) const override {
+        return !Stoert("Loesche") && NativeFileSystem().Remove(datei);
     }
-    [[nodiscard]] std::int64_t Prozess() const override { return Platte().Prozess(); }
-    [[nodiscard]] bool Laeuft(std::int64_t prozess) const override {
-        return Platte().Laeuft(prozess);
+    [[nodiscard]] std::int64_t ProcessId() const override { return NativeFileSystem().ProcessId(); }
+    [[nodiscard]] bool IsRunning(std::int64_t prozess) const override {
+        return NativeFileSystem().IsRunning(prozess);
     }
 
   private:

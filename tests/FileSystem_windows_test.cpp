@@ -78,14 +78,14 @@ TEST(DateisystemWindows, ZeigtSchlichteOrdner) {
 
 /// Deletes a folder whose path may be long, which the library can't.
 void Raeume(const std::filesystem::path& ordner) {
-    for (const auto& eintrag : Platte().Eintraege(ordner)) {
-        if (Platte().Sieh(eintrag) == Dateisystem::Art::Ordner) {
+    for (const auto& eintrag : NativeFileSystem().Entries(ordner)) {
+        if (NativeFileSystem().KindOf(eintrag) == FileSystem::Kind::TempFolder) {
             Raeume(eintrag);
         } else {
-            EXPECT_TRUE(Platte().Loesche(eintrag));
+            EXPECT_TRUE(NativeFileSystem().Remove(eintrag));
         }
     }
-    const auto ort = Platte().LoeseAuf(ordner);
+    const auto ort = NativeFileSystem().Resolve(ordner);
     EXPECT_NE(::RemoveDirectoryW(ort->c_str()), 0) << ::GetLastError();
 }
 
@@ -98,23 +98,23 @@ TEST(DateisystemWindows, KommtMitLangenPfadenZurecht) {
     const auto datei = ort / "saves" / "plan.tvf";
     ASSERT_GT(datei.native().size(), 300U);
     // A folder of a program, with its files in it.
-    ASSERT_TRUE(Platte().LegeOrdnerAn(ordner / "share/tarvelin/img/skins/blau"));
+    ASSERT_TRUE(NativeFileSystem().CreateFolders(ordner / "share/tarvelin/img/skins/blau"));
     SchreibeDatei(ordner / "share/tarvelin/img/icon.ico", "icon");
-    const auto gewaehlt = BestimmeProgrammordner(ordner / "bin", ort);
-    EXPECT_EQ(gewaehlt.Ordner, ort);
-    EXPECT_TRUE(gewaehlt.KannBehalten);
-    EXPECT_EQ(LiesDatei(ort / "img/icon.ico", 9, Platte()), "icon");
+    const auto gewaehlt = ResolveProgramFolder(ordner / "bin", ort);
+    EXPECT_EQ(gewaehlt.TempFolder, ort);
+    EXPECT_TRUE(gewaehlt.canKeep);
+    EXPECT_EQ(ReadFileToString(ort / "img/icon.ico", 9, NativeFileSystem()), "icon");
     EXPECT_EQ(GetSubfolders(ort / "img/skins"), std::vector<std::string>{"blau"});
     for (const char* const codes : {"GM", "GM GS"}) {
         ASSERT_TRUE(SaveBauliste(datei, PlanAus(codes)));
-        const auto profil = Profil::Lade(datei);
+        const auto profil = IniFile::Load(datei);
         ASSERT_TRUE(profil);
-        EXPECT_EQ(profil->Lies("Bauliste", "ItemCount", ""),
+        EXPECT_EQ(profil->ReadINI("Bauliste", "ItemCount", ""),
                   codes == std::string("GM") ? "1" : "2");
     }
     EXPECT_TRUE(FileExists(datei));
-    EXPECT_EQ(Platte().Sieh(ort / "fehlt.tvf"), Dateisystem::Art::Nichts);
-    EXPECT_FALSE(SaveBauliste(datei, PlanAus("GM"), Schreibschutz({ort})));
+    EXPECT_EQ(NativeFileSystem().KindOf(ort / "fehlt.tvf"), FileSystem::Kind::Nothing);
+    EXPECT_FALSE(SaveBauliste(datei, PlanAus("GM"), ProtectedFileSystem({ort})));
     Raeume(ordner / "lang");
 }
 

@@ -23,7 +23,7 @@ class Golden : public testing::TestWithParam<std::string> {};
 
 TEST_P(Golden, ErgibtFeldFuerFeldDasErwartete) {
     const auto datei = std::filesystem::path(TARVELIN_GOLDEN) / (GetParam() + ".tvf");
-    const auto ist = nlohmann::json::parse(JsonText(Planlauf(datei)));
+    const auto ist = nlohmann::json::parse(JsonText(PlanRun(datei)));
     auto json = datei;
     const auto soll = nlohmann::json::parse(LiesDatei(json.replace_extension(".json")));
     for (const auto& unterschied : nlohmann::json::diff(soll, ist)) {
@@ -41,10 +41,10 @@ INSTANTIATE_TEST_SUITE_P(Plaene, Golden, testing::ValuesIn(Plaene()), [](const a
 });
 
 TEST(Starterplan, HaeltDieRegelnUndLaeuftOhneMeldung) {
-    const Planlauf lauf(std::filesystem::path(TARVELIN_SOURCE_DIR) / "data/saves/basic.tvf");
-    EXPECT_TRUE(lauf.Gelaufen);
-    EXPECT_TRUE(lauf.Meldungen.empty());
-    const auto orders = lauf.Plan.LV_Bauliste.Orders().All();
+    const PlanRun lauf(std::filesystem::path(TARVELIN_SOURCE_DIR) / "data/saves/basic.tvf");
+    EXPECT_TRUE(lauf.hasRun);
+    EXPECT_TRUE(lauf.messages.empty());
+    const auto orders = lauf.plan.LV_Bauliste.Orders().All();
     EXPECT_GE(orders.size(), 30U);
     EXPECT_LE(orders.size(), 60U);
     OrderList liste;

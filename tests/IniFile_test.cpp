@@ -42,13 +42,13 @@ TEST(Profil, LiestWieDiePlattform) {
         {"nur Klammer", "[", "Standard"},
     };
     for (const Lesefall& fall : faelle) {
-        EXPECT_EQ(Profil(fall.Bytes).Lies("A", "K", "Standard"), fall.Wert) << fall.Was;
+        EXPECT_EQ(IniFile(fall.Bytes).ReadINI("A", "K", "Standard"), fall.Wert) << fall.Was;
     }
     std::string umlaute;
     for (int i = 0; i < 300; ++i) {
         umlaute += "ä";
     }
-    EXPECT_EQ(Profil("").Lies("A", "K", umlaute), umlaute.substr(0, 510));
+    EXPECT_EQ(IniFile("").ReadINI("A", "K", umlaute), umlaute.substr(0, 510));
 }
 
 struct Schreibfall {
@@ -71,14 +71,14 @@ TEST(Profil, SchreibtUndLaesstAllesAndereStehen) {
         {"fremde Zeilen", "Unsinn\n=\n[A\nK=\"x\"", "Unsinn\n=\n[A\nK=v\r\n"},
     };
     for (const Schreibfall& fall : faelle) {
-        Profil profil(fall.Vorher);
+        IniFile profil(fall.Vorher);
         EXPECT_EQ(profil.Bytes(), fall.Vorher) << fall.Was;
-        profil.Schreibe("A", "K", "v");
+        profil.WriteINI("A", "K", "v");
         EXPECT_EQ(profil.Bytes(), fall.Nachher) << fall.Was;
-        EXPECT_EQ(profil.Lies("a", "k", ""), "v") << fall.Was;
+        EXPECT_EQ(profil.ReadINI("a", "k", ""), "v") << fall.Was;
         // The same key again changes no length, and what is written is what is read anew.
-        profil.Schreibe("A", "K", "ä漢");
-        EXPECT_EQ(Profil(profil.Bytes()).Lies("A", "K", ""), "ä?") << fall.Was;
+        profil.WriteINI("A", "K", "ä漢");
+        EXPECT_EQ(IniFile(profil.Bytes()).ReadINI("A", "K", ""), "ä?") << fall.Was;
     }
 }
 
@@ -106,12 +106,12 @@ TEST(Profil, HaeltUtf16MitJedemZeichen) {
         for (const bool hochVorn : {false, true}) {
             SCOPED_TRACE(std::string(fall.Was) + (hochVorn ? ", BE" : ", LE"));
             const std::string vorher = InUtf16(fall.Vorher, hochVorn);
-            Profil profil(vorher + "x");  // half a unit, which goes
+            IniFile profil(vorher + "x");  // half a unit, which goes
             EXPECT_EQ(profil.Bytes(), vorher);
-            EXPECT_EQ(profil.Lies("Ä漢", "kö", "Standard"), fall.Wert);
-            profil.Schreibe("Ä漢", "Kö", "ü漢");
+            EXPECT_EQ(profil.ReadINI("Ä漢", "kö", "Standard"), fall.Wert);
+            profil.WriteINI("Ä漢", "Kö", "ü漢");
             EXPECT_EQ(profil.Bytes(), InUtf16(fall.Nachher, hochVorn));
-            EXPECT_EQ(profil.Lies("Ä?", "Kö", ""), "ü?");
+            EXPECT_EQ(profil.ReadINI("Ä?", "Kö", ""), "ü?");
         }
     }
 }
@@ -123,23 +123,23 @@ TEST(Dateiersatz, ErsetztGanzOderGarNicht) {
     SchreibeDatei(datei, "alt");
     const perms rechte = perms::owner_read | perms::owner_write | perms::group_read;
     std::filesystem::permissions(datei, rechte);
-    ASSERT_TRUE(ErsetzeDatei(datei, "neu"));
+    ASSERT_TRUE(WriteFileAtomically(datei, "neu"));
     EXPECT_EQ(LiesDatei(datei), "neu");
-    EXPECT_FALSE(ErsetzeDatei(ordner / "fehlt" / "plan.tvf", "x"));
-    EXPECT_FALSE(ErsetzeDatei("", "x"));
+    EXPECT_FALSE(WriteFileAtomically(ordner / "fehlt" / "plan.tvf", "x"));
+    EXPECT_FALSE(WriteFileAtomically("", "x"));
     EXPECT_EQ(ordner.Eintraege(), 1U);
     if (kWindows) {
         return;
     }
     EXPECT_EQ(std::filesystem::status(datei).permissions(), rechte);
     std::filesystem::create_symlink(datei, ordner / "zeiger");
-    ASSERT_TRUE(ErsetzeDatei(ordner / "zeiger", "neuer"));
+    ASSERT_TRUE(WriteFileAtomically(ordner / "zeiger", "neuer"));
     EXPECT_TRUE(std::filesystem::is_symlink(ordner / "zeiger"));
     EXPECT_EQ(LiesDatei(datei), "neuer");
     std::filesystem::permissions(datei, perms::owner_read);
     // Nothing is forbidden to root.
-    const bool darf = Platte().IstBeschreibbar(datei);
-    EXPECT_EQ(ErsetzeDatei(datei, "neu"), darf);
+    const bool darf = NativeFileSystem().IsWritable(datei);
+    EXPECT_EQ(WriteFileAtomically(datei, "neu"), darf);
     EXPECT_EQ(LiesDatei(datei), darf ? "neu" : "neuer");
     EXPECT_EQ(ordner.Eintraege(), 2U);
 }
@@ -147,14 +147,14 @@ TEST(Dateiersatz, ErsetztGanzOderGarNicht) {
 TEST(Profil, WeistZuGrossesUndFremdesAb) {
     const Ordner ordner;
     std::filesystem::create_directory(ordner / "verzeichnis");
-    EXPECT_FALSE(Profil::Lade(ordner / "verzeichnis"));
-    EXPECT_FALSE(Profil::Lade(ordner / "fehlt"));
-    EXPECT_FALSE(Profil::Lade("/dev/zero"));
-    EXPECT_TRUE(Profil::LadeOderLeer(ordner / "fehlt"));
-    SchreibeDatei(ordner / "gross", std::string(Profil::kHoechstgroesse, 'x'));
-    EXPECT_TRUE(Profil::Lade(ordner / "gross"));
-    SchreibeDatei(ordner / "gross", std::string(Profil::kHoechstgroesse + 1, 'x'));
-    EXPECT_FALSE(Profil::LadeOderLeer(ordner / "gross"));
+    EXPECT_FALSE(IniFile::Load(ordner / "verzeichnis"));
+    EXPECT_FALSE(IniFile::Load(ordner / "fehlt"));
+    EXPECT_FALSE(IniFile::Load("/dev/zero"));
+    EXPECT_TRUE(IniFile::LoadOrEmpty(ordner / "fehlt"));
+    SchreibeDatei(ordner / "gross", std::string(IniFile::kMaxBytes, 'x'));
+    EXPECT_TRUE(IniFile::Load(ordner / "gross"));
+    SchreibeDatei(ordner / "gross", std::string(IniFile::kMaxBytes + 1, 'x'));
+    EXPECT_FALSE(IniFile::LoadOrEmpty(ordner / "gross"));
 }
 
 }  // namespace

@@ -28,22 +28,22 @@ TEST(Dateiersatz, RaeumtWegWasGetoeteteProzesseLiessen) {
     for (const char* const name : {".tarvelin-4194999.tmp", ".tarvelin-1.tmp", ".tarvelin-x.tmp"}) {
         SchreibeDatei(ordner / name, "halb");
     }
-    ASSERT_TRUE(Konfiguration(ordner / "").Schreibe({{Konfiguration::kFirststart, "0"}}));
+    ASSERT_TRUE(Configuration(ordner / "").Write({{Configuration::kFirststart, "0"}}));
     EXPECT_FALSE(std::filesystem::exists(ordner / ".tarvelin-4194999.tmp"));
     EXPECT_EQ(ordner.Eintraege(), kWindows ? 2U : 3U);
-    EXPECT_TRUE(Platte().Laeuft(Platte().Prozess()));
+    EXPECT_TRUE(NativeFileSystem().IsRunning(NativeFileSystem().ProcessId()));
 }
 
 /// Two plans in turn, and a key of the configuration, in a folder that a process of its own shares.
 class Toetung : public testing::Test {
   protected:
     static void Speichere(const std::filesystem::path& ort, std::size_t welchen,
-                          const Dateisystem& system) {
+                          const FileSystem& system) {
         // Saved in turn over each other they give the same bytes each time.
         const std::array plaene{PlanAus("GM GS GM GS"), PlanAus("GK GX:8:10:5 GD GD")};
         static_cast<void>(SaveBauliste(ort / "plan.tvf", plaene.at(welchen), system));
-        static_cast<void>(Konfiguration(ort, system)
-                              .Schreibe({{Konfiguration::kFirststart, std::to_string(welchen)}}));
+        static_cast<void>(Configuration(ort, system)
+                              .Write({{Configuration::kFirststart, std::to_string(welchen)}}));
     }
 
     [[nodiscard]] std::pair<std::string, std::string> Bytes() const {
@@ -75,7 +75,7 @@ TEST_F(Toetung, DISABLED_Opfer) {
 TEST_F(Toetung, BeiJedemAufrufLaesstDenAltenOderDenNeuenPlan) {
     std::array<std::pair<std::string, std::string>, 2> bytes;
     for (const std::size_t welcher : {0U, 1U, 0U}) {
-        Speichere(m_ordner / "", welcher, Platte());
+        Speichere(m_ordner / "", welcher, NativeFileSystem());
         bytes.at(welcher) = Bytes();
     }
     int n = 1;
@@ -85,7 +85,7 @@ TEST_F(Toetung, BeiJedemAufrufLaesstDenAltenOderDenNeuenPlan) {
         EXPECT_TRUE(plan == bytes[0].first || plan == bytes[1].first) << plan;
         EXPECT_TRUE(konfiguration == bytes[0].second || konfiguration == bytes[1].second);
         EXPECT_LE(m_ordner.Eintraege(), 3U);  // one that was being written
-        Speichere(m_ordner / "", 0, Platte());
+        Speichere(m_ordner / "", 0, NativeFileSystem());
         EXPECT_EQ(Bytes(), bytes[0]);
         EXPECT_EQ(m_ordner.Eintraege(), 2U);
     }

@@ -127,7 +127,7 @@ TEST_F(Affe, MachtNichtsKaputt) {
     m_fenster.close();
     Plan plan;
     Merker meldungen;
-    EXPECT_TRUE(LadePlan(*Profil::Lade(m_ordner / "saves" / "autosave.tvf"), plan, RunConditions(),
+    EXPECT_TRUE(ReadPlan(*IniFile::Load(m_ordner / "saves" / "autosave.tvf"), plan, RunConditions(),
                          meldungen));
 }
 

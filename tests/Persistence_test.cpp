@@ -15,25 +15,25 @@ namespace {
 TEST(Konfiguration, WiederherstellungNachDenFrueherenAntworten) {
     using enum Wiederherstellung;
     const Ordner ordner;
-    const Konfiguration konfiguration(ordner / "");
+    const Configuration konfiguration(ordner / "");
     // By `AlwaysDoSo` from left to right; nothing stands for a key that is missing.
     const std::array<const char*, 5> immer{nullptr, "0", "1", "ja", ""};
-    const std::vector<std::pair<const char*, std::array<Wiederherstellung, 5>>> faelle{
-        {nullptr, {Fragen, Fragen, Ungefragt, Nicht, Nicht}},
-        {"1", {Fragen, Fragen, Ungefragt, Nicht, Nicht}},
-        {"0", {Fragen, Fragen, Nicht, Nicht, Nicht}},
-        {"ja", {Fragen, Fragen, Nicht, Nicht, Nicht}},
-        {"", {Fragen, Fragen, Nicht, Nicht, Nicht}}};
+    const std::vector<std::pair<const char*, std::array<Recovery, 5>>> faelle{
+        {nullptr, {Ask, Ask, Always, Never, Never}},
+        {"1", {Ask, Ask, Always, Never, Never}},
+        {"0", {Ask, Ask, Never, Never, Never}},
+        {"ja", {Ask, Ask, Never, Never, Never}},
+        {"", {Ask, Ask, Never, Never, Never}}};
     for (const auto& [recover, erwartet] : faelle) {
         for (std::size_t i = 0; i < immer.size(); ++i) {
             SchreibeDatei(ordner / "config.cfg", "");
-            for (const auto& [key, wert] : {std::pair(Konfiguration::kRecover, recover),
-                                            std::pair(Konfiguration::kAlwaysDoSo, immer.at(i))}) {
+            for (const auto& [key, wert] : {std::pair(Configuration::kRecover, recover),
+                                            std::pair(Configuration::kAlwaysDoSo, immer.at(i))}) {
                 if (wert != nullptr) {
-                    ASSERT_TRUE(konfiguration.Schreibe({{key, wert}}));
+                    ASSERT_TRUE(konfiguration.Write({{key, wert}}));
                 }
             }
-            EXPECT_EQ(EntscheideWiederherstellung(konfiguration), erwartet.at(i))
+            EXPECT_EQ(DecideRecovery(konfiguration), erwartet.at(i))
                 << LiesDatei(ordner / "config.cfg");
         }
     }
@@ -41,36 +41,36 @@ TEST(Konfiguration, WiederherstellungNachDenFrueherenAntworten) {
 
 TEST(Konfiguration, FehlendeKeysLesenSichAlsStandard) {
     const Ordner ordner;
-    const Konfiguration konfiguration(ordner / "");
+    const Configuration konfiguration(ordner / "");
     for (const auto& [key, standard] :
-         {std::pair(Konfiguration::kBaulistenwecker, "0"),
-          std::pair(Konfiguration::kSchlafzeitenwecker, "0"), std::pair(Konfiguration::kMode, "1"),
-          std::pair(Konfiguration::kPath, "~"), std::pair(Konfiguration::kWebPath, "http://"),
-          std::pair(Konfiguration::kFirststart, "1"), std::pair(Konfiguration::kRecover, "1"),
-          std::pair(Konfiguration::kAlwaysDoSo, "0")}) {
-        EXPECT_EQ(konfiguration.Lies(key), standard) << key.Key;
+         {std::pair(Configuration::kBaulistenwecker, "0"),
+          std::pair(Configuration::kSchlafzeitenwecker, "0"), std::pair(Configuration::kMode, "1"),
+          std::pair(Configuration::kPath, "~"), std::pair(Configuration::kWebPath, "http://"),
+          std::pair(Configuration::kFirststart, "1"), std::pair(Configuration::kRecover, "1"),
+          std::pair(Configuration::kAlwaysDoSo, "0")}) {
+        EXPECT_EQ(konfiguration.Read(key), standard) << key.Key;
     }
     // Another spelling leads to the same place.
     SchreibeDatei(ordner / "config.cfg", "[skinsettings]\nwebpath=http://x\n");
-    EXPECT_EQ(konfiguration.Lies(Konfiguration::kWebPath), "http://x");
+    EXPECT_EQ(konfiguration.Read(Configuration::kWebPath), "http://x");
 }
 
 TEST(Konfiguration, UnbrauchbareWerteZaehlenAlsStandard) {
     const Ordner ordner;
-    const Konfiguration konfiguration(ordner / "");
+    const Configuration konfiguration(ordner / "");
     for (const auto& [text, modus] :
          {std::pair("2", 2), std::pair("0", 0), std::pair("255", 255), std::pair("256", 1),
           std::pair("-1", 1), std::pair("", 1), std::pair("zwei", 1), std::pair("2,5", 1)}) {
-        ASSERT_TRUE(konfiguration.Schreibe(
-            {{Konfiguration::kMode, text}, {Konfiguration::kBaulistenwecker, text}}));
-        EXPECT_EQ(konfiguration.Skinmodus(), modus) << text;
-        EXPECT_FALSE(konfiguration.IstAn(Konfiguration::kBaulistenwecker)) << text;
+        ASSERT_TRUE(konfiguration.Write(
+            {{Configuration::kMode, text}, {Configuration::kBaulistenwecker, text}}));
+        EXPECT_EQ(konfiguration.SkinMode(), modus) << text;
+        EXPECT_FALSE(konfiguration.IsOn(Configuration::kBaulistenwecker)) << text;
     }
 }
 
 TEST(Konfiguration, KlangVomProgrammordnerOderGanzerPfad) {
     const Ordner ordner;
-    const Konfiguration konfiguration(ordner / "");
+    const Configuration konfiguration(ordner / "");
     EXPECT_EQ(konfiguration.Alertsound(), ordner / "mfx/alert.wav");
     struct Fall {
         const char* Wert;
@@ -85,7 +85,7 @@ TEST(Konfiguration, KlangVomProgrammordnerOderGanzerPfad) {
           Fall{"..\\gong.wav", "../gong.wav", "../gong.wav"},
           Fall{"/töne/a\\b.wav", "", "töne/a/b.wav"}, Fall{"C:\\töne\\x.wav", "C:/töne/x.wav", ""},
           Fall{"C:x.wav", "C:x.wav", "x.wav"}, Fall{"\\\\rechner\\x.wav", "rechner/x.wav", ""}}) {
-        ASSERT_TRUE(konfiguration.Schreibe({{Konfiguration::kAlertsound, wert}}));
+        ASSERT_TRUE(konfiguration.Write({{Configuration::kAlertsound, wert}}));
         const std::string_view ziel = kWindows ? windows : posix;
         const auto alsPfad = [](std::string_view text) {
             return std::filesystem::path(std::u8string(text.begin(), text.end()));
@@ -99,17 +99,17 @@ TEST(Konfiguration, KlangVomProgrammordnerOderGanzerPfad) {
 TEST(Konfiguration, SchreibtNebenFremdeZeilenUndVerliertSichOhneOrdner) {
     const Ordner ordner;
     SchreibeDatei(ordner / "config.cfg", "; von Hand\r\n[Settings]\r\nEigenes=1\r\n");
-    ASSERT_TRUE(Konfiguration(ordner / "").Schreibe({{Konfiguration::kFirststart, "0"}}));
+    ASSERT_TRUE(Configuration(ordner / "").Write({{Configuration::kFirststart, "0"}}));
     EXPECT_EQ(LiesDatei(ordner / "config.cfg"),
               "; von Hand\r\n[Settings]\r\nEigenes=1\r\nFirststart=0\r\n");
     // A folder can have such a name.
-    ASSERT_TRUE(Konfiguration(ordner / "")
-                    .Schreibe({{Konfiguration::kPath, "a\n[Settings]\nFirststart=1"}}));
-    EXPECT_EQ(Konfiguration(ordner / "").Lies(Konfiguration::kPath), "a");
-    EXPECT_EQ(Konfiguration(ordner / "").Lies(Konfiguration::kFirststart), "0");
-    const Konfiguration ohne(ordner / "fehlt");
-    EXPECT_FALSE(ohne.Schreibe({{Konfiguration::kFirststart, "0"}}));
-    EXPECT_EQ(ohne.Lies(Konfiguration::kFirststart), "1");
+    ASSERT_TRUE(
+        Configuration(ordner / "").Write({{Configuration::kPath, "a\n[Settings]\nFirststart=1"}}));
+    EXPECT_EQ(Configuration(ordner / "").Read(Configuration::kPath), "a");
+    EXPECT_EQ(Configuration(ordner / "").Read(Configuration::kFirststart), "0");
+    const Configuration ohne(ordner / "fehlt");
+    EXPECT_FALSE(ohne.Write({{Configuration::kFirststart, "0"}}));
+    EXPECT_EQ(ohne.Read(Configuration::kFirststart), "1");
 }
 
 TEST(Wecker, KlingeltAufDieSekunde) {
@@ -174,7 +174,7 @@ void LegeDatenAn(const std::filesystem::path& ordner) {
 TEST(Programmordner, BeimProgrammWennDortGeschriebenWerdenKann) {
     const Ordner ordner;
     LegeDatenAn(ordner / "bin");
-    EXPECT_EQ(BestimmeProgrammordner(ordner / "bin", ordner / "nutzer").Ordner, ordner / "bin");
+    EXPECT_EQ(ResolveProgramFolder(ordner / "bin", ordner / "nutzer").TempFolder, ordner / "bin");
     EXPECT_FALSE(std::filesystem::exists(ordner / "nutzer"));
 }
 
@@ -183,7 +183,7 @@ TEST(Programmordner, EingerichtetesProgrammHatDieDateienBeimNutzer) {
     LegeDatenAn(ordner / "share" / "tarvelin");
     std::filesystem::create_directories(ordner / "bin");
     const auto nutzer = ordner / "nutzer" / "Tarvelin";
-    EXPECT_EQ(BestimmeProgrammordner(ordner / "bin", nutzer).Ordner, nutzer);
+    EXPECT_EQ(ResolveProgramFolder(ordner / "bin", nutzer).TempFolder, nutzer);
     EXPECT_EQ(LiesDatei(nutzer / "saves" / "basic.tvf"), "plan");
     EXPECT_TRUE(std::filesystem::is_directory(nutzer / "img/skins/temp_webskin/images"));
 
@@ -192,7 +192,7 @@ TEST(Programmordner, EingerichtetesProgrammHatDieDateienBeimNutzer) {
     SchreibeDatei(nutzer / "config.cfg", "[Settings]\r\nFirststart=0\r\n");
     std::filesystem::remove(nutzer / "img" / "icon.ico");
     std::filesystem::remove(nutzer / "saves" / "basic.tvf");
-    EXPECT_EQ(BestimmeProgrammordner(ordner / "bin", nutzer).Ordner, nutzer);
+    EXPECT_EQ(ResolveProgramFolder(ordner / "bin", nutzer).TempFolder, nutzer);
     EXPECT_EQ(LiesDatei(nutzer / "mfx" / "alert.wav"), "eigener Ton");
     EXPECT_EQ(LiesDatei(nutzer / "img" / "icon.ico"), "icon");
     EXPECT_FALSE(std::filesystem::exists(nutzer / "saves" / "basic.tvf"));
@@ -208,23 +208,23 @@ TEST(Programmordner, OhneNutzerordnerDienenDieEigenenDateien) {
     SchreibeDatei(ordner / "voll" / "mfx", "");
     // There is none, it can't be made, or has no room for all; nothing is thrown.
     for (const auto& nutzer : {std::filesystem::path(), ordner / "datei" / "x", ordner / "voll"}) {
-        const Programmordner gewaehlt = BestimmeProgrammordner(ordner / "bin", nutzer);
-        EXPECT_EQ(gewaehlt.Ordner, eigene) << nutzer;
-        EXPECT_FALSE(gewaehlt.KannBehalten) << nutzer;
+        const ProgramFolder gewaehlt = ResolveProgramFolder(ordner / "bin", nutzer);
+        EXPECT_EQ(gewaehlt.TempFolder, eigene) << nutzer;
+        EXPECT_FALSE(gewaehlt.canKeep) << nutzer;
     }
     // Where plans lie the user keeps them in sight.
     for (const char* const datei : {"basic.tvf", "meiner.tvf"}) {
         SchreibeDatei(ordner / "voll" / "saves" / datei, "plan");
-        const Programmordner gewaehlt = BestimmeProgrammordner(ordner / "bin", ordner / "voll");
-        EXPECT_EQ(gewaehlt.Ordner == ordner / "voll", datei == std::string("meiner.tvf"));
-        EXPECT_FALSE(gewaehlt.KannBehalten) << "what is new there has no room";
+        const ProgramFolder gewaehlt = ResolveProgramFolder(ordner / "bin", ordner / "voll");
+        EXPECT_EQ(gewaehlt.TempFolder == ordner / "voll", datei == std::string("meiner.tvf"));
+        EXPECT_FALSE(gewaehlt.canKeep) << "what is new there has no room";
     }
 }
 
 TEST(Schreibschutz, AendertImOrdnerNichtsUndSonstAlles) {
     const Ordner ordner;
     LegeDatenAn(ordner / "eigene");
-    const Schreibschutz schutz({ordner / "eigene"});
+    const ProtectedFileSystem schutz({ordner / "eigene"});
     if (!kWindows) {
         std::filesystem::create_directory_symlink(ordner / "eigene", ordner / "umweg");
     }
@@ -232,35 +232,35 @@ TEST(Schreibschutz, AendertImOrdnerNichtsUndSonstAlles) {
         const auto plan = ordner / wo / "saves" / "basic.tvf";
         EXPECT_FALSE(SaveBauliste(plan, PlanAus("GM"), schutz));
         EXPECT_FALSE(SaveBauliste(ordner / wo / "neu.tvf", PlanAus("GM"), schutz));
-        EXPECT_FALSE(schutz.Loesche(plan));
-        EXPECT_FALSE(schutz.BenenneUm(plan, ordner / "weg.tvf"));
-        EXPECT_EQ(LiesDatei(plan, 100, schutz), "plan");
+        EXPECT_FALSE(schutz.Remove(plan));
+        EXPECT_FALSE(schutz.Rename(plan, ordner / "weg.tvf"));
+        EXPECT_EQ(ReadFileToString(plan, 100, schutz), "plan");
     }
     EXPECT_TRUE(SaveBauliste(ordner / "eigene-plaene.tvf", PlanAus("GM"), schutz));
 }
 
 TEST(Programmordner, DateidialogeBeginnenNieIrgendwo) {
     const Ordner ordner;
-    EXPECT_EQ(Planordner(ordner / "", Platte()), ordner / "saves") << "made anew";
+    EXPECT_EQ(PlanFolder(ordner / "", NativeFileSystem()), ordner / "saves") << "made anew";
     EXPECT_TRUE(std::filesystem::is_directory(ordner / "saves"));
     std::filesystem::remove(ordner / "saves");
     SchreibeDatei(ordner / "saves", "");
-    EXPECT_EQ(Planordner(ordner / "", Platte()).string() + "/", (ordner / "").string());
+    EXPECT_EQ(PlanFolder(ordner / "", NativeFileSystem()).string() + "/", (ordner / "").string());
 }
 
 TEST(Programmordner, SperrtWasEinAndererBehaelt) {
     const Ordner ordner;
     std::filesystem::create_directory(ordner / "saves");
-    const Programmordner programmordner{.Ordner = ordner / ""};
-    const Schreibschutz dateien(programmordner.Gesperrte(true));
+    const ProgramFolder programmordner{.TempFolder = ordner / ""};
+    const ProtectedFileSystem dateien(programmordner.ReadOnlyPaths(true));
     Autosave autosave(ordner / "", dateien);
-    autosave.SchreibeZuletzt(PlanAus("GM"));
-    autosave.BewahreErsetzten(PlanAus("GM"));
-    EXPECT_FALSE(Konfiguration(ordner / "", dateien).Schreibe({{Konfiguration::kFirststart, "0"}}));
+    autosave.WriteAtExit(PlanAus("GM"));
+    autosave.KeepReplaced(PlanAus("GM"));
+    EXPECT_FALSE(Configuration(ordner / "", dateien).Write({{Configuration::kFirststart, "0"}}));
     EXPECT_EQ(ordner.Eintraege(), 1U);
     EXPECT_TRUE(std::filesystem::is_empty(ordner / "saves"));
     EXPECT_TRUE(SaveBauliste(ordner / "saves" / "meiner.tvf", PlanAus("GM"), dateien));
-    EXPECT_TRUE(programmordner.Gesperrte(false).empty());
+    EXPECT_TRUE(programmordner.ReadOnlyPaths(false).empty());
 }
 
 TEST(Autosave, BewahrtDieLetztenFuenfErsetzten) {
@@ -270,8 +270,8 @@ TEST(Autosave, BewahrtDieLetztenFuenfErsetzten) {
         std::string zahlen;
         for (const char* const n : {"1", "2", "3", "4", "5", "6"}) {
             const auto profil =
-                Profil::Lade(ordner / "saves" / (std::string("ersetzt-") + n + ".tvf"));
-            zahlen += profil ? profil->Lies("Bauliste", "ItemCount", "?") : "-";
+                IniFile::Load(ordner / "saves" / (std::string("ersetzt-") + n + ".tvf"));
+            zahlen += profil ? profil->ReadINI("Bauliste", "ItemCount", "?") : "-";
         }
         return zahlen;
     };
@@ -279,22 +279,22 @@ TEST(Autosave, BewahrtDieLetztenFuenfErsetzten) {
     for (const char* const erwartet :
          {"1-----", "21----", "321---", "4321--", "54321-", "65432-"}) {
         codes += codes.empty() ? "GM" : " GM";
-        autosave.BewahreErsetzten(PlanAus(codes));
-        autosave.BewahreErsetzten(PlanAus(codes));
-        autosave.BewahreErsetzten(PlanAus(""));
+        autosave.KeepReplaced(PlanAus(codes));
+        autosave.KeepReplaced(PlanAus(codes));
+        autosave.KeepReplaced(PlanAus(""));
         EXPECT_EQ(liegen(), erwartet) << "neither twice nor empty";
     }
     std::filesystem::remove(ordner / "saves" / "ersetzt-3.tvf");
-    autosave.BewahreErsetzten(PlanAus("GM"));
+    autosave.KeepReplaced(PlanAus("GM"));
     EXPECT_EQ(liegen(), "16532-") << "a gap is filled before the oldest goes";
     // Whichever call fails, all that was there is there, and mostly the new one as well.
     for (int n = 1;; ++n) {
         std::filesystem::remove_all(ordner / "saves");
         for (const char* const plan : {"GM", "GM GM", "GM GM GM"}) {
-            autosave.BewahreErsetzten(PlanAus(plan));
+            autosave.KeepReplaced(PlanAus(plan));
         }
         const Stoersystem kaputt(n, Ausfallart::Einmal);
-        Autosave(ordner / "", kaputt).BewahreErsetzten(PlanAus("GM GM GM GM"));
+        Autosave(ordner / "", kaputt).KeepReplaced(PlanAus("GM GM GM GM"));
         std::string da = liegen();
         for (const char plan : {'1', '2', '3'}) {
             EXPECT_NE(da.find(plan), std::string::npos) << da << kaputt.Gestoert();
@@ -304,8 +304,8 @@ TEST(Autosave, BewahrtDieLetztenFuenfErsetzten) {
             break;
         }
     }
-    EXPECT_TRUE(autosave.IstEigene(ordner / "saves" / ".." / "saves" / "ersetzt-3.tvf"));
-    EXPECT_FALSE(autosave.IstEigene(ordner / "saves" / "ersetzt-6.tvf"));
+    EXPECT_TRUE(autosave.IsOwnFile(ordner / "saves" / ".." / "saves" / "ersetzt-3.tvf"));
+    EXPECT_FALSE(autosave.IsOwnFile(ordner / "saves" / "ersetzt-6.tvf"));
 }
 
 /// The steps of a session, and the plans that lie there after each; "" for none.
@@ -313,8 +313,8 @@ TEST(Autosave, BewahrtDenPlanDerLetztenSitzung) {
     const Ordner ordner;
     std::filesystem::create_directory(ordner / "saves");
     const auto zeilen = [&](const char* datei) {
-        const auto profil = Profil::Lade(ordner / "saves" / datei);
-        return profil ? profil->Lies("Bauliste", "ItemCount", "?") : "";
+        const auto profil = IniFile::Load(ordner / "saves" / datei);
+        return profil ? profil->ReadINI("Bauliste", "ItemCount", "?") : "";
     };
     struct Fall {
         const char* Codes;
@@ -331,7 +331,7 @@ TEST(Autosave, BewahrtDenPlanDerLetztenSitzung) {
         if (neueSitzung) {
             autosave.emplace(ordner / "");
         }
-        EXPECT_TRUE(autosave->Schreibe(PlanAus(codes)));
+        EXPECT_TRUE(autosave->Write(PlanAus(codes)));
         EXPECT_EQ(zeilen("autosave.tvf"), plan);
         EXPECT_EQ(zeilen("autosave-vorige.tvf"), vorige);
     }
@@ -339,7 +339,7 @@ TEST(Autosave, BewahrtDenPlanDerLetztenSitzung) {
     const auto datei = ordner / "saves" / "autosave.tvf";
     const Stoersystem kaputt(1, Ausfallart::AllesFuerImmer);
     Autosave gestoert(ordner / "", kaputt);
-    gestoert.SchreibeGeaenderten(PlanAus("GM"));
+    gestoert.WriteIfChanged(PlanAus("GM"));
     EXPECT_EQ(kaputt.Gestoert(), "LegeOrdnerAn");
     // Where the last plan can't be kept under its name it gets another, and else stays until the
     // end.
@@ -348,15 +348,15 @@ TEST(Autosave, BewahrtDenPlanDerLetztenSitzung) {
         std::filesystem::create_directories(ordner / "saves" / name / "x");
     };
     versperre("autosave-vorige.tvf");
-    ASSERT_TRUE(autosave->Schreibe(PlanAus("GM GM GM")));
-    EXPECT_TRUE(Autosave(ordner / "").Schreibe(PlanAus("GM GM")));
+    ASSERT_TRUE(autosave->Write(PlanAus("GM GM GM")));
+    EXPECT_TRUE(Autosave(ordner / "").Write(PlanAus("GM GM")));
     EXPECT_EQ(zeilen("autosave-vorige-2.tvf"), "3");
     versperre("autosave-vorige-2.tvf");
     Autosave ohneVorige(ordner / "");
-    EXPECT_FALSE(ohneVorige.Schreibe(PlanAus("GM")));
+    EXPECT_FALSE(ohneVorige.Write(PlanAus("GM")));
     EXPECT_EQ(zeilen("autosave.tvf"), "2");
-    ohneVorige.SchreibeGeaenderten(PlanAus("GM"));
-    ohneVorige.SchreibeZuletzt(PlanAus("GM"));
+    ohneVorige.WriteIfChanged(PlanAus("GM"));
+    ohneVorige.WriteAtExit(PlanAus("GM"));
     EXPECT_EQ(zeilen("autosave.tvf"), "1");
 }
 

@@ -11,12 +11,12 @@ struct Ladung {
     bool Gelesen;
 
     explicit Ladung(std::string_view bytes)
-        : Gelesen(LadePlan(Profil(bytes), Geladen, RunConditions(), Meldungen)) {}
+        : Gelesen(ReadPlan(IniFile(bytes), Geladen, RunConditions(), Meldungen)) {}
 };
 
 std::string Bytes(const Plan& plan, std::string_view vorher = "") {
-    Profil profil(vorher);
-    SchreibePlan(plan, profil);
+    IniFile profil(vorher);
+    WritePlan(plan, profil);
     return profil.Bytes();
 }
 
@@ -50,7 +50,7 @@ TEST(Planablage, HatDasFormat) {
     EXPECT_NE(ueber.find("ItemCount=2\r\nItem_001=GM\r\nItem_002=GS\r\nItem_003=GX:8:10:5"),
               std::string::npos);
     EXPECT_EQ(Ladung(ueber).Geladen.LV_Bauliste.Rows().size(), 2U);
-    EXPECT_EQ(FenstertitelMit("/ein/Ordner/x.y.tvf"),
+    EXPECT_EQ(WindowTitleFor("/ein/Ordner/x.y.tvf"),
               "Tarvelin  |  Kelva Aufbau-Simulator      ( x.y.tvf )");
 }
 
@@ -87,9 +87,9 @@ TEST(Planablage, HoertAmErstenUnbrauchbarenWertAuf) {
                   std::vector<std::string>{"Die Bauliste konnte nicht geladen werden..."});
         EXPECT_EQ(ladung.Geladen.LV_Bauliste.Rows().size(), fall.Zeilen);
         EXPECT_EQ(ladung.Geladen.LV_Schlafzeiten.size(), fall.Schlafzeiten);
-        EXPECT_EQ(Ladehindernis(Profil(Mit(fall.Alt, fall.Neu))), fall.Hindernis);
+        EXPECT_EQ(LoadObstacle(IniFile(Mit(fall.Alt, fall.Neu))), fall.Hindernis);
     }
-    EXPECT_EQ(Ladehindernis(Profil(kBeispiel)), "");
+    EXPECT_EQ(LoadObstacle(IniFile(kBeispiel)), "");
     const Ladung zuviel(Mit("ItemCount=3", "ItemCount=99999999999999999999"));
     EXPECT_EQ(zuviel.Meldungen.Texte.size(), 1U);
 }
@@ -128,8 +128,8 @@ TEST(Planablage, BleibtUtf16) {
     const auto datei = ordner / "plan.tvf";
     const std::string golden = LiesDatei(TARVELIN_GOLDEN "/regelwidrig-13.tvf");
     const Ladung original(golden);
-    Profil ueber(golden);
-    SchreibePlan(Beispiel(), ueber);
+    IniFile ueber(golden);
+    WritePlan(Beispiel(), ueber);
     const std::string neu = ueber.Bytes();
     for (const bool hochVorn : {false, true}) {
         SchreibeDatei(datei, InUtf16({golden.begin(), golden.end()}, hochVorn));

@@ -57,8 +57,8 @@ class Mitschrift final : public RunObserver {
 };
 
 std::string Bytes(const Plan& plan) {
-    Profil profil("");
-    SchreibePlan(plan, profil);
+    IniFile profil("");
+    WritePlan(plan, profil);
     return profil.Bytes();
 }
 
@@ -248,7 +248,7 @@ std::string Zustand(const BuildList& liste) {
 
 std::string Ergebnis(const Plan& plan) {
     std::ostringstream strom;
-    const Planlauf lauf("plan.tvf", Profil(Bytes(plan)));
+    const PlanRun lauf("plan.tvf", IniFile(Bytes(plan)));
     SchreibeText(strom, lauf);
     SchreibeCsv(strom, lauf);
     strom << JsonText(lauf);
@@ -264,8 +264,8 @@ Befund PruefeSpeichern(const Plan& plan) {
     Stumm meldungen;
     Plan vorher;
     Plan nachher;
-    if (!LadePlan(Profil(Bytes(plan)), vorher, bedingungen, meldungen) ||
-        !LadePlan(Profil(Bytes(vorher)), nachher, bedingungen, meldungen)) {
+    if (!ReadPlan(IniFile(Bytes(plan)), vorher, bedingungen, meldungen) ||
+        !ReadPlan(IniFile(Bytes(vorher)), nachher, bedingungen, meldungen)) {
         return "a saved plan can't be loaded";
     }
     if (Bytes(nachher) != Bytes(plan) || nachher.LV_Schlafzeiten != plan.LV_Schlafzeiten) {
@@ -395,13 +395,13 @@ Befund PruefeZeitsprung(const Plan& plan) {
 }
 
 Befund PruefeWiederholung(const Plan& plan) {
-    Planlauf lauf("plan.tvf", Profil(Bytes(plan)));
+    PlanRun lauf("plan.tvf", IniFile(Bytes(plan)));
     const std::string einmal = JsonText(lauf);
-    if (lauf.Gelaufen) {
+    if (lauf.hasRun) {
         Stumm meldungen;
-        lauf.Lauf.ResetSimulation(BedingungenVon(lauf.Plan));
-        RunSimulation(lauf.Plan.LV_Bauliste.Orders().All(), lauf.Lauf, meldungen);
-        lauf.Texte.AfterRun(lauf.Lauf.state);
+        lauf.run.ResetSimulation(BedingungenVon(lauf.plan));
+        RunSimulation(lauf.plan.LV_Bauliste.Orders().All(), lauf.run, meldungen);
+        lauf.texts.AfterRun(lauf.run.state);
     }
     return JsonText(lauf) == einmal ? "" : "a second run has another result";
 }

@@ -35,7 +35,7 @@ class Ausfall : public testing::TestWithParam<Ausfallart> {
                 EXPECT_EQ(m_ordner.Eintraege(), 2U);
             }
             // What a failed deletion left goes with the next save.
-            EXPECT_TRUE(ErsetzeDatei(m_ordner / "plan.tvf", kAlt));
+            EXPECT_TRUE(WriteFileAtomically(m_ordner / "plan.tvf", kAlt));
             EXPECT_EQ(m_ordner.Eintraege(), 2U);
         }
         return n - 2;
@@ -48,11 +48,11 @@ class Ausfall : public testing::TestWithParam<Ausfallart> {
 };
 
 TEST_P(Ausfall, PlanIstDerAlteOderDerNeue) {
-    Profil erwartet(kAlt);
-    SchreibePlan(m_plan, erwartet);
+    IniFile erwartet(kAlt);
+    WritePlan(m_plan, erwartet);
     bool gespeichert = false;
     const int ausfaelle = Probiere(
-        [&](const Dateisystem& system) {
+        [&](const FileSystem& system) {
             gespeichert = SaveBauliste(m_ordner / "plan.tvf", m_plan, system);
         },
         [&] {
@@ -68,15 +68,15 @@ TEST_P(Ausfall, PlanIstDerAlteOderDerNeue) {
 }
 
 TEST_P(Ausfall, KonfigurationHatAlleOderKeinenNeuenWert) {
-    const Konfiguration::Werte werte{{Konfiguration::kMode, "3"},
-                                     {Konfiguration::kFirststart, "0"}};
-    Profil neu(kAlt);
+    const Configuration::Values werte{{Configuration::kMode, "3"},
+                                      {Configuration::kFirststart, "0"}};
+    IniFile neu(kAlt);
     for (const auto& [key, wert] : werte) {
-        neu.Schreibe(key.Section, key.Key, wert);
+        neu.WriteINI(key.Section, key.Key, wert);
     }
     Probiere(
-        [&](const Dateisystem& system) {
-            static_cast<void>(Konfiguration(m_ordner / "", system).Schreibe(werte));
+        [&](const FileSystem& system) {
+            static_cast<void>(Configuration(m_ordner / "", system).Write(werte));
         },
         [&] {
             const std::string config = LiesDatei(m_ordner / "config.cfg");

@@ -19,13 +19,13 @@ void Still(const SearchProgress& /*stand*/) {}
 constexpr SearchBudget kEineKette{.tries = SearchBudget::kChainLength};
 
 /// The starter plan.
-const Planlauf& Startlauf() {
-    static const Planlauf lauf(std::filesystem::path(TARVELIN_SOURCE_DIR) / "data/saves/basic.tvf");
+const PlanRun& Startlauf() {
+    static const PlanRun lauf(std::filesystem::path(TARVELIN_SOURCE_DIR) / "data/saves/basic.tvf");
     return lauf;
 }
 
 const Plan& Startplan() {
-    return Startlauf().Plan;
+    return Startlauf().plan;
 }
 
 PlanTask Stelle(const Plan& plan, const SearchRequest& wunsch) {
@@ -36,10 +36,10 @@ PlanTask Stelle(const Plan& plan, const SearchRequest& wunsch) {
 }
 
 /// As a player finds the plan again: written to a file, loaded and run.
-Planlauf Wiedergefunden(const Plan& plan, const PlanTask& aufgabe, const Solution& fund) {
-    Profil profil("");
-    SchreibePlan(WithOrders(plan, fund.orders, aufgabe.pause), profil);
-    return {"gefunden", Profil(profil.Bytes())};
+PlanRun Wiedergefunden(const Plan& plan, const PlanTask& aufgabe, const Solution& fund) {
+    IniFile profil("");
+    WritePlan(WithOrders(plan, fund.orders, aufgabe.pause), profil);
+    return {"gefunden", IniFile(profil.Bytes())};
 }
 
 bool HaeltRegeln(const std::vector<Order>& orders) {
@@ -60,9 +60,9 @@ std::map<std::string, int> Gezaehlt(const std::vector<Order>& orders) {
 }
 
 /// The moments of the starts of a run.
-std::vector<DateTime> Startzeiten(const Planlauf& lauf) {
+std::vector<DateTime> Startzeiten(const PlanRun& lauf) {
     std::vector<DateTime> zeiten;
-    for (const ScheduleEntry& zeile : lauf.Lauf.LV_Bauzeiten) {
+    for (const ScheduleEntry& zeile : lauf.run.LV_Bauzeiten) {
         zeiten.push_back(zeile.start);
     }
     return zeiten;
@@ -76,10 +76,10 @@ void Pruefe(const Plan& plan, const PlanTask& aufgabe, const SearchResult& ergeb
     if (aufgabe.before) {
         EXPECT_LE(fund.score.duration, aufgabe.before->score.duration);
     }
-    const Planlauf lauf = Wiedergefunden(plan, aufgabe, fund);
-    ASSERT_TRUE(lauf.Gelaufen);
-    EXPECT_EQ(lauf.Lauf.state.secsgone.Seconds(), fund.score.duration);
-    EXPECT_TRUE(lauf.Meldungen.empty());
+    const PlanRun lauf = Wiedergefunden(plan, aufgabe, fund);
+    ASSERT_TRUE(lauf.hasRun);
+    EXPECT_EQ(lauf.run.state.secsgone.Seconds(), fund.score.duration);
+    EXPECT_TRUE(lauf.messages.empty());
     if (aufgabe.task.kind == SearchTask::Kind::Sequence) {
         EXPECT_EQ(Gezaehlt(fund.orders), Gezaehlt(aufgabe.task.orders));
         for (std::size_t i = 0; i < fund.orders.size(); ++i) {
@@ -116,10 +116,10 @@ TEST(Suche, HaeltWasSieSagt) {
     };
     for (const auto& [name, wunsch] : wuensche) {
         SCOPED_TRACE(name);
-        const Planlauf lauf(std::filesystem::path(TARVELIN_GOLDEN) / (std::string(name) + ".tvf"));
-        ASSERT_TRUE(lauf.Geladen);
-        const PlanTask aufgabe = Stelle(lauf.Plan, wunsch);
-        Pruefe(lauf.Plan, aufgabe, Search(aufgabe, kEineKette, kWeiter, Still));
+        const PlanRun lauf(std::filesystem::path(TARVELIN_GOLDEN) / (std::string(name) + ".tvf"));
+        ASSERT_TRUE(lauf.loaded);
+        const PlanTask aufgabe = Stelle(lauf.plan, wunsch);
+        Pruefe(lauf.plan, aufgabe, Search(aufgabe, kEineKette, kWeiter, Still));
     }
 }
 

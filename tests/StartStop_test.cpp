@@ -147,7 +147,7 @@ TEST_F(Fensterleben, OrdnerGehoertDemErstenProgramm) {
     erstes->GibZurueck();
     EXPECT_FALSE(Ordnerschloss(m_ordner / "").HatEinAnderer());
     // A dead holder: no process has this number, half a lock, another machine, our own number.
-    const std::string eigene = std::to_string(Platte().Prozess());
+    const std::string eigene = std::to_string(NativeFileSystem().ProcessId());
     const std::string name = QCoreApplication::applicationName().toStdString();
     for (const std::string& schloss :
          {std::string("4194996\ntarvelin\n\n"), std::string(),
@@ -296,8 +296,8 @@ TEST_F(Fensterleben, LadenUndSpeichernUeberDenDialog) {
 
 TEST_F(Fensterleben, ErsetzteWerdenBewahrtWennSieNirgendsLiegen) {
     const auto erster = [this] {
-        const auto profil = Profil::Lade(m_ordner / "saves" / "ersetzt-1.tvf");
-        return profil ? profil->Lies("Bauliste", "ItemCount", "?") : "";
+        const auto profil = IniFile::Load(m_ordner / "saves" / "ersetzt-1.tvf");
+        return profil ? profil->ReadINI("Bauliste", "ItemCount", "?") : "";
     };
     m_boxen.Datei = "meiner.tvf";
     Lade("GS GM");

@@ -40,7 +40,8 @@ class Ordner {
   public:
     Ordner() {
         const std::filesystem::path ort = testing::TempDir();
-        const std::string name = "tarvelin-test-" + std::to_string(Platte().Prozess()) + "-";
+        const std::string name =
+            "tarvelin-test-" + std::to_string(NativeFileSystem().ProcessId()) + "-";
         int n = 0;
         do {
             m_pfad = ort / (name + std::to_string(++n));

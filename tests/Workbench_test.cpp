@@ -392,8 +392,8 @@ TEST_F(Werkbank, FolgtDenFarbenDesDesktops) {
 }
 
 TEST_F(Werkbank, SuchtUndUebernimmtAlsEinenSchritt) {
-    const Planlauf starter(std::filesystem::path(TARVELIN_SOURCE_DIR) / "data/saves/basic.tvf");
-    Lade(starter.Plan);
+    const PlanRun starter(std::filesystem::path(TARVELIN_SOURCE_DIR) / "data/saves/basic.tvf");
+    Lade(starter.plan);
     m_jetzt = *ParseDateTime("03.12.2026 12:00:30");
     const auto bytes = [this] {
         // A save keeps what else a file holds.
@@ -422,7 +422,7 @@ TEST_F(Werkbank, SuchtUndUebernimmtAlsEinenSchritt) {
     Dort<QAbstractButton>("Cmd_Uebernehmen").click();
     const std::string nachher = bytes();
     EXPECT_NE(nachher, vorher);
-    EXPECT_EQ(m_fenster.DerPlan().LV_Bauliste.Tags()[40], starter.Plan.LV_Bauliste.Tags()[40]);
+    EXPECT_EQ(m_fenster.DerPlan().LV_Bauliste.Tags()[40], starter.plan.LV_Bauliste.Tags()[40]);
     EXPECT_EQ(m_fenster.DerPlan().LV_Schlafzeiten.front().Startzeit, "03.12.2026 10:30");
     EXPECT_EQ(Sagt("LBL_Dauer"), Text("LBL_Timegone"));
     const auto dauer = TimeSpanText(m_fenster.DerLauf().state.secsgone.Seconds());
@@ -432,7 +432,7 @@ TEST_F(Werkbank, SuchtUndUebernimmtAlsEinenSchritt) {
     Taste(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(bytes(), vorher);
     EXPECT_EQ(Sagt("LBL_Aenderung"), "+" + aenderung.substr(1)) << "told once, of the whole plan";
-    EXPECT_EQ(Zeilen("LV_Schlafzeiten"), static_cast<int>(starter.Plan.LV_Schlafzeiten.size()));
+    EXPECT_EQ(Zeilen("LV_Schlafzeiten"), static_cast<int>(starter.plan.LV_Schlafzeiten.size()));
     Taste(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(bytes(), nachher);
     // A plan that was edited meanwhile isn't overwritten unasked.

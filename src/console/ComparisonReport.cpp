@@ -22,8 +22,8 @@ Zeilen MitKopf(std::vector<std::string> kopf, const std::vector<ComparisonText>&
     return zeilen;
 }
 
-json AlsJson(const Planlauf& plan, const RunSummary& zahlen) {
-    return {{"Plan", plan.Name},
+json AlsJson(const PlanRun& plan, const RunSummary& zahlen) {
+    return {{"Plan", plan.name},
             {"Sekunden", zahlen.duration},
             {"VerbauteRessourcen", zahlen.VerbauteRessourcen},
             {"Metall", FourDecimalsText(zahlen.stock[Resource::Metall])},
@@ -42,11 +42,11 @@ json Sekunden(const std::optional<SimTime>& moment) {
 
 }  // namespace
 
-void SchreibeVergleich(std::ostream& strom, const Planlauf& a, const Planlauf& b) {
-    const Comparison vergleich = Compare(a.Abgespielt(), b.Abgespielt());
+void SchreibeVergleich(std::ostream& strom, const PlanRun& a, const PlanRun& b) {
+    const Comparison vergleich = Compare(a.Trace(), b.Trace());
     constexpr const char* kUnterschied = "Unterschied";
     const std::vector<std::size_t> rechts{1, 2, 3};
-    SchreibeTabelle(strom, MitKopf({"", a.Name, b.Name, kUnterschied}, SummaryTexts(vergleich)),
+    SchreibeTabelle(strom, MitKopf({"", a.name, b.name, kUnterschied}, SummaryTexts(vergleich)),
                     rechts);
     strom << '\n';
     const auto auftraege = OrderDifferences(vergleich);
@@ -54,11 +54,11 @@ void SchreibeVergleich(std::ostream& strom, const Planlauf& a, const Planlauf& b
         strom << "Alle Aufträge beginnen zur selben Zeit.\n";
         return;
     }
-    SchreibeTabelle(strom, MitKopf({"Auftrag", a.Name, b.Name, kUnterschied}, auftraege), rechts);
+    SchreibeTabelle(strom, MitKopf({"Auftrag", a.name, b.name, kUnterschied}, auftraege), rechts);
 }
 
-std::string VergleichsJson(const Planlauf& a, const Planlauf& b) {
-    const Comparison vergleich = Compare(a.Abgespielt(), b.Abgespielt());
+std::string VergleichsJson(const PlanRun& a, const PlanRun& b) {
+    const Comparison vergleich = Compare(a.Trace(), b.Trace());
     json unterschiede = json::array();
     for (const ComparisonRow& zeile : vergleich.differences) {
         const auto unterschied = zeile.Difference();

@@ -9,9 +9,9 @@
 namespace tarvelin {
 
 /// Both have been run.
-void SchreibeVergleich(std::ostream& strom, const Planlauf& a, const Planlauf& b);
+void SchreibeVergleich(std::ostream& strom, const PlanRun& a, const PlanRun& b);
 
 /// One object.
-[[nodiscard]] std::string VergleichsJson(const Planlauf& a, const Planlauf& b);
+[[nodiscard]] std::string VergleichsJson(const PlanRun& a, const PlanRun& b);
 
 }  // namespace tarvelin

@@ -10,15 +10,15 @@ namespace tarvelin {
 
 /// Aligned German text: the timetable with the run's own reasons, then duration, stocks, energy and
 /// points.
-void SchreibeText(std::ostream& strom, const Planlauf& lauf);
+void SchreibeText(std::ostream& strom, const PlanRun& lauf);
 
 /// The header row of the spreadsheet, with the byte-order mark that makes it UTF-8.
 void SchreibeCsvKopf(std::ostream& strom);
 /// The rows of the timetable, the plan's file name in front.
-void SchreibeCsv(std::ostream& strom, const Planlauf& lauf);
+void SchreibeCsv(std::ostream& strom, const PlanRun& lauf);
 
 /// One object with the whole plan and the whole result; on request with the history of the stocks
 /// and the orders with their reasons, under `HistoryRecorder`.
-[[nodiscard]] std::string JsonText(const Planlauf& lauf, bool mitVerlauf = false);
+[[nodiscard]] std::string JsonText(const PlanRun& lauf, bool mitVerlauf = false);
 
 }  // namespace tarvelin

@@ -12,9 +12,9 @@ namespace {
 
 using nlohmann::json;
 
-json Meldungen(const Planlauf& lauf) {
+json Meldungen(const PlanRun& lauf) {
     json liste = json::array();
-    for (const Message& meldung : lauf.Meldungen) {
+    for (const Message& meldung : lauf.messages) {
         liste.push_back({{"Text", meldung.text}, {"Titel", meldung.title}});
     }
     return liste;
@@ -126,21 +126,21 @@ json VerlaufVon(const RunTrace& ablauf) {
 
 }  // namespace
 
-std::string JsonText(const Planlauf& lauf, bool mitVerlauf) {
-    const BuildList& liste = lauf.Plan.LV_Bauliste;
+std::string JsonText(const PlanRun& lauf, bool mitVerlauf) {
+    const BuildList& liste = lauf.plan.LV_Bauliste;
     json objekt{{"Meldungen", Meldungen(lauf)},
-                {"Geladen", lauf.Geladen},
-                {"Gelaufen", lauf.Gelaufen},
+                {"Geladen", lauf.loaded},
+                {"Gelaufen", lauf.hasRun},
                 {"Bauliste", Zeilen(liste)},
                 {"ListStufe", JeCode([&](ItemId item) { return liste.Orders().ListStufe(item); })},
                 {"ListFaktor", liste.Orders().ListFaktor()},
-                {"Schlafzeiten", Schlafzeiten(lauf.Plan.LV_Schlafzeiten)}};
-    if (lauf.Gelaufen) {
-        FuegeZustandAn(objekt, lauf.Lauf.state, lauf.Lauf.conditions);
-        FuegeTexteAn(objekt, lauf.Texte);
-        objekt["LV_Bauzeiten"] = Zeittabelle(lauf.Lauf.LV_Bauzeiten);
+                {"Schlafzeiten", Schlafzeiten(lauf.plan.LV_Schlafzeiten)}};
+    if (lauf.hasRun) {
+        FuegeZustandAn(objekt, lauf.run.state, lauf.run.conditions);
+        FuegeTexteAn(objekt, lauf.texts);
+        objekt["LV_Bauzeiten"] = Zeittabelle(lauf.run.LV_Bauzeiten);
         if (mitVerlauf) {
-            objekt["Verlauf"] = VerlaufVon(lauf.Abgespielt());
+            objekt["Verlauf"] = VerlaufVon(lauf.Trace());
         }
     }
     return objekt.dump(1);

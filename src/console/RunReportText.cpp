@@ -31,13 +31,13 @@ std::vector<Zeile> Zeittabelle(const Schedule& bauzeiten,
 }
 
 /// Name and figure of what a run came to.
-std::vector<Zeile> Ergebnisfiguren(const Planlauf& lauf) {
-    const GameState& stand = lauf.Lauf.state;
+std::vector<Zeile> Ergebnisfiguren(const PlanRun& lauf) {
+    const GameState& stand = lauf.run.state;
     return {{"Dauer:", DurationText(stand)},
-            {"Metall:", lauf.Texte.LBL_Met},
-            {"Kristall:", lauf.Texte.LBL_Kris},
-            {"Deuterium:", lauf.Texte.LBL_Deut},
-            {"Energie:", lauf.Texte.LBL_ENergie},
+            {"Metall:", lauf.texts.LBL_Met},
+            {"Kristall:", lauf.texts.LBL_Kris},
+            {"Deuterium:", lauf.texts.LBL_Deut},
+            {"Energie:", lauf.texts.LBL_ENergie},
             {"Punkte:", PointsText(stand)},
             {"Punkte inkl. Res.:", PointsWithStockText(stand)}};
 }
@@ -66,10 +66,10 @@ void SchreibeCsvZeile(std::ostream& strom, const std::string& plan, const Zeile&
 
 }  // namespace
 
-void SchreibeText(std::ostream& strom, const Planlauf& lauf) {
-    strom << lauf.Name << "\n\n";
-    const RunTrace ablauf = lauf.Abgespielt();
-    auto zeilen = Zeittabelle(lauf.Lauf.LV_Bauzeiten, [&](std::size_t i) {
+void SchreibeText(std::ostream& strom, const PlanRun& lauf) {
+    strom << lauf.name << "\n\n";
+    const RunTrace ablauf = lauf.Trace();
+    auto zeilen = Zeittabelle(lauf.run.LV_Bauzeiten, [&](std::size_t i) {
         return DelayText(ablauf, ablauf.starts[i].row);
     });
     zeilen.insert(zeilen.begin(), Kopf("Grund"));
@@ -83,11 +83,11 @@ void SchreibeCsvKopf(std::ostream& strom) {
     SchreibeCsvZeile(strom, "Plan", Kopf("Verzögerung"));
 }
 
-void SchreibeCsv(std::ostream& strom, const Planlauf& lauf) {
-    const Schedule& bauzeiten = lauf.Lauf.LV_Bauzeiten;
+void SchreibeCsv(std::ostream& strom, const PlanRun& lauf) {
+    const Schedule& bauzeiten = lauf.run.LV_Bauzeiten;
     for (const Zeile& zeile :
          Zeittabelle(bauzeiten, [&](std::size_t i) { return bauzeiten[i].VerzoegerungsGrund(); })) {
-        SchreibeCsvZeile(strom, lauf.Name, zeile);
+        SchreibeCsvZeile(strom, lauf.name, zeile);
     }
 }
 

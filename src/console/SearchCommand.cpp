@@ -112,16 +112,16 @@ int FuehreSucheAus(const Suchbefehl& befehl, const std::atomic<bool>& halt) {
     if (const auto* const fehler = std::get_if<std::string>(&wunsch)) {
         return Sage(*fehler, kFalscherAufruf);
     }
-    const Planlauf plan(AlsPfad(befehl.Plandatei));
-    if (!plan.Geladen) {
-        const int code = Sage(Ladefehler().text, kPlanGescheitert);
-        std::cerr << befehl.Plandatei << ": " << Ladehindernis(AlsPfad(befehl.Plandatei)) << '\n';
+    const PlanRun plan(AlsPfad(befehl.Plandatei));
+    if (!plan.loaded) {
+        const int code = Sage(LoadErrorMessage().text, kPlanGescheitert);
+        std::cerr << befehl.Plandatei << ": " << LoadObstacle(AlsPfad(befehl.Plandatei)) << '\n';
         return code;
     }
-    if (plan.Lauf.state.IsAtEndOfClock()) {
+    if (plan.run.state.IsAtEndOfClock()) {
         std::cerr << befehl.Plandatei << ": " << BeyondClockText() << '\n';
     }
-    const auto aufgabe = MakePlanTask(plan.Plan, std::get<SearchRequest>(wunsch));
+    const auto aufgabe = MakePlanTask(plan.plan, std::get<SearchRequest>(wunsch));
     if (const auto* const absage = std::get_if<SearchRefusal>(&aufgabe)) {
         return Sage(absage->text, absage->wrongCall ? kFalscherAufruf : kPlanGescheitert);
     }
@@ -130,18 +130,17 @@ int FuehreSucheAus(const Suchbefehl& befehl, const std::atomic<bool>& halt) {
     if (!ergebnis.best) {
         return Sage("Es wurde keine Liste gefunden, die endet", kPlanGescheitert);
     }
-    const Plan neuer = WithOrders(plan.Plan, ergebnis.best->orders, gestellt.pause);
-    Profil profil("");
-    SchreibePlan(neuer, profil);
-    const Planlauf lauf(befehl.Nach ? AlsPfad(*befehl.Nach).filename().string() : plan.Name,
-                        profil);
+    const Plan neuer = WithOrders(plan.plan, ergebnis.best->orders, gestellt.pause);
+    IniFile profil("");
+    WritePlan(neuer, profil);
+    const PlanRun lauf(befehl.Nach ? AlsPfad(*befehl.Nach).filename().string() : plan.name, profil);
     const Suchbericht bericht{.Plan = plan,
                               .Aufgabe = gestellt,
                               .Ergebnis = ergebnis,
                               .Neuer = lauf,
                               .Saat = befehl.Saat};
     if (befehl.Nach && !SaveBauliste(AlsPfad(*befehl.Nach), neuer)) {
-        return Sage(Speicherfehler().text, kPlanGescheitert);
+        return Sage(SaveErrorMessage().text, kPlanGescheitert);
     }
     if (befehl.Json) {
         std::cout << SuchJson(bericht) << '\n';

@@ -66,18 +66,18 @@ void SchreibeSuche(std::ostream& strom, const Suchbericht& bericht) {
         SchreibeZeile(strom, "Gewinn",
                       Gewinntext(gewinn) + " (" + Prozent(gewinn, vorher->score.duration) + ")");
     }
-    const OrderList& alte = bericht.Plan.Plan.LV_Bauliste.Orders();
-    const OrderList& neue = bericht.Neuer.Plan.LV_Bauliste.Orders();
+    const OrderList& alte = bericht.Plan.plan.LV_Bauliste.Orders();
+    const OrderList& neue = bericht.Neuer.plan.LV_Bauliste.Orders();
     for (const auto& [name, text] : {std::pair("Kommt dazu", SurplusInWords(neue, alte)),
                                      std::pair("Entfällt", SurplusInWords(alte, neue))}) {
         if (!text.empty()) {
             SchreibeZeile(strom, name, text);
         }
     }
-    if (bericht.Plan.Gelaufen) {
-        SchreibeZeile(strom, "Je Stunde", RatesText(bericht.Plan.Lauf.state) + " (vorher)");
+    if (bericht.Plan.hasRun) {
+        SchreibeZeile(strom, "Je Stunde", RatesText(bericht.Plan.run.state) + " (vorher)");
     }
-    SchreibeZeile(strom, "Je Stunde", RatesText(bericht.Neuer.Lauf.state) + " (nachher)");
+    SchreibeZeile(strom, "Je Stunde", RatesText(bericht.Neuer.run.state) + " (nachher)");
     if (const auto& pause = bericht.Aufgabe.pause) {
         SchreibeZeile(strom, "Pause", pause->Startzeit + " bis " + pause->Endzeit);
     }
@@ -94,10 +94,10 @@ std::string SuchJson(const Suchbericht& bericht) {
     for (const Order& order : bericht.Ergebnis.best->orders) {
         tags.push_back(order.Tag());
     }
-    const OrderList& alte = bericht.Plan.Plan.LV_Bauliste.Orders();
-    const OrderList& neue = bericht.Neuer.Plan.LV_Bauliste.Orders();
-    json objekt{{"Vorher", vorher ? AlsJson(*vorher, bericht.Plan.Lauf.state) : json()},
-                {"Nachher", AlsJson(*bericht.Ergebnis.best, bericht.Neuer.Lauf.state)},
+    const OrderList& alte = bericht.Plan.plan.LV_Bauliste.Orders();
+    const OrderList& neue = bericht.Neuer.plan.LV_Bauliste.Orders();
+    json objekt{{"Vorher", vorher ? AlsJson(*vorher, bericht.Plan.run.state) : json()},
+                {"Nachher", AlsJson(*bericht.Ergebnis.best, bericht.Neuer.run.state)},
                 {"Versuche", bericht.Ergebnis.tries},
                 {"Saat", bericht.Saat},
                 {"Hinzu", SurplusText(neue, alte)},

@@ -13,11 +13,11 @@ namespace tarvelin {
 /// A search that is over: the plan before, the best list, and its run.
 struct Suchbericht {
     /// The plan as it was loaded.
-    const Planlauf& Plan;
+    const PlanRun& Plan;
     const PlanTask& Aufgabe;
     const SearchResult& Ergebnis;
     /// The new plan, loaded and run as a file would be.
-    const Planlauf& Neuer;
+    const PlanRun& Neuer;
     std::uint64_t Saat;
 };
 

@@ -117,24 +117,24 @@ std::filesystem::path AlsPfad(const std::string& datei) {
 
 /// Each message as "Titel: Text", or the text alone without a title; then what is to be told of the
 /// file, under its name.
-tarvelin::Planlauf SpieleDatei(const std::string& datei) {
-    tarvelin::Planlauf lauf(AlsPfad(datei));
-    for (const tarvelin::Message& meldung : lauf.Meldungen) {
+tarvelin::PlanRun SpieleDatei(const std::string& datei) {
+    tarvelin::PlanRun lauf(AlsPfad(datei));
+    for (const tarvelin::Message& meldung : lauf.messages) {
         std::cerr << meldung.title << (meldung.title.empty() ? "" : ": ") << meldung.text << '\n';
     }
-    const std::string text = !lauf.Geladen    ? tarvelin::Ladehindernis(AlsPfad(datei))
-                             : !lauf.Gelaufen ? "dieser Plan kann nicht gespielt werden"
-                             : lauf.Lauf.state.IsAtEndOfClock() ? tarvelin::BeyondClockText()
-                                                                : "";
+    const std::string text = !lauf.loaded   ? tarvelin::LoadObstacle(AlsPfad(datei))
+                             : !lauf.hasRun ? "dieser Plan kann nicht gespielt werden"
+                             : lauf.run.state.IsAtEndOfClock() ? tarvelin::BeyondClockText()
+                                                               : "";
     std::cerr << (text.empty() ? "" : datei + ": " + text + "\n");
     return lauf;
 }
 
-bool SchreibeKalender(const tarvelin::Planlauf& lauf, const std::string& datei) {
+bool SchreibeKalender(const tarvelin::PlanRun& lauf, const std::string& datei) {
     constexpr tarvelin::Long kErinnerung = 10;
     const auto jetzt = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
-    const std::string text = tarvelin::Kalendertext(lauf.Abgespielt(), kErinnerung, jetzt);
-    if (tarvelin::ErsetzeDatei(AlsPfad(datei), text, tarvelin::Platte())) {
+    const std::string text = tarvelin::CalendarText(lauf.Trace(), kErinnerung, jetzt);
+    if (tarvelin::WriteFileAtomically(AlsPfad(datei), text, tarvelin::NativeFileSystem())) {
         return true;
     }
     std::cerr << "tarvelin-cli: Der Kalender konnte nicht gespeichert werden\n";
@@ -142,9 +142,9 @@ bool SchreibeKalender(const tarvelin::Planlauf& lauf, const std::string& datei) 
 }
 
 bool Vergleiche(const Aufruf& aufruf) {
-    const tarvelin::Planlauf a = SpieleDatei(aufruf.Vergleich[0]);
-    const tarvelin::Planlauf b = SpieleDatei(aufruf.Vergleich[1]);
-    if (!a.Gelaufen || !b.Gelaufen) {
+    const tarvelin::PlanRun a = SpieleDatei(aufruf.Vergleich[0]);
+    const tarvelin::PlanRun b = SpieleDatei(aufruf.Vergleich[1]);
+    if (!a.hasRun || !b.hasRun) {
         return false;
     }
     if (aufruf.Json) {
@@ -165,18 +165,18 @@ bool FuehreAus(const Aufruf& aufruf) {
         tarvelin::SchreibeCsvKopf(std::cout);
     }
     for (const std::string& datei : aufruf.Dateien) {
-        const tarvelin::Planlauf lauf = SpieleDatei(datei);
+        const tarvelin::PlanRun lauf = SpieleDatei(datei);
         if (aufruf.Json) {
             std::cout << tarvelin::JsonText(lauf, aufruf.Verlauf) << '\n';
         } else if (aufruf.Csv) {
             tarvelin::SchreibeCsv(std::cout, lauf);
-        } else if (lauf.Gelaufen) {
+        } else if (lauf.hasRun) {
             std::cout << (erster ? "" : "\n");
             tarvelin::SchreibeText(std::cout, lauf);
             erster = false;
         }
-        alleGut = alleGut && lauf.Gelaufen;
-        if (aufruf.Kalender && lauf.Gelaufen) {
+        alleGut = alleGut && lauf.hasRun;
+        if (aufruf.Kalender && lauf.hasRun) {
             alleGut = SchreibeKalender(lauf, *aufruf.Kalender) && alleGut;
         }
     }

@@ -10,104 +10,104 @@ namespace tarvelin {
 
 namespace {
 
-constexpr std::string_view kVorsilbe = ".tarvelin-";
-constexpr std::string_view kEndung = ".tmp";
+constexpr std::string_view kPrefix = ".tarvelin-";
+constexpr std::string_view kSuffix = ".tmp";
 
 /// Whether a file is what a process of ours left that was killed in the middle of a save.
-bool IstVerwaist(std::string_view name, const Dateisystem& system) {
-    if (!name.starts_with(kVorsilbe) || !name.ends_with(kEndung)) {
+bool IsOrphaned(std::string_view name, const FileSystem& system) {
+    if (!name.starts_with(kPrefix) || !name.ends_with(kSuffix)) {
         return false;
     }
-    name.remove_prefix(kVorsilbe.size());
-    name.remove_suffix(kEndung.size());
-    std::int32_t prozess = 0;
-    const auto gelesen = std::from_chars(name.data(), name.data() + name.size(), prozess);
-    return gelesen.ec == std::errc() && gelesen.ptr == name.data() + name.size() && prozess > 0 &&
-           (prozess == system.Prozess() || !system.Laeuft(prozess));
+    name.remove_prefix(kPrefix.size());
+    name.remove_suffix(kSuffix.size());
+    std::int32_t process = 0;
+    const auto parsed = std::from_chars(name.data(), name.data() + name.size(), process);
+    return parsed.ec == std::errc() && parsed.ptr == name.data() + name.size() && process > 0 &&
+           (process == system.ProcessId() || !system.IsRunning(process));
 }
 
-void RaeumeVerwaistesAus(const std::filesystem::path& ordner, const Dateisystem& system) {
-    for (const auto& eintrag : system.Eintraege(ordner)) {
-        const auto name = eintrag.filename().u8string();
-        if (IstVerwaist(std::string(name.begin(), name.end()), system)) {
-            static_cast<void>(system.Loesche(eintrag));
+void RemoveOrphans(const std::filesystem::path& folder, const FileSystem& system) {
+    for (const auto& entry : system.Entries(folder)) {
+        const auto name = entry.filename().u8string();
+        if (IsOrphaned(std::string(name.begin(), name.end()), system)) {
+            static_cast<void>(system.Remove(entry));
         }
     }
 }
 
 /// A new file beside another one, deleted at the end unless it has taken that one's place.
-class Nachbardatei {
+class TempFile {
   public:
-    Nachbardatei(const std::filesystem::path& ordner, const Dateisystem& system)
+    TempFile(const std::filesystem::path& folder, const FileSystem& system)
         : m_system(system),
-          m_pfad(ordner / (std::string(kVorsilbe) + std::to_string(system.Prozess()) +
-                           std::string(kEndung))),
-          m_nummer(system.LegeAn(m_pfad)),
-          m_liegtDa(m_nummer >= 0) {}
-    Nachbardatei(const Nachbardatei&) = delete;
-    Nachbardatei& operator=(const Nachbardatei&) = delete;
-    ~Nachbardatei() {
-        Schliesse();
-        if (m_liegtDa) {
-            static_cast<void>(m_system.Loesche(m_pfad));
+          m_path(folder / (std::string(kPrefix) + std::to_string(system.ProcessId()) +
+                           std::string(kSuffix))),
+          m_number(system.Create(m_path)),
+          m_exists(m_number >= 0) {}
+    TempFile(const TempFile&) = delete;
+    TempFile& operator=(const TempFile&) = delete;
+    ~TempFile() {
+        Close();
+        if (m_exists) {
+            static_cast<void>(m_system.Remove(m_path));
         }
     }
 
-    [[nodiscard]] bool LiegtDa() const { return m_liegtDa; }
-    bool UebernimmRechte(const std::filesystem::path& von) {
-        return m_system.UebernimmRechte(m_nummer, von);
+    [[nodiscard]] bool Exists() const { return m_exists; }
+    bool CopyPermissions(const std::filesystem::path& from) {
+        return m_system.CopyPermissions(m_number, from);
     }
-    bool Fuelle(std::string_view bytes) {
+    bool Fill(std::string_view bytes) {
         while (!bytes.empty()) {
-            const std::ptrdiff_t n = m_system.Schreibe(m_nummer, bytes);
+            const std::ptrdiff_t n = m_system.Write(m_number, bytes);
             if (n <= 0) {
                 return false;
             }
             bytes.remove_prefix(static_cast<std::size_t>(n));
         }
-        return m_system.BringAufPlatte(m_nummer) && Schliesse();
+        return m_system.Sync(m_number) && Close();
     }
-    bool NimmPlatzVon(const std::filesystem::path& datei) {
-        const bool gelungen = m_system.BenenneUm(m_pfad, datei);
-        m_liegtDa = !gelungen;
-        return gelungen;
+    bool TakePlaceOf(const std::filesystem::path& file) {
+        const bool succeeded = m_system.Rename(m_path, file);
+        m_exists = !succeeded;
+        return succeeded;
     }
 
   private:
-    bool Schliesse() {
-        const int nummer = std::exchange(m_nummer, -1);
-        return nummer < 0 || m_system.Schliesse(nummer);
+    bool Close() {
+        const int number = std::exchange(m_number, -1);
+        return number < 0 || m_system.Close(number);
     }
 
-    const Dateisystem& m_system;
-    std::filesystem::path m_pfad;
-    int m_nummer;
-    bool m_liegtDa;
+    const FileSystem& m_system;
+    std::filesystem::path m_path;
+    int m_number;
+    bool m_exists;
 };
 
 }  // namespace
 
-bool ErsetzeDatei(const std::filesystem::path& datei, std::string_view bytes,
-                  const Dateisystem& system) {
+bool WriteFileAtomically(const std::filesystem::path& file, std::string_view bytes,
+                         const FileSystem& system) {
     // A link keeps pointing to the file whose bytes change.
-    const auto ziel = system.LoeseAuf(datei);
-    if (!ziel) {
+    const auto destination = system.Resolve(file);
+    if (!destination) {
         return false;
     }
-    const auto art = system.Sieh(*ziel);
-    const bool vorhanden = art == Dateisystem::Art::Datei;
-    if (vorhanden ? !system.IstBeschreibbar(*ziel) : art != Dateisystem::Art::Nichts) {
+    const auto kind = system.KindOf(*destination);
+    const bool present = kind == FileSystem::Kind::RegularFile;
+    if (present ? !system.IsWritable(*destination) : kind != FileSystem::Kind::Nothing) {
         return false;
     }
-    const auto ordner = ziel->parent_path();
-    RaeumeVerwaistesAus(ordner, system);
-    Nachbardatei neue(ordner, system);
-    if (!neue.LiegtDa() || (vorhanden && !neue.UebernimmRechte(*ziel)) || !neue.Fuelle(bytes) ||
-        !neue.NimmPlatzVon(*ziel)) {
+    const auto folder = destination->parent_path();
+    RemoveOrphans(folder, system);
+    TempFile fresh(folder, system);
+    if (!fresh.Exists() || (present && !fresh.CopyPermissions(*destination)) ||
+        !fresh.Fill(bytes) || !fresh.TakePlaceOf(*destination)) {
         return false;
     }
     // The rename itself reaches the disk with its folder.
-    static_cast<void>(system.BringOrdnerAufPlatte(ordner));
+    static_cast<void>(system.SyncFolder(folder));
     return true;
 }
 

@@ -13,7 +13,7 @@ namespace tarvelin {
 /// none is. False, with nothing changed and nothing left behind, if that can't be done: the folder
 /// is missing, a folder stands in the file's place, file or folder can't be written. What a process
 /// that was killed meanwhile left beside the file goes with the next one that is written there.
-[[nodiscard]] bool ErsetzeDatei(const std::filesystem::path& datei, std::string_view bytes,
-                                const Dateisystem& system = Platte());
+[[nodiscard]] bool WriteFileAtomically(const std::filesystem::path& file, std::string_view bytes,
+                                       const FileSystem& system = NativeFileSystem());
 
 }  // namespace tarvelin

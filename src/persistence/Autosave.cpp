@@ -10,119 +10,120 @@ namespace tarvelin {
 namespace {
 
 /// "1" in an autosave whose plan lies in a file of its own.
-constexpr const char* kSitzung = "Sitzung";
-constexpr const char* kAusDatei = "AusDatei";
+constexpr const char* kSession = "Sitzung";
+constexpr const char* kFromFile = "AusDatei";
 
-bool IstAusDatei(const Profil& profil) {
-    return profil.Lies(kSitzung, kAusDatei, "0") == "1";
+bool IsFromFile(const IniFile& profile) {
+    return profile.ReadINI(kSession, kFromFile, "0") == "1";
 }
 
-std::string AlsBytes(const Plan& plan) {
-    Profil profil("");
-    SchreibePlan(plan, profil);
-    return profil.Bytes();
+std::string ToBytes(const Plan& plan) {
+    IniFile profile("");
+    WritePlan(plan, profile);
+    return profile.Bytes();
 }
 
 }  // namespace
 
-Autosave::Autosave(const std::filesystem::path& programmordner, const Dateisystem& system)
-    : m_datei(programmordner / "saves" / "autosave.tvf"),
-      m_vorige{programmordner / "saves" / "autosave-vorige.tvf",
-               programmordner / "saves" / "autosave-vorige-2.tvf"},
+Autosave::Autosave(const std::filesystem::path& programFolder, const FileSystem& system)
+    : m_file(programFolder / "saves" / "autosave.tvf"),
+      m_previous{programFolder / "saves" / "autosave-vorige.tvf",
+                 programFolder / "saves" / "autosave-vorige-2.tvf"},
       m_system(system) {}
 
-std::vector<std::filesystem::path> Autosave::Dateien() const {
-    std::vector<std::filesystem::path> dateien{m_datei, m_vorige[0], m_vorige[1]};
-    for (std::size_t i = 0; i <= kErsetzte; ++i) {
-        dateien.push_back(Ersetzter(i));
+std::vector<std::filesystem::path> Autosave::AllPaths() const {
+    std::vector<std::filesystem::path> files{m_file, m_previous[0], m_previous[1]};
+    for (std::size_t i = 0; i <= kReplaced; ++i) {
+        files.push_back(ReplacedPath(i));
     }
-    return dateien;
+    return files;
 }
 
-bool Autosave::IstEigene(const std::filesystem::path& File) const {
+bool Autosave::IsOwnFile(const std::filesystem::path& File) const {
     // Many names lead to a file.
-    const auto ziel = m_system.LoeseAuf(File);
-    return std::ranges::any_of(
-        Dateien(), [&](const auto& eigene) { return ziel && ziel == m_system.LoeseAuf(eigene); });
+    const auto destination = m_system.Resolve(File);
+    return std::ranges::any_of(AllPaths(), [&](const auto& own) {
+        return destination && destination == m_system.Resolve(own);
+    });
 }
 
-void Autosave::LiegtInDatei(const Plan& plan) {
-    m_ausDatei = AlsBytes(plan);
+void Autosave::MarkStoredInFile(const Plan& plan) {
+    m_fromFile = ToBytes(plan);
 }
 
-void Autosave::GiltAlsGeschrieben(const Plan& plan) {
-    m_letzter = AlsBytes(plan);
+void Autosave::MarkWritten(const Plan& plan) {
+    m_lastWritten = ToBytes(plan);
 }
 
-void Autosave::SchreibeGeaenderten(const Plan& plan) {
-    if (m_letzter != AlsBytes(plan)) {
-        static_cast<void>(Schreibe(plan));
+void Autosave::WriteIfChanged(const Plan& plan) {
+    if (m_lastWritten != ToBytes(plan)) {
+        static_cast<void>(Write(plan));
     }
 }
 
-bool Autosave::Schreibe(const Plan& plan) {
-    return Schreibe(plan, false);
+bool Autosave::Write(const Plan& plan) {
+    return Write(plan, false);
 }
 
-void Autosave::SchreibeZuletzt(const Plan& plan) {
-    static_cast<void>(Schreibe(plan, true));
+void Autosave::WriteAtExit(const Plan& plan) {
+    static_cast<void>(Write(plan, true));
 }
 
-bool Autosave::Schreibe(const Plan& plan, bool auchOhneVorige) {
-    GiltAlsGeschrieben(plan);
-    static_cast<void>(m_system.LegeOrdnerAn(m_datei.parent_path()));
-    const auto vorher = Profil::LadeOderLeer(m_datei, m_system);
-    if (!vorher) {
+bool Autosave::Write(const Plan& plan, bool evenWithoutPrevious) {
+    MarkWritten(plan);
+    static_cast<void>(m_system.CreateFolders(m_file.parent_path()));
+    const auto before = IniFile::LoadOrEmpty(m_file, m_system);
+    if (!before) {
         return false;
     }
-    Profil nachher = *vorher;
-    SchreibePlan(plan, nachher);
-    const bool ausDatei = m_ausDatei == m_letzter;
-    if (ausDatei != IstAusDatei(nachher)) {
-        nachher.Schreibe(kSitzung, kAusDatei, ausDatei ? "1" : "0");
+    IniFile after = *before;
+    WritePlan(plan, after);
+    const bool fromFile = m_fromFile == m_lastWritten;
+    if (fromFile != IsFromFile(after)) {
+        after.WriteINI(kSession, kFromFile, fromFile ? "1" : "0");
     }
-    const std::string bytes = nachher.Bytes();
-    if (bytes == vorher->Bytes()) {
+    const std::string bytes = after.Bytes();
+    if (bytes == before->Bytes()) {
         return true;
     }
-    m_vorigeBewahrt = m_vorigeBewahrt || BewahreVorige(*vorher);
-    return (m_vorigeBewahrt || auchOhneVorige) && ErsetzeDatei(m_datei, bytes, m_system);
+    m_previousKept = m_previousKept || KeepPrevious(*before);
+    return (m_previousKept || evenWithoutPrevious) && WriteFileAtomically(m_file, bytes, m_system);
 }
 
-void Autosave::BewahreErsetzten(const Plan& plan) const {
-    const std::string bytes = AlsBytes(plan);
-    const auto letzter = Profil::Lade(Ersetzter(1), m_system);
-    if (plan.LV_Bauliste.Orders().IsEmpty() || (letzter && letzter->Bytes() == bytes)) {
+void Autosave::KeepReplaced(const Plan& plan) const {
+    const std::string bytes = ToBytes(plan);
+    const auto last = IniFile::Load(ReplacedPath(1), m_system);
+    if (plan.LV_Bauliste.Orders().IsEmpty() || (last && last->Bytes() == bytes)) {
         return;
     }
-    static_cast<void>(m_system.LegeOrdnerAn(m_datei.parent_path()));
-    if (ErsetzeDatei(Ersetzter(0), bytes, m_system)) {
-        static_cast<void>(m_system.BenenneUm(Ersetzter(0), Ersetzter(RueckeErsetzte())));
+    static_cast<void>(m_system.CreateFolders(m_file.parent_path()));
+    if (WriteFileAtomically(ReplacedPath(0), bytes, m_system)) {
+        static_cast<void>(m_system.Rename(ReplacedPath(0), ReplacedPath(ShiftReplaced())));
     }
 }
 
-std::filesystem::path Autosave::Ersetzter(std::size_t nummer) const {
-    return m_datei.parent_path() / ("ersetzt-" + std::to_string(nummer) + ".tvf");
+std::filesystem::path Autosave::ReplacedPath(std::size_t number) const {
+    return m_file.parent_path() / ("ersetzt-" + std::to_string(number) + ".tvf");
 }
 
 // Up to the first gap, or over the oldest.
-std::size_t Autosave::RueckeErsetzte() const {
-    std::size_t frei = 1;
-    while (frei < kErsetzte && m_system.Sieh(Ersetzter(frei)) != Dateisystem::Art::Nichts) {
-        ++frei;
+std::size_t Autosave::ShiftReplaced() const {
+    std::size_t free = 1;
+    while (free < kReplaced && m_system.KindOf(ReplacedPath(free)) != FileSystem::Kind::Nothing) {
+        ++free;
     }
-    for (; frei > 1; --frei) {
-        if (!m_system.BenenneUm(Ersetzter(frei - 1), Ersetzter(frei))) {
+    for (; free > 1; --free) {
+        if (!m_system.Rename(ReplacedPath(free - 1), ReplacedPath(free))) {
             break;
         }
     }
-    return frei;
+    return free;
 }
 
-bool Autosave::BewahreVorige(const Profil& vorige) {
-    return !HatZeilen(vorige) || IstAusDatei(vorige) ||
-           std::ranges::any_of(m_vorige, [&](const auto& datei) {
-               return ErsetzeDatei(datei, vorige.Bytes(), m_system);
+bool Autosave::KeepPrevious(const IniFile& previous) {
+    return !HasRows(previous) || IsFromFile(previous) ||
+           std::ranges::any_of(m_previous, [&](const auto& file) {
+               return WriteFileAtomically(file, previous.Bytes(), m_system);
            });
 }
 

@@ -20,55 +20,55 @@ namespace tarvelin {
 class Autosave {
   public:
     /// `system` must outlive it.
-    explicit Autosave(const std::filesystem::path& programmordner,
-                      const Dateisystem& system = Platte());
+    explicit Autosave(const std::filesystem::path& programFolder,
+                      const FileSystem& system = NativeFileSystem());
 
-    [[nodiscard]] const std::filesystem::path& Datei() const { return m_datei; }
+    [[nodiscard]] const std::filesystem::path& PlanPath() const { return m_file; }
     /// All files that it writes.
-    [[nodiscard]] std::vector<std::filesystem::path> Dateien() const;
+    [[nodiscard]] std::vector<std::filesystem::path> AllPaths() const;
 
     /// Whether it moves or writes the file by itself, so that a plan isn't safe in it.
-    [[nodiscard]] bool IstEigene(const std::filesystem::path& File) const;
+    [[nodiscard]] bool IsOwnFile(const std::filesystem::path& File) const;
 
     /// Tells that this plan lies in a file of its own.
-    void LiegtInDatei(const Plan& plan);
+    void MarkStoredInFile(const Plan& plan);
 
     /// Takes the plan for what is written.
-    void GiltAlsGeschrieben(const Plan& plan);
+    void MarkWritten(const Plan& plan);
 
     /// Writes the plan if it isn't the one that was written, or tried in vain, last.
-    void SchreibeGeaenderten(const Plan& plan);
+    void WriteIfChanged(const Plan& plan);
 
     /// Writes the plan. False if it can't be written; the file is then as it was.
-    [[nodiscard]] bool Schreibe(const Plan& plan);
+    [[nodiscard]] bool Write(const Plan& plan);
 
-    /// As `Schreibe`, at the last chance: even if the former plan can't be kept.
-    void SchreibeZuletzt(const Plan& plan);
+    /// As `Write`, at the last chance: even if the former plan can't be kept.
+    void WriteAtExit(const Plan& plan);
 
     /// Keeps a plan that is about to give way, unless it is empty or the one that gave way last.
     /// One that can't be written moves no other; where one can't be moved on, it takes the place
     /// that came free.
-    void BewahreErsetzten(const Plan& plan) const;
+    void KeepReplaced(const Plan& plan) const;
 
   private:
-    static constexpr std::size_t kErsetzte = 5;
+    static constexpr std::size_t kReplaced = 5;
 
-    [[nodiscard]] bool BewahreVorige(const Profil& vorige);
-    [[nodiscard]] bool Schreibe(const Plan& plan, bool auchOhneVorige);
-    /// From 1, the last one, to `kErsetzte`; 0 is the one that is just written.
-    [[nodiscard]] std::filesystem::path Ersetzter(std::size_t nummer) const;
+    [[nodiscard]] bool KeepPrevious(const IniFile& previous);
+    [[nodiscard]] bool Write(const Plan& plan, bool evenWithoutPrevious);
+    /// From 1, the last one, to `kReplaced`; 0 is the one that is just written.
+    [[nodiscard]] std::filesystem::path ReplacedPath(std::size_t number) const;
     /// Makes room at the first place, or as near to it as can be. The place.
-    [[nodiscard]] std::size_t RueckeErsetzte() const;
+    [[nodiscard]] std::size_t ShiftReplaced() const;
 
-    std::filesystem::path m_datei;
+    std::filesystem::path m_file;
     /// The second takes the place of a first that can't be written.
-    std::array<std::filesystem::path, 2> m_vorige;
-    const Dateisystem& m_system;
-    bool m_vorigeBewahrt = false;
+    std::array<std::filesystem::path, 2> m_previous;
+    const FileSystem& m_system;
+    bool m_previousKept = false;
     /// The plan that was written or tried last, as a profile of its own.
-    std::optional<std::string> m_letzter;
+    std::optional<std::string> m_lastWritten;
     /// The plan that lies in a file of its own, as a profile.
-    std::optional<std::string> m_ausDatei;
+    std::optional<std::string> m_fromFile;
 };
 
 }  // namespace tarvelin

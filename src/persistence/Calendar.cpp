@@ -18,97 +18,97 @@ constexpr Long kMinute = 60;
 
 /// Lines end by a carriage return and a line feed, and have at most 75 bytes; a longer one goes on
 /// behind a blank. No letter is parted.
-std::string Zeile(std::string_view text) {
-    constexpr std::size_t kHoechstens = 75;
-    constexpr unsigned char kFolgebyte = 0x80;
-    constexpr unsigned char kMaske = 0xC0;
-    std::string gefaltet;
-    std::size_t laenge = 0;
+std::string ContentLine(std::string_view text) {
+    constexpr std::size_t kMax = 75;
+    constexpr unsigned char kContinuationByte = 0x80;
+    constexpr unsigned char kMask = 0xC0;
+    std::string unfolded;
+    std::size_t length = 0;
     for (std::size_t i = 0; i < text.size();) {
-        std::size_t zeichen = 1;
-        while (i + zeichen < text.size() &&
-               (static_cast<unsigned char>(text[i + zeichen]) & kMaske) == kFolgebyte) {
-            ++zeichen;
+        std::size_t character = 1;
+        while (i + character < text.size() &&
+               (static_cast<unsigned char>(text[i + character]) & kMask) == kContinuationByte) {
+            ++character;
         }
-        if (laenge + zeichen > kHoechstens) {
-            gefaltet += "\r\n ";
-            laenge = 1;
+        if (length + character > kMax) {
+            unfolded += "\r\n ";
+            length = 1;
         }
-        gefaltet += text.substr(i, zeichen);
-        laenge += zeichen;
-        i += zeichen;
+        unfolded += text.substr(i, character);
+        length += character;
+        i += character;
     }
-    return gefaltet + "\r\n";
+    return unfolded + "\r\n";
 }
 
-std::string Geschuetzt(std::string_view text) {
-    std::string geschuetzt;
-    for (const char zeichen : text) {
-        if (zeichen == '\n') {
-            geschuetzt += "\\n";
+std::string Escaped(std::string_view text) {
+    std::string escaped;
+    for (const char character : text) {
+        if (character == '\n') {
+            escaped += "\\n";
             continue;
         }
-        geschuetzt += zeichen == '\\' || zeichen == ';' || zeichen == ',' ? "\\" : "";
-        geschuetzt += zeichen;
+        escaped += character == '\\' || character == ';' || character == ',' ? "\\" : "";
+        escaped += character;
     }
-    return geschuetzt;
+    return escaped;
 }
 
 /// "20061118T123000".
-std::string Stempel(DateTime um) {
-    const std::string datum = DateText(um);
-    const std::string uhrzeit = TimeOfDayText(um);
-    return datum.substr(6) + datum.substr(3, 2) + datum.substr(0, 2) + "T" + uhrzeit.substr(0, 2) +
-           uhrzeit.substr(3, 2) + uhrzeit.substr(6, 2);
+std::string Stamp(DateTime at) {
+    const std::string date = DateText(at);
+    const std::string timeOfDay = TimeOfDayText(at);
+    return date.substr(6) + date.substr(3, 2) + date.substr(0, 2) + "T" + timeOfDay.substr(0, 2) +
+           timeOfDay.substr(3, 2) + timeOfDay.substr(6, 2);
 }
 
-std::string Stempel(std::chrono::sys_seconds stand) {
+std::string Stamp(std::chrono::sys_seconds createdAt) {
     // Days between the two calendars' first ones.
-    constexpr std::int64_t kVersatz = 25569 * std::int64_t{86400};
-    return Stempel(DateTime(stand.time_since_epoch().count() + kVersatz)) + "Z";
+    constexpr std::int64_t kOffset = 25569 * std::int64_t{86400};
+    return Stamp(DateTime(createdAt.time_since_epoch().count() + kOffset)) + "Z";
 }
 
 /// Orders of one entry.
-using Eintrag = std::vector<const StartEvent*>;
+using CalendarEntry = std::vector<const StartEvent*>;
 
-std::vector<Eintrag> Eintraege(const RunTrace& ablauf) {
-    constexpr DateTime kLetzter(std::int64_t{2958466} * 86400);
+std::vector<CalendarEntry> Entries(const RunTrace& trace) {
+    constexpr DateTime kLast(std::int64_t{2958466} * 86400);
     std::vector<const StartEvent*> starts;
-    for (const StartEvent& start : ablauf.starts) {
-        if (ablauf.conditions.WallClock(start.start) < kLetzter) {
+    for (const StartEvent& start : trace.starts) {
+        if (trace.conditions.WallClock(start.start) < kLast) {
             starts.push_back(&start);
         }
     }
     // A click buffer can put a row's start before that of the row above.
-    std::ranges::stable_sort(starts, {}, [](const StartEvent* s) { return s->start; });
-    std::vector<Eintrag> eintraege;
+    std::ranges::stable_sort(starts, {}, [](const StartEvent* other) { return other->start; });
+    std::vector<CalendarEntry> entries;
     for (const StartEvent* const start : starts) {
-        if (eintraege.empty() || start->start - eintraege.back().front()->start > kMinute) {
-            eintraege.emplace_back();
+        if (entries.empty() || start->start - entries.back().front()->start > kMinute) {
+            entries.emplace_back();
         }
-        eintraege.back().push_back(start);
+        entries.back().push_back(start);
     }
-    return eintraege;
+    return entries;
 }
 
-std::string Beschreibung(const RunTrace& ablauf, const Eintrag& eintrag) {
+std::string Description(const RunTrace& trace, const CalendarEntry& entry) {
     std::string text;
-    for (const StartEvent* const start : eintrag) {
+    for (const StartEvent* const start : entry) {
         text += text.empty() ? "" : "\n";
-        text += TimeOfDayText(ablauf.conditions.WallClock(start->start)) + " " + OrderText(*start);
+        text += TimeOfDayText(trace.conditions.WallClock(start->start)) + " " + OrderText(*start);
         if (start->order.kind == Order::Kind::Item) {
             text += "\n" + GetUpgradecostString(
                                CostOf(start->order.item, static_cast<Byte>(start->number - 1)));
         }
-        const std::string grund = DelayText(ablauf, start->row);
-        text += grund.empty() ? "" : "\n" + grund;
+        const std::string reason = DelayText(trace, start->row);
+        text += reason.empty() ? "" : "\n" + reason;
     }
     return text;
 }
 
-std::string Titel(const Eintrag& eintrag) {
+std::string Title(const CalendarEntry& entry) {
     std::string text;
-    for (const StartEvent* const start : eintrag) {
+    for (const StartEvent* const start : entry) {
         text += text.empty() ? "" : ", ";
         text += OrderText(*start);
     }
@@ -116,35 +116,35 @@ std::string Titel(const Eintrag& eintrag) {
 }
 
 /// A production row has no level: it is told by how manieth of them it is.
-std::string Kennung(const RunTrace& ablauf, const StartEvent& start) {
+std::string UniqueId(const RunTrace& trace, const StartEvent& start) {
     const bool item = start.order.kind == Order::Kind::Item;
-    const auto produktion = std::ranges::count_if(ablauf.starts, [&](const StartEvent& s) {
-        return s.order.kind == Order::Kind::Production && s.row <= start.row;
+    const auto production = std::ranges::count_if(trace.starts, [&](const StartEvent& other) {
+        return other.order.kind == Order::Kind::Production && other.row <= start.row;
     });
     const std::string tag = start.order.Tag();
-    return tag.substr(0, tag.find(':')) + "-" + std::to_string(item ? start.number : produktion) +
-           "-" + Stempel(ablauf.conditions.StartDate) + "@tarvelin";
+    return tag.substr(0, tag.find(':')) + "-" + std::to_string(item ? start.number : production) +
+           "-" + Stamp(trace.conditions.StartDate) + "@tarvelin";
 }
 
 }  // namespace
 
-std::string Kalendertext(const RunTrace& ablauf, std::optional<Long> erinnerung,
-                         std::chrono::sys_seconds stand) {
+std::string CalendarText(const RunTrace& trace, std::optional<Long> reminder,
+                         std::chrono::sys_seconds createdAt) {
     std::string text =
         "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//Tarvelin//Tarvelin//DE\r\n"
         "CALSCALE:GREGORIAN\r\n";
-    for (const Eintrag& eintrag : Eintraege(ablauf)) {
-        const StartEvent& erster = *eintrag.front();
-        const std::string titel = Geschuetzt(Titel(eintrag));
-        text += "BEGIN:VEVENT\r\n" + Zeile("UID:" + Kennung(ablauf, erster)) +
-                Zeile("DTSTAMP:" + Stempel(stand)) +
-                Zeile("DTSTART:" + Stempel(ablauf.conditions.WallClock(erster.start))) +
-                "DURATION:PT1M\r\n" + Zeile("SUMMARY:" + titel) +
-                Zeile("DESCRIPTION:" + Geschuetzt(Beschreibung(ablauf, eintrag)));
-        if (erinnerung) {
+    for (const CalendarEntry& entry : Entries(trace)) {
+        const StartEvent& first = *entry.front();
+        const std::string title = Escaped(Title(entry));
+        text += "BEGIN:VEVENT\r\n" + ContentLine("UID:" + UniqueId(trace, first)) +
+                ContentLine("DTSTAMP:" + Stamp(createdAt)) +
+                ContentLine("DTSTART:" + Stamp(trace.conditions.WallClock(first.start))) +
+                "DURATION:PT1M\r\n" + ContentLine("SUMMARY:" + title) +
+                ContentLine("DESCRIPTION:" + Escaped(Description(trace, entry)));
+        if (reminder) {
             text += "BEGIN:VALARM\r\nACTION:DISPLAY\r\n" +
-                    Zeile("TRIGGER:-PT" + std::to_string(*erinnerung) + "S") +
-                    Zeile("DESCRIPTION:" + titel) + "END:VALARM\r\n";
+                    ContentLine("TRIGGER:-PT" + std::to_string(*reminder) + "S") +
+                    ContentLine("DESCRIPTION:" + title) + "END:VALARM\r\n";
         }
         text += "END:VEVENT\r\n";
     }

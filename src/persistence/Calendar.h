@@ -14,9 +14,9 @@ namespace tarvelin {
 /// first stand in it. An entry's name is made of its first order and the plan's start, so that
 /// reading another calendar of the plan replaces it.
 ///
-/// `erinnerung`: seconds before the start at which the calendar reminds; nothing for never.
-/// `stand`: when the file is made, in universal time. Starts behind the year 9999 are left out.
-[[nodiscard]] std::string Kalendertext(const RunTrace& ablauf, std::optional<Long> erinnerung,
-                                       std::chrono::sys_seconds stand);
+/// `reminder`: seconds before the start at which the calendar reminds; nothing for never.
+/// `createdAt`: when the file is made, in universal time. Starts behind the year 9999 are left out.
+[[nodiscard]] std::string CalendarText(const RunTrace& trace, std::optional<Long> reminder,
+                                       std::chrono::sys_seconds createdAt);
 
 }  // namespace tarvelin

@@ -12,69 +12,68 @@ namespace tarvelin {
 namespace {
 
 /// Where a path leads that a user wrote, with either separator: never by the current directory.
-std::filesystem::path VomOrdner(const std::filesystem::path& ordner, std::string text) {
-    const auto alsPfad = [&] {
+std::filesystem::path FromFolder(const std::filesystem::path& folder, std::string text) {
+    const auto toPath = [&] {
         return std::filesystem::path(std::u8string(text.begin(), text.end()));
     };
     // Not every standard library knows that a name of a computer makes a path absolute.
-    const bool vonRechner = std::filesystem::path::preferred_separator == '\\' &&
-                            (text.starts_with("\\\\") || text.starts_with("//"));
-    if (vonRechner || alsPfad().is_absolute()) {
-        return alsPfad();
+    const bool byMachine = std::filesystem::path::preferred_separator == '\\' &&
+                           (text.starts_with("\\\\") || text.starts_with("//"));
+    if (byMachine || toPath().is_absolute()) {
+        return toPath();
     }
     std::ranges::replace(text, '\\', '/');
     // A root that is left names no place of its own: a leading separator, or a drive alone.
-    return ordner / alsPfad().relative_path();
+    return folder / toPath().relative_path();
 }
 
 }  // namespace
 
-Konfiguration::Konfiguration(std::filesystem::path programmordner, const Dateisystem& system)
-    : m_programmordner(std::move(programmordner)),
-      m_datei(m_programmordner / "config.cfg"),
+Configuration::Configuration(std::filesystem::path programFolder, const FileSystem& system)
+    : m_programFolder(std::move(programFolder)),
+      m_file(m_programFolder / "config.cfg"),
       m_system(system) {}
 
-std::string Konfiguration::Lies(const Konfigurationskey& key) const {
+std::string Configuration::Read(const ConfigKey& key) const {
     // Each time as the file holds it then: the user may have edited it.
-    return Profil::Lade(m_datei, m_system)
-        .value_or(Profil(""))
-        .Lies(key.Section, key.Key, key.Standard);
+    return IniFile::Load(m_file, m_system)
+        .value_or(IniFile(""))
+        .ReadINI(key.Section, key.Key, key.Default);
 }
 
-bool Konfiguration::IstAn(const Konfigurationskey& key) const {
-    return Lies(key) == "1";
+bool Configuration::IsOn(const ConfigKey& key) const {
+    return Read(key) == "1";
 }
 
-Byte Konfiguration::Skinmodus() const {
-    constexpr std::int64_t kHoechster = 255;
-    return static_cast<Byte>(ParseWholeNumber(Lies(kMode), 0, kHoechster).value_or(1));
+Byte Configuration::SkinMode() const {
+    constexpr std::int64_t kHighest = 255;
+    return static_cast<Byte>(ParseWholeNumber(Read(kMode), 0, kHighest).value_or(1));
 }
 
-std::filesystem::path Konfiguration::Alertsound() const {
-    const std::string datei = Lies(kAlertsound);
-    return datei == kAlertsound.Standard ? m_programmordner / "mfx" / "alert.wav"
-                                         : VomOrdner(m_programmordner, datei);
+std::filesystem::path Configuration::Alertsound() const {
+    const std::string file = Read(kAlertsound);
+    return file == kAlertsound.Default ? m_programFolder / "mfx" / "alert.wav"
+                                       : FromFolder(m_programFolder, file);
 }
 
-bool Konfiguration::Schreibe(const Werte& werte) const {
-    auto profil = Profil::LadeOderLeer(m_datei, m_system);
-    if (!profil) {
+bool Configuration::Write(const Values& values) const {
+    auto profile = IniFile::LoadOrEmpty(m_file, m_system);
+    if (!profile) {
         return false;
     }
-    for (const auto& [key, wert] : werte) {
-        profil->Schreibe(key.Section, key.Key, wert);
+    for (const auto& [key, value] : values) {
+        profile->WriteINI(key.Section, key.Key, value);
     }
-    return ErsetzeDatei(m_datei, profil->Bytes(), m_system);
+    return WriteFileAtomically(m_file, profile->Bytes(), m_system);
 }
 
-Wiederherstellung EntscheideWiederherstellung(const Konfiguration& konfiguration) {
-    const std::string immer = konfiguration.Lies(Konfiguration::kAlwaysDoSo);
-    if (immer == "0") {
-        return Wiederherstellung::Fragen;
+Recovery DecideRecovery(const Configuration& configuration) {
+    const std::string always = configuration.Read(Configuration::kAlwaysDoSo);
+    if (always == "0") {
+        return Recovery::Ask;
     }
-    return immer == "1" && konfiguration.IstAn(Konfiguration::kRecover)
-               ? Wiederherstellung::Ungefragt
-               : Wiederherstellung::Nicht;
+    return always == "1" && configuration.IsOn(Configuration::kRecover) ? Recovery::Always
+                                                                        : Recovery::Never;
 }
 
 }  // namespace tarvelin

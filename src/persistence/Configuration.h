@@ -13,62 +13,62 @@
 namespace tarvelin {
 
 /// A key of the configuration; one that is missing reads as its default.
-struct Konfigurationskey {
+struct ConfigKey {
     std::string_view Section;
     std::string_view Key;
-    std::string_view Standard;
+    std::string_view Default;
 };
 
 /// Each read and each write goes to the file, so an edit by hand takes effect at the next read.
-class Konfiguration {
+class Configuration {
   public:
     // clang-format off
-    static constexpr Konfigurationskey kBaulistenwecker   {"Soundsettings", "Baulistenwecker",    "0"};
-    static constexpr Konfigurationskey kSchlafzeitenwecker{"Soundsettings", "Schlafzeitenwecker", "0"};
+    static constexpr ConfigKey kBaulistenwecker   {"Soundsettings", "Baulistenwecker",    "0"};
+    static constexpr ConfigKey kSchlafzeitenwecker{"Soundsettings", "Schlafzeitenwecker", "0"};
     /// No file has the name of the default, which stands for ours.
-    static constexpr Konfigurationskey kAlertsound        {"SoundSettings", "Alertsound",         "*"};
-    static constexpr Konfigurationskey kMode              {"Skinsettings",  "Mode",               "1"};
-    static constexpr Konfigurationskey kPath              {"Skinsettings",  "Path",               "~"};
-    static constexpr Konfigurationskey kWebPath           {"Skinsettings",  "WebPath",            "http://"};
-    static constexpr Konfigurationskey kFirststart        {"Settings",      "Firststart",         "1"};
-    static constexpr Konfigurationskey kRecover           {"StartSettings", "Recover",            "1"};
-    static constexpr Konfigurationskey kAlwaysDoSo        {"StartSettings", "AlwaysDoSo",         "0"};
-    static constexpr Konfigurationskey kItemCount         {"Bauliste",      "ItemCount",          ""};
+    static constexpr ConfigKey kAlertsound        {"SoundSettings", "Alertsound",         "*"};
+    static constexpr ConfigKey kMode              {"Skinsettings",  "Mode",               "1"};
+    static constexpr ConfigKey kPath              {"Skinsettings",  "Path",               "~"};
+    static constexpr ConfigKey kWebPath           {"Skinsettings",  "WebPath",            "http://"};
+    static constexpr ConfigKey kFirststart        {"Settings",      "Firststart",         "1"};
+    static constexpr ConfigKey kRecover           {"StartSettings", "Recover",            "1"};
+    static constexpr ConfigKey kAlwaysDoSo        {"StartSettings", "AlwaysDoSo",         "0"};
+    static constexpr ConfigKey kItemCount         {"Bauliste",      "ItemCount",          ""};
     /// Place of the frame and size of what is in it, in pixels; whether it fills the screen.
-    static constexpr Konfigurationskey kWerkbankLinks     {"Werkbank",      "Links",              ""};
-    static constexpr Konfigurationskey kWerkbankOben      {"Werkbank",      "Oben",               ""};
-    static constexpr Konfigurationskey kWerkbankBreite    {"Werkbank",      "Breite",             ""};
-    static constexpr Konfigurationskey kWerkbankHoehe     {"Werkbank",      "Hoehe",              ""};
-    static constexpr Konfigurationskey kWerkbankGross     {"Werkbank",      "Gross",              "0"};
+    static constexpr ConfigKey kWorkbenchLeft     {"Werkbank",      "Links",              ""};
+    static constexpr ConfigKey kWorkbenchTop      {"Werkbank",      "Oben",               ""};
+    static constexpr ConfigKey kWorkbenchWidth    {"Werkbank",      "Breite",             ""};
+    static constexpr ConfigKey kWorkbenchHeight     {"Werkbank",      "Hoehe",              ""};
+    static constexpr ConfigKey kWorkbenchMaximized     {"Werkbank",      "Gross",              "0"};
     // clang-format on
 
-    using Werte = std::vector<std::pair<Konfigurationskey, std::string>>;
+    using Values = std::vector<std::pair<ConfigKey, std::string>>;
 
-    explicit Konfiguration(std::filesystem::path programmordner,
-                           const Dateisystem& system = Platte());
+    explicit Configuration(std::filesystem::path programFolder,
+                           const FileSystem& system = NativeFileSystem());
 
-    [[nodiscard]] std::string Lies(const Konfigurationskey& key) const;
+    [[nodiscard]] std::string Read(const ConfigKey& key) const;
     /// "1" is on, any other text off.
-    [[nodiscard]] bool IstAn(const Konfigurationskey& key) const;
+    [[nodiscard]] bool IsOn(const ConfigKey& key) const;
     /// The kind of skin, from 0 to 255: 1 standard, 2 local, 3 web. A text that is no such number
     /// counts as 1.
-    [[nodiscard]] Byte Skinmodus() const;
+    [[nodiscard]] Byte SkinMode() const;
     /// The sound of the alarms; only the user enters another one than ours. A path that isn't an
     /// absolute one of the platform is meant from the program's folder.
     [[nodiscard]] std::filesystem::path Alertsound() const;
 
     /// Writes keys, all of them in one step. False, with nothing changed, if that fails.
-    [[nodiscard]] bool Schreibe(const Werte& werte) const;
+    [[nodiscard]] bool Write(const Values& values) const;
 
   private:
-    std::filesystem::path m_programmordner;
-    std::filesystem::path m_datei;
-    const Dateisystem& m_system;
+    std::filesystem::path m_programFolder;
+    std::filesystem::path m_file;
+    const FileSystem& m_system;
 };
 
 /// What a start does about the last plan, from the user's former answers.
-enum class Wiederherstellung { Nicht, Fragen, Ungefragt };
+enum class Recovery { Never, Ask, Always };
 
-[[nodiscard]] Wiederherstellung EntscheideWiederherstellung(const Konfiguration& konfiguration);
+[[nodiscard]] Recovery DecideRecovery(const Configuration& configuration);
 
 }  // namespace tarvelin

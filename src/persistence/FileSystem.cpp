@@ -7,46 +7,46 @@
 
 namespace tarvelin {
 
-std::optional<std::string> LiesDatei(const std::filesystem::path& datei, std::size_t hoechstens,
-                                     const Dateisystem& system) {
+std::optional<std::string> ReadFileToString(const std::filesystem::path& file, std::size_t max,
+                                            const FileSystem& system) {
     // What is no plain file might never come to an end.
-    if (system.Sieh(datei) != Dateisystem::Art::Datei) {
+    if (system.KindOf(file) != FileSystem::Kind::RegularFile) {
         return std::nullopt;
     }
-    const int nummer = system.Oeffne(datei);
-    if (nummer < 0) {
+    const int number = system.Open(file);
+    if (number < 0) {
         return std::nullopt;
     }
     std::string bytes;
     std::array<char, std::size_t{64} << 10U> block{};
-    std::ptrdiff_t gelesen = 1;
-    while (gelesen > 0 && bytes.size() <= hoechstens) {
-        gelesen = system.Lies(nummer, block);
-        bytes.append(block.data(), static_cast<std::size_t>(gelesen < 0 ? 0 : gelesen));
+    std::ptrdiff_t parsed = 1;
+    while (parsed > 0 && bytes.size() <= max) {
+        parsed = system.Read(number, block);
+        bytes.append(block.data(), static_cast<std::size_t>(parsed < 0 ? 0 : parsed));
     }
-    static_cast<void>(system.Schliesse(nummer));
-    return gelesen == 0 ? std::optional(std::move(bytes)) : std::nullopt;
+    static_cast<void>(system.Close(number));
+    return parsed == 0 ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
-bool FileExists(const std::filesystem::path& File, const Dateisystem& system) {
-    const auto art = system.Sieh(File);
-    return art && *art != Dateisystem::Art::Nichts && *art != Dateisystem::Art::Ordner;
+bool FileExists(const std::filesystem::path& File, const FileSystem& system) {
+    const auto kind = system.KindOf(File);
+    return kind && *kind != FileSystem::Kind::Nothing && *kind != FileSystem::Kind::TempFolder;
 }
 
 std::vector<std::string> GetSubfolders(const std::filesystem::path& Path,
-                                       const Dateisystem& system) {
-    std::vector<std::string> namen;
-    for (const auto& eintrag : system.Eintraege(Path)) {
-        if (system.IstSchlichterOrdner(eintrag)) {
-            const auto name = eintrag.filename().u8string();
-            namen.emplace_back(name.begin(), name.end());
+                                       const FileSystem& system) {
+    std::vector<std::string> names;
+    for (const auto& entry : system.Entries(Path)) {
+        if (system.IsPlainFolder(entry)) {
+            const auto name = entry.filename().u8string();
+            names.emplace_back(name.begin(), name.end());
         }
     }
-    std::ranges::sort(namen);
-    if (namen.empty()) {
-        namen.emplace_back();
+    std::ranges::sort(names);
+    if (names.empty()) {
+        names.emplace_back();
     }
-    return namen;
+    return names;
 }
 
 }  // namespace tarvelin

@@ -15,75 +15,75 @@ namespace tarvelin {
 
 /// One function for each call; none of them keeps anything between two calls. An open file is a
 /// number from 0; what can't be done answers -1, false or nothing.
-class Dateisystem {
+class FileSystem {
   public:
-    enum class Art : std::uint8_t { Nichts, Datei, Ordner, Anderes };
+    enum class Kind : std::uint8_t { Nothing, RegularFile, TempFolder, Other };
 
-    Dateisystem() = default;
-    Dateisystem(const Dateisystem&) = delete;
-    Dateisystem& operator=(const Dateisystem&) = delete;
-    virtual ~Dateisystem() = default;
+    FileSystem() = default;
+    FileSystem(const FileSystem&) = delete;
+    FileSystem& operator=(const FileSystem&) = delete;
+    virtual ~FileSystem() = default;
 
     /// What lies at a path, links followed; nothing if that can't be told.
-    [[nodiscard]] virtual std::optional<Art> Sieh(const std::filesystem::path& pfad) const = 0;
+    [[nodiscard]] virtual std::optional<Kind> KindOf(const std::filesystem::path& path) const = 0;
     /// The absolute path without links, as far as it exists.
-    [[nodiscard]] virtual std::optional<std::filesystem::path> LoeseAuf(
-        const std::filesystem::path& pfad) const = 0;
+    [[nodiscard]] virtual std::optional<std::filesystem::path> Resolve(
+        const std::filesystem::path& path) const = 0;
     /// Whether this user can write a file, or make files in a folder.
-    [[nodiscard]] virtual bool IstBeschreibbar(const std::filesystem::path& pfad) const = 0;
+    [[nodiscard]] virtual bool IsWritable(const std::filesystem::path& path) const = 0;
     /// What lies in a folder; nothing if it can't be listed.
-    [[nodiscard]] virtual std::vector<std::filesystem::path> Eintraege(
-        const std::filesystem::path& ordner) const = 0;
+    [[nodiscard]] virtual std::vector<std::filesystem::path> Entries(
+        const std::filesystem::path& folder) const = 0;
     /// Whether a folder lies at a path that is no link, isn't hidden, and has nothing else that a
     /// user of the platform would set for a folder apart.
-    [[nodiscard]] virtual bool IstSchlichterOrdner(const std::filesystem::path& pfad) const = 0;
+    [[nodiscard]] virtual bool IsPlainFolder(const std::filesystem::path& path) const = 0;
     /// Makes a folder and those above it. Whether it is there afterwards.
-    [[nodiscard]] virtual bool LegeOrdnerAn(const std::filesystem::path& pfad) const = 0;
+    [[nodiscard]] virtual bool CreateFolders(const std::filesystem::path& path) const = 0;
 
     /// Opens a file for reading.
-    [[nodiscard]] virtual int Oeffne(const std::filesystem::path& datei) const = 0;
+    [[nodiscard]] virtual int Open(const std::filesystem::path& file) const = 0;
     /// Makes a file that wasn't there, for writing.
-    [[nodiscard]] virtual int LegeAn(const std::filesystem::path& datei) const = 0;
+    [[nodiscard]] virtual int Create(const std::filesystem::path& file) const = 0;
     /// How many bytes came; 0 at the end of the file.
-    [[nodiscard]] virtual std::ptrdiff_t Lies(int nummer, std::span<char> bytes) const = 0;
+    [[nodiscard]] virtual std::ptrdiff_t Read(int number, std::span<char> bytes) const = 0;
     /// How many of the bytes went.
-    [[nodiscard]] virtual std::ptrdiff_t Schreibe(int nummer, std::string_view bytes) const = 0;
+    [[nodiscard]] virtual std::ptrdiff_t Write(int number, std::string_view bytes) const = 0;
     /// Gives an open file the access rights of another one.
-    [[nodiscard]] virtual bool UebernimmRechte(int nummer,
-                                               const std::filesystem::path& von) const = 0;
+    [[nodiscard]] virtual bool CopyPermissions(int number,
+                                               const std::filesystem::path& from) const = 0;
     /// Returns when the bytes lie on the disk.
-    [[nodiscard]] virtual bool BringAufPlatte(int nummer) const = 0;
+    [[nodiscard]] virtual bool Sync(int number) const = 0;
     /// The number is free afterwards in any case.
-    [[nodiscard]] virtual bool Schliesse(int nummer) const = 0;
+    [[nodiscard]] virtual bool Close(int number) const = 0;
 
     /// In one step; a file with the new name gives way.
-    [[nodiscard]] virtual bool BenenneUm(const std::filesystem::path& von,
-                                         const std::filesystem::path& nach) const = 0;
+    [[nodiscard]] virtual bool Rename(const std::filesystem::path& from,
+                                      const std::filesystem::path& target) const = 0;
     /// Brings the names in a folder to the disk, where the platform knows such a thing.
-    [[nodiscard]] virtual bool BringOrdnerAufPlatte(const std::filesystem::path& ordner) const = 0;
-    [[nodiscard]] virtual bool Loesche(const std::filesystem::path& datei) const = 0;
+    [[nodiscard]] virtual bool SyncFolder(const std::filesystem::path& folder) const = 0;
+    [[nodiscard]] virtual bool Remove(const std::filesystem::path& file) const = 0;
 
     /// The number of this process.
-    [[nodiscard]] virtual std::int64_t Prozess() const = 0;
+    [[nodiscard]] virtual std::int64_t ProcessId() const = 0;
     /// Whether a process of this number runs, as far as can be told.
-    [[nodiscard]] virtual bool Laeuft(std::int64_t prozess) const = 0;
+    [[nodiscard]] virtual bool IsRunning(std::int64_t process) const = 0;
 };
 
 /// The platform's own.
-[[nodiscard]] const Dateisystem& Platte();
+[[nodiscard]] const FileSystem& NativeFileSystem();
 
-/// The bytes of a file; nothing if it is none, can't be read or has more than `hoechstens`.
-[[nodiscard]] std::optional<std::string> LiesDatei(const std::filesystem::path& datei,
-                                                   std::size_t hoechstens,
-                                                   const Dateisystem& system);
+/// The bytes of a file; nothing if it is none, can't be read or has more than `max`.
+[[nodiscard]] std::optional<std::string> ReadFileToString(const std::filesystem::path& file,
+                                                          std::size_t max,
+                                                          const FileSystem& system);
 
 /// Whether an existing file, not a folder, has this name.
 [[nodiscard]] bool FileExists(const std::filesystem::path& File,
-                              const Dateisystem& system = Platte());
+                              const FileSystem& system = NativeFileSystem());
 
 /// The names of the plain subfolders of a folder, sorted. A folder without any, or one that can't
 /// be listed, gives one empty name.
 [[nodiscard]] std::vector<std::string> GetSubfolders(const std::filesystem::path& Path,
-                                                     const Dateisystem& system = Platte());
+                                                     const FileSystem& system = NativeFileSystem());
 
 }  // namespace tarvelin

@@ -17,101 +17,102 @@ namespace {
 namespace fs = std::filesystem;
 
 /// A call that a signal interrupted is made again.
-template <class Aufruf>
-auto Wiederhole(Aufruf aufruf) {
-    auto antwort = aufruf();
-    while (antwort < 0 && errno == EINTR) {
-        antwort = aufruf();
+template <class Call>
+auto Retry(Call call) {
+    auto answer = call();
+    while (answer < 0 && errno == EINTR) {
+        answer = call();
     }
-    return antwort;
+    return answer;
 }
 
-class Posix final : public Dateisystem {
+class PosixFileSystem final : public FileSystem {
   public:
-    [[nodiscard]] std::optional<Art> Sieh(const fs::path& pfad) const override {
+    [[nodiscard]] std::optional<Kind> KindOf(const fs::path& path) const override {
         struct stat status {};
-        if (::stat(pfad.c_str(), &status) != 0) {
-            return errno == ENOENT || errno == ENOTDIR ? std::optional(Art::Nichts) : std::nullopt;
+        if (::stat(path.c_str(), &status) != 0) {
+            return errno == ENOENT || errno == ENOTDIR ? std::optional(Kind::Nothing)
+                                                       : std::nullopt;
         }
-        return S_ISREG(status.st_mode)   ? Art::Datei
-               : S_ISDIR(status.st_mode) ? Art::Ordner
-                                         : Art::Anderes;
+        return S_ISREG(status.st_mode)   ? Kind::RegularFile
+               : S_ISDIR(status.st_mode) ? Kind::TempFolder
+                                         : Kind::Other;
     }
-    [[nodiscard]] std::optional<fs::path> LoeseAuf(const fs::path& pfad) const override {
-        std::error_code fehler;
-        auto ziel = fs::weakly_canonical(fs::absolute(pfad, fehler), fehler);
-        return fehler ? std::nullopt : std::optional(std::move(ziel));
+    [[nodiscard]] std::optional<fs::path> Resolve(const fs::path& path) const override {
+        std::error_code error;
+        auto destination = fs::weakly_canonical(fs::absolute(path, error), error);
+        return error ? std::nullopt : std::optional(std::move(destination));
     }
-    [[nodiscard]] bool IstBeschreibbar(const fs::path& pfad) const override {
-        const bool ordner = Sieh(pfad) == Art::Ordner;
-        return ::access(pfad.c_str(), ordner ? W_OK | X_OK : W_OK) == 0;
+    [[nodiscard]] bool IsWritable(const fs::path& path) const override {
+        const bool folder = KindOf(path) == Kind::TempFolder;
+        return ::access(path.c_str(), folder ? W_OK | X_OK : W_OK) == 0;
     }
-    [[nodiscard]] std::vector<fs::path> Eintraege(const fs::path& ordner) const override {
-        std::vector<fs::path> eintraege;
-        std::error_code fehler;
-        for (fs::directory_iterator eintrag(ordner, fehler), ende; !fehler && eintrag != ende;
-             eintrag.increment(fehler)) {
-            eintraege.push_back(eintrag->path());
+    [[nodiscard]] std::vector<fs::path> Entries(const fs::path& folder) const override {
+        std::vector<fs::path> entries;
+        std::error_code error;
+        for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+             entry.increment(error)) {
+            entries.push_back(entry->path());
         }
-        return eintraege;
+        return entries;
     }
-    [[nodiscard]] bool IstSchlichterOrdner(const fs::path& pfad) const override {
-        std::error_code fehler;
-        return fs::symlink_status(pfad, fehler).type() == fs::file_type::directory &&
-               !pfad.filename().native().starts_with('.');
+    [[nodiscard]] bool IsPlainFolder(const fs::path& path) const override {
+        std::error_code error;
+        return fs::symlink_status(path, error).type() == fs::file_type::directory &&
+               !path.filename().native().starts_with('.');
     }
-    [[nodiscard]] bool LegeOrdnerAn(const fs::path& pfad) const override {
-        std::error_code fehler;
-        fs::create_directories(pfad, fehler);
-        return Sieh(pfad) == Art::Ordner;
+    [[nodiscard]] bool CreateFolders(const fs::path& path) const override {
+        std::error_code error;
+        fs::create_directories(path, error);
+        return KindOf(path) == Kind::TempFolder;
     }
 
-    [[nodiscard]] int Oeffne(const fs::path& datei) const override {
-        return Wiederhole([&] { return ::open(datei.c_str(), O_RDONLY | O_CLOEXEC); });
+    [[nodiscard]] int Open(const fs::path& file) const override {
+        return Retry([&] { return ::open(file.c_str(), O_RDONLY | O_CLOEXEC); });
     }
-    [[nodiscard]] int LegeAn(const fs::path& datei) const override {
-        constexpr mode_t kNeueRechte = 0666;
-        return Wiederhole([&] {
-            return ::open(datei.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kNeueRechte);
+    [[nodiscard]] int Create(const fs::path& file) const override {
+        constexpr mode_t kNewPermissions = 0666;
+        return Retry([&] {
+            return ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kNewPermissions);
         });
     }
-    [[nodiscard]] std::ptrdiff_t Lies(int nummer, std::span<char> bytes) const override {
-        return Wiederhole([&] { return ::read(nummer, bytes.data(), bytes.size()); });
+    [[nodiscard]] std::ptrdiff_t Read(int number, std::span<char> bytes) const override {
+        return Retry([&] { return ::read(number, bytes.data(), bytes.size()); });
     }
-    [[nodiscard]] std::ptrdiff_t Schreibe(int nummer, std::string_view bytes) const override {
-        return Wiederhole([&] { return ::write(nummer, bytes.data(), bytes.size()); });
+    [[nodiscard]] std::ptrdiff_t Write(int number, std::string_view bytes) const override {
+        return Retry([&] { return ::write(number, bytes.data(), bytes.size()); });
     }
-    [[nodiscard]] bool UebernimmRechte(int nummer, const fs::path& von) const override {
-        constexpr mode_t kRechtebits = 07777;
+    [[nodiscard]] bool CopyPermissions(int number, const fs::path& from) const override {
+        constexpr mode_t kPermissionBits = 07777;
         struct stat status {};
-        return ::stat(von.c_str(), &status) == 0 &&
-               ::fchmod(nummer, status.st_mode & kRechtebits) == 0;
+        return ::stat(from.c_str(), &status) == 0 &&
+               ::fchmod(number, status.st_mode & kPermissionBits) == 0;
     }
-    [[nodiscard]] bool BringAufPlatte(int nummer) const override {
-        return Wiederhole([&] { return ::fsync(nummer); }) == 0;
+    [[nodiscard]] bool Sync(int number) const override {
+        return Retry([&] { return ::fsync(number); }) == 0;
     }
-    bool Schliesse(int nummer) const override { return ::close(nummer) == 0; }
+    bool Close(int number) const override { return ::close(number) == 0; }
 
-    [[nodiscard]] bool BenenneUm(const fs::path& von, const fs::path& nach) const override {
-        return ::rename(von.c_str(), nach.c_str()) == 0;
+    [[nodiscard]] bool Rename(const fs::path& from, const fs::path& target) const override {
+        return ::rename(from.c_str(), target.c_str()) == 0;
     }
-    bool BringOrdnerAufPlatte(const fs::path& ordner) const override {
-        const int nummer = ::open(ordner.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-        const bool gelungen = nummer >= 0 && BringAufPlatte(nummer);
-        return nummer >= 0 && Schliesse(nummer) && gelungen;
+    bool SyncFolder(const fs::path& folder) const override {
+        const int number = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        const bool succeeded = number >= 0 && Sync(number);
+        return number >= 0 && Close(number) && succeeded;
     }
-    bool Loesche(const fs::path& datei) const override { return ::unlink(datei.c_str()) == 0; }
+    bool Remove(const fs::path& file) const override { return ::unlink(file.c_str()) == 0; }
 
-    [[nodiscard]] std::int64_t Prozess() const override { return ::getpid(); }
-    [[nodiscard]] bool Laeuft(std::int64_t prozess) const override {
-        return ::kill(static_cast<pid_t>(prozess), 0) == 0 || errno != ESRCH;
+    [[nodiscard]] std::int64_t ProcessId() const override { return ::getpid(); }
+    [[nodiscard]] bool IsRunning(std::int64_t process) const override {
+        return ::kill(static_cast<pid_t>(process), 0) == 0 || errno != ESRCH;
     }
 };
 
 }  // namespace
 
-const Dateisystem& Platte() {
-    static const Posix kPosix;
+const FileSystem& NativeFileSystem() {
+    static const PosixFileSystem kPosix;
     return kPosix;
 }
 

@@ -11,237 +11,237 @@ namespace tarvelin {
 
 namespace {
 
-constexpr std::string_view kZeilenende = "\r\n";
-constexpr std::array<std::pair<std::string_view, std::optional<ByteOrder>>, 3> kBytemarken{
+constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::array<std::pair<std::string_view, std::optional<ByteOrder>>, 3> kByteOrderMarks{
     {{"\xEF\xBB\xBF", std::nullopt},
      {"\xFF\xFE", ByteOrder::LittleEndian},
      {"\xFE\xFF", ByteOrder::BigEndian}}};
-constexpr std::size_t kHoechstlaenge = 255;
+constexpr std::size_t kMaxLength = 255;
 
-std::string Klein(std::string_view text) {
-    std::string klein(text);
-    std::ranges::transform(klein, klein.begin(), [](char zeichen) {
-        return zeichen >= 'A' && zeichen <= 'Z' ? static_cast<char>(zeichen - 'A' + 'a') : zeichen;
+std::string Lowercase(std::string_view text) {
+    std::string lowercase(text);
+    std::ranges::transform(lowercase, lowercase.begin(), [](char character) {
+        return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
+                                                    : character;
     });
-    return klein;
+    return lowercase;
 }
 
-std::string_view OhneRand(std::string_view text, std::string_view rand = " \t\v\f") {
-    const auto anfang = text.find_first_not_of(rand);
-    if (anfang == std::string_view::npos) {
+std::string_view Trimmed(std::string_view text, std::string_view margin = " \t\v\f") {
+    const auto begin = text.find_first_not_of(margin);
+    if (begin == std::string_view::npos) {
         return {};
     }
-    return text.substr(anfang, text.find_last_not_of(rand) - anfang + 1);
+    return text.substr(begin, text.find_last_not_of(margin) - begin + 1);
 }
 
 /// A line without its end and the blanks around it.
-std::string_view Inhalt(std::string_view zeile) {
-    while (zeile.ends_with('\n') || zeile.ends_with('\r')) {
-        zeile.remove_suffix(1);
+std::string_view Content(std::string_view line) {
+    while (line.ends_with('\n') || line.ends_with('\r')) {
+        line.remove_suffix(1);
     }
-    return OhneRand(zeile);
+    return Trimmed(line);
 }
 
-bool IstBeendet(std::string_view zeile) {
-    return zeile.ends_with('\n') || zeile.ends_with('\r');
+bool IsEnded(std::string_view line) {
+    return line.ends_with('\n') || line.ends_with('\r');
 }
 
-void Beende(std::string& zeile) {
-    if (!IstBeendet(zeile)) {
-        zeile += kZeilenende;
+void EndLine(std::string& line) {
+    if (!IsEnded(line)) {
+        line += kLineEnd;
     }
 }
 
 /// The name of a section line, or nothing for another line.
-std::optional<std::string_view> Sectionname(std::string_view inhalt) {
-    if (!inhalt.starts_with('[')) {
+std::optional<std::string_view> SectionName(std::string_view content) {
+    if (!content.starts_with('[')) {
         return std::nullopt;
     }
-    inhalt.remove_prefix(1);
-    return OhneRand(inhalt.substr(0, inhalt.find(']')));
+    content.remove_prefix(1);
+    return Trimmed(content.substr(0, content.find(']')));
 }
 
 /// Key and value of a key line, or nothing for another line.
-std::optional<std::pair<std::string_view, std::string_view>> Schluesselzeile(
-    std::string_view inhalt) {
-    const auto gleich = inhalt.find('=');
-    if (inhalt.starts_with(';') || gleich == std::string_view::npos) {
+std::optional<std::pair<std::string_view, std::string_view>> KeyLine(std::string_view content) {
+    const auto equals = content.find('=');
+    if (content.starts_with(';') || equals == std::string_view::npos) {
         return std::nullopt;
     }
-    return std::pair(OhneRand(inhalt.substr(0, gleich)), OhneRand(inhalt.substr(gleich + 1)));
+    return std::pair(Trimmed(content.substr(0, equals)), Trimmed(content.substr(equals + 1)));
 }
 
-std::string_view OhneAnfuehrung(std::string_view wert) {
-    const bool angefuehrt = wert.size() >= 2 && wert.front() == wert.back() &&
-                            (wert.front() == '"' || wert.front() == '\'');
-    return angefuehrt ? wert.substr(1, wert.size() - 2) : wert;
+std::string_view Unquoted(std::string_view value) {
+    const bool quoted = value.size() >= 2 && value.front() == value.back() &&
+                        (value.front() == '"' || value.front() == '\'');
+    return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
-std::string_view BisNul(std::string_view wert) {
-    return wert.substr(0, wert.find('\0'));
+std::string_view UpToNul(std::string_view value) {
+    return value.substr(0, value.find('\0'));
 }
 
 /// A default is cut by characters, as each would be one byte of the file.
-std::string_view GekuerzterStandard(std::string_view utf8) {
-    std::size_t zeichen = 0;
+std::string_view CutDefault(std::string_view utf8) {
+    std::size_t character = 0;
     for (std::size_t i = 0; i < utf8.size(); ++i) {
-        const bool beginntZeichen = (static_cast<unsigned char>(utf8[i]) & 0xC0U) != 0x80U;
-        if (beginntZeichen && ++zeichen > kHoechstlaenge) {
-            return BisNul(utf8.substr(0, i));
+        const bool beginsCharacter = (static_cast<unsigned char>(utf8[i]) & 0xC0U) != 0x80U;
+        if (beginsCharacter && ++character > kMaxLength) {
+            return UpToNul(utf8.substr(0, i));
         }
     }
-    return BisNul(utf8);
+    return UpToNul(utf8);
 }
 
 /// Takes the first line, with its end, off the bytes: LF, CR LF or CR.
-std::string_view NimmZeile(std::string_view& bytes) {
-    auto ende = std::min(bytes.find_first_of(kZeilenende), bytes.size());
-    if (bytes.substr(ende).starts_with(kZeilenende)) {
-        ++ende;
+std::string_view TakeLine(std::string_view& bytes) {
+    auto end = std::min(bytes.find_first_of(kLineEnd), bytes.size());
+    if (bytes.substr(end).starts_with(kLineEnd)) {
+        ++end;
     }
-    const std::string_view zeile = bytes.substr(0, ende + 1);
-    bytes.remove_prefix(zeile.size());
-    return zeile;
+    const std::string_view line = bytes.substr(0, end + 1);
+    bytes.remove_prefix(line.size());
+    return line;
 }
 
 }  // namespace
 
-Profil::Profil(std::string_view bytes) : m_abschnitte(1) {
-    for (const auto& [marke, folge] : kBytemarken) {
-        if (bytes.starts_with(marke)) {
-            m_bytemarke = marke;
-            m_utf16 = folge;
+IniFile::IniFile(std::string_view bytes) : m_blocks(1) {
+    for (const auto& [mark, byteOrder] : kByteOrderMarks) {
+        if (bytes.starts_with(mark)) {
+            m_byteOrderMark = mark;
+            m_utf16 = byteOrder;
         }
     }
-    bytes.remove_prefix(m_bytemarke.size());
+    bytes.remove_prefix(m_byteOrderMark.size());
     const std::string text = m_utf16 ? FromUtf16(bytes, *m_utf16) : std::string();
     std::string_view rest = m_utf16 ? text : bytes;
     while (!rest.empty()) {
-        NimmZeileAuf(NimmZeile(rest));
+        AddLine(TakeLine(rest));
     }
 }
 
-std::optional<Profil> Profil::Lade(const std::filesystem::path& datei, const Dateisystem& system) {
-    const auto bytes = LiesDatei(datei, kHoechstgroesse, system);
-    return bytes ? std::optional<Profil>(*bytes) : std::nullopt;
+std::optional<IniFile> IniFile::Load(const std::filesystem::path& file, const FileSystem& system) {
+    const auto bytes = ReadFileToString(file, kMaxBytes, system);
+    return bytes ? std::optional<IniFile>(*bytes) : std::nullopt;
 }
 
-std::optional<Profil> Profil::LadeOderLeer(const std::filesystem::path& datei,
-                                           const Dateisystem& system) {
-    return system.Sieh(datei) == Dateisystem::Art::Nichts ? Profil("") : Lade(datei, system);
+std::optional<IniFile> IniFile::LoadOrEmpty(const std::filesystem::path& file,
+                                            const FileSystem& system) {
+    return system.KindOf(file) == FileSystem::Kind::Nothing ? IniFile("") : Load(file, system);
 }
 
-std::string Profil::Lies(std::string_view section, std::string_view key,
-                         std::string_view standard) const {
-    if (const Abschnitt* const abschnitt = Suche(section)) {
-        const auto stelle = abschnitt->Stellen.find(Klein(To1252(key)));
-        if (stelle != abschnitt->Stellen.end()) {
-            const auto zeile = Schluesselzeile(Inhalt(abschnitt->Zeilen[stelle->second]));
-            const std::string wert = Im1252(OhneAnfuehrung(zeile->second));
-            return From1252(BisNul(std::string_view(wert).substr(0, kHoechstlaenge)));
+std::string IniFile::ReadINI(std::string_view Section, std::string_view Key,
+                             std::string_view Default) const {
+    if (const Block* const block = FindBlock(Section)) {
+        const auto found = block->lineOfKey.find(Lowercase(To1252(Key)));
+        if (found != block->lineOfKey.end()) {
+            const auto line = KeyLine(Content(block->lines[found->second]));
+            const std::string value = ToCodepage(Unquoted(line->second));
+            return From1252(UpToNul(std::string_view(value).substr(0, kMaxLength)));
         }
     }
-    return std::string(GekuerzterStandard(standard));
+    return std::string(CutDefault(Default));
 }
 
-std::optional<std::size_t> Profil::Zeilennummer(std::string_view section,
-                                                std::string_view key) const {
-    const Abschnitt* const gesuchter = Suche(section);
-    if (gesuchter == nullptr) {
+std::optional<std::size_t> IniFile::LineNumber(std::string_view section,
+                                               std::string_view key) const {
+    const Block* const wanted = FindBlock(section);
+    if (wanted == nullptr) {
         return std::nullopt;
     }
-    const auto stelle = gesuchter->Stellen.find(Klein(To1252(key)));
-    if (stelle == gesuchter->Stellen.end()) {
+    const auto found = wanted->lineOfKey.find(Lowercase(To1252(key)));
+    if (found == wanted->lineOfKey.end()) {
         return std::nullopt;
     }
-    std::size_t davor = 0;
-    for (const Abschnitt& abschnitt : m_abschnitte) {
-        if (&abschnitt == gesuchter) {
+    std::size_t before = 0;
+    for (const Block& block : m_blocks) {
+        if (&block == wanted) {
             break;
         }
-        davor += abschnitt.Zeilen.size();
+        before += block.lines.size();
     }
-    return davor + stelle->second + 1;
+    return before + found->second + 1;
 }
 
-void Profil::Schreibe(std::string_view section, std::string_view key, std::string_view value) {
-    Abschnitt& abschnitt = SucheOderMache(section);
-    auto& zeilen = abschnitt.Zeilen;
-    const std::string name = To1252(key);
+void IniFile::WriteINI(std::string_view Section, std::string_view Key, std::string_view Value) {
+    Block& block = FindOrAddBlock(Section);
+    auto& lines = block.lines;
+    const std::string name = To1252(Key);
     // A value that went on in another line would be one of its own there.
-    const auto eineZeile = value.substr(0, value.find_first_of(std::string_view("\r\n\0", 3)));
-    const std::string rest = "=" + AlsZeile(To1252(eineZeile)) + std::string(kZeilenende);
-    const auto stelle = abschnitt.Stellen.find(Klein(name));
-    if (stelle != abschnitt.Stellen.end()) {
-        std::string& zeile = zeilen[stelle->second];
-        zeile = std::string(Schluesselzeile(Inhalt(zeile))->first) + rest;
+    const auto singleLine = Value.substr(0, Value.find_first_of(std::string_view("\r\n\0", 3)));
+    const std::string rest = "=" + ToLine(To1252(singleLine)) + std::string(kLineEnd);
+    const auto found = block.lineOfKey.find(Lowercase(name));
+    if (found != block.lineOfKey.end()) {
+        std::string& line = lines[found->second];
+        line = std::string(KeyLine(Content(line))->first) + rest;
         return;
     }
     // Behind the last line that isn't blank; the section line itself never is.
-    std::size_t ort = zeilen.size();
-    while (Inhalt(zeilen[ort - 1]).empty()) {
-        --ort;
+    std::size_t position = lines.size();
+    while (Content(lines[position - 1]).empty()) {
+        --position;
     }
-    Beende(zeilen[ort - 1]);
-    zeilen.insert(zeilen.begin() + static_cast<std::ptrdiff_t>(ort), AlsZeile(name) + rest);
-    abschnitt.Stellen.emplace(Klein(name), ort);
+    EndLine(lines[position - 1]);
+    lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(position), ToLine(name) + rest);
+    block.lineOfKey.emplace(Lowercase(name), position);
 }
 
-std::string Profil::Bytes() const {
+std::string IniFile::Bytes() const {
     std::string text;
-    for (const Abschnitt& abschnitt : m_abschnitte) {
-        for (const std::string& zeile : abschnitt.Zeilen) {
-            text += zeile;
+    for (const Block& block : m_blocks) {
+        for (const std::string& line : block.lines) {
+            text += line;
         }
     }
-    return m_bytemarke + (m_utf16 ? ToUtf16(text, *m_utf16) : text);
+    return m_byteOrderMark + (m_utf16 ? ToUtf16(text, *m_utf16) : text);
 }
 
-void Profil::NimmZeileAuf(std::string_view zeile) {
-    const std::string_view inhalt = Inhalt(zeile);
-    if (const auto name = Sectionname(inhalt)) {
-        BeginneAbschnitt(Klein(Im1252(*name)));
-    } else if (const auto paar = Schluesselzeile(inhalt); paar && m_abschnitte.back().Erreichbar) {
-        Abschnitt& abschnitt = m_abschnitte.back();
-        abschnitt.Stellen.emplace(Klein(Im1252(paar->first)), abschnitt.Zeilen.size());
+void IniFile::AddLine(std::string_view line) {
+    const std::string_view content = Content(line);
+    if (const auto name = SectionName(content)) {
+        BeginBlock(Lowercase(ToCodepage(*name)));
+    } else if (const auto pair = KeyLine(content); pair && m_blocks.back().reachable) {
+        Block& block = m_blocks.back();
+        block.lineOfKey.emplace(Lowercase(ToCodepage(pair->first)), block.lines.size());
     }
-    m_abschnitte.back().Zeilen.emplace_back(zeile);
+    m_blocks.back().lines.emplace_back(line);
 }
 
 /// A section of a known name is out of reach, and so are all that follow it in such a row.
-void Profil::BeginneAbschnitt(std::string_view name) {
-    const bool neu = m_namen.emplace(name, m_abschnitte.size()).second;
-    if (neu || m_abschnitte.back().Erreichbar) {
-        m_abschnitte.emplace_back();
-        m_abschnitte.back().Erreichbar = neu;
+void IniFile::BeginBlock(std::string_view name) {
+    const bool isNew = m_blockOfName.emplace(name, m_blocks.size()).second;
+    if (isNew || m_blocks.back().reachable) {
+        m_blocks.emplace_back();
+        m_blocks.back().reachable = isNew;
     }
 }
 
-const Profil::Abschnitt* Profil::Suche(std::string_view section) const {
-    const auto ort = m_namen.find(Klein(To1252(section)));
-    return ort == m_namen.end() ? nullptr : &m_abschnitte[ort->second];
+const IniFile::Block* IniFile::FindBlock(std::string_view section) const {
+    const auto position = m_blockOfName.find(Lowercase(To1252(section)));
+    return position == m_blockOfName.end() ? nullptr : &m_blocks[position->second];
 }
 
-Profil::Abschnitt& Profil::SucheOderMache(std::string_view section) {
+IniFile::Block& IniFile::FindOrAddBlock(std::string_view section) {
     const std::string name = To1252(section);
-    const auto ort = m_namen.find(Klein(name));
-    if (ort != m_namen.end()) {
-        return m_abschnitte[ort->second];
+    const auto position = m_blockOfName.find(Lowercase(name));
+    if (position != m_blockOfName.end()) {
+        return m_blocks[position->second];
     }
-    if (auto& letzte = m_abschnitte.back().Zeilen; !letzte.empty()) {
-        Beende(letzte.back());
+    if (auto& last = m_blocks.back().lines; !last.empty()) {
+        EndLine(last.back());
     }
-    BeginneAbschnitt(Klein(name));
-    m_abschnitte.back().Zeilen.push_back("[" + AlsZeile(name) + "]" + std::string(kZeilenende));
-    return m_abschnitte.back();
+    BeginBlock(Lowercase(name));
+    m_blocks.back().lines.push_back("[" + ToLine(name) + "]" + std::string(kLineEnd));
+    return m_blocks.back();
 }
 
-std::string Profil::Im1252(std::string_view text) const {
+std::string IniFile::ToCodepage(std::string_view text) const {
     return m_utf16 ? To1252(text) : std::string(text);
 }
 
-std::string Profil::AlsZeile(std::string_view im1252) const {
-    return m_utf16 ? From1252(im1252) : std::string(im1252);
+std::string IniFile::ToLine(std::string_view in1252) const {
+    return m_utf16 ? From1252(in1252) : std::string(in1252);
 }
 
 }  // namespace tarvelin

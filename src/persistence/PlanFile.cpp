@@ -16,27 +16,27 @@ namespace tarvelin {
 
 namespace {
 
-constexpr std::string_view kEinstellungen = "Einstellungen";
-constexpr std::string_view kBauliste = "Bauliste";
-constexpr std::string_view kSchlafzeiten = "Schlafzeiten";
+constexpr std::string_view kSettings = "Einstellungen";
+constexpr std::string_view kBuildList = "Bauliste";
+constexpr std::string_view kSleepWindows = "Schlafzeiten";
 constexpr std::string_view kItemCount = "ItemCount";
 
-constexpr std::int64_t kMeisteSchlafzeiten = 9999;
+constexpr std::int64_t kMaxSleepWindows = 9999;
 
 /// "Item_007".
-std::string Zeilenkey(std::string_view name, std::size_t n) {
-    constexpr int kStellen = 3;
-    return std::string(name) + PadIntegerDigits(std::to_string(n), kStellen);
+std::string RowKey(std::string_view name, std::size_t n) {
+    constexpr int kDecimals = 3;
+    return std::string(name) + PadIntegerDigits(std::to_string(n), kDecimals);
 }
 
 /// The keys of the section of settings that hold an input's text as typed, in the order in which
 /// they are written and read. The highest temperature is no row, as the lowest follows from it.
-struct Textkey {
+struct TextKey {
     std::string_view Key;
-    std::string StartParameters::*Text;
+    std::string StartParameters::*text;
 };
 
-constexpr std::array<Textkey, 5> kDatumskeys{{
+constexpr std::array<TextKey, 5> kDateKeys{{
     {"UniStartZeitTag", &StartParameters::UniStartZeitTag},
     {"UniStartZeitMonat", &StartParameters::UniStartZeitMonat},
     {"UniStartZeitJahr", &StartParameters::UniStartZeitJahr},
@@ -45,203 +45,202 @@ constexpr std::array<Textkey, 5> kDatumskeys{{
 }};
 
 /// A value of any file as a person reads it: in one line, and not too long.
-std::string Lesbar(std::string_view wert) {
-    constexpr std::size_t kHoechstens = 60;
-    std::string text(wert.substr(0, wert.find_first_of('\0')));
+std::string Readable(std::string_view value) {
+    constexpr std::size_t kMax = 60;
+    std::string text(value.substr(0, value.find_first_of('\0')));
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const auto zeichen = static_cast<unsigned char>(text[i]);
+        const auto character = static_cast<unsigned char>(text[i]);
         // Also those of the second set, which UTF-8 has behind this byte.
-        const bool folge = i > 0 && text[i - 1] == '\xC2' && zeichen >= 0x80 && zeichen < 0xA0;
-        if (zeichen < ' ' || zeichen == 0x7F || folge) {
+        const bool byteOrder =
+            i > 0 && text[i - 1] == '\xC2' && character >= 0x80 && character < 0xA0;
+        if (character < ' ' || character == 0x7F || byteOrder) {
             text[i] = '?';
-            text[i - (folge ? 1 : 0)] = '?';
+            text[i - (byteOrder ? 1 : 0)] = '?';
         }
     }
-    if (text.size() > kHoechstens) {
+    if (text.size() > kMax) {
         // No letter is parted.
-        std::size_t ende = kHoechstens;
-        while ((static_cast<unsigned char>(text[ende]) & 0xC0U) == 0x80U) {
-            --ende;
+        std::size_t end = kMax;
+        while ((static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) {
+            --end;
         }
-        text.resize(ende);
+        text.resize(end);
         text += "...";
     }
     return text;
 }
 
 /// The steps of a load; each answers whether it found usable values.
-class Leser {
+class PlanReader {
   public:
-    Leser(const Profil& profil, Plan& plan, const RunConditions& bedingungen)
-        : m_profil(profil), m_plan(plan), m_bedingungen(bedingungen) {}
+    PlanReader(const IniFile& profile, Plan& plan, const RunConditions& conditions)
+        : m_profile(profile), m_plan(plan), m_conditions(conditions) {}
 
-    bool Lies() { return LiesEinstellungen() && LiesSchlafzeiten() && LiesBauliste(); }
+    bool Read() { return ReadSettings() && ReadSleepTable() && ReadBuildList(); }
 
     /// What the reading stopped at, for people.
-    [[nodiscard]] const std::string& Hindernis() const { return m_hindernis; }
+    [[nodiscard]] const std::string& Obstacle() const { return m_obstacle; }
 
   private:
-    bool LiesEinstellungen() {
-        StartParameters& parameter = m_plan.parameters;
-        parameter.Speedfaktor_X2 = m_profil.Lies(kEinstellungen, "Speedfaktor_X2", "0") == "1";
-        const auto klickPuffer = LiesZahlVon0(kEinstellungen, "KlickPuffer", kMaxKlickPuffer);
+    bool ReadSettings() {
+        StartParameters& parameters = m_plan.parameters;
+        parameters.Speedfaktor_X2 = m_profile.ReadINI(kSettings, "Speedfaktor_X2", "0") == "1";
+        const auto klickPuffer = ReadNumberFromZero(kSettings, "KlickPuffer", kMaxKlickPuffer);
         if (!klickPuffer) {
             return false;
         }
-        parameter.KlickPuffer = static_cast<int>(*klickPuffer);
-        for (const Textkey& textkey : kDatumskeys) {
-            parameter.*textkey.Text = m_profil.Lies(kEinstellungen, textkey.Key, "");
+        parameters.KlickPuffer = static_cast<int>(*klickPuffer);
+        for (const TextKey& textKey : kDateKeys) {
+            parameters.*textKey.text = m_profile.ReadINI(kSettings, textKey.Key, "");
         }
-        ChangeTempMax(parameter, m_profil.Lies(kEinstellungen, "TempMax", ""));
-        const auto showDesc = ParseNumber(m_profil.Lies(kEinstellungen, "ShowDesc", ""));
+        ChangeTempMax(parameters, m_profile.ReadINI(kSettings, "TempMax", ""));
+        const auto showDesc = ParseNumber(m_profile.ReadINI(kSettings, "ShowDesc", ""));
         m_plan.ShowDesc = showDesc ? *showDesc != 0 : m_plan.ShowDesc;
-        return showDesc || Scheitere(kEinstellungen, "ShowDesc", "ist keine Zahl");
+        return showDesc || Fail(kSettings, "ShowDesc", "ist keine Zahl");
     }
 
-    bool LiesSchlafzeiten() {
+    bool ReadSleepTable() {
         m_plan.LV_Schlafzeiten.clear();
-        const auto anzahl = LiesZahlVon0(kSchlafzeiten, kItemCount, kMeisteSchlafzeiten);
-        for (std::size_t n = 1; anzahl && n <= static_cast<std::size_t>(*anzahl); ++n) {
+        const auto count = ReadNumberFromZero(kSleepWindows, kItemCount, kMaxSleepWindows);
+        for (std::size_t n = 1; count && n <= static_cast<std::size_t>(*count); ++n) {
             m_plan.LV_Schlafzeiten.push_back(
-                {m_profil.Lies(kSchlafzeiten, Zeilenkey("Item_", n), ""),
-                 m_profil.Lies(kSchlafzeiten, Zeilenkey("SubItem_", n), "")});
+                {m_profile.ReadINI(kSleepWindows, RowKey("Item_", n), ""),
+                 m_profile.ReadINI(kSleepWindows, RowKey("SubItem_", n), "")});
         }
-        return anzahl.has_value();
+        return count.has_value();
     }
 
-    bool LiesBauliste() {
-        const auto anzahl = ParseWholeNumber(m_profil.Lies(kBauliste, kItemCount, ""), 0,
-                                             std::numeric_limits<std::int64_t>::max());
-        const std::string erwartet =
+    bool ReadBuildList() {
+        const auto count = ParseWholeNumber(m_profile.ReadINI(kBuildList, kItemCount, ""), 0,
+                                            std::numeric_limits<std::int64_t>::max());
+        const std::string expected =
             "ist keine Zahl von 0 bis " + std::to_string(OrderList::kMaxSize);
-        if (!anzahl) {
-            return Scheitere(kBauliste, kItemCount, erwartet);
+        if (!count) {
+            return Fail(kBuildList, kItemCount, expected);
         }
-        const auto zeilen = std::min(*anzahl, std::int64_t{OrderList::kMaxSize});
-        for (std::int64_t n = 1; n <= zeilen; ++n) {
-            const auto key = Zeilenkey("Item_", static_cast<std::size_t>(n));
-            if (!m_plan.LV_Bauliste.Replay(m_profil.Lies(kBauliste, key, ""), m_bedingungen)) {
-                return Scheitere(kBauliste, key, "ist kein Code der Bauliste");
+        const auto rows = std::min(*count, std::int64_t{OrderList::kMaxSize});
+        for (std::int64_t n = 1; n <= rows; ++n) {
+            const auto key = RowKey("Item_", static_cast<std::size_t>(n));
+            if (!m_plan.LV_Bauliste.Replay(m_profile.ReadINI(kBuildList, key, ""), m_conditions)) {
+                return Fail(kBuildList, key, "ist kein Code der Bauliste");
             }
         }
-        return *anzahl == zeilen || Scheitere(kBauliste, kItemCount, erwartet);
+        return *count == rows || Fail(kBuildList, kItemCount, expected);
     }
 
-    std::optional<std::int64_t> LiesZahlVon0(std::string_view section, std::string_view key,
-                                             std::int64_t bis) {
-        const auto zahl = ParseWholeNumber(m_profil.Lies(section, key, ""), 0, bis);
-        if (!zahl) {
+    std::optional<std::int64_t> ReadNumberFromZero(std::string_view section, std::string_view key,
+                                                   std::int64_t until) {
+        const auto number = ParseWholeNumber(m_profile.ReadINI(section, key, ""), 0, until);
+        if (!number) {
             static_cast<void>(
-                Scheitere(section, key, "ist keine Zahl von 0 bis " + std::to_string(bis)));
+                Fail(section, key, "ist keine Zahl von 0 bis " + std::to_string(until)));
         }
-        return zahl;
+        return number;
     }
 
     /// Always false.
-    bool Scheitere(std::string_view section, std::string_view key, const std::string& erwartet) {
-        const auto zeile = m_profil.Zeilennummer(section, key);
+    bool Fail(std::string_view section, std::string_view key, const std::string& expected) {
+        const auto row = m_profile.LineNumber(section, key);
         const std::string name(key);
-        if (!zeile) {
-            m_hindernis = "[" + std::string(section) + "], " + name + " fehlt";
+        if (!row) {
+            m_obstacle = "[" + std::string(section) + "], " + name + " fehlt";
             return false;
         }
-        const std::string wert = Lesbar(m_profil.Lies(section, key, ""));
-        m_hindernis = "Zeile " + std::to_string(*zeile) + ", " + name + ": " +
-                      (wert.empty() ? "der Wert fehlt" : wert + " " + erwartet);
+        const std::string value = Readable(m_profile.ReadINI(section, key, ""));
+        m_obstacle = "Zeile " + std::to_string(*row) + ", " + name + ": " +
+                     (value.empty() ? "der Wert fehlt" : value + " " + expected);
         return false;
     }
 
-    const Profil& m_profil;
+    const IniFile& m_profile;
     Plan& m_plan;
-    const RunConditions& m_bedingungen;
-    std::string m_hindernis;
+    const RunConditions& m_conditions;
+    std::string m_obstacle;
 };
 
 }  // namespace
 
-Message Ladefehler() {
+Message LoadErrorMessage() {
     return {.text = "Die Bauliste konnte nicht geladen werden...", .title = kBadInputTitle};
 }
 
-Message Speicherfehler() {
+Message SaveErrorMessage() {
     return {.text = "Die Bauliste konnte nicht gespeichert werden...", .title = kBadInputTitle};
 }
 
-bool HatZeilen(const Profil& profil) {
-    return ParseWholeNumber(profil.Lies(kBauliste, kItemCount, ""), 1,
+bool HasRows(const IniFile& profile) {
+    return ParseWholeNumber(profile.ReadINI(kBuildList, kItemCount, ""), 1,
                             std::numeric_limits<std::int64_t>::max())
         .has_value();
 }
 
-void SchreibePlan(const Plan& plan, Profil& profil) {
-    const StartParameters& parameter = plan.parameters;
-    profil.Schreibe(kEinstellungen, "KlickPuffer", std::to_string(parameter.KlickPuffer));
-    for (const Textkey& textkey : kDatumskeys) {
-        profil.Schreibe(kEinstellungen, textkey.Key, parameter.*textkey.Text);
+void WritePlan(const Plan& plan, IniFile& profile) {
+    const StartParameters& parameters = plan.parameters;
+    profile.WriteINI(kSettings, "KlickPuffer", std::to_string(parameters.KlickPuffer));
+    for (const TextKey& textKey : kDateKeys) {
+        profile.WriteINI(kSettings, textKey.Key, parameters.*textKey.text);
     }
-    profil.Schreibe(kEinstellungen, "TempMax", parameter.TempMax);
-    profil.Schreibe(kEinstellungen, "ShowDesc", plan.ShowDesc ? "1" : "0");
-    profil.Schreibe(kEinstellungen, "Speedfaktor_X2", parameter.Speedfaktor_X2 ? "1" : "0");
+    profile.WriteINI(kSettings, "TempMax", parameters.TempMax);
+    profile.WriteINI(kSettings, "ShowDesc", plan.ShowDesc ? "1" : "0");
+    profile.WriteINI(kSettings, "Speedfaktor_X2", parameters.Speedfaktor_X2 ? "1" : "0");
 
-    const auto& zeilen = plan.LV_Bauliste.Rows();
-    profil.Schreibe(kBauliste, kItemCount, std::to_string(zeilen.size()));
-    for (std::size_t i = 0; i < zeilen.size(); ++i) {
-        profil.Schreibe(kBauliste, Zeilenkey("Item_", i + 1), zeilen[i].Tag);
+    const auto& rows = plan.LV_Bauliste.Rows();
+    profile.WriteINI(kBuildList, kItemCount, std::to_string(rows.size()));
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        profile.WriteINI(kBuildList, RowKey("Item_", i + 1), rows[i].Tag);
     }
 
-    profil.Schreibe(kSchlafzeiten, kItemCount, std::to_string(plan.LV_Schlafzeiten.size()));
+    profile.WriteINI(kSleepWindows, kItemCount, std::to_string(plan.LV_Schlafzeiten.size()));
     for (std::size_t i = 0; i < plan.LV_Schlafzeiten.size(); ++i) {
-        profil.Schreibe(kSchlafzeiten, Zeilenkey("Item_", i + 1),
-                        plan.LV_Schlafzeiten[i].Startzeit);
-        profil.Schreibe(kSchlafzeiten, Zeilenkey("SubItem_", i + 1),
-                        plan.LV_Schlafzeiten[i].Endzeit);
+        profile.WriteINI(kSleepWindows, RowKey("Item_", i + 1), plan.LV_Schlafzeiten[i].Startzeit);
+        profile.WriteINI(kSleepWindows, RowKey("SubItem_", i + 1), plan.LV_Schlafzeiten[i].Endzeit);
     }
 }
 
-bool SaveBauliste(const std::filesystem::path& File, const Plan& plan, const Dateisystem& system) {
-    auto profil = Profil::LadeOderLeer(File, system);
-    if (!profil) {
+bool SaveBauliste(const std::filesystem::path& File, const Plan& plan, const FileSystem& system) {
+    auto profile = IniFile::LoadOrEmpty(File, system);
+    if (!profile) {
         return false;
     }
-    SchreibePlan(plan, *profil);
-    return ErsetzeDatei(File, profil->Bytes(), system);
+    WritePlan(plan, *profile);
+    return WriteFileAtomically(File, profile->Bytes(), system);
 }
 
-bool LadePlan(const Profil& profil, Plan& plan, const RunConditions& bedingungen,
-              MessageSink& meldungen) {
+bool ReadPlan(const IniFile& profile, Plan& plan, const RunConditions& conditions,
+              MessageSink& messages) {
     plan.LV_Bauliste.Clear();
-    const bool brauchbar = Leser(profil, plan, bedingungen).Lies();
-    if (!brauchbar) {
-        meldungen.Show(Ladefehler());
+    const bool usable = PlanReader(profile, plan, conditions).Read();
+    if (!usable) {
+        messages.Show(LoadErrorMessage());
     }
-    return brauchbar;
+    return usable;
 }
 
-std::string Ladehindernis(const Profil& profil) {
+std::string LoadObstacle(const IniFile& profile) {
     Plan plan;
-    const RunConditions bedingungen;
-    Leser leser(profil, plan, bedingungen);
-    return leser.Lies() ? "" : leser.Hindernis();
+    const RunConditions conditions;
+    PlanReader reader(profile, plan, conditions);
+    return reader.Read() ? "" : reader.Obstacle();
 }
 
-std::string Ladehindernis(const std::filesystem::path& File, const Dateisystem& system) {
-    if (const auto profil = Profil::Lade(File, system)) {
-        return Ladehindernis(*profil);
+std::string LoadObstacle(const std::filesystem::path& File, const FileSystem& system) {
+    if (const auto profile = IniFile::Load(File, system)) {
+        return LoadObstacle(*profile);
     }
-    switch (system.Sieh(File).value_or(Dateisystem::Art::Datei)) {
-        case Dateisystem::Art::Nichts:
+    switch (system.KindOf(File).value_or(FileSystem::Kind::RegularFile)) {
+        case FileSystem::Kind::Nothing:
             return "diese Datei gibt es nicht";
-        case Dateisystem::Art::Ordner:
+        case FileSystem::Kind::TempFolder:
             return "das ist ein Ordner, keine Datei";
-        case Dateisystem::Art::Anderes:
+        case FileSystem::Kind::Other:
             return "das ist keine Datei";
-        case Dateisystem::Art::Datei:
+        case FileSystem::Kind::RegularFile:
             break;
     }
     return "diese Datei ist größer als 16 MiB, oder du darfst sie nicht lesen";
 }
 
-std::string FenstertitelMit(const std::filesystem::path& File) {
+std::string WindowTitleFor(const std::filesystem::path& File) {
     const auto name = File.filename().u8string();
     return "Tarvelin  |  Kelva Aufbau-Simulator      ( " + std::string(name.begin(), name.end()) +
            " )";

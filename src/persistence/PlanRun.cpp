@@ -9,39 +9,40 @@ namespace tarvelin {
 
 namespace {
 
-std::string Dateiname(const std::filesystem::path& datei) {
-    const auto name = datei.filename().u8string();
+std::string FileName(const std::filesystem::path& file) {
+    const auto name = file.filename().u8string();
     return {name.begin(), name.end()};
 }
 
 }  // namespace
 
-RunTrace Planlauf::Abgespielt() const {
-    return TraceRun(Plan.LV_Bauliste.Orders().All(), Lauf.conditions);
+RunTrace PlanRun::Trace() const {
+    return TraceRun(plan.LV_Bauliste.Orders().All(), run.conditions);
 }
 
-Planlauf::Planlauf(const std::filesystem::path& datei)
-    : Planlauf(Dateiname(datei), Profil::Lade(datei)) {}
+PlanRun::PlanRun(const std::filesystem::path& file)
+    : PlanRun(FileName(file), IniFile::Load(file)) {}
 
-Planlauf::Planlauf(std::string name, const std::optional<Profil>& profil) : Name(std::move(name)) {
-    MessageCollector meldungen(Meldungen);
-    if (!profil) {
-        meldungen.Show(Ladefehler());
+PlanRun::PlanRun(std::string fileName, const std::optional<IniFile>& profile)
+    : name(std::move(fileName)) {
+    MessageCollector collector(messages);
+    if (!profile) {
+        collector.Show(LoadErrorMessage());
         return;
     }
-    Geladen = LadePlan(*profil, Plan, Lauf.conditions, meldungen);
-    if (!Geladen) {
+    loaded = ReadPlan(*profile, plan, run.conditions, collector);
+    if (!loaded) {
         return;
     }
-    const auto bedingungen = ParseRunConditions(Plan);
-    if (const auto* const absage = std::get_if<Message>(&bedingungen)) {
-        meldungen.Show(*absage);
+    const auto conditions = ParseRunConditions(plan);
+    if (const auto* const refusal = std::get_if<Message>(&conditions)) {
+        collector.Show(*refusal);
         return;
     }
-    Lauf.ResetSimulation(std::get<RunConditions>(bedingungen));
-    RunSimulation(Plan.LV_Bauliste.Orders().All(), Lauf, meldungen);
-    Texte.AfterRun(Lauf.state);
-    Gelaufen = true;
+    run.ResetSimulation(std::get<RunConditions>(conditions));
+    RunSimulation(plan.LV_Bauliste.Orders().All(), run, collector);
+    texts.AfterRun(run.state);
+    hasRun = true;
 }
 
 }  // namespace tarvelin

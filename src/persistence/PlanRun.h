@@ -15,25 +15,25 @@
 
 namespace tarvelin {
 
-struct Planlauf {
+struct PlanRun {
     /// The name of the file without its folders.
-    std::string Name;
-    tarvelin::Plan Plan;
-    tarvelin::LastRun Lauf;
-    ResultTexts Texte;
+    std::string name;
+    tarvelin::Plan plan;
+    tarvelin::LastRun run;
+    ResultTexts texts;
     /// The whole file was read, and the run was called.
-    bool Geladen = false;
+    bool loaded = false;
     /// The run got past its checks of the inputs.
-    bool Gelaufen = false;
-    std::vector<Message> Meldungen;
+    bool hasRun = false;
+    std::vector<Message> messages;
 
-    /// The same run once more with all that charts and comparisons show; `Gelaufen` holds.
-    [[nodiscard]] RunTrace Abgespielt() const;
+    /// The same run once more with all that charts and comparisons show; `hasRun` holds.
+    [[nodiscard]] RunTrace Trace() const;
 
     /// Loads and runs the plan of a file.
-    explicit Planlauf(const std::filesystem::path& datei);
+    explicit PlanRun(const std::filesystem::path& file);
     /// The same with what a file of that name held: nothing, if it couldn't be read.
-    Planlauf(std::string name, const std::optional<Profil>& profil);
+    PlanRun(std::string fileName, const std::optional<IniFile>& profile);
 };
 
 }  // namespace tarvelin

@@ -13,90 +13,87 @@ namespace fs = std::filesystem;
 namespace {
 
 /// False if there is no room for the file.
-bool KopiereFehlende(const fs::path& von, const fs::path& nach) {
-    const auto art = Platte().Sieh(nach);
-    if (art && *art != Dateisystem::Art::Nichts) {
+bool CopyMissing(const fs::path& from, const fs::path& target) {
+    const auto kind = NativeFileSystem().KindOf(target);
+    if (kind && *kind != FileSystem::Kind::Nothing) {
         return true;
     }
-    constexpr std::size_t kHoechstgroesse = std::size_t{16} << 20U;
-    const auto bytes = LiesDatei(von, kHoechstgroesse, Platte());
-    return !bytes || ErsetzeDatei(nach, *bytes);
+    constexpr std::size_t kMaxSize = std::size_t{16} << 20U;
+    const auto bytes = ReadFileToString(from, kMaxSize, NativeFileSystem());
+    return !bytes || WriteFileAtomically(target, *bytes);
 }
 
-bool IstOrdner(const fs::path& pfad) {
-    return Platte().Sieh(pfad) == Dateisystem::Art::Ordner;
+bool IsFolder(const fs::path& path) {
+    return NativeFileSystem().KindOf(path) == FileSystem::Kind::TempFolder;
 }
 
 /// Whether the folder lies there afterwards, and had room for all that is in the other one.
-bool ErgaenzeOrdner(const fs::path& von, const fs::path& nach) {
-    bool ganz = Platte().LegeOrdnerAn(nach);
-    for (const fs::path& eintrag : Platte().Eintraege(von)) {
-        const fs::path ziel = nach / eintrag.filename();
-        ganz =
-            (IstOrdner(eintrag) ? ErgaenzeOrdner(eintrag, ziel) : KopiereFehlende(eintrag, ziel)) &&
-            ganz;
+bool AddMissingFolder(const fs::path& from, const fs::path& target) {
+    bool whole = NativeFileSystem().CreateFolders(target);
+    for (const fs::path& entry : NativeFileSystem().Entries(from)) {
+        const fs::path destination = target / entry.filename();
+        whole = (IsFolder(entry) ? AddMissingFolder(entry, destination)
+                                 : CopyMissing(entry, destination)) &&
+                whole;
     }
-    return ganz;
+    return whole;
 }
 
 /// Whether there was room for all that is ours.
-bool RichteEin(const fs::path& quelle, const fs::path& ordner) {
-    const bool bilder = ErgaenzeOrdner(quelle / "img", ordner / "img");
-    const bool klaenge = ErgaenzeOrdner(quelle / "mfx", ordner / "mfx");
-    const bool plaene = Platte().LegeOrdnerAn(ordner / "saves");
-    const fs::path starterplan = fs::path("saves") / "basic.tvf";
-    const bool plan = FileExists(ordner / "config.cfg") || !FileExists(quelle / starterplan) ||
-                      KopiereFehlende(quelle / starterplan, ordner / starterplan);
-    return bilder && klaenge && plaene && plan;
+bool SetUp(const fs::path& source, const fs::path& folder) {
+    const bool pictures = AddMissingFolder(source / "img", folder / "img");
+    const bool sounds = AddMissingFolder(source / "mfx", folder / "mfx");
+    const bool plans = NativeFileSystem().CreateFolders(folder / "saves");
+    const fs::path starterPlan = fs::path("saves") / "basic.tvf";
+    const bool plan = FileExists(folder / "config.cfg") || !FileExists(source / starterPlan) ||
+                      CopyMissing(source / starterPlan, folder / starterPlan);
+    return pictures && sounds && plans && plan;
 }
 
-bool HatPlaene(const fs::path& ordner) {
+bool HasPlans(const fs::path& folder) {
     // The starter plan alone is ours.
-    return std::ranges::any_of(Platte().Eintraege(ordner / "saves"),
-                               [](const auto& datei) { return datei.filename() != "basic.tvf"; });
+    return std::ranges::any_of(NativeFileSystem().Entries(folder / "saves"),
+                               [](const auto& file) { return file.filename() != "basic.tvf"; });
 }
 
 }  // namespace
 
-std::vector<fs::path> Programmordner::Gesperrte(bool haelt_ein_anderer) const {
-    if (!KannBehalten) {
-        return {Ordner};
+std::vector<fs::path> ProgramFolder::ReadOnlyPaths(bool heldByOther) const {
+    if (!canKeep) {
+        return {TempFolder};
     }
-    if (!haelt_ein_anderer) {
+    if (!heldByOther) {
         return {};
     }
-    auto gesperrte = Autosave(Ordner).Dateien();
-    gesperrte.push_back(Ordner / "config.cfg");
-    return gesperrte;
+    auto readOnly = Autosave(TempFolder).AllPaths();
+    readOnly.push_back(TempFolder / "config.cfg");
+    return readOnly;
 }
 
-fs::path Planordner(const fs::path& programmordner, const Dateisystem& system) {
-    fs::path ordner = programmordner / "saves";
-    static_cast<void>(system.LegeOrdnerAn(ordner));
-    while (system.Sieh(ordner) != Dateisystem::Art::Ordner && ordner.has_relative_path()) {
-        ordner = ordner.parent_path();
+fs::path PlanFolder(const fs::path& programFolder, const FileSystem& system) {
+    fs::path folder = programFolder / "saves";
+    static_cast<void>(system.CreateFolders(folder));
+    while (system.KindOf(folder) != FileSystem::Kind::TempFolder && folder.has_relative_path()) {
+        folder = folder.parent_path();
     }
-    return ordner;
+    return folder;
 }
 
-Programmordner BestimmeProgrammordner(const fs::path& ordner_des_programms,
-                                      const fs::path& nutzerordner) {
-    const bool mit_daten = IstOrdner(ordner_des_programms / "img");
-    if (mit_daten && Platte().IstBeschreibbar(ordner_des_programms)) {
-        return {.Ordner = ordner_des_programms};
+ProgramFolder ResolveProgramFolder(const fs::path& programFolder, const fs::path& userFolder) {
+    const bool withData = IsFolder(programFolder / "img");
+    if (withData && NativeFileSystem().IsWritable(programFolder)) {
+        return {.TempFolder = programFolder};
     }
-    const fs::path quelle = mit_daten ? ordner_des_programms
-                                      : ordner_des_programms.parent_path() / "share" / "tarvelin";
-    if (nutzerordner.empty()) {
-        return {.Ordner = quelle, .KannBehalten = false};
+    const fs::path source =
+        withData ? programFolder : programFolder.parent_path() / "share" / "tarvelin";
+    if (userFolder.empty()) {
+        return {.TempFolder = source, .canKeep = false};
     }
     // Who has plans there keeps them in sight, whatever has no room beside them.
-    const bool hatPlaene = HatPlaene(nutzerordner);
-    const bool kannBehalten = RichteEin(quelle, nutzerordner) &&
-                              Platte().IstBeschreibbar(nutzerordner) &&
-                              Platte().IstBeschreibbar(nutzerordner / "saves");
-    return {.Ordner = kannBehalten || hatPlaene ? nutzerordner : quelle,
-            .KannBehalten = kannBehalten};
+    const bool hasPlans = HasPlans(userFolder);
+    const bool canKeep = SetUp(source, userFolder) && NativeFileSystem().IsWritable(userFolder) &&
+                         NativeFileSystem().IsWritable(userFolder / "saves");
+    return {.TempFolder = canKeep || hasPlans ? userFolder : source, .canKeep = canKeep};
 }
 
 }  // namespace tarvelin

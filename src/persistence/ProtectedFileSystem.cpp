@@ -5,20 +5,21 @@
 
 namespace tarvelin {
 
-Schreibschutz::Schreibschutz(const std::vector<std::filesystem::path>& geschuetzte,
-                             const Dateisystem& system)
+ProtectedFileSystem::ProtectedFileSystem(const std::vector<std::filesystem::path>& protectedFiles,
+                                         const FileSystem& system)
     : m_system(system) {
-    for (const auto& pfad : geschuetzte) {
-        auto ort = system.LoeseAuf(pfad).value_or(pfad);
-        m_geschuetzte.push_back(ort.has_filename() ? ort : ort.parent_path());
+    for (const auto& path : protectedFiles) {
+        auto position = system.Resolve(path).value_or(path);
+        m_protected.push_back(position.has_filename() ? position : position.parent_path());
     }
 }
 
-bool Schreibschutz::Schuetzt(const std::filesystem::path& pfad) const {
-    const auto ort = m_system.LoeseAuf(pfad).value_or(pfad);
-    return std::ranges::any_of(m_geschuetzte, [&](const auto& geschuetzt) {
-        return std::mismatch(geschuetzt.begin(), geschuetzt.end(), ort.begin(), ort.end()).first ==
-               geschuetzt.end();
+bool ProtectedFileSystem::IsProtected(const std::filesystem::path& path) const {
+    const auto position = m_system.Resolve(path).value_or(path);
+    return std::ranges::any_of(m_protected, [&](const auto& protectedFile) {
+        return std::mismatch(protectedFile.begin(), protectedFile.end(), position.begin(),
+                             position.end())
+                   .first == protectedFile.end();
     });
 }
 

@@ -11,74 +11,72 @@ namespace tarvelin {
 
 /// Does what another platform does, but changes none of the files and folders that it was given,
 /// and nothing below them.
-class Schreibschutz final : public Dateisystem {
+class ProtectedFileSystem final : public FileSystem {
   public:
     /// `system` must outlive it.
-    explicit Schreibschutz(const std::vector<std::filesystem::path>& geschuetzte,
-                           const Dateisystem& system = Platte());
+    explicit ProtectedFileSystem(const std::vector<std::filesystem::path>& protectedFiles,
+                                 const FileSystem& system = NativeFileSystem());
 
-    [[nodiscard]] bool IstBeschreibbar(const std::filesystem::path& pfad) const override {
-        return !Schuetzt(pfad) && m_system.IstBeschreibbar(pfad);
+    [[nodiscard]] bool IsWritable(const std::filesystem::path& path) const override {
+        return !IsProtected(path) && m_system.IsWritable(path);
     }
-    [[nodiscard]] int LegeAn(const std::filesystem::path& datei) const override {
-        return Schuetzt(datei) ? -1 : m_system.LegeAn(datei);
+    [[nodiscard]] int Create(const std::filesystem::path& file) const override {
+        return IsProtected(file) ? -1 : m_system.Create(file);
     }
-    [[nodiscard]] bool LegeOrdnerAn(const std::filesystem::path& pfad) const override {
-        return !Schuetzt(pfad) && m_system.LegeOrdnerAn(pfad);
+    [[nodiscard]] bool CreateFolders(const std::filesystem::path& path) const override {
+        return !IsProtected(path) && m_system.CreateFolders(path);
     }
-    [[nodiscard]] bool BenenneUm(const std::filesystem::path& von,
-                                 const std::filesystem::path& nach) const override {
-        return !Schuetzt(von) && !Schuetzt(nach) && m_system.BenenneUm(von, nach);
+    [[nodiscard]] bool Rename(const std::filesystem::path& from,
+                              const std::filesystem::path& target) const override {
+        return !IsProtected(from) && !IsProtected(target) && m_system.Rename(from, target);
     }
-    bool Loesche(const std::filesystem::path& datei) const override {
-        return !Schuetzt(datei) && m_system.Loesche(datei);
+    bool Remove(const std::filesystem::path& file) const override {
+        return !IsProtected(file) && m_system.Remove(file);
     }
 
-    [[nodiscard]] std::optional<Art> Sieh(const std::filesystem::path& pfad) const override {
-        return m_system.Sieh(pfad);
+    [[nodiscard]] std::optional<Kind> KindOf(const std::filesystem::path& path) const override {
+        return m_system.KindOf(path);
     }
-    [[nodiscard]] std::optional<std::filesystem::path> LoeseAuf(
-        const std::filesystem::path& pfad) const override {
-        return m_system.LoeseAuf(pfad);
+    [[nodiscard]] std::optional<std::filesystem::path> Resolve(
+        const std::filesystem::path& path) const override {
+        return m_system.Resolve(path);
     }
-    [[nodiscard]] std::vector<std::filesystem::path> Eintraege(
-        const std::filesystem::path& ordner) const override {
-        return m_system.Eintraege(ordner);
+    [[nodiscard]] std::vector<std::filesystem::path> Entries(
+        const std::filesystem::path& folder) const override {
+        return m_system.Entries(folder);
     }
-    [[nodiscard]] bool IstSchlichterOrdner(const std::filesystem::path& pfad) const override {
-        return m_system.IstSchlichterOrdner(pfad);
+    [[nodiscard]] bool IsPlainFolder(const std::filesystem::path& path) const override {
+        return m_system.IsPlainFolder(path);
     }
-    [[nodiscard]] int Oeffne(const std::filesystem::path& datei) const override {
-        return m_system.Oeffne(datei);
+    [[nodiscard]] int Open(const std::filesystem::path& file) const override {
+        return m_system.Open(file);
     }
-    [[nodiscard]] std::ptrdiff_t Lies(int nummer, std::span<char> bytes) const override {
-        return m_system.Lies(nummer, bytes);
+    [[nodiscard]] std::ptrdiff_t Read(int number, std::span<char> bytes) const override {
+        return m_system.Read(number, bytes);
     }
-    [[nodiscard]] std::ptrdiff_t Schreibe(int nummer, std::string_view bytes) const override {
-        return m_system.Schreibe(nummer, bytes);
+    [[nodiscard]] std::ptrdiff_t Write(int number, std::string_view bytes) const override {
+        return m_system.Write(number, bytes);
     }
-    [[nodiscard]] bool UebernimmRechte(int nummer,
-                                       const std::filesystem::path& von) const override {
-        return m_system.UebernimmRechte(nummer, von);
+    [[nodiscard]] bool CopyPermissions(int number,
+                                       const std::filesystem::path& from) const override {
+        return m_system.CopyPermissions(number, from);
     }
-    [[nodiscard]] bool BringAufPlatte(int nummer) const override {
-        return m_system.BringAufPlatte(nummer);
+    [[nodiscard]] bool Sync(int number) const override { return m_system.Sync(number); }
+    bool Close(int number) const override { return m_system.Close(number); }
+    bool SyncFolder(const std::filesystem::path& folder) const override {
+        return m_system.SyncFolder(folder);
     }
-    bool Schliesse(int nummer) const override { return m_system.Schliesse(nummer); }
-    bool BringOrdnerAufPlatte(const std::filesystem::path& ordner) const override {
-        return m_system.BringOrdnerAufPlatte(ordner);
-    }
-    [[nodiscard]] std::int64_t Prozess() const override { return m_system.Prozess(); }
-    [[nodiscard]] bool Laeuft(std::int64_t prozess) const override {
-        return m_system.Laeuft(prozess);
+    [[nodiscard]] std::int64_t ProcessId() const override { return m_system.ProcessId(); }
+    [[nodiscard]] bool IsRunning(std::int64_t process) const override {
+        return m_system.IsRunning(process);
     }
 
   private:
-    [[nodiscard]] bool Schuetzt(const std::filesystem::path& pfad) const;
+    [[nodiscard]] bool IsProtected(const std::filesystem::path& path) const;
 
-    const Dateisystem& m_system;
+    const FileSystem& m_system;
     /// Absolute, without links.
-    std::vector<std::filesystem::path> m_geschuetzte;
+    std::vector<std::filesystem::path> m_protected;
 };
 
 }  // namespace tarvelin

@@ -74,14 +74,14 @@ int main(int argc, char** argv) {
     // The toolkit's file dialog would keep a history of folders in the user's settings. Where these
     // are no file, it is built without that.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
-    const tarvelin::Programmordner ordner = tarvelin::BestimmeProgrammordner(
+    const tarvelin::ProgramFolder ordner = tarvelin::ResolveProgramFolder(
         tarvelin::AlsPfad(QApplication::applicationDirPath()), Nutzerordner());
-    tarvelin::Ordnerschloss schloss(ordner.Ordner);
+    tarvelin::Ordnerschloss schloss(ordner.TempFolder);
     tarvelin::Meldungsfenster boxen;
     if (schloss.HatEinAnderer() && !boxen.Stelle(ZweitesFenster())) {
         return 0;
     }
-    const tarvelin::Schreibschutz dateien(ordner.Gesperrte(schloss.HatEinAnderer()));
+    const tarvelin::ProtectedFileSystem dateien(ordner.ReadOnlyPaths(schloss.HatEinAnderer()));
     tarvelin::Netzabruf netz;
     tarvelin::Klangausgabe ton;
     const tarvelin::Umgebung umgebung{
@@ -90,11 +90,11 @@ int main(int argc, char** argv) {
         .Ton = ton,
         .Jetzt = Ortszeit,
         .OeffneSeite = OeffneSeite,
-        .Programmordner = ordner.Ordner,
+        .Programmordner = ordner.TempFolder,
         .Dateien = dateien,
         .Desktopfarben = [&desktop] { return desktop.Farben(); },
         .Planargument = tarvelin::Planargument(argc, argv),
-        .Starthinweis = ordner.KannBehalten ? std::nullopt : std::optional(OhneNutzerordner())};
+        .Starthinweis = ordner.canKeep ? std::nullopt : std::optional(OhneNutzerordner())};
     tarvelin::frmMain fenster(umgebung);
     // Small windows may stay open; they keep nothing.
     QObject::connect(&fenster, &tarvelin::frmMain::Geschlossen,

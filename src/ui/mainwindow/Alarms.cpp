@@ -22,10 +22,9 @@ Alarme::Alarme(const Quellen& quellen, const Umgebung& umgebung, QObject* parent
 }
 
 void Alarme::LiesKonfiguration() {
-    m_quellen.Chk_BauWeckfunktion.setChecked(
-        m_konfiguration.IstAn(Konfiguration::kBaulistenwecker));
+    m_quellen.Chk_BauWeckfunktion.setChecked(m_konfiguration.IsOn(Configuration::kBaulistenwecker));
     m_quellen.Chk_Schlafzeitenwecker.setChecked(
-        m_konfiguration.IstAn(Konfiguration::kSchlafzeitenwecker));
+        m_konfiguration.IsOn(Configuration::kSchlafzeitenwecker));
 }
 
 void Alarme::Verstumme() {

@@ -40,7 +40,7 @@ class Alarme : public QObject {
 
     Quellen m_quellen;
     const Umgebung& m_umgebung;
-    Konfiguration m_konfiguration;
+    Configuration m_konfiguration;
     Sekundentakt m_Tmr_BauWeckfunktion;
     Sekundentakt m_Tmr_Schlafweckfunktion;
 };

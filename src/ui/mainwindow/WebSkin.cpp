@@ -85,10 +85,10 @@ namespace {
 bool HoleDatei(const std::string& adresse, const std::filesystem::path& datei,
                const Umgebung& umgebung) {
     if (FileExists(datei, umgebung.Dateien)) {
-        static_cast<void>(umgebung.Dateien.Loesche(datei));
+        static_cast<void>(umgebung.Dateien.Remove(datei));
     }
     if (const auto bytes = umgebung.Netz.Hole(adresse)) {
-        static_cast<void>(ErsetzeDatei(datei, *bytes, umgebung.Dateien));
+        static_cast<void>(WriteFileAtomically(datei, *bytes, umgebung.Dateien));
     }
     return FileExists(datei, umgebung.Dateien);
 }

@@ -72,8 +72,7 @@ frmMain::frmMain(const Umgebung& umgebung)
     m_Fra_Rest->Zeige(m_texte);
     m_Fra_Rest->ZeigeNamen(m_plan.ShowDesc);
     m_Tmr_Autosave.setObjectName(QStringLiteral("Tmr_Autosave"));
-    connect(&m_Tmr_Autosave, &QTimer::timeout, this,
-            [this] { m_autosave.SchreibeGeaenderten(m_plan); });
+    connect(&m_Tmr_Autosave, &QTimer::timeout, this, [this] { m_autosave.WriteIfChanged(m_plan); });
 }
 
 // What the lists show must outlive them.

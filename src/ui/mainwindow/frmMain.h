@@ -88,9 +88,9 @@ class frmMain : public QMainWindow {
     bool BringePlanargument();
     void BringePlan();
     /// Whether the last plan was loaded.
-    bool StelleWiederHer(const std::optional<Profil>& letzter);
-    void LadeLetzten(const std::optional<Profil>& letzter);
-    bool LoadBauliste(const std::optional<Profil>& profil, const std::filesystem::path& File,
+    bool StelleWiederHer(const std::optional<IniFile>& letzter);
+    void LadeLetzten(const std::optional<IniFile>& letzter);
+    bool LoadBauliste(const std::optional<IniFile>& profil, const std::filesystem::path& File,
                       bool Silent);
     /// How far the window has come. The plan is the user's own when the start is over.
     enum class Abschnitt { Vorher, Start, Arbeit, Geschlossen };
@@ -143,7 +143,7 @@ class frmMain : public QMainWindow {
     void ZeigeStandDesLaufs();
 
     const Umgebung& m_umgebung;
-    Konfiguration m_konfiguration;
+    Configuration m_konfiguration;
     Autosave m_autosave;
     QTimer m_Tmr_Autosave{this};
     Plan m_plan;

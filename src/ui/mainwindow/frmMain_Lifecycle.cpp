@@ -49,17 +49,17 @@ bool frmMain::BringePlanargument() {
         return false;
     }
     if (m_gesichert) {
-        m_autosave.LiegtInDatei(m_plan);
+        m_autosave.MarkStoredInFile(m_plan);
     }
-    static_cast<void>(m_autosave.Schreibe(m_plan));
+    static_cast<void>(m_autosave.Write(m_plan));
     return true;
 }
 
 // The last plan stays untouched until the player has answered for it.
 void frmMain::BringePlan() {
-    const bool ersterStart = m_konfiguration.IstAn(Konfiguration::kFirststart);
-    const bool lagDa = FileExists(m_autosave.Datei(), m_umgebung.Dateien);
-    const auto letzter = Profil::Lade(m_autosave.Datei(), m_umgebung.Dateien);
+    const bool ersterStart = m_konfiguration.IsOn(Configuration::kFirststart);
+    const bool lagDa = FileExists(m_autosave.PlanPath(), m_umgebung.Dateien);
+    const auto letzter = IniFile::Load(m_autosave.PlanPath(), m_umgebung.Dateien);
     const auto starterplan = m_umgebung.Programmordner / "saves" / "basic.tvf";
     const bool geladen = ersterStart && FileExists(starterplan, m_umgebung.Dateien) &&
                          LoadBauliste(starterplan, false);
@@ -67,12 +67,12 @@ void frmMain::BringePlan() {
     if (IstGeschlossen()) {
         return;
     }
-    const bool behalten = !geladen || wieder || m_autosave.Schreibe(m_plan);
-    m_autosave.GiltAlsGeschrieben(m_plan);
+    const bool behalten = !geladen || wieder || m_autosave.Write(m_plan);
+    m_autosave.MarkWritten(m_plan);
     if (ersterStart && behalten) {
-        static_cast<void>(m_umgebung.Dateien.Loesche(starterplan));
+        static_cast<void>(m_umgebung.Dateien.Remove(starterplan));
         m_gesichert.reset();
-        static_cast<void>(m_konfiguration.Schreibe({{Konfiguration::kFirststart, "0"}}));
+        static_cast<void>(m_konfiguration.Write({{Configuration::kFirststart, "0"}}));
     }
 }
 
@@ -89,18 +89,18 @@ void frmMain::WarteAufBildschirm() {
 
 // A web skin is shown as it landed; nothing is fetched at a start.
 void frmMain::LiesSkin() {
-    const Byte mode = m_konfiguration.Skinmodus();
-    m_Fra_Skin->txt_Pfad->setText(AlsQString(m_konfiguration.Lies(Konfiguration::kWebPath)));
+    const Byte mode = m_konfiguration.SkinMode();
+    m_Fra_Skin->txt_Pfad->setText(AlsQString(m_konfiguration.Read(Configuration::kWebPath)));
     m_Fra_Skin->WaehleQuelle(mode);
-    ZeigeSkin(mode == kWebskin ? kLokalerSkin : mode, m_konfiguration.Lies(Konfiguration::kPath));
+    ZeigeSkin(mode == kWebskin ? kLokalerSkin : mode, m_konfiguration.Read(Configuration::kPath));
 }
 
-bool frmMain::StelleWiederHer(const std::optional<Profil>& letzter) {
-    const auto entscheidung = EntscheideWiederherstellung(m_konfiguration);
-    if (IstGeschlossen() || entscheidung == Wiederherstellung::Nicht) {
+bool frmMain::StelleWiederHer(const std::optional<IniFile>& letzter) {
+    const auto entscheidung = DecideRecovery(m_konfiguration);
+    if (IstGeschlossen() || entscheidung == Recovery::Never) {
         return false;
     }
-    if (entscheidung == Wiederherstellung::Ungefragt) {
+    if (entscheidung == Recovery::Always) {
         LadeLetzten(letzter);
         return true;
     }
@@ -115,17 +115,17 @@ bool frmMain::StelleWiederHer(const std::optional<Profil>& letzter) {
         return false;
     }
     if (immer) {
-        static_cast<void>(m_konfiguration.Schreibe({{Konfiguration::kAlwaysDoSo, "1"}}));
+        static_cast<void>(m_konfiguration.Write({{Configuration::kAlwaysDoSo, "1"}}));
     }
     if (ja) {
         LadeLetzten(letzter);
     }
-    static_cast<void>(m_konfiguration.Schreibe({{Konfiguration::kRecover, ja ? "1" : "0"}}));
+    static_cast<void>(m_konfiguration.Write({{Configuration::kRecover, ja ? "1" : "0"}}));
     return ja;
 }
 
-void frmMain::LadeLetzten(const std::optional<Profil>& letzter) {
-    LoadBauliste(letzter, m_autosave.Datei(), true);
+void frmMain::LadeLetzten(const std::optional<IniFile>& letzter) {
+    LoadBauliste(letzter, m_autosave.PlanPath(), true);
     m_Fra_Einstellungen->hide();
 }
 
@@ -166,23 +166,23 @@ void frmMain::Behalte(Abschnitt stand) {
                                  ? kLandeordner
                                  : m_Fra_Skin->Comb_Skins->currentText().toStdString();
     const auto schalter = [](const QCheckBox& box) { return box.isChecked() ? "1" : "0"; };
-    Konfiguration::Werte werte{
-        {Konfiguration::kMode, std::to_string(quelle)},
-        {Konfiguration::kPath, pfad},
-        {Konfiguration::kWebPath, m_Fra_Skin->txt_Pfad->text().toStdString()},
-        {Konfiguration::kBaulistenwecker, schalter(*m_Fra_Rest->Bauwecker())},
-        {Konfiguration::kSchlafzeitenwecker, schalter(*m_Fra_Sleep->Chk_Schlafzeitenwecker)}};
+    Configuration::Values werte{
+        {Configuration::kMode, std::to_string(quelle)},
+        {Configuration::kPath, pfad},
+        {Configuration::kWebPath, m_Fra_Skin->txt_Pfad->text().toStdString()},
+        {Configuration::kBaulistenwecker, schalter(*m_Fra_Rest->Bauwecker())},
+        {Configuration::kSchlafzeitenwecker, schalter(*m_Fra_Sleep->Chk_Schlafzeitenwecker)}};
     if (mitPlan) {
-        werte.emplace_back(Konfiguration::kItemCount,
+        werte.emplace_back(Configuration::kItemCount,
                            std::to_string(m_plan.LV_Bauliste.Orders().Size()));
     }
     if (m_frmWerkbank) {
         const auto lage = m_frmWerkbank->Lage();
         werte.insert(werte.end(), lage.begin(), lage.end());
     }
-    static_cast<void>(m_konfiguration.Schreibe(werte));
+    static_cast<void>(m_konfiguration.Write(werte));
     if (mitPlan) {
-        m_autosave.SchreibeZuletzt(m_plan);
+        m_autosave.WriteAtExit(m_plan);
     }
 }
 
@@ -215,29 +215,29 @@ void frmMain::mnu_Datei_Speichern_Click() {
     if (SaveBauliste(datei, m_plan, m_umgebung.Dateien)) {
         MerkeGesichert(datei);
     } else {
-        m_umgebung.Boxen.Show(Speicherfehler());
+        m_umgebung.Boxen.Show(SaveErrorMessage());
     }
 }
 
 // What the program moves on by itself is no place to lie in.
 void frmMain::MerkeGesichert(const std::filesystem::path& datei) {
-    m_gesichert = m_autosave.IstEigene(datei) ? std::nullopt : std::optional(SnapshotOf(m_plan));
+    m_gesichert = m_autosave.IsOwnFile(datei) ? std::nullopt : std::optional(SnapshotOf(m_plan));
 }
 
 void frmMain::BewahreErsetzten() const {
     if (m_abschnitt == Abschnitt::Arbeit && m_gesichert != SnapshotOf(m_plan)) {
-        m_autosave.BewahreErsetzten(m_plan);
+        m_autosave.KeepReplaced(m_plan);
     }
 }
 
 bool frmMain::LoadBauliste(const std::filesystem::path& File, bool Silent) {
-    return LoadBauliste(Profil::Lade(File, m_umgebung.Dateien), File, Silent);
+    return LoadBauliste(IniFile::Load(File, m_umgebung.Dateien), File, Silent);
 }
 
-bool frmMain::LoadBauliste(const std::optional<Profil>& profil, const std::filesystem::path& File,
+bool frmMain::LoadBauliste(const std::optional<IniFile>& profil, const std::filesystem::path& File,
                            bool Silent) {
     if (!profil) {
-        m_umgebung.Boxen.Show(Ladefehler());
+        m_umgebung.Boxen.Show(LoadErrorMessage());
         return false;
     }
     BewahreErsetzten();
@@ -248,7 +248,7 @@ bool frmMain::LoadBauliste(const std::optional<Profil>& profil, const std::files
             ZeigeInWerkbank();
         },
         m_umgebung.Boxen);
-    const bool geladen = LadePlan(*profil, m_plan, m_lauf.conditions, meldungen);
+    const bool geladen = ReadPlan(*profil, m_plan, m_lauf.conditions, meldungen);
     if (geladen) {
         ZeigePlan();
         MerkeGesichert(File);
@@ -260,7 +260,7 @@ bool frmMain::LoadBauliste(const std::optional<Profil>& profil, const std::files
     }
     // The toolkit takes the lone sign for a place of its own.
     setWindowTitle(
-        AlsQString(FenstertitelMit(File)).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+        AlsQString(WindowTitleFor(File)).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
     StarteSimulation(Silent);
     return true;
 }

@@ -86,7 +86,7 @@ struct Umgebung {
     /// Where `img`, `mfx`, `saves` and `config.cfg` lie.
     std::filesystem::path Programmordner;
     /// Through which plans and configuration are read and written.
-    const Dateisystem& Dateien = Platte();
+    const FileSystem& Dateien = NativeFileSystem();
     /// The colours of the desktop, light or dark. When they change, every window gets a
     /// `QEvent::ThemeChange`.
     std::function<QPalette()> Desktopfarben = [] { return QGuiApplication::palette(); };
@@ -97,7 +97,7 @@ struct Umgebung {
 
     /// As that of the boxes, from where plans lie.
     [[nodiscard]] std::filesystem::path FragNachDatei(Dialoge::Zweck zweck) const {
-        return Boxen.FragNachDatei(zweck, Planordner(Programmordner, Dateien));
+        return Boxen.FragNachDatei(zweck, PlanFolder(Programmordner, Dateien));
     }
 };
 

@@ -83,7 +83,7 @@ std::optional<Welle> AusBytes(std::string_view bytes) {
 
 std::optional<Welle> LiesWelle(const std::filesystem::path& datei) {
     constexpr std::size_t kHoechstens = std::size_t{64} << 20U;
-    const auto bytes = LiesDatei(datei, kHoechstens, Platte());
+    const auto bytes = ReadFileToString(datei, kHoechstens, NativeFileSystem());
     return bytes ? AusBytes(*bytes) : std::nullopt;
 }
 

@@ -92,14 +92,14 @@ void Vergleichsfeld::LadeDatei() {
     if (datei.empty()) {
         return;
     }
-    const Planlauf lauf(Pfadtext(datei.filename()).toStdString(),
-                        Profil::Lade(datei, m_umgebung.Dateien));
-    if (!lauf.Gelaufen) {
-        emit Meldung(lauf.Meldungen.empty() ? "" : lauf.Meldungen.back().text);
+    const PlanRun lauf(Pfadtext(datei.filename()).toStdString(),
+                       IniFile::Load(datei, m_umgebung.Dateien));
+    if (!lauf.hasRun) {
+        emit Meldung(lauf.messages.empty() ? "" : lauf.messages.back().text);
         return;
     }
-    emit Meldung(lauf.Lauf.state.IsAtEndOfClock() ? BeyondClockText() : "");
-    Setze(lauf.Abgespielt(), QStringLiteral("Verglichen mit ") + AlsQString(lauf.Name));
+    emit Meldung(lauf.run.state.IsAtEndOfClock() ? BeyondClockText() : "");
+    Setze(lauf.Trace(), QStringLiteral("Verglichen mit ") + AlsQString(lauf.name));
 }
 
 void Vergleichsfeld::Ohne() {

@@ -38,8 +38,8 @@ QPushButton* NeuerSuchknopf(const char* name, const char* text, QWidget* parent)
 }
 
 std::string Bytes(const Plan& plan) {
-    Profil profil("");
-    SchreibePlan(plan, profil);
+    IniFile profil("");
+    WritePlan(plan, profil);
     return profil.Bytes();
 }
 

@@ -258,28 +258,28 @@ void frmWerkbank::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
 }
 
-void frmWerkbank::Oeffne(const Konfiguration& konfiguration) {
+void frmWerkbank::Oeffne(const Configuration& konfiguration) {
     if (!m_warOffen) {
         m_warOffen = true;
-        const auto lies = [&](const Konfigurationskey& key) {
+        const auto lies = [&](const ConfigKey& key) {
             constexpr int kWeitest = 100'000;
-            const auto zahl = ParseWholeNumber(konfiguration.Lies(key), -kWeitest, kWeitest);
+            const auto zahl = ParseWholeNumber(konfiguration.Read(key), -kWeitest, kWeitest);
             return zahl ? std::optional(static_cast<int>(*zahl)) : std::nullopt;
         };
         constexpr QSize kRahmen(8, 36);
         const QSize raum = QGuiApplication::primaryScreen()->availableSize() - kRahmen;
         const QSize ersteGroesse = kZeilen * fontMetrics().height();
-        resize(QSize(lies(Konfiguration::kWerkbankBreite).value_or(ersteGroesse.width()),
-                     lies(Konfiguration::kWerkbankHoehe).value_or(ersteGroesse.height()))
+        resize(QSize(lies(Configuration::kWorkbenchWidth).value_or(ersteGroesse.width()),
+                     lies(Configuration::kWorkbenchHeight).value_or(ersteGroesse.height()))
                    .boundedTo(raum)
                    .expandedTo(QSize(1, 1)));
-        const auto links = lies(Konfiguration::kWerkbankLinks);
-        const auto oben = lies(Konfiguration::kWerkbankOben);
+        const auto links = lies(Configuration::kWorkbenchLeft);
+        const auto oben = lies(Configuration::kWorkbenchTop);
         // A screen that is gone would keep the window out of sight.
         if (links && oben && QGuiApplication::screenAt({*links, *oben}) != nullptr) {
             move(*links, *oben);
         }
-        if (konfiguration.IstAn(Konfiguration::kWerkbankGross)) {
+        if (konfiguration.IsOn(Configuration::kWorkbenchMaximized)) {
             setWindowState(Qt::WindowMaximized);
         }
     }
@@ -289,16 +289,16 @@ void frmWerkbank::Oeffne(const Konfiguration& konfiguration) {
     activateWindow();
 }
 
-Konfiguration::Werte frmWerkbank::Lage() const {
+Configuration::Values frmWerkbank::Lage() const {
     if (!m_warOffen) {
         return {};
     }
     const QSize groesse = isMaximized() ? normalGeometry().size() : size();
-    return {{Konfiguration::kWerkbankLinks, std::to_string(pos().x())},
-            {Konfiguration::kWerkbankOben, std::to_string(pos().y())},
-            {Konfiguration::kWerkbankBreite, std::to_string(groesse.width())},
-            {Konfiguration::kWerkbankHoehe, std::to_string(groesse.height())},
-            {Konfiguration::kWerkbankGross, isMaximized() ? "1" : "0"}};
+    return {{Configuration::kWorkbenchLeft, std::to_string(pos().x())},
+            {Configuration::kWorkbenchTop, std::to_string(pos().y())},
+            {Configuration::kWorkbenchWidth, std::to_string(groesse.width())},
+            {Configuration::kWorkbenchHeight, std::to_string(groesse.height())},
+            {Configuration::kWorkbenchMaximized, isMaximized() ? "1" : "0"}};
 }
 
 void frmWerkbank::SetzeBilder(const PerItem<QPixmap>& bilder) {
@@ -472,12 +472,12 @@ void frmWerkbank::KalenderSpeichern() {
     if (!datei.empty()) {
         const auto stand =
             std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
-        SchreibeDatei(datei, Kalendertext(*m_ablauf, ParseLeadTime(m_vorher()), stand));
+        SchreibeDatei(datei, CalendarText(*m_ablauf, ParseLeadTime(m_vorher()), stand));
     }
 }
 
 void frmWerkbank::SchreibeDatei(const std::filesystem::path& datei, const std::string& bytes) {
-    if (ErsetzeDatei(datei, bytes, m_umgebung.Dateien)) {
+    if (WriteFileAtomically(datei, bytes, m_umgebung.Dateien)) {
         Melde("Gespeichert: " + Pfadtext(datei).toStdString());
     } else {
         Melde(

@@ -45,9 +45,9 @@ class frmWerkbank : public QWidget {
     void SetzeBilder(const PerItem<QPixmap>& bilder);
 
     /// Opens the window where `konfiguration` says, the first time, or brings it to the front.
-    void Oeffne(const Konfiguration& konfiguration);
+    void Oeffne(const Configuration& konfiguration);
     /// Size and place for the next start.
-    [[nodiscard]] Konfiguration::Werte Lage() const;
+    [[nodiscard]] Configuration::Values Lage() const;
 
   signals:
     /// The rows that the plan is to have, and what is to stand in front of its sleep rows.
