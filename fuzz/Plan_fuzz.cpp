@@ -15,9 +15,9 @@ constexpr std::size_t kHoechstzahl = 60;
 
 void Drucke(const PlanRun& lauf) {
     std::ostringstream strom;
-    SchreibeText(strom, lauf);
-    SchreibeCsvKopf(strom);
-    SchreibeCsv(strom, lauf);
+    WriteText(strom, lauf);
+    WriteCsvHeader(strom);
+    WriteCsvRows(strom, lauf);
     strom << JsonText(lauf) << RefreshWeekday(lauf.plan.parameters).hint
           << PointsWithStockText(lauf.run.state);
     for (const auto& bauzeit : lauf.run.LV_Bauzeiten) {

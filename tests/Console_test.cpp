@@ -180,8 +180,7 @@ TEST(Konsole, SuchtUndSchreibtDenPlan) {
         Rufe(ordner, "--suche " + kStartplan + " --ziel WLJ1 --versuche 1 --sitzungen 0,5").Ausgabe;
     EXPECT_NE(weniger.find("\nEntfällt:    "), std::string::npos) << weniger;
     EXPECT_NE(weniger.find("1 x Raketenwerfer"), std::string::npos) << weniger;
-    EXPECT_NE(Fortschrittszeile({.gain = -960}).find("Gewinn -00 Tage 00:16:00 "),
-              std::string::npos);
+    EXPECT_NE(ProgressLine({.gain = -960}).find("Gewinn -00 Tage 00:16:00 "), std::string::npos);
     const std::string text = Rufe(ordner, "--suche neu.tvf --versuche 20000 --fest 1-49").Ausgabe;
     EXPECT_NE(text.find("Gewinn:      00 Tage 00:00:00 (0 %)"), std::string::npos) << text;
 }

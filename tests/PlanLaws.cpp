@@ -249,8 +249,8 @@ std::string Zustand(const BuildList& liste) {
 std::string Ergebnis(const Plan& plan) {
     std::ostringstream strom;
     const PlanRun lauf("plan.tvf", IniFile(Bytes(plan)));
-    SchreibeText(strom, lauf);
-    SchreibeCsv(strom, lauf);
+    WriteText(strom, lauf);
+    WriteCsvRows(strom, lauf);
     strom << JsonText(lauf);
     return strom.str();
 }

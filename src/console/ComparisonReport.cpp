@@ -12,66 +12,66 @@ namespace tarvelin {
 namespace {
 
 using nlohmann::json;
-using Zeilen = std::vector<std::vector<std::string>>;
+using TextRows = std::vector<std::vector<std::string>>;
 
-Zeilen MitKopf(std::vector<std::string> kopf, const std::vector<ComparisonText>& texte) {
-    Zeilen zeilen{std::move(kopf)};
-    for (const ComparisonText& text : texte) {
-        zeilen.emplace_back(text.begin(), text.end());
+TextRows WithHeader(std::vector<std::string> header, const std::vector<ComparisonText>& texts) {
+    TextRows rows{std::move(header)};
+    for (const ComparisonText& text : texts) {
+        rows.emplace_back(text.begin(), text.end());
     }
-    return zeilen;
+    return rows;
 }
 
-json AlsJson(const PlanRun& plan, const RunSummary& zahlen) {
+json ToJson(const PlanRun& plan, const RunSummary& figures) {
     return {{"Plan", plan.name},
-            {"Sekunden", zahlen.duration},
-            {"VerbauteRessourcen", zahlen.VerbauteRessourcen},
-            {"Metall", FourDecimalsText(zahlen.stock[Resource::Metall])},
-            {"Kristall", FourDecimalsText(zahlen.stock[Resource::Kristall])},
-            {"Deuterium", FourDecimalsText(zahlen.stock[Resource::Deuterium])},
-            {"Sitzungen", zahlen.sittings},
+            {"Sekunden", figures.duration},
+            {"VerbauteRessourcen", figures.VerbauteRessourcen},
+            {"Metall", FourDecimalsText(figures.stock[Resource::Metall])},
+            {"Kristall", FourDecimalsText(figures.stock[Resource::Kristall])},
+            {"Deuterium", FourDecimalsText(figures.stock[Resource::Deuterium])},
+            {"Sitzungen", figures.sittings},
             {"Leerlauf",
-             {{"Bauschleife", zahlen.idle[Queue::Building]},
-              {"Forschungsschleife", zahlen.idle[Queue::Research]},
-              {"Werftschleife", zahlen.idle[Queue::Shipyard]}}}};
+             {{"Bauschleife", figures.idle[Queue::Building]},
+              {"Forschungsschleife", figures.idle[Queue::Research]},
+              {"Werftschleife", figures.idle[Queue::Shipyard]}}}};
 }
 
-json Sekunden(const std::optional<SimTime>& moment) {
+json SecondsJson(const std::optional<SimTime>& moment) {
     return moment ? json(moment->Seconds()) : json();
 }
 
 }  // namespace
 
-void SchreibeVergleich(std::ostream& strom, const PlanRun& a, const PlanRun& b) {
-    const Comparison vergleich = Compare(a.Trace(), b.Trace());
-    constexpr const char* kUnterschied = "Unterschied";
-    const std::vector<std::size_t> rechts{1, 2, 3};
-    SchreibeTabelle(strom, MitKopf({"", a.name, b.name, kUnterschied}, SummaryTexts(vergleich)),
-                    rechts);
-    strom << '\n';
-    const auto auftraege = OrderDifferences(vergleich);
-    if (auftraege.empty()) {
-        strom << "Alle Aufträge beginnen zur selben Zeit.\n";
+void WriteComparison(std::ostream& stream, const PlanRun& a, const PlanRun& b) {
+    const Comparison comparison = Compare(a.Trace(), b.Trace());
+    constexpr const char* kDifference = "Unterschied";
+    const std::vector<std::size_t> right{1, 2, 3};
+    WriteTable(stream, WithHeader({"", a.name, b.name, kDifference}, SummaryTexts(comparison)),
+               right);
+    stream << '\n';
+    const auto orders = OrderDifferences(comparison);
+    if (orders.empty()) {
+        stream << "Alle Aufträge beginnen zur selben Zeit.\n";
         return;
     }
-    SchreibeTabelle(strom, MitKopf({"Auftrag", a.name, b.name, kUnterschied}, auftraege), rechts);
+    WriteTable(stream, WithHeader({"Auftrag", a.name, b.name, kDifference}, orders), right);
 }
 
-std::string VergleichsJson(const PlanRun& a, const PlanRun& b) {
-    const Comparison vergleich = Compare(a.Trace(), b.Trace());
-    json unterschiede = json::array();
-    for (const ComparisonRow& zeile : vergleich.differences) {
-        const auto unterschied = zeile.Difference();
-        unterschiede.push_back({{"Auftrag", OrderKey(zeile.order, zeile.number)},
-                                {"Tag", zeile.order.Tag()},
-                                {"Nummer", zeile.number},
-                                {"A", Sekunden(zeile.a)},
-                                {"B", Sekunden(zeile.b)},
-                                {"Unterschied", unterschied ? json(*unterschied) : json()}});
+std::string ComparisonJson(const PlanRun& a, const PlanRun& b) {
+    const Comparison comparison = Compare(a.Trace(), b.Trace());
+    json differences = json::array();
+    for (const ComparisonRow& row : comparison.differences) {
+        const auto difference = row.Difference();
+        differences.push_back({{"Auftrag", OrderKey(row.order, row.number)},
+                               {"Tag", row.order.Tag()},
+                               {"Nummer", row.number},
+                               {"A", SecondsJson(row.a)},
+                               {"B", SecondsJson(row.b)},
+                               {"Unterschied", difference ? json(*difference) : json()}});
     }
-    return json{{"A", AlsJson(a, vergleich.a)},
-                {"B", AlsJson(b, vergleich.b)},
-                {"Unterschiede", unterschiede}}
+    return json{{"A", ToJson(a, comparison.a)},
+                {"B", ToJson(b, comparison.b)},
+                {"Unterschiede", differences}}
         .dump(1);
 }
 

@@ -9,9 +9,9 @@
 namespace tarvelin {
 
 /// Both have been run.
-void SchreibeVergleich(std::ostream& strom, const PlanRun& a, const PlanRun& b);
+void WriteComparison(std::ostream& stream, const PlanRun& a, const PlanRun& b);
 
 /// One object.
-[[nodiscard]] std::string VergleichsJson(const PlanRun& a, const PlanRun& b);
+[[nodiscard]] std::string ComparisonJson(const PlanRun& a, const PlanRun& b);
 
 }  // namespace tarvelin

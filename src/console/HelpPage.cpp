@@ -8,7 +8,7 @@ namespace tarvelin {
 
 namespace {
 
-constexpr const char* kBeispiele =
+constexpr const char* kExamples =
     "Beispiele:\n"
     "  tarvelin-cli mein-plan.tvf\n"
     "      Der Zeitplan: wann welcher Auftrag, und warum nicht früher.\n"
@@ -18,36 +18,36 @@ constexpr const char* kBeispiele =
     "      Der schnellste Weg zu Werft 2, Verbrennungstriebwerk 2 und einem Transporter.\n";
 
 /// "  GM    Metallmine".
-std::string Codezeile(std::string_view code, std::string_view name) {
-    constexpr std::size_t kBreite = 6;
-    return "  " + Aufgefuellt(std::string(code), kBreite, false) + std::string(name) + "\n";
+std::string CodeLine(std::string_view code, std::string_view name) {
+    constexpr std::size_t kWidth = 6;
+    return "  " + Padded(std::string(code), kWidth, false) + std::string(name) + "\n";
 }
 
 }  // namespace
 
-Hilfeseite::Hilfeseite() {
-    constexpr std::size_t kSpalte = 26;
-    column_width(kSpalte);
+HelpPage::HelpPage() {
+    constexpr std::size_t kColumn = 26;
+    column_width(kColumn);
 }
 
-std::string Hilfeseite::make_usage(const CLI::App* /*app*/, std::string name) const {
+std::string HelpPage::make_usage(const CLI::App* /*app*/, std::string name) const {
     return "Aufruf: " + name + " [OPTIONEN] PLAN.tvf ...\n";
 }
 
-std::string Hilfeseite::make_option_opts(const CLI::Option* option) const {
-    const std::string wert = option->get_type_name();
-    return wert.empty() ? "" : " " + wert;
+std::string HelpPage::make_option_opts(const CLI::Option* option) const {
+    const std::string value = option->get_type_name();
+    return value.empty() ? "" : " " + value;
 }
 
-std::string Hilfeseite::make_footer(const CLI::App* /*app*/) const {
+std::string HelpPage::make_footer(const CLI::App* /*app*/) const {
     std::string text = "\nCodes in Plandateien, und mit Stufe oder Anzahl für --ziel:\n";
-    for (const ItemRow& zeile : ItemTable()) {
-        text += Codezeile(zeile.ItemCode, zeile.name);
+    for (const ItemRow& row : ItemTable()) {
+        text += CodeLine(row.ItemCode, row.name);
     }
     return text +
-           Codezeile(kProductionCode,
-                     "nur in Plandateien: Produktion, etwa GX:8:10:5 für 80, 100 und 50 %") +
-           "\n" + kBeispiele;
+           CodeLine(kProductionCode,
+                    "nur in Plandateien: Produktion, etwa GX:8:10:5 für 80, 100 und 50 %") +
+           "\n" + kExamples;
 }
 
 }  // namespace tarvelin

@@ -8,9 +8,9 @@ namespace tarvelin {
 
 /// Written for players: each option with the German word for its value, then the codes of the items
 /// and examples.
-class Hilfeseite : public CLI::Formatter {
+class HelpPage : public CLI::Formatter {
   public:
-    Hilfeseite();
+    HelpPage();
 
     [[nodiscard]] std::string make_usage(const CLI::App* app, std::string name) const override;
     [[nodiscard]] std::string make_option_opts(const CLI::Option* option) const override;

@@ -12,138 +12,137 @@ namespace {
 
 using nlohmann::json;
 
-json Meldungen(const PlanRun& lauf) {
-    json liste = json::array();
-    for (const Message& meldung : lauf.messages) {
-        liste.push_back({{"Text", meldung.text}, {"Titel", meldung.title}});
+json MessagesJson(const PlanRun& document) {
+    json list = json::array();
+    for (const Message& message : document.messages) {
+        list.push_back({{"Text", message.text}, {"Titel", message.title}});
     }
-    return liste;
+    return list;
 }
 
-json Zeilen(const BuildList& bauliste) {
-    json liste = json::array();
-    for (const BuildListRow& zeile : bauliste.Rows()) {
-        liste.push_back({{"Text", zeile.text},
-                         {"Tag", zeile.Tag},
-                         {"SubItems1", zeile.SubItems1},
-                         {"SubItems2", zeile.SubItems2},
-                         {"Farbe", static_cast<int>(zeile.SubItems2Color)}});
+json RowsJson(const BuildList& buildList) {
+    json list = json::array();
+    for (const BuildListRow& row : buildList.Rows()) {
+        list.push_back({{"Text", row.text},
+                        {"Tag", row.Tag},
+                        {"SubItems1", row.SubItems1},
+                        {"SubItems2", row.SubItems2},
+                        {"Farbe", static_cast<int>(row.SubItems2Color)}});
     }
-    return liste;
+    return list;
 }
 
-/// An object from the item codes to what `wert` gives for each item.
-template <class Wert>
-json JeCode(Wert wert) {
-    json objekt = json::object();
-    for (const ItemRow& zeile : ItemTable()) {
-        objekt[std::string(zeile.ItemCode)] = wert(zeile.item);
+/// An object from the item codes to what `value` gives for each item.
+template <class Value>
+json ByCode(Value value) {
+    json object = json::object();
+    for (const ItemRow& row : ItemTable()) {
+        object[std::string(row.ItemCode)] = value(row.item);
     }
-    return objekt;
+    return object;
 }
 
-json Schlafzeiten(const SleepTable& tabelle) {
-    json liste = json::array();
-    for (const SleepRow& zeile : tabelle) {
-        liste.push_back({zeile.Startzeit, zeile.Endzeit});
+json SleepTableJson(const SleepTable& table) {
+    json list = json::array();
+    for (const SleepRow& row : table) {
+        list.push_back({row.Startzeit, row.Endzeit});
     }
-    return liste;
+    return list;
 }
 
-json Zeittabelle(const Schedule& bauzeiten) {
-    json liste = json::array();
-    for (const ScheduleEntry& zeile : bauzeiten) {
-        liste.push_back({{"Wochentag", zeile.Weekday()},
-                         {"Uhrzeit", zeile.TimeOfDay()},
-                         {"theText", zeile.theText()},
-                         {"Tag", zeile.Tag()}});
+json ScheduleJson(const Schedule& schedule) {
+    json list = json::array();
+    for (const ScheduleEntry& row : schedule) {
+        list.push_back({{"Wochentag", row.Weekday()},
+                        {"Uhrzeit", row.TimeOfDay()},
+                        {"theText", row.theText()},
+                        {"Tag", row.Tag()}});
     }
-    return liste;
+    return list;
 }
 
-void FuegeZustandAn(json& objekt, const GameState& stand, const RunConditions& bedingungen) {
-    objekt["secsgone"] = stand.secsgone.Seconds();
-    objekt["Metall"] = FourDecimalsText(stand.stock[Resource::Metall]);
-    objekt["Kristall"] = FourDecimalsText(stand.stock[Resource::Kristall]);
-    objekt["Deuterium"] = FourDecimalsText(stand.stock[Resource::Deuterium]);
-    objekt["ProdFaktor"] = FourDecimalsText(stand.ProdFaktor);
-    objekt["MetallProStunde"] = FourDecimalsText(stand.ProStunde[Resource::Metall]);
-    objekt["KristallProStunde"] = FourDecimalsText(stand.ProStunde[Resource::Kristall]);
-    objekt["DeuteriumProStunde"] = FourDecimalsText(stand.ProStunde[Resource::Deuterium]);
-    objekt["EnergieProduktion"] = stand.EnergieProduktion;
-    objekt["EnergieVerbrauch"] = stand.EnergieVerbrauch;
-    objekt["VerbauteRessourcen"] = stand.VerbauteRessourcen;
-    objekt["Temperatur"] = bedingungen.Temperatur;
-    objekt["Speedfaktor"] = bedingungen.Speedfaktor;
-    objekt["GebaeudeFertigZeit"] = stand.FertigZeit[Queue::Building].Seconds();
-    objekt["WerftFertigZeit"] = stand.FertigZeit[Queue::Shipyard].Seconds();
-    objekt["ForschungFertigZeit"] = stand.FertigZeit[Queue::Research].Seconds();
-    objekt["Stufen"] = JeCode([&](ItemId item) { return stand.Stufe[item]; });
+void AppendState(json& object, const GameState& state, const RunConditions& conditions) {
+    object["secsgone"] = state.secsgone.Seconds();
+    object["Metall"] = FourDecimalsText(state.stock[Resource::Metall]);
+    object["Kristall"] = FourDecimalsText(state.stock[Resource::Kristall]);
+    object["Deuterium"] = FourDecimalsText(state.stock[Resource::Deuterium]);
+    object["ProdFaktor"] = FourDecimalsText(state.ProdFaktor);
+    object["MetallProStunde"] = FourDecimalsText(state.ProStunde[Resource::Metall]);
+    object["KristallProStunde"] = FourDecimalsText(state.ProStunde[Resource::Kristall]);
+    object["DeuteriumProStunde"] = FourDecimalsText(state.ProStunde[Resource::Deuterium]);
+    object["EnergieProduktion"] = state.EnergieProduktion;
+    object["EnergieVerbrauch"] = state.EnergieVerbrauch;
+    object["VerbauteRessourcen"] = state.VerbauteRessourcen;
+    object["Temperatur"] = conditions.Temperatur;
+    object["Speedfaktor"] = conditions.Speedfaktor;
+    object["GebaeudeFertigZeit"] = state.FertigZeit[Queue::Building].Seconds();
+    object["WerftFertigZeit"] = state.FertigZeit[Queue::Shipyard].Seconds();
+    object["ForschungFertigZeit"] = state.FertigZeit[Queue::Research].Seconds();
+    object["Stufen"] = ByCode([&](ItemId item) { return state.Stufe[item]; });
 }
 
-void FuegeTexteAn(json& objekt, const ResultTexts& texte) {
-    objekt["LBL_Timegone"] = texte.LBL_Timegone;
-    objekt["LBL_Met"] = texte.LBL_Met;
-    objekt["LBL_Kris"] = texte.LBL_Kris;
-    objekt["LBL_Deut"] = texte.LBL_Deut;
-    objekt["LBL_ENergie"] = texte.LBL_ENergie;
-    objekt["LBL_Punkte"] = texte.LBL_Punkte;
-    objekt["LBL_Punkte_Hinweis"] = texte.LBL_Punkte_Hint;
+void AppendTexts(json& object, const ResultTexts& texts) {
+    object["LBL_Timegone"] = texts.LBL_Timegone;
+    object["LBL_Met"] = texts.LBL_Met;
+    object["LBL_Kris"] = texts.LBL_Kris;
+    object["LBL_Deut"] = texts.LBL_Deut;
+    object["LBL_ENergie"] = texts.LBL_ENergie;
+    object["LBL_Punkte"] = texts.LBL_Punkte;
+    object["LBL_Punkte_Hinweis"] = texts.LBL_Punkte_Hint;
 }
 
-json Punkt(const HistoryPoint& punkt, const RunConditions& bedingungen) {
-    return {{"Sekunde", punkt.time.Seconds()},
-            {"Zeitpunkt", DateTimeText(bedingungen.WallClock(punkt.time))},
-            {"Metall", FourDecimalsText(punkt.stock[Resource::Metall])},
-            {"Kristall", FourDecimalsText(punkt.stock[Resource::Kristall])},
-            {"Deuterium", FourDecimalsText(punkt.stock[Resource::Deuterium])},
-            {"MetallProStunde", FourDecimalsText(punkt.ProStunde[Resource::Metall])},
-            {"KristallProStunde", FourDecimalsText(punkt.ProStunde[Resource::Kristall])},
-            {"DeuteriumProStunde", FourDecimalsText(punkt.ProStunde[Resource::Deuterium])},
-            {"EnergieProduktion", punkt.EnergieProduktion},
-            {"EnergieVerbrauch", punkt.EnergieVerbrauch}};
+json PointJson(const HistoryPoint& point, const RunConditions& conditions) {
+    return {{"Sekunde", point.time.Seconds()},
+            {"Zeitpunkt", DateTimeText(conditions.WallClock(point.time))},
+            {"Metall", FourDecimalsText(point.stock[Resource::Metall])},
+            {"Kristall", FourDecimalsText(point.stock[Resource::Kristall])},
+            {"Deuterium", FourDecimalsText(point.stock[Resource::Deuterium])},
+            {"MetallProStunde", FourDecimalsText(point.ProStunde[Resource::Metall])},
+            {"KristallProStunde", FourDecimalsText(point.ProStunde[Resource::Kristall])},
+            {"DeuteriumProStunde", FourDecimalsText(point.ProStunde[Resource::Deuterium])},
+            {"EnergieProduktion", point.EnergieProduktion},
+            {"EnergieVerbrauch", point.EnergieVerbrauch}};
 }
 
-json VerlaufVon(const RunTrace& ablauf) {
-    json punkte = json::array();
-    for (const HistoryPoint& punkt : ablauf.curve) {
-        punkte.push_back(Punkt(punkt, ablauf.conditions));
+json HistoryOf(const RunTrace& trace) {
+    json points = json::array();
+    for (const HistoryPoint& point : trace.curve) {
+        points.push_back(PointJson(point, trace.conditions));
     }
-    json auftraege = json::array();
-    for (const StartEvent& start : ablauf.starts) {
-        auftraege.push_back(
-            {{"Zeile", start.row + 1},
-             {"Auftrag", OrderKey(start.order, start.number)},
-             {"Start", start.start.Seconds()},
-             {"Finish", start.finish.Seconds()},
-             {"Startzeit", DateTimeText(ablauf.conditions.WallClock(start.start))},
-             {"Fertigzeit", DateTimeText(ablauf.conditions.WallClock(start.finish))},
-             {"Schlange", QueueName(start.order.queue)},
-             {"Grund", DelayText(ablauf, start.row)}});
+    json orders = json::array();
+    for (const StartEvent& start : trace.starts) {
+        orders.push_back({{"Zeile", start.row + 1},
+                          {"Auftrag", OrderKey(start.order, start.number)},
+                          {"Start", start.start.Seconds()},
+                          {"Finish", start.finish.Seconds()},
+                          {"Startzeit", DateTimeText(trace.conditions.WallClock(start.start))},
+                          {"Fertigzeit", DateTimeText(trace.conditions.WallClock(start.finish))},
+                          {"Schlange", QueueName(start.order.queue)},
+                          {"Grund", DelayText(trace, start.row)}});
     }
-    return {{"Punkte", punkte}, {"Auftraege", auftraege}};
+    return {{"Punkte", points}, {"Auftraege", orders}};
 }
 
 }  // namespace
 
-std::string JsonText(const PlanRun& lauf, bool mitVerlauf) {
-    const BuildList& liste = lauf.plan.LV_Bauliste;
-    json objekt{{"Meldungen", Meldungen(lauf)},
-                {"Geladen", lauf.loaded},
-                {"Gelaufen", lauf.hasRun},
-                {"Bauliste", Zeilen(liste)},
-                {"ListStufe", JeCode([&](ItemId item) { return liste.Orders().ListStufe(item); })},
-                {"ListFaktor", liste.Orders().ListFaktor()},
-                {"Schlafzeiten", Schlafzeiten(lauf.plan.LV_Schlafzeiten)}};
-    if (lauf.hasRun) {
-        FuegeZustandAn(objekt, lauf.run.state, lauf.run.conditions);
-        FuegeTexteAn(objekt, lauf.texts);
-        objekt["LV_Bauzeiten"] = Zeittabelle(lauf.run.LV_Bauzeiten);
-        if (mitVerlauf) {
-            objekt["Verlauf"] = VerlaufVon(lauf.Trace());
+std::string JsonText(const PlanRun& document, bool withHistory) {
+    const BuildList& list = document.plan.LV_Bauliste;
+    json object{{"Meldungen", MessagesJson(document)},
+                {"Geladen", document.loaded},
+                {"Gelaufen", document.hasRun},
+                {"Bauliste", RowsJson(list)},
+                {"ListStufe", ByCode([&](ItemId item) { return list.Orders().ListStufe(item); })},
+                {"ListFaktor", list.Orders().ListFaktor()},
+                {"Schlafzeiten", SleepTableJson(document.plan.LV_Schlafzeiten)}};
+    if (document.hasRun) {
+        AppendState(object, document.run.state, document.run.conditions);
+        AppendTexts(object, document.texts);
+        object["LV_Bauzeiten"] = ScheduleJson(document.run.LV_Bauzeiten);
+        if (withHistory) {
+            object["Verlauf"] = HistoryOf(document.Trace());
         }
     }
-    return objekt.dump(1);
+    return object.dump(1);
 }
 
 }  // namespace tarvelin

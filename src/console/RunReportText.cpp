@@ -11,83 +11,82 @@ namespace tarvelin {
 
 namespace {
 
-using Zeile = std::vector<std::string>;
+using TextRow = std::vector<std::string>;
 
-Zeile Kopf(const char* letzte) {
-    return {"Nr.", "Wochentag", "Uhrzeit", "theText", "Zeitpunkt", letzte};
+TextRow Header(const char* last) {
+    return {"Nr.", "Wochentag", "Uhrzeit", "theText", "Zeitpunkt", last};
 }
 
 /// The rows, with what `text` gives for each in the last column.
-std::vector<Zeile> Zeittabelle(const Schedule& bauzeiten,
-                               const std::function<std::string(std::size_t)>& text) {
-    std::vector<Zeile> zeilen;
-    zeilen.reserve(bauzeiten.size());
-    for (std::size_t i = 0; i < bauzeiten.size(); ++i) {
-        const ScheduleEntry& bauzeit = bauzeiten[i];
-        zeilen.push_back({std::to_string(i + 1), bauzeit.Weekday(), bauzeit.TimeOfDay(),
-                          bauzeit.theText(), DateTimeText(bauzeit.start), text(i)});
+std::vector<TextRow> ScheduleRows(const Schedule& schedule,
+                                  const std::function<std::string(std::size_t)>& text) {
+    std::vector<TextRow> rows;
+    rows.reserve(schedule.size());
+    for (std::size_t i = 0; i < schedule.size(); ++i) {
+        const ScheduleEntry& entry = schedule[i];
+        rows.push_back({std::to_string(i + 1), entry.Weekday(), entry.TimeOfDay(), entry.theText(),
+                        DateTimeText(entry.start), text(i)});
     }
-    return zeilen;
+    return rows;
 }
 
 /// Name and figure of what a run came to.
-std::vector<Zeile> Ergebnisfiguren(const PlanRun& lauf) {
-    const GameState& stand = lauf.run.state;
-    return {{"Dauer:", DurationText(stand)},
-            {"Metall:", lauf.texts.LBL_Met},
-            {"Kristall:", lauf.texts.LBL_Kris},
-            {"Deuterium:", lauf.texts.LBL_Deut},
-            {"Energie:", lauf.texts.LBL_ENergie},
-            {"Punkte:", PointsText(stand)},
-            {"Punkte inkl. Res.:", PointsWithStockText(stand)}};
+std::vector<TextRow> ResultFigures(const PlanRun& document) {
+    const GameState& state = document.run.state;
+    return {{"Dauer:", DurationText(state)},
+            {"Metall:", document.texts.LBL_Met},
+            {"Kristall:", document.texts.LBL_Kris},
+            {"Deuterium:", document.texts.LBL_Deut},
+            {"Energie:", document.texts.LBL_ENergie},
+            {"Punkte:", PointsText(state)},
+            {"Punkte inkl. Res.:", PointsWithStockText(state)}};
 }
 
-std::string Csvfeld(const std::string& text) {
+std::string CsvField(const std::string& text) {
     if (text.find_first_of(";\"\r\n") == std::string::npos) {
         return text;
     }
-    std::string feld = "\"";
-    for (const char zeichen : text) {
-        feld += zeichen;
-        if (zeichen == '"') {
-            feld += zeichen;
+    std::string field = "\"";
+    for (const char character : text) {
+        field += character;
+        if (character == '"') {
+            field += character;
         }
     }
-    return feld + "\"";
+    return field + "\"";
 }
 
-void SchreibeCsvZeile(std::ostream& strom, const std::string& plan, const Zeile& zeile) {
-    strom << Csvfeld(plan);
-    for (const std::string& text : zeile) {
-        strom << ';' << Csvfeld(text);
+void WriteCsvRow(std::ostream& stream, const std::string& plan, const TextRow& row) {
+    stream << CsvField(plan);
+    for (const std::string& text : row) {
+        stream << ';' << CsvField(text);
     }
-    strom << "\r\n";
+    stream << "\r\n";
 }
 
 }  // namespace
 
-void SchreibeText(std::ostream& strom, const PlanRun& lauf) {
-    strom << lauf.name << "\n\n";
-    const RunTrace ablauf = lauf.Trace();
-    auto zeilen = Zeittabelle(lauf.run.LV_Bauzeiten, [&](std::size_t i) {
-        return DelayText(ablauf, ablauf.starts[i].row);
-    });
-    zeilen.insert(zeilen.begin(), Kopf("Grund"));
-    SchreibeTabelle(strom, zeilen, {0});
-    strom << '\n';
-    SchreibeTabelle(strom, Ergebnisfiguren(lauf), {1});
+void WriteText(std::ostream& stream, const PlanRun& document) {
+    stream << document.name << "\n\n";
+    const RunTrace trace = document.Trace();
+    auto rows = ScheduleRows(document.run.LV_Bauzeiten,
+                             [&](std::size_t i) { return DelayText(trace, trace.starts[i].row); });
+    rows.insert(rows.begin(), Header("Grund"));
+    WriteTable(stream, rows, {0});
+    stream << '\n';
+    WriteTable(stream, ResultFigures(document), {1});
 }
 
-void SchreibeCsvKopf(std::ostream& strom) {
-    strom << "\xEF\xBB\xBF";
-    SchreibeCsvZeile(strom, "Plan", Kopf("Verzögerung"));
+void WriteCsvHeader(std::ostream& stream) {
+    stream << "\xEF\xBB\xBF";
+    WriteCsvRow(stream, "Plan", Header("Verzögerung"));
 }
 
-void SchreibeCsv(std::ostream& strom, const PlanRun& lauf) {
-    const Schedule& bauzeiten = lauf.run.LV_Bauzeiten;
-    for (const Zeile& zeile :
-         Zeittabelle(bauzeiten, [&](std::size_t i) { return bauzeiten[i].VerzoegerungsGrund(); })) {
-        SchreibeCsvZeile(strom, lauf.name, zeile);
+void WriteCsvRows(std::ostream& stream, const PlanRun& document) {
+    const Schedule& schedule = document.run.LV_Bauzeiten;
+    for (const TextRow& row :
+         ScheduleRows(schedule, [&](std::size_t i) { return schedule[i].VerzoegerungsGrund(); })) {
+        WriteCsvRow(stream, document.name, row);
     }
 }
 

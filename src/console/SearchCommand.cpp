@@ -19,16 +19,16 @@ namespace tarvelin {
 
 namespace {
 
-constexpr int kGut = 0;
-constexpr int kPlanGescheitert = 1;
-constexpr int kFalscherAufruf = 2;
+constexpr int kGood = 0;
+constexpr int kPlanFailed = 1;
+constexpr int kWrongCall = 2;
 
-int Sage(const std::string& text, int code) {
+int Say(const std::string& text, int code) {
     std::cerr << "tarvelin-cli: " << text << '\n';
     return code;
 }
 
-bool FehlerstromIstTerminal() {
+bool ErrorStreamIsTerminal() {
 #ifdef _WIN32
     return _isatty(_fileno(stderr)) != 0;
 #else
@@ -36,118 +36,119 @@ bool FehlerstromIstTerminal() {
 #endif
 }
 
-using Zeilenbereiche = std::vector<std::pair<std::size_t, std::size_t>>;
+using RowRanges = std::vector<std::pair<std::size_t, std::size_t>>;
 
 /// "3,7-9", or what is wrong with another text.
-std::variant<Zeilenbereiche, std::string> LiesZeilen(std::string_view text) {
-    constexpr const char* kErwartet = "--fest erwartet Zeilen wie 3,7-9";
-    constexpr std::int64_t kHoechste = 9999;
-    Zeilenbereiche stuecke;
+std::variant<RowRanges, std::string> ParseRows(std::string_view text) {
+    constexpr const char* kExpected = "--fest erwartet Zeilen wie 3,7-9";
+    constexpr std::int64_t kHighest = 9999;
+    RowRanges pieces;
     while (!text.empty()) {
-        const auto ende = std::min(text.find(','), text.size());
-        const auto stueck = text.substr(0, ende);
-        if (ende + 1 == text.size()) {
-            return kErwartet;
+        const auto end = std::min(text.find(','), text.size());
+        const auto piece = text.substr(0, end);
+        if (end + 1 == text.size()) {
+            return kExpected;
         }
-        text.remove_prefix(std::min(ende + 1, text.size()));
-        const auto strich = stueck.find('-');
-        const auto erste = ParseWholeNumber(stueck.substr(0, strich), 1, kHoechste);
-        const auto letzte = strich == std::string_view::npos
-                                ? erste
-                                : ParseWholeNumber(stueck.substr(strich + 1), 1, kHoechste);
-        if (!erste || !letzte) {
-            return kErwartet;
+        text.remove_prefix(std::min(end + 1, text.size()));
+        const auto tick = piece.find('-');
+        const auto first = ParseWholeNumber(piece.substr(0, tick), 1, kHighest);
+        const auto last = tick == std::string_view::npos
+                              ? first
+                              : ParseWholeNumber(piece.substr(tick + 1), 1, kHighest);
+        if (!first || !last) {
+            return kExpected;
         }
-        if (*erste > *letzte) {
-            return "--fest " + std::string(stueck) + " läuft rückwärts: gemeint ist wohl " +
-                   std::to_string(*letzte) + "-" + std::to_string(*erste);
+        if (*first > *last) {
+            return "--fest " + std::string(piece) + " läuft rückwärts: gemeint ist wohl " +
+                   std::to_string(*last) + "-" + std::to_string(*first);
         }
-        stuecke.emplace_back(*erste, *letzte);
+        pieces.emplace_back(*first, *last);
     }
-    return stuecke;
+    return pieces;
 }
 
 /// The wish, or what is wrong with the call.
-std::variant<SearchRequest, std::string> LiesWunsch(const Suchbefehl& befehl) {
-    SearchRequest wunsch{.goal = befehl.Ziel, .moveProduction = befehl.Frei};
-    const auto zeilen = LiesZeilen(befehl.Fest);
-    if (const auto* const fehler = std::get_if<std::string>(&zeilen)) {
-        return *fehler;
+std::variant<SearchRequest, std::string> ParseRequest(const SearchCommand& command) {
+    SearchRequest request{.goal = command.goal, .moveProduction = command.moveProduction};
+    const auto lines = ParseRows(command.pinned);
+    if (const auto* const error = std::get_if<std::string>(&lines)) {
+        return *error;
     }
-    wunsch.pinnedRanges = std::get<Zeilenbereiche>(zeilen);
-    if (befehl.Ab) {
-        wunsch.notBefore = ParseDateTime(*befehl.Ab);
-        if (!wunsch.notBefore) {
+    request.pinnedRanges = std::get<RowRanges>(lines);
+    if (command.notBefore) {
+        request.notBefore = ParseDateTime(*command.notBefore);
+        if (!request.notBefore) {
             return "--ab erwartet einen Zeitpunkt wie \"18.11.2026 12:30:00\"";
         }
     }
-    return wunsch;
+    return request;
 }
 
-std::filesystem::path AlsPfad(const std::string& datei) {
-    return std::u8string(datei.begin(), datei.end());
+std::filesystem::path ToPath(const std::string& file) {
+    return std::u8string(file.begin(), file.end());
 }
 
-SearchResult SucheMitAnzeige(const PlanTask& aufgabe, const Suchbefehl& befehl,
-                             const std::atomic<bool>& halt) {
-    SearchBudget umfang{.seed = befehl.Saat, .threads = befehl.Threads};
-    umfang.tries = befehl.Versuche == 0 ? umfang.tries : befehl.Versuche;
-    umfang.slackPercent = befehl.Sitzungen.value_or(0);
-    const bool anzeigen = FehlerstromIstTerminal();
-    SearchResult ergebnis = Search(aufgabe, umfang, halt, [&](const SearchProgress& stand) {
-        if (anzeigen) {
-            std::cerr << '\r' << Fortschrittszeile(stand) << "   " << std::flush;
+SearchResult SearchWithProgress(const PlanTask& task, const SearchCommand& command,
+                                const std::atomic<bool>& stop) {
+    SearchBudget budget{.seed = command.seed, .threads = command.threads};
+    budget.tries = command.tries == 0 ? budget.tries : command.tries;
+    budget.slackPercent = command.sittingsPercent.value_or(0);
+    const bool show = ErrorStreamIsTerminal();
+    SearchResult result = Search(task, budget, stop, [&](const SearchProgress& progress) {
+        if (show) {
+            std::cerr << '\r' << ProgressLine(progress) << "   " << std::flush;
         }
     });
-    if (anzeigen) {
+    if (show) {
         std::cerr << '\n';
     }
-    return ergebnis;
+    return result;
 }
 
 }  // namespace
 
-int FuehreSucheAus(const Suchbefehl& befehl, const std::atomic<bool>& halt) {
-    const auto wunsch = LiesWunsch(befehl);
-    if (const auto* const fehler = std::get_if<std::string>(&wunsch)) {
-        return Sage(*fehler, kFalscherAufruf);
+int RunSearchCommand(const SearchCommand& command, const std::atomic<bool>& stop) {
+    const auto request = ParseRequest(command);
+    if (const auto* const error = std::get_if<std::string>(&request)) {
+        return Say(*error, kWrongCall);
     }
-    const PlanRun plan(AlsPfad(befehl.Plandatei));
+    const PlanRun plan(ToPath(command.planFile));
     if (!plan.loaded) {
-        const int code = Sage(LoadErrorMessage().text, kPlanGescheitert);
-        std::cerr << befehl.Plandatei << ": " << LoadObstacle(AlsPfad(befehl.Plandatei)) << '\n';
+        const int code = Say(LoadErrorMessage().text, kPlanFailed);
+        std::cerr << command.planFile << ": " << LoadObstacle(ToPath(command.planFile)) << '\n';
         return code;
     }
     if (plan.run.state.IsAtEndOfClock()) {
-        std::cerr << befehl.Plandatei << ": " << BeyondClockText() << '\n';
+        std::cerr << command.planFile << ": " << BeyondClockText() << '\n';
     }
-    const auto aufgabe = MakePlanTask(plan.plan, std::get<SearchRequest>(wunsch));
-    if (const auto* const absage = std::get_if<SearchRefusal>(&aufgabe)) {
-        return Sage(absage->text, absage->wrongCall ? kFalscherAufruf : kPlanGescheitert);
+    const auto task = MakePlanTask(plan.plan, std::get<SearchRequest>(request));
+    if (const auto* const refusal = std::get_if<SearchRefusal>(&task)) {
+        return Say(refusal->text, refusal->wrongCall ? kWrongCall : kPlanFailed);
     }
-    const auto& gestellt = std::get<PlanTask>(aufgabe);
-    const SearchResult ergebnis = SucheMitAnzeige(gestellt, befehl, halt);
-    if (!ergebnis.best) {
-        return Sage("Es wurde keine Liste gefunden, die endet", kPlanGescheitert);
+    const auto& posed = std::get<PlanTask>(task);
+    const SearchResult result = SearchWithProgress(posed, command, stop);
+    if (!result.best) {
+        return Say("Es wurde keine Liste gefunden, die endet", kPlanFailed);
     }
-    const Plan neuer = WithOrders(plan.plan, ergebnis.best->orders, gestellt.pause);
-    IniFile profil("");
-    WritePlan(neuer, profil);
-    const PlanRun lauf(befehl.Nach ? AlsPfad(*befehl.Nach).filename().string() : plan.name, profil);
-    const Suchbericht bericht{.Plan = plan,
-                              .Aufgabe = gestellt,
-                              .Ergebnis = ergebnis,
-                              .Neuer = lauf,
-                              .Saat = befehl.Saat};
-    if (befehl.Nach && !SaveBauliste(AlsPfad(*befehl.Nach), neuer)) {
-        return Sage(SaveErrorMessage().text, kPlanGescheitert);
+    const Plan after = WithOrders(plan.plan, result.best->orders, posed.pause);
+    IniFile profile("");
+    WritePlan(after, profile);
+    const PlanRun document(
+        command.outputFile ? ToPath(*command.outputFile).filename().string() : plan.name, profile);
+    const SearchReport report{.before = plan,
+                              .task = posed,
+                              .ResultText = result,
+                              .after = document,
+                              .seed = command.seed};
+    if (command.outputFile && !SaveBauliste(ToPath(*command.outputFile), after)) {
+        return Say(SaveErrorMessage().text, kPlanFailed);
     }
-    if (befehl.Json) {
-        std::cout << SuchJson(bericht) << '\n';
+    if (command.json) {
+        std::cout << SearchJson(report) << '\n';
     } else {
-        SchreibeSuche(std::cout, bericht);
+        WriteSearch(std::cout, report);
     }
-    return kGut;
+    return kGood;
 }
 
 }  // namespace tarvelin

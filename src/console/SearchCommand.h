@@ -9,22 +9,22 @@
 namespace tarvelin {
 
 /// The options as they were given.
-struct Suchbefehl {
-    std::string Plandatei;
-    std::optional<std::string> Ziel;
-    std::optional<std::string> Nach;
-    std::uint64_t Versuche = 0;
-    unsigned Threads = 1;
-    std::uint64_t Saat = 1;
-    std::string Fest;
-    bool Frei = false;
-    std::optional<std::string> Ab;
-    std::optional<double> Sitzungen;
-    bool Json = false;
+struct SearchCommand {
+    std::string planFile;
+    std::optional<std::string> goal;
+    std::optional<std::string> outputFile;
+    std::uint64_t tries = 0;
+    unsigned threads = 1;
+    std::uint64_t seed = 1;
+    std::string pinned;
+    bool moveProduction = false;
+    std::optional<std::string> notBefore;
+    std::optional<double> sittingsPercent;
+    bool json = false;
 };
 
-/// Searches, prints, writes the new plan. Ends early with the best so far when `halt` is set. The
+/// Searches, prints, writes the new plan. Ends early with the best so far when `stop` is set. The
 /// exit code: 0, 1 for a plan that can't be searched or written, 2 for a wrong call.
-int FuehreSucheAus(const Suchbefehl& befehl, const std::atomic<bool>& halt);
+int RunSearchCommand(const SearchCommand& command, const std::atomic<bool>& stop);
 
 }  // namespace tarvelin

@@ -16,104 +16,104 @@ namespace {
 
 using nlohmann::json;
 
-std::string Dauer(Long sekunden) {
-    return FormatDuration(sekunden, "s", "dd(0)hh:mm:ss", "d");
+std::string DurationText(Long seconds) {
+    return FormatDuration(seconds, "s", "dd(0)hh:mm:ss", "d");
 }
 
-json AlsJson(const Solution& fund, const GameState& stand) {
-    json raten = json::array();
-    for (const FixedPoint rate : stand.ProStunde) {
-        raten.push_back(rate.WholePart());
+json ToJson(const Solution& solution, const GameState& state) {
+    json rates = json::array();
+    for (const FixedPoint rate : state.ProStunde) {
+        rates.push_back(rate.WholePart());
     }
-    return {{"Sekunden", fund.score.duration},
-            {"Dauer", Dauer(fund.score.duration)},
-            {"Zeilen", fund.orders.size()},
-            {"Sitzungen", fund.score.sittings},
-            {"ProStunde", raten}};
+    return {{"Sekunden", solution.score.duration},
+            {"Dauer", DurationText(solution.score.duration)},
+            {"Zeilen", solution.orders.size()},
+            {"Sitzungen", solution.score.sittings},
+            {"ProStunde", rates}};
 }
 
-std::string Fundtext(const Solution& fund) {
-    return Dauer(fund.score.duration) + "   " +
-           CountText(static_cast<std::size_t>(fund.score.sittings), "Sitzung", "Sitzungen") +
-           "   " + CountText(fund.orders.size(), "Zeile", "Zeilen");
+std::string SolutionText(const Solution& solution) {
+    return DurationText(solution.score.duration) + "   " +
+           CountText(static_cast<std::size_t>(solution.score.sittings), "Sitzung", "Sitzungen") +
+           "   " + CountText(solution.orders.size(), "Zeile", "Zeilen");
 }
 
 /// A list for fewer sittings may take longer.
-std::string Gewinntext(Long gewinn) {
-    return (gewinn < 0 ? "-" : "") + Dauer(std::abs(gewinn));
+std::string GainText(Long gain) {
+    return (gain < 0 ? "-" : "") + DurationText(std::abs(gain));
 }
 
-void SchreibeZeile(std::ostream& strom, const std::string& name, const std::string& text) {
-    constexpr std::size_t kBreite = 13;
-    strom << Aufgefuellt(name + ":", kBreite, false) << text << '\n';
+void WriteRow(std::ostream& stream, const std::string& name, const std::string& text) {
+    constexpr std::size_t kWidth = 13;
+    stream << Padded(name + ":", kWidth, false) << text << '\n';
 }
 
-std::string Prozent(Long gewinn, Long von) {
-    constexpr double kHundert = 100;
-    return DecimalText(von == 0 ? 0 : kHundert * gewinn / von, 1) + " %";
+std::string Percent(Long gain, Long from) {
+    constexpr double kHundred = 100;
+    return DecimalText(from == 0 ? 0 : kHundred * gain / from, 1) + " %";
 }
 
 }  // namespace
 
-void SchreibeSuche(std::ostream& strom, const Suchbericht& bericht) {
-    const Solution& nachher = *bericht.Ergebnis.best;
-    const auto& vorher = bericht.Aufgabe.before;
-    SchreibeZeile(strom, "Vorher",
-                  vorher ? Fundtext(*vorher) : "der Plan endet nie oder verfehlt das Ziel");
-    SchreibeZeile(strom, "Nachher", Fundtext(nachher));
-    if (vorher) {
-        const Long gewinn = vorher->score.duration - nachher.score.duration;
-        SchreibeZeile(strom, "Gewinn",
-                      Gewinntext(gewinn) + " (" + Prozent(gewinn, vorher->score.duration) + ")");
+void WriteSearch(std::ostream& stream, const SearchReport& report) {
+    const Solution& after = *report.ResultText.best;
+    const auto& before = report.task.before;
+    WriteRow(stream, "Vorher",
+             before ? SolutionText(*before) : "der Plan endet nie oder verfehlt das Ziel");
+    WriteRow(stream, "Nachher", SolutionText(after));
+    if (before) {
+        const Long gain = before->score.duration - after.score.duration;
+        WriteRow(stream, "Gewinn",
+                 GainText(gain) + " (" + Percent(gain, before->score.duration) + ")");
     }
-    const OrderList& alte = bericht.Plan.plan.LV_Bauliste.Orders();
-    const OrderList& neue = bericht.Neuer.plan.LV_Bauliste.Orders();
-    for (const auto& [name, text] : {std::pair("Kommt dazu", SurplusInWords(neue, alte)),
-                                     std::pair("Entfällt", SurplusInWords(alte, neue))}) {
+    const OrderList& oldOrders = report.before.plan.LV_Bauliste.Orders();
+    const OrderList& newOrders = report.after.plan.LV_Bauliste.Orders();
+    for (const auto& [name, text] : {std::pair("Kommt dazu", SurplusInWords(newOrders, oldOrders)),
+                                     std::pair("Entfällt", SurplusInWords(oldOrders, newOrders))}) {
         if (!text.empty()) {
-            SchreibeZeile(strom, name, text);
+            WriteRow(stream, name, text);
         }
     }
-    if (bericht.Plan.hasRun) {
-        SchreibeZeile(strom, "Je Stunde", RatesText(bericht.Plan.run.state) + " (vorher)");
+    if (report.before.hasRun) {
+        WriteRow(stream, "Je Stunde", RatesText(report.before.run.state) + " (vorher)");
     }
-    SchreibeZeile(strom, "Je Stunde", RatesText(bericht.Neuer.run.state) + " (nachher)");
-    if (const auto& pause = bericht.Aufgabe.pause) {
-        SchreibeZeile(strom, "Pause", pause->Startzeit + " bis " + pause->Endzeit);
+    WriteRow(stream, "Je Stunde", RatesText(report.after.run.state) + " (nachher)");
+    if (const auto& pause = report.task.pause) {
+        WriteRow(stream, "Pause", pause->Startzeit + " bis " + pause->Endzeit);
     }
-    SchreibeZeile(
-        strom, "Versuche",
-        std::to_string(bericht.Ergebnis.tries) + "   Saat: " + std::to_string(bericht.Saat));
-    strom << '\n';
-    SchreibeText(strom, bericht.Neuer);
+    WriteRow(stream, "Versuche",
+             std::to_string(report.ResultText.tries) + "   Saat: " + std::to_string(report.seed));
+    stream << '\n';
+    WriteText(stream, report.after);
 }
 
-std::string SuchJson(const Suchbericht& bericht) {
-    const auto& vorher = bericht.Aufgabe.before;
+std::string SearchJson(const SearchReport& report) {
+    const auto& before = report.task.before;
     json tags = json::array();
-    for (const Order& order : bericht.Ergebnis.best->orders) {
+    for (const Order& order : report.ResultText.best->orders) {
         tags.push_back(order.Tag());
     }
-    const OrderList& alte = bericht.Plan.plan.LV_Bauliste.Orders();
-    const OrderList& neue = bericht.Neuer.plan.LV_Bauliste.Orders();
-    json objekt{{"Vorher", vorher ? AlsJson(*vorher, bericht.Plan.run.state) : json()},
-                {"Nachher", AlsJson(*bericht.Ergebnis.best, bericht.Neuer.run.state)},
-                {"Versuche", bericht.Ergebnis.tries},
-                {"Saat", bericht.Saat},
-                {"Hinzu", SurplusText(neue, alte)},
-                {"Weg", SurplusText(alte, neue)},
+    const OrderList& oldOrders = report.before.plan.LV_Bauliste.Orders();
+    const OrderList& newOrders = report.after.plan.LV_Bauliste.Orders();
+    json object{{"Vorher", before ? ToJson(*before, report.before.run.state) : json()},
+                {"Nachher", ToJson(*report.ResultText.best, report.after.run.state)},
+                {"Versuche", report.ResultText.tries},
+                {"Saat", report.seed},
+                {"Hinzu", SurplusText(newOrders, oldOrders)},
+                {"Weg", SurplusText(oldOrders, newOrders)},
                 {"Bauliste", tags}};
-    if (const auto& pause = bericht.Aufgabe.pause) {
-        objekt["Pause"] = {pause->Startzeit, pause->Endzeit};
+    if (const auto& pause = report.task.pause) {
+        object["Pause"] = {pause->Startzeit, pause->Endzeit};
     }
-    return objekt.dump(1);
+    return object.dump(1);
 }
 
-std::string Fortschrittszeile(const SearchProgress& stand) {
-    return Dauer(stand.bestDuration) + "  Gewinn " + Gewinntext(stand.gain) + "  Versuch " +
-           std::to_string(stand.tries) + " von " + std::to_string(stand.totalTries) + "  Kette " +
-           std::to_string(stand.chain) + "  " + WholeText(stand.triesPerSecond) +
-           "/s  besser vor " + WholeText(stand.secondsSinceBest) + " s";
+std::string ProgressLine(const SearchProgress& progress) {
+    return DurationText(progress.bestDuration) + "  Gewinn " + GainText(progress.gain) +
+           "  Versuch " + std::to_string(progress.tries) + " von " +
+           std::to_string(progress.totalTries) + "  Kette " + std::to_string(progress.chain) +
+           "  " + WholeText(progress.triesPerSecond) + "/s  besser vor " +
+           WholeText(progress.secondsSinceBest) + " s";
 }
 
 }  // namespace tarvelin

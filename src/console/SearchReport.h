@@ -11,23 +11,23 @@
 namespace tarvelin {
 
 /// A search that is over: the plan before, the best list, and its run.
-struct Suchbericht {
+struct SearchReport {
     /// The plan as it was loaded.
-    const PlanRun& Plan;
-    const PlanTask& Aufgabe;
-    const SearchResult& Ergebnis;
+    const PlanRun& before;
+    const PlanTask& task;
+    const SearchResult& ResultText;
     /// The new plan, loaded and run as a file would be.
-    const PlanRun& Neuer;
-    std::uint64_t Saat;
+    const PlanRun& after;
+    std::uint64_t seed;
 };
 
 /// Before, after, gain, sittings, what came and went, rates, and the new timetable.
-void SchreibeSuche(std::ostream& strom, const Suchbericht& bericht);
+void WriteSearch(std::ostream& stream, const SearchReport& report);
 
 /// One object.
-[[nodiscard]] std::string SuchJson(const Suchbericht& bericht);
+[[nodiscard]] std::string SearchJson(const SearchReport& report);
 
 /// "1.234.000 von 2.000.000 ...": where a search stands, in one line without an end.
-[[nodiscard]] std::string Fortschrittszeile(const SearchProgress& stand);
+[[nodiscard]] std::string ProgressLine(const SearchProgress& progress);
 
 }  // namespace tarvelin

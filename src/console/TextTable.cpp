@@ -9,34 +9,35 @@ namespace tarvelin {
 namespace {
 
 /// Characters of a UTF-8 text.
-std::size_t Breite(std::string_view text) {
-    return static_cast<std::size_t>(std::ranges::count_if(
-        text, [](char zeichen) { return (static_cast<unsigned char>(zeichen) & 0xC0U) != 0x80U; }));
+std::size_t WidthOf(std::string_view text) {
+    return static_cast<std::size_t>(std::ranges::count_if(text, [](char character) {
+        return (static_cast<unsigned char>(character) & 0xC0U) != 0x80U;
+    }));
 }
 
 }  // namespace
 
-std::string Aufgefuellt(const std::string& text, std::size_t breite, bool rechts) {
-    const std::size_t laenge = Breite(text);
-    const std::string luecke(laenge < breite ? breite - laenge : 0, ' ');
-    return rechts ? luecke + text : text + luecke;
+std::string Padded(const std::string& text, std::size_t width, bool right) {
+    const std::size_t length = WidthOf(text);
+    const std::string gap(length < width ? width - length : 0, ' ');
+    return right ? gap + text : text + gap;
 }
 
-void SchreibeTabelle(std::ostream& strom, const std::vector<std::vector<std::string>>& zeilen,
-                     const std::vector<std::size_t>& rechts) {
-    std::vector<std::size_t> breiten(zeilen.empty() ? 0 : zeilen.front().size());
-    for (const auto& zeile : zeilen) {
-        for (std::size_t i = 0; i < breiten.size(); ++i) {
-            breiten[i] = std::max(breiten[i], Breite(zeile[i]));
+void WriteTable(std::ostream& stream, const std::vector<std::vector<std::string>>& lines,
+                const std::vector<std::size_t>& right) {
+    std::vector<std::size_t> widths(lines.empty() ? 0 : lines.front().size());
+    for (const auto& line : lines) {
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            widths[i] = std::max(widths[i], WidthOf(line[i]));
         }
     }
-    for (const auto& zeile : zeilen) {
+    for (const auto& line : lines) {
         std::string text;
-        for (std::size_t i = 0; i < breiten.size(); ++i) {
-            const bool anRechts = std::ranges::find(rechts, i) != rechts.end();
-            text += Aufgefuellt(zeile[i], breiten[i], anRechts) + "  ";
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            const bool attachRight = std::ranges::find(right, i) != right.end();
+            text += Padded(line[i], widths[i], attachRight) + "  ";
         }
-        strom << text.substr(0, text.find_last_not_of(' ') + 1) << '\n';
+        stream << text.substr(0, text.find_last_not_of(' ') + 1) << '\n';
     }
 }
 

@@ -34,38 +34,38 @@
 
 namespace {
 
-constexpr int kGut = 0;
-constexpr int kPlanGescheitert = 1;
-constexpr int kFalscherAufruf = 2;
+constexpr int kGood = 0;
+constexpr int kPlanFailed = 1;
+constexpr int kWrongCall = 2;
 
-struct Aufruf {
-    bool Json = false;
-    bool Csv = false;
-    bool Verlauf = false;
-    std::optional<std::string> Kalender;
-    std::vector<std::string> Vergleich;
-    std::vector<std::string> Dateien;
-    tarvelin::Suchbefehl Suche;
+struct CommandLine {
+    bool json = false;
+    bool csv = false;
+    bool history = false;
+    std::optional<std::string> calendar;
+    std::vector<std::string> comparison;
+    std::vector<std::string> files;
+    tarvelin::SearchCommand search;
 };
 
 /// Set by Ctrl+C during a search. A handler reaches nothing else.
-std::atomic<bool> g_halt{false};
+std::atomic<bool> g_stop{false};
 static_assert(std::atomic<bool>::is_always_lock_free);
 
-int Suche(tarvelin::Suchbefehl befehl, bool json) {
-    befehl.Json = json;
-    std::signal(SIGINT, [](int) { g_halt = true; });
-    return tarvelin::FuehreSucheAus(befehl, g_halt);
+int SearchCommandOf(tarvelin::SearchCommand command, bool json) {
+    command.json = json;
+    std::signal(SIGINT, [](int) { g_stop = true; });
+    return tarvelin::RunSearchCommand(command, g_stop);
 }
 
 /// The library names two options, and a word between them.
-std::pair<std::string, std::string> ZweiNamen(const std::string& text) {
+std::pair<std::string, std::string> TwoNames(const std::string& text) {
     return {text.substr(0, text.find(' ')), text.substr(text.rfind(' ') + 1)};
 }
 
 /// What an option's value has to be, and a flag's not.
-std::string Wertfehler(const std::string& text) {
-    constexpr std::array<std::pair<std::string_view, std::string_view>, 8> kErwartet{
+std::string ValueError(const std::string& text) {
+    constexpr std::array<std::pair<std::string_view, std::string_view>, 8> kExpected{
         {{"--versuche", "eine Zahl von 1 bis 1125899906842624"},
          {"--threads", "eine Zahl von 1 bis 256"},
          {"--saat", "eine Zahl von 0 bis 1099511627776"},
@@ -80,254 +80,251 @@ std::string Wertfehler(const std::string& text) {
     if (text.find("At Most 1") != std::string::npos) {
         return option + " steht mehrmals da";
     }
-    for (const std::string_view schalter : {"--json", "--csv", "--verlauf", "--frei"}) {
-        if (option == schalter) {
+    for (const std::string_view checkBox : {"--json", "--csv", "--verlauf", "--frei"}) {
+        if (option == checkBox) {
             return option + " nimmt keinen Wert";
         }
     }
-    const auto* const erwartet = std::ranges::find_if(
-        kErwartet, [&](const auto& paar) { return option == paar.first || paar.first == "--"; });
-    return option + " erwartet " + std::string(erwartet->second);
+    const auto* const expected = std::ranges::find_if(
+        kExpected, [&](const auto& pair) { return option == pair.first || pair.first == "--"; });
+    return option + " erwartet " + std::string(expected->second);
 }
 
 /// What is wrong with a call, in one line.
-std::string Fehlertext(const CLI::ParseError& fehler) {
-    if (dynamic_cast<const CLI::RequiredError*>(&fehler) != nullptr) {
+std::string ErrorText(const CLI::ParseError& error) {
+    if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) {
         return "es fehlt eine Plandatei";
     }
-    if (dynamic_cast<const CLI::ExcludesError*>(&fehler) != nullptr) {
-        const auto [eine, andere] = ZweiNamen(fehler.what());
-        return std::max(eine, andere) + " und " + std::min(eine, andere) +
-               " schließen einander aus";
+    if (dynamic_cast<const CLI::ExcludesError*>(&error) != nullptr) {
+        const auto [one, other] = TwoNames(error.what());
+        return std::max(one, other) + " und " + std::min(one, other) + " schließen einander aus";
     }
-    if (dynamic_cast<const CLI::RequiresError*>(&fehler) != nullptr) {
-        return "diese Option gilt nur mit " + ZweiNamen(fehler.what()).second;
+    if (dynamic_cast<const CLI::RequiresError*>(&error) != nullptr) {
+        return "diese Option gilt nur mit " + TwoNames(error.what()).second;
     }
-    if (dynamic_cast<const CLI::ExtrasError*>(&fehler) != nullptr) {
+    if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
         // The library names the arguments behind a colon.
-        const std::string text = fehler.what();
+        const std::string text = error.what();
         return "unbekannte Option:" + text.substr(text.rfind(':') + 1);
     }
-    return Wertfehler(fehler.what());
+    return ValueError(error.what());
 }
 
-std::filesystem::path AlsPfad(const std::string& datei) {
-    return std::u8string(datei.begin(), datei.end());
+std::filesystem::path ToPath(const std::string& file) {
+    return std::u8string(file.begin(), file.end());
 }
 
 /// Each message as "Titel: Text", or the text alone without a title; then what is to be told of the
 /// file, under its name.
-tarvelin::PlanRun SpieleDatei(const std::string& datei) {
-    tarvelin::PlanRun lauf(AlsPfad(datei));
-    for (const tarvelin::Message& meldung : lauf.messages) {
-        std::cerr << meldung.title << (meldung.title.empty() ? "" : ": ") << meldung.text << '\n';
+tarvelin::PlanRun RunFile(const std::string& file) {
+    tarvelin::PlanRun document(ToPath(file));
+    for (const tarvelin::Message& message : document.messages) {
+        std::cerr << message.title << (message.title.empty() ? "" : ": ") << message.text << '\n';
     }
-    const std::string text = !lauf.loaded   ? tarvelin::LoadObstacle(AlsPfad(datei))
-                             : !lauf.hasRun ? "dieser Plan kann nicht gespielt werden"
-                             : lauf.run.state.IsAtEndOfClock() ? tarvelin::BeyondClockText()
-                                                               : "";
-    std::cerr << (text.empty() ? "" : datei + ": " + text + "\n");
-    return lauf;
+    const std::string text = !document.loaded   ? tarvelin::LoadObstacle(ToPath(file))
+                             : !document.hasRun ? "dieser Plan kann nicht gespielt werden"
+                             : document.run.state.IsAtEndOfClock() ? tarvelin::BeyondClockText()
+                                                                   : "";
+    std::cerr << (text.empty() ? "" : file + ": " + text + "\n");
+    return document;
 }
 
-bool SchreibeKalender(const tarvelin::PlanRun& lauf, const std::string& datei) {
-    constexpr tarvelin::Long kErinnerung = 10;
-    const auto jetzt = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
-    const std::string text = tarvelin::CalendarText(lauf.Trace(), kErinnerung, jetzt);
-    if (tarvelin::WriteFileAtomically(AlsPfad(datei), text, tarvelin::NativeFileSystem())) {
+bool WriteCalendar(const tarvelin::PlanRun& document, const std::string& file) {
+    constexpr tarvelin::Long kReminder = 10;
+    const auto now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+    const std::string text = tarvelin::CalendarText(document.Trace(), kReminder, now);
+    if (tarvelin::WriteFileAtomically(ToPath(file), text, tarvelin::NativeFileSystem())) {
         return true;
     }
     std::cerr << "tarvelin-cli: Der Kalender konnte nicht gespeichert werden\n";
     return false;
 }
 
-bool Vergleiche(const Aufruf& aufruf) {
-    const tarvelin::PlanRun a = SpieleDatei(aufruf.Vergleich[0]);
-    const tarvelin::PlanRun b = SpieleDatei(aufruf.Vergleich[1]);
+bool ComparePlans(const CommandLine& call) {
+    const tarvelin::PlanRun a = RunFile(call.comparison[0]);
+    const tarvelin::PlanRun b = RunFile(call.comparison[1]);
     if (!a.hasRun || !b.hasRun) {
         return false;
     }
-    if (aufruf.Json) {
-        std::cout << tarvelin::VergleichsJson(a, b) << '\n';
+    if (call.json) {
+        std::cout << tarvelin::ComparisonJson(a, b) << '\n';
     } else {
-        tarvelin::SchreibeVergleich(std::cout, a, b);
+        tarvelin::WriteComparison(std::cout, a, b);
     }
     return true;
 }
 
-bool FuehreAus(const Aufruf& aufruf) {
-    if (!aufruf.Vergleich.empty()) {
-        return Vergleiche(aufruf);
+bool Execute(const CommandLine& call) {
+    if (!call.comparison.empty()) {
+        return ComparePlans(call);
     }
-    bool alleGut = true;
-    bool erster = true;
-    if (aufruf.Csv) {
-        tarvelin::SchreibeCsvKopf(std::cout);
+    bool allGood = true;
+    bool first = true;
+    if (call.csv) {
+        tarvelin::WriteCsvHeader(std::cout);
     }
-    for (const std::string& datei : aufruf.Dateien) {
-        const tarvelin::PlanRun lauf = SpieleDatei(datei);
-        if (aufruf.Json) {
-            std::cout << tarvelin::JsonText(lauf, aufruf.Verlauf) << '\n';
-        } else if (aufruf.Csv) {
-            tarvelin::SchreibeCsv(std::cout, lauf);
-        } else if (lauf.hasRun) {
-            std::cout << (erster ? "" : "\n");
-            tarvelin::SchreibeText(std::cout, lauf);
-            erster = false;
+    for (const std::string& file : call.files) {
+        const tarvelin::PlanRun document = RunFile(file);
+        if (call.json) {
+            std::cout << tarvelin::JsonText(document, call.history) << '\n';
+        } else if (call.csv) {
+            tarvelin::WriteCsvRows(std::cout, document);
+        } else if (document.hasRun) {
+            std::cout << (first ? "" : "\n");
+            tarvelin::WriteText(std::cout, document);
+            first = false;
         }
-        alleGut = alleGut && lauf.hasRun;
-        if (aufruf.Kalender && lauf.hasRun) {
-            alleGut = SchreibeKalender(lauf, *aufruf.Kalender) && alleGut;
+        allGood = allGood && document.hasRun;
+        if (call.calendar && document.hasRun) {
+            allGood = WriteCalendar(document, *call.calendar) && allGood;
         }
     }
-    return alleGut;
+    return allGood;
 }
 
 /// As the library wants them: without the program's name, from the last to the first. It takes a
 /// name in square brackets for a list; with its folder in front it is a name.
-std::vector<std::string> FuerBibliothek(std::vector<std::string> argumente) {
-    if (!argumente.empty()) {
-        argumente.erase(argumente.begin());
+std::vector<std::string> ForLibrary(std::vector<std::string> arguments) {
+    if (!arguments.empty()) {
+        arguments.erase(arguments.begin());
     }
-    for (std::string& argument : argumente) {
+    for (std::string& argument : arguments) {
         argument.insert(0, argument.starts_with('[') ? "./" : "");
     }
-    std::ranges::reverse(argumente);
-    return argumente;
+    std::ranges::reverse(arguments);
+    return arguments;
 }
 
 /// `--suche` and what goes with it.
-CLI::Option* FuegeSucheHinzu(CLI::App& app, tarvelin::Suchbefehl& befehl) {
-    constexpr unsigned kHoechstThreads = 256;
-    const std::string gruppe = "Suche";
-    auto* const suche = app.add_option("--suche", befehl.Plandatei,
-                                       "Sucht eine schnellere Reihenfolge für diesen Plan");
-    suche->type_name("PLAN")->group(gruppe);
-    const std::vector<CLI::Option*> optionen{
-        app.add_option("--ziel", befehl.Ziel,
+CLI::Option* AddSearch(CLI::App& app, tarvelin::SearchCommand& command) {
+    constexpr unsigned kMaxThreads = 256;
+    const std::string group = "Suche";
+    auto* const search = app.add_option("--suche", command.planFile,
+                                        "Sucht eine schnellere Reihenfolge für diesen Plan");
+    search->type_name("PLAN")->group(group);
+    const std::vector<CLI::Option*> options{
+        app.add_option("--ziel", command.goal,
                        "Sucht den schnellsten Weg zu diesem Ziel, etwa \"GW2 FV2 WKT1\"; plan: zu "
                        "dem des Plans")
             ->type_name("ZIEL"),
-        app.add_option("--nach", befehl.Nach, "Schreibt den gefundenen Plan in diese Datei")
+        app.add_option("--nach", command.outputFile, "Schreibt den gefundenen Plan in diese Datei")
             ->type_name("DATEI"),
-        app.add_option("--versuche", befehl.Versuche,
-                       "So viele Listen werden probiert, sonst 640000")
+        app.add_option("--versuche", command.tries, "So viele Listen werden probiert, sonst 640000")
             ->type_name("ZAHL")
             ->check(CLI::Range(std::uint64_t{1}, std::uint64_t{1} << 50U).description("")),
-        app.add_option("--threads", befehl.Threads, "So viele Kerne rechnen, sonst 1")
+        app.add_option("--threads", command.threads, "So viele Kerne rechnen, sonst 1")
             ->type_name("ZAHL")
-            ->check(CLI::Range(1U, kHoechstThreads).description("")),
-        app.add_option("--saat", befehl.Saat, "Womit die Zufallszahlen beginnen, sonst 1")
+            ->check(CLI::Range(1U, kMaxThreads).description("")),
+        app.add_option("--saat", command.seed, "Womit die Zufallszahlen beginnen, sonst 1")
             ->type_name("ZAHL")
             ->check(CLI::Range(std::uint64_t{0}, std::uint64_t{1} << 40U).description("")),
-        app.add_option("--fest", befehl.Fest, "Diese Zeilen bleiben, wo sie sind, etwa 3,7-9")
+        app.add_option("--fest", command.pinned, "Diese Zeilen bleiben, wo sie sind, etwa 3,7-9")
             ->type_name("ZEILEN"),
-        app.add_flag("--frei", befehl.Frei, "Auch Produktionszeilen wandern")
+        app.add_flag("--frei", command.moveProduction, "Auch Produktionszeilen wandern")
             ->disable_flag_override(),
-        app.add_option("--ab", befehl.Ab,
+        app.add_option("--ab", command.notBefore,
                        "Was vorher begonnen hat, bleibt, etwa \"18.11.2026 12:30:00\"")
             ->type_name("ZEITPUNKT"),
-        app.add_option("--sitzungen", befehl.Sitzungen,
+        app.add_option("--sitzungen", command.sittingsPercent,
                        "Weniger Sitzungen, auch wenn es so viele Prozent länger dauert, sonst 0,5")
             ->type_name("PROZENT")
             ->expected(0, 1)
             ->default_str("0.5")
             ->transform(CLI::Validator(
-                [](std::string& zahl) {
-                    std::ranges::replace(zahl, ',', '.');
-                    const bool istZahl = zahl.find_first_not_of("0123456789.") == zahl.npos;
-                    return std::string(istZahl ? "" : "keine Zahl");
+                [](std::string& number) {
+                    std::ranges::replace(number, ',', '.');
+                    const bool isNumber = number.find_first_not_of("0123456789.") == number.npos;
+                    return std::string(isNumber ? "" : "keine Zahl");
                 },
                 ""))
             ->check(CLI::Range(0.0, 100.0).description(""))};
-    for (CLI::Option* const option : optionen) {
-        option->needs(suche)->group(gruppe);
+    for (CLI::Option* const option : options) {
+        option->needs(search)->group(group);
     }
-    return suche;
+    return search;
 }
 
 /// What is wrong with the number of plan files; empty for nothing.
-std::string Plandateifehler(std::size_t zahl, bool sucht, bool vergleicht, bool kalender) {
-    if (sucht || vergleicht) {
-        return zahl == 0 ? ""
-               : sucht   ? "--suche nimmt genau eine Plandatei"
-                         : "--vergleich nimmt genau zwei Plandateien";
+std::string PlanFileError(std::size_t number, bool searching, bool compares, bool calendar) {
+    if (searching || compares) {
+        return number == 0 ? ""
+               : searching ? "--suche nimmt genau eine Plandatei"
+                           : "--vergleich nimmt genau zwei Plandateien";
     }
-    if (zahl == 0) {
+    if (number == 0) {
         return "es fehlt eine Plandatei";
     }
-    return kalender && zahl > 1 ? "--ical nimmt genau eine Plandatei" : "";
+    return calendar && number > 1 ? "--ical nimmt genau eine Plandatei" : "";
 }
 
-int Rufe(const std::vector<std::string>& argumente) {
+int Run(const std::vector<std::string>& arguments) {
     CLI::App app(
         "Spielt Pläne durch und sagt auf die Sekunde, wann du welchen Auftrag geben kannst, und "
         "warum nicht früher.",
         "tarvelin-cli");
-    app.formatter(std::make_shared<tarvelin::Hilfeseite>());
+    app.formatter(std::make_shared<tarvelin::HelpPage>());
     // "/" begins a path everywhere.
     app.allow_windows_style_options(false);
-    Aufruf aufruf;
-    const std::string gruppe = "Optionen";
-    app.set_help_flag("-h,--hilfe,--help", "Diese Hilfe")->group(gruppe);
+    CommandLine call;
+    const std::string group = "Optionen";
+    app.set_help_flag("-h,--hilfe,--help", "Diese Hilfe")->group(group);
     app.set_version_flag("--version", "tarvelin-cli " TARVELIN_VERSION, "Die Version")
-        ->group(gruppe);
-    auto* const json = app.add_flag("--json", aufruf.Json, "Plan und Ergebnis als JSON");
-    json->disable_flag_override()->group(gruppe);
-    auto* const csv =
-        app.add_flag("--csv", aufruf.Csv, "Der Zeitplan für eine Tabellenkalkulation");
-    csv->disable_flag_override()->excludes(json)->group(gruppe);
-    app.add_flag("--verlauf", aufruf.Verlauf, "Mit --json: auch der Verlauf und die Gründe")
+        ->group(group);
+    auto* const json = app.add_flag("--json", call.json, "Plan und Ergebnis als JSON");
+    json->disable_flag_override()->group(group);
+    auto* const csv = app.add_flag("--csv", call.csv, "Der Zeitplan für eine Tabellenkalkulation");
+    csv->disable_flag_override()->excludes(json)->group(group);
+    app.add_flag("--verlauf", call.history, "Mit --json: auch der Verlauf und die Gründe")
         ->disable_flag_override()
         ->needs(json)
-        ->group(gruppe);
-    auto* const kalender = app.add_option("--ical", aufruf.Kalender,
+        ->group(group);
+    auto* const calendar = app.add_option("--ical", call.calendar,
                                           "Schreibt die Starts eines Plans in diese Kalenderdatei");
-    kalender->type_name("DATEI")->group(gruppe);
-    auto* const vergleich =
-        app.add_option("--vergleich", aufruf.Vergleich, "Stellt zwei Pläne nebeneinander");
-    vergleich->type_name("PLAN PLAN")
+    calendar->type_name("DATEI")->group(group);
+    auto* const comparison =
+        app.add_option("--vergleich", call.comparison, "Stellt zwei Pläne nebeneinander");
+    comparison->type_name("PLAN PLAN")
         ->expected(2)
         ->excludes(csv)
-        ->excludes(kalender)
-        ->group(gruppe);
+        ->excludes(calendar)
+        ->group(group);
     // They stand in the line of the call.
-    auto* const dateien = app.add_option("PLAN", aufruf.Dateien);
-    dateien->group("");
-    auto* const suche = FuegeSucheHinzu(app, aufruf.Suche);
-    suche->excludes(csv)->excludes(kalender)->excludes(vergleich);
+    auto* const files = app.add_option("PLAN", call.files);
+    files->group("");
+    auto* const search = AddSearch(app, call.search);
+    search->excludes(csv)->excludes(calendar)->excludes(comparison);
     try {
-        app.parse(FuerBibliothek(argumente));
-    } catch (const CLI::Success& hilfe) {
-        return app.exit(hilfe);
-    } catch (const CLI::ParseError& fehler) {
-        std::cerr << "tarvelin-cli: " << Fehlertext(fehler) << " (siehe --hilfe)\n";
-        return kFalscherAufruf;
+        app.parse(ForLibrary(arguments));
+    } catch (const CLI::Success& help) {
+        return app.exit(help);
+    } catch (const CLI::ParseError& error) {
+        std::cerr << "tarvelin-cli: " << ErrorText(error) << " (siehe --hilfe)\n";
+        return kWrongCall;
     }
-    const bool sucht = suche->count() > 0;
-    if (const std::string fehler =
-            Plandateifehler(dateien->count(), sucht, vergleich->count() > 0, kalender->count() > 0);
-        !fehler.empty()) {
-        std::cerr << "tarvelin-cli: " << fehler << " (siehe --hilfe)\n";
-        return kFalscherAufruf;
+    const bool searching = search->count() > 0;
+    if (const std::string error = PlanFileError(files->count(), searching, comparison->count() > 0,
+                                                calendar->count() > 0);
+        !error.empty()) {
+        std::cerr << "tarvelin-cli: " << error << " (siehe --hilfe)\n";
+        return kWrongCall;
     }
-    const int code = sucht               ? Suche(aufruf.Suche, aufruf.Json)
-                     : FuehreAus(aufruf) ? kGut
-                                         : kPlanGescheitert;
+    const int code = searching       ? SearchCommandOf(call.search, call.json)
+                     : Execute(call) ? kGood
+                                     : kPlanFailed;
     if (!std::cout.flush()) {
         std::cerr << "tarvelin-cli: die Ausgabe konnte nicht geschrieben werden\n";
-        return kPlanGescheitert;
+        return kPlanFailed;
     }
     return code;
 }
 
-int Starte(const std::vector<std::string>& argumente) {
+int Start(const std::vector<std::string>& arguments) {
     try {
-        return Rufe(argumente);
-    } catch (const std::exception& fehler) {
+        return Run(arguments);
+    } catch (const std::exception& error) {
         // The memory ran out, or the system failed in a way that nobody foresees.
-        std::fprintf(stderr, "tarvelin-cli: %s\n", fehler.what());
-        return kPlanGescheitert;
+        std::fprintf(stderr, "tarvelin-cli: %s\n", error.what());
+        return kPlanFailed;
     }
 }
 
@@ -339,15 +336,15 @@ int wmain(int argc, wchar_t** argv) {
     SetConsoleOutputCP(CP_UTF8);
     _setmode(_fileno(stdout), _O_BINARY);
     _setmode(_fileno(stderr), _O_BINARY);
-    std::vector<std::string> argumente;
+    std::vector<std::string> arguments;
     for (const std::filesystem::path argument : std::span(argv, static_cast<std::size_t>(argc))) {
         const auto utf8 = argument.u8string();
-        argumente.emplace_back(utf8.begin(), utf8.end());
+        arguments.emplace_back(utf8.begin(), utf8.end());
     }
-    return Starte(argumente);
+    return Start(arguments);
 }
 #else
 int main(int argc, char** argv) {
-    return Starte({argv, argv + argc});
+    return Start({argv, argv + argc});
 }
 #endif
