@@ -68,7 +68,7 @@ void ZeigeGanz(frmMain& fenster) {
 void Fuelle(const frmMain& fenster) {
     auto* const liste = fenster.findChild<Baulistenansicht*>();
     for (std::size_t i = 0; i < OrderList::kMaxSize; ++i) {
-        emit liste->DragDrop(AlsQString(Itemansichten()[i % kNumItems].Bild));
+        emit liste->DragDrop(ToQString(ItemDisplays()[i % kNumItems].pictureName));
     }
 }
 
@@ -111,7 +111,7 @@ void EineBewegungUeberEinemBild(benchmark::State& state) {
     frmMain fenster(welt.Umgebung);
     ZeigeGanz(fenster);
     Fuelle(fenster);
-    auto* const bild = fenster.findChild<Itembild*>(QStringLiteral("ImgMetMine"));
+    auto* const bild = fenster.findChild<ItemPicture*>(QStringLiteral("ImgMetMine"));
     for (auto _ : state) {
         emit bild->MouseMove();
     }
@@ -180,7 +180,7 @@ int main(int argc, char** argv) {
     }
     benchmark::Initialize(&argc, argv);
     QApplication programm(argc, argv);
-    tarvelin::StelleAussehenEin(programm);
+    tarvelin::ApplyAppearance(programm);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

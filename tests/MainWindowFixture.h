@@ -157,7 +157,7 @@ class Fenster : public testing::Test {
             const std::size_t ende = std::min(codes.find(' ', anfang), codes.size());
             const auto item = ItemFromCode(codes.substr(anfang, ende - anfang));
             emit Finde<Baulistenansicht>("LV_Bauliste")
-                .DragDrop(AlsQString(Itemansichten()[*item].Bild));
+                .DragDrop(ToQString(ItemDisplays()[*item].pictureName));
             anfang = ende + 1;
         }
     }

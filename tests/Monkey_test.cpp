@@ -81,7 +81,7 @@ class Affe : public Fenster {
             Tippe();
         } else if (was < 19) {
             emit Finde<Baulistenansicht>("LV_Bauliste")
-                .DragDrop(AlsQString(Itemansichten()[Bis(kNumItems)].Bild));
+                .DragDrop(ToQString(ItemDisplays()[Bis(kNumItems)].pictureName));
         } else {
             const auto eintraege = m_fenster.findChildren<QAction*>();
             QAction& eintrag =

@@ -666,7 +666,7 @@ TEST_F(Fensterleben, InfofensterSindEinmaligUndFuehrenAufDieSeiten) {
     ASSERT_EQ(fenster("frmDonate").size(), 1U);
     QWidget& spenden = *fenster("frmDonate")[0];
     m_seiten.clear();
-    for (auto* const knopf : spenden.findChildren<Bildknopf*>()) {
+    for (auto* const knopf : spenden.findChildren<PictureButton*>()) {
         knopf->click();
     }
     ASSERT_EQ(m_seiten.size(), 6U);

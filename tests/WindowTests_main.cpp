@@ -20,6 +20,6 @@ int main(int argc, char** argv) {
     // A test can press the toolkit's own dialogs only.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication programm(argc, argv);
-    tarvelin::StelleAussehenEin(programm);
+    tarvelin::ApplyAppearance(programm);
     return RUN_ALL_TESTS();
 }

@@ -126,7 +126,7 @@ TEST_F(Werkbank, BearbeitetInDerMitte) {
     Dort<QComboBox>("Comb_Kristallmine").setCurrentIndex(3);
     Dort<QAbstractButton>("Cmd_Produktion").click();
     EXPECT_EQ(Tags(), "GS GX:10:7:10 GS GD GR GR GW GW");
-    LegeAb(kItemformat, "ImgMetMine", 2);
+    LegeAb(kItemMimeType, "ImgMetMine", 2);
     EXPECT_EQ(Tags(), "GS GX:10:7:10 GS GD GR GR GW GW") << "of another program";
     for (int i = 0; i < 6; ++i) {
         Taste(Qt::Key_Z, Qt::ControlModifier);
@@ -267,7 +267,7 @@ TEST_F(Werkbank, BleibtMitDemAnderenFensterEinig) {
                 Tippe("txt_TempMax", eins(2) ? "20" : "90");
                 break;
             case 5:
-                emit Finde<Baulistenansicht>("LV_Bauliste").DragDrop(AlsQString(bild));
+                emit Finde<Baulistenansicht>("LV_Bauliste").DragDrop(ToQString(bild));
                 break;
             default:
                 Fuege(bild);

@@ -42,7 +42,7 @@ std::filesystem::path Nutzerordner() {
         !qEnvironmentVariable("XDG_DATA_HOME").startsWith(QLatin1Char('/'))) {
         return {};
     }
-    return tarvelin::AlsPfad(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    return tarvelin::ToPath(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
 }
 
 tarvelin::Message OhneNutzerordner() {
@@ -70,12 +70,12 @@ int main(int argc, char** argv) {
     int anzahl = 1;
     QApplication programm(anzahl, argv);
     const tarvelin::Desktopfarben desktop(QApplication::palette());
-    tarvelin::StelleAussehenEin(programm);
+    tarvelin::ApplyAppearance(programm);
     // The toolkit's file dialog would keep a history of folders in the user's settings. Where these
     // are no file, it is built without that.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     const tarvelin::ProgramFolder ordner = tarvelin::ResolveProgramFolder(
-        tarvelin::AlsPfad(QApplication::applicationDirPath()), Nutzerordner());
+        tarvelin::ToPath(QApplication::applicationDirPath()), Nutzerordner());
     tarvelin::Ordnerschloss schloss(ordner.TempFolder);
     tarvelin::Meldungsfenster boxen;
     if (schloss.HatEinAnderer() && !boxen.Stelle(ZweitesFenster())) {

@@ -15,9 +15,9 @@ namespace tarvelin {
 void ApplySkin(Byte Mode, const std::string& Path, const QWidget& flaeche,
                const std::filesystem::path& programmordner) {
     const auto lade = [&flaeche](std::string_view name, const std::filesystem::path& datei) {
-        const QPixmap bild = LadePixmap(datei);
+        const QPixmap bild = LoadPixmap(datei);
         if (!bild.isNull()) {
-            flaeche.findChild<QLabel*>(AlsQString(name))->setPixmap(bild);
+            flaeche.findChild<QLabel*>(ToQString(name))->setPixmap(bild);
         }
     };
     const auto bilder = programmordner / "img";

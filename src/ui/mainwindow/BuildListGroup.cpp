@@ -8,15 +8,15 @@ namespace tarvelin {
 
 namespace {
 
-Tabellenmodell::Quelle QuelleVon(const BuildList& liste) {
+TableModel::Provider QuelleVon(const BuildList& liste) {
     return {
-        .Zeilen = [&liste] { return liste.Rows().size(); },
-        .Text =
+        .rows = [&liste] { return liste.Rows().size(); },
+        .text =
             [&liste](std::size_t zeile, int spalte) {
                 const BuildListRow& z = liste.Rows()[zeile];
-                return AlsQString(spalte == 0 ? z.text : spalte == 1 ? z.SubItems1 : z.SubItems2);
+                return ToQString(spalte == 0 ? z.text : spalte == 1 ? z.SubItems1 : z.SubItems2);
             },
-        .Farbe =
+        .color =
             [&liste](std::size_t zeile, int spalte) {
                 const TextColor farbe = liste.Rows()[zeile].SubItems2Color;
                 return QColor(spalte == 2 ? static_cast<int>(farbe) : 0, 0, 0);
@@ -26,25 +26,25 @@ Tabellenmodell::Quelle QuelleVon(const BuildList& liste) {
 }  // namespace
 
 Baulistengruppe::Baulistengruppe(const BuildList& liste, QWidget* parent)
-    : Gruppe(QStringLiteral("Frame8"), QStringLiteral("Bauliste:"), parent),
+    : GroupBox(QStringLiteral("Frame8"), QStringLiteral("Bauliste:"), parent),
       LV_Bauliste(new Baulistenansicht(this)),
-      Cmd_Undo(NeuerKnopf(QStringLiteral("Cmd_Undo"), QStringLiteral("Undo"), this)),
-      Cmd_Clear(NeuerKnopf(QStringLiteral("Cmd_Clear"), QStringLiteral("Clear"), this)),
+      Cmd_Undo(NewButton(QStringLiteral("Cmd_Undo"), QStringLiteral("Undo"), this)),
+      Cmd_Clear(NewButton(QStringLiteral("Cmd_Clear"), QStringLiteral("Clear"), this)),
       Cmd_Simulate(
-          NeuerKnopf(QStringLiteral("Cmd_Simulate"), QStringLiteral("Simulation starten"), this)),
-      m_modell(new Tabellenmodell({{}, {}, {}}, QuelleVon(liste), this)),
+          NewButton(QStringLiteral("Cmd_Simulate"), QStringLiteral("Simulation starten"), this)),
+      m_modell(new TableModel({{}, {}, {}}, QuelleVon(liste), this)),
       m_vorraete(new QGridLayout),
       m_LBL_Met(NeuerVorrat(0, 5, QStringLiteral(" Metall "), QStringLiteral("LBL_Met"))),
       m_LBL_Kris(NeuerVorrat(1, 5, QStringLiteral(" Kristall "), QStringLiteral("LBL_Kris"))),
       m_LBL_Deut(NeuerVorrat(2, 5, QStringLiteral(" Deuterium "), QStringLiteral("LBL_Deut"))),
       m_LBL_ENergie(NeuerVorrat(3, 7, QStringLiteral(" Energie "), QStringLiteral("LBL_ENergie"))),
-      m_LBL_Timegone(NeuesLabel(QStringLiteral("LBL_Timegone"), {}, this)) {
+      m_LBL_Timegone(NewLabel(QStringLiteral("LBL_Timegone"), {}, this)) {
     LV_Bauliste->setModel(m_modell);
     QLabel* const prod =
-        NeuesLabel(QStringLiteral("LBL_ProdProzent"), QStringLiteral("Prod %"), this);
+        NewLabel(QStringLiteral("LBL_ProdProzent"), QStringLiteral("Prod %"), this);
     prod->setToolTip(QStringLiteral(
         " Produktionsfaktor nach der Fertigstellung des jeweiligen Listeneintrags "));
-    SetzeEcke(prod);
+    SetCornerLabel(prod);
     m_LBL_Timegone->setAlignment(Qt::AlignCenter);
 
     auto* const layout = new QGridLayout(this);
@@ -62,11 +62,11 @@ Baulistengruppe::Baulistengruppe(const BuildList& liste, QWidget* parent)
     layout->setColumnStretch(2, 5);
 }
 
-Zahlenlabel* Baulistengruppe::NeuerVorrat(int nummer, int breite, const QString& hinweis,
+NumberLabel* Baulistengruppe::NeuerVorrat(int nummer, int breite, const QString& hinweis,
                                           const QString& name) {
     QLabel* const bild =
-        NeuesBild(QStringLiteral("Images(%1)").arg(nummer), {26, 26}, hinweis, this);
-    auto* const label = new Zahlenlabel(name, this);
+        NewPicture(QStringLiteral("Images(%1)").arg(nummer), {26, 26}, hinweis, this);
+    auto* const label = new NumberLabel(name, this);
     label->setAccessibleDescription(hinweis.trimmed());
     m_vorraete->setHorizontalSpacing(2);
     m_vorraete->setVerticalSpacing(1);
@@ -77,11 +77,11 @@ Zahlenlabel* Baulistengruppe::NeuerVorrat(int nummer, int breite, const QString&
 }
 
 void Baulistengruppe::Zeige(const ResultTexts& texte) {
-    m_LBL_Met->Setze(AlsQString(texte.LBL_Met));
-    m_LBL_Kris->Setze(AlsQString(texte.LBL_Kris));
-    m_LBL_Deut->Setze(AlsQString(texte.LBL_Deut));
-    m_LBL_ENergie->Setze(AlsQString(texte.LBL_ENergie));
-    m_LBL_Timegone->setText(AlsQString(texte.LBL_Timegone));
+    m_LBL_Met->Assign(ToQString(texte.LBL_Met));
+    m_LBL_Kris->Assign(ToQString(texte.LBL_Kris));
+    m_LBL_Deut->Assign(ToQString(texte.LBL_Deut));
+    m_LBL_ENergie->Assign(ToQString(texte.LBL_ENergie));
+    m_LBL_Timegone->setText(ToQString(texte.LBL_Timegone));
 }
 
 }  // namespace tarvelin

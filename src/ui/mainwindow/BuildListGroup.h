@@ -11,7 +11,7 @@
 
 namespace tarvelin {
 
-class Baulistengruppe : public Gruppe {
+class Baulistengruppe : public GroupBox {
     Q_OBJECT
 
   public:
@@ -19,7 +19,7 @@ class Baulistengruppe : public Gruppe {
     Baulistengruppe(const BuildList& liste, QWidget* parent);
 
     /// After a change of the list.
-    void ZeigeListe() { m_modell->Aktualisiere(); }
+    void ZeigeListe() { m_modell->Refresh(); }
     void MacheLetzteSichtbar() { LV_Bauliste->scrollToBottom(); }
     void Zeige(const ResultTexts& texte);
 
@@ -29,14 +29,14 @@ class Baulistengruppe : public Gruppe {
     QPushButton* const Cmd_Simulate;
 
   private:
-    Zahlenlabel* NeuerVorrat(int nummer, int breite, const QString& hinweis, const QString& name);
+    NumberLabel* NeuerVorrat(int nummer, int breite, const QString& hinweis, const QString& name);
 
-    Tabellenmodell* m_modell;
+    TableModel* m_modell;
     QGridLayout* m_vorraete;
-    Zahlenlabel* m_LBL_Met;
-    Zahlenlabel* m_LBL_Kris;
-    Zahlenlabel* m_LBL_Deut;
-    Zahlenlabel* m_LBL_ENergie;
+    NumberLabel* m_LBL_Met;
+    NumberLabel* m_LBL_Kris;
+    NumberLabel* m_LBL_Deut;
+    NumberLabel* m_LBL_ENergie;
     QLabel* m_LBL_Timegone;
 };
 

@@ -10,8 +10,8 @@ namespace tarvelin {
 namespace {
 
 /// A drag from another program has no source here.
-const Itembild* GezogenesBild(const QDropEvent& event) {
-    return qobject_cast<const Itembild*>(event.source());
+const ItemPicture* GezogenesBild(const QDropEvent& event) {
+    return qobject_cast<const ItemPicture*>(event.source());
 }
 
 void NimmBildAn(QDropEvent& event) {
@@ -22,7 +22,8 @@ void NimmBildAn(QDropEvent& event) {
 }  // namespace
 
 Baulistenansicht::Baulistenansicht(QWidget* parent)
-    : Liste(QStringLiteral("LV_Bauliste"), QStringLiteral("Bauliste"), {640, 3636, 800}, parent) {
+    : ListView(QStringLiteral("LV_Bauliste"), QStringLiteral("Bauliste"), {640, 3636, 800},
+               parent) {
     setHeaderHidden(true);
     setAcceptDrops(true);
 }
@@ -36,7 +37,7 @@ bool Baulistenansicht::event(QEvent* event) {
             // NOLINTNEXTLINE(bugprone-parent-virtual-call): the rows' own road is passed by
             return QWidget::event(event);
         default:
-            return Liste::event(event);
+            return ListView::event(event);
     }
 }
 
@@ -50,7 +51,7 @@ void Baulistenansicht::dragMoveEvent(QDragMoveEvent* event) {
 
 void Baulistenansicht::dropEvent(QDropEvent* event) {
     NimmBildAn(*event);
-    if (const Itembild* const bild = GezogenesBild(*event)) {
+    if (const ItemPicture* const bild = GezogenesBild(*event)) {
         emit DragDrop(bild->objectName());
     }
 }

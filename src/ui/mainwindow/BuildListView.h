@@ -6,7 +6,7 @@
 namespace tarvelin {
 
 /// Takes drags of this window's item pictures and no others.
-class Baulistenansicht : public Liste {
+class Baulistenansicht : public ListView {
     Q_OBJECT
 
   public:

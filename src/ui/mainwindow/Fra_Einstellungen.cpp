@@ -12,8 +12,8 @@ constexpr int kZweistellig = 20;
 constexpr int kVierstellig = 32;
 
 /// An inner group with its explaining label, and a row for its controls.
-QHBoxLayout* NeueZeile(Gruppe* gruppe, QLabel* hoverInfo) {
-    gruppe->SetzeEcke(hoverInfo);
+QHBoxLayout* NeueZeile(GroupBox* gruppe, QLabel* hoverInfo) {
+    gruppe->SetCornerLabel(hoverInfo);
     auto* const zeile = new QHBoxLayout(gruppe);
     zeile->setContentsMargins(4, 2, 4, 3);
     zeile->setSpacing(3);
@@ -34,8 +34,8 @@ QHBoxLayout* NeueMittelzeile(const std::vector<QWidget*>& teile) {
 }  // namespace
 
 Fra_Einstellungen::Fra_Einstellungen(Plan& plan, QWidget* parent)
-    : Feld(QStringLiteral("Fra_Einstellungen"), QStringLiteral("Einstellungen:"),
-           {0, 2, 2295, 3975}, parent),
+    : Panel(QStringLiteral("Fra_Einstellungen"), QStringLiteral("Einstellungen:"),
+            {0, 2, 2295, 3975}, parent),
       m_plan(plan) {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(3, 1, 3, 3);
@@ -46,22 +46,22 @@ Fra_Einstellungen::Fra_Einstellungen(Plan& plan, QWidget* parent)
     layout->addWidget(NeueBeschreibungen());
     layout->addWidget(NeuerSpeedfaktor());
     layout->addStretch();
-    layout->addWidget(NeuerHideKnopf(QStringLiteral("Cmd_HideEinstellungen")));
-    SetzeErstes(m_txt_TempMin);
+    layout->addWidget(NewHideButton(QStringLiteral("Cmd_HideEinstellungen")));
+    SetFirstControl(m_txt_TempMin);
     Zeige();
     RefreshWeekday();
 }
 
 QWidget* Fra_Einstellungen::NeueTemperaturen() {
-    auto* const gruppe = new Gruppe({}, QStringLiteral("Min/Max-Temp:"), this);
+    auto* const gruppe = new GroupBox({}, QStringLiteral("Min/Max-Temp:"), this);
     QHBoxLayout* const zeile = NeueZeile(
-        gruppe,
-        NeueHoverInfo(QStringLiteral("Label7"),
-                      QStringLiteral("  Minimal und Maximal-Temperatur des Startplaneten  "),
-                      gruppe));
+        gruppe, NewHoverInfo(QStringLiteral("Label7"),
+                             QStringLiteral("  Minimal und Maximal-Temperatur des Startplaneten  "),
+                             gruppe));
     const auto neue = [&](const char* name, const char* bedeutung, auto aendere) {
-        auto* const eingabe = new Eingabe(QString::fromLatin1(name), QString::fromLatin1(bedeutung),
-                                          Eingabe::kUnbegrenzt, gruppe);
+        auto* const eingabe =
+            new TextInput(QString::fromLatin1(name), QString::fromLatin1(bedeutung),
+                          TextInput::kUnlimited, gruppe);
         connect(eingabe, &QLineEdit::textChanged, this,
                 [this, eingabe, aendere](const QString& text) {
                     aendere(m_plan.parameters, text.toStdString());
@@ -72,18 +72,18 @@ QWidget* Fra_Einstellungen::NeueTemperaturen() {
     };
     m_txt_TempMin = neue("txt_TempMin", "Minimaltemperatur", ChangeTempMin);
     m_txt_TempMax = neue("txt_TempMax", "Maximaltemperatur", ChangeTempMax);
-    zeile->addWidget(NeuesLabel({}, QStringLiteral("Min:"), gruppe));
+    zeile->addWidget(NewLabel({}, QStringLiteral("Min:"), gruppe));
     zeile->addWidget(m_txt_TempMin);
-    zeile->addWidget(NeuesLabel({}, QStringLiteral("Max:"), gruppe));
+    zeile->addWidget(NewLabel({}, QStringLiteral("Max:"), gruppe));
     zeile->addWidget(m_txt_TempMax);
     return gruppe;
 }
 
-Eingabe* Fra_Einstellungen::NeueStartzeitEingabe(const char* name, const char* bedeutung,
-                                                 int grenze, int breite,
-                                                 std::string StartParameters::*wert) {
+TextInput* Fra_Einstellungen::NeueStartzeitEingabe(const char* name, const char* bedeutung,
+                                                   int grenze, int breite,
+                                                   std::string StartParameters::*wert) {
     auto* const eingabe =
-        new Eingabe(QString::fromLatin1(name), QString::fromLatin1(bedeutung), grenze, this);
+        new TextInput(QString::fromLatin1(name), QString::fromLatin1(bedeutung), grenze, this);
     eingabe->setFixedWidth(breite);
     connect(eingabe, &QLineEdit::textChanged, this, [this, eingabe, wert](const QString& text) {
         m_plan.parameters.*wert = text.toStdString();
@@ -94,8 +94,8 @@ Eingabe* Fra_Einstellungen::NeueStartzeitEingabe(const char* name, const char* b
 }
 
 QWidget* Fra_Einstellungen::NeueStartzeit() {
-    auto* const gruppe = new Gruppe({}, QStringLiteral("Startzeit:"), this);
-    gruppe->SetzeEcke(NeueHoverInfo(
+    auto* const gruppe = new GroupBox({}, QStringLiteral("Startzeit:"), this);
+    gruppe->SetCornerLabel(NewHoverInfo(
         QStringLiteral("Label4"),
         QStringLiteral("  Zeitpunkt, an dem das Uni gestartet hat, bzw du eingestiegen bist "),
         gruppe));
@@ -109,14 +109,14 @@ QWidget* Fra_Einstellungen::NeueStartzeit() {
 
 QLayout* Fra_Einstellungen::NeueDatumszeile(QWidget* gruppe) {
     using P = StartParameters;
-    m_LBL_Weekday = NeuesLabel(QStringLiteral("LBL_Weekday"), {}, gruppe);
+    m_LBL_Weekday = NewLabel(QStringLiteral("LBL_Weekday"), {}, gruppe);
     QLayout* const zeile = NeueMittelzeile(
         {m_LBL_Weekday,
          NeueStartzeitEingabe("txt_UniStartZeitTag", "Tag", 2, kZweistellig, &P::UniStartZeitTag),
-         NeuesLabel({}, QStringLiteral("."), gruppe),
+         NewLabel({}, QStringLiteral("."), gruppe),
          NeueStartzeitEingabe("txt_UniStartZeitMonat", "Monat", 2, kZweistellig,
                               &P::UniStartZeitMonat),
-         NeuesLabel({}, QStringLiteral("."), gruppe),
+         NewLabel({}, QStringLiteral("."), gruppe),
          NeueStartzeitEingabe("txt_UniStartZeitJahr", "Jahr", 4, kVierstellig,
                               &P::UniStartZeitJahr)});
     // Hour and minute leave the weekday as it is.
@@ -130,28 +130,28 @@ QLayout* Fra_Einstellungen::NeueUhrzeile(QWidget* gruppe) {
     using P = StartParameters;
     return NeueMittelzeile({NeueStartzeitEingabe("txt_UniStartZeitStunden", "Stunden", 2,
                                                  kZweistellig, &P::UniStartZeitStunden),
-                            NeuesLabel({}, QStringLiteral(":"), gruppe),
+                            NewLabel({}, QStringLiteral(":"), gruppe),
                             NeueStartzeitEingabe("txt_UniStartZeitMinuten", "Minuten", 2,
                                                  kZweistellig, &P::UniStartZeitMinuten),
-                            NeuesLabel({}, QStringLiteral("Uhr"), gruppe)});
+                            NewLabel({}, QStringLiteral("Uhr"), gruppe)});
 }
 
 QWidget* Fra_Einstellungen::NeuerKlickPuffer() {
-    auto* const gruppe = new Gruppe({}, QStringLiteral("[Klick-]Puffer:"), this);
+    auto* const gruppe = new GroupBox({}, QStringLiteral("[Klick-]Puffer:"), this);
     QHBoxLayout* const zeile = NeueZeile(
         gruppe,
-        NeueHoverInfo(
+        NewHoverInfo(
             QStringLiteral("Label6"),
             QStringLiteral("  Zeit, die du dir selbst gibst, bis du wirklich geklickt hast. "),
             gruppe));
     m_HSC_KlickPuffer =
-        NeuerRegler(QStringLiteral("HSC_KlickPuffer"), QStringLiteral("Klickpuffer in Sekunden"),
-                    kMaxKlickPuffer, gruppe);
+        NewSlider(QStringLiteral("HSC_KlickPuffer"), QStringLiteral("Klickpuffer in Sekunden"),
+                  kMaxKlickPuffer, gruppe);
     constexpr int kGrosserSchritt = 10;
     m_HSC_KlickPuffer->setPageStep(kGrosserSchritt);
-    m_LBL_KlickPuffer = NeuesLabel(QStringLiteral("LBL_KlickPuffer"), {}, gruppe);
+    m_LBL_KlickPuffer = NewLabel(QStringLiteral("LBL_KlickPuffer"), {}, gruppe);
     connect(m_HSC_KlickPuffer, &QSlider::valueChanged, this, [this](int sekunden) {
-        m_LBL_KlickPuffer->setText(AlsQString(KlickPufferText(sekunden)));
+        m_LBL_KlickPuffer->setText(ToQString(KlickPufferText(sekunden)));
         // The program moves it to where the plan is already.
         if (m_plan.parameters.KlickPuffer != sekunden) {
             m_plan.parameters.KlickPuffer = sekunden;
@@ -164,13 +164,13 @@ QWidget* Fra_Einstellungen::NeuerKlickPuffer() {
 }
 
 QWidget* Fra_Einstellungen::NeueBeschreibungen() {
-    auto* const gruppe = new Gruppe({}, QStringLiteral("Beschreibungen:"), this);
+    auto* const gruppe = new GroupBox({}, QStringLiteral("Beschreibungen:"), this);
     QHBoxLayout* const zeile = NeueZeile(
-        gruppe, NeueHoverInfo(
-                    QStringLiteral("Label9"),
-                    QStringLiteral("  Blendet die Namen der Gebäude/Forschungen/Raumschiffe ein "),
-                    gruppe));
-    m_cmd_ShowDesc = NeuerKnopf(QStringLiteral("cmd_ShowDesc"), {}, gruppe);
+        gruppe,
+        NewHoverInfo(QStringLiteral("Label9"),
+                     QStringLiteral("  Blendet die Namen der Gebäude/Forschungen/Raumschiffe ein "),
+                     gruppe));
+    m_cmd_ShowDesc = NewButton(QStringLiteral("cmd_ShowDesc"), {}, gruppe);
     connect(m_cmd_ShowDesc, &QPushButton::clicked, this, [this] {
         m_plan.ShowDesc = !m_plan.ShowDesc;
         ZeigeShowDesc();
@@ -181,13 +181,12 @@ QWidget* Fra_Einstellungen::NeueBeschreibungen() {
 }
 
 QWidget* Fra_Einstellungen::NeuerSpeedfaktor() {
-    auto* const gruppe = new Gruppe({}, QStringLiteral("Speedfaktor:"), this);
+    auto* const gruppe = new GroupBox({}, QStringLiteral("Speedfaktor:"), this);
     QHBoxLayout* const zeile = NeueZeile(
-        gruppe,
-        NeueHoverInfo(
-            QStringLiteral("Label15"),
-            QStringLiteral("  Gobaler Geschwindigkeits-Multiplikator( für Uni50: 2x Speed )"),
-            gruppe));
+        gruppe, NewHoverInfo(QStringLiteral("Label15"),
+                             QStringLiteral(
+                                 "  Gobaler Geschwindigkeits-Multiplikator( für Uni50: 2x Speed )"),
+                             gruppe));
     m_Chk_Speedfaktor = new QCheckBox(QStringLiteral("Speedfaktor x2 !"), gruppe);
     m_Chk_Speedfaktor->setObjectName(QStringLiteral("Chk_Speedfaktor"));
     connect(m_Chk_Speedfaktor, &QCheckBox::clicked, this, [this](bool gesetzt) {
@@ -202,14 +201,14 @@ QWidget* Fra_Einstellungen::NeuerSpeedfaktor() {
 void Fra_Einstellungen::Zeige() {
     constexpr std::size_t kDatumsteile = 3;
     for (std::size_t i = 0; i < m_startzeit.size(); ++i) {
-        const bool geaendert = m_startzeit[i].Input->Setze(m_plan.parameters.*m_startzeit[i].Wert);
+        const bool geaendert = m_startzeit[i].Input->Assign(m_plan.parameters.*m_startzeit[i].Wert);
         if (geaendert && i < kDatumsteile) {
             RefreshWeekday();
         }
     }
     ZeigeTemperaturen();
     m_HSC_KlickPuffer->setValue(m_plan.parameters.KlickPuffer);
-    m_LBL_KlickPuffer->setText(AlsQString(KlickPufferText(m_plan.parameters.KlickPuffer)));
+    m_LBL_KlickPuffer->setText(ToQString(KlickPufferText(m_plan.parameters.KlickPuffer)));
     m_Chk_Speedfaktor->setChecked(m_plan.parameters.Speedfaktor_X2);
     ZeigeShowDesc();
 }
@@ -218,19 +217,19 @@ void Fra_Einstellungen::Zeige() {
 void Fra_Einstellungen::RefreshWeekday() {
     StartParameters gezeigte;
     for (const Datumsteil& teil : m_startzeit) {
-        gezeigte.*teil.Wert = teil.Input->Text();
+        gezeigte.*teil.Wert = teil.Input->Utf8();
     }
     Zeige(tarvelin::RefreshWeekday(gezeigte));
 }
 
 void Fra_Einstellungen::Zeige(const WeekdayLabel& wochentag) {
-    m_LBL_Weekday->setText(AlsQString(wochentag.caption));
-    m_LBL_Weekday->setToolTip(AlsQString(wochentag.hint));
+    m_LBL_Weekday->setText(ToQString(wochentag.caption));
+    m_LBL_Weekday->setToolTip(ToQString(wochentag.hint));
 }
 
 void Fra_Einstellungen::ZeigeTemperaturen() {
-    m_txt_TempMin->Setze(m_plan.parameters.tempMin);
-    m_txt_TempMax->Setze(m_plan.parameters.TempMax);
+    m_txt_TempMin->Assign(m_plan.parameters.tempMin);
+    m_txt_TempMax->Assign(m_plan.parameters.TempMax);
 }
 
 void Fra_Einstellungen::ZeigeShowDesc() {

@@ -8,7 +8,7 @@
 
 namespace tarvelin {
 
-class Fra_Einstellungen : public Feld {
+class Fra_Einstellungen : public Panel {
     Q_OBJECT
 
   public:
@@ -34,8 +34,8 @@ class Fra_Einstellungen : public Feld {
     QWidget* NeuerKlickPuffer();
     QWidget* NeueBeschreibungen();
     QWidget* NeuerSpeedfaktor();
-    Eingabe* NeueStartzeitEingabe(const char* name, const char* bedeutung, int grenze, int breite,
-                                  std::string StartParameters::*wert);
+    TextInput* NeueStartzeitEingabe(const char* name, const char* bedeutung, int grenze, int breite,
+                                    std::string StartParameters::*wert);
 
     void ZeigeTemperaturen();
     void ZeigeShowDesc();
@@ -43,13 +43,13 @@ class Fra_Einstellungen : public Feld {
     Plan& m_plan;
 
     struct Datumsteil {
-        Eingabe* Input;
+        TextInput* Input;
         std::string StartParameters::*Wert;
     };
     /// Day, month, year, hour and minute.
     std::vector<Datumsteil> m_startzeit;
-    Eingabe* m_txt_TempMin = nullptr;
-    Eingabe* m_txt_TempMax = nullptr;
+    TextInput* m_txt_TempMin = nullptr;
+    TextInput* m_txt_TempMax = nullptr;
     QLabel* m_LBL_Weekday = nullptr;
     QSlider* m_HSC_KlickPuffer = nullptr;
     QLabel* m_LBL_KlickPuffer = nullptr;

@@ -15,20 +15,20 @@ struct Gruppenplatz {
     /// Twips.
     int Links;
     int Breite;
-    Bildgruppe Gruppe;
+    PictureGroup Gruppe;
 };
 
 // clang-format off
 constexpr std::array<Gruppenplatz, 4> kItemgruppen{{
-    {"Frame3", "Gebäude:",      3480, 2175, Bildgruppe::Gebaeude},
-    {"Frame1", "Forschung:",    5760, 1155, Bildgruppe::Forschung},
-    {"Frame9", "Verteidigung:", 6960, 1155, Bildgruppe::Verteidigung},
-    {"Frame4", "Raumschiffe:",  8160, 1155, Bildgruppe::Raumschiffe},
+    {"Frame3", "Gebäude:",      3480, 2175, PictureGroup::Buildings},
+    {"Frame1", "Forschung:",    5760, 1155, PictureGroup::Research},
+    {"Frame9", "Verteidigung:", 6960, 1155, PictureGroup::Defense},
+    {"Frame4", "Raumschiffe:",  8160, 1155, PictureGroup::Ships},
 }};
 // clang-format on
 
 void Stelle(QWidget& gruppe, int links, int breite) {
-    gruppe.setGeometry(Pixel(links), 0, Pixel(breite), Pixel(kHoehe));
+    gruppe.setGeometry(TwipsToPixels(links), 0, TwipsToPixels(breite), TwipsToPixels(kHoehe));
 }
 
 }  // namespace
@@ -40,20 +40,20 @@ Fra_Rest::Fra_Rest(const BuildList& liste, const LastRun& lauf, QWidget* parent)
       m_Frame6(new Bauzeitengruppe(lauf.LV_Bauzeiten, this)),
       m_plaetze(BaueItemgruppen()) {
     setObjectName(QStringLiteral("Fra_Rest"));
-    resize(Pixel(12735), Pixel(4335));
+    resize(TwipsToPixels(12735), TwipsToPixels(4335));
     Stelle(*m_Frame8, 0, 3375);
     Stelle(*m_Frame6, 9360, 3375);
-    ReiheAuf({m_plaetze.back().Bild, m_Frame6->LV_Bauzeiten, m_Frame6->Chk_BauWeckfunktion,
-              m_Frame6->Comb_Before});
+    ChainTabOrder({m_plaetze.back().Bild, m_Frame6->LV_Bauzeiten, m_Frame6->Chk_BauWeckfunktion,
+                   m_Frame6->Comb_Before});
     connect(m_Frame8->LV_Bauliste, &Baulistenansicht::DragDrop, this, &Fra_Rest::DragDrop);
     connect(m_Frame8->Cmd_Undo, &QPushButton::clicked, this, &Fra_Rest::Cmd_Undo_Click);
     connect(m_Frame8->Cmd_Clear, &QPushButton::clicked, this, &Fra_Rest::Cmd_Clear_Click);
     connect(m_Frame8->Cmd_Simulate, &QPushButton::clicked, this, &Fra_Rest::Cmd_Simulate_Click);
     connect(m_Frame6->ImgDonate_1, &QAbstractButton::clicked, this, &Fra_Rest::ImgDonate_Click);
     for (const Itemplatz& platz : m_plaetze) {
-        connect(platz.Bild, &Itembild::MouseMove, this,
+        connect(platz.Bild, &ItemPicture::MouseMove, this,
                 [this, platz] { emit Img_MouseMove(platz); });
-        connect(platz.Bild, &Itembild::Gewaehlt, this,
+        connect(platz.Bild, &ItemPicture::Chosen, this,
                 [this, platz] { emit DragDrop(platz.Bild->objectName()); });
     }
 }
@@ -66,11 +66,11 @@ PerItem<QPixmap> Fra_Rest::Itembilder() const {
     return bilder;
 }
 
-void Fra_Rest::SetzeZeiger(const Ziehzeiger& zeiger) {
+void Fra_Rest::SetzeZeiger(const DragCursors& zeiger) {
     for (const Itemplatz& platz : m_plaetze) {
-        platz.Bild->SetzeZeiger(zeiger);
+        platz.Bild->SetCursors(zeiger);
     }
-    m_Frame6->ImgDonate_1->setCursor(zeiger.Offen);
+    m_Frame6->ImgDonate_1->setCursor(zeiger.openHand);
 }
 
 std::vector<Itemplatz> Fra_Rest::BaueItemgruppen() {
@@ -79,9 +79,9 @@ std::vector<Itemplatz> Fra_Rest::BaueItemgruppen() {
         auto* const gruppe = new Itemgruppe(QString::fromUtf8(platz.Name),
                                             QString::fromUtf8(platz.Titel), platz.Gruppe, this);
         if (plaetze.empty()) {
-            gruppe->SetzeEcke(NeueHoverInfo(QStringLiteral("Label8"),
-                                            QStringLiteral(" Drag'n'Drop in die linke Liste "),
-                                            gruppe));
+            gruppe->SetCornerLabel(NewHoverInfo(QStringLiteral("Label8"),
+                                                QStringLiteral(" Drag'n'Drop in die linke Liste "),
+                                                gruppe));
         }
         Stelle(*gruppe, platz.Links, platz.Breite);
         plaetze.insert(plaetze.end(), gruppe->Plaetze().begin(), gruppe->Plaetze().end());

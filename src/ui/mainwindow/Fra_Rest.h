@@ -31,8 +31,8 @@ class Fra_Rest : public QWidget {
     /// What the pictures show.
     [[nodiscard]] PerItem<QPixmap> Itembilder() const;
 
-    void SetzeZeiger(const Ziehzeiger& zeiger);
-    void SetzeSpendenbild(const QPixmap& bild) { m_Frame6->ImgDonate_1->SetzeBild(bild); }
+    void SetzeZeiger(const DragCursors& zeiger);
+    void SetzeSpendenbild(const QPixmap& bild) { m_Frame6->ImgDonate_1->SetPicture(bild); }
 
     /// What Enter presses.
     [[nodiscard]] QPushButton* Startknopf() const { return m_Frame8->Cmd_Simulate; }

@@ -19,15 +19,15 @@ QRadioButton* NeueOption(const char* name, const char* text, QWidget* parent) {
 }  // namespace
 
 Fra_Skin::Fra_Skin(std::filesystem::path skins, QWidget* parent)
-    : Feld(QStringLiteral("Fra_Skin"), QStringLiteral("Skinpfad:"), {160, 2, 3615, 975}, parent),
+    : Panel(QStringLiteral("Fra_Skin"), QStringLiteral("Skinpfad:"), {160, 2, 3615, 975}, parent),
       Comb_Skins(new QComboBox(this)),
       txt_Pfad(new QLineEdit(QStringLiteral("http://"), this)),
-      Cmd_ApplySkin(NeuerKnopf(QStringLiteral("Cmd_ApplySkin"), QStringLiteral("OK"), this)),
+      Cmd_ApplySkin(NewButton(QStringLiteral("Cmd_ApplySkin"), QStringLiteral("OK"), this)),
       m_Opt_Standard(NeueOption("Opt_Standard", "Standard", this)),
       m_Opt_Lokal(NeueOption("Opt_Lokal", "Lokal", this)),
       m_Opt_Web(NeueOption("Opt_Web", "Web", this)),
-      m_LBL_Skin(NeuesLabel(QStringLiteral("LBL_Skin"), QStringLiteral(" Standard-Skin benutzen. "),
-                            this)),
+      m_LBL_Skin(
+          NewLabel(QStringLiteral("LBL_Skin"), QStringLiteral(" Standard-Skin benutzen. "), this)),
       m_skins(std::move(skins)) {
     for (QRadioButton* const option : {m_Opt_Standard, m_Opt_Lokal, m_Opt_Web}) {
         connect(option, &QRadioButton::toggled, this, &Fra_Skin::ZeigeQuelle);
@@ -39,14 +39,14 @@ Fra_Skin::Fra_Skin(std::filesystem::path skins, QWidget* parent)
     txt_Pfad->setAccessibleName(QStringLiteral("Web-Verzeichnis"));
 
     LegeAus();
-    SetzeErstes(m_Opt_Standard);
+    SetFirstControl(m_Opt_Standard);
     hide();
 }
 
 void Fra_Skin::LegeAus() {
     // The lowest panel has room for three low lines.
     constexpr int kZeilenhoehe = 16;
-    QPushButton* const schliesse = NeuerHideKnopf(QStringLiteral("Cmd_HideSchlafzeiten"));
+    QPushButton* const schliesse = NewHideButton(QStringLiteral("Cmd_HideSchlafzeiten"));
     for (QWidget* const teil :
          std::initializer_list<QWidget*>{m_Opt_Standard, m_Opt_Lokal, m_Opt_Web, m_LBL_Skin,
                                          Comb_Skins, txt_Pfad, Cmd_ApplySkin, schliesse}) {
@@ -99,7 +99,7 @@ void Fra_Skin::FillSkinList() {
     Comb_Skins->clear();
     for (const std::string& name : GetSubfolders(m_skins)) {
         if (!name.empty() && name != "standard" && name != kLandeordner) {
-            Comb_Skins->addItem(AlsQString(name));
+            Comb_Skins->addItem(ToQString(name));
         }
     }
 }

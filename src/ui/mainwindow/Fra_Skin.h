@@ -19,7 +19,7 @@ inline constexpr Byte kWebskin = 3;
 /// The folder in which a web skin lands.
 inline constexpr const char* kLandeordner = "temp_webskin";
 
-class Fra_Skin : public Feld {
+class Fra_Skin : public Panel {
     Q_OBJECT
 
   public:

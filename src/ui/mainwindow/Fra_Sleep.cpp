@@ -10,12 +10,12 @@ namespace tarvelin {
 
 namespace {
 
-Tabellenmodell::Quelle QuelleVon(const SleepTable& tabelle) {
-    return {.Zeilen = [&tabelle] { return tabelle.size(); },
-            .Text =
+TableModel::Provider QuelleVon(const SleepTable& tabelle) {
+    return {.rows = [&tabelle] { return tabelle.size(); },
+            .text =
                 [&tabelle](std::size_t zeile, int spalte) {
                     const SleepRow& z = tabelle[zeile];
-                    return AlsQString(spalte == 0 ? z.Startzeit : z.Endzeit);
+                    return ToQString(spalte == 0 ? z.Startzeit : z.Endzeit);
                 }};
 }
 
@@ -34,7 +34,7 @@ constexpr std::array<Zeitfeld, 4> kZeitfelder{{
 }};
 
 QDate AlsDatum(DateTime zeitpunkt) {
-    return QDate::fromString(AlsQString(DateText(zeitpunkt)), QStringLiteral("dd.MM.yyyy"));
+    return QDate::fromString(ToQString(DateText(zeitpunkt)), QStringLiteral("dd.MM.yyyy"));
 }
 
 QCalendarWidget* NeuerKalender(const QDate& tag, QWidget* parent) {
@@ -58,17 +58,17 @@ QCalendarWidget* NeuerKalender(const QDate& tag, QWidget* parent) {
 }  // namespace
 
 Fra_Sleep::Fra_Sleep(SleepTable& tabelle, const Umgebung& umgebung, QWidget* parent)
-    : Feld(QStringLiteral("Fra_Sleep"), QStringLiteral("Schlaf/Pausen-zeiten:"),
-           {160, 2, 6855, 3615}, parent),
-      LV_Schlafzeiten(new Liste(QStringLiteral("LV_Schlafzeiten"), QStringLiteral("Schlafzeiten"),
-                                {2646, 2646}, this)),
+    : Panel(QStringLiteral("Fra_Sleep"), QStringLiteral("Schlaf/Pausen-zeiten:"),
+            {160, 2, 6855, 3615}, parent),
+      LV_Schlafzeiten(new ListView(QStringLiteral("LV_Schlafzeiten"),
+                                   QStringLiteral("Schlafzeiten"), {2646, 2646}, this)),
       Chk_Schlafzeitenwecker(new QCheckBox(QStringLiteral("Wecker-Funktion"), this)),
       m_tabelle(tabelle),
       m_umgebung(umgebung),
-      m_modell(new Tabellenmodell({QStringLiteral("Startzeit"), QStringLiteral("Endzeit")},
-                                  QuelleVon(tabelle), this)),
+      m_modell(new TableModel({QStringLiteral("Startzeit"), QStringLiteral("Endzeit")},
+                              QuelleVon(tabelle), this)),
       m_SchlafKalender(NeuerKalender(AlsDatum(umgebung.Jetzt()), this)),
-      m_LBL_Schlafendzeit(NeuesLabel(QStringLiteral("LBL_Schlafendzeit"), {}, this)) {
+      m_LBL_Schlafendzeit(NewLabel(QStringLiteral("LBL_Schlafendzeit"), {}, this)) {
     LV_Schlafzeiten->setModel(m_modell);
     Chk_Schlafzeitenwecker->setObjectName(QStringLiteral("Chk_Schlafzeitenwecker"));
     Chk_Schlafzeitenwecker->setToolTip(
@@ -78,18 +78,18 @@ Fra_Sleep::Fra_Sleep(SleepTable& tabelle, const Umgebung& umgebung, QWidget* par
     connect(m_SchlafKalender, &QCalendarWidget::currentPageChanged, this, &Fra_Sleep::Blaettere);
     BaueEingaben();
     LegeAus();
-    SetzeErstes(m_SchlafKalender);
+    SetFirstControl(m_SchlafKalender);
     RefreshSchlafEnde();
     hide();
 }
 
 void Fra_Sleep::BaueEingaben() {
     for (const Zeitfeld& feld : kZeitfelder) {
-        auto* const eingabe = new Eingabe(QString::fromLatin1(feld.Name),
-                                          QString::fromLatin1(feld.Bedeutung), 2, this);
+        auto* const eingabe = new TextInput(QString::fromLatin1(feld.Name),
+                                            QString::fromLatin1(feld.Bedeutung), 2, this);
         constexpr int kBreite = 22;
         eingabe->setFixedWidth(kBreite);
-        eingabe->Setze(SleepInput().*feld.Wert);
+        eingabe->Assign(SleepInput().*feld.Wert);
         connect(eingabe, &QLineEdit::textChanged, this, &Fra_Sleep::RefreshSchlafEnde);
         m_zeiten.push_back(eingabe);
     }
@@ -98,7 +98,7 @@ void Fra_Sleep::BaueEingaben() {
 QPushButton* Fra_Sleep::NeuerTabellenknopf(const char* name, const char* text,
                                            void (Fra_Sleep::*handler)()) {
     QPushButton* const knopf =
-        NeuerKnopf(QString::fromLatin1(name), QString::fromLatin1(text), this);
+        NewButton(QString::fromLatin1(name), QString::fromLatin1(text), this);
     connect(knopf, &QPushButton::clicked, this, handler);
     return knopf;
 }
@@ -109,13 +109,13 @@ QLayout* Fra_Sleep::NeueZeiten(QPushButton* add) {
     for (std::size_t i = 0; i < m_zeiten.size(); i += 2) {
         const auto zeile = static_cast<int>(i / 2);
         zeiten->addWidget(
-            NeuesLabel({}, i == 0 ? QStringLiteral("Startzeit:") : QStringLiteral("Dauer:"), this),
+            NewLabel({}, i == 0 ? QStringLiteral("Startzeit:") : QStringLiteral("Dauer:"), this),
             zeile, 0);
         zeiten->addWidget(m_zeiten[i], zeile, 1);
-        zeiten->addWidget(NeuesLabel({}, QStringLiteral(":"), this), zeile, 2);
+        zeiten->addWidget(NewLabel({}, QStringLiteral(":"), this), zeile, 2);
         zeiten->addWidget(m_zeiten[i + 1], zeile, 3);
     }
-    zeiten->addWidget(NeuesLabel({}, QStringLiteral("Endzeit:"), this), 2, 0);
+    zeiten->addWidget(NewLabel({}, QStringLiteral("Endzeit:"), this), 2, 0);
     zeiten->addWidget(m_LBL_Schlafendzeit, 2, 1, 1, 4);
     zeiten->addWidget(add, 0, 4, 2, 1);
     zeiten->setColumnStretch(4, 1);
@@ -129,7 +129,7 @@ void Fra_Sleep::LegeAus() {
                                                     &Fra_Sleep::Cmd_RemoveSchlafzeit_Click);
     QPushButton* const leere = NeuerTabellenknopf("Cmd_ClearSchlafzeiten", "Clear",
                                                   &Fra_Sleep::Cmd_ClearSchlafzeiten_Click);
-    QPushButton* const schliesse = NeuerHideKnopf(QStringLiteral("Cmd_HideSleep"));
+    QPushButton* const schliesse = NewHideButton(QStringLiteral("Cmd_HideSleep"));
     auto* const knoepfe = new QHBoxLayout;
     knoepfe->setSpacing(3);
     knoepfe->addWidget(loesche);
@@ -146,12 +146,12 @@ void Fra_Sleep::LegeAus() {
     layout->addLayout(knoepfe, 2, 1);
     layout->setColumnStretch(0, 1);
     layout->setColumnStretch(1, 1);
-    ReiheAuf({m_SchlafKalender, m_zeiten[0], m_zeiten[1], m_zeiten[2], m_zeiten[3], add,
-              LV_Schlafzeiten, Chk_Schlafzeitenwecker, loesche, leere, schliesse});
+    ChainTabOrder({m_SchlafKalender, m_zeiten[0], m_zeiten[1], m_zeiten[2], m_zeiten[3], add,
+                   LV_Schlafzeiten, Chk_Schlafzeitenwecker, loesche, leere, schliesse});
 }
 
 void Fra_Sleep::Zeige() {
-    m_modell->Aktualisiere();
+    m_modell->Refresh();
     // The row at its place would be another one.
     LV_Schlafzeiten->setCurrentIndex({});
 }
@@ -161,7 +161,7 @@ SleepInput Fra_Sleep::Lies() const {
     eingabe.date =
         m_SchlafKalender->selectedDate().toString(QStringLiteral("dd.MM.yyyy")).toStdString();
     for (std::size_t i = 0; i < kZeitfelder.size(); ++i) {
-        eingabe.*kZeitfelder[i].Wert = m_zeiten[i]->Text();
+        eingabe.*kZeitfelder[i].Wert = m_zeiten[i]->Utf8();
     }
     return eingabe;
 }
@@ -176,7 +176,7 @@ void Fra_Sleep::Blaettere(int jahr, int monat) {
 }
 
 void Fra_Sleep::RefreshSchlafEnde() {
-    m_LBL_Schlafendzeit->setText(AlsQString(SleepEndText(Lies())));
+    m_LBL_Schlafendzeit->setText(ToQString(SleepEndText(Lies())));
 }
 
 void Fra_Sleep::Cmd_AddSchlafzeit_Click() {

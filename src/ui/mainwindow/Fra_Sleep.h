@@ -12,7 +12,7 @@
 
 namespace tarvelin {
 
-class Fra_Sleep : public Feld {
+class Fra_Sleep : public Panel {
     Q_OBJECT
 
   public:
@@ -23,7 +23,7 @@ class Fra_Sleep : public Feld {
     void Zeige();
     void RefreshSchlafEnde();
 
-    Liste* const LV_Schlafzeiten;
+    ListView* const LV_Schlafzeiten;
     QCheckBox* const Chk_Schlafzeitenwecker;
 
   signals:
@@ -44,10 +44,10 @@ class Fra_Sleep : public Feld {
 
     SleepTable& m_tabelle;
     const Umgebung& m_umgebung;
-    Tabellenmodell* m_modell;
+    TableModel* m_modell;
     QCalendarWidget* m_SchlafKalender;
     /// Hours and minutes of the start, then of the duration.
-    std::vector<Eingabe*> m_zeiten;
+    std::vector<TextInput*> m_zeiten;
     QLabel* m_LBL_Schlafendzeit;
 };
 

@@ -23,12 +23,12 @@ constexpr std::array<Regler, 3> kRegler{{
 }  // namespace
 
 Fra_Special::Fra_Special(QWidget* parent)
-    : Feld(QStringLiteral("Fra_Special"), QStringLiteral("Special-Events:"), {160, 2, 3255, 1635},
-           parent),
-      Cmd_AddProdaenderungsevent(NeuerKnopf(QStringLiteral("Cmd_AddProdaenderungsevent"),
-                                            QStringLiteral("Add Event"), this)) {
+    : Panel(QStringLiteral("Fra_Special"), QStringLiteral("Special-Events:"), {160, 2, 3255, 1635},
+            parent),
+      Cmd_AddProdaenderungsevent(NewButton(QStringLiteral("Cmd_AddProdaenderungsevent"),
+                                           QStringLiteral("Add Event"), this)) {
     auto* const gruppe =
-        new Gruppe({}, QStringLiteral("Minen-Produktionsfaktor-Änderungen:"), this);
+        new GroupBox({}, QStringLiteral("Minen-Produktionsfaktor-Änderungen:"), this);
     auto* const zeilen = new QGridLayout(gruppe);
     zeilen->setContentsMargins(4, 1, 4, 1);
     zeilen->setSpacing(1);
@@ -36,9 +36,9 @@ Fra_Special::Fra_Special(QWidget* parent)
     for (std::size_t i = 0; i < kRegler.size(); ++i) {
         const QString text = QString::fromLatin1(kRegler[i].Text);
         QSlider* const regler =
-            NeuerRegler(QString::fromLatin1(kRegler[i].Name),
-                        text.chopped(2) + QStringLiteral(" in Zehnteln"), kFullFactor, gruppe);
-        QLabel* const label = NeuesLabel(QString::fromLatin1(kRegler[i].Label), {}, gruppe);
+            NewSlider(QString::fromLatin1(kRegler[i].Name),
+                      text.chopped(2) + QStringLiteral(" in Zehnteln"), kFullFactor, gruppe);
+        QLabel* const label = NewLabel(QString::fromLatin1(kRegler[i].Label), {}, gruppe);
         const auto zeige = [label, text](int stellung) {
             label->setText(text + QString::number(10 * stellung) + QStringLiteral("%"));
         };
@@ -51,15 +51,15 @@ Fra_Special::Fra_Special(QWidget* parent)
         zeilen->addWidget(regler, zeile, 1);
         m_regler[i] = regler;
     }
-    QPushButton* const schliesse = NeuerHideKnopf(QStringLiteral("Cmd_HideFraSpecial"));
+    QPushButton* const schliesse = NewHideButton(QStringLiteral("Cmd_HideFraSpecial"));
     auto* const layout = new QGridLayout(this);
     layout->setContentsMargins(4, 1, 4, 3);
     layout->setSpacing(3);
     layout->addWidget(gruppe, 0, 0, 1, 2);
     layout->addWidget(Cmd_AddProdaenderungsevent, 1, 0);
     layout->addWidget(schliesse, 1, 1);
-    ReiheAuf({m_regler[0], m_regler[1], m_regler[2], Cmd_AddProdaenderungsevent, schliesse});
-    SetzeErstes(m_regler.front());
+    ChainTabOrder({m_regler[0], m_regler[1], m_regler[2], Cmd_AddProdaenderungsevent, schliesse});
+    SetFirstControl(m_regler.front());
     hide();
 }
 

@@ -8,7 +8,7 @@
 
 namespace tarvelin {
 
-class Fra_Special : public Feld {
+class Fra_Special : public Panel {
     Q_OBJECT
 
   public:

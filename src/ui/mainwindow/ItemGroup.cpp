@@ -7,11 +7,11 @@ namespace tarvelin {
 
 namespace {
 
-constexpr int kBildseite = Pixel(915);
+constexpr int kBildseite = TwipsToPixels(915);
 constexpr int kJeSpalte = 4;
 
 QLabel* NeuesSchild(const QString& name, const QString& text, QWidget* parent) {
-    QLabel* const label = NeuesLabel(name, text, parent);
+    QLabel* const label = NewLabel(name, text, parent);
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
     label->setAlignment(Qt::AlignCenter);
     label->setStyleSheet(
@@ -20,14 +20,15 @@ QLabel* NeuesSchild(const QString& name, const QString& text, QWidget* parent) {
 }
 
 Itemplatz NeuerPlatz(ItemId item, QWidget* parent) {
-    const Itemansicht& ansicht = Itemansichten()[item];
-    QLabel* const stufe = NeuesSchild(AlsQString(ansicht.Stufenlabel), QStringLiteral("0"), parent);
-    stufe->setAccessibleDescription(AlsQString(RowOf(item).HoverName()));
+    const ItemDisplay& ansicht = ItemDisplays()[item];
+    QLabel* const stufe =
+        NeuesSchild(ToQString(ansicht.levelLabelName), QStringLiteral("0"), parent);
+    stufe->setAccessibleDescription(ToQString(RowOf(item).HoverName()));
     return {.Item = item,
-            .Bild = new Itembild(item, parent),
+            .Bild = new ItemPicture(item, parent),
             .Stufe = stufe,
             .Desc = NeuesSchild(QStringLiteral("LBLDesc(%1)").arg(IndexOf(item)),
-                                AlsQString(ansicht.Bildunterschrift), parent)};
+                                ToQString(ansicht.caption), parent)};
 }
 
 void Lege(const Itemplatz& platz, const QPoint& ecke) {
@@ -48,12 +49,12 @@ void Lege(const Itemplatz& platz, const QPoint& ecke) {
 
 }  // namespace
 
-Itemgruppe::Itemgruppe(const QString& name, const QString& titel, Bildgruppe gruppe,
+Itemgruppe::Itemgruppe(const QString& name, const QString& titel, PictureGroup gruppe,
                        QWidget* parent)
-    : Gruppe(name, titel, parent) {
-    for (const Itemansicht& ansicht : Itemansichten()) {
-        if (ansicht.Gruppe == gruppe) {
-            m_plaetze.push_back(NeuerPlatz(ansicht.Item, this));
+    : GroupBox(name, titel, parent) {
+    for (const ItemDisplay& ansicht : ItemDisplays()) {
+        if (ansicht.group == gruppe) {
+            m_plaetze.push_back(NeuerPlatz(ansicht.item, this));
         }
     }
     for (const Itemplatz& platz : m_plaetze) {
@@ -63,7 +64,7 @@ Itemgruppe::Itemgruppe(const QString& name, const QString& titel, Bildgruppe gru
 }
 
 void Itemgruppe::resizeEvent(QResizeEvent* event) {
-    Gruppe::resizeEvent(event);
+    GroupBox::resizeEvent(event);
     const QRect innen = contentsRect();
     const auto anzahl = static_cast<int>(m_plaetze.size());
     const int spalten = (anzahl + kJeSpalte - 1) / kJeSpalte;

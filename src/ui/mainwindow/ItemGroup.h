@@ -12,7 +12,7 @@ namespace tarvelin {
 /// What stands for an item on the screen.
 struct Itemplatz {
     ItemId Item;
-    Itembild* Bild;
+    ItemPicture* Bild;
     /// The level, or the number, that the list reaches.
     QLabel* Stufe;
     /// The name under the picture, shown on demand.
@@ -20,11 +20,11 @@ struct Itemplatz {
 };
 
 /// Pictures in columns of four, from top to bottom and then to the right.
-class Itemgruppe : public Gruppe {
+class Itemgruppe : public GroupBox {
     Q_OBJECT
 
   public:
-    Itemgruppe(const QString& name, const QString& titel, Bildgruppe gruppe, QWidget* parent);
+    Itemgruppe(const QString& name, const QString& titel, PictureGroup gruppe, QWidget* parent);
 
     [[nodiscard]] const std::vector<Itemplatz>& Plaetze() const { return m_plaetze; }
 

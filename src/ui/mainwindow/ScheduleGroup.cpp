@@ -11,17 +11,17 @@ namespace tarvelin {
 
 namespace {
 
-Tabellenmodell::Quelle QuelleVon(const Schedule& bauzeiten) {
-    return {.Zeilen = [&bauzeiten] { return bauzeiten.size(); },
-            .Text =
+TableModel::Provider QuelleVon(const Schedule& bauzeiten) {
+    return {.rows = [&bauzeiten] { return bauzeiten.size(); },
+            .text =
                 [&bauzeiten](std::size_t zeile, int spalte) {
                     const ScheduleEntry& z = bauzeiten[zeile];
-                    return AlsQString(spalte == 0   ? z.Weekday()
-                                      : spalte == 1 ? z.TimeOfDay()
-                                                    : z.theText());
+                    return ToQString(spalte == 0   ? z.Weekday()
+                                     : spalte == 1 ? z.TimeOfDay()
+                                                   : z.theText());
                 },
-            .Beschreibung =
-                [&bauzeiten](std::size_t zeile) { return AlsQString(bauzeiten[zeile].Tag()); }};
+            .description =
+                [&bauzeiten](std::size_t zeile) { return ToQString(bauzeiten[zeile].Tag()); }};
 }
 
 /// Takes what is typed and nothing that is pasted.
@@ -47,24 +47,24 @@ class Sekundenfeld : public QLineEdit {
 }  // namespace
 
 Bauzeitengruppe::Bauzeitengruppe(const Schedule& bauzeiten, QWidget* parent)
-    : Gruppe(QStringLiteral("Frame6"), QStringLiteral("Optimale Bauzeiten:"), parent),
-      LV_Bauzeiten(new Liste(QStringLiteral("LV_Bauzeiten"), QStringLiteral("Optimale Bauzeiten"),
-                             {720, 1450, 2857}, this)),
+    : GroupBox(QStringLiteral("Frame6"), QStringLiteral("Optimale Bauzeiten:"), parent),
+      LV_Bauzeiten(new ListView(QStringLiteral("LV_Bauzeiten"),
+                                QStringLiteral("Optimale Bauzeiten"), {720, 1450, 2857}, this)),
       Chk_BauWeckfunktion(new QCheckBox(QStringLiteral("Baustart-Alarm | X-sec vorher:"), this)),
       Comb_Before(new QComboBox(this)),
-      ImgDonate_1(new Bildknopf(
+      ImgDonate_1(new PictureButton(
           QStringLiteral("ImgDonate_1"), {88, 24},
           QStringLiteral(" Zeigt die Spendenmöglichkeiten an, durch welche du das Tarvelin-Projekt "
                          "unterstützen kannst "),
           this)),
       m_bauzeiten(bauzeiten),
-      m_modell(new Tabellenmodell(
+      m_modell(new TableModel(
           {QStringLiteral("Wochentag"), QStringLiteral("Uhrzeit"), QStringLiteral("theText")},
           QuelleVon(bauzeiten), this)),
-      m_LBL_Punkte(NeuesLabel(QStringLiteral("LBL_Punkte"), {}, this)),
-      m_LBL_Timegone2(NeuesLabel(QStringLiteral("LBL_Timegone2"), {}, this)) {
+      m_LBL_Punkte(NewLabel(QStringLiteral("LBL_Punkte"), {}, this)),
+      m_LBL_Timegone2(NewLabel(QStringLiteral("LBL_Timegone2"), {}, this)) {
     LV_Bauzeiten->setModel(m_modell);
-    connect(LV_Bauzeiten, &Liste::MouseMove, this, &Bauzeitengruppe::LV_Bauzeiten_MouseMove);
+    connect(LV_Bauzeiten, &ListView::MouseMove, this, &Bauzeitengruppe::LV_Bauzeiten_MouseMove);
     Chk_BauWeckfunktion->setObjectName(QStringLiteral("Chk_BauWeckfunktion"));
     FuelleSekunden();
     m_LBL_Punkte->setAccessibleDescription(QStringLiteral("Punkte"));
@@ -88,7 +88,7 @@ void Bauzeitengruppe::FuelleSekunden() {
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), Comb_Before));
     // The screen reader takes a drop-down list's name from its label; on the screen the words of
     // the check box stand for it.
-    QLabel* const name = NeuesLabel({}, QStringLiteral("Sekunden vorher"), this);
+    QLabel* const name = NewLabel({}, QStringLiteral("Sekunden vorher"), this);
     name->setBuddy(Comb_Before);
     name->hide();
 }
@@ -101,7 +101,7 @@ void Bauzeitengruppe::LegeAus() {
     layout->addWidget(Chk_BauWeckfunktion, 1, 0, 1, 3);
     layout->addWidget(Comb_Before, 1, 3);
     layout->addWidget(
-        NeuesBild(QStringLiteral("Images(4)"), {26, 26}, QStringLiteral(" Punkte "), this), 2, 0);
+        NewPicture(QStringLiteral("Images(4)"), {26, 26}, QStringLiteral(" Punkte "), this), 2, 0);
     layout->addWidget(m_LBL_Punkte, 2, 1);
     layout->addWidget(ImgDonate_1, 2, 2, 1, 2, Qt::AlignRight);
     layout->addWidget(m_LBL_Timegone2, 3, 0, 1, 4);
@@ -110,15 +110,15 @@ void Bauzeitengruppe::LegeAus() {
 }
 
 void Bauzeitengruppe::Zeige(const ResultTexts& texte) {
-    m_LBL_Punkte->setText(AlsQString(texte.LBL_Punkte));
-    m_LBL_Punkte->setToolTip(AlsQString(texte.LBL_Punkte_Hint));
-    m_LBL_Timegone2->setText(AlsQString(texte.LBL_Timegone2));
+    m_LBL_Punkte->setText(ToQString(texte.LBL_Punkte));
+    m_LBL_Punkte->setToolTip(ToQString(texte.LBL_Punkte_Hint));
+    m_LBL_Timegone2->setText(ToQString(texte.LBL_Timegone2));
 }
 
 void Bauzeitengruppe::LV_Bauzeiten_MouseMove(const QModelIndex& zeile) {
     const auto nummer = static_cast<std::size_t>(zeile.row());
     const bool steht = zeile.isValid() && nummer < m_bauzeiten.size();
-    SetzeHinweis(*LV_Bauzeiten, steht ? AlsQString(m_bauzeiten[nummer].Tag()) : QString());
+    SetHint(*LV_Bauzeiten, steht ? ToQString(m_bauzeiten[nummer].Tag()) : QString());
 }
 
 }  // namespace tarvelin

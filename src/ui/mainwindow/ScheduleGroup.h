@@ -13,7 +13,7 @@
 
 namespace tarvelin {
 
-class Bauzeitengruppe : public Gruppe {
+class Bauzeitengruppe : public GroupBox {
     Q_OBJECT
 
   public:
@@ -21,14 +21,14 @@ class Bauzeitengruppe : public Gruppe {
     Bauzeitengruppe(const Schedule& bauzeiten, QWidget* parent);
 
     /// After a run or a reset.
-    void ZeigeBauzeiten() { m_modell->Aktualisiere(); }
+    void ZeigeBauzeiten() { m_modell->Refresh(); }
     void Zeige(const ResultTexts& texte);
 
-    Liste* const LV_Bauzeiten;
+    ListView* const LV_Bauzeiten;
     QCheckBox* const Chk_BauWeckfunktion;
     /// Seconds of warning; can be typed into.
     QComboBox* const Comb_Before;
-    Bildknopf* const ImgDonate_1;
+    PictureButton* const ImgDonate_1;
 
   private:
     void FuelleSekunden();
@@ -36,7 +36,7 @@ class Bauzeitengruppe : public Gruppe {
     void LV_Bauzeiten_MouseMove(const QModelIndex& zeile);
 
     const Schedule& m_bauzeiten;
-    Tabellenmodell* m_modell;
+    TableModel* m_modell;
     QLabel* m_LBL_Punkte;
     QLabel* m_LBL_Timegone2;
 };

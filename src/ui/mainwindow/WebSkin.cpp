@@ -71,7 +71,7 @@ const std::vector<Skinbild>& Skinbilder() {
         std::vector<Skinbild> bilder;
         bilder.reserve(kItemskins.size() + kSymbole.size());
         for (const Itemskin& skin : kItemskins) {
-            bilder.push_back({"gebaeude", skin.Name, Itemansichten()[skin.Item].Bild});
+            bilder.push_back({"gebaeude", skin.Name, ItemDisplays()[skin.Item].pictureName});
         }
         bilder.insert(bilder.end(), kSymbole.begin(), kSymbole.end());
         return bilder;

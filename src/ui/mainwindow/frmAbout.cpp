@@ -28,18 +28,18 @@ QString Beschreibung() {
 frmAbout::frmAbout(const Umgebung& umgebung) {
     setObjectName(QStringLiteral("frmAbout"));
     setWindowTitle(QStringLiteral("About Tarvelin"));
-    const auto icon = LadeSymbol(umgebung.Programmordner / "img" / "icon.ico");
+    const auto icon = LoadIconFile(umgebung.Programmordner / "img" / "icon.ico");
     setWindowIcon(icon);
     constexpr int kSeite = 64;
-    QLabel* const bild = NeuesBild(QStringLiteral("Img_About"), {kSeite, kSeite}, {}, this);
+    QLabel* const bild = NewPicture(QStringLiteral("Img_About"), {kSeite, kSeite}, {}, this);
     bild->setPixmap(icon.pixmap({kSeite, kSeite}, devicePixelRatioF()));
-    QLabel* const titel = NeuesLabel(QStringLiteral("lblTitle"), QStringLiteral("Tarvelin"), this);
+    QLabel* const titel = NewLabel(QStringLiteral("lblTitle"), QStringLiteral("Tarvelin"), this);
     QFont gross = titel->font();
     gross.setPixelSize(2 * gross.pixelSize());
     titel->setFont(gross);
     titel->setMinimumWidth(QFontMetrics(gross).boundingRect(titel->text()).width() + 4);
     QPushButton* const homepage =
-        NeuerKnopf(QStringLiteral("Label1"), QStringLiteral("Homepage"), this);
+        NewButton(QStringLiteral("Label1"), QStringLiteral("Homepage"), this);
     homepage->setFlat(true);
     // Enter belongs to the other one, wherever the focus is.
     homepage->setAutoDefault(false);
@@ -48,18 +48,17 @@ frmAbout::frmAbout(const Umgebung& umgebung) {
     homepage->setToolTip(QStringLiteral(" Visit "));
     connect(homepage, &QAbstractButton::clicked, this,
             [&umgebung] { umgebung.OeffneSeite(Homepage()); });
-    QPushButton* const ok = NeuerKnopf(QStringLiteral("cmdOK"), QStringLiteral("OK"), this);
+    QPushButton* const ok = NewButton(QStringLiteral("cmdOK"), QStringLiteral("OK"), this);
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QWidget::close);
 
     auto* const layout = new QGridLayout(this);
     layout->addWidget(bild, 0, 0, 2, 1);
     layout->addWidget(titel, 0, 1);
-    layout->addWidget(NeuesLabel(QStringLiteral("lblVersion"),
-                                 QStringLiteral(" Version ") + QString::fromLatin1(kVersion), this),
+    layout->addWidget(NewLabel(QStringLiteral("lblVersion"),
+                               QStringLiteral(" Version ") + QString::fromLatin1(kVersion), this),
                       1, 1);
-    layout->addWidget(NeuesLabel(QStringLiteral("lblDescription"), Beschreibung(), this), 2, 0, 1,
-                      2);
+    layout->addWidget(NewLabel(QStringLiteral("lblDescription"), Beschreibung(), this), 2, 0, 1, 2);
     layout->addWidget(homepage, 3, 0);
     layout->addWidget(ok, 3, 1);
     // Wide enough for the title in the frame.

@@ -14,19 +14,19 @@ frmDonate::frmDonate(const Umgebung& umgebung) {
     setObjectName(QStringLiteral("frmDonate"));
     setWindowTitle(QStringLiteral("Tarvelin unterstützen..."));
     const auto bilder = umgebung.Programmordner / "img";
-    setWindowIcon(LadeSymbol(bilder / "icon.ico"));
+    setWindowIcon(LoadIconFile(bilder / "icon.ico"));
 
     constexpr int kSpalten = 3;
     auto* const layout = new QGridLayout(this);
     layout->addWidget(
-        NeuesLabel(QStringLiteral("Label1"),
-                   QStringLiteral("Auch du kannst das 'Tarvelin'-Projekt unterstützen!"), this),
+        NewLabel(QStringLiteral("Label1"),
+                 QStringLiteral("Auch du kannst das 'Tarvelin'-Projekt unterstützen!"), this),
         0, 0, 1, kSpalten, Qt::AlignCenter);
     int stelle = kSpalten;
     for (const Spendenknopf& knopf : kSpendenknoepfe) {
-        auto* const bild = new Bildknopf(QString::fromLatin1(knopf.Bild), {110, 34},
-                                         QString::fromUtf8(knopf.Hinweis), this);
-        bild->SetzeBild(LadePixmap(bilder / knopf.Datei));
+        auto* const bild = new PictureButton(QString::fromLatin1(knopf.Bild), {110, 34},
+                                             QString::fromUtf8(knopf.Hinweis), this);
+        bild->SetPicture(LoadPixmap(bilder / knopf.Datei));
         bild->setCursor(Qt::PointingHandCursor);
         connect(bild, &QAbstractButton::clicked, this,
                 [&umgebung, &knopf] { umgebung.OeffneSeite(Spendenseite(knopf)); });
@@ -34,15 +34,15 @@ frmDonate::frmDonate(const Umgebung& umgebung) {
         ++stelle;
     }
     layout->addWidget(
-        NeuesLabel(
+        NewLabel(
             QStringLiteral("Label2"),
             QStringLiteral(" Alle Spenden werden über eine sichere https-Verbindung getätigt!"),
             this),
         3, 0, 1, kSpalten, Qt::AlignCenter);
-    layout->addWidget(NeuesLabel(QStringLiteral("Label3"),
-                                 QStringLiteral("Schon wider Top100 ;)\n"
-                                                "Jede(!) Spende hilft dem Projekt..."),
-                                 this),
+    layout->addWidget(NewLabel(QStringLiteral("Label3"),
+                               QStringLiteral("Schon wider Top100 ;)\n"
+                                              "Jede(!) Spende hilft dem Projekt..."),
+                               this),
                       4, 0, 1, kSpalten, Qt::AlignCenter);
     layout->setSizeConstraint(QLayout::SetFixedSize);
 }

@@ -88,18 +88,18 @@ void frmMain::LegeAus() {
     m_rollflaeche->setWidget(m_flaeche);
     setCentralWidget(m_rollflaeche);
     PasseAnBildschirmAn();
-    m_Fra_Rest->move(0, Pixel(2));
+    m_Fra_Rest->move(0, TwipsToPixels(2));
     m_Fra_Rest->lower();
-    m_flaeche->setMinimumSize(Pixel(kBreite), m_Fra_Rest->geometry().bottom() + 1);
+    m_flaeche->setMinimumSize(TwipsToPixels(kBreite), m_Fra_Rest->geometry().bottom() + 1);
     m_TopLine->setObjectName(QStringLiteral("TopLine"));
     m_TopLine->setFrameStyle(QFrame::HLine | QFrame::Sunken);
-    m_TopLine->setGeometry(0, 0, Pixel(kBreite), 1);
+    m_TopLine->setGeometry(0, 0, TwipsToPixels(kBreite), 1);
     m_TopLine->setAttribute(Qt::WA_TransparentForMouseEvents);
     setMenuBar(m_menue);
     m_Fra_Rest->Startknopf()->setDefault(true);
     // The button owns it.
-    new Entertaste(m_Fra_Rest->Startknopf());
-    m_Fra_Einstellungen->NimmFokus();
+    new EnterKeyFilter(m_Fra_Rest->Startknopf());
+    m_Fra_Einstellungen->TakeFocus();
     // No control takes what is dragged in from elsewhere.
     for (QLineEdit* const eingabe : findChildren<QLineEdit*>()) {
         eingabe->setAcceptDrops(false);
@@ -110,7 +110,7 @@ void frmMain::LegeAus() {
 }
 
 QSize frmMain::GroesseAuf(const QSize& bildschirm) {
-    const QSize ganz(Pixel(kBreite), Pixel(kHoehe));
+    const QSize ganz(TwipsToPixels(kBreite), TwipsToPixels(kHoehe));
     if (ganz.boundedTo(bildschirm) == ganz) {
         return ganz;
     }
@@ -131,11 +131,11 @@ void frmMain::PasseAnBildschirmAn() {
 
 void frmMain::LadeBilder() {
     const auto bilder = m_umgebung.Programmordner / "img";
-    setWindowIcon(LadeSymbol(bilder / "icon.ico"));
+    setWindowIcon(LoadIconFile(bilder / "icon.ico"));
     // What another skin lacks stays as it is in this one.
     ZeigeSkin(kStandardskin, {});
-    m_Fra_Rest->SetzeZeiger(LadeZiehzeiger(bilder, devicePixelRatioF()));
-    m_Fra_Rest->SetzeSpendenbild(LadePixmap(bilder / "spende.png"));
+    m_Fra_Rest->SetzeZeiger(LoadDragCursors(bilder, devicePixelRatioF()));
+    m_Fra_Rest->SetzeSpendenbild(LoadPixmap(bilder / "spende.png"));
 }
 
 void frmMain::Verbinde() {
@@ -304,11 +304,11 @@ void frmMain::BringeNachVorn(QWidget& feld) {
     m_TopLine->raise();
 }
 
-void frmMain::Klappe(Feld& feld) {
+void frmMain::Klappe(Panel& feld) {
     feld.setVisible(feld.isHidden());
     BringeNachVorn(feld);
     if (feld.isVisible()) {
-        feld.NimmFokus();
+        feld.TakeFocus();
     }
 }
 
@@ -338,7 +338,7 @@ void frmMain::mnuSleep_Click() {
 }
 
 void frmMain::Img_MouseMove(const Itemplatz& platz) {
-    platz.Bild->SetzeGate(HoverInfoFor(platz.Item, m_plan.LV_Bauliste.Orders(), m_lauf.conditions));
+    platz.Bild->SetGate(HoverInfoFor(platz.Item, m_plan.LV_Bauliste.Orders(), m_lauf.conditions));
 }
 
 void frmMain::Bearbeitet(std::string_view eingabe) {
@@ -413,7 +413,7 @@ void frmMain::ZeigeInWerkbank() {
 }
 
 void frmMain::LV_Bauliste_DragDrop(const QString& Source) {
-    const auto item = ItemVonBild(Source.toStdString());
+    const auto item = ItemFromPicture(Source.toStdString());
     std::optional<Message> meldung;
     if (item) {
         meldung = m_plan.LV_Bauliste.AddItem(*item, m_lauf.conditions);

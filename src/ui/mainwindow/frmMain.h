@@ -108,7 +108,7 @@ class frmMain : public QMainWindow {
     void Cmd_ApplySkin_Click();
 
     void BringeNachVorn(QWidget& feld);
-    void Klappe(Feld& feld);
+    void Klappe(Panel& feld);
     void mnuEinstellungen_Click();
     void mnu_SpecialEvents_Click();
     void mnuSkin_Click();

@@ -90,7 +90,7 @@ void frmMain::WarteAufBildschirm() {
 // A web skin is shown as it landed; nothing is fetched at a start.
 void frmMain::LiesSkin() {
     const Byte mode = m_konfiguration.SkinMode();
-    m_Fra_Skin->txt_Pfad->setText(AlsQString(m_konfiguration.Read(Configuration::kWebPath)));
+    m_Fra_Skin->txt_Pfad->setText(ToQString(m_konfiguration.Read(Configuration::kWebPath)));
     m_Fra_Skin->WaehleQuelle(mode);
     ZeigeSkin(mode == kWebskin ? kLokalerSkin : mode, m_konfiguration.Read(Configuration::kPath));
 }
@@ -260,7 +260,7 @@ bool frmMain::LoadBauliste(const std::optional<IniFile>& profil, const std::file
     }
     // The toolkit takes the lone sign for a place of its own.
     setWindowTitle(
-        AlsQString(WindowTitleFor(File)).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+        ToQString(WindowTitleFor(File)).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
     StarteSimulation(Silent);
     return true;
 }

@@ -22,7 +22,7 @@ bool HaeltEinAnderer(QLockFile& schloss) {
 }  // namespace
 
 Ordnerschloss::Ordnerschloss(const std::filesystem::path& programmordner)
-    : m_datei(Pfadtext(programmordner / "tarvelin.lock")) {
+    : m_datei(PathToQString(programmordner / "tarvelin.lock")) {
     // A window may stay open for weeks; only its death frees the folder.
     m_datei.setStaleLockTime(0);
     m_hatEinAnderer = !m_datei.tryLock(0) && HaeltEinAnderer(m_datei);

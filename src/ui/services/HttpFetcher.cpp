@@ -65,7 +65,7 @@ class Eingabesperre : public QObject {
 
 /// The address as it goes over the line; empty if it is none of the web.
 std::string Webadresse(const std::string& adresse) {
-    const QUrl url(AlsQString(adresse));
+    const QUrl url(ToQString(adresse));
     const bool gut =
         url.isValid() && !url.host().isEmpty() &&
         (url.scheme() == QStringLiteral("http") || url.scheme() == QStringLiteral("https"));

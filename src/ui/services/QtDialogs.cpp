@@ -64,10 +64,10 @@ class Box : public QMessageBox {
     Box(const std::string& text, const std::string& titel, MessageIcon symbol,
         QMessageBox::StandardButtons knoepfe)
         : QMessageBox(Elternfenster()) {
-        const QString titelzeile = titel.empty() ? QStringLiteral("Tarvelin") : AlsQString(titel);
+        const QString titelzeile = titel.empty() ? QStringLiteral("Tarvelin") : ToQString(titel);
         setWindowTitle(titelzeile);
         setTextFormat(Qt::PlainText);
-        setText(AlsQString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+        setText(ToQString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
         setIcon(Symbol(symbol));
         setStandardButtons(knoepfe);
         for (const auto& [knopf, aufschrift] :
@@ -183,11 +183,11 @@ std::filesystem::path Meldungsfenster::FragNachDatei(Zweck zweck,
     }
     constexpr QSize kGroesse(720, 420);
     dialog.resize(kGroesse);
-    dialog.setDirectory(Pfadtext(ordner));
+    dialog.setDirectory(PathToQString(ordner));
     if (Oeffne(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};
     }
-    return AlsPfad(dialog.selectedFiles().constFirst());
+    return ToPath(dialog.selectedFiles().constFirst());
 }
 
 }  // namespace tarvelin

@@ -14,57 +14,57 @@ namespace {
 
 /// The colours of the style on a light desktop. What it names its own is dark on a dark one, which
 /// panels and pictures of ours aren't made for.
-QPalette HellePalette() {
-    const QColor grund(239, 239, 239);
-    const QColor halb = grund.darker(130);
-    const QColor dunkel = grund.darker(150);
-    const QColor blass(190, 190, 190);
-    QColor platzhalter(Qt::black);
-    platzhalter.setAlphaF(0.5F);
-    QPalette palette(Qt::black, grund, grund.lighter(150), dunkel, halb, Qt::black, Qt::white);
-    palette.setColor(QPalette::Midlight, halb.lighter(110));
-    palette.setColor(QPalette::Shadow, dunkel.darker(135));
+QPalette LightPalette() {
+    const QColor background(239, 239, 239);
+    const QColor half = background.darker(130);
+    const QColor dark = background.darker(150);
+    const QColor pale(190, 190, 190);
+    QColor placeholder(Qt::black);
+    placeholder.setAlphaF(0.5F);
+    QPalette palette(Qt::black, background, background.lighter(150), dark, half, Qt::black,
+                     Qt::white);
+    palette.setColor(QPalette::Midlight, half.lighter(110));
+    palette.setColor(QPalette::Shadow, dark.darker(135));
     palette.setColor(QPalette::Highlight, QColor(48, 140, 198));
     palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::PlaceholderText, platzhalter);
-    palette.setColor(QPalette::Disabled, QPalette::Text, blass);
-    palette.setColor(QPalette::Disabled, QPalette::WindowText, blass);
-    palette.setColor(QPalette::Disabled, QPalette::ButtonText, blass);
-    palette.setColor(QPalette::Disabled, QPalette::Base, grund);
+    palette.setColor(QPalette::PlaceholderText, placeholder);
+    palette.setColor(QPalette::Disabled, QPalette::Text, pale);
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, pale);
+    palette.setColor(QPalette::Disabled, QPalette::ButtonText, pale);
+    palette.setColor(QPalette::Disabled, QPalette::Base, background);
     palette.setColor(QPalette::Disabled, QPalette::Dark, QColor(209, 209, 209).darker(110));
-    palette.setColor(QPalette::Disabled, QPalette::Shadow, dunkel.darker(135).lighter(150));
+    palette.setColor(QPalette::Disabled, QPalette::Shadow, dark.darker(135).lighter(150));
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(145, 145, 145));
     return palette;
 }
 
 }  // namespace
 
-void StelleAussehenEin(QApplication& programm) {
+void ApplyAppearance(QApplication& program) {
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    auto* const deutsch = new QTranslator(&programm);
-    if (deutsch->load(QStringLiteral("qtbase_de"),
-                      QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        QApplication::installTranslator(deutsch);
+    auto* const german = new QTranslator(&program);
+    if (german->load(QStringLiteral("qtbase_de"),
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QApplication::installTranslator(german);
     }
     QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication::setPalette(HellePalette());
+    QApplication::setPalette(LightPalette());
     // Those that the program itself brings along, for a system that has them not.
-    for (const QFileInfo& datei : QDir(QStringLiteral(":/schriften")).entryInfoList()) {
-        QFontDatabase::addApplicationFont(datei.filePath());
+    for (const QFileInfo& file : QDir(QStringLiteral(":/schriften")).entryInfoList()) {
+        QFontDatabase::addApplicationFont(file.filePath());
     }
-    QFont schrift;
-    schrift.setFamilies(
-        {QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans Condensed")});
-    constexpr int kSchriftPixel = 11;
-    schrift.setPixelSize(kSchriftPixel);
-    QApplication::setFont(schrift);
+    QFont font;
+    font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("DejaVu Sans Condensed")});
+    constexpr int kFontPixels = 11;
+    font.setPixelSize(kFontPixels);
+    QApplication::setFont(font);
     QApplication::setApplicationName(QStringLiteral("Tarvelin"));
 }
 
-QFont Desktopschrift() {
-    QFont schrift = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-    schrift.setFamilies(schrift.families() + QApplication::font().families());
-    return schrift;
+QFont DesktopFont() {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    font.setFamilies(font.families() + QApplication::font().families());
+    return font;
 }
 
 }  // namespace tarvelin

@@ -7,10 +7,10 @@
 namespace tarvelin {
 
 /// German words in the toolkit's own boxes, one style with light colours, one small font.
-void StelleAussehenEin(QApplication& programm);
+void ApplyAppearance(QApplication& program);
 
 /// The desktop's own font; that of the program where the desktop names one that nobody has
 /// installed.
-QFont Desktopschrift();
+QFont DesktopFont();
 
 }  // namespace tarvelin

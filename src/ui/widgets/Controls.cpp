@@ -13,26 +13,26 @@ namespace tarvelin {
 
 namespace {
 
-constexpr int kTitelhoehe = 14;
-constexpr int kTitelrand = 3;
+constexpr int kTitleHeight = 14;
+constexpr int kTitleMargin = 3;
 
 }  // namespace
 
-QString AlsQString(std::string_view text) {
+QString ToQString(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-QString Pfadtext(const std::filesystem::path& pfad) {
-    const std::u8string utf8 = pfad.u8string();
+QString PathToQString(const std::filesystem::path& path) {
+    const std::u8string utf8 = path.u8string();
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
-std::filesystem::path AlsPfad(const QString& pfad) {
-    const QByteArray utf8 = pfad.toUtf8();
+std::filesystem::path ToPath(const QString& path) {
+    const QByteArray utf8 = path.toUtf8();
     return std::u8string(utf8.begin(), utf8.end());
 }
 
-void SetzeHinweis(QWidget& widget, const QString& text) {
+void SetHint(QWidget& widget, const QString& text) {
     if (widget.toolTip() == text) {
         return;
     }
@@ -42,81 +42,81 @@ void SetzeHinweis(QWidget& widget, const QString& text) {
     }
 }
 
-Gruppe::Gruppe(const QString& name, const QString& titel, QWidget* parent)
-    : QGroupBox(titel, parent) {
+GroupBox::GroupBox(const QString& name, const QString& title, QWidget* parent)
+    : QGroupBox(title, parent) {
     setObjectName(name);
-    setAccessibleName(titel);
+    setAccessibleName(title);
 }
 
-void Gruppe::SetzeEcke(QLabel* label) {
-    m_ecke = label;
+void GroupBox::SetCornerLabel(QLabel* label) {
+    m_corner = label;
 }
 
 // The style's own frame takes more room than the surface has.
-QSize Gruppe::sizeHint() const {
+QSize GroupBox::sizeHint() const {
     return QWidget::sizeHint();
 }
 
-QSize Gruppe::minimumSizeHint() const {
+QSize GroupBox::minimumSizeHint() const {
     return QWidget::minimumSizeHint();  // NOLINT(bugprone-parent-virtual-call): passed on purpose
 }
 
-void Gruppe::resizeEvent(QResizeEvent* event) {
+void GroupBox::resizeEvent(QResizeEvent* event) {
     QGroupBox::resizeEvent(event);
-    setContentsMargins(1, kTitelhoehe + 1, 1, 1);
-    if (m_ecke != nullptr) {
-        const int breite = m_ecke->sizeHint().width();
-        m_ecke->setGeometry(width() - breite - kTitelrand, 0, breite, kTitelhoehe);
+    setContentsMargins(1, kTitleHeight + 1, 1, 1);
+    if (m_corner != nullptr) {
+        const int cornerWidth = m_corner->sizeHint().width();
+        m_corner->setGeometry(width() - cornerWidth - kTitleMargin, 0, cornerWidth, kTitleHeight);
     }
 }
 
-void Gruppe::paintEvent(QPaintEvent* /*event*/) {
-    constexpr qreal kRundung = 3;
+void GroupBox::paintEvent(QPaintEvent* /*event*/) {
+    constexpr qreal kRounding = 3;
     QPainter painter(this);
     painter.setPen(palette().windowText().color());
-    painter.drawText(QRect(kTitelrand, 0, width(), kTitelhoehe),
+    painter.drawText(QRect(kTitleMargin, 0, width(), kTitleHeight),
                      static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), title());
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(palette().mid().color());
-    constexpr qreal kHalb = 0.5;
-    painter.drawRoundedRect(QRectF(rect()).adjusted(kHalb, kTitelhoehe + kHalb, -kHalb, -kHalb),
-                            kRundung, kRundung);
+    constexpr qreal kHalf = 0.5;
+    painter.drawRoundedRect(QRectF(rect()).adjusted(kHalf, kTitleHeight + kHalf, -kHalf, -kHalf),
+                            kRounding, kRounding);
 }
 
-Eingabe::Eingabe(const QString& name, const QString& bedeutung, int grenze, QWidget* parent)
-    : QLineEdit(parent), m_grenze(grenze) {
+TextInput::TextInput(const QString& name, const QString& accessibleName, int limit, QWidget* parent)
+    : QLineEdit(parent), m_limit(limit) {
     setObjectName(name);
-    setAccessibleName(bedeutung);
+    setAccessibleName(accessibleName);
     setAlignment(Qt::AlignCenter);
-    constexpr int kHoehe = 18;
-    setFixedHeight(kHoehe);
-    setMaxLength(grenze);
+    constexpr int kHeight = 18;
+    setFixedHeight(kHeight);
+    setMaxLength(limit);
     connect(this, &QLineEdit::textChanged, this,
-            [this](const QString& neu) { BegrenzeAuf(neu.size()); });
+            [this](const QString& fresh) { LimitTo(fresh.size()); });
 }
 
-bool Eingabe::Setze(const std::string& neu) {
-    const QString text = AlsQString(neu);
+bool TextInput::Assign(const std::string& after) {
+    const QString text = ToQString(after);
     if (text == this->text()) {
         return false;
     }
-    const QSignalBlocker still(this);
-    BegrenzeAuf(text.size());
+    const QSignalBlocker quiet(this);
+    LimitTo(text.size());
     setText(text);
     return true;
 }
 
 // A new limit sends the cursor to the end, so it is set only when it differs.
-void Eingabe::BegrenzeAuf(qsizetype stehend) {
-    const int grenze = std::max(m_grenze, static_cast<int>(stehend));
-    if (grenze != maxLength()) {
-        const int stelle = cursorPosition();
-        setMaxLength(grenze);
-        setCursorPosition(stelle);
+void TextInput::LimitTo(qsizetype standing) {
+    const int limit = std::max(m_limit, static_cast<int>(standing));
+    if (limit != maxLength()) {
+        const int position = cursorPosition();
+        setMaxLength(limit);
+        setCursorPosition(position);
     }
 }
 
-Zahlenlabel::Zahlenlabel(const QString& name, QWidget* parent) : QLabel(parent) {
+NumberLabel::NumberLabel(const QString& name, QWidget* parent) : QLabel(parent) {
     setObjectName(name);
     setAlignment(Qt::AlignCenter);
     setTextFormat(Qt::PlainText);
@@ -124,86 +124,85 @@ Zahlenlabel::Zahlenlabel(const QString& name, QWidget* parent) : QLabel(parent) 
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 
-void Zahlenlabel::Setze(const QString& zahl) {
-    setText(zahl);
-    FrischeHinweisAuf();
+void NumberLabel::Assign(const QString& number) {
+    setText(number);
+    RefreshHint();
 }
 
-QString Zahlenlabel::Gekuerzt() const {
+QString NumberLabel::ElidedAt() const {
     return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
 }
 
-void Zahlenlabel::FrischeHinweisAuf() {
-    SetzeHinweis(*this, Gekuerzt() == text() ? QString() : text());
+void NumberLabel::RefreshHint() {
+    SetHint(*this, ElidedAt() == text() ? QString() : text());
 }
 
-void Zahlenlabel::paintEvent(QPaintEvent* /*event*/) {
+void NumberLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    const QString gekuerzt = Gekuerzt();
-    const Qt::Alignment ort = gekuerzt == text() ? alignment() : Qt::AlignLeft | Qt::AlignVCenter;
-    style()->drawItemText(&painter, contentsRect(), static_cast<int>(ort), palette(), isEnabled(),
-                          gekuerzt, foregroundRole());
+    const QString elided = ElidedAt();
+    const Qt::Alignment position =
+        elided == text() ? alignment() : Qt::AlignLeft | Qt::AlignVCenter;
+    style()->drawItemText(&painter, contentsRect(), static_cast<int>(position), palette(),
+                          isEnabled(), elided, foregroundRole());
 }
 
-void Zahlenlabel::resizeEvent(QResizeEvent* event) {
+void NumberLabel::resizeEvent(QResizeEvent* event) {
     QLabel::resizeEvent(event);
-    FrischeHinweisAuf();
+    RefreshHint();
 }
 
-void ReiheAuf(const std::vector<QWidget*>& steuerelemente) {
-    for (std::size_t i = 1; i < steuerelemente.size(); ++i) {
-        QWidget::setTabOrder(steuerelemente[i - 1], steuerelemente[i]);
+void ChainTabOrder(const std::vector<QWidget*>& controls) {
+    for (std::size_t i = 1; i < controls.size(); ++i) {
+        QWidget::setTabOrder(controls[i - 1], controls[i]);
     }
 }
 
-QLabel* NeuesLabel(const QString& name, const QString& text, QWidget* parent) {
+QLabel* NewLabel(const QString& name, const QString& text, QWidget* parent) {
     auto* const label = new QLabel(text, parent);
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
     return label;
 }
 
-QLabel* NeuesBild(const QString& name, const QSize& groesse, const QString& hinweis,
-                  QWidget* parent) {
-    QLabel* const bild = NeuesLabel(name, {}, parent);
-    bild->setFixedSize(groesse);
-    bild->setScaledContents(true);
-    bild->setToolTip(hinweis);
-    bild->setAccessibleName(hinweis.trimmed());
-    return bild;
+QLabel* NewPicture(const QString& name, const QSize& size, const QString& hint, QWidget* parent) {
+    QLabel* const picture = NewLabel(name, {}, parent);
+    picture->setFixedSize(size);
+    picture->setScaledContents(true);
+    picture->setToolTip(hint);
+    picture->setAccessibleName(hint.trimmed());
+    return picture;
 }
 
-QLabel* NeueHoverInfo(const QString& name, const QString& hinweis, QWidget* parent) {
-    QLabel* const label = NeuesLabel(name, QStringLiteral("HoverInfo"), parent);
-    label->setToolTip(hinweis);
-    label->setAccessibleDescription(hinweis);
+QLabel* NewHoverInfo(const QString& name, const QString& hint, QWidget* parent) {
+    QLabel* const label = NewLabel(name, QStringLiteral("HoverInfo"), parent);
+    label->setToolTip(hint);
+    label->setAccessibleDescription(hint);
     label->setCursor(Qt::WhatsThisCursor);
-    QFont schrift = label->font();
-    schrift.setUnderline(true);
-    label->setFont(schrift);
+    QFont font = label->font();
+    font.setUnderline(true);
+    label->setFont(font);
     return label;
 }
 
-QPushButton* NeuerKnopf(const QString& name, const QString& text, QWidget* parent) {
-    auto* const knopf = new QPushButton(text, parent);
-    knopf->setObjectName(name);
-    knopf->setAutoDefault(true);
-    constexpr int kRand = 7;
-    constexpr int kHoehe = 20;
-    knopf->setFixedHeight(kHoehe);
-    knopf->setMinimumWidth(knopf->fontMetrics().horizontalAdvance(text) + 2 * kRand);
-    knopf->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    return knopf;
+QPushButton* NewButton(const QString& name, const QString& text, QWidget* parent) {
+    auto* const button = new QPushButton(text, parent);
+    button->setObjectName(name);
+    button->setAutoDefault(true);
+    constexpr int kMargin = 7;
+    constexpr int kHeight = 20;
+    button->setFixedHeight(kHeight);
+    button->setMinimumWidth(button->fontMetrics().horizontalAdvance(text) + 2 * kMargin);
+    button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    return button;
 }
 
-QSlider* NeuerRegler(const QString& name, const QString& bedeutung, int hoechstens,
-                     QWidget* parent) {
-    auto* const regler = new QSlider(Qt::Horizontal, parent);
-    regler->setObjectName(name);
-    regler->setAccessibleName(bedeutung);
-    regler->setRange(0, hoechstens);
-    regler->setSingleStep(1);
-    return regler;
+QSlider* NewSlider(const QString& name, const QString& accessibleName, int max, QWidget* parent) {
+    auto* const slider = new QSlider(Qt::Horizontal, parent);
+    slider->setObjectName(name);
+    slider->setAccessibleName(accessibleName);
+    slider->setRange(0, max);
+    slider->setSingleStep(1);
+    return slider;
 }
 
 }  // namespace tarvelin

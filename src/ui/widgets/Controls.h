@@ -14,31 +14,31 @@
 namespace tarvelin {
 
 /// Twips are fifteenths of a pixel; the nearest whole one.
-constexpr int Pixel(int twips) {
-    constexpr int kTwipsJePixel = 15;
-    return (2 * twips + kTwipsJePixel) / (2 * kTwipsJePixel);
+constexpr int TwipsToPixels(int twips) {
+    constexpr int kTwipsPerPixel = 15;
+    return (2 * twips + kTwipsPerPixel) / (2 * kTwipsPerPixel);
 }
 
 /// The text of the core, UTF-8, as the toolkit has it.
-[[nodiscard]] QString AlsQString(std::string_view text);
+[[nodiscard]] QString ToQString(std::string_view text);
 
 /// Paths go to the toolkit and back by their UTF-8, on every platform.
-[[nodiscard]] QString Pfadtext(const std::filesystem::path& pfad);
-[[nodiscard]] std::filesystem::path AlsPfad(const QString& pfad);
+[[nodiscard]] QString PathToQString(const std::filesystem::path& path);
+[[nodiscard]] std::filesystem::path ToPath(const QString& path);
 
 /// Gives a widget its hint. A hint that stands on the screen while the pointer is over the widget
 /// changes at once, where the toolkit alone would wait until the pointer rests.
-void SetzeHinweis(QWidget& widget, const QString& text);
+void SetHint(QWidget& widget, const QString& text);
 
 /// A group with its caption above the frame and room for a second label at that line's end.
-class Gruppe : public QGroupBox {
+class GroupBox : public QGroupBox {
     Q_OBJECT
 
   public:
-    Gruppe(const QString& name, const QString& titel, QWidget* parent);
+    GroupBox(const QString& name, const QString& title, QWidget* parent);
 
     /// Puts a label of this group to the right end of the caption's line.
-    void SetzeEcke(QLabel* label);
+    void SetCornerLabel(QLabel* label);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -48,37 +48,37 @@ class Gruppe : public QGroupBox {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    QLabel* m_ecke = nullptr;
+    QLabel* m_corner = nullptr;
 };
 
 /// A text input that limits what is typed or pasted, and takes any text from the program. Its
 /// signal `textChanged` tells the user's changes alone.
-class Eingabe : public QLineEdit {
+class TextInput : public QLineEdit {
     Q_OBJECT
 
   public:
-    static constexpr int kUnbegrenzt = 32767;
+    static constexpr int kUnlimited = 32767;
 
-    Eingabe(const QString& name, const QString& bedeutung, int grenze, QWidget* parent);
+    TextInput(const QString& name, const QString& accessibleName, int limit, QWidget* parent);
 
     /// Sets a text of any length. Whether it differs from the one before.
-    bool Setze(const std::string& neu);
-    [[nodiscard]] std::string Text() const { return text().toStdString(); }
+    bool Assign(const std::string& after);
+    [[nodiscard]] std::string Utf8() const { return text().toStdString(); }
 
   private:
-    void BegrenzeAuf(qsizetype stehend);
+    void LimitTo(qsizetype standing);
 
-    int m_grenze;
+    int m_limit;
 };
 
 /// A label for figures: what doesn't fit ends in an ellipsis, and the hint has the whole text.
-class Zahlenlabel : public QLabel {
+class NumberLabel : public QLabel {
     Q_OBJECT
 
   public:
-    Zahlenlabel(const QString& name, QWidget* parent);
+    NumberLabel(const QString& name, QWidget* parent);
 
-    void Setze(const QString& zahl);
+    void Assign(const QString& number);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -86,23 +86,23 @@ class Zahlenlabel : public QLabel {
 
   private:
     /// The text as far as it fits.
-    [[nodiscard]] QString Gekuerzt() const;
-    void FrischeHinweisAuf();
+    [[nodiscard]] QString ElidedAt() const;
+    void RefreshHint();
 };
 
 /// The order in which Tab goes through controls.
-void ReiheAuf(const std::vector<QWidget*>& steuerelemente);
+void ChainTabOrder(const std::vector<QWidget*>& controls);
 
-[[nodiscard]] QLabel* NeuesLabel(const QString& name, const QString& text, QWidget* parent);
+[[nodiscard]] QLabel* NewLabel(const QString& name, const QString& text, QWidget* parent);
 /// A picture of a fixed size, whatever the size of its file.
-[[nodiscard]] QLabel* NeuesBild(const QString& name, const QSize& groesse, const QString& hinweis,
-                                QWidget* parent);
+[[nodiscard]] QLabel* NewPicture(const QString& name, const QSize& size, const QString& hint,
+                                 QWidget* parent);
 /// The small label that explains its group by its hint alone.
-[[nodiscard]] QLabel* NeueHoverInfo(const QString& name, const QString& hinweis, QWidget* parent);
+[[nodiscard]] QLabel* NewHoverInfo(const QString& name, const QString& hint, QWidget* parent);
 /// Enter presses the button that has the focus.
-[[nodiscard]] QPushButton* NeuerKnopf(const QString& name, const QString& text, QWidget* parent);
+[[nodiscard]] QPushButton* NewButton(const QString& name, const QString& text, QWidget* parent);
 /// A horizontal slider with small steps of 1.
-[[nodiscard]] QSlider* NeuerRegler(const QString& name, const QString& bedeutung, int hoechstens,
-                                   QWidget* parent);
+[[nodiscard]] QSlider* NewSlider(const QString& name, const QString& accessibleName, int max,
+                                 QWidget* parent);
 
 }  // namespace tarvelin

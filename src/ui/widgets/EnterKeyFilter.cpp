@@ -10,48 +10,48 @@ namespace tarvelin {
 
 namespace {
 
-bool IstEnter(const QEvent& event) {
-    const int taste = static_cast<const QKeyEvent&>(event).key();
-    return taste == Qt::Key_Return || taste == Qt::Key_Enter;
+bool IsEnter(const QEvent& event) {
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
-bool KamMitTab(const QEvent& event) {
-    const Qt::FocusReason grund = static_cast<const QFocusEvent&>(event).reason();
-    return grund == Qt::TabFocusReason || grund == Qt::BacktabFocusReason;
+bool CameByTab(const QEvent& event) {
+    const Qt::FocusReason reason = static_cast<const QFocusEvent&>(event).reason();
+    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
 }
 
 }  // namespace
 
-Entertaste::Entertaste(QAbstractButton* knopf) : QObject(knopf), m_knopf(knopf) {
+EnterKeyFilter::EnterKeyFilter(QAbstractButton* button) : QObject(button), m_button(button) {
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-bool Entertaste::eventFilter(QObject* ziel, QEvent* event) {
+bool EnterKeyFilter::eventFilter(QObject* target, QEvent* event) {
     switch (event->type()) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
-            m_gehoertDemKnopf = m_gehoertDemKnopf || IstImFenster(ziel);
+            m_belongsToButton = m_belongsToButton || IsInWindow(target);
             break;
         case QEvent::FocusIn:
-            m_gehoertDemKnopf = m_gehoertDemKnopf && !(IstImFenster(ziel) && KamMitTab(*event));
+            m_belongsToButton = m_belongsToButton && !(IsInWindow(target) && CameByTab(*event));
             break;
         case QEvent::KeyPress:
             // Other controls hand the key on to the window, which knows its default button.
-            if (m_gehoertDemKnopf && IstEnter(*event) && IstImFenster(ziel) &&
-                qobject_cast<QPushButton*>(ziel) != nullptr) {
-                m_knopf->click();
+            if (m_belongsToButton && IsEnter(*event) && IsInWindow(target) &&
+                qobject_cast<QPushButton*>(target) != nullptr) {
+                m_button->click();
                 return true;
             }
             break;
         default:
             break;
     }
-    return QObject::eventFilter(ziel, event);
+    return QObject::eventFilter(target, event);
 }
 
-bool Entertaste::IstImFenster(const QObject* ziel) const {
-    const auto* const widget = qobject_cast<const QWidget*>(ziel);
-    return widget != nullptr && widget->window() == m_knopf->window();
+bool EnterKeyFilter::IsInWindow(const QObject* target) const {
+    const auto* const widget = qobject_cast<const QWidget*>(target);
+    return widget != nullptr && widget->window() == m_button->window();
 }
 
 }  // namespace tarvelin

@@ -7,21 +7,21 @@ namespace tarvelin {
 
 /// Any press of the mouse in the window gives Enter to its default button, wherever the focus is,
 /// until the focus moves by Tab.
-class Entertaste : public QObject {
+class EnterKeyFilter : public QObject {
     Q_OBJECT
 
   public:
-    /// For the window that `knopf` stands in.
-    explicit Entertaste(QAbstractButton* knopf);
+    /// For the window that `button` stands in.
+    explicit EnterKeyFilter(QAbstractButton* button);
 
   protected:
-    bool eventFilter(QObject* ziel, QEvent* event) override;
+    bool eventFilter(QObject* target, QEvent* event) override;
 
   private:
-    [[nodiscard]] bool IstImFenster(const QObject* ziel) const;
+    [[nodiscard]] bool IsInWindow(const QObject* target) const;
 
-    QAbstractButton* m_knopf;
-    bool m_gehoertDemKnopf = false;
+    QAbstractButton* m_button;
+    bool m_belongsToButton = false;
 };
 
 }  // namespace tarvelin

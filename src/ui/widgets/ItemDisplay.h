@@ -10,22 +10,22 @@
 namespace tarvelin {
 
 /// The groups of pictures, from left to right.
-enum class Bildgruppe : std::uint8_t { Gebaeude, Forschung, Verteidigung, Raumschiffe };
+enum class PictureGroup : std::uint8_t { Buildings, Research, Defense, Ships };
 
-struct Itemansicht {
-    ItemId Item;
+struct ItemDisplay {
+    ItemId item;
     /// Name of the picture; a drag carries it.
-    std::string_view Bild;
+    std::string_view pictureName;
     /// Name of the label that shows the level.
-    std::string_view Stufenlabel;
-    std::string_view Bildunterschrift;
-    Bildgruppe Gruppe;
+    std::string_view levelLabelName;
+    std::string_view caption;
+    PictureGroup group;
 };
 
 /// The twenty items.
-[[nodiscard]] const PerItem<Itemansicht>& Itemansichten();
+[[nodiscard]] const PerItem<ItemDisplay>& ItemDisplays();
 
 /// Exact compare; nothing for any other text.
-[[nodiscard]] std::optional<ItemId> ItemVonBild(std::string_view bild);
+[[nodiscard]] std::optional<ItemId> ItemFromPicture(std::string_view picture);
 
 }  // namespace tarvelin

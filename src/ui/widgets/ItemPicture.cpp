@@ -14,95 +14,95 @@
 
 namespace tarvelin {
 
-Itembild::Itembild(ItemId item, QWidget* parent) : QLabel(parent) {
-    setObjectName(AlsQString(Itemansichten()[item].Bild));
-    setAccessibleName(AlsQString(RowOf(item).HoverName()));
+ItemPicture::ItemPicture(ItemId item, QWidget* parent) : QLabel(parent) {
+    setObjectName(ToQString(ItemDisplays()[item].pictureName));
+    setAccessibleName(ToQString(RowOf(item).HoverName()));
     setScaledContents(true);
     setMouseTracking(true);
     setFocusPolicy(Qt::TabFocus);
-    setCursor(m_zeiger.Offen);
+    setCursor(m_cursors.openHand);
 }
 
-void Itembild::SetzeZeiger(const Ziehzeiger& zeiger) {
-    m_zeiger = zeiger;
-    setCursor(m_zeiger.Offen);
+void ItemPicture::SetCursors(const DragCursors& cursors) {
+    m_cursors = cursors;
+    setCursor(m_cursors.openHand);
 }
 
-void Itembild::SetzeGate(const HoverInfo& info) {
-    if (m_dragOffen != info.dragEnabled) {
-        m_dragOffen = info.dragEnabled;
-        setCursor(m_dragOffen ? m_zeiger.Offen : QCursor(Qt::ForbiddenCursor));
+void ItemPicture::SetGate(const HoverInfo& info) {
+    if (m_dragEnabled != info.dragEnabled) {
+        m_dragEnabled = info.dragEnabled;
+        setCursor(m_dragEnabled ? m_cursors.openHand : QCursor(Qt::ForbiddenCursor));
     }
-    const QString text = AlsQString(info.tooltip);
-    SetzeHinweis(*this, text);
+    const QString text = ToQString(info.tooltip);
+    SetHint(*this, text);
     setAccessibleDescription(text);
 }
 
-void Itembild::enterEvent(QEnterEvent* event) {
+void ItemPicture::enterEvent(QEnterEvent* event) {
     QLabel::enterEvent(event);
     emit MouseMove();
 }
 
-void Itembild::mouseMoveEvent(QMouseEvent* event) {
+void ItemPicture::mouseMoveEvent(QMouseEvent* event) {
     QLabel::mouseMoveEvent(event);
     emit MouseMove();
 }
 
-void Itembild::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && m_dragOffen) {
-        Ziehe();
+void ItemPicture::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && m_dragEnabled) {
+        BeginDrag();
     }
 }
 
-void Itembild::focusInEvent(QFocusEvent* event) {
+void ItemPicture::focusInEvent(QFocusEvent* event) {
     QLabel::focusInEvent(event);
     emit MouseMove();
 }
 
-void Itembild::keyPressEvent(QKeyEvent* event) {
+void ItemPicture::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Space) {
         QLabel::keyPressEvent(event);
         return;
     }
     // The list may have changed while the picture kept the focus.
     emit MouseMove();
-    if (m_dragOffen && !event->isAutoRepeat()) {
-        emit Gewaehlt();
+    if (m_dragEnabled && !event->isAutoRepeat()) {
+        emit Chosen();
         // The hint names what the next row costs.
         emit MouseMove();
     }
 }
 
-void Itembild::paintEvent(QPaintEvent* event) {
+void ItemPicture::paintEvent(QPaintEvent* event) {
     QLabel::paintEvent(event);
     if (pixmap(Qt::ReturnByValue).isNull()) {
         QPainter(this).drawRect(rect().adjusted(0, 0, -1, -1));
     }
     if (hasFocus()) {
-        constexpr int kStrich = 3;
+        constexpr int kTick = 3;
         QPainter painter(this);
-        painter.setPen(QPen(palette().highlight(), kStrich));
+        painter.setPen(QPen(palette().highlight(), kTick));
         painter.drawRect(rect().adjusted(1, 1, -2, -2));
     }
 }
 
-void Itembild::Ziehe() {
+void ItemPicture::BeginDrag() {
     QToolTip::hideText();
-    auto* const daten = new QMimeData;
-    daten->setData(kItemformat, objectName().toUtf8());
+    auto* const mimeData = new QMimeData;
+    mimeData->setData(kItemMimeType, objectName().toUtf8());
     // The toolkit deletes the drag when it is over.
     auto* const drag = new QDrag(this);
-    drag->setMimeData(daten);
-    if (m_zeiger.Gezogen.isNull()) {
+    drag->setMimeData(mimeData);
+    if (m_cursors.dragged.isNull()) {
         drag->setPixmap(grab());
         drag->setHotSpot(rect().center());
     } else {
         // Nothing beside the pointer.
-        QPixmap leer(1, 1);
-        leer.fill(Qt::transparent);
-        drag->setPixmap(leer);
-        drag->setDragCursor(m_zeiger.Gezogen, Qt::CopyAction);
-        drag->setDragCursor(m_zeiger.Gezogen, Qt::IgnoreAction);
+        QPixmap empty(1, 1);
+        empty.fill(Qt::transparent);
+        drag->setPixmap(empty);
+        drag->setDragCursor(m_cursors.dragged, Qt::CopyAction);
+        drag->setDragCursor(m_cursors.dragged, Qt::IgnoreAction);
     }
     drag->exec(Qt::CopyAction);
 }

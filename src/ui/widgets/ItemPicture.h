@@ -8,31 +8,31 @@
 namespace tarvelin {
 
 /// What a dragged picture carries: its name, of use to no other program.
-inline const QString kItemformat = QStringLiteral("application/x-tarvelin-item");
+inline const QString kItemMimeType = QStringLiteral("application/x-tarvelin-item");
 
 /// Pointer over an open picture, and what the pointer shows while a picture is dragged.
-struct Ziehzeiger {
-    QCursor Offen;
+struct DragCursors {
+    QCursor openHand;
     /// Null: the dragged picture itself is shown.
-    QPixmap Gezogen;
+    QPixmap dragged;
 };
 
-class Itembild : public QLabel {
+class ItemPicture : public QLabel {
     Q_OBJECT
 
   public:
-    Itembild(ItemId item, QWidget* parent);
+    ItemPicture(ItemId item, QWidget* parent);
 
-    void SetzeZeiger(const Ziehzeiger& zeiger);
+    void SetCursors(const DragCursors& cursors);
 
     /// Opens or closes the gate: drag, pointer and hint go together.
-    void SetzeGate(const HoverInfo& info);
+    void SetGate(const HoverInfo& info);
 
   signals:
     /// The pointer moved over the picture, or the keyboard reached it.
     void MouseMove();
     /// The space bar took the picture's place in a drag onto the list. Only while the gate is open.
-    void Gewaehlt();
+    void Chosen();
 
   protected:
     void enterEvent(QEnterEvent* event) override;
@@ -43,10 +43,10 @@ class Itembild : public QLabel {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    void Ziehe();
+    void BeginDrag();
 
-    Ziehzeiger m_zeiger{Qt::OpenHandCursor, {}};
-    bool m_dragOffen = true;
+    DragCursors m_cursors{Qt::OpenHandCursor, {}};
+    bool m_dragEnabled = true;
 };
 
 }  // namespace tarvelin

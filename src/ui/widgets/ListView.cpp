@@ -14,10 +14,10 @@ namespace tarvelin {
 
 namespace {
 
-constexpr int kKopfrand = 2;
+constexpr int kHeaderMargin = 2;
 
 /// Cells without the style's margins, which the narrow columns have no room for.
-class Zellenstil : public QProxyStyle {
+class CellStyle : public QProxyStyle {
   public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option,
                     const QWidget* widget) const override {
@@ -29,7 +29,7 @@ class Zellenstil : public QProxyStyle {
 
 }  // namespace
 
-Listenkopf::Listenkopf(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
+ListHeader::ListHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
     setSectionsClickable(false);
     setSectionsMovable(false);
     setSectionResizeMode(QHeaderView::Fixed);
@@ -37,31 +37,31 @@ Listenkopf::Listenkopf(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
     setStretchLastSection(false);
 }
 
-QString Listenkopf::Text(int spalte) const {
-    return model()->headerData(spalte, Qt::Horizontal, Qt::DisplayRole).toString();
+QString ListHeader::CaptionAt(int column) const {
+    return model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
 }
 
-QString Listenkopf::Gekuerzt(int spalte) const {
-    return fontMetrics().elidedText(Text(spalte), Qt::ElideRight,
-                                    sectionSize(spalte) - 2 * kKopfrand);
+QString ListHeader::ElidedAt(int column) const {
+    return fontMetrics().elidedText(CaptionAt(column), Qt::ElideRight,
+                                    sectionSize(column) - 2 * kHeaderMargin);
 }
 
-QSize Listenkopf::sizeHint() const {
-    return {QHeaderView::sizeHint().width(), fontMetrics().height() + 2 * kKopfrand};
+QSize ListHeader::sizeHint() const {
+    return {QHeaderView::sizeHint().width(), fontMetrics().height() + 2 * kHeaderMargin};
 }
 
-bool Listenkopf::viewportEvent(QEvent* event) {
+bool ListHeader::viewportEvent(QEvent* event) {
     if (event->type() != QEvent::ToolTip) {
         return QHeaderView::viewportEvent(event);
     }
-    const auto* const hilfe = static_cast<QHelpEvent*>(event);
-    const int spalte = logicalIndexAt(hilfe->pos());
-    const bool gekuerzt = spalte >= 0 && Gekuerzt(spalte) != Text(spalte);
-    QToolTip::showText(hilfe->globalPos(), gekuerzt ? Text(spalte) : QString(), this);
+    const auto* const help = static_cast<QHelpEvent*>(event);
+    const int column = logicalIndexAt(help->pos());
+    const bool elided = column >= 0 && ElidedAt(column) != CaptionAt(column);
+    QToolTip::showText(help->globalPos(), elided ? CaptionAt(column) : QString(), this);
     return true;
 }
 
-void Listenkopf::paintEvent(QPaintEvent* event) {
+void ListHeader::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     painter.fillRect(viewport()->rect(), palette().button());
     painter.setPen(palette().mid().color());
@@ -70,21 +70,21 @@ void Listenkopf::paintEvent(QPaintEvent* event) {
     QHeaderView::paintEvent(event);
 }
 
-void Listenkopf::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {
+void ListHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {
     painter->setPen(palette().buttonText().color());
-    painter->drawText(rect.adjusted(kKopfrand, 0, -kKopfrand, 0),
-                      static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), Gekuerzt(logicalIndex));
+    painter->drawText(rect.adjusted(kHeaderMargin, 0, -kHeaderMargin, 0),
+                      static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), ElidedAt(logicalIndex));
 }
 
-Liste::Liste(const QString& name, const QString& bedeutung, std::vector<int> anteile,
-             QWidget* parent)
-    : QTreeView(parent), m_anteile(std::move(anteile)) {
+ListView::ListView(const QString& name, const QString& accessibleName, std::vector<int> shares,
+                   QWidget* parent)
+    : QTreeView(parent), m_shares(std::move(shares)) {
     setObjectName(name);
-    setAccessibleName(bedeutung);
-    setHeader(new Listenkopf(this));
-    auto* const stil = new Zellenstil;
-    stil->setParent(this);
-    setStyle(stil);
+    setAccessibleName(accessibleName);
+    setHeader(new ListHeader(this));
+    auto* const style = new CellStyle;
+    style->setParent(this);
+    setStyle(style);
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setUniformRowHeights(true);
@@ -98,45 +98,45 @@ Liste::Liste(const QString& name, const QString& bedeutung, std::vector<int> ant
     setTabKeyNavigation(false);
 }
 
-void Liste::setModel(QAbstractItemModel* model) {
+void ListView::setModel(QAbstractItemModel* model) {
     QTreeView::setModel(model);
-    VerteileSpalten();
+    DistributeColumns();
 }
 
-void Liste::mouseMoveEvent(QMouseEvent* event) {
+void ListView::mouseMoveEvent(QMouseEvent* event) {
     QTreeView::mouseMoveEvent(event);
     emit MouseMove(indexAt(event->position().toPoint()));
 }
 
-bool Liste::viewportEvent(QEvent* event) {
+bool ListView::viewportEvent(QEvent* event) {
     if (event->type() == QEvent::Leave) {
         emit MouseMove({});
     }
     return QTreeView::viewportEvent(event);
 }
 
-void Liste::resizeEvent(QResizeEvent* event) {
+void ListView::resizeEvent(QResizeEvent* event) {
     QTreeView::resizeEvent(event);
-    VerteileSpalten();
+    DistributeColumns();
 }
 
 // The row that takes the place of a current one that goes isn't brought to sight.
-void Liste::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) {
+void ListView::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) {
     setAutoScroll(false);
     QTreeView::rowsAboutToBeRemoved(parent, start, end);
     setAutoScroll(true);
 }
 
-void Liste::VerteileSpalten() {
-    const int summe = std::accumulate(m_anteile.begin(), m_anteile.end(), 0);
-    int links = 0;
-    int anteil = 0;
-    for (int spalte = 0; spalte < std::min(header()->count(), static_cast<int>(m_anteile.size()));
-         ++spalte) {
-        anteil += m_anteile[static_cast<std::size_t>(spalte)];
-        const int rechts = (viewport()->width() * anteil + summe / 2) / summe;
-        header()->resizeSection(spalte, rechts - links);
-        links = rechts;
+void ListView::DistributeColumns() {
+    const int sum = std::accumulate(m_shares.begin(), m_shares.end(), 0);
+    int left = 0;
+    int share = 0;
+    for (int column = 0; column < std::min(header()->count(), static_cast<int>(m_shares.size()));
+         ++column) {
+        share += m_shares[static_cast<std::size_t>(column)];
+        const int right = (viewport()->width() * share + sum / 2) / sum;
+        header()->resizeSection(column, right - left);
+        left = right;
     }
     updateGeometries();
 }

@@ -9,11 +9,11 @@ namespace tarvelin {
 
 /// The head of a list, a line high. A caption that is wider than its column is shortened, and whole
 /// in a hint.
-class Listenkopf : public QHeaderView {
+class ListHeader : public QHeaderView {
     Q_OBJECT
 
   public:
-    explicit Listenkopf(QWidget* parent);
+    explicit ListHeader(QWidget* parent);
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -23,25 +23,26 @@ class Listenkopf : public QHeaderView {
     void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
 
   private:
-    [[nodiscard]] QString Text(int spalte) const;
-    [[nodiscard]] QString Gekuerzt(int spalte) const;
+    [[nodiscard]] QString CaptionAt(int column) const;
+    [[nodiscard]] QString ElidedAt(int column) const;
 };
 
 /// A table of rows. The columns divide the width of the list in fixed proportions; there is never
 /// a horizontal bar.
-class Liste : public QTreeView {
+class ListView : public QTreeView {
     Q_OBJECT
 
   public:
-    /// `anteile`: one figure for each column of the model.
-    Liste(const QString& name, const QString& bedeutung, std::vector<int> anteile, QWidget* parent);
+    /// `shares`: one figure for each column of the model.
+    ListView(const QString& name, const QString& accessibleName, std::vector<int> shares,
+             QWidget* parent);
 
     void setModel(QAbstractItemModel* model) override;
 
   signals:
     /// The pointer moved over the list, at this row; over none, or when it leaves the rows, the
     /// index isn't valid.
-    void MouseMove(const QModelIndex& zeile);
+    void MouseMove(const QModelIndex& row);
 
   protected:
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -50,9 +51,9 @@ class Liste : public QTreeView {
     void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
 
   private:
-    void VerteileSpalten();
+    void DistributeColumns();
 
-    std::vector<int> m_anteile;
+    std::vector<int> m_shares;
 };
 
 }  // namespace tarvelin

@@ -7,41 +7,42 @@ namespace tarvelin {
 
 namespace {
 
-constexpr QColor kRand(110, 0, 0);
-constexpr QColor kLicht(255, 150, 150);
+constexpr QColor kMargin(110, 0, 0);
+constexpr QColor kLight(255, 150, 150);
 
 }  // namespace
 
-Feld::Feld(const QString& name, const QString& titel, const QRect& twips, QWidget* parent)
-    : Gruppe(name, titel, parent) {
-    setGeometry(Pixel(twips.x()), Pixel(twips.y()), Pixel(twips.width()), Pixel(twips.height()));
-    QPalette farben = palette();
-    farben.setColor(QPalette::Window, Qt::red);
-    farben.setColor(QPalette::Mid, kRand);
-    setPalette(farben);
+Panel::Panel(const QString& name, const QString& title, const QRect& twips, QWidget* parent)
+    : GroupBox(name, title, parent) {
+    setGeometry(TwipsToPixels(twips.x()), TwipsToPixels(twips.y()), TwipsToPixels(twips.width()),
+                TwipsToPixels(twips.height()));
+    QPalette colors = palette();
+    colors.setColor(QPalette::Window, Qt::red);
+    colors.setColor(QPalette::Mid, kMargin);
+    setPalette(colors);
     setAutoFillBackground(true);
 }
 
-void Feld::paintEvent(QPaintEvent* event) {
-    Gruppe::paintEvent(event);
+void Panel::paintEvent(QPaintEvent* event) {
+    GroupBox::paintEvent(event);
     // Where panels lie over each other, this tells them apart.
     QPainter painter(this);
     painter.setPen(Qt::black);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    painter.setPen(kLicht);
+    painter.setPen(kLight);
     painter.drawRect(rect().adjusted(1, 1, -2, -2));
 }
 
-QPushButton* Feld::NeuerHideKnopf(const QString& name) {
-    QPushButton* const knopf = NeuerKnopf(name, QStringLiteral("Hide"), this);
+QPushButton* Panel::NewHideButton(const QString& name) {
+    QPushButton* const button = NewButton(name, QStringLiteral("Hide"), this);
     // The style alone would make the red paler.
-    knopf->setStyleSheet(
+    button->setStyleSheet(
         QStringLiteral("QPushButton { background: rgb(255, 0, 0); border: 1px solid rgb(110, 0, 0);"
                        " border-radius: 3px; }"
                        "QPushButton:focus { border: 2px solid black; }"
                        "QPushButton:pressed { background: rgb(200, 0, 0); }"));
-    connect(knopf, &QPushButton::clicked, this, &QWidget::hide);
-    return knopf;
+    connect(button, &QPushButton::clicked, this, &QWidget::hide);
+    return button;
 }
 
 }  // namespace tarvelin

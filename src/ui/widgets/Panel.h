@@ -6,24 +6,24 @@
 namespace tarvelin {
 
 /// A red panel that hides what lies under it.
-class Feld : public Gruppe {
+class Panel : public GroupBox {
     Q_OBJECT
 
   public:
     /// Place and size in twips.
-    Feld(const QString& name, const QString& titel, const QRect& twips, QWidget* parent);
+    Panel(const QString& name, const QString& title, const QRect& twips, QWidget* parent);
 
     /// The keyboard goes to the panel's first control.
-    void NimmFokus() { m_erstes->setFocus(Qt::OtherFocusReason); }
+    void TakeFocus() { m_first->setFocus(Qt::OtherFocusReason); }
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-    void SetzeErstes(QWidget* steuerelement) { m_erstes = steuerelement; }
+    void SetFirstControl(QWidget* control) { m_first = control; }
     /// The button "Hide", which hides the panel.
-    [[nodiscard]] QPushButton* NeuerHideKnopf(const QString& name);
+    [[nodiscard]] QPushButton* NewHideButton(const QString& name);
 
   private:
-    QWidget* m_erstes = this;
+    QWidget* m_first = this;
 };
 
 }  // namespace tarvelin

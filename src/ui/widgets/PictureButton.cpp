@@ -5,34 +5,34 @@
 
 namespace tarvelin {
 
-Bildknopf::Bildknopf(const QString& name, const QSize& groesse, const QString& hinweis,
-                     QWidget* parent)
+PictureButton::PictureButton(const QString& name, const QSize& size, const QString& hint,
+                             QWidget* parent)
     : QAbstractButton(parent) {
     setObjectName(name);
-    setAccessibleName(hinweis.trimmed());
-    setToolTip(hinweis);
-    setFixedSize(groesse);
+    setAccessibleName(hint.trimmed());
+    setToolTip(hint);
+    setFixedSize(size);
     setFocusPolicy(Qt::TabFocus);
 }
 
-void Bildknopf::SetzeBild(const QPixmap& bild) {
-    if (!bild.isNull()) {
-        m_bild = bild;
+void PictureButton::SetPicture(const QPixmap& picture) {
+    if (!picture.isNull()) {
+        m_picture = picture;
         update();
     }
 }
 
-void Bildknopf::SetzeBlass(bool blass) {
-    m_blass = blass;
+void PictureButton::SetDimmed(bool pale) {
+    m_pale = pale;
     update();
 }
 
-void Bildknopf::paintEvent(QPaintEvent* /*event*/) {
+void PictureButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    constexpr qreal kBlass = 0.3;
-    painter.setOpacity(m_blass ? kBlass : 1);
-    painter.drawPixmap(rect(), m_bild);
+    constexpr qreal kPale = 0.3;
+    painter.setOpacity(m_pale ? kPale : 1);
+    painter.drawPixmap(rect(), m_picture);
     painter.setOpacity(1);
     if (hasFocus()) {
         painter.setPen(palette().highlight().color());

@@ -6,24 +6,24 @@
 
 namespace tarvelin {
 
-class Bildknopf : public QAbstractButton {
+class PictureButton : public QAbstractButton {
     Q_OBJECT
 
   public:
-    Bildknopf(const QString& name, const QSize& groesse, const QString& hinweis, QWidget* parent);
+    PictureButton(const QString& name, const QSize& size, const QString& hint, QWidget* parent);
 
     /// Scaled to the size of the button. A null picture leaves the one before.
-    void SetzeBild(const QPixmap& bild);
+    void SetPicture(const QPixmap& picture);
 
     /// Shows that a press would be refused.
-    void SetzeBlass(bool blass);
+    void SetDimmed(bool pale);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    QPixmap m_bild;
-    bool m_blass = false;
+    QPixmap m_picture;
+    bool m_pale = false;
 };
 
 }  // namespace tarvelin

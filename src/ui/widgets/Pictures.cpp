@@ -8,25 +8,25 @@ namespace tarvelin {
 namespace {
 
 /// A pointer picture of 32 pixels, drawn for the screen's scale.
-QPixmap LadeZeiger(const std::filesystem::path& datei, qreal skalierung) {
-    constexpr int kSeite = 32;
-    return LadeSymbol(datei).pixmap(QSize(kSeite, kSeite), skalierung);
+QPixmap LoadCursor(const std::filesystem::path& file, qreal scaling) {
+    constexpr int kPage = 32;
+    return LoadIconFile(file).pixmap(QSize(kPage, kPage), scaling);
 }
 
 }  // namespace
 
-QPixmap LadePixmap(const std::filesystem::path& datei) {
-    return {Pfadtext(datei)};
+QPixmap LoadPixmap(const std::filesystem::path& file) {
+    return {PathToQString(file)};
 }
 
-QIcon LadeSymbol(const std::filesystem::path& datei) {
-    return QIcon(Pfadtext(datei));
+QIcon LoadIconFile(const std::filesystem::path& file) {
+    return QIcon(PathToQString(file));
 }
 
-Ziehzeiger LadeZiehzeiger(const std::filesystem::path& bilder, qreal skalierung) {
-    const QPixmap offen = LadeZeiger(bilder / "handopen.ico", skalierung);
-    return {.Offen = offen.isNull() ? QCursor(Qt::OpenHandCursor) : QCursor(offen),
-            .Gezogen = LadeZeiger(bilder / "hand.ico", skalierung)};
+DragCursors LoadDragCursors(const std::filesystem::path& pictures, qreal scaling) {
+    const QPixmap open = LoadCursor(pictures / "handopen.ico", scaling);
+    return {.openHand = open.isNull() ? QCursor(Qt::OpenHandCursor) : QCursor(open),
+            .dragged = LoadCursor(pictures / "hand.ico", scaling)};
 }
 
 }  // namespace tarvelin

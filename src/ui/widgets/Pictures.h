@@ -10,13 +10,13 @@
 namespace tarvelin {
 
 /// The picture of a file, null if it can't be loaded.
-[[nodiscard]] QPixmap LadePixmap(const std::filesystem::path& datei);
+[[nodiscard]] QPixmap LoadPixmap(const std::filesystem::path& file);
 
 /// An icon file with all its sizes; null if it can't be loaded.
-[[nodiscard]] QIcon LadeSymbol(const std::filesystem::path& datei);
+[[nodiscard]] QIcon LoadIconFile(const std::filesystem::path& file);
 
-/// The two hands of `bilder`, in pixels for a screen of this scale. A missing file leaves the
+/// The two hands of `pictures`, in pixels for a screen of this scale. A missing file leaves the
 /// system's open hand, or the dragged picture itself.
-[[nodiscard]] Ziehzeiger LadeZiehzeiger(const std::filesystem::path& bilder, qreal skalierung);
+[[nodiscard]] DragCursors LoadDragCursors(const std::filesystem::path& pictures, qreal scaling);
 
 }  // namespace tarvelin

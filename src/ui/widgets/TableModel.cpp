@@ -6,57 +6,55 @@
 
 namespace tarvelin {
 
-Tabellenmodell::Tabellenmodell(QStringList ueberschriften, Quelle quelle, QObject* parent)
-    : QAbstractTableModel(parent),
-      m_ueberschriften(std::move(ueberschriften)),
-      m_quelle(std::move(quelle)) {}
+TableModel::TableModel(QStringList headers, Provider source, QObject* parent)
+    : QAbstractTableModel(parent), m_headers(std::move(headers)), m_source(std::move(source)) {}
 
-void Tabellenmodell::Aktualisiere() {
-    const auto zeilen = static_cast<int>(m_quelle.Zeilen());
-    if (zeilen > m_zeilen) {
-        beginInsertRows({}, m_zeilen, zeilen - 1);
-        m_zeilen = zeilen;
+void TableModel::Refresh() {
+    const auto rows = static_cast<int>(m_source.rows());
+    if (rows > m_rows) {
+        beginInsertRows({}, m_rows, rows - 1);
+        m_rows = rows;
         endInsertRows();
-    } else if (zeilen < m_zeilen) {
-        beginRemoveRows({}, zeilen, m_zeilen - 1);
-        m_zeilen = zeilen;
+    } else if (rows < m_rows) {
+        beginRemoveRows({}, rows, m_rows - 1);
+        m_rows = rows;
         endRemoveRows();
     }
-    if (zeilen > 0) {
-        emit dataChanged(index(0, 0), index(zeilen - 1, columnCount() - 1));
+    if (rows > 0) {
+        emit dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
     }
 }
 
-int Tabellenmodell::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : m_zeilen;
+int TableModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : m_rows;
 }
 
-int Tabellenmodell::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_ueberschriften.size());
+int TableModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_headers.size());
 }
 
-QVariant Tabellenmodell::data(const QModelIndex& index, int role) const {
-    const auto zeile = static_cast<std::size_t>(index.row());
+QVariant TableModel::data(const QModelIndex& index, int role) const {
+    const auto row = static_cast<std::size_t>(index.row());
     // A view may ask while rows are going.
-    if (!index.isValid() || zeile >= m_quelle.Zeilen()) {
+    if (!index.isValid() || row >= m_source.rows()) {
         return {};
     }
     if (role == Qt::DisplayRole) {
-        return m_quelle.Text(zeile, index.column());
+        return m_source.text(row, index.column());
     }
-    if (role == Qt::ForegroundRole && m_quelle.Farbe) {
-        return m_quelle.Farbe(zeile, index.column());
+    if (role == Qt::ForegroundRole && m_source.color) {
+        return m_source.color(row, index.column());
     }
     if ((role == Qt::AccessibleDescriptionRole || role == Qt::ToolTipRole) &&
-        m_quelle.Beschreibung) {
-        return m_quelle.Beschreibung(zeile);
+        m_source.description) {
+        return m_source.description(row);
     }
     return {};
 }
 
-QVariant Tabellenmodell::headerData(int section, Qt::Orientation orientation, int role) const {
+QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation == Qt::Horizontal && role == Qt::DisplayRole) {
-        return m_ueberschriften.value(section);
+        return m_headers.value(section);
     }
     return {};
 }

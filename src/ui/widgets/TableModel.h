@@ -8,24 +8,24 @@
 namespace tarvelin {
 
 /// Reads its rows when the view asks, and keeps no copy. Rows may come or go at the end; after any
-/// change `Aktualisiere` tells the view.
-class Tabellenmodell : public QAbstractTableModel {
+/// change `Refresh` tells the view.
+class TableModel : public QAbstractTableModel {
     Q_OBJECT
 
   public:
-    struct Quelle {
-        std::function<std::size_t()> Zeilen;
+    struct Provider {
+        std::function<std::size_t()> rows;
         /// The text of a cell; row and column count from 0.
-        std::function<QString(std::size_t, int)> Text;
+        std::function<QString(std::size_t, int)> text;
         /// Beside the text, where a list has them: colour of a cell, and the hint of a row, which a
         /// screen reader adds.
-        std::function<QColor(std::size_t, int)> Farbe = {};
-        std::function<QString(std::size_t)> Beschreibung = {};
+        std::function<QColor(std::size_t, int)> color = {};
+        std::function<QString(std::size_t)> description = {};
     };
 
-    Tabellenmodell(QStringList ueberschriften, Quelle quelle, QObject* parent);
+    TableModel(QStringList headers, Provider source, QObject* parent);
 
-    void Aktualisiere();
+    void Refresh();
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
@@ -34,9 +34,9 @@ class Tabellenmodell : public QAbstractTableModel {
                                       int role) const override;
 
   private:
-    QStringList m_ueberschriften;
-    Quelle m_quelle;
-    int m_zeilen = 0;
+    QStringList m_headers;
+    Provider m_source;
+    int m_rows = 0;
 };
 
 }  // namespace tarvelin

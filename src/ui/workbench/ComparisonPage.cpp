@@ -17,7 +17,7 @@ Vergleichsfeld::Vergleichsfeld(const Umgebung& umgebung, QWidget* parent)
       m_merken(new QPushButton(QStringLiteral("&Merken"), this)),
       m_datei(new QPushButton(QStringLiteral("Mit &Datei..."), this)),
       m_ohne(new QPushButton(QStringLiteral("&Ohne"), this)),
-      m_name(NeuesLabel(QStringLiteral("LBL_Vergleich"), {}, this)),
+      m_name(NewLabel(QStringLiteral("LBL_Vergleich"), {}, this)),
       m_kennzahlliste(NeueTabelle("LV_Kennzahlen", "Kennzahlen im Vergleich", "", m_kennzahlen,
                                   &m_kennzahlmodell)),
       m_auftragsliste(NeueTabelle("LV_Unterschiede", "Aufträge zu anderer Zeit", "Auftrag",
@@ -40,20 +40,20 @@ Vergleichsfeld::~Vergleichsfeld() {
     delete m_auftragsliste;
 }
 
-Liste* Vergleichsfeld::NeueTabelle(const char* name, const char* bedeutung, const char* erste,
-                                   const std::vector<ComparisonText>& zeilen,
-                                   Tabellenmodell** modell) {
-    *modell = new Tabellenmodell(
+ListView* Vergleichsfeld::NeueTabelle(const char* name, const char* bedeutung, const char* erste,
+                                      const std::vector<ComparisonText>& zeilen,
+                                      TableModel** modell) {
+    *modell = new TableModel(
         {QString::fromUtf8(erste), QStringLiteral("dort"), QStringLiteral("hier"),
          QStringLiteral("Unterschied")},
-        {.Zeilen = [&zeilen] { return zeilen.size(); },
-         .Text =
+        {.rows = [&zeilen] { return zeilen.size(); },
+         .text =
              [&zeilen](std::size_t zeile, int spalte) {
-                 return AlsQString(zeilen[zeile].at(static_cast<std::size_t>(spalte)));
+                 return ToQString(zeilen[zeile].at(static_cast<std::size_t>(spalte)));
              }},
         this);
     auto* const tabelle =
-        new Liste(QString::fromLatin1(name), QString::fromUtf8(bedeutung), {12, 9, 9, 8}, this);
+        new ListView(QString::fromLatin1(name), QString::fromUtf8(bedeutung), {12, 9, 9, 8}, this);
     tabelle->setModel(*modell);
     tabelle->setTextElideMode(Qt::ElideRight);
     return tabelle;
@@ -92,14 +92,14 @@ void Vergleichsfeld::LadeDatei() {
     if (datei.empty()) {
         return;
     }
-    const PlanRun lauf(Pfadtext(datei.filename()).toStdString(),
+    const PlanRun lauf(PathToQString(datei.filename()).toStdString(),
                        IniFile::Load(datei, m_umgebung.Dateien));
     if (!lauf.hasRun) {
         emit Meldung(lauf.messages.empty() ? "" : lauf.messages.back().text);
         return;
     }
     emit Meldung(lauf.run.state.IsAtEndOfClock() ? BeyondClockText() : "");
-    Setze(lauf.Trace(), QStringLiteral("Verglichen mit ") + AlsQString(lauf.name));
+    Setze(lauf.Trace(), QStringLiteral("Verglichen mit ") + ToQString(lauf.name));
 }
 
 void Vergleichsfeld::Ohne() {
@@ -121,8 +121,8 @@ void Vergleichsfeld::Vergleiche() {
         m_kennzahlen = SummaryTexts(vergleich);
         m_auftraege = OrderDifferences(vergleich);
     }
-    m_kennzahlmodell->Aktualisiere();
-    m_auftragsmodell->Aktualisiere();
+    m_kennzahlmodell->Refresh();
+    m_auftragsmodell->Refresh();
     m_merken->setEnabled(m_dieser.has_value());
     m_ohne->setEnabled(m_anderer.has_value());
 }

@@ -39,8 +39,8 @@ class Vergleichsfeld : public QWidget {
 
   private:
     void LegeAus();
-    Liste* NeueTabelle(const char* name, const char* bedeutung, const char* erste,
-                       const std::vector<ComparisonText>& zeilen, Tabellenmodell** modell);
+    ListView* NeueTabelle(const char* name, const char* bedeutung, const char* erste,
+                          const std::vector<ComparisonText>& zeilen, TableModel** modell);
     void Merke();
     void LadeDatei();
     void Ohne();
@@ -56,10 +56,10 @@ class Vergleichsfeld : public QWidget {
     QPushButton* m_datei;
     QPushButton* m_ohne;
     QLabel* m_name;
-    Tabellenmodell* m_kennzahlmodell = nullptr;
-    Tabellenmodell* m_auftragsmodell = nullptr;
-    Liste* m_kennzahlliste;
-    Liste* m_auftragsliste;
+    TableModel* m_kennzahlmodell = nullptr;
+    TableModel* m_auftragsmodell = nullptr;
+    ListView* m_kennzahlliste;
+    ListView* m_auftragsliste;
 };
 
 }  // namespace tarvelin

@@ -30,13 +30,13 @@ Itempalette::Itempalette(QWidget* parent) : QWidget(parent), m_layout(new QGridL
 
 void Itempalette::BaueBilder() {
     int platz = 0;
-    for (const Itemansicht& ansicht : Itemansichten()) {
-        auto* const bild = new Palettenbild(AlsQString(ansicht.Bild), QSize(0, 0), {}, this);
-        bild->setAccessibleName(AlsQString(RowOf(ansicht.Item).name));
+    for (const ItemDisplay& ansicht : ItemDisplays()) {
+        auto* const bild = new Palettenbild(ToQString(ansicht.pictureName), QSize(0, 0), {}, this);
+        bild->setAccessibleName(ToQString(RowOf(ansicht.item).name));
         m_layout->addWidget(bild, platz / kJeZeile, platz % kJeZeile);
         connect(bild, &QAbstractButton::clicked, this,
-                [this, item = ansicht.Item] { emit ItemGewaehlt(item); });
-        m_bilder[ansicht.Item] = bild;
+                [this, item = ansicht.item] { emit ItemGewaehlt(item); });
+        m_bilder[ansicht.item] = bild;
         ++platz;
     }
 }
@@ -72,18 +72,18 @@ void Itempalette::BaueProduktion() {
 }
 
 void Itempalette::SetzeBilder(const PerItem<QPixmap>& bilder) {
-    for (const Itemansicht& ansicht : Itemansichten()) {
-        m_bilder[ansicht.Item]->SetzeBild(bilder[ansicht.Item]);
+    for (const ItemDisplay& ansicht : ItemDisplays()) {
+        m_bilder[ansicht.item]->SetPicture(bilder[ansicht.item]);
     }
 }
 
 void Itempalette::SetzeEinwaende(const std::function<std::optional<std::string>(ItemId)>& einwand) {
-    for (const Itemansicht& ansicht : Itemansichten()) {
-        const auto wort = einwand(ansicht.Item);
-        Palettenbild& bild = *m_bilder[ansicht.Item];
-        bild.SetzeBlass(wort.has_value());
-        const QString grund = AlsQString(wort.value_or(""));
-        SetzeHinweis(bild, wort ? grund : AlsQString(RowOf(ansicht.Item).name));
+    for (const ItemDisplay& ansicht : ItemDisplays()) {
+        const auto wort = einwand(ansicht.item);
+        Palettenbild& bild = *m_bilder[ansicht.item];
+        bild.SetDimmed(wort.has_value());
+        const QString grund = ToQString(wort.value_or(""));
+        SetHint(bild, wort ? grund : ToQString(RowOf(ansicht.item).name));
         bild.setAccessibleDescription(grund);
     }
 }

@@ -30,20 +30,20 @@ std::vector<int> Spaltenbreiten() {
 }
 
 /// Rows that can be dragged.
-class Zeilenmodell : public Tabellenmodell {
+class Zeilenmodell : public TableModel {
   public:
-    using Tabellenmodell::Tabellenmodell;
+    using TableModel::TableModel;
 
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override {
-        const auto flags = Tabellenmodell::flags(index);
+        const auto flags = TableModel::flags(index);
         return index.isValid() ? flags | Qt::ItemIsDragEnabled : flags;
     }
 };
 
 }  // namespace
 
-Auftragsansicht::Auftragsansicht(const Tabellenmodell::Quelle& quelle, QWidget* parent)
-    : Liste(QStringLiteral("LV_Werkbank"), QStringLiteral("Aufträge"), Spaltenbreiten(), parent),
+Auftragsansicht::Auftragsansicht(const TableModel::Provider& quelle, QWidget* parent)
+    : ListView(QStringLiteral("LV_Werkbank"), QStringLiteral("Aufträge"), Spaltenbreiten(), parent),
       m_modell(new Zeilenmodell(
           {QStringLiteral("Nr."), QStringLiteral("Auftrag"), QStringLiteral("Start"),
            QStringLiteral("Fertig"), QStringLiteral("Grund"), QStringLiteral("Prod %")},
@@ -58,7 +58,7 @@ Auftragsansicht::Auftragsansicht(const Tabellenmodell::Quelle& quelle, QWidget* 
 }
 
 void Auftragsansicht::Aktualisiere(const std::vector<std::size_t>& gewaehlt) {
-    m_modell->Aktualisiere();
+    m_modell->Refresh();
     Waehle(gewaehlt);
 }
 
@@ -110,7 +110,7 @@ int Auftragsansicht::ZielBei(const QPoint& ort) const {
 
 void Auftragsansicht::NimmAn(QDropEvent& event) {
     const bool zeilen = event.source() == this && event.mimeData()->hasFormat(kZeilen);
-    const bool bild = event.mimeData()->hasFormat(kItemformat) && event.source() != nullptr;
+    const bool bild = event.mimeData()->hasFormat(kItemMimeType) && event.source() != nullptr;
     event.setDropAction(zeilen ? Qt::MoveAction : Qt::CopyAction);
     event.setAccepted(zeilen || bild);
     m_ziel = event.isAccepted() ? ZielBei(event.position().toPoint()) : -1;
@@ -143,12 +143,12 @@ void Auftragsansicht::dropEvent(QDropEvent* event) {
     if (event->source() == this) {
         emit Verschoben(ziel);
     } else if (event->isAccepted()) {
-        emit BildAbgelegt(QString::fromUtf8(event->mimeData()->data(kItemformat)), ziel);
+        emit BildAbgelegt(QString::fromUtf8(event->mimeData()->data(kItemMimeType)), ziel);
     }
 }
 
 void Auftragsansicht::paintEvent(QPaintEvent* event) {
-    Liste::paintEvent(event);
+    ListView::paintEvent(event);
     if (m_ziel < 0) {
         return;
     }

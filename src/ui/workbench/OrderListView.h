@@ -9,11 +9,11 @@
 namespace tarvelin {
 
 /// Rows can be dragged within the list; pictures of the palette can be dropped between them.
-class Auftragsansicht : public Liste {
+class Auftragsansicht : public ListView {
     Q_OBJECT
 
   public:
-    explicit Auftragsansicht(const Tabellenmodell::Quelle& quelle, QWidget* parent);
+    explicit Auftragsansicht(const TableModel::Provider& quelle, QWidget* parent);
 
     /// Tells that the rows have changed; these are chosen then, the first of them in sight.
     void Aktualisiere(const std::vector<std::size_t>& gewaehlt);
@@ -40,7 +40,7 @@ class Auftragsansicht : public Liste {
     void NimmAn(QDropEvent& event);
     [[nodiscard]] int ZielBei(const QPoint& ort) const;
 
-    Tabellenmodell* m_modell;
+    TableModel* m_modell;
     /// Where a drag would drop, while it lasts.
     int m_ziel = -1;
 };

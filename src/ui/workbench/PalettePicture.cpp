@@ -12,18 +12,18 @@ namespace tarvelin {
 
 void Palettenbild::mousePressEvent(QMouseEvent* event) {
     m_gedrueckt = event->pos();
-    Bildknopf::mousePressEvent(event);
+    PictureButton::mousePressEvent(event);
 }
 
 void Palettenbild::mouseMoveEvent(QMouseEvent* event) {
-    Bildknopf::mouseMoveEvent(event);
+    PictureButton::mouseMoveEvent(event);
     if ((event->buttons() & Qt::LeftButton) == 0 ||
         (event->pos() - m_gedrueckt).manhattanLength() < QApplication::startDragDistance()) {
         return;
     }
     setDown(false);
     auto* const daten = new QMimeData;
-    daten->setData(kItemformat, objectName().toUtf8());
+    daten->setData(kItemMimeType, objectName().toUtf8());
     // The toolkit deletes the drag when it is over.
     auto* const drag = new QDrag(this);
     drag->setMimeData(daten);

@@ -5,11 +5,11 @@
 
 namespace tarvelin {
 
-class Palettenbild : public Bildknopf {
+class Palettenbild : public PictureButton {
     Q_OBJECT
 
   public:
-    using Bildknopf::Bildknopf;
+    using PictureButton::PictureButton;
 
   protected:
     void mouseMoveEvent(QMouseEvent* event) override;

@@ -88,7 +88,7 @@ Suchfeld::Suchfeld(const Plan& plan, const Umgebung& umgebung,
       m_uebernehmen(NeuerSuchknopf("Cmd_Uebernehmen", "Über&nehmen", this)),
       m_balken(Neu<QProgressBar>("Suchbalken", "Fortschritt der Suche", this)),
       m_kurve(new Bestenkurve(this)),
-      m_stand(NeuesLabel(QStringLiteral("LBL_Suche"), {}, this)) {
+      m_stand(NewLabel(QStringLiteral("LBL_Suche"), {}, this)) {
     setObjectName(QStringLiteral("Suchfeld"));
     m_stand->setWordWrap(true);
     m_stand->setAlignment(Qt::AlignLeft | Qt::AlignTop);
@@ -229,7 +229,7 @@ void Suchfeld::ZeigeStand(const SearchProgress& stand) {
     const double anteil = Anteil(stand.tries, stand.totalTries);
     m_balken->setValue(InProzent(anteil));
     m_kurve->Merke(anteil, stand.bestDuration);
-    m_stand->setText(AlsQString(
+    m_stand->setText(ToQString(
         "Bisher: " + TimeSpanText(stand.bestDuration) + " (" + SignedTimeSpanText(-stand.gain) +
         ")\n" + std::to_string(stand.tries) + " von " + std::to_string(stand.totalTries) +
         " Versuchen, " + std::to_string(std::int64_t(stand.triesPerSecond)) + " in der Sekunde"));
@@ -241,7 +241,7 @@ void Suchfeld::ZeigeErgebnis(const SearchResult& ergebnis) {
     m_gesucht->Bester = ergebnis.best;
     m_balken->setValue(InProzent(Anteil(ergebnis.tries, ergebnis.totalTries)));
     m_stand->setText(ergebnis.best
-                         ? AlsQString(Bericht() + "\nVersuche: " + std::to_string(ergebnis.tries))
+                         ? ToQString(Bericht() + "\nVersuche: " + std::to_string(ergebnis.tries))
                          : QStringLiteral("Es wurde keine Liste gefunden, die endet."));
     Schalte();
 }

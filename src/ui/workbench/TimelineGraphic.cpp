@@ -139,7 +139,7 @@ class Zeitbild::Maler {
                 m_painter.setPen(blass);
                 m_painter.drawLine(QPointF(x, m_bild.Achse()), QPointF(x, unten.bottom()));
                 m_painter.setPen(m_bild.m_farben.Text);
-                m_painter.drawText(QPointF(x + kRand, mass.ascent() + kRand), AlsQString(text));
+                m_painter.drawText(QPointF(x + kRand, mass.ascent() + kRand), ToQString(text));
             });
     }
 
@@ -210,7 +210,7 @@ class Zeitbild::Maler {
         m_painter.setPen(m_bild.m_farben.Text);
         m_painter.drawText(
             platz, static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter),
-            mass.elidedText(AlsQString(OrderText(start)), Qt::ElideRight, platz.width()));
+            mass.elidedText(ToQString(OrderText(start)), Qt::ElideRight, platz.width()));
     }
 
     void MaleProduktionen() {

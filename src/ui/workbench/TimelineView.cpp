@@ -282,7 +282,7 @@ void Zeitleiste::drawForeground(QPainter* painter, const QRectF& rect) {
         const auto jetzt = static_cast<qreal>(*m_jetzt - ablauf.conditions.StartDate);
         linie(jetzt, m_bild->Farben().Jetzt);
         const QPoint ort = mapFromScene(QPointF(jetzt, 0));
-        const QString text = QStringLiteral("jetzt: ") + AlsQString(*naechster);
+        const QString text = QStringLiteral("jetzt: ") + ToQString(*naechster);
         const QFontMetrics mass(font());
         const bool links = ort.x() + mass.horizontalAdvance(text) > viewport()->width();
         painter->save();

@@ -58,7 +58,7 @@ QPalette AlsEigene(const QPalette& farben) {
 }
 
 QLabel* NeueZeile(const char* name, const char* bedeutung, QWidget* parent) {
-    QLabel* const label = NeuesLabel(QString::fromLatin1(name), {}, parent);
+    QLabel* const label = NewLabel(QString::fromLatin1(name), {}, parent);
     label->setAccessibleDescription(QString::fromUtf8(bedeutung));
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return label;
@@ -86,7 +86,7 @@ frmWerkbank::frmWerkbank(const Plan& plan, const EditHistory& verlauf,
       m_LBL_Naechster(NeueZeile("LBL_Naechster", "Nächster Auftrag", this)) {
     setObjectName(QStringLiteral("frmWerkbank"));
     setWindowTitle(QStringLiteral("Tarvelin  |  Werkbank"));
-    setWindowIcon(LadeSymbol(umgebung.Programmordner / "img" / "icon.ico"));
+    setWindowIcon(LoadIconFile(umgebung.Programmordner / "img" / "icon.ico"));
     setAttribute(Qt::WA_QuitOnClose, false);
     LegeAus();
     Verbinde();
@@ -195,7 +195,7 @@ void frmWerkbank::Verbinde() {
     });
     connect(m_liste, &Auftragsansicht::BildAbgelegt, this,
             [this](const QString& bild, std::size_t vor) {
-                if (const auto item = ItemVonBild(bild.toStdString())) {
+                if (const auto item = ItemFromPicture(bild.toStdString())) {
                     FuegeEin(RowOf(*item).ItemCode, vor);
                 }
             });
@@ -225,7 +225,7 @@ void frmWerkbank::SetzeMeldungshoehe() {
 void frmWerkbank::FolgeDesktop() {
     const QPalette farben = m_umgebung.Desktopfarben();
     setPalette(AlsEigene(farben));
-    setFont(Desktopschrift());
+    setFont(DesktopFont());
     SetzeMeldungshoehe();
     m_zeitleiste->SetzeAussehen(farben, font());
     // Scrolled up and down only.
@@ -343,10 +343,9 @@ void frmWerkbank::Spiele() {
 
 void frmWerkbank::ZeigeFuss() {
     m_LBL_Dauer->setText(m_ablauf
-                             ? QStringLiteral("Dauer: ") + AlsQString(DurationText(m_ablauf->end))
+                             ? QStringLiteral("Dauer: ") + ToQString(DurationText(m_ablauf->end))
                              : QStringLiteral("Dauer: -"));
-    m_LBL_Aenderung->setText(m_aenderung ? AlsQString(SignedTimeSpanText(*m_aenderung))
-                                         : QString());
+    m_LBL_Aenderung->setText(m_aenderung ? ToQString(SignedTimeSpanText(*m_aenderung)) : QString());
     m_zurueck->setEnabled(m_verlauf.CanUndo());
     m_vor->setEnabled(m_verlauf.CanRedo());
 }
@@ -375,7 +374,7 @@ void frmWerkbank::ZeigeEinwaende() {
 }
 
 void frmWerkbank::ZeigeZeiger(std::optional<SimTime> moment) {
-    m_LBL_Stand->setText(m_ablauf && moment ? AlsQString(Standtext(*m_ablauf, *moment))
+    m_LBL_Stand->setText(m_ablauf && moment ? ToQString(Standtext(*m_ablauf, *moment))
                                             : QStringLiteral("\n"));
     m_zeitleiste->setAccessibleDescription(m_LBL_Stand->text());
 }
@@ -384,12 +383,12 @@ void frmWerkbank::Ticke() {
     const DateTime jetzt = m_umgebung.Jetzt();
     m_zeitleiste->SetzeJetzt(jetzt);
     const auto naechster = m_ablauf ? NaechsterAuftrag(*m_ablauf, jetzt) : std::nullopt;
-    m_LBL_Naechster->setText(naechster ? QStringLiteral("Als Nächstes: ") + AlsQString(*naechster)
+    m_LBL_Naechster->setText(naechster ? QStringLiteral("Als Nächstes: ") + ToQString(*naechster)
                                        : QString());
 }
 
 void frmWerkbank::Melde(const std::string& text) {
-    m_LBL_Meldung->setText(AlsQString(text).trimmed());
+    m_LBL_Meldung->setText(ToQString(text).trimmed());
     // Its place has no room for more than two lines.
     m_LBL_Meldung->setToolTip(m_LBL_Meldung->text());
     if (!text.empty()) {
@@ -449,7 +448,7 @@ void frmWerkbank::BildSpeichern() {
     if (datei.empty()) {
         return;
     }
-    const auto bild = BildVon(*m_zeitleiste, QFileInfo(Pfadtext(datei)).suffix());
+    const auto bild = BildVon(*m_zeitleiste, QFileInfo(PathToQString(datei)).suffix());
     if (!bild) {
         Melde(std::string("Der Name des Bildes endet auf .png, ") + (KannSvg() ? ".svg " : "") +
               "oder .pdf: es wurde nichts gespeichert.");
@@ -460,8 +459,8 @@ void frmWerkbank::BildSpeichern() {
 
 void frmWerkbank::Kopieren() {
     auto* const inhalt = new QMimeData;
-    inhalt->setText(AlsQString(ZeitplanMitTabs(*m_ablauf)));
-    inhalt->setHtml(AlsQString(ZeitplanAlsTabelle(*m_ablauf)));
+    inhalt->setText(ToQString(ZeitplanMitTabs(*m_ablauf)));
+    inhalt->setHtml(ToQString(ZeitplanAlsTabelle(*m_ablauf)));
     // The clipboard owns it.
     QGuiApplication::clipboard()->setMimeData(inhalt);
     Melde("Der Zeitplan liegt in der Zwischenablage.");
@@ -478,7 +477,7 @@ void frmWerkbank::KalenderSpeichern() {
 
 void frmWerkbank::SchreibeDatei(const std::filesystem::path& datei, const std::string& bytes) {
     if (WriteFileAtomically(datei, bytes, m_umgebung.Dateien)) {
-        Melde("Gespeichert: " + Pfadtext(datei).toStdString());
+        Melde("Gespeichert: " + PathToQString(datei).toStdString());
     } else {
         Melde(
             "Die Datei konnte nicht gespeichert werden: wähle einen Ordner, in dem du schreiben "
@@ -486,25 +485,25 @@ void frmWerkbank::SchreibeDatei(const std::filesystem::path& datei, const std::s
     }
 }
 
-Tabellenmodell::Quelle frmWerkbank::Listenquelle() const {
-    return {.Zeilen = [this] { return m_plan.LV_Bauliste.Rows().size(); },
-            .Text = [this](std::size_t zeile,
-                           int spalte) { return AlsQString(Zellentext(zeile, spalte)); },
-            .Farbe =
+TableModel::Provider frmWerkbank::Listenquelle() const {
+    return {.rows = [this] { return m_plan.LV_Bauliste.Rows().size(); },
+            .text = [this](std::size_t zeile,
+                           int spalte) { return ToQString(Zellentext(zeile, spalte)); },
+            .color =
                 [this](std::size_t zeile, int spalte) {
                     const bool rot =
                         spalte == kFaktor &&
                         m_plan.LV_Bauliste.Rows()[zeile].SubItems2Color == TextColor::Red;
                     return rot ? m_zeitleiste->Mangelfarbe() : palette().color(QPalette::Text);
                 },
-            .Beschreibung =
+            .description =
                 [this](std::size_t zeile) {
                     // Narrow columns cut their texts.
                     std::string text = Zellentext(zeile, kAuftrag);
                     for (const int spalte : {kStart, kFertig, kGrund}) {
                         text += "\n" + Zellentext(zeile, spalte);
                     }
-                    return AlsQString(text).trimmed();
+                    return ToQString(text).trimmed();
                 }};
 }
 

@@ -92,7 +92,7 @@ class frmWerkbank : public QWidget {
     void SchreibeDatei(const std::filesystem::path& datei, const std::string& bytes);
     /// In front of which row a new one goes: the first that is chosen, or behind the last.
     [[nodiscard]] std::size_t Einfuegestelle() const;
-    [[nodiscard]] Tabellenmodell::Quelle Listenquelle() const;
+    [[nodiscard]] TableModel::Provider Listenquelle() const;
     [[nodiscard]] std::string Zellentext(std::size_t zeile, int spalte) const;
 
     const Plan& m_plan;
