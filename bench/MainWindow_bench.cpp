@@ -18,42 +18,42 @@
 namespace tarvelin {
 namespace {
 
-class Stumm final : public Dialoge {
+class Stumm final : public Dialogs {
   public:
     void Show(const Message& /*meldung*/) override {}
-    bool ZeigeAbstellbar(const Message& /*meldung*/) override { return true; }
+    bool ShowSuppressible(const Message& /*meldung*/) override { return true; }
     void Beep() override {}
-    bool Stelle(const Frage& /*frage*/) override { return false; }
-    std::filesystem::path FragNachDatei(Zweck /*zweck*/,
-                                        const std::filesystem::path& /*ordner*/) override {
+    bool Ask(const Question& /*frage*/) override { return false; }
+    std::filesystem::path AskForFile(Purpose /*zweck*/,
+                                     const std::filesystem::path& /*ordner*/) override {
         return {};
     }
-    void Beende() override {}
+    void CloseAll() override {}
 };
 
-class KeinNetz final : public Abruf {
+class KeinNetz final : public Fetcher {
   public:
-    std::optional<std::string> Hole(const std::string& /*adresse*/) override { return {}; }
-    void Atme() override {}
-    void BrichAb() override {}
+    std::optional<std::string> Fetch(const std::string& /*adresse*/) override { return {}; }
+    void ProcessEvents() override {}
+    void Abort() override {}
 };
 
-class KeinTon final : public Klang {
+class KeinTon final : public Sound {
   public:
-    void Spiele(const std::filesystem::path& /*datei*/) override {}
+    void Play(const std::filesystem::path& /*datei*/) override {}
 };
 
 struct Welt {
     Stumm Boxen;
     KeinNetz Netz;
     KeinTon Ton;
-    tarvelin::Umgebung Umgebung{
-        .Boxen = Boxen,
-        .Netz = Netz,
-        .Ton = Ton,
-        .Jetzt = [] { return *ParseDateTime("18.11.2006 12:30:00"); },
-        .OeffneSeite = [](const std::string&) {},
-        .Programmordner = QCoreApplication::applicationDirPath().toStdString()};
+    tarvelin::Environment Umgebung{
+        .dialogs = Boxen,
+        .fetcher = Netz,
+        .sound = Ton,
+        .now = [] { return *ParseDateTime("18.11.2006 12:30:00"); },
+        .openPage = [](const std::string&) {},
+        .programFolder = QCoreApplication::applicationDirPath().toStdString()};
 };
 
 /// Shown, with every event behind it that painting takes.

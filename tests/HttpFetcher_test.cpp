@@ -95,7 +95,7 @@ constexpr const char* kStuecke = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\
 
 TEST(Netzabruf, HoltNurGanzesUndGutes) {
     Server server;
-    Netzabruf netz;
+    HttpFetcher netz;
     const std::string bytes("a\0b\xff\r\n", 6);
     server.Antworten = {
         {"/gut", Gut(bytes)},
@@ -111,21 +111,21 @@ TEST(Netzabruf, HoltNurGanzesUndGutes) {
     // A connection that stays open serves the next one too.
     for (const bool schliessen : {true, false}) {
         server.Schliessen = schliessen;
-        EXPECT_EQ(netz.Hole(server.Adresse("/gut")), bytes);
-        EXPECT_EQ(netz.Hole(server.Adresse("/leer")), "");
-        EXPECT_EQ(netz.Hole(server.Adresse("/stuecke")), "hallo!");
-        EXPECT_EQ(netz.Hole(server.Adresse("/anhang")), "da");
+        EXPECT_EQ(netz.Fetch(server.Adresse("/gut")), bytes);
+        EXPECT_EQ(netz.Fetch(server.Adresse("/leer")), "");
+        EXPECT_EQ(netz.Fetch(server.Adresse("/stuecke")), "hallo!");
+        EXPECT_EQ(netz.Fetch(server.Adresse("/anhang")), "da");
     }
     server.Schliessen = true;
-    EXPECT_EQ(netz.Hole(server.Adresse("/ohnelaenge")), "Inhalt");
+    EXPECT_EQ(netz.Fetch(server.Adresse("/ohnelaenge")), "Inhalt");
     for (const char* const pfad : {"/404", "/500", "/206", "/unsinn"}) {
-        EXPECT_EQ(netz.Hole(server.Adresse(pfad)), std::nullopt) << pfad;
+        EXPECT_EQ(netz.Fetch(server.Adresse(pfad)), std::nullopt) << pfad;
     }
     const int bisher = server.Anfragen;
     for (const char* const adresse :
          {"file:///etc/hostname", "ftp://127.0.0.1/x", "", "http://", "gut", "http:///gut",
           "http://127.0.0.1:1/zu", "data:text/plain,x"}) {
-        EXPECT_EQ(netz.Hole(adresse), std::nullopt) << adresse;
+        EXPECT_EQ(netz.Fetch(adresse), std::nullopt) << adresse;
     }
     EXPECT_EQ(server.Anfragen, bisher);
 }
@@ -133,7 +133,7 @@ TEST(Netzabruf, HoltNurGanzesUndGutes) {
 // Whether a close or a reset follows, at each byte of it.
 TEST(Netzabruf, NimmtNichtsAbgeschnittenes) {
     Server server;
-    Netzabruf netz;
+    HttpFetcher netz;
     struct Fall {
         const char* Name;
         std::string Antwort;
@@ -151,7 +151,7 @@ TEST(Netzabruf, NimmtNichtsAbgeschnittenes) {
             server.Zuruecksetzen = zurueck;
             for (std::size_t n = 0; n < (zurueck ? antwort.size() : ganz); ++n) {
                 server.Antworten["/"] = antwort.substr(0, n);
-                EXPECT_EQ(netz.Hole(server.Adresse("/")), std::nullopt)
+                EXPECT_EQ(netz.Fetch(server.Adresse("/")), std::nullopt)
                     << name << ", " << n << " bytes, " << (zurueck ? "reset" : "closed");
             }
         }
@@ -160,7 +160,7 @@ TEST(Netzabruf, NimmtNichtsAbgeschnittenes) {
 
 TEST(Netzabruf, FolgtHoechstensFuenfUmleitungen) {
     Server server;
-    Netzabruf netz;
+    HttpFetcher netz;
     for (int i = 0; i < 7; ++i) {
         server.Antworten["/" + std::to_string(i)] =
             i == 6 ? Gut("da") : Umleitung(server.Adresse("/" + std::to_string(i + 1)));
@@ -168,30 +168,30 @@ TEST(Netzabruf, FolgtHoechstensFuenfUmleitungen) {
     server.Antworten["/kreis"] = Umleitung("/kreis");
     server.Antworten["/datei"] = Umleitung("file:///etc/hostname");
     server.Antworten["/ftp"] = Umleitung("ftp://127.0.0.1/x");
-    EXPECT_EQ(netz.Hole(server.Adresse("/1")), "da");
-    EXPECT_EQ(netz.Hole(server.Adresse("/0")), std::nullopt);
+    EXPECT_EQ(netz.Fetch(server.Adresse("/1")), "da");
+    EXPECT_EQ(netz.Fetch(server.Adresse("/0")), std::nullopt);
     for (const char* const pfad : {"/kreis", "/datei", "/ftp"}) {
-        EXPECT_EQ(netz.Hole(server.Adresse(pfad)), std::nullopt) << pfad;
+        EXPECT_EQ(netz.Fetch(server.Adresse(pfad)), std::nullopt) << pfad;
     }
 }
 
 TEST(Netzabruf, HaeltGrenzenVonZeitUndGroesseEin) {
     Server server;
-    Netzabruf kleiner({.Bytes = 1000});
+    HttpFetcher kleiner({.bytes = 1000});
     server.Antworten["/genau"] = Gut(std::string(1000, 'x'));
     server.Antworten["/mehr"] = Gut(std::string(1001, 'x'));
-    EXPECT_EQ(kleiner.Hole(server.Adresse("/genau")), std::string(1000, 'x'));
-    EXPECT_EQ(kleiner.Hole(server.Adresse("/mehr")), std::nullopt);
-    EXPECT_EQ(kleiner.Hole(server.Adresse("/endlos")), std::nullopt);
-    Netzabruf kurzer({.Dauer = std::chrono::milliseconds(100)});
-    EXPECT_EQ(kurzer.Hole(server.Adresse("/stumm")), std::nullopt);
+    EXPECT_EQ(kleiner.Fetch(server.Adresse("/genau")), std::string(1000, 'x'));
+    EXPECT_EQ(kleiner.Fetch(server.Adresse("/mehr")), std::nullopt);
+    EXPECT_EQ(kleiner.Fetch(server.Adresse("/endlos")), std::nullopt);
+    HttpFetcher kurzer({.duration = std::chrono::milliseconds(100)});
+    EXPECT_EQ(kurzer.Fetch(server.Adresse("/stumm")), std::nullopt);
     // Bytes that keep coming don't make it longer.
-    EXPECT_EQ(kurzer.Hole(server.Adresse("/tropfen")), std::nullopt);
+    EXPECT_EQ(kurzer.Fetch(server.Adresse("/tropfen")), std::nullopt);
 }
 
 TEST(Netzabruf, EingabenGehenInsLeereUndDasEndeIstSauber) {
     Server server;
-    Netzabruf netz;
+    HttpFetcher netz;
     QPushButton knopf(QStringLiteral("Knopf"));
     int gedrueckt = 0;
     QObject::connect(&knopf, &QPushButton::clicked, [&] { ++gedrueckt; });
@@ -209,11 +209,11 @@ TEST(Netzabruf, EingabenGehenInsLeereUndDasEndeIstSauber) {
         QCoreApplication::sendEvent(&eingabe, &silbe);
         EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
         if (takte >= 5) {
-            netz.BrichAb();
+            netz.Abort();
         }
     });
     takt.start(10);
-    EXPECT_EQ(netz.Hole(server.Adresse("/stumm")), std::nullopt);
+    EXPECT_EQ(netz.Fetch(server.Adresse("/stumm")), std::nullopt);
     takt.stop();
     QCoreApplication::processEvents();
     EXPECT_GE(takte, 5) << "timers go on";
@@ -222,7 +222,7 @@ TEST(Netzabruf, EingabenGehenInsLeereUndDasEndeIstSauber) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     QTest::mouseClick(knopf.windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
     EXPECT_EQ(gedrueckt, 1);
-    netz.BrichAb();
+    netz.Abort();
 }
 
 }  // namespace

@@ -20,7 +20,7 @@
 namespace tarvelin {
 
 /// Keeps messages and questions, and answers at once.
-class Boxenmerker final : public Dialoge {
+class Boxenmerker final : public Dialogs {
   public:
     void Show(const Message& meldung) override {
         if (Beendet) {
@@ -32,27 +32,27 @@ class Boxenmerker final : public Dialoge {
             BeiMeldung();
         }
     }
-    bool ZeigeAbstellbar(const Message& meldung) override {
+    bool ShowSuppressible(const Message& meldung) override {
         Show(meldung);
         return ++Abstellbare < Abstellen;
     }
     void Beep() override {}
-    bool Stelle(const Frage& frage) override {
+    bool Ask(const Question& frage) override {
         if (Beendet) {
             return false;
         }
-        Texte.push_back(frage.Text);
-        Koepfe.emplace_back(frage.Titel, frage.Symbol);
+        Texte.push_back(frage.text);
+        Koepfe.emplace_back(frage.title, frage.icon);
         if (BeiFrage) {
             BeiFrage();
         }
         return Antwort && !Beendet;
     }
-    std::filesystem::path FragNachDatei(Zweck /*zweck*/,
-                                        const std::filesystem::path& ordner) override {
+    std::filesystem::path AskForFile(Purpose /*zweck*/,
+                                     const std::filesystem::path& ordner) override {
         return Datei.empty() || Beendet ? std::filesystem::path() : ordner / Datei;
     }
-    void Beende() override { Beendet = true; }
+    void CloseAll() override { Beendet = true; }
 
     std::vector<std::string> Texte;
     /// Title and icon of each.
@@ -69,9 +69,9 @@ class Boxenmerker final : public Dialoge {
 };
 
 /// Has the files of a table and no others; keeps what was asked.
-class Netzmerker final : public Abruf {
+class Netzmerker final : public Fetcher {
   public:
-    std::optional<std::string> Hole(const std::string& adresse) override {
+    std::optional<std::string> Fetch(const std::string& adresse) override {
         Adressen.push_back(adresse);
         if (BeiAbruf) {
             BeiAbruf();
@@ -79,8 +79,8 @@ class Netzmerker final : public Abruf {
         const auto datei = Dateien.find(adresse);
         return datei == Dateien.end() ? std::nullopt : std::optional(datei->second);
     }
-    void Atme() override {}
-    void BrichAb() override { ++Abgebrochen; }
+    void ProcessEvents() override {}
+    void Abort() override { ++Abgebrochen; }
 
     std::function<void()> BeiAbruf;
     int Abgebrochen = 0;
@@ -89,9 +89,9 @@ class Netzmerker final : public Abruf {
     std::vector<std::string> Adressen;
 };
 
-class Klangmerker final : public Klang {
+class Klangmerker final : public Sound {
   public:
-    void Spiele(const std::filesystem::path& datei) override { Gespielt.push_back(datei); }
+    void Play(const std::filesystem::path& datei) override { Gespielt.push_back(datei); }
 
     std::vector<std::filesystem::path> Gespielt;
 };
@@ -173,12 +173,12 @@ class Fenster : public testing::Test {
     Klangmerker m_ton;
     DateTime m_jetzt = *ParseDateTime("18.11.2006 09:15:00");
     std::vector<std::string> m_seiten;
-    Umgebung m_umgebung{.Boxen = m_boxen,
-                        .Netz = m_netz,
-                        .Ton = m_ton,
-                        .Jetzt = [this] { return m_jetzt; },
-                        .OeffneSeite = [this](const std::string& s) { m_seiten.push_back(s); },
-                        .Programmordner = m_ordner / ""};
+    Environment m_umgebung{.dialogs = m_boxen,
+                           .fetcher = m_netz,
+                           .sound = m_ton,
+                           .now = [this] { return m_jetzt; },
+                           .openPage = [this](const std::string& s) { m_seiten.push_back(s); },
+                           .programFolder = m_ordner / ""};
     frmMain m_fenster{m_umgebung};
 };
 

@@ -199,8 +199,8 @@ TEST_F(Fenster, SkinlisteWirdBeiJedemOeffnenGelesen) {
     for (const char* const name : {"standard", "temp_webskin", "blau"}) {
         std::filesystem::create_directories(ordner / "img" / "skins" / name);
     }
-    Umgebung umgebung = m_umgebung;
-    umgebung.Programmordner = ordner / ".";
+    Environment umgebung = m_umgebung;
+    umgebung.programFolder = ordner / ".";
     // Without any picture the window opens all the same.
     frmMain fenster(umgebung);
     auto* const skins = fenster.findChild<QComboBox*>(QStringLiteral("Comb_Skins"));

@@ -63,7 +63,7 @@ class Druecker {
 
 TEST(Meldungsfenster, ZeigtMeldungenWieSieSind) {
     Druecker druecker(QStringLiteral("OK"));
-    Meldungsfenster().Show({.text = "a < b & <b>c</b>", .title = ""});
+    QtDialogs().Show({.text = "a < b & <b>c</b>", .title = ""});
     EXPECT_EQ(druecker.Titel, QStringLiteral("Tarvelin"));
     EXPECT_EQ(druecker.Text, QStringLiteral("a < b & <b>c</b>"));
     EXPECT_EQ(druecker.Format, Qt::PlainText);
@@ -74,7 +74,7 @@ TEST(Meldungsfenster, ZeigtMeldungenWieSieSind) {
 TEST(Meldungsfenster, FragtAufDeutsch) {
     for (const bool ja : {true, false}) {
         Druecker druecker(ja ? QStringLiteral("Ja") : QStringLiteral("Nein"));
-        EXPECT_EQ(Meldungsfenster().Stelle({.Text = "Wirklich?", .Titel = "Frage..."}), ja);
+        EXPECT_EQ(QtDialogs().Ask({.text = "Wirklich?", .title = "Frage..."}), ja);
         EXPECT_EQ(druecker.Titel, QStringLiteral("Frage..."));
         EXPECT_EQ(druecker.Knoepfe.size(), 2);
     }
@@ -84,12 +84,12 @@ TEST(Meldungsfenster, AbstellbareHabenEinKaestchen) {
     for (const bool ab : {true, false}) {
         Druecker druecker(QStringLiteral("OK"));
         druecker.Kaestchen = ab;
-        EXPECT_EQ(Meldungsfenster().ZeigeAbstellbar({.text = "Nochmal", .title = ""}), !ab);
+        EXPECT_EQ(QtDialogs().ShowSuppressible({.text = "Nochmal", .title = ""}), !ab);
     }
 }
 
 TEST(Meldungsfenster, NimmtAuchDenNamenEinerDateiDieFehlt) {
-    Meldungsfenster boxen;
+    QtDialogs boxen;
     const Ordner ordner;
     SchreibeDatei(ordner / "plan.tvf", std::string(1234, ';'));
     std::set<QString> texte;
@@ -109,18 +109,18 @@ TEST(Meldungsfenster, NimmtAuchDenNamenEinerDateiDieFehlt) {
             ->setText(QStringLiteral("fehlt.tvf"));
         dialog->accept();
     });
-    EXPECT_EQ(boxen.FragNachDatei(Dialoge::Zweck::Laden, ordner / ""), ordner / "fehlt.tvf");
+    EXPECT_EQ(boxen.AskForFile(Dialogs::Purpose::Load, ordner / ""), ordner / "fehlt.tvf");
     EXPECT_TRUE(texte.contains(QStringLiteral("1,21 KiB"))) << "in German, whatever the system";
 }
 
 TEST(Meldungsfenster, AmEndeGehtZuWasOffenIst) {
-    Meldungsfenster boxen;
-    QTimer::singleShot(0, [&] { boxen.Beende(); });
-    EXPECT_FALSE(boxen.Stelle({.Text = "Wirklich?", .Titel = ""}));
+    QtDialogs boxen;
+    QTimer::singleShot(0, [&] { boxen.CloseAll(); });
+    EXPECT_FALSE(boxen.Ask({.text = "Wirklich?", .title = ""}));
     // None of them waits for anybody.
     boxen.Show({.text = "Noch eine", .title = ""});
-    EXPECT_FALSE(boxen.Stelle({.Text = "Und noch eine?", .Titel = ""}));
-    EXPECT_TRUE(boxen.FragNachDatei(Dialoge::Zweck::Laden, ".").empty());
+    EXPECT_FALSE(boxen.Ask({.text = "Und noch eine?", .title = ""}));
+    EXPECT_TRUE(boxen.AskForFile(Dialogs::Purpose::Load, ".").empty());
 }
 
 }  // namespace

@@ -21,8 +21,8 @@ using Fensterleben = Fenster;
 /// One more start of the program in the same folder.
 class NeuerStart {
   public:
-    explicit NeuerStart(const Umgebung& umgebung) : m_fenster(umgebung) {
-        static_cast<Boxenmerker&>(umgebung.Boxen).Beendet = false;
+    explicit NeuerStart(const Environment& umgebung) : m_fenster(umgebung) {
+        static_cast<Boxenmerker&>(umgebung.dialogs).Beendet = false;
         m_fenster.Form_Load();
     }
     ~NeuerStart() { m_fenster.close(); }
@@ -102,7 +102,7 @@ TEST_F(Fensterleben, PlanAlsArgumentStattDesLetzten) {
     const auto saves = m_ordner / "saves";
     const std::string letzter = LiesDatei(saves / "autosave.tvf");
     ASSERT_TRUE(SaveBauliste(saves / "meiner.tvf", PlanAus("GS GM GK")));
-    m_umgebung.Planargument = saves / "fehlt.tvf";
+    m_umgebung.planArgument = saves / "fehlt.tvf";
     {
         NeuerStart start(m_umgebung);
         ASSERT_EQ(m_boxen.Texte.size(), 3U) << "what can't be loaded is told, then all is as ever";
@@ -111,7 +111,7 @@ TEST_F(Fensterleben, PlanAlsArgumentStattDesLetzten) {
     fs::remove(saves / "autosave-vorige.tvf");
     SchreibeDatei(saves / "autosave.tvf", letzter);
     m_boxen.Texte.clear();
-    m_umgebung.Planargument = saves / "meiner.tvf";
+    m_umgebung.planArgument = saves / "meiner.tvf";
     NeuerStart start(m_umgebung);
     EXPECT_TRUE(m_boxen.Texte.empty());
     EXPECT_EQ(start.Zeilen(), 3U);
@@ -120,7 +120,7 @@ TEST_F(Fensterleben, PlanAlsArgumentStattDesLetzten) {
     start->close();
     // Whoever looks at one plan after the other still has the one that lies nowhere else.
     ASSERT_TRUE(SaveBauliste(saves / "anderer.tvf", PlanAus("GS")));
-    m_umgebung.Planargument = saves / "anderer.tvf";
+    m_umgebung.planArgument = saves / "anderer.tvf";
     {
         NeuerStart anderer(m_umgebung);
         EXPECT_EQ(LiesDatei(saves / "autosave-vorige.tvf"), letzter);
@@ -129,23 +129,23 @@ TEST_F(Fensterleben, PlanAlsArgumentStattDesLetzten) {
             ->DragDrop(QStringLiteral("ImgMetMine"));
     }
     const std::string geaendert = LiesDatei(saves / "autosave.tvf");
-    m_umgebung.Planargument = saves / "meiner.tvf";
+    m_umgebung.planArgument = saves / "meiner.tvf";
     NeuerStart wieder(m_umgebung);
     EXPECT_EQ(LiesDatei(saves / "autosave-vorige.tvf"), geaendert);
     wieder->close();
     // A file of the program's own is no place to lie in: it is written over.
-    m_umgebung.Planargument = saves / "autosave-vorige.tvf";
+    m_umgebung.planArgument = saves / "autosave-vorige.tvf";
     { NeuerStart noch(m_umgebung); }
     EXPECT_EQ(LiesDatei(saves / "autosave.tvf").find("AusDatei=1"), std::string::npos);
 }
 
 TEST_F(Fensterleben, OrdnerGehoertDemErstenProgramm) {
-    const auto erstes = std::make_unique<Ordnerschloss>(m_ordner / "");
-    EXPECT_FALSE(erstes->HatEinAnderer());
-    EXPECT_TRUE(Ordnerschloss(m_ordner / "").HatEinAnderer());
-    EXPECT_FALSE(Ordnerschloss(m_ordner / "saves").HatEinAnderer());
-    erstes->GibZurueck();
-    EXPECT_FALSE(Ordnerschloss(m_ordner / "").HatEinAnderer());
+    const auto erstes = std::make_unique<FolderLock>(m_ordner / "");
+    EXPECT_FALSE(erstes->HeldByOther());
+    EXPECT_TRUE(FolderLock(m_ordner / "").HeldByOther());
+    EXPECT_FALSE(FolderLock(m_ordner / "saves").HeldByOther());
+    erstes->Release();
+    EXPECT_FALSE(FolderLock(m_ordner / "").HeldByOther());
     // A dead holder: no process has this number, half a lock, another machine, our own number.
     const std::string eigene = std::to_string(NativeFileSystem().ProcessId());
     const std::string name = QCoreApplication::applicationName().toStdString();
@@ -153,9 +153,9 @@ TEST_F(Fensterleben, OrdnerGehoertDemErstenProgramm) {
          {std::string("4194996\ntarvelin\n\n"), std::string(),
           std::string("1\nx\nanderswo\n1\n1\n"), eigene + "\n" + name + "\n\n"}) {
         SchreibeDatei(m_ordner / "mfx" / "tarvelin.lock", schloss);
-        EXPECT_FALSE(Ordnerschloss(m_ordner / "mfx").HatEinAnderer()) << schloss;
+        EXPECT_FALSE(FolderLock(m_ordner / "mfx").HeldByOther()) << schloss;
     }
-    EXPECT_FALSE(Ordnerschloss(m_ordner / "fehlt").HatEinAnderer());
+    EXPECT_FALSE(FolderLock(m_ordner / "fehlt").HeldByOther());
 }
 
 // The end of a session is announced, and may still be called off.
@@ -242,7 +242,7 @@ TEST_F(Fensterleben, StarterplanUndLetzterPlanGehenNichtVerloren) {
 }
 
 TEST_F(Fensterleben, HinweisZumStartKommtVorAllemAnderen) {
-    m_umgebung.Starthinweis = Message{.text = "Hinweis", .title = "Tarvelin"};
+    m_umgebung.startNotice = Message{.text = "Hinweis", .title = "Tarvelin"};
     EXPECT_TRUE(SaveBauliste(m_ordner / "saves" / "autosave.tvf", PlanAus("GM")));
     const NeuerStart start(m_umgebung);
     EXPECT_EQ(m_boxen.Texte.size(), 3U);
@@ -419,21 +419,21 @@ TEST_F(Fensterleben, KlangSpieltNurGanzeWellen) {
                                                            {gut.substr(0, gut.size() - 1), false},
                                                            {ohneFormat, false},
                                                            {gut, true}};
-    Klangausgabe klang;
+    SoundPlayer klang;
     for (const auto& [bytes, spielbar] : faelle) {
         SchreibeDatei(m_ordner / "ton.wav", bytes);
-        EXPECT_EQ(LiesWelle(m_ordner / "ton.wav").has_value(), spielbar) << bytes.size();
-        klang.Spiele(m_ordner / "ton.wav");
+        EXPECT_EQ(ReadWave(m_ordner / "ton.wav").has_value(), spielbar) << bytes.size();
+        klang.Play(m_ordner / "ton.wav");
         QTest::qWait(50);
     }
-    EXPECT_FALSE(LiesWelle(m_ordner / "mfx"));
-    EXPECT_FALSE(LiesWelle(m_ordner / "fehlt.wav"));
+    EXPECT_FALSE(ReadWave(m_ordner / "mfx"));
+    EXPECT_FALSE(ReadWave(m_ordner / "fehlt.wav"));
 }
 
 // In the middle of the next second, whenever it was switched on or ticked.
 TEST_F(Fensterleben, TaktZieltAufDieNaechsteSekunde) {
-    Sekundentakt takt(QStringLiteral("takt"), nullptr);
-    takt.Schalte(true);
+    SecondTimer takt(QStringLiteral("takt"), nullptr);
+    takt.SetRunning(true);
     for (int i = 0; i < 20; ++i) {
         constexpr int kFruehestens = 40;
         constexpr int kSpaetestens = 800;
@@ -450,7 +450,7 @@ TEST_F(Fensterleben, TaktZieltAufDieNaechsteSekunde) {
         QTest::qWait(i);
         QMetaObject::invokeMethod(&takt, "timeout");
     }
-    takt.Schalte(false);
+    takt.SetRunning(false);
     EXPECT_FALSE(takt.isActive());
 }
 
@@ -619,9 +619,9 @@ TEST_F(Fensterleben, VersionsvergleichNimmtJedesZeichen) {
     for (int i = 0; i < 100; ++i) {
         lang += "ä";
     }
-    EXPECT_NE(Versionsfrage(lang).Text.find("(v" + lang.substr(0, 128) + ")zu"), std::string::npos);
+    EXPECT_NE(Versionsfrage(lang).text.find("(v" + lang.substr(0, 128) + ")zu"), std::string::npos);
     // Bytes that are no text count one by one.
-    EXPECT_LT(Versionsfrage(std::string(1000, '\x80')).Text.size(), 300U);
+    EXPECT_LT(Versionsfrage(std::string(1000, '\x80')).text.size(), 300U);
     EXPECT_EQ(m_boxen.Koepfe.back(),
               std::pair(std::string("Version-Check..."), MessageIcon::Information));
     EXPECT_TRUE(m_seiten.empty());

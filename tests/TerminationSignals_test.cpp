@@ -12,7 +12,7 @@ namespace {
 TEST(Endesignale, KommenAmFensterAn) {
     int gekommen = 0;
     {
-        const Endesignale signale([&] { ++gekommen; });
+        const TerminationSignals signale([&] { ++gekommen; });
         for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
             const int bisher = gekommen;
             std::raise(signal);

@@ -343,7 +343,7 @@ TEST_F(Werkbank, SpeichertDasBild) {
     };
     EXPECT_TRUE(speichere("bild.pdf").starts_with("%PDF"));
     const std::string svg = speichere("bild.SVG");
-    if (KannSvg()) {
+    if (HasSvg()) {
         QXmlStreamReader xml(QByteArray::fromStdString(svg));
         while (!xml.atEnd()) {
             xml.readNext();
@@ -381,7 +381,7 @@ TEST_F(Werkbank, SchliesstVerstecktUndKommtWieder) {
 TEST_F(Werkbank, FolgtDenFarbenDesDesktops) {
     QPalette dunkel(Qt::white, Qt::black, Qt::gray, Qt::black, Qt::darkGray, Qt::white, Qt::white,
                     QColor(20, 20, 20), QColor(40, 40, 40));
-    m_umgebung.Desktopfarben = [&] { return dunkel; };
+    m_umgebung.desktopPalette = [&] { return dunkel; };
     Lade("GM");
     QEvent wechsel(QEvent::ThemeChange);
     QCoreApplication::sendEvent(m_werkbank, &wechsel);

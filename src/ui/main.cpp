@@ -54,13 +54,13 @@ tarvelin::Message OhneNutzerordner() {
             .icon = tarvelin::MessageIcon::Warning};
 }
 
-tarvelin::Frage ZweitesFenster() {
-    return {.Text =
+tarvelin::Question ZweitesFenster() {
+    return {.text =
                 "Tarvelin läuft schon. Soll trotzdem ein zweites Fenster aufgehen?\r\n\r\nDas "
                 "zweite merkt sich beim Beenden weder Bauliste noch Einstellungen: was bleiben "
                 "soll, musst du dort selbst speichern (Datei, Speichern).",
-            .Titel = "Tarvelin",
-            .Symbol = tarvelin::MessageIcon::Question};
+            .title = "Tarvelin",
+            .icon = tarvelin::MessageIcon::Question};
 }
 
 }  // namespace
@@ -69,43 +69,42 @@ int main(int argc, char** argv) {
     // The toolkit would take arguments of its own.
     int anzahl = 1;
     QApplication programm(anzahl, argv);
-    const tarvelin::Desktopfarben desktop(QApplication::palette());
+    const tarvelin::DesktopColors desktop(QApplication::palette());
     tarvelin::ApplyAppearance(programm);
     // The toolkit's file dialog would keep a history of folders in the user's settings. Where these
     // are no file, it is built without that.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     const tarvelin::ProgramFolder ordner = tarvelin::ResolveProgramFolder(
         tarvelin::ToPath(QApplication::applicationDirPath()), Nutzerordner());
-    tarvelin::Ordnerschloss schloss(ordner.TempFolder);
-    tarvelin::Meldungsfenster boxen;
-    if (schloss.HatEinAnderer() && !boxen.Stelle(ZweitesFenster())) {
+    tarvelin::FolderLock schloss(ordner.TempFolder);
+    tarvelin::QtDialogs boxen;
+    if (schloss.HeldByOther() && !boxen.Ask(ZweitesFenster())) {
         return 0;
     }
-    const tarvelin::ProtectedFileSystem dateien(ordner.ReadOnlyPaths(schloss.HatEinAnderer()));
-    tarvelin::Netzabruf netz;
-    tarvelin::Klangausgabe ton;
-    const tarvelin::Umgebung umgebung{
-        .Boxen = boxen,
-        .Netz = netz,
-        .Ton = ton,
-        .Jetzt = Ortszeit,
-        .OeffneSeite = OeffneSeite,
-        .Programmordner = ordner.TempFolder,
-        .Dateien = dateien,
-        .Desktopfarben = [&desktop] { return desktop.Farben(); },
-        .Planargument = tarvelin::Planargument(argc, argv),
-        .Starthinweis = ordner.canKeep ? std::nullopt : std::optional(OhneNutzerordner())};
+    const tarvelin::ProtectedFileSystem dateien(ordner.ReadOnlyPaths(schloss.HeldByOther()));
+    tarvelin::HttpFetcher netz;
+    tarvelin::SoundPlayer ton;
+    const tarvelin::Environment umgebung{
+        .dialogs = boxen,
+        .fetcher = netz,
+        .sound = ton,
+        .now = Ortszeit,
+        .openPage = OeffneSeite,
+        .programFolder = ordner.TempFolder,
+        .files = dateien,
+        .desktopPalette = [&desktop] { return desktop.CurrentPalette(); },
+        .planArgument = tarvelin::PlanArgument(argc, argv),
+        .startNotice = ordner.canKeep ? std::nullopt : std::optional(OhneNutzerordner())};
     tarvelin::frmMain fenster(umgebung);
     // Small windows may stay open; they keep nothing.
-    QObject::connect(&fenster, &tarvelin::frmMain::Geschlossen,
-                     [&schloss] { schloss.GibZurueck(); });
+    QObject::connect(&fenster, &tarvelin::frmMain::Geschlossen, [&schloss] { schloss.Release(); });
     // Whatever is open closes with the window, and every event loop ends.
     const auto beende = [&fenster] {
         fenster.close();
         QApplication::closeAllWindows();
         QApplication::exit();
     };
-    const tarvelin::Endesignale signale(beende);
+    const tarvelin::TerminationSignals signale(beende);
     // The session may go on after it; its end closes the windows.
     QObject::connect(&programm, &QGuiApplication::commitDataRequest, &fenster,
                      &tarvelin::frmMain::Sichere, Qt::DirectConnection);

@@ -5,17 +5,17 @@
 
 namespace tarvelin {
 
-Alarme::Alarme(const Quellen& quellen, const Umgebung& umgebung, QObject* parent)
+Alarme::Alarme(const Quellen& quellen, const Environment& umgebung, QObject* parent)
     : QObject(parent),
       m_quellen(quellen),
       m_umgebung(umgebung),
-      m_konfiguration(umgebung.Programmordner, umgebung.Dateien),
+      m_konfiguration(umgebung.programFolder, umgebung.files),
       m_Tmr_BauWeckfunktion(QStringLiteral("Tmr_BauWeckfunktion"), this),
       m_Tmr_Schlafweckfunktion(QStringLiteral("Tmr_Schlafweckfunktion"), this) {
     connect(&quellen.Chk_BauWeckfunktion, &QCheckBox::toggled, &m_Tmr_BauWeckfunktion,
-            &Sekundentakt::Schalte);
+            &SecondTimer::SetRunning);
     connect(&quellen.Chk_Schlafzeitenwecker, &QCheckBox::toggled, &m_Tmr_Schlafweckfunktion,
-            &Sekundentakt::Schalte);
+            &SecondTimer::SetRunning);
     connect(&m_Tmr_BauWeckfunktion, &QTimer::timeout, this, &Alarme::Tmr_BauWeckfunktion_Tick);
     connect(&m_Tmr_Schlafweckfunktion, &QTimer::timeout, this,
             &Alarme::Tmr_Schlafweckfunktion_Tick);
@@ -33,18 +33,18 @@ void Alarme::Verstumme() {
 }
 
 void Alarme::Tmr_BauWeckfunktion_Tick() {
-    PlayAlert(DueStarts(m_quellen.LV_Bauzeiten, m_umgebung.Jetzt(),
+    PlayAlert(DueStarts(m_quellen.LV_Bauzeiten, m_umgebung.now(),
                         m_quellen.Comb_Before.currentText().toStdString()));
 }
 
 void Alarme::Tmr_Schlafweckfunktion_Tick() {
-    PlayAlert(DueSleepEnds(m_quellen.LV_Schlafzeiten, m_umgebung.Jetzt()));
+    PlayAlert(DueSleepEnds(m_quellen.LV_Schlafzeiten, m_umgebung.now()));
 }
 
 // Once for each row that rings; the last one is heard to its end.
 void Alarme::PlayAlert(std::size_t mal) {
     for (std::size_t i = 0; i < mal; ++i) {
-        m_umgebung.Ton.Spiele(m_konfiguration.Alertsound());
+        m_umgebung.sound.Play(m_konfiguration.Alertsound());
     }
 }
 

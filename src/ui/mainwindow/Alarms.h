@@ -26,7 +26,7 @@ class Alarme : public QObject {
     };
 
     /// What it is given must outlive it.
-    Alarme(const Quellen& quellen, const Umgebung& umgebung, QObject* parent);
+    Alarme(const Quellen& quellen, const Environment& umgebung, QObject* parent);
 
     /// Sets the boxes as the configuration has them.
     void LiesKonfiguration();
@@ -39,10 +39,10 @@ class Alarme : public QObject {
     void PlayAlert(std::size_t mal);
 
     Quellen m_quellen;
-    const Umgebung& m_umgebung;
+    const Environment& m_umgebung;
     Configuration m_konfiguration;
-    Sekundentakt m_Tmr_BauWeckfunktion;
-    Sekundentakt m_Tmr_Schlafweckfunktion;
+    SecondTimer m_Tmr_BauWeckfunktion;
+    SecondTimer m_Tmr_Schlafweckfunktion;
 };
 
 }  // namespace tarvelin

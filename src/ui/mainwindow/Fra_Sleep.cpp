@@ -57,7 +57,7 @@ QCalendarWidget* NeuerKalender(const QDate& tag, QWidget* parent) {
 
 }  // namespace
 
-Fra_Sleep::Fra_Sleep(SleepTable& tabelle, const Umgebung& umgebung, QWidget* parent)
+Fra_Sleep::Fra_Sleep(SleepTable& tabelle, const Environment& umgebung, QWidget* parent)
     : Panel(QStringLiteral("Fra_Sleep"), QStringLiteral("Schlaf/Pausen-zeiten:"),
             {160, 2, 6855, 3615}, parent),
       LV_Schlafzeiten(new ListView(QStringLiteral("LV_Schlafzeiten"),
@@ -67,7 +67,7 @@ Fra_Sleep::Fra_Sleep(SleepTable& tabelle, const Umgebung& umgebung, QWidget* par
       m_umgebung(umgebung),
       m_modell(new TableModel({QStringLiteral("Startzeit"), QStringLiteral("Endzeit")},
                               QuelleVon(tabelle), this)),
-      m_SchlafKalender(NeuerKalender(AlsDatum(umgebung.Jetzt()), this)),
+      m_SchlafKalender(NeuerKalender(AlsDatum(umgebung.now()), this)),
       m_LBL_Schlafendzeit(NewLabel(QStringLiteral("LBL_Schlafendzeit"), {}, this)) {
     LV_Schlafzeiten->setModel(m_modell);
     Chk_Schlafzeitenwecker->setObjectName(QStringLiteral("Chk_Schlafzeitenwecker"));
@@ -181,7 +181,7 @@ void Fra_Sleep::RefreshSchlafEnde() {
 
 void Fra_Sleep::Cmd_AddSchlafzeit_Click() {
     if (const auto meldung = AddSleepRow(Lies(), m_tabelle)) {
-        m_umgebung.Boxen.Show(*meldung);
+        m_umgebung.dialogs.Show(*meldung);
         return;
     }
     Zeige();
@@ -201,7 +201,7 @@ void Fra_Sleep::Cmd_RemoveSchlafzeit_Click() {
 }
 
 void Fra_Sleep::Cmd_ClearSchlafzeiten_Click() {
-    if (m_umgebung.Boxen.Stelle({.Text = "Wirklich alle löschen ?", .Titel = ""})) {
+    if (m_umgebung.dialogs.Ask({.text = "Wirklich alle löschen ?", .title = ""})) {
         m_tabelle.clear();
         Zeige();
         emit Geaendert();

@@ -17,7 +17,7 @@ class Fra_Sleep : public Panel {
 
   public:
     /// Edits `tabelle`, which must outlive the panel, as must `umgebung`.
-    Fra_Sleep(SleepTable& tabelle, const Umgebung& umgebung, QWidget* parent);
+    Fra_Sleep(SleepTable& tabelle, const Environment& umgebung, QWidget* parent);
 
     /// After the table changed. No row is selected then.
     void Zeige();
@@ -43,7 +43,7 @@ class Fra_Sleep : public Panel {
     void Cmd_ClearSchlafzeiten_Click();
 
     SleepTable& m_tabelle;
-    const Umgebung& m_umgebung;
+    const Environment& m_umgebung;
     TableModel* m_modell;
     QCalendarWidget* m_SchlafKalender;
     /// Hours and minutes of the start, then of the duration.

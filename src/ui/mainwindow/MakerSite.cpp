@@ -63,19 +63,19 @@ std::string Spendenseite(const Spendenknopf& knopf) {
            "&bn=PP%2dDonationsBF&charset=UTF%2d8";
 }
 
-Frage Versionsfrage(std::string_view geladen) {
+Question Versionsfrage(std::string_view geladen) {
     constexpr std::size_t kGezeigt = 64;
     const std::string version = std::string("Deine Version (v") + kVersion + ") scheint ";
     const std::string urteil =
         geladen == kVersion
             ? "die aktuelle zu sein!"
             : "NICHT die aktuelle (v" + std::string(Anfang(geladen, kGezeigt)) + ")zu sein!";
-    return {.Text = version + urteil + kZeilenende +
+    return {.text = version + urteil + kZeilenende +
                     "Möglicherweise habe ich aber auch nur vergessen die Versions-Datei auf dem "
                     "Server zu ändern..." +
                     kZeilenende + kZeilenende + "Hersteller-Homepage aufrufen ?",
-            .Titel = "Version-Check...",
-            .Symbol = MessageIcon::Information};
+            .title = "Version-Check...",
+            .icon = MessageIcon::Information};
 }
 
 Message Versionsfehler() {

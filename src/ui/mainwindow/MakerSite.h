@@ -33,7 +33,7 @@ extern const std::array<Spendenknopf, 6> kSpendenknoepfe;
 
 /// What to ask the user after the fetch of the version file, whose every character counts. At most
 /// 64 characters of it are shown.
-[[nodiscard]] Frage Versionsfrage(std::string_view geladen);
+[[nodiscard]] Question Versionsfrage(std::string_view geladen);
 
 /// The message when the version file can't be fetched.
 [[nodiscard]] Message Versionsfehler();

@@ -83,41 +83,41 @@ namespace {
 
 /// Whether the file lies there afterwards.
 bool HoleDatei(const std::string& adresse, const std::filesystem::path& datei,
-               const Umgebung& umgebung) {
-    if (FileExists(datei, umgebung.Dateien)) {
-        static_cast<void>(umgebung.Dateien.Remove(datei));
+               const Environment& umgebung) {
+    if (FileExists(datei, umgebung.files)) {
+        static_cast<void>(umgebung.files.Remove(datei));
     }
-    if (const auto bytes = umgebung.Netz.Hole(adresse)) {
-        static_cast<void>(WriteFileAtomically(datei, *bytes, umgebung.Dateien));
+    if (const auto bytes = umgebung.fetcher.Fetch(adresse)) {
+        static_cast<void>(WriteFileAtomically(datei, *bytes, umgebung.files));
     }
-    return FileExists(datei, umgebung.Dateien);
+    return FileExists(datei, umgebung.files);
 }
 
-Frage NachFehler(const std::string& ort) {
-    return {.Text = "\"" + ort +
+Question NachFehler(const std::string& ort) {
+    return {.text = "\"" + ort +
                     "\" konnte nicht von der angegebenen URL geladen werden...\r\n\r\n"
                     "Vorgang abbrechen ?",
-            .Titel = "Download-Fehler...",
-            .Symbol = MessageIcon::Warning};
+            .title = "Download-Fehler...",
+            .icon = MessageIcon::Warning};
 }
 
 }  // namespace
 
 Webskinausgang HoleWebskin(const std::string& adresse, const std::filesystem::path& ziel,
-                           const Umgebung& umgebung, const std::function<bool()>& offen) {
-    umgebung.Boxen.Show({.text = "Der folgende Vorgang kann einige Sekunden dauern, je nach "
-                                 "Internet-Anbindung...",
-                         .title = "Fortsetzen...",
-                         .icon = MessageIcon::Information});
+                           const Environment& umgebung, const std::function<bool()>& offen) {
+    umgebung.dialogs.Show({.text = "Der folgende Vorgang kann einige Sekunden dauern, je nach "
+                                   "Internet-Anbindung...",
+                           .title = "Fortsetzen...",
+                           .icon = MessageIcon::Information});
     for (const Skinbild& bild : Skinbilder()) {
         const std::string ort =
             "/" + std::string(bild.Ordner) + "/" + std::string(bild.Name) + ".gif";
-        umgebung.Netz.Atme();
+        umgebung.fetcher.ProcessEvents();
         const bool geholt = offen() && HoleDatei(adresse + ort, ziel / ort.substr(1), umgebung);
         if (!offen()) {
             return Webskinausgang::Abgebrochen;
         }
-        if (!geholt && umgebung.Boxen.Stelle(NachFehler(ort))) {
+        if (!geholt && umgebung.dialogs.Ask(NachFehler(ort))) {
             return Webskinausgang::Abgebrochen;
         }
     }

@@ -31,7 +31,7 @@ enum class Webskinausgang { AmEnde, Abgebrochen };
 /// the window still stands; the fetch ends without a word when it doesn't.
 [[nodiscard]] Webskinausgang HoleWebskin(const std::string& adresse,
                                          const std::filesystem::path& ziel,
-                                         const Umgebung& umgebung,
+                                         const Environment& umgebung,
                                          const std::function<bool()>& offen);
 
 }  // namespace tarvelin

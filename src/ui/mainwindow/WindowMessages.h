@@ -12,7 +12,7 @@ namespace tarvelin {
 /// on the user can do without the rest.
 class Standmeldungen final : public MessageSink {
   public:
-    Standmeldungen(std::function<void()> zeigeStand, Dialoge& boxen)
+    Standmeldungen(std::function<void()> zeigeStand, Dialogs& boxen)
         : m_zeigeStand(std::move(zeigeStand)), m_boxen(boxen) {}
 
     void Show(const Message& meldung) override {
@@ -23,7 +23,7 @@ class Standmeldungen final : public MessageSink {
         if (m_erste) {
             m_boxen.Show(meldung);
         } else {
-            m_gewuenscht = m_boxen.ZeigeAbstellbar(meldung);
+            m_gewuenscht = m_boxen.ShowSuppressible(meldung);
         }
         m_erste = false;
     }
@@ -31,7 +31,7 @@ class Standmeldungen final : public MessageSink {
 
   private:
     std::function<void()> m_zeigeStand;
-    Dialoge& m_boxen;
+    Dialogs& m_boxen;
     bool m_erste = true;
     bool m_gewuenscht = true;
 };

@@ -25,10 +25,10 @@ QString Beschreibung() {
 
 }  // namespace
 
-frmAbout::frmAbout(const Umgebung& umgebung) {
+frmAbout::frmAbout(const Environment& umgebung) {
     setObjectName(QStringLiteral("frmAbout"));
     setWindowTitle(QStringLiteral("About Tarvelin"));
-    const auto icon = LoadIconFile(umgebung.Programmordner / "img" / "icon.ico");
+    const auto icon = LoadIconFile(umgebung.programFolder / "img" / "icon.ico");
     setWindowIcon(icon);
     constexpr int kSeite = 64;
     QLabel* const bild = NewPicture(QStringLiteral("Img_About"), {kSeite, kSeite}, {}, this);
@@ -47,7 +47,7 @@ frmAbout::frmAbout(const Umgebung& umgebung) {
     homepage->setStyleSheet(QStringLiteral("color: rgb(255, 0, 0);"));
     homepage->setToolTip(QStringLiteral(" Visit "));
     connect(homepage, &QAbstractButton::clicked, this,
-            [&umgebung] { umgebung.OeffneSeite(Homepage()); });
+            [&umgebung] { umgebung.openPage(Homepage()); });
     QPushButton* const ok = NewButton(QStringLiteral("cmdOK"), QStringLiteral("OK"), this);
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QWidget::close);

@@ -12,7 +12,7 @@ class frmAbout : public QWidget {
 
   public:
     /// `umgebung` must outlive the box.
-    explicit frmAbout(const Umgebung& umgebung);
+    explicit frmAbout(const Environment& umgebung);
 
   protected:
     /// Enter and Escape press the button.

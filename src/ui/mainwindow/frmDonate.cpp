@@ -10,10 +10,10 @@
 
 namespace tarvelin {
 
-frmDonate::frmDonate(const Umgebung& umgebung) {
+frmDonate::frmDonate(const Environment& umgebung) {
     setObjectName(QStringLiteral("frmDonate"));
     setWindowTitle(QStringLiteral("Tarvelin unterstützen..."));
-    const auto bilder = umgebung.Programmordner / "img";
+    const auto bilder = umgebung.programFolder / "img";
     setWindowIcon(LoadIconFile(bilder / "icon.ico"));
 
     constexpr int kSpalten = 3;
@@ -29,7 +29,7 @@ frmDonate::frmDonate(const Umgebung& umgebung) {
         bild->SetPicture(LoadPixmap(bilder / knopf.Datei));
         bild->setCursor(Qt::PointingHandCursor);
         connect(bild, &QAbstractButton::clicked, this,
-                [&umgebung, &knopf] { umgebung.OeffneSeite(Spendenseite(knopf)); });
+                [&umgebung, &knopf] { umgebung.openPage(Spendenseite(knopf)); });
         layout->addWidget(bild, stelle / kSpalten, stelle % kSpalten);
         ++stelle;
     }

@@ -12,7 +12,7 @@ class frmDonate : public QWidget {
 
   public:
     /// `umgebung` must outlive the dialog.
-    explicit frmDonate(const Umgebung& umgebung);
+    explicit frmDonate(const Environment& umgebung);
 };
 
 }  // namespace tarvelin

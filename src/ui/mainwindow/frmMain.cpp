@@ -30,7 +30,7 @@ constexpr int kHoehe = 5030;
 
 /// Brings up a window of its own, or the one that is open already.
 template <class F>
-void ZeigeEinmaliges(std::unique_ptr<F>& fenster, const Umgebung& umgebung) {
+void ZeigeEinmaliges(std::unique_ptr<F>& fenster, const Environment& umgebung) {
     if (!fenster) {
         fenster = std::make_unique<F>(umgebung);
     }
@@ -42,15 +42,15 @@ void ZeigeEinmaliges(std::unique_ptr<F>& fenster, const Umgebung& umgebung) {
 
 }  // namespace
 
-frmMain::frmMain(const Umgebung& umgebung)
+frmMain::frmMain(const Environment& umgebung)
     : m_umgebung(umgebung),
-      m_konfiguration(umgebung.Programmordner, umgebung.Dateien),
-      m_autosave(umgebung.Programmordner, umgebung.Dateien),
+      m_konfiguration(umgebung.programFolder, umgebung.files),
+      m_autosave(umgebung.programFolder, umgebung.files),
       m_rollflaeche(new QScrollArea(this)),
       m_flaeche(new QWidget(this)),
       m_Fra_Einstellungen(new Fra_Einstellungen(m_plan, m_flaeche)),
       m_Fra_Special(new Fra_Special(m_flaeche)),
-      m_Fra_Skin(new Fra_Skin(umgebung.Programmordner / "img" / "skins", m_flaeche)),
+      m_Fra_Skin(new Fra_Skin(umgebung.programFolder / "img" / "skins", m_flaeche)),
       m_Fra_Sleep(new Fra_Sleep(m_plan.LV_Schlafzeiten, umgebung, m_flaeche)),
       m_Fra_Rest(new Fra_Rest(m_plan.LV_Bauliste, m_lauf, m_flaeche)),
       m_TopLine(new QFrame(m_flaeche)),
@@ -130,7 +130,7 @@ void frmMain::PasseAnBildschirmAn() {
 }
 
 void frmMain::LadeBilder() {
-    const auto bilder = m_umgebung.Programmordner / "img";
+    const auto bilder = m_umgebung.programFolder / "img";
     setWindowIcon(LoadIconFile(bilder / "icon.ico"));
     // What another skin lacks stays as it is in this one.
     ZeigeSkin(kStandardskin, {});
@@ -235,7 +235,7 @@ bool frmMain::eventFilter(QObject* ziel, QEvent* event) {
 }
 
 void frmMain::SetzeHeute() {
-    const DateTime heute = m_umgebung.Jetzt();
+    const DateTime heute = m_umgebung.now();
     SetStartDate(m_plan.parameters, heute);
     m_Fra_Einstellungen->Zeige();
     // Whatever the hour says.
@@ -243,11 +243,11 @@ void frmMain::SetzeHeute() {
 }
 
 void frmMain::mnu_UpdateCheck_Click() {
-    const auto geladen = m_umgebung.Netz.Hole(Versionsdatei());
+    const auto geladen = m_umgebung.fetcher.Fetch(Versionsdatei());
     if (!geladen) {
-        m_umgebung.Boxen.Show(Versionsfehler());
-    } else if (m_umgebung.Boxen.Stelle(Versionsfrage(*geladen))) {
-        m_umgebung.OeffneSeite(Downloadseite());
+        m_umgebung.dialogs.Show(Versionsfehler());
+    } else if (m_umgebung.dialogs.Ask(Versionsfrage(*geladen))) {
+        m_umgebung.openPage(Downloadseite());
     }
 }
 
@@ -275,7 +275,7 @@ void frmMain::mnuWerkbank_Click() {
 }
 
 void frmMain::ZeigeSkin(Byte mode, const std::string& pfad) {
-    ApplySkin(mode, pfad, *m_Fra_Rest, m_umgebung.Programmordner);
+    ApplySkin(mode, pfad, *m_Fra_Rest, m_umgebung.programFolder);
     if (m_frmWerkbank) {
         m_frmWerkbank->SetzeBilder(m_Fra_Rest->Itembilder());
     }
@@ -285,7 +285,7 @@ void frmMain::Cmd_ApplySkin_Click() {
     const Byte quelle = m_Fra_Skin->Quelle();
     QLineEdit& pfad = *m_Fra_Skin->txt_Pfad;
     if (quelle == kWebskin) {
-        const auto ordner = m_umgebung.Programmordner / "img" / "skins" / kLandeordner;
+        const auto ordner = m_umgebung.programFolder / "img" / "skins" / kLandeordner;
         ZeigeSkin(kWebskin, {});
         const auto ausgang = HoleWebskin(pfad.text().toStdString(), ordner, m_umgebung,
                                          [this] { return !IstGeschlossen(); });
@@ -422,7 +422,7 @@ void frmMain::LV_Bauliste_DragDrop(const QString& Source) {
     }
     if (meldung) {
         // A box would come up inside the drag; it waits until the pointer is free.
-        QTimer::singleShot(0, this, [this, text = *meldung] { m_umgebung.Boxen.Show(text); });
+        QTimer::singleShot(0, this, [this, text = *meldung] { m_umgebung.dialogs.Show(text); });
         return;
     }
     ZeigeNeueZeile();
@@ -433,7 +433,7 @@ void frmMain::Cmd_AddProdaenderungsevent_Click() {
     const auto meldung =
         m_plan.LV_Bauliste.AddProduction(m_Fra_Special->Faktoren(), m_lauf.conditions);
     if (meldung) {
-        m_umgebung.Boxen.Show(*meldung);
+        m_umgebung.dialogs.Show(*meldung);
         return;
     }
     ZeigeNeueZeile();
@@ -495,7 +495,7 @@ void frmMain::StarteSimulation(bool silent) {
     ZeigeStandDesLaufs();
     m_Fra_Rest->MacheErsteBauzeitSichtbar();
     m_Fra_Einstellungen->RefreshWeekday();
-    Standmeldungen meldungen([this] { ZeigeStandDesLaufs(); }, m_umgebung.Boxen);
+    Standmeldungen meldungen([this] { ZeigeStandDesLaufs(); }, m_umgebung.dialogs);
     RunSimulation(m_plan.LV_Bauliste.Orders().All(), m_lauf, meldungen);
     m_texte.AfterRun(m_lauf.state);
     m_Fra_Rest->Zeige(m_texte);
@@ -514,7 +514,7 @@ std::optional<RunConditions> frmMain::PruefeEingaben(bool silent) {
     }
     if (!silent || !leer) {
         ZeigeStandDesLaufs();
-        m_umgebung.Boxen.Show(*absage);
+        m_umgebung.dialogs.Show(*absage);
     }
     return std::nullopt;
 }

@@ -35,7 +35,7 @@ class frmMain : public QMainWindow {
 
   public:
     /// `umgebung` must outlive the window, as must what it refers to.
-    explicit frmMain(const Umgebung& umgebung);
+    explicit frmMain(const Environment& umgebung);
     frmMain(const frmMain&) = delete;
     frmMain& operator=(const frmMain&) = delete;
     ~frmMain() override;
@@ -142,7 +142,7 @@ class frmMain : public QMainWindow {
     void ZeigePlan();
     void ZeigeStandDesLaufs();
 
-    const Umgebung& m_umgebung;
+    const Environment& m_umgebung;
     Configuration m_konfiguration;
     Autosave m_autosave;
     QTimer m_Tmr_Autosave{this};

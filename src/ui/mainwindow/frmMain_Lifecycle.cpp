@@ -27,8 +27,8 @@ void frmMain::Form_Load() {
     connect(windowHandle(), &QWindow::screenChanged, this, &frmMain::FolgeBildschirm);
     FolgeBildschirm();
     WarteAufBildschirm();
-    if (m_umgebung.Starthinweis) {
-        m_umgebung.Boxen.Show(*m_umgebung.Starthinweis);
+    if (m_umgebung.startNotice) {
+        m_umgebung.dialogs.Show(*m_umgebung.startNotice);
     }
     if (!IstGeschlossen() && !BringePlanargument() && !IstGeschlossen()) {
         BringePlan();
@@ -44,7 +44,7 @@ void frmMain::Form_Load() {
 
 // The plan of the last session is kept beside it.
 bool frmMain::BringePlanargument() {
-    const std::filesystem::path& datei = m_umgebung.Planargument;
+    const std::filesystem::path& datei = m_umgebung.planArgument;
     if (datei.empty() || !LoadBauliste(datei, false) || IstGeschlossen()) {
         return false;
     }
@@ -58,10 +58,10 @@ bool frmMain::BringePlanargument() {
 // The last plan stays untouched until the player has answered for it.
 void frmMain::BringePlan() {
     const bool ersterStart = m_konfiguration.IsOn(Configuration::kFirststart);
-    const bool lagDa = FileExists(m_autosave.PlanPath(), m_umgebung.Dateien);
-    const auto letzter = IniFile::Load(m_autosave.PlanPath(), m_umgebung.Dateien);
-    const auto starterplan = m_umgebung.Programmordner / "saves" / "basic.tvf";
-    const bool geladen = ersterStart && FileExists(starterplan, m_umgebung.Dateien) &&
+    const bool lagDa = FileExists(m_autosave.PlanPath(), m_umgebung.files);
+    const auto letzter = IniFile::Load(m_autosave.PlanPath(), m_umgebung.files);
+    const auto starterplan = m_umgebung.programFolder / "saves" / "basic.tvf";
+    const bool geladen = ersterStart && FileExists(starterplan, m_umgebung.files) &&
                          LoadBauliste(starterplan, false);
     const bool wieder = lagDa && StelleWiederHer(letzter);
     if (IstGeschlossen()) {
@@ -70,7 +70,7 @@ void frmMain::BringePlan() {
     const bool behalten = !geladen || wieder || m_autosave.Write(m_plan);
     m_autosave.MarkWritten(m_plan);
     if (ersterStart && behalten) {
-        static_cast<void>(m_umgebung.Dateien.Remove(starterplan));
+        static_cast<void>(m_umgebung.files.Remove(starterplan));
         m_gesichert.reset();
         static_cast<void>(m_konfiguration.Write({{Configuration::kFirststart, "0"}}));
     }
@@ -105,8 +105,8 @@ bool frmMain::StelleWiederHer(const std::optional<IniFile>& letzter) {
         return true;
     }
     const auto frage = [this](const char* text) {
-        return m_umgebung.Boxen.Stelle(
-            {.Text = text, .Titel = "Wiederherstellen...", .Symbol = MessageIcon::Question});
+        return m_umgebung.dialogs.Ask(
+            {.text = text, .title = "Wiederherstellen...", .icon = MessageIcon::Question});
     };
     const bool ja = frage("Möchtest du die letzte Bauliste wiederherstellen?");
     const bool immer = frage("Bei jedem Start so verfahren?");
@@ -132,7 +132,7 @@ void frmMain::LadeLetzten(const std::optional<IniFile>& letzter) {
 void frmMain::closeEvent(QCloseEvent* event) {
     const Abschnitt bisher = std::exchange(m_abschnitt, Abschnitt::Geschlossen);
     if (bisher != Abschnitt::Geschlossen) {
-        m_umgebung.Boxen.Beende();
+        m_umgebung.dialogs.CloseAll();
     }
     if (bisher == Abschnitt::Start || bisher == Abschnitt::Arbeit) {
         Form_Unload(bisher);
@@ -144,7 +144,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
 void frmMain::Form_Unload(Abschnitt bisher) {
     m_Tmr_Autosave.stop();
     m_alarme->Verstumme();
-    m_umgebung.Netz.BrichAb();
+    m_umgebung.fetcher.Abort();
     Behalte(bisher);
     if (m_frmWerkbank) {
         m_frmWerkbank->hide();
@@ -201,21 +201,21 @@ void frmMain::mnu_DateiNeu_Click() {
 }
 
 void frmMain::mnu_DateiLaden_Click() {
-    const auto datei = m_umgebung.FragNachDatei(Dialoge::Zweck::Laden);
+    const auto datei = m_umgebung.AskForFile(Dialogs::Purpose::Load);
     if (!datei.empty()) {
         LoadBauliste(datei, false);
     }
 }
 
 void frmMain::mnu_Datei_Speichern_Click() {
-    const auto datei = m_umgebung.FragNachDatei(Dialoge::Zweck::Speichern);
+    const auto datei = m_umgebung.AskForFile(Dialogs::Purpose::Save);
     if (datei.empty()) {
         return;
     }
-    if (SaveBauliste(datei, m_plan, m_umgebung.Dateien)) {
+    if (SaveBauliste(datei, m_plan, m_umgebung.files)) {
         MerkeGesichert(datei);
     } else {
-        m_umgebung.Boxen.Show(SaveErrorMessage());
+        m_umgebung.dialogs.Show(SaveErrorMessage());
     }
 }
 
@@ -231,13 +231,13 @@ void frmMain::BewahreErsetzten() const {
 }
 
 bool frmMain::LoadBauliste(const std::filesystem::path& File, bool Silent) {
-    return LoadBauliste(IniFile::Load(File, m_umgebung.Dateien), File, Silent);
+    return LoadBauliste(IniFile::Load(File, m_umgebung.files), File, Silent);
 }
 
 bool frmMain::LoadBauliste(const std::optional<IniFile>& profil, const std::filesystem::path& File,
                            bool Silent) {
     if (!profil) {
-        m_umgebung.Boxen.Show(LoadErrorMessage());
+        m_umgebung.dialogs.Show(LoadErrorMessage());
         return false;
     }
     BewahreErsetzten();
@@ -247,7 +247,7 @@ bool frmMain::LoadBauliste(const std::optional<IniFile>& profil, const std::file
             ZeigePlan();
             ZeigeInWerkbank();
         },
-        m_umgebung.Boxen);
+        m_umgebung.dialogs);
     const bool geladen = ReadPlan(*profil, m_plan, m_lauf.conditions, meldungen);
     if (geladen) {
         ZeigePlan();

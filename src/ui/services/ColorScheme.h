@@ -7,7 +7,7 @@
 namespace tarvelin {
 
 /// Tells whether the desktop asks for dark windows, some time after the call, and again whenever
-/// that changes, as long as `kontext` lives. Where no desktop answers nothing is told.
-void BeobachteFarbwunsch(QObject* kontext, std::function<void(bool dunkel)> melde);
+/// that changes, as long as `context` lives. Where no desktop answers nothing is told.
+void WatchColorScheme(QObject* context, std::function<void(bool dark)> report);
 
 }  // namespace tarvelin

@@ -3,6 +3,6 @@
 
 namespace tarvelin {
 
-void BeobachteFarbwunsch(QObject* /*kontext*/, std::function<void(bool dunkel)> /*melde*/) {}
+void WatchColorScheme(QObject* /*kontext*/, std::function<void(bool dark)> /*melde*/) {}
 
 }  // namespace tarvelin

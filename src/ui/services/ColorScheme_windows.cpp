@@ -13,54 +13,53 @@ namespace tarvelin {
 namespace {
 
 /// Reads the setting at once and whenever something changes beside it.
-class Farbwunschleser : public QObject {
+class RegistryColorScheme : public QObject {
   public:
-    Farbwunschleser(QObject* kontext, std::function<void(bool)> melde)
-        : QObject(kontext),
-          m_melde(std::move(melde)),
-          m_ereignis(::CreateEventW(nullptr, FALSE, FALSE, nullptr)),
-          m_waechter(m_ereignis) {
-        constexpr const wchar_t* kOrt =
+    RegistryColorScheme(QObject* context, std::function<void(bool)> report)
+        : QObject(context),
+          m_report(std::move(report)),
+          m_event(::CreateEventW(nullptr, FALSE, FALSE, nullptr)),
+          m_guard(m_event) {
+        constexpr const wchar_t* kPlace =
             LR"(Software\Microsoft\Windows\CurrentVersion\Themes\Personalize)";
-        if (::RegOpenKeyExW(HKEY_CURRENT_USER, kOrt, 0, KEY_READ, &m_schluessel) != ERROR_SUCCESS) {
+        if (::RegOpenKeyExW(HKEY_CURRENT_USER, kPlace, 0, KEY_READ, &m_key) != ERROR_SUCCESS) {
             return;
         }
-        connect(&m_waechter, &QWinEventNotifier::activated, this, [this] { Lies(); });
-        Lies();
+        connect(&m_guard, &QWinEventNotifier::activated, this, [this] { Read(); });
+        Read();
     }
-    Farbwunschleser(const Farbwunschleser&) = delete;
-    Farbwunschleser& operator=(const Farbwunschleser&) = delete;
-    ~Farbwunschleser() override {
-        m_waechter.setEnabled(false);
-        if (m_schluessel != nullptr) {
-            ::RegCloseKey(m_schluessel);
+    RegistryColorScheme(const RegistryColorScheme&) = delete;
+    RegistryColorScheme& operator=(const RegistryColorScheme&) = delete;
+    ~RegistryColorScheme() override {
+        m_guard.setEnabled(false);
+        if (m_key != nullptr) {
+            ::RegCloseKey(m_key);
         }
-        ::CloseHandle(m_ereignis);
+        ::CloseHandle(m_event);
     }
 
   private:
     // A notice comes once; what changes behind it comes with the next.
-    void Lies() {
-        ::RegNotifyChangeKeyValue(m_schluessel, FALSE, REG_NOTIFY_CHANGE_LAST_SET, m_ereignis,
-                                  TRUE);
-        DWORD hell = 1;
-        DWORD laenge = sizeof(hell);
-        ::RegGetValueW(m_schluessel, nullptr, L"AppsUseLightTheme", RRF_RT_REG_DWORD, nullptr,
-                       &hell, &laenge);
-        m_melde(hell == 0);
+    void Read() {
+        ::RegNotifyChangeKeyValue(m_key, FALSE, REG_NOTIFY_CHANGE_LAST_SET, m_event, TRUE);
+        DWORD light = 1;
+        DWORD length = sizeof(light);
+        ::RegGetValueW(m_key, nullptr, L"AppsUseLightTheme", RRF_RT_REG_DWORD, nullptr, &light,
+                       &length);
+        m_report(light == 0);
     }
 
-    std::function<void(bool)> m_melde;
-    HANDLE m_ereignis;
-    QWinEventNotifier m_waechter;
-    HKEY m_schluessel = nullptr;
+    std::function<void(bool)> m_report;
+    HANDLE m_event;
+    QWinEventNotifier m_guard;
+    HKEY m_key = nullptr;
 };
 
 }  // namespace
 
-void BeobachteFarbwunsch(QObject* kontext, std::function<void(bool dunkel)> melde) {
-    // `kontext` owns it.
-    new Farbwunschleser(kontext, std::move(melde));
+void WatchColorScheme(QObject* context, std::function<void(bool dark)> report) {
+    // `context` owns it.
+    new RegistryColorScheme(context, std::move(report));
 }
 
 }  // namespace tarvelin

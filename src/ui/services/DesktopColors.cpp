@@ -11,48 +11,48 @@ namespace tarvelin {
 
 namespace {
 
-bool IstDunkel(const QPalette& palette) {
+bool IsDark(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() <
            palette.color(QPalette::WindowText).lightness();
 }
 
 /// For a desktop that asks for dark windows and has no theme for the toolkit.
-QPalette DunklePalette() {
-    const QColor grund(53, 53, 53);
-    const QColor feld(35, 35, 35);
-    const QColor blass(127, 127, 127);
-    const QColor auswahl(42, 130, 218);
-    QPalette palette(Qt::white, grund, grund.lighter(), feld, blass, Qt::white, Qt::white, feld,
-                     grund);
-    palette.setColor(QPalette::AlternateBase, grund);
-    palette.setColor(QPalette::ToolTipBase, grund);
+QPalette DarkPalette() {
+    const QColor background(53, 53, 53);
+    const QColor field(35, 35, 35);
+    const QColor pale(127, 127, 127);
+    const QColor chosen(42, 130, 218);
+    QPalette palette(Qt::white, background, background.lighter(), field, pale, Qt::white, Qt::white,
+                     field, background);
+    palette.setColor(QPalette::AlternateBase, background);
+    palette.setColor(QPalette::ToolTipBase, background);
     palette.setColor(QPalette::ToolTipText, Qt::white);
-    palette.setColor(QPalette::Highlight, auswahl);
+    palette.setColor(QPalette::Highlight, chosen);
     palette.setColor(QPalette::HighlightedText, Qt::black);
-    palette.setColor(QPalette::Link, auswahl);
-    for (const auto rolle : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText}) {
-        palette.setColor(QPalette::Disabled, rolle, blass);
+    palette.setColor(QPalette::Link, chosen);
+    for (const auto role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText}) {
+        palette.setColor(QPalette::Disabled, role, pale);
     }
     return palette;
 }
 
 }  // namespace
 
-Desktopfarben::Desktopfarben(QPalette desThemas) : m_desThemas(std::move(desThemas)) {
-    BeobachteFarbwunsch(this, [this](bool dunkel) { Wuensche(dunkel); });
+DesktopColors::DesktopColors(QPalette ofTheme) : m_ofTheme(std::move(ofTheme)) {
+    WatchColorScheme(this, [this](bool dark) { Prefer(dark); });
 }
 
-QPalette Desktopfarben::Farben() const {
-    return m_dunkelGewuenscht && !IstDunkel(m_desThemas) ? DunklePalette() : m_desThemas;
+QPalette DesktopColors::CurrentPalette() const {
+    return m_darkPreferred && !IsDark(m_ofTheme) ? DarkPalette() : m_ofTheme;
 }
 
-void Desktopfarben::Wuensche(bool dunkel) {
-    if (m_dunkelGewuenscht == dunkel) {
+void DesktopColors::Prefer(bool dark) {
+    if (m_darkPreferred == dark) {
         return;
     }
-    m_dunkelGewuenscht = dunkel;
-    for (QWidget* const fenster : QApplication::topLevelWidgets()) {
-        QCoreApplication::postEvent(fenster, new QEvent(QEvent::ThemeChange));
+    m_darkPreferred = dark;
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        QCoreApplication::postEvent(window, new QEvent(QEvent::ThemeChange));
     }
 }
 

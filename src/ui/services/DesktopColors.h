@@ -9,20 +9,20 @@ namespace tarvelin {
 /// Follows what the desktop's theme gives the program at its start, and what the user has asked all
 /// programs for in the settings of his desktop. At a change every window gets a
 /// `QEvent::ThemeChange`.
-class Desktopfarben : public QObject {
+class DesktopColors : public QObject {
     Q_OBJECT
 
   public:
-    /// `desThemas`: the toolkit's palette before the program set one of its own.
-    explicit Desktopfarben(QPalette desThemas);
+    /// `ofTheme`: the toolkit's palette before the program set one of its own.
+    explicit DesktopColors(QPalette ofTheme);
 
-    [[nodiscard]] QPalette Farben() const;
+    [[nodiscard]] QPalette CurrentPalette() const;
 
   private:
-    void Wuensche(bool dunkel);
+    void Prefer(bool dark);
 
-    QPalette m_desThemas;
-    bool m_dunkelGewuenscht = false;
+    QPalette m_ofTheme;
+    bool m_darkPreferred = false;
 };
 
 }  // namespace tarvelin

@@ -8,19 +8,19 @@ namespace tarvelin {
 
 /// Held by the first window of a folder until it gives it back. A lock whose holder has died is
 /// taken over. In a folder that can't be written nobody holds one, and nobody needs it.
-class Ordnerschloss {
+class FolderLock {
   public:
-    explicit Ordnerschloss(const std::filesystem::path& programmordner);
+    explicit FolderLock(const std::filesystem::path& programFolder);
 
     /// Whether another program holds it.
-    [[nodiscard]] bool HatEinAnderer() const { return m_hatEinAnderer; }
+    [[nodiscard]] bool HeldByOther() const { return m_heldByOther; }
 
     /// For the next program that starts.
-    void GibZurueck() { m_datei.unlock(); }
+    void Release() { m_file.unlock(); }
 
   private:
-    QLockFile m_datei;
-    bool m_hatEinAnderer = false;
+    QLockFile m_file;
+    bool m_heldByOther = false;
 };
 
 }  // namespace tarvelin

@@ -18,15 +18,15 @@ namespace {
 
 /// While it lives, clicks and keys go nowhere and the pointer tells that the program is busy.
 /// Painting, timers and the close of a window go on, and a box that comes up takes its answer.
-class Eingabesperre : public QObject {
+class InputLock : public QObject {
   public:
-    Eingabesperre() {
+    InputLock() {
         QApplication::setOverrideCursor(Qt::WaitCursor);
         QCoreApplication::instance()->installEventFilter(this);
     }
-    Eingabesperre(const Eingabesperre&) = delete;
-    Eingabesperre& operator=(const Eingabesperre&) = delete;
-    ~Eingabesperre() override {
+    InputLock(const InputLock&) = delete;
+    InputLock& operator=(const InputLock&) = delete;
+    ~InputLock() override {
         // What was clicked meanwhile must not come through afterwards.
         QCoreApplication::processEvents();
         QApplication::restoreOverrideCursor();
@@ -64,147 +64,147 @@ class Eingabesperre : public QObject {
 };
 
 /// The address as it goes over the line; empty if it is none of the web.
-std::string Webadresse(const std::string& adresse) {
-    const QUrl url(ToQString(adresse));
-    const bool gut =
+std::string WebAddress(const std::string& address) {
+    const QUrl url(ToQString(address));
+    const bool good =
         url.isValid() && !url.host().isEmpty() &&
         (url.scheme() == QStringLiteral("http") || url.scheme() == QStringLiteral("https"));
-    return gut ? url.toEncoded().toStdString() : std::string();
+    return good ? url.toEncoded().toStdString() : std::string();
 }
 
 /// What has come of an answer.
-struct Antwort {
-    std::size_t Hoechstens = 0;
-    std::string Bytes;
+struct Response {
+    std::size_t maxBytes = 0;
+    std::string bytes;
     /// The head came to its end, a blank line. A connection that closes before it leaves an answer
     /// that looks like an empty one.
-    bool KopfIstGanz = false;
+    bool headerComplete = false;
 };
 
 // What is taken is fewer than what came when it is too much, which ends the fetch.
-std::size_t NimmBytes(const char* bytes, std::size_t /*eins*/, std::size_t anzahl, void* ziel) {
-    auto& antwort = *static_cast<Antwort*>(ziel);
-    if (anzahl > antwort.Hoechstens - antwort.Bytes.size()) {
+std::size_t TakeBytes(const char* bytes, std::size_t /*eins*/, std::size_t count, void* target) {
+    auto& answer = *static_cast<Response*>(target);
+    if (count > answer.maxBytes - answer.bytes.size()) {
         return 0;
     }
-    antwort.Bytes.append(bytes, anzahl);
-    return anzahl;
+    answer.bytes.append(bytes, count);
+    return count;
 }
 
 // Redirects and proxies have heads of their own before that of the answer; a body in chunks can
 // have further lines behind it.
-std::size_t NimmKopfzeile(const char* bytes, std::size_t /*eins*/, std::size_t anzahl, void* ziel) {
-    auto& antwort = *static_cast<Antwort*>(ziel);
-    const std::string_view zeile(bytes, anzahl);
-    if (zeile.starts_with("HTTP/")) {
-        antwort.KopfIstGanz = false;
-        antwort.Bytes.clear();
-    } else if (zeile == "\r\n" || zeile == "\n") {
-        antwort.KopfIstGanz = true;
+std::size_t TakeHeaderLine(const char* bytes, std::size_t /*eins*/, std::size_t count,
+                           void* target) {
+    auto& answer = *static_cast<Response*>(target);
+    const std::string_view line(bytes, count);
+    if (line.starts_with("HTTP/")) {
+        answer.headerComplete = false;
+        answer.bytes.clear();
+    } else if (line == "\r\n" || line == "\n") {
+        answer.headerComplete = true;
     }
-    return anzahl;
+    return count;
 }
 
-using Abfrage = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
+using Query = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
 
-Abfrage NeueAbfrage(const std::string& adresse, std::chrono::milliseconds dauer, Antwort& antwort) {
-    constexpr long kHoechstensUmgeleitet = 5;
-    Abfrage abfrage(curl_easy_init(), &curl_easy_cleanup);
-    const auto setze = [&abfrage](CURLoption option, auto wert) {
-        curl_easy_setopt(abfrage.get(), option, wert);
+Query NewQuery(const std::string& address, std::chrono::milliseconds duration, Response& answer) {
+    constexpr long kMaxRedirects = 5;
+    Query query(curl_easy_init(), &curl_easy_cleanup);
+    const auto set = [&query](CURLoption option, auto value) {
+        curl_easy_setopt(query.get(), option, value);
     };
-    setze(CURLOPT_URL, adresse.c_str());
-    setze(CURLOPT_PROTOCOLS_STR, "http,https");
-    setze(CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
-    setze(CURLOPT_FOLLOWLOCATION, 1L);
-    setze(CURLOPT_MAXREDIRS, kHoechstensUmgeleitet);
-    setze(CURLOPT_TIMEOUT_MS, static_cast<long>(dauer.count()));
-    setze(CURLOPT_USERAGENT, "Tarvelin");
-    setze(CURLOPT_ACCEPT_ENCODING, "identity");
-    setze(CURLOPT_WRITEFUNCTION, &NimmBytes);
-    setze(CURLOPT_WRITEDATA, static_cast<void*>(&antwort));
-    setze(CURLOPT_HEADERFUNCTION, &NimmKopfzeile);
-    setze(CURLOPT_HEADERDATA, static_cast<void*>(&antwort));
-    setze(CURLOPT_NOSIGNAL, 1L);
+    set(CURLOPT_URL, address.c_str());
+    set(CURLOPT_PROTOCOLS_STR, "http,https");
+    set(CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
+    set(CURLOPT_FOLLOWLOCATION, 1L);
+    set(CURLOPT_MAXREDIRS, kMaxRedirects);
+    set(CURLOPT_TIMEOUT_MS, static_cast<long>(duration.count()));
+    set(CURLOPT_USERAGENT, "Tarvelin");
+    set(CURLOPT_ACCEPT_ENCODING, "identity");
+    set(CURLOPT_WRITEFUNCTION, &TakeBytes);
+    set(CURLOPT_WRITEDATA, static_cast<void*>(&answer));
+    set(CURLOPT_HEADERFUNCTION, &TakeHeaderLine);
+    set(CURLOPT_HEADERDATA, static_cast<void*>(&answer));
+    set(CURLOPT_NOSIGNAL, 1L);
     // Where the platform checks certificates, a revocation list out of reach ends no fetch: as in
     // browsers.
-    setze(CURLOPT_SSL_OPTIONS, static_cast<long>(CURLSSLOPT_REVOKE_BEST_EFFORT));
+    set(CURLOPT_SSL_OPTIONS, static_cast<long>(CURLSSLOPT_REVOKE_BEST_EFFORT));
     // A name server that never answers doesn't hold up the end of the program.
-    setze(CURLOPT_QUICK_EXIT, 1L);
-    return abfrage;
+    set(CURLOPT_QUICK_EXIT, 1L);
+    return query;
 }
 
-bool IstOk(CURL* abfrage) {
+bool IsOk(CURL* query) {
     constexpr long kOk = 200;
     long status = 0;
-    return curl_easy_getinfo(abfrage, CURLINFO_RESPONSE_CODE, &status) == CURLE_OK && status == kOk;
+    return curl_easy_getinfo(query, CURLINFO_RESPONSE_CODE, &status) == CURLE_OK && status == kOk;
 }
 
 }  // namespace
 
 /// The library's own set-up.
-class Netzbibliothek {
+class NetworkLibrary {
   public:
-    Netzbibliothek() { curl_global_init(CURL_GLOBAL_DEFAULT); }
-    Netzbibliothek(const Netzbibliothek&) = delete;
-    Netzbibliothek& operator=(const Netzbibliothek&) = delete;
-    ~Netzbibliothek() { curl_global_cleanup(); }
+    NetworkLibrary() { curl_global_init(CURL_GLOBAL_DEFAULT); }
+    NetworkLibrary(const NetworkLibrary&) = delete;
+    NetworkLibrary& operator=(const NetworkLibrary&) = delete;
+    ~NetworkLibrary() { curl_global_cleanup(); }
 };
 
-class Netzabruf::Verbindungen {
+class HttpFetcher::Connections {
   public:
-    /// The result of the fetch, or nothing if `weiter` ended it. The screen lives on meanwhile.
-    template <class Weiter>
-    std::optional<CURLcode> FuehreAus(CURL* abfrage, Weiter weiter) {
-        constexpr int kHappen = 10;
-        curl_multi_add_handle(m_alle.get(), abfrage);
-        std::optional<CURLcode> ergebnis;
-        int laufende = 0;
-        while (curl_multi_perform(m_alle.get(), &laufende) == CURLM_OK && laufende > 0) {
+    /// The result of the fetch, or nothing if `further` ended it. The screen lives on meanwhile.
+    template <class Further>
+    std::optional<CURLcode> Perform(CURL* query, Further further) {
+        constexpr int kSlice = 10;
+        curl_multi_add_handle(m_all.get(), query);
+        std::optional<CURLcode> result;
+        int running = 0;
+        while (curl_multi_perform(m_all.get(), &running) == CURLM_OK && running > 0) {
             QCoreApplication::processEvents();
-            if (!weiter()) {
+            if (!further()) {
                 break;
             }
-            curl_multi_poll(m_alle.get(), nullptr, 0, kHappen, nullptr);
+            curl_multi_poll(m_all.get(), nullptr, 0, kSlice, nullptr);
         }
-        int uebrige = 0;
-        const CURLMsg* const nachricht = curl_multi_info_read(m_alle.get(), &uebrige);
-        if (nachricht != nullptr && nachricht->easy_handle == abfrage) {
-            ergebnis = nachricht->data.result;
+        int remaining = 0;
+        const CURLMsg* const message = curl_multi_info_read(m_all.get(), &remaining);
+        if (message != nullptr && message->easy_handle == query) {
+            result = message->data.result;
         }
-        curl_multi_remove_handle(m_alle.get(), abfrage);
-        return ergebnis;
+        curl_multi_remove_handle(m_all.get(), query);
+        return result;
     }
 
   private:
-    Netzbibliothek m_bibliothek;
-    std::unique_ptr<CURLM, decltype(&curl_multi_cleanup)> m_alle{curl_multi_init(),
-                                                                 &curl_multi_cleanup};
+    NetworkLibrary m_library;
+    std::unique_ptr<CURLM, decltype(&curl_multi_cleanup)> m_all{curl_multi_init(),
+                                                                &curl_multi_cleanup};
 };
 
-Netzabruf::Netzabruf(Grenzen grenzen)
-    : m_grenzen(grenzen), m_verbindungen(std::make_unique<Verbindungen>()) {}
+HttpFetcher::HttpFetcher(Limits limits)
+    : m_limits(limits), m_connections(std::make_unique<Connections>()) {}
 
-Netzabruf::~Netzabruf() = default;
+HttpFetcher::~HttpFetcher() = default;
 
-std::optional<std::string> Netzabruf::Hole(const std::string& adresse) {
-    const std::string url = Webadresse(adresse);
-    if (url.empty() || m_laeuft) {
+std::optional<std::string> HttpFetcher::Fetch(const std::string& address) {
+    const std::string url = WebAddress(address);
+    if (url.empty() || m_running) {
         return std::nullopt;
     }
-    const QScopedValueRollback laeuft(m_laeuft, true);
-    const Eingabesperre sperre;
-    Antwort antwort{.Hoechstens = m_grenzen.Bytes, .Bytes = {}};
-    const Abfrage abfrage = NeueAbfrage(url, m_grenzen.Dauer, antwort);
-    m_abgebrochen = false;
-    const auto ergebnis =
-        m_verbindungen->FuehreAus(abfrage.get(), [this] { return !m_abgebrochen; });
-    const bool ganz = ergebnis == CURLE_OK && antwort.KopfIstGanz && IstOk(abfrage.get());
-    return ganz ? std::optional(std::move(antwort.Bytes)) : std::nullopt;
+    const QScopedValueRollback running(m_running, true);
+    const InputLock inputLock;
+    Response answer{.maxBytes = m_limits.bytes, .bytes = {}};
+    const Query query = NewQuery(url, m_limits.duration, answer);
+    m_aborted = false;
+    const auto result = m_connections->Perform(query.get(), [this] { return !m_aborted; });
+    const bool whole = result == CURLE_OK && answer.headerComplete && IsOk(query.get());
+    return whole ? std::optional(std::move(answer.bytes)) : std::nullopt;
 }
 
-void Netzabruf::Atme() {
-    const Eingabesperre sperre;
+void HttpFetcher::ProcessEvents() {
+    const InputLock inputLock;
     QCoreApplication::processEvents();
 }
 

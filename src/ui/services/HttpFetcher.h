@@ -13,30 +13,30 @@ namespace tarvelin {
 /// counts with the status 200 alone, within the limits, and whole: with its head to the last line
 /// and its body as long as it was announced, or to the end of its last chunk; a body that announces
 /// neither, to a clean close of the connection. One at a time: nothing is fetched during a fetch.
-class Netzabruf final : public Abruf {
+class HttpFetcher final : public Fetcher {
   public:
-    struct Grenzen {
+    struct Limits {
         /// From the request to the last byte, redirects included.
-        std::chrono::milliseconds Dauer = std::chrono::seconds(60);
-        std::size_t Bytes = std::size_t{4} << 20U;
+        std::chrono::milliseconds duration = std::chrono::seconds(60);
+        std::size_t bytes = std::size_t{4} << 20U;
     };
 
-    explicit Netzabruf(Grenzen grenzen);
-    Netzabruf() : Netzabruf(Grenzen{}) {}
-    ~Netzabruf() override;
+    explicit HttpFetcher(Limits limits);
+    HttpFetcher() : HttpFetcher(Limits{}) {}
+    ~HttpFetcher() override;
 
-    [[nodiscard]] std::optional<std::string> Hole(const std::string& adresse) override;
-    void Atme() override;
-    void BrichAb() override { m_abgebrochen = true; }
+    [[nodiscard]] std::optional<std::string> Fetch(const std::string& address) override;
+    void ProcessEvents() override;
+    void Abort() override { m_aborted = true; }
 
   private:
     /// Holds the connections that servers keep open between two fetches.
-    class Verbindungen;
+    class Connections;
 
-    Grenzen m_grenzen;
-    std::unique_ptr<Verbindungen> m_verbindungen;
-    bool m_abgebrochen = false;
-    bool m_laeuft = false;
+    Limits m_limits;
+    std::unique_ptr<Connections> m_connections;
+    bool m_aborted = false;
+    bool m_running = false;
 };
 
 }  // namespace tarvelin

@@ -6,6 +6,6 @@
 namespace tarvelin {
 
 /// The absolute path of the first argument; empty if there is none.
-[[nodiscard]] std::filesystem::path Planargument(int argc, char** argv);
+[[nodiscard]] std::filesystem::path PlanArgument(int argc, char** argv);
 
 }  // namespace tarvelin

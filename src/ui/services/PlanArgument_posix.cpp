@@ -3,9 +3,9 @@
 
 namespace tarvelin {
 
-std::filesystem::path Planargument(int argc, char** argv) {
-    std::error_code fehler;
-    return argc < 2 ? std::filesystem::path() : std::filesystem::absolute(argv[1], fehler);
+std::filesystem::path PlanArgument(int argc, char** argv) {
+    std::error_code error;
+    return argc < 2 ? std::filesystem::path() : std::filesystem::absolute(argv[1], error);
 }
 
 }  // namespace tarvelin

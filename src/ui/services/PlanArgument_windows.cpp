@@ -11,18 +11,18 @@
 
 namespace tarvelin {
 
-std::filesystem::path Planargument(int /*argc*/, char** /*argv*/) {
-    int anzahl = 0;
-    wchar_t** const worte = ::CommandLineToArgvW(::GetCommandLineW(), &anzahl);
+std::filesystem::path PlanArgument(int /*argc*/, char** /*argv*/) {
+    int count = 0;
+    wchar_t** const words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
     std::filesystem::path plan;
-    if (worte != nullptr && anzahl > 1) {
+    if (words != nullptr && count > 1) {
         // The library's own answer takes a share for a folder of this disk.
-        std::wstring voll(::GetFullPathNameW(worte[1], 0, nullptr, nullptr), L'\0');
-        voll.resize(
-            ::GetFullPathNameW(worte[1], static_cast<DWORD>(voll.size()), voll.data(), nullptr));
-        plan = voll;
+        std::wstring full(::GetFullPathNameW(words[1], 0, nullptr, nullptr), L'\0');
+        full.resize(
+            ::GetFullPathNameW(words[1], static_cast<DWORD>(full.size()), full.data(), nullptr));
+        plan = full;
     }
-    ::LocalFree(worte);
+    ::LocalFree(words);
     return plan;
 }
 

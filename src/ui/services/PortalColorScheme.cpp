@@ -14,52 +14,52 @@ namespace tarvelin {
 
 namespace {
 
-const QString kBereich = QStringLiteral("org.freedesktop.appearance");
-const QString kSchluessel = QStringLiteral("color-scheme");
-const QString kDienst = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString kPfad = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString kSchnittstelle = QStringLiteral("org.freedesktop.portal.Settings");
+const QString kNamespace = QStringLiteral("org.freedesktop.appearance");
+const QString kKey = QStringLiteral("color-scheme");
+const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString kInterface = QStringLiteral("org.freedesktop.portal.Settings");
 
 /// 1 asks for dark windows; an answer may stand within another.
-bool FragtNachDunkel(QVariant wert) {
-    while (wert.canConvert<QDBusVariant>()) {
-        wert = wert.value<QDBusVariant>().variant();
+bool AsksForDark(QVariant value) {
+    while (value.canConvert<QDBusVariant>()) {
+        value = value.value<QDBusVariant>().variant();
     }
-    return wert.toUInt() == 1;
+    return value.toUInt() == 1;
 }
 
 }  // namespace
 
-Farbwunschempfaenger::Farbwunschempfaenger(QObject* kontext, std::function<void(bool)> melde)
-    : QObject(kontext), m_melde(std::move(melde)) {
+PortalColorScheme::PortalColorScheme(QObject* context, std::function<void(bool)> report)
+    : QObject(context), m_report(std::move(report)) {
     QDBusConnection bus = QDBusConnection::sessionBus();
-    bus.connect(kDienst, kPfad, kSchnittstelle, QStringLiteral("SettingChanged"), this,
+    bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
                 SLOT(SettingChanged(QString, QString, QDBusVariant)));
-    QDBusMessage frage =
-        QDBusMessage::createMethodCall(kDienst, kPfad, kSchnittstelle, QStringLiteral("Read"));
-    frage << kBereich << kSchluessel;
-    auto* const antwort = new QDBusPendingCallWatcher(bus.asyncCall(frage), this);
-    connect(antwort, &QDBusPendingCallWatcher::finished, this, [this, antwort] {
-        const QDBusPendingReply<QDBusVariant> wert = *antwort;
-        if (!wert.isError()) {
-            m_melde(FragtNachDunkel(wert.value().variant()));
+    QDBusMessage question =
+        QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("Read"));
+    question << kNamespace << kKey;
+    auto* const answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        const QDBusPendingReply<QDBusVariant> value = *answer;
+        if (!value.isError()) {
+            m_report(AsksForDark(value.value().variant()));
         }
-        antwort->deleteLater();
+        answer->deleteLater();
     });
 }
 
-void Farbwunschempfaenger::SettingChanged(const QString& bereich, const QString& schluessel,
-                                          const QDBusVariant& wert) {
-    if (bereich == kBereich && schluessel == kSchluessel) {
-        m_melde(FragtNachDunkel(wert.variant()));
+void PortalColorScheme::SettingChanged(const QString& range, const QString& key,
+                                       const QDBusVariant& value) {
+    if (range == kNamespace && key == kKey) {
+        m_report(AsksForDark(value.variant()));
     }
 }
 
-void BeobachteFarbwunsch(QObject* kontext, std::function<void(bool dunkel)> melde) {
+void WatchColorScheme(QObject* context, std::function<void(bool dark)> report) {
     // Without a bus the toolkit would start one.
     if (qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")) {
-        // `kontext` owns it.
-        new Farbwunschempfaenger(kontext, std::move(melde));
+        // `context` owns it.
+        new PortalColorScheme(context, std::move(report));
     }
 }
 

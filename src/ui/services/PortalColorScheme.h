@@ -7,20 +7,19 @@
 
 namespace tarvelin {
 
-class Farbwunschempfaenger : public QObject {
+class PortalColorScheme : public QObject {
     Q_OBJECT
 
   public:
-    /// Asks at once. `kontext` becomes its owner.
-    Farbwunschempfaenger(QObject* kontext, std::function<void(bool)> melde);
+    /// Asks at once. `context` becomes its owner.
+    PortalColorScheme(QObject* context, std::function<void(bool)> report);
 
   private slots:
-    void SettingChanged(const QString& bereich, const QString& schluessel,
-                        const QDBusVariant& wert);
+    void SettingChanged(const QString& range, const QString& key, const QDBusVariant& value);
 
     // NOLINTNEXTLINE(readability-redundant-access-specifiers): what was above were slots
   private:
-    std::function<void(bool)> m_melde;
+    std::function<void(bool)> m_report;
 };
 
 }  // namespace tarvelin

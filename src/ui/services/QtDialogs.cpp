@@ -19,8 +19,8 @@ namespace tarvelin {
 
 namespace {
 
-QMessageBox::Icon Symbol(MessageIcon symbol) {
-    switch (symbol) {
+QMessageBox::Icon IconOf(MessageIcon icon) {
+    switch (icon) {
         case MessageIcon::Error:
             return QMessageBox::Critical;
         case MessageIcon::Question:
@@ -36,67 +36,66 @@ QMessageBox::Icon Symbol(MessageIcon symbol) {
 }
 
 /// Between two boxes no window is active for a moment.
-QWidget* Elternfenster() {
-    if (QWidget* const aktives = QApplication::activeWindow()) {
-        return aktives;
+QWidget* ParentWindow() {
+    if (QWidget* const active = QApplication::activeWindow()) {
+        return active;
     }
-    for (QWidget* const fenster : QApplication::topLevelWidgets()) {
-        if (qobject_cast<QMainWindow*>(fenster) != nullptr && fenster->isVisible()) {
-            return fenster;
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        if (qobject_cast<QMainWindow*>(window) != nullptr && window->isVisible()) {
+            return window;
         }
     }
     return nullptr;
 }
 
 /// A box is as wide as its title, which the frame draws larger than our font, beside its buttons.
-void GibTitelRaum(QMessageBox& box, const QString& titel) {
-    if (auto* const raster = qobject_cast<QGridLayout*>(box.layout())) {
-        constexpr int kKnoepfe = 120;
-        const int breite = box.fontMetrics().horizontalAdvance(titel) * 3 / 2 + kKnoepfe;
-        raster->addItem(new QSpacerItem(breite, 0), raster->rowCount(), 0, 1,
-                        raster->columnCount());
+void MakeRoomForTitle(QMessageBox& box, const QString& title) {
+    if (auto* const grid = qobject_cast<QGridLayout*>(box.layout())) {
+        constexpr int kButtons = 120;
+        const int width = box.fontMetrics().horizontalAdvance(title) * 3 / 2 + kButtons;
+        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
     }
 }
 
 /// A message box as ours look.
-class Box : public QMessageBox {
+class ModalBox : public QMessageBox {
   public:
-    Box(const std::string& text, const std::string& titel, MessageIcon symbol,
-        QMessageBox::StandardButtons knoepfe)
-        : QMessageBox(Elternfenster()) {
-        const QString titelzeile = titel.empty() ? QStringLiteral("Tarvelin") : ToQString(titel);
-        setWindowTitle(titelzeile);
+    ModalBox(const std::string& text, const std::string& title, MessageIcon icon,
+             QMessageBox::StandardButtons buttons)
+        : QMessageBox(ParentWindow()) {
+        const QString titleLine = title.empty() ? QStringLiteral("Tarvelin") : ToQString(title);
+        setWindowTitle(titleLine);
         setTextFormat(Qt::PlainText);
         setText(ToQString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
-        setIcon(Symbol(symbol));
-        setStandardButtons(knoepfe);
-        for (const auto& [knopf, aufschrift] :
+        setIcon(IconOf(icon));
+        setStandardButtons(buttons);
+        for (const auto& [standardButton, caption] :
              {std::pair(QMessageBox::Yes, QStringLiteral("&Ja")),
               std::pair(QMessageBox::No, QStringLiteral("&Nein"))}) {
-            if (auto* const gezeigter = button(knopf)) {
-                gezeigter->setText(aufschrift);
+            if (auto* const shown = button(standardButton)) {
+                shown->setText(caption);
             }
         }
-        GibTitelRaum(*this, titelzeile);
+        MakeRoomForTitle(*this, titleLine);
     }
-    explicit Box(const Message& meldung)
-        : Box(meldung.text, meldung.title, meldung.icon, QMessageBox::Ok) {}
+    explicit ModalBox(const Message& message)
+        : ModalBox(message.text, message.title, message.icon, QMessageBox::Ok) {}
 };
 
 /// Files with sizes and dates in German: the toolkit's model takes the system's language for them.
-class DeutscheDateien : public QIdentityProxyModel {
+class GermanFileModel : public QIdentityProxyModel {
   public:
     using QIdentityProxyModel::QIdentityProxyModel;
 
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
-        const auto* const dateien = qobject_cast<const QFileSystemModel*>(sourceModel());
-        if (role == Qt::DisplayRole && dateien != nullptr) {
-            const QFileInfo datei = dateien->fileInfo(mapToSource(index));
-            if (index.column() == kGroesse && !datei.isDir()) {
-                return QLocale().formattedDataSize(datei.size());
+        const auto* const files = qobject_cast<const QFileSystemModel*>(sourceModel());
+        if (role == Qt::DisplayRole && files != nullptr) {
+            const QFileInfo file = files->fileInfo(mapToSource(index));
+            if (index.column() == kSize && !file.isDir()) {
+                return QLocale().formattedDataSize(file.size());
             }
-            if (index.column() == kDatum) {
-                return QLocale().toString(datei.lastModified(), QLocale::ShortFormat);
+            if (index.column() == kDateColumn) {
+                return QLocale().toString(file.lastModified(), QLocale::ShortFormat);
             }
         }
         return QIdentityProxyModel::data(index, role);
@@ -104,87 +103,86 @@ class DeutscheDateien : public QIdentityProxyModel {
 
   private:
     /// Columns of the toolkit's model.
-    static constexpr int kGroesse = 1;
-    static constexpr int kDatum = 3;
+    static constexpr int kSize = 1;
+    static constexpr int kDateColumn = 3;
 };
 
 /// Formats, the first of them to begin with; the chosen one ends a name without an ending.
-void StelleAufFormate(QFileDialog& dialog, const QStringList& formate) {
-    const auto waehle = [&dialog](const QString& format) {
+void FollowFormats(QFileDialog& dialog, const QStringList& formats) {
+    const auto choose = [&dialog](const QString& format) {
         dialog.setDefaultSuffix(format.mid(format.indexOf(QLatin1Char('.')) + 1).chopped(1));
     };
-    dialog.setNameFilters(formate);
-    waehle(formate.first());
-    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, waehle);
+    dialog.setNameFilters(formats);
+    choose(formats.first());
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, choose);
 }
 
 }  // namespace
 
-int Meldungsfenster::Oeffne(QDialog& dialog) {
-    if (m_beendet) {
+int QtDialogs::Exec(QDialog& dialog) {
+    if (m_finished) {
         return QDialog::Rejected;
     }
-    m_offene.push_back(&dialog);
-    const int antwort = dialog.exec();
-    m_offene.pop_back();
-    return antwort;
+    m_open.push_back(&dialog);
+    const int answer = dialog.exec();
+    m_open.pop_back();
+    return answer;
 }
 
-void Meldungsfenster::Beende() {
-    m_beendet = true;
-    for (QDialog* const dialog : m_offene) {
+void QtDialogs::CloseAll() {
+    m_finished = true;
+    for (QDialog* const dialog : m_open) {
         dialog->reject();
     }
 }
 
-void Meldungsfenster::Show(const Message& meldung) {
-    Box box(meldung);
-    Oeffne(box);
+void QtDialogs::Show(const Message& message) {
+    ModalBox box(message);
+    Exec(box);
 }
 
-bool Meldungsfenster::ZeigeAbstellbar(const Message& meldung) {
-    Box box(meldung);
+bool QtDialogs::ShowSuppressible(const Message& message) {
+    ModalBox box(message);
     // The box owns it.
-    auto* const abstellen = new QCheckBox(QStringLiteral("In diesem Lauf nicht mehr zeigen"));
-    box.setCheckBox(abstellen);
-    Oeffne(box);
-    return !abstellen->isChecked();
+    auto* const suppress = new QCheckBox(QStringLiteral("In diesem Lauf nicht mehr zeigen"));
+    box.setCheckBox(suppress);
+    Exec(box);
+    return !suppress->isChecked();
 }
 
-void Meldungsfenster::Beep() {
+void QtDialogs::Beep() {
     QApplication::beep();
 }
 
-bool Meldungsfenster::Stelle(const Frage& frage) {
-    Box box(frage.Text, frage.Titel, frage.Symbol, QMessageBox::Yes | QMessageBox::No);
-    return Oeffne(box) == QMessageBox::Yes;
+bool QtDialogs::Ask(const Question& question) {
+    ModalBox box(question.text, question.title, question.icon, QMessageBox::Yes | QMessageBox::No);
+    return Exec(box) == QMessageBox::Yes;
 }
 
-std::filesystem::path Meldungsfenster::FragNachDatei(Zweck zweck,
-                                                     const std::filesystem::path& ordner) {
-    QFileDialog dialog(Elternfenster());
-    const bool laden = zweck == Zweck::Laden;
-    dialog.setAcceptMode(laden ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+std::filesystem::path QtDialogs::AskForFile(Purpose purpose, const std::filesystem::path& folder) {
+    QFileDialog dialog(ParentWindow());
+    const bool load = purpose == Purpose::Load;
+    dialog.setAcceptMode(load ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     // A name that isn't there is answered by the load itself.
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.setProxyModel(new DeutscheDateien(&dialog));
-    if (zweck == Zweck::Bild) {
-        QStringList formate{QStringLiteral("Bild (*.png)"), QStringLiteral("Dokument (*.pdf)")};
-        if (KannSvg()) {
-            formate.insert(1, QStringLiteral("Vektorbild (*.svg)"));
+    dialog.setProxyModel(new GermanFileModel(&dialog));
+    if (purpose == Purpose::Picture) {
+        QStringList formats{QStringLiteral("Bild (*.png)"), QStringLiteral("Dokument (*.pdf)")};
+        if (HasSvg()) {
+            formats.insert(1, QStringLiteral("Vektorbild (*.svg)"));
         }
-        StelleAufFormate(dialog, formate);
-    } else if (zweck == Zweck::Kalender) {
-        StelleAufFormate(dialog, {QStringLiteral("Kalender (*.ics)")});
+        FollowFormats(dialog, formats);
+    } else if (purpose == Purpose::Calendar) {
+        FollowFormats(dialog, {QStringLiteral("Kalender (*.ics)")});
     } else {
         dialog.setOption(QFileDialog::DontConfirmOverwrite);
         dialog.setNameFilter(QStringLiteral("(*.tvf) Tarvelin Save-Files (*.tvf)"));
     }
-    constexpr QSize kGroesse(720, 420);
-    dialog.resize(kGroesse);
-    dialog.setDirectory(PathToQString(ordner));
-    if (Oeffne(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    constexpr QSize kSize(720, 420);
+    dialog.resize(kSize);
+    dialog.setDirectory(PathToQString(folder));
+    if (Exec(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};
     }
     return ToPath(dialog.selectedFiles().constFirst());

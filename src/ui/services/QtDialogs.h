@@ -9,23 +9,23 @@
 namespace tarvelin {
 
 /// Boxes stand over the window that is active. Texts are shown as they are, never read as markup.
-class Meldungsfenster final : public Dialoge {
+class QtDialogs final : public Dialogs {
   public:
-    void Show(const Message& meldung) override;
-    [[nodiscard]] bool ZeigeAbstellbar(const Message& meldung) override;
+    void Show(const Message& message) override;
+    [[nodiscard]] bool ShowSuppressible(const Message& message) override;
     void Beep() override;
-    [[nodiscard]] bool Stelle(const Frage& frage) override;
-    [[nodiscard]] std::filesystem::path FragNachDatei(Zweck zweck,
-                                                      const std::filesystem::path& ordner) override;
-    void Beende() override;
+    [[nodiscard]] bool Ask(const Question& question) override;
+    [[nodiscard]] std::filesystem::path AskForFile(Purpose purpose,
+                                                   const std::filesystem::path& folder) override;
+    void CloseAll() override;
 
   private:
     /// The answer of a modal dialog; that of its close button when nothing is opened any more.
-    int Oeffne(QDialog& dialog);
+    int Exec(QDialog& dialog);
 
     /// The innermost last.
-    std::vector<QDialog*> m_offene;
-    bool m_beendet = false;
+    std::vector<QDialog*> m_open;
+    bool m_finished = false;
 };
 
 }  // namespace tarvelin

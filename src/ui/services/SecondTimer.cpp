@@ -5,25 +5,25 @@
 
 namespace tarvelin {
 
-Sekundentakt::Sekundentakt(const QString& name, QObject* parent) : QTimer(parent) {
+SecondTimer::SecondTimer(const QString& name, QObject* parent) : QTimer(parent) {
     setObjectName(name);
     setTimerType(Qt::PreciseTimer);
     setSingleShot(true);
-    connect(this, &QTimer::timeout, this, &Sekundentakt::ZieleAufNaechsteSekunde);
+    connect(this, &QTimer::timeout, this, &SecondTimer::AimAtNextSecond);
 }
 
-void Sekundentakt::Schalte(bool an) {
-    if (an) {
-        ZieleAufNaechsteSekunde();
+void SecondTimer::SetRunning(bool on) {
+    if (on) {
+        AimAtNextSecond();
     } else {
         stop();
     }
 }
 
-void Sekundentakt::ZieleAufNaechsteSekunde() {
-    constexpr int kSekunde = 1000;
-    constexpr int kDahinter = 50;
-    start(kSekunde - QTime::currentTime().msec() + kDahinter);
+void SecondTimer::AimAtNextSecond() {
+    constexpr int kSecond = 1000;
+    constexpr int kBehind = 50;
+    start(kSecond - QTime::currentTime().msec() + kBehind);
 }
 
 }  // namespace tarvelin

@@ -7,16 +7,16 @@ namespace tarvelin {
 
 /// Its signal is `timeout`. It aims at a moment shortly behind the change of the second, anew after
 /// every tick, so it drifts past none; a tick that is held up isn't made up later.
-class Sekundentakt : public QTimer {
+class SecondTimer : public QTimer {
     Q_OBJECT
 
   public:
-    Sekundentakt(const QString& name, QObject* parent);
+    SecondTimer(const QString& name, QObject* parent);
 
-    void Schalte(bool an);
+    void SetRunning(bool on);
 
   private:
-    void ZieleAufNaechsteSekunde();
+    void AimAtNextSecond();
 };
 
 }  // namespace tarvelin

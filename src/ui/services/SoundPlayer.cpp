@@ -13,47 +13,47 @@ namespace tarvelin {
 
 namespace {
 
-QAudioFormat FormatVon(const Welle& welle) {
+QAudioFormat FormatOf(const Wave& wave) {
     QAudioFormat format;
-    format.setSampleRate(welle.Rate);
-    format.setChannelCount(welle.Kanaele);
-    format.setSampleFormat(welle.Bits == 8    ? QAudioFormat::UInt8
-                           : welle.Bits == 16 ? QAudioFormat::Int16
-                                              : QAudioFormat::Int32);
+    format.setSampleRate(wave.rate);
+    format.setChannelCount(wave.channels);
+    format.setSampleFormat(wave.bits == 8    ? QAudioFormat::UInt8
+                           : wave.bits == 16 ? QAudioFormat::Int16
+                                             : QAudioFormat::Int32);
     return format;
 }
 
 }  // namespace
 
-Klangausgabe::Klangausgabe() {
-    m_gleich.setSingleShot(true);
-    m_gleich.callOnTimeout([this] { Beginne(); });
+SoundPlayer::SoundPlayer() {
+    m_soon.setSingleShot(true);
+    m_soon.callOnTimeout([this] { Begin(); });
 }
 
-Klangausgabe::~Klangausgabe() = default;
+SoundPlayer::~SoundPlayer() = default;
 
 // Of many that are asked for at once only the last is opened.
-void Klangausgabe::Spiele(const std::filesystem::path& datei) {
-    m_datei = datei;
-    m_gleich.start(0);
+void SoundPlayer::Play(const std::filesystem::path& file) {
+    m_file = file;
+    m_soon.start(0);
 }
 
 // The toolkit's own player of files hangs at some, divides by nothing at others, and keeps what it
 // once read under a name. The file is read here, and the sound card gets samples.
-void Klangausgabe::Beginne() {
-    m_senke.reset();
-    m_abtastwerte.close();
-    const auto welle = LiesWelle(m_datei);
-    const QAudioDevice geraet = QMediaDevices::defaultAudioOutput();
-    if (!welle || geraet.isNull()) {
+void SoundPlayer::Begin() {
+    m_sink.reset();
+    m_samples.close();
+    const auto wave = ReadWave(m_file);
+    const QAudioDevice device = QMediaDevices::defaultAudioOutput();
+    if (!wave || device.isNull()) {
         QApplication::beep();
         return;
     }
-    m_abtastwerte.setData(QByteArray::fromStdString(welle->Abtastwerte));
-    m_abtastwerte.open(QIODevice::ReadOnly);
-    m_senke = std::make_unique<QAudioSink>(geraet, FormatVon(*welle));
-    m_senke->start(&m_abtastwerte);
-    if (m_senke->error() != QAudio::NoError) {
+    m_samples.setData(QByteArray::fromStdString(wave->samples));
+    m_samples.open(QIODevice::ReadOnly);
+    m_sink = std::make_unique<QAudioSink>(device, FormatOf(*wave));
+    m_sink->start(&m_samples);
+    if (m_sink->error() != QAudio::NoError) {
         QApplication::beep();
     }
 }

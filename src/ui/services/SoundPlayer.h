@@ -13,21 +13,21 @@ class QAudioSink;
 
 namespace tarvelin {
 
-class Klangausgabe final : public Klang {
+class SoundPlayer final : public Sound {
   public:
-    Klangausgabe();
-    ~Klangausgabe() override;
+    SoundPlayer();
+    ~SoundPlayer() override;
 
-    void Spiele(const std::filesystem::path& datei) override;
+    void Play(const std::filesystem::path& file) override;
 
   private:
-    void Beginne();
+    void Begin();
 
-    std::filesystem::path m_datei;
-    QTimer m_gleich;
+    std::filesystem::path m_file;
+    QTimer m_soon;
     /// The samples of the sound that plays.
-    QBuffer m_abtastwerte;
-    std::unique_ptr<QAudioSink> m_senke;
+    QBuffer m_samples;
+    std::unique_ptr<QAudioSink> m_sink;
 };
 
 }  // namespace tarvelin

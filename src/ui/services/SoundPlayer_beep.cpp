@@ -7,10 +7,10 @@ class QAudioSink {};
 
 namespace tarvelin {
 
-Klangausgabe::Klangausgabe() = default;
-Klangausgabe::~Klangausgabe() = default;
+SoundPlayer::SoundPlayer() = default;
+SoundPlayer::~SoundPlayer() = default;
 
-void Klangausgabe::Spiele(const std::filesystem::path& /*datei*/) {
+void SoundPlayer::Play(const std::filesystem::path& /*datei*/) {
     QApplication::beep();
 }
 

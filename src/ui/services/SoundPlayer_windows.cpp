@@ -17,67 +17,67 @@ namespace tarvelin {
 namespace {
 
 /// The platform's player takes samples of 8 and 16 bits: of longer ones the upper half.
-Welle Spielbar(Welle welle) {
-    constexpr int kLange = 32;
-    if (welle.Bits == kLange) {
-        std::string kurze;
-        for (std::size_t i = 0; i < welle.Abtastwerte.size(); i += 4) {
-            kurze.append(welle.Abtastwerte, i + 2, 2);
+Wave Playable(Wave wave) {
+    constexpr int kLong = 32;
+    if (wave.bits == kLong) {
+        std::string shortName;
+        for (std::size_t i = 0; i < wave.samples.size(); i += 4) {
+            shortName.append(wave.samples, i + 2, 2);
         }
-        welle.Abtastwerte = std::move(kurze);
-        welle.Bits = kLange / 2;
+        wave.samples = std::move(shortName);
+        wave.bits = kLong / 2;
     }
-    return welle;
+    return wave;
 }
 
 /// A wave file that has its format and its samples and nothing else.
-QByteArray AlsDatei(const Welle& welle) {
-    constexpr quint32 kKopf = 36;
-    constexpr quint32 kFormatlaenge = 16;
-    constexpr quint16 kGanzeZahlen = 1;
+QByteArray ToFile(const Wave& wave) {
+    constexpr quint32 kHeader = 36;
+    constexpr quint32 kFormatLength = 16;
+    constexpr quint16 kWholeNumbers = 1;
     constexpr int kByte = 8;
-    const auto laenge = static_cast<quint32>(welle.Abtastwerte.size());
-    const int rahmen = welle.Kanaele * welle.Bits / kByte;
+    const auto length = static_cast<quint32>(wave.samples.size());
+    const int frame = wave.channels * wave.bits / kByte;
     QByteArray bytes;
-    QDataStream strom(&bytes, QIODevice::WriteOnly);
-    strom.setByteOrder(QDataStream::LittleEndian);
-    strom.writeRawData("RIFF", 4);
-    strom << kKopf + laenge;
-    strom.writeRawData("WAVEfmt ", 8);
-    strom << kFormatlaenge << kGanzeZahlen << static_cast<quint16>(welle.Kanaele)
-          << static_cast<quint32>(welle.Rate) << static_cast<quint32>(welle.Rate * rahmen)
-          << static_cast<quint16>(rahmen) << static_cast<quint16>(welle.Bits);
-    strom.writeRawData("data", 4);
-    strom << laenge;
-    return bytes + QByteArray::fromStdString(welle.Abtastwerte);
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setByteOrder(QDataStream::LittleEndian);
+    stream.writeRawData("RIFF", 4);
+    stream << kHeader + length;
+    stream.writeRawData("WAVEfmt ", 8);
+    stream << kFormatLength << kWholeNumbers << static_cast<quint16>(wave.channels)
+           << static_cast<quint32>(wave.rate) << static_cast<quint32>(wave.rate * frame)
+           << static_cast<quint16>(frame) << static_cast<quint16>(wave.bits);
+    stream.writeRawData("data", 4);
+    stream << length;
+    return bytes + QByteArray::fromStdString(wave.samples);
 }
 
 }  // namespace
 
-Klangausgabe::Klangausgabe() {
-    m_gleich.setSingleShot(true);
-    m_gleich.callOnTimeout([this] { Beginne(); });
+SoundPlayer::SoundPlayer() {
+    m_soon.setSingleShot(true);
+    m_soon.callOnTimeout([this] { Begin(); });
 }
 
 // The player ends before its bytes do.
-Klangausgabe::~Klangausgabe() {
+SoundPlayer::~SoundPlayer() {
     ::PlaySoundW(nullptr, nullptr, 0);
 }
 
 // Of many that are asked for at once only the last is opened.
-void Klangausgabe::Spiele(const std::filesystem::path& datei) {
-    m_datei = datei;
-    m_gleich.start(0);
+void SoundPlayer::Play(const std::filesystem::path& file) {
+    m_file = file;
+    m_soon.start(0);
 }
 
 // The player would say nothing of a file that it can't play, and keep everybody else from writing
 // one that it plays. The file is read here, and the player gets bytes.
-void Klangausgabe::Beginne() {
+void SoundPlayer::Begin() {
     ::PlaySoundW(nullptr, nullptr, 0);
-    const auto welle = LiesWelle(m_datei);
-    m_abtastwerte.setData(welle ? AlsDatei(Spielbar(*welle)) : QByteArray());
-    const auto* const bytes = reinterpret_cast<const wchar_t*>(m_abtastwerte.data().constData());
-    if (!welle || ::PlaySoundW(bytes, nullptr, SND_MEMORY | SND_ASYNC | SND_NODEFAULT) == 0) {
+    const auto wave = ReadWave(m_file);
+    m_samples.setData(wave ? ToFile(Playable(*wave)) : QByteArray());
+    const auto* const bytes = reinterpret_cast<const wchar_t*>(m_samples.data().constData());
+    if (!wave || ::PlaySoundW(bytes, nullptr, SND_MEMORY | SND_ASYNC | SND_NODEFAULT) == 0) {
         QApplication::beep();
     }
 }

@@ -6,20 +6,20 @@
 
 namespace tarvelin {
 
-bool KannSvg() {
+bool HasSvg() {
     return true;
 }
 
-QByteArray AlsSvg(const QSize& groesse, const std::function<void(QPainter&)>& male) {
+QByteArray ToSvg(const QSize& size, const std::function<void(QPainter&)>& draw) {
     QByteArray bytes;
-    QBuffer puffer(&bytes);
-    QSvgGenerator erzeuger;
-    erzeuger.setOutputDevice(&puffer);
-    erzeuger.setTitle(QStringLiteral("Tarvelin"));
-    erzeuger.setSize(groesse);
-    erzeuger.setViewBox(QRect(QPoint(), groesse));
-    QPainter painter(&erzeuger);
-    male(painter);
+    QBuffer buffer(&bytes);
+    QSvgGenerator generator;
+    generator.setOutputDevice(&buffer);
+    generator.setTitle(QStringLiteral("Tarvelin"));
+    generator.setSize(size);
+    generator.setViewBox(QRect(QPoint(), size));
+    QPainter painter(&generator);
+    draw(painter);
     painter.end();
     return bytes;
 }

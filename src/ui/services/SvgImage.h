@@ -8,9 +8,9 @@
 
 namespace tarvelin {
 
-[[nodiscard]] bool KannSvg();
+[[nodiscard]] bool HasSvg();
 
-/// The bytes of what `male` paints on this many dots; none where it can't be done.
-[[nodiscard]] QByteArray AlsSvg(const QSize& groesse, const std::function<void(QPainter&)>& male);
+/// The bytes of what `draw` paints on this many dots; none where it can't be done.
+[[nodiscard]] QByteArray ToSvg(const QSize& size, const std::function<void(QPainter&)>& draw);
 
 }  // namespace tarvelin

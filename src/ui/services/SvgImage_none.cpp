@@ -3,11 +3,11 @@
 
 namespace tarvelin {
 
-bool KannSvg() {
+bool HasSvg() {
     return false;
 }
 
-QByteArray AlsSvg(const QSize& /*groesse*/, const std::function<void(QPainter&)>& /*male*/) {
+QByteArray ToSvg(const QSize& /*groesse*/, const std::function<void(QPainter&)>& /*male*/) {
     return {};
 }
 

@@ -6,18 +6,18 @@
 
 namespace tarvelin {
 
-/// Calls `beende` on the thread of the window, each time when SIGTERM, SIGHUP or SIGINT has come;
+/// Calls `finish` on the thread of the window, each time when SIGTERM, SIGHUP or SIGINT has come;
 /// on a platform without signals never. A SIGHUP that the program was started to ignore stays
 /// ignored. There can be one at a time.
-class Endesignale : public QObject {
+class TerminationSignals : public QObject {
   public:
-    explicit Endesignale(std::function<void()> beende);
-    Endesignale(const Endesignale&) = delete;
-    Endesignale& operator=(const Endesignale&) = delete;
-    ~Endesignale() override;
+    explicit TerminationSignals(std::function<void()> finish);
+    TerminationSignals(const TerminationSignals&) = delete;
+    TerminationSignals& operator=(const TerminationSignals&) = delete;
+    ~TerminationSignals() override;
 
   private:
-    std::function<void()> m_beende;
+    std::function<void()> m_finish;
 };
 
 }  // namespace tarvelin

@@ -14,55 +14,55 @@ namespace tarvelin {
 
 namespace {
 
-constexpr std::array<int, 3> kSignale{SIGTERM, SIGHUP, SIGINT};
+constexpr std::array<int, 3> kSignals{SIGTERM, SIGHUP, SIGINT};
 
 /// The ends for reading and writing. A handler gets nothing but its signal, so this can't be a
 /// member.
-std::array<int, 2> pipeEnden{-1, -1};
+std::array<int, 2> pipeEnds{-1, -1};
 
-void Melde(int /*signal*/) {
-    const int fehler = errno;
+void Report(int /*signal*/) {
+    const int error = errno;
     // A pipe that is full has told it already.
-    [[maybe_unused]] const ssize_t geschrieben = ::write(pipeEnden[1], "", 1);
-    errno = fehler;
+    [[maybe_unused]] const ssize_t written = ::write(pipeEnds[1], "", 1);
+    errno = error;
 }
 
-void Behandle(int signal) {
-    struct sigaction bisher {};
-    if (signal == SIGHUP && ::sigaction(signal, nullptr, &bisher) == 0 &&
-        bisher.sa_handler == SIG_IGN) {
+void Handle(int signal) {
+    struct sigaction previous {};
+    if (signal == SIGHUP && ::sigaction(signal, nullptr, &previous) == 0 &&
+        previous.sa_handler == SIG_IGN) {
         return;
     }
-    struct sigaction neu {};
-    neu.sa_handler = Melde;
-    neu.sa_flags = SA_RESTART;
-    ::sigaction(signal, &neu, nullptr);
+    struct sigaction fresh {};
+    fresh.sa_handler = Report;
+    fresh.sa_flags = SA_RESTART;
+    ::sigaction(signal, &fresh, nullptr);
 }
 
 }  // namespace
 
-Endesignale::Endesignale(std::function<void()> beende) : m_beende(std::move(beende)) {
-    if (::pipe2(pipeEnden.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
+TerminationSignals::TerminationSignals(std::function<void()> finish) : m_finish(std::move(finish)) {
+    if (::pipe2(pipeEnds.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
         return;
     }
-    auto* const waechter = new QSocketNotifier(pipeEnden[0], QSocketNotifier::Read, this);
-    connect(waechter, &QSocketNotifier::activated, this, [this] {
+    auto* const notifier = new QSocketNotifier(pipeEnds[0], QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, [this] {
         std::array<char, 16> bytes{};
-        while (::read(pipeEnden[0], bytes.data(), bytes.size()) > 0) {
+        while (::read(pipeEnds[0], bytes.data(), bytes.size()) > 0) {
         }
-        m_beende();
+        m_finish();
     });
-    for (const int signal : kSignale) {
-        Behandle(signal);
+    for (const int signal : kSignals) {
+        Handle(signal);
     }
 }
 
-Endesignale::~Endesignale() {
-    for (const int signal : kSignale) {
+TerminationSignals::~TerminationSignals() {
+    for (const int signal : kSignals) {
         std::signal(signal, SIG_IGN);
     }
-    for (int& ende : pipeEnden) {
-        ::close(std::exchange(ende, -1));
+    for (int& end : pipeEnds) {
+        ::close(std::exchange(end, -1));
     }
 }
 

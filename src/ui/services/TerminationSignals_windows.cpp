@@ -5,8 +5,9 @@
 
 namespace tarvelin {
 
-Endesignale::Endesignale(std::function<void()> beende) : m_beende(std::move(beende)) {}
+TerminationSignals::TerminationSignals(std::function<void()> finish)
+    : m_finish(std::move(finish)) {}
 
-Endesignale::~Endesignale() = default;
+TerminationSignals::~TerminationSignals() = default;
 
 }  // namespace tarvelin

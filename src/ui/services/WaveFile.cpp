@@ -11,80 +11,80 @@ namespace tarvelin {
 
 namespace {
 
-constexpr std::size_t kKopf = 12;
-constexpr std::size_t kChunkkopf = 8;
+constexpr std::size_t kHeader = 12;
+constexpr std::size_t kChunkHeader = 8;
 
-std::uint32_t Zahl(std::string_view bytes, std::size_t stelle, std::size_t laenge) {
-    std::uint32_t wert = 0;
-    for (std::size_t i = laenge; i-- > 0;) {
-        wert = wert << 8U | static_cast<unsigned char>(bytes[stelle + i]);
+std::uint32_t NumberAt(std::string_view bytes, std::size_t position, std::size_t length) {
+    std::uint32_t value = 0;
+    for (std::size_t i = length; i-- > 0;) {
+        value = value << 8U | static_cast<unsigned char>(bytes[position + i]);
     }
-    return wert;
+    return value;
 }
 
 /// The format of a wave without its samples, as far as it is one of ours.
-std::optional<Welle> LiesFormat(std::string_view chunk) {
-    constexpr std::size_t kFormatlaenge = 16;
-    constexpr std::uint32_t kLangsamste = 8000;
-    constexpr std::uint32_t kSchnellste = 192000;
-    if (chunk.size() < kFormatlaenge) {
+std::optional<Wave> ReadFormat(std::string_view chunk) {
+    constexpr std::size_t kFormatLength = 16;
+    constexpr std::uint32_t kSlowest = 8000;
+    constexpr std::uint32_t kFastest = 192000;
+    if (chunk.size() < kFormatLength) {
         return std::nullopt;
     }
-    const auto art = Zahl(chunk, 0, 2);
-    const auto kanaele = Zahl(chunk, 2, 2);
-    const auto rate = Zahl(chunk, 4, 4);
-    const auto bits = Zahl(chunk, 14, 2);
-    if (art != 1 || kanaele < 1 || kanaele > 2 || rate < kLangsamste || rate > kSchnellste ||
+    const auto kind = NumberAt(chunk, 0, 2);
+    const auto channels = NumberAt(chunk, 2, 2);
+    const auto rate = NumberAt(chunk, 4, 4);
+    const auto bits = NumberAt(chunk, 14, 2);
+    if (kind != 1 || channels < 1 || channels > 2 || rate < kSlowest || rate > kFastest ||
         (bits != 8 && bits != 16 && bits != 32)) {
         return std::nullopt;
     }
-    return Welle{.Rate = static_cast<int>(rate),
-                 .Kanaele = static_cast<int>(kanaele),
-                 .Bits = static_cast<int>(bits),
-                 .Abtastwerte = {}};
+    return Wave{.rate = static_cast<int>(rate),
+                .channels = static_cast<int>(channels),
+                .bits = static_cast<int>(bits),
+                .samples = {}};
 }
 
 /// With the whole frames among the bytes.
-std::optional<Welle> MitAbtastwerten(std::optional<Welle> welle, std::string_view bytes) {
+std::optional<Wave> WithSamples(std::optional<Wave> wave, std::string_view bytes) {
     constexpr int kByte = 8;
-    if (welle) {
-        const auto rahmen = static_cast<std::size_t>(welle->Kanaele * welle->Bits / kByte);
-        welle->Abtastwerte = bytes.substr(0, bytes.size() / rahmen * rahmen);
+    if (wave) {
+        const auto frame = static_cast<std::size_t>(wave->channels * wave->bits / kByte);
+        wave->samples = bytes.substr(0, bytes.size() / frame * frame);
     }
-    return welle && !welle->Abtastwerte.empty() ? welle : std::nullopt;
+    return wave && !wave->samples.empty() ? wave : std::nullopt;
 }
 
-std::optional<Welle> AusBytes(std::string_view bytes) {
-    if (bytes.size() < kKopf || !bytes.starts_with("RIFF") || bytes.substr(8, 4) != "WAVE") {
+std::optional<Wave> FromBytes(std::string_view bytes) {
+    if (bytes.size() < kHeader || !bytes.starts_with("RIFF") || bytes.substr(8, 4) != "WAVE") {
         return std::nullopt;
     }
-    bytes.remove_prefix(kKopf);
-    std::optional<Welle> welle;
-    while (bytes.size() >= kChunkkopf) {
+    bytes.remove_prefix(kHeader);
+    std::optional<Wave> wave;
+    while (bytes.size() >= kChunkHeader) {
         const std::string_view name = bytes.substr(0, 4);
-        const std::size_t laenge = Zahl(bytes, 4, 4);
-        bytes.remove_prefix(kChunkkopf);
-        if (laenge > bytes.size()) {
+        const std::size_t length = NumberAt(bytes, 4, 4);
+        bytes.remove_prefix(kChunkHeader);
+        if (length > bytes.size()) {
             break;
         }
         if (name == "data") {
-            return MitAbtastwerten(welle, bytes.substr(0, laenge));
+            return WithSamples(wave, bytes.substr(0, length));
         }
         if (name == "fmt ") {
-            welle = LiesFormat(bytes.substr(0, laenge));
+            wave = ReadFormat(bytes.substr(0, length));
         }
         // Chunks begin at even places.
-        bytes.remove_prefix(std::min(laenge + laenge % 2, bytes.size()));
+        bytes.remove_prefix(std::min(length + length % 2, bytes.size()));
     }
     return std::nullopt;
 }
 
 }  // namespace
 
-std::optional<Welle> LiesWelle(const std::filesystem::path& datei) {
-    constexpr std::size_t kHoechstens = std::size_t{64} << 20U;
-    const auto bytes = ReadFileToString(datei, kHoechstens, NativeFileSystem());
-    return bytes ? AusBytes(*bytes) : std::nullopt;
+std::optional<Wave> ReadWave(const std::filesystem::path& file) {
+    constexpr std::size_t kMax = std::size_t{64} << 20U;
+    const auto bytes = ReadFileToString(file, kMax, NativeFileSystem());
+    return bytes ? FromBytes(*bytes) : std::nullopt;
 }
 
 }  // namespace tarvelin

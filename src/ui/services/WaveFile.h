@@ -9,17 +9,17 @@
 namespace tarvelin {
 
 /// Samples as whole numbers: unsigned ones of 8 bits, signed ones of 16 or 32.
-struct Welle {
+struct Wave {
     /// Frames a second, 8,000 to 192,000.
-    int Rate = 0;
+    int rate = 0;
     /// One or two.
-    int Kanaele = 0;
-    int Bits = 0;
+    int channels = 0;
+    int bits = 0;
     /// At least one frame, and whole ones only.
-    std::string Abtastwerte;
+    std::string samples;
 };
 
 /// Nothing if the file is no wave of the kinds above, lacks bytes, or has more than 64 MiB.
-[[nodiscard]] std::optional<Welle> LiesWelle(const std::filesystem::path& datei);
+[[nodiscard]] std::optional<Wave> ReadWave(const std::filesystem::path& file);
 
 }  // namespace tarvelin

@@ -11,7 +11,7 @@
 
 namespace tarvelin {
 
-Vergleichsfeld::Vergleichsfeld(const Umgebung& umgebung, QWidget* parent)
+Vergleichsfeld::Vergleichsfeld(const Environment& umgebung, QWidget* parent)
     : QWidget(parent),
       m_umgebung(umgebung),
       m_merken(new QPushButton(QStringLiteral("&Merken"), this)),
@@ -88,12 +88,12 @@ void Vergleichsfeld::Merke() {
 }
 
 void Vergleichsfeld::LadeDatei() {
-    const auto datei = m_umgebung.FragNachDatei(Dialoge::Zweck::Laden);
+    const auto datei = m_umgebung.AskForFile(Dialogs::Purpose::Load);
     if (datei.empty()) {
         return;
     }
     const PlanRun lauf(PathToQString(datei.filename()).toStdString(),
-                       IniFile::Load(datei, m_umgebung.Dateien));
+                       IniFile::Load(datei, m_umgebung.files));
     if (!lauf.hasRun) {
         emit Meldung(lauf.messages.empty() ? "" : lauf.messages.back().text);
         return;

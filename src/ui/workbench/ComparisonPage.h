@@ -21,7 +21,7 @@ class Vergleichsfeld : public QWidget {
 
   public:
     /// `umgebung` must outlive it.
-    Vergleichsfeld(const Umgebung& umgebung, QWidget* parent);
+    Vergleichsfeld(const Environment& umgebung, QWidget* parent);
     Vergleichsfeld(const Vergleichsfeld&) = delete;
     Vergleichsfeld& operator=(const Vergleichsfeld&) = delete;
     ~Vergleichsfeld() override;
@@ -47,7 +47,7 @@ class Vergleichsfeld : public QWidget {
     void Setze(std::optional<RunTrace> anderer, const QString& name);
     void Vergleiche();
 
-    const Umgebung& m_umgebung;
+    const Environment& m_umgebung;
     std::optional<RunTrace> m_dieser;
     std::optional<RunTrace> m_anderer;
     std::vector<ComparisonText> m_kennzahlen;

@@ -69,7 +69,7 @@ std::string Fundtext(const Solution& fund) {
 
 }  // namespace
 
-Suchfeld::Suchfeld(const Plan& plan, const Umgebung& umgebung,
+Suchfeld::Suchfeld(const Plan& plan, const Environment& umgebung,
                    std::function<std::vector<std::size_t>()> gewaehlte, QWidget* parent)
     : QWidget(parent),
       m_plan(plan),
@@ -183,7 +183,7 @@ SearchRequest Suchfeld::Wunsch() const {
         }
     }
     if (m_ab->isChecked()) {
-        wunsch.notBefore = m_umgebung.Jetzt();
+        wunsch.notBefore = m_umgebung.now();
     }
     return wunsch;
 }
@@ -271,10 +271,10 @@ std::string Suchfeld::Bericht() const {
 
 void Suchfeld::Uebernimm() {
     if (Bytes(m_plan) != Bytes(m_gesucht->Vorher) &&
-        !m_umgebung.Boxen.Stelle({.Text = "Der Plan wurde seit dem Beginn der Suche geändert. Soll "
-                                          "der gefundene trotzdem an seine Stelle treten?",
-                                  .Titel = "Übernehmen...",
-                                  .Symbol = MessageIcon::Question})) {
+        !m_umgebung.dialogs.Ask({.text = "Der Plan wurde seit dem Beginn der Suche geändert. Soll "
+                                         "der gefundene trotzdem an seine Stelle treten?",
+                                 .title = "Übernehmen...",
+                                 .icon = MessageIcon::Question})) {
         return;
     }
     std::vector<std::string> tags;

@@ -30,7 +30,7 @@ class Suchfeld : public QWidget {
 
   public:
     /// `plan` and `umgebung` must outlive it; `gewaehlte` gives the rows that are chosen, from 0.
-    Suchfeld(const Plan& plan, const Umgebung& umgebung,
+    Suchfeld(const Plan& plan, const Environment& umgebung,
              std::function<std::vector<std::size_t>()> gewaehlte, QWidget* parent);
 
     /// Ends a search under way; what it has found stays.
@@ -64,7 +64,7 @@ class Suchfeld : public QWidget {
     };
 
     const Plan& m_plan;
-    const Umgebung& m_umgebung;
+    const Environment& m_umgebung;
     std::function<std::vector<std::size_t>()> m_gewaehlte;
 
     QComboBox* m_aufgabe;

@@ -57,9 +57,9 @@ std::optional<QByteArray> BildVon(Zeitleiste& leiste, const QString& endung) {
     if (format == QStringLiteral("pdf")) {
         return AlsPdf(leiste, groesse);
     }
-    if (format == QStringLiteral("svg") && KannSvg()) {
-        return AlsSvg(groesse,
-                      [&](QPainter& painter) { leiste.Male(painter, QRectF(QPointF(), groesse)); });
+    if (format == QStringLiteral("svg") && HasSvg()) {
+        return ToSvg(groesse,
+                     [&](QPainter& painter) { leiste.Male(painter, QRectF(QPointF(), groesse)); });
     }
     return std::nullopt;
 }

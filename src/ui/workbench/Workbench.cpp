@@ -67,7 +67,7 @@ QLabel* NeueZeile(const char* name, const char* bedeutung, QWidget* parent) {
 }  // namespace
 
 frmWerkbank::frmWerkbank(const Plan& plan, const EditHistory& verlauf,
-                         std::function<std::string()> vorher, const Umgebung& umgebung)
+                         std::function<std::string()> vorher, const Environment& umgebung)
     : m_plan(plan),
       m_verlauf(verlauf),
       m_vorher(std::move(vorher)),
@@ -86,7 +86,7 @@ frmWerkbank::frmWerkbank(const Plan& plan, const EditHistory& verlauf,
       m_LBL_Naechster(NeueZeile("LBL_Naechster", "Nächster Auftrag", this)) {
     setObjectName(QStringLiteral("frmWerkbank"));
     setWindowTitle(QStringLiteral("Tarvelin  |  Werkbank"));
-    setWindowIcon(LoadIconFile(umgebung.Programmordner / "img" / "icon.ico"));
+    setWindowIcon(LoadIconFile(umgebung.programFolder / "img" / "icon.ico"));
     setAttribute(Qt::WA_QuitOnClose, false);
     LegeAus();
     Verbinde();
@@ -223,7 +223,7 @@ void frmWerkbank::SetzeMeldungshoehe() {
 }
 
 void frmWerkbank::FolgeDesktop() {
-    const QPalette farben = m_umgebung.Desktopfarben();
+    const QPalette farben = m_umgebung.desktopPalette();
     setPalette(AlsEigene(farben));
     setFont(DesktopFont());
     SetzeMeldungshoehe();
@@ -245,14 +245,14 @@ bool frmWerkbank::event(QEvent* event) {
 void frmWerkbank::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     ZeigePlan();
-    m_takt.Schalte(true);
+    m_takt.SetRunning(true);
     Ticke();
 }
 
 void frmWerkbank::hideEvent(QHideEvent* event) {
     // A window that is only made small goes on.
     if (!event->spontaneous()) {
-        m_takt.Schalte(false);
+        m_takt.SetRunning(false);
         m_suchfeld->HalteAn();
     }
     QWidget::hideEvent(event);
@@ -380,7 +380,7 @@ void frmWerkbank::ZeigeZeiger(std::optional<SimTime> moment) {
 }
 
 void frmWerkbank::Ticke() {
-    const DateTime jetzt = m_umgebung.Jetzt();
+    const DateTime jetzt = m_umgebung.now();
     m_zeitleiste->SetzeJetzt(jetzt);
     const auto naechster = m_ablauf ? NaechsterAuftrag(*m_ablauf, jetzt) : std::nullopt;
     m_LBL_Naechster->setText(naechster ? QStringLiteral("Als Nächstes: ") + ToQString(*naechster)
@@ -444,13 +444,13 @@ std::size_t frmWerkbank::Einfuegestelle() const {
 }
 
 void frmWerkbank::BildSpeichern() {
-    const auto datei = m_umgebung.FragNachDatei(Dialoge::Zweck::Bild);
+    const auto datei = m_umgebung.AskForFile(Dialogs::Purpose::Picture);
     if (datei.empty()) {
         return;
     }
     const auto bild = BildVon(*m_zeitleiste, QFileInfo(PathToQString(datei)).suffix());
     if (!bild) {
-        Melde(std::string("Der Name des Bildes endet auf .png, ") + (KannSvg() ? ".svg " : "") +
+        Melde(std::string("Der Name des Bildes endet auf .png, ") + (HasSvg() ? ".svg " : "") +
               "oder .pdf: es wurde nichts gespeichert.");
         return;
     }
@@ -467,7 +467,7 @@ void frmWerkbank::Kopieren() {
 }
 
 void frmWerkbank::KalenderSpeichern() {
-    const auto datei = m_umgebung.FragNachDatei(Dialoge::Zweck::Kalender);
+    const auto datei = m_umgebung.AskForFile(Dialogs::Purpose::Calendar);
     if (!datei.empty()) {
         const auto stand =
             std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
@@ -476,7 +476,7 @@ void frmWerkbank::KalenderSpeichern() {
 }
 
 void frmWerkbank::SchreibeDatei(const std::filesystem::path& datei, const std::string& bytes) {
-    if (WriteFileAtomically(datei, bytes, m_umgebung.Dateien)) {
+    if (WriteFileAtomically(datei, bytes, m_umgebung.files)) {
         Melde("Gespeichert: " + PathToQString(datei).toStdString());
     } else {
         Melde(

@@ -35,7 +35,7 @@ class frmWerkbank : public QWidget {
     /// All of them must outlive it.
     /// `vorher` tells how many seconds before a start the alarm rings, as its input has it.
     frmWerkbank(const Plan& plan, const EditHistory& verlauf, std::function<std::string()> vorher,
-                const Umgebung& umgebung);
+                const Environment& umgebung);
     frmWerkbank(const frmWerkbank&) = delete;
     frmWerkbank& operator=(const frmWerkbank&) = delete;
     ~frmWerkbank() override;
@@ -98,7 +98,7 @@ class frmWerkbank : public QWidget {
     const Plan& m_plan;
     const EditHistory& m_verlauf;
     std::function<std::string()> m_vorher;
-    const Umgebung& m_umgebung;
+    const Environment& m_umgebung;
     /// Nothing, with the reason in the strip, if the plan can't be run.
     std::optional<RunTrace> m_ablauf;
     /// The duration before the last step that was done or taken back, and how many lay behind the
@@ -123,7 +123,7 @@ class frmWerkbank : public QWidget {
     QPushButton* m_zurueck = nullptr;
     QPushButton* m_vor = nullptr;
     std::vector<QPushButton*> m_befehle;
-    Sekundentakt m_takt{QStringLiteral("Tmr_Werkbank"), this};
+    SecondTimer m_takt{QStringLiteral("Tmr_Werkbank"), this};
     bool m_warOffen = false;
 };
 
