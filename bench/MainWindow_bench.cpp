@@ -134,7 +134,7 @@ void ZeitleisteGemalt(benchmark::State& state) {
     frmMain fenster(welt.Umgebung);
     ZeigeGanz(fenster);
     Fuelle(fenster);
-    auto& leiste = *Werkbank(fenster).findChild<Zeitleiste*>();
+    auto& leiste = *Werkbank(fenster).findChild<TimelineView*>();
     const QPointF ort(leiste.viewport()->rect().center());
     for (std::int64_t i = 0; i < state.range(0); ++i) {
         QWheelEvent rad(ort, ort, {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
@@ -157,8 +157,8 @@ void ZeileVerschoben(benchmark::State& state) {
     ZeigeGanz(fenster);
     Fuelle(fenster);
     QWidget& werkbank = Werkbank(fenster);
-    auto* const liste = werkbank.findChild<Auftragsansicht*>();
-    liste->Waehle({100});
+    auto* const liste = werkbank.findChild<OrderListView*>();
+    liste->Choose({100});
     bool hoch = false;
     for (auto _ : state) {
         hoch = !hoch;

@@ -50,7 +50,7 @@ class Werkbank : public Fenster {
         return text;
     }
     void Greife(const std::vector<std::size_t>& zeilen) {
-        Dort<Auftragsansicht>("LV_Werkbank").Waehle(zeilen);
+        Dort<OrderListView>("LV_Werkbank").Choose(zeilen);
     }
     void Taste(Qt::Key taste, Qt::KeyboardModifiers dazu = Qt::NoModifier) {
         QTest::keyClick(m_werkbank, taste, dazu);
@@ -108,7 +108,7 @@ TEST_F(Werkbank, BearbeitetInDerMitte) {
     Greife({1});
     Taste(Qt::Key_Up, Qt::AltModifier);
     EXPECT_EQ(Tags(), "GM GS GD GR GR GW");
-    EXPECT_EQ(Dort<Auftragsansicht>("LV_Werkbank").Gewaehlte(), (std::vector<std::size_t>{0}));
+    EXPECT_EQ(Dort<OrderListView>("LV_Werkbank").ChosenRows(), (std::vector<std::size_t>{0}));
     EXPECT_EQ(Sagt("LBL_Meldung"), "");
     Fuege("ImgSKW");
     Fuege("ImgKrisMine");
@@ -289,23 +289,22 @@ TEST_F(Werkbank, ZeigtDenPlanAlsBild) {
     Plan plan = PlanAus("GM GM GS GX:10:0:10 GM");
     plan.parameters.KlickPuffer = 5;
     Lade(plan);
-    auto& leiste = Dort<Zeitleiste>("Zeitleiste");
+    auto& leiste = Dort<TimelineView>("Zeitleiste");
     EXPECT_EQ(Sagt("LBL_Naechster"), "Als Nächstes: Solarkraftwerk 1 um 12:34:56, in 00:01:56");
     const auto klicke = [&](Long sekunde, int y) {
         QTest::mouseClick(leiste.viewport(), Qt::LeftButton, {},
-                          QPoint(leiste.SpalteVon(SimTime(sekunde)), y));
-        return Dort<Auftragsansicht>("LV_Werkbank").Gewaehlte();
+                          QPoint(leiste.ColumnOf(SimTime(sekunde)), y));
+        return Dort<OrderListView>("LV_Werkbank").ChosenRows();
     };
     const int bauspur = 2 * leiste.fontMetrics().height();
     EXPECT_EQ(klicke(180, bauspur), (std::vector<std::size_t>{1}));
     EXPECT_EQ(klicke(350, bauspur), (std::vector<std::size_t>{2}));
     // Its colour tells the queue, the frame the choice.
     const QImage bild = leiste.viewport()->grab().toImage();
-    const Werkbankfarben farben(m_werkbank->palette());
-    EXPECT_EQ(bild.pixelColor(leiste.SpalteVon(SimTime(60)), bauspur),
-              farben.Balken[Queue::Building]);
+    const TimelineColors farben(m_werkbank->palette());
+    EXPECT_EQ(bild.pixelColor(leiste.ColumnOf(SimTime(60)), bauspur), farben.bars[Queue::Building]);
     // The wheel keeps the moment below the pointer.
-    const QPoint ort(leiste.SpalteVon(SimTime(300)), 20);
+    const QPoint ort(leiste.ColumnOf(SimTime(300)), 20);
     for (int i = 0; i < 8; ++i) {
         QWheelEvent rad(ort, leiste.viewport()->mapToGlobal(ort), {}, {0, 120}, {}, {},
                         Qt::NoScrollPhase, false);
@@ -313,16 +312,16 @@ TEST_F(Werkbank, ZeigtDenPlanAlsBild) {
         QCoreApplication::sendEvent(leiste.viewport(), &rad);
         EXPECT_NEAR(leiste.mapFromScene(QPointF(darunter, 0)).x(), ort.x(), 1);
     }
-    EXPECT_GT(leiste.SpalteVon(SimTime(310)) - leiste.SpalteVon(SimTime(300)), 20);
+    EXPECT_GT(leiste.ColumnOf(SimTime(310)) - leiste.ColumnOf(SimTime(300)), 20);
     Bewege(*leiste.viewport(), ort);
     EXPECT_EQ(Sagt("LBL_Stand").substr(0, 18), "Sa 18.11. 12:35:00");
     EXPECT_NE(Sagt("LBL_Stand").find("Metallmine 2"), std::string::npos);
     Greife({4});
-    const int start = leiste.SpalteVon(
+    const int start = leiste.ColumnOf(
         SimTime(*ParseDateTime("18.11.2006 12:38:53") - *ParseDateTime("18.11.2006 12:30:00")));
     EXPECT_TRUE(start >= 0 && start < leiste.viewport()->width()) << "brought to sight";
     QTest::mouseDClick(leiste.viewport(), Qt::LeftButton, {}, ort);
-    EXPECT_EQ(leiste.SpalteVon(SimTime()), 0);
+    EXPECT_EQ(leiste.ColumnOf(SimTime()), 0);
     // By keys: from start to start, and the row there.
     leiste.setFocus();
     for (const auto taste :
@@ -330,7 +329,7 @@ TEST_F(Werkbank, ZeigtDenPlanAlsBild) {
         QTest::keyClick(&leiste, taste, Qt::ControlModifier);
     }
     QTest::keyClick(&leiste, Qt::Key_Return);
-    EXPECT_EQ(Dort<Auftragsansicht>("LV_Werkbank").Gewaehlte(), (std::vector<std::size_t>{2}));
+    EXPECT_EQ(Dort<OrderListView>("LV_Werkbank").ChosenRows(), (std::vector<std::size_t>{2}));
     EXPECT_EQ(leiste.accessibleDescription().left(18).toStdString(), "Sa 18.11. 12:34:56");
 }
 
@@ -352,9 +351,9 @@ TEST_F(Werkbank, SpeichertDasBild) {
         EXPECT_NE(svg.find("Metallmine 2"), std::string::npos) << "words stay words";
     }
     const QImage png = QImage::fromData(QByteArray::fromStdString(speichere("bild.png")));
-    auto& leiste = Dort<Zeitleiste>("Zeitleiste");
+    auto& leiste = Dort<TimelineView>("Zeitleiste");
     EXPECT_EQ(png.size(), 2 * leiste.viewport()->size());
-    const QPoint balken(leiste.SpalteVon(SimTime(60)), 2 * leiste.fontMetrics().height());
+    const QPoint balken(leiste.ColumnOf(SimTime(60)), 2 * leiste.fontMetrics().height());
     EXPECT_EQ(png.pixelColor(2 * balken), leiste.viewport()->grab().toImage().pixelColor(balken));
     EXPECT_EQ(speichere("bild.txt"), "");
     EXPECT_NE(Sagt("LBL_Meldung").find("oder .pdf"), std::string::npos);
@@ -385,7 +384,7 @@ TEST_F(Werkbank, FolgtDenFarbenDesDesktops) {
     Lade("GM");
     QEvent wechsel(QEvent::ThemeChange);
     QCoreApplication::sendEvent(m_werkbank, &wechsel);
-    const QImage bild = Dort<Zeitleiste>("Zeitleiste").viewport()->grab().toImage();
+    const QImage bild = Dort<TimelineView>("Zeitleiste").viewport()->grab().toImage();
     EXPECT_EQ(bild.pixelColor(bild.width() - 2, bild.height() - 2), QColor(20, 20, 20));
     EXPECT_EQ(Dort("LV_Werkbank").palette().color(QPalette::Text), QColor(Qt::white));
     EXPECT_NE(Finde("LV_Bauliste").palette().color(QPalette::Text), QColor(Qt::white));

@@ -261,23 +261,23 @@ void frmMain::mnu_DOnate_Click() {
 
 void frmMain::mnuWerkbank_Click() {
     if (!m_frmWerkbank) {
-        m_frmWerkbank = std::make_unique<frmWerkbank>(
+        m_frmWerkbank = std::make_unique<Workbench>(
             m_plan, m_verlauf,
             [this] { return m_Fra_Rest->SekundenVorher()->currentText().toStdString(); },
             m_umgebung);
-        m_frmWerkbank->SetzeBilder(m_Fra_Rest->Itembilder());
-        connect(m_frmWerkbank.get(), &frmWerkbank::Umgestellt, this, &frmMain::Uebernimm);
-        connect(m_frmWerkbank.get(), &frmWerkbank::ZurueckGewuenscht, this, &frmMain::NimmZurueck);
-        connect(m_frmWerkbank.get(), &frmWerkbank::VorGewuenscht, this,
+        m_frmWerkbank->SetPictures(m_Fra_Rest->Itembilder());
+        connect(m_frmWerkbank.get(), &Workbench::ListEdited, this, &frmMain::Uebernimm);
+        connect(m_frmWerkbank.get(), &Workbench::UndoRequested, this, &frmMain::NimmZurueck);
+        connect(m_frmWerkbank.get(), &Workbench::RedoRequested, this,
                 &frmMain::WiederholeZurueckgenommenes);
     }
-    m_frmWerkbank->Oeffne(m_konfiguration);
+    m_frmWerkbank->Open(m_konfiguration);
 }
 
 void frmMain::ZeigeSkin(Byte mode, const std::string& pfad) {
     ApplySkin(mode, pfad, *m_Fra_Rest, m_umgebung.programFolder);
     if (m_frmWerkbank) {
-        m_frmWerkbank->SetzeBilder(m_Fra_Rest->Itembilder());
+        m_frmWerkbank->SetPictures(m_Fra_Rest->Itembilder());
     }
 }
 
@@ -408,7 +408,7 @@ void frmMain::SpieleStill() {
 
 void frmMain::ZeigeInWerkbank() {
     if (m_frmWerkbank) {
-        m_frmWerkbank->ZeigePlan();
+        m_frmWerkbank->RefreshPlan();
     }
 }
 

@@ -169,7 +169,7 @@ class frmMain : public QMainWindow {
     /// Windows of their own, made at their first use.
     std::unique_ptr<frmAbout> m_frmAbout;
     std::unique_ptr<frmDonate> m_frmDonate;
-    std::unique_ptr<frmWerkbank> m_frmWerkbank;
+    std::unique_ptr<Workbench> m_frmWerkbank;
     Abschnitt m_abschnitt = Abschnitt::Vorher;
 };
 

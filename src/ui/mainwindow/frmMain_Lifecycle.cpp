@@ -177,7 +177,7 @@ void frmMain::Behalte(Abschnitt stand) {
                            std::to_string(m_plan.LV_Bauliste.Orders().Size()));
     }
     if (m_frmWerkbank) {
-        const auto lage = m_frmWerkbank->Lage();
+        const auto lage = m_frmWerkbank->GeometryValues();
         werte.insert(werte.end(), lage.begin(), lage.end());
     }
     static_cast<void>(m_konfiguration.Write(werte));

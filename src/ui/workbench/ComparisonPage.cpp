@@ -11,120 +11,120 @@
 
 namespace tarvelin {
 
-Vergleichsfeld::Vergleichsfeld(const Environment& umgebung, QWidget* parent)
+ComparisonPage::ComparisonPage(const Environment& environment, QWidget* parent)
     : QWidget(parent),
-      m_umgebung(umgebung),
-      m_merken(new QPushButton(QStringLiteral("&Merken"), this)),
-      m_datei(new QPushButton(QStringLiteral("Mit &Datei..."), this)),
-      m_ohne(new QPushButton(QStringLiteral("&Ohne"), this)),
+      m_environment(environment),
+      m_rememberButton(new QPushButton(QStringLiteral("&Merken"), this)),
+      m_file(new QPushButton(QStringLiteral("Mit &Datei..."), this)),
+      m_clearButton(new QPushButton(QStringLiteral("&Ohne"), this)),
       m_name(NewLabel(QStringLiteral("LBL_Vergleich"), {}, this)),
-      m_kennzahlliste(NeueTabelle("LV_Kennzahlen", "Kennzahlen im Vergleich", "", m_kennzahlen,
-                                  &m_kennzahlmodell)),
-      m_auftragsliste(NeueTabelle("LV_Unterschiede", "Aufträge zu anderer Zeit", "Auftrag",
-                                  m_auftraege, &m_auftragsmodell)) {
+      m_summaryList(
+          NewTable("LV_Kennzahlen", "Kennzahlen im Vergleich", "", m_summaries, &m_summaryModel)),
+      m_orderList(NewTable("LV_Unterschiede", "Aufträge zu anderer Zeit", "Auftrag", m_orders,
+                           &m_orderModel)) {
     setObjectName(QStringLiteral("Vergleichsfeld"));
-    m_merken->setObjectName(QStringLiteral("Cmd_Merken"));
-    m_datei->setObjectName(QStringLiteral("Cmd_MitDatei"));
-    m_ohne->setObjectName(QStringLiteral("Cmd_OhneVergleich"));
-    m_merken->setToolTip(QStringLiteral("Der Plan, wie er jetzt ist, wird zum Vergleich behalten"));
-    connect(m_merken, &QPushButton::clicked, this, &Vergleichsfeld::Merke);
-    connect(m_datei, &QPushButton::clicked, this, &Vergleichsfeld::LadeDatei);
-    connect(m_ohne, &QPushButton::clicked, this, &Vergleichsfeld::Ohne);
-    LegeAus();
-    Vergleiche();
+    m_rememberButton->setObjectName(QStringLiteral("Cmd_Merken"));
+    m_file->setObjectName(QStringLiteral("Cmd_MitDatei"));
+    m_clearButton->setObjectName(QStringLiteral("Cmd_OhneVergleich"));
+    m_rememberButton->setToolTip(
+        QStringLiteral("Der Plan, wie er jetzt ist, wird zum Vergleich behalten"));
+    connect(m_rememberButton, &QPushButton::clicked, this, &ComparisonPage::Remember);
+    connect(m_file, &QPushButton::clicked, this, &ComparisonPage::LoadOther);
+    connect(m_clearButton, &QPushButton::clicked, this, &ComparisonPage::ClearOther);
+    Arrange();
+    Recompare();
 }
 
 // The tables ask this panel for their rows to its end.
-Vergleichsfeld::~Vergleichsfeld() {
-    delete m_kennzahlliste;
-    delete m_auftragsliste;
+ComparisonPage::~ComparisonPage() {
+    delete m_summaryList;
+    delete m_orderList;
 }
 
-ListView* Vergleichsfeld::NeueTabelle(const char* name, const char* bedeutung, const char* erste,
-                                      const std::vector<ComparisonText>& zeilen,
-                                      TableModel** modell) {
-    *modell = new TableModel(
-        {QString::fromUtf8(erste), QStringLiteral("dort"), QStringLiteral("hier"),
-         QStringLiteral("Unterschied")},
-        {.rows = [&zeilen] { return zeilen.size(); },
-         .text =
-             [&zeilen](std::size_t zeile, int spalte) {
-                 return ToQString(zeilen[zeile].at(static_cast<std::size_t>(spalte)));
-             }},
-        this);
-    auto* const tabelle =
-        new ListView(QString::fromLatin1(name), QString::fromUtf8(bedeutung), {12, 9, 9, 8}, this);
-    tabelle->setModel(*modell);
-    tabelle->setTextElideMode(Qt::ElideRight);
-    return tabelle;
+ListView* ComparisonPage::NewTable(const char* name, const char* accessibleName, const char* first,
+                                   const std::vector<ComparisonText>& rows, TableModel** model) {
+    *model =
+        new TableModel({QString::fromUtf8(first), QStringLiteral("dort"), QStringLiteral("hier"),
+                        QStringLiteral("Unterschied")},
+                       {.rows = [&rows] { return rows.size(); },
+                        .text =
+                            [&rows](std::size_t row, int column) {
+                                return ToQString(rows[row].at(static_cast<std::size_t>(column)));
+                            }},
+                       this);
+    auto* const table = new ListView(QString::fromLatin1(name), QString::fromUtf8(accessibleName),
+                                     {12, 9, 9, 8}, this);
+    table->setModel(*model);
+    table->setTextElideMode(Qt::ElideRight);
+    return table;
 }
 
-void Vergleichsfeld::LegeAus() {
-    auto* const knoepfe = new QHBoxLayout;
-    for (QPushButton* const knopf : {m_merken, m_datei, m_ohne}) {
-        knoepfe->addWidget(knopf);
+void ComparisonPage::Arrange() {
+    auto* const buttons = new QHBoxLayout;
+    for (QPushButton* const button : {m_rememberButton, m_file, m_clearButton}) {
+        buttons->addWidget(button);
     }
     auto* const layout = new QVBoxLayout(this);
-    layout->addLayout(knoepfe);
+    layout->addLayout(buttons);
     layout->addWidget(m_name);
-    layout->addWidget(m_kennzahlliste, 2);
-    layout->addWidget(m_auftragsliste, 3);
+    layout->addWidget(m_summaryList, 2);
+    layout->addWidget(m_orderList, 3);
 }
 
-QSize Vergleichsfeld::minimumSizeHint() const {
+QSize ComparisonPage::minimumSizeHint() const {
     // An order and three spans, with the days of a long plan.
-    constexpr int kZeichen = 86;
+    constexpr int kCharacters = 86;
     return QWidget::minimumSizeHint().expandedTo(
-        QSize(kZeichen * fontMetrics().averageCharWidth(), 0));
+        QSize(kCharacters * fontMetrics().averageCharWidth(), 0));
 }
 
-void Vergleichsfeld::Zeige(const std::optional<RunTrace>& dieser) {
-    m_dieser = dieser;
-    Vergleiche();
+void ComparisonPage::SetOwnRun(const std::optional<RunTrace>& own) {
+    m_own = own;
+    Recompare();
 }
 
-void Vergleichsfeld::Merke() {
-    Setze(m_dieser, QStringLiteral("Verglichen mit dem gemerkten Plan"));
+void ComparisonPage::Remember() {
+    SetOther(m_own, QStringLiteral("Verglichen mit dem gemerkten Plan"));
 }
 
-void Vergleichsfeld::LadeDatei() {
-    const auto datei = m_umgebung.AskForFile(Dialogs::Purpose::Load);
-    if (datei.empty()) {
+void ComparisonPage::LoadOther() {
+    const auto file = m_environment.AskForFile(Dialogs::Purpose::Load);
+    if (file.empty()) {
         return;
     }
-    const PlanRun lauf(PathToQString(datei.filename()).toStdString(),
-                       IniFile::Load(datei, m_umgebung.files));
-    if (!lauf.hasRun) {
-        emit Meldung(lauf.messages.empty() ? "" : lauf.messages.back().text);
+    const PlanRun document(PathToQString(file.filename()).toStdString(),
+                           IniFile::Load(file, m_environment.files));
+    if (!document.hasRun) {
+        emit Notice(document.messages.empty() ? "" : document.messages.back().text);
         return;
     }
-    emit Meldung(lauf.run.state.IsAtEndOfClock() ? BeyondClockText() : "");
-    Setze(lauf.Trace(), QStringLiteral("Verglichen mit ") + ToQString(lauf.name));
+    emit Notice(document.run.state.IsAtEndOfClock() ? BeyondClockText() : "");
+    SetOther(document.Trace(), QStringLiteral("Verglichen mit ") + ToQString(document.name));
 }
 
-void Vergleichsfeld::Ohne() {
-    Setze(std::nullopt, {});
+void ComparisonPage::ClearOther() {
+    SetOther(std::nullopt, {});
 }
 
-void Vergleichsfeld::Setze(std::optional<RunTrace> anderer, const QString& name) {
-    m_anderer = std::move(anderer);
+void ComparisonPage::SetOther(std::optional<RunTrace> other, const QString& name) {
+    m_other = std::move(other);
     m_name->setText(name);
-    Vergleiche();
-    emit AndererGeaendert();
+    Recompare();
+    emit OtherRunChanged();
 }
 
-void Vergleichsfeld::Vergleiche() {
-    m_kennzahlen.clear();
-    m_auftraege.clear();
-    if (m_dieser && m_anderer) {
-        const Comparison vergleich = tarvelin::Compare(*m_anderer, *m_dieser);
-        m_kennzahlen = SummaryTexts(vergleich);
-        m_auftraege = OrderDifferences(vergleich);
+void ComparisonPage::Recompare() {
+    m_summaries.clear();
+    m_orders.clear();
+    if (m_own && m_other) {
+        const Comparison comparison = tarvelin::Compare(*m_other, *m_own);
+        m_summaries = SummaryTexts(comparison);
+        m_orders = OrderDifferences(comparison);
     }
-    m_kennzahlmodell->Refresh();
-    m_auftragsmodell->Refresh();
-    m_merken->setEnabled(m_dieser.has_value());
-    m_ohne->setEnabled(m_anderer.has_value());
+    m_summaryModel->Refresh();
+    m_orderModel->Refresh();
+    m_rememberButton->setEnabled(m_own.has_value());
+    m_clearButton->setEnabled(m_other.has_value());
 }
 
 }  // namespace tarvelin

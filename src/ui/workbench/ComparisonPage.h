@@ -16,50 +16,50 @@
 
 namespace tarvelin {
 
-class Vergleichsfeld : public QWidget {
+class ComparisonPage : public QWidget {
     Q_OBJECT
 
   public:
-    /// `umgebung` must outlive it.
-    Vergleichsfeld(const Environment& umgebung, QWidget* parent);
-    Vergleichsfeld(const Vergleichsfeld&) = delete;
-    Vergleichsfeld& operator=(const Vergleichsfeld&) = delete;
-    ~Vergleichsfeld() override;
+    /// `environment` must outlive it.
+    ComparisonPage(const Environment& environment, QWidget* parent);
+    ComparisonPage(const ComparisonPage&) = delete;
+    ComparisonPage& operator=(const ComparisonPage&) = delete;
+    ~ComparisonPage() override;
 
     /// The run of the plan as it is now; nothing if it can't be run.
-    void Zeige(const std::optional<RunTrace>& dieser);
+    void SetOwnRun(const std::optional<RunTrace>& own);
     /// What it is held against, if anything.
-    [[nodiscard]] const std::optional<RunTrace>& Anderer() const { return m_anderer; }
+    [[nodiscard]] const std::optional<RunTrace>& OtherRun() const { return m_other; }
 
     [[nodiscard]] QSize minimumSizeHint() const override;
 
   signals:
-    void AndererGeaendert();
-    void Meldung(const std::string& text);
+    void OtherRunChanged();
+    void Notice(const std::string& text);
 
   private:
-    void LegeAus();
-    ListView* NeueTabelle(const char* name, const char* bedeutung, const char* erste,
-                          const std::vector<ComparisonText>& zeilen, TableModel** modell);
-    void Merke();
-    void LadeDatei();
-    void Ohne();
-    void Setze(std::optional<RunTrace> anderer, const QString& name);
-    void Vergleiche();
+    void Arrange();
+    ListView* NewTable(const char* name, const char* accessibleName, const char* first,
+                       const std::vector<ComparisonText>& rows, TableModel** model);
+    void Remember();
+    void LoadOther();
+    void ClearOther();
+    void SetOther(std::optional<RunTrace> other, const QString& name);
+    void Recompare();
 
-    const Environment& m_umgebung;
-    std::optional<RunTrace> m_dieser;
-    std::optional<RunTrace> m_anderer;
-    std::vector<ComparisonText> m_kennzahlen;
-    std::vector<ComparisonText> m_auftraege;
-    QPushButton* m_merken;
-    QPushButton* m_datei;
-    QPushButton* m_ohne;
+    const Environment& m_environment;
+    std::optional<RunTrace> m_own;
+    std::optional<RunTrace> m_other;
+    std::vector<ComparisonText> m_summaries;
+    std::vector<ComparisonText> m_orders;
+    QPushButton* m_rememberButton;
+    QPushButton* m_file;
+    QPushButton* m_clearButton;
     QLabel* m_name;
-    TableModel* m_kennzahlmodell = nullptr;
-    TableModel* m_auftragsmodell = nullptr;
-    ListView* m_kennzahlliste;
-    ListView* m_auftragsliste;
+    TableModel* m_summaryModel = nullptr;
+    TableModel* m_orderModel = nullptr;
+    ListView* m_summaryList;
+    ListView* m_orderList;
 };
 
 }  // namespace tarvelin

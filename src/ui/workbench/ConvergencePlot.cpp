@@ -6,47 +6,47 @@
 
 namespace tarvelin {
 
-Bestenkurve::Bestenkurve(QWidget* parent) : QWidget(parent) {
+ConvergencePlot::ConvergencePlot(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("Bestenkurve"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
-void Bestenkurve::Leere() {
-    m_punkte.clear();
+void ConvergencePlot::Clear() {
+    m_points.clear();
     update();
 }
 
-void Bestenkurve::Merke(qreal anteil, qreal dauer) {
-    m_punkte.emplace_back(anteil, dauer);
+void ConvergencePlot::AddPoint(qreal share, qreal duration) {
+    m_points.emplace_back(share, duration);
     update();
 }
 
-QSize Bestenkurve::sizeHint() const {
-    constexpr int kZeilen = 3;
-    return {kZeilen * fontMetrics().height(), kZeilen * fontMetrics().height()};
+QSize ConvergencePlot::sizeHint() const {
+    constexpr int kLines = 3;
+    return {kLines * fontMetrics().height(), kLines * fontMetrics().height()};
 }
 
-void Bestenkurve::paintEvent(QPaintEvent* /*event*/) {
+void ConvergencePlot::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), palette().base());
-    if (m_punkte.empty()) {
+    if (m_points.empty()) {
         return;
     }
-    const qreal oben = m_punkte.front().y();
-    const qreal spanne = std::max(1.0, oben - m_punkte.back().y());
-    constexpr qreal kRand = 3;
-    const QRectF feld = QRectF(rect()).adjusted(kRand, kRand, -kRand, -kRand);
-    QPolygonF linie;
-    for (const QPointF& punkt : m_punkte) {
-        const qreal y = feld.top() + (oben - punkt.y()) / spanne * feld.height();
-        const qreal x = feld.left() + punkt.x() * feld.width();
-        if (!linie.isEmpty()) {
-            linie << QPointF(x, linie.back().y());
+    const qreal top = m_points.front().y();
+    const qreal span = std::max(1.0, top - m_points.back().y());
+    constexpr qreal kMargin = 3;
+    const QRectF plotRect = QRectF(rect()).adjusted(kMargin, kMargin, -kMargin, -kMargin);
+    QPolygonF line;
+    for (const QPointF& point : m_points) {
+        const qreal y = plotRect.top() + (top - point.y()) / span * plotRect.height();
+        const qreal x = plotRect.left() + point.x() * plotRect.width();
+        if (!line.isEmpty()) {
+            line << QPointF(x, line.back().y());
         }
-        linie << QPointF(x, y);
+        line << QPointF(x, y);
     }
     painter.setPen(QPen(palette().highlight(), 2));
-    painter.drawPolyline(linie);
+    painter.drawPolyline(line);
 }
 
 }  // namespace tarvelin

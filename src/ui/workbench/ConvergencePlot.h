@@ -6,15 +6,15 @@
 
 namespace tarvelin {
 
-class Bestenkurve : public QWidget {
+class ConvergencePlot : public QWidget {
     Q_OBJECT
 
   public:
-    explicit Bestenkurve(QWidget* parent);
+    explicit ConvergencePlot(QWidget* parent);
 
-    void Leere();
-    /// `anteil`: how much of the search is done, from 0 to 1.
-    void Merke(qreal anteil, qreal dauer);
+    void Clear();
+    /// `share`: how much of the search is done, from 0 to 1.
+    void AddPoint(qreal share, qreal duration);
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -22,7 +22,7 @@ class Bestenkurve : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    std::vector<QPointF> m_punkte;
+    std::vector<QPointF> m_points;
 };
 
 }  // namespace tarvelin

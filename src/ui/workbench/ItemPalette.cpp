@@ -14,92 +14,94 @@ namespace tarvelin {
 
 namespace {
 
-constexpr int kJeZeile = 5;
-constexpr std::array<const char*, 3> kMinen{"Metallmine", "Kristallmine", "Deuteriummine"};
+constexpr int kPerRow = 5;
+constexpr std::array<const char*, 3> kMines{"Metallmine", "Kristallmine", "Deuteriummine"};
 
 }  // namespace
 
-Itempalette::Itempalette(QWidget* parent) : QWidget(parent), m_layout(new QGridLayout(this)) {
+ItemPalette::ItemPalette(QWidget* parent) : QWidget(parent), m_layout(new QGridLayout(this)) {
     setObjectName(QStringLiteral("Itempalette"));
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(3);
-    BaueBilder();
-    BaueProduktion();
-    PasseGroesseAn();
+    AddPictures();
+    AddFactorInputs();
+    FitToFont();
 }
 
-void Itempalette::BaueBilder() {
-    int platz = 0;
-    for (const ItemDisplay& ansicht : ItemDisplays()) {
-        auto* const bild = new Palettenbild(ToQString(ansicht.pictureName), QSize(0, 0), {}, this);
-        bild->setAccessibleName(ToQString(RowOf(ansicht.item).name));
-        m_layout->addWidget(bild, platz / kJeZeile, platz % kJeZeile);
-        connect(bild, &QAbstractButton::clicked, this,
-                [this, item = ansicht.item] { emit ItemGewaehlt(item); });
-        m_bilder[ansicht.item] = bild;
-        ++platz;
+void ItemPalette::AddPictures() {
+    int slot = 0;
+    for (const ItemDisplay& display : ItemDisplays()) {
+        auto* const picture =
+            new PalettePicture(ToQString(display.pictureName), QSize(0, 0), {}, this);
+        picture->setAccessibleName(ToQString(RowOf(display.item).name));
+        m_layout->addWidget(picture, slot / kPerRow, slot % kPerRow);
+        connect(picture, &QAbstractButton::clicked, this,
+                [this, item = display.item] { emit ItemChosen(item); });
+        m_pictures[display.item] = picture;
+        ++slot;
     }
 }
 
-void Itempalette::BaueProduktion() {
-    int zeile = m_layout->rowCount();
-    for (std::size_t i = 0; i < m_faktoren.size(); ++i) {
-        const QString name = QString::fromLatin1(kMinen[i]);
-        auto* const wahl = new QComboBox(this);
-        wahl->setObjectName(QStringLiteral("Comb_") + name);
-        wahl->setAccessibleName(name + QStringLiteral(" in Prozent"));
-        for (int zehntel = kFullFactor; zehntel >= 0; --zehntel) {
-            wahl->addItem(QStringLiteral("%1 %").arg(10 * zehntel), zehntel);
+void ItemPalette::AddFactorInputs() {
+    int row = m_layout->rowCount();
+    for (std::size_t i = 0; i < m_factors.size(); ++i) {
+        const QString name = QString::fromLatin1(kMines[i]);
+        auto* const choice = new QComboBox(this);
+        choice->setObjectName(QStringLiteral("Comb_") + name);
+        choice->setAccessibleName(name + QStringLiteral(" in Prozent"));
+        for (int tenths = kFullFactor; tenths >= 0; --tenths) {
+            choice->addItem(QStringLiteral("%1 %").arg(10 * tenths), tenths);
         }
         auto* const label = new QLabel(name + QStringLiteral(":"), this);
-        label->setBuddy(wahl);
-        m_layout->addWidget(label, zeile, 0, 1, 3);
-        m_layout->addWidget(wahl, zeile, 3, 1, 2);
-        m_faktoren[i] = wahl;
-        ++zeile;
+        label->setBuddy(choice);
+        m_layout->addWidget(label, row, 0, 1, 3);
+        m_layout->addWidget(choice, row, 3, 1, 2);
+        m_factors[i] = choice;
+        ++row;
     }
-    auto* const knopf = new QPushButton(QStringLiteral("&Produktion einfügen"), this);
-    knopf->setObjectName(QStringLiteral("Cmd_Produktion"));
-    m_layout->addWidget(knopf, zeile, 0, 1, kJeZeile);
-    m_layout->setRowStretch(zeile + 1, 1);
-    connect(knopf, &QPushButton::clicked, this, [this] {
-        MineFactors faktoren{};
-        for (std::size_t i = 0; i < faktoren.size(); ++i) {
-            faktoren[i] = static_cast<Byte>(m_faktoren[i]->currentData().toInt());
+    auto* const button = new QPushButton(QStringLiteral("&Produktion einfügen"), this);
+    button->setObjectName(QStringLiteral("Cmd_Produktion"));
+    m_layout->addWidget(button, row, 0, 1, kPerRow);
+    m_layout->setRowStretch(row + 1, 1);
+    connect(button, &QPushButton::clicked, this, [this] {
+        MineFactors factors{};
+        for (std::size_t i = 0; i < factors.size(); ++i) {
+            factors[i] = static_cast<Byte>(m_factors[i]->currentData().toInt());
         }
-        emit ProduktionGewaehlt(faktoren);
+        emit ProductionChosen(factors);
     });
 }
 
-void Itempalette::SetzeBilder(const PerItem<QPixmap>& bilder) {
-    for (const ItemDisplay& ansicht : ItemDisplays()) {
-        m_bilder[ansicht.item]->SetPicture(bilder[ansicht.item]);
+void ItemPalette::SetPictures(const PerItem<QPixmap>& pictures) {
+    for (const ItemDisplay& display : ItemDisplays()) {
+        m_pictures[display.item]->SetPicture(pictures[display.item]);
     }
 }
 
-void Itempalette::SetzeEinwaende(const std::function<std::optional<std::string>(ItemId)>& einwand) {
-    for (const ItemDisplay& ansicht : ItemDisplays()) {
-        const auto wort = einwand(ansicht.item);
-        Palettenbild& bild = *m_bilder[ansicht.item];
-        bild.SetDimmed(wort.has_value());
-        const QString grund = ToQString(wort.value_or(""));
-        SetHint(bild, wort ? grund : ToQString(RowOf(ansicht.item).name));
-        bild.setAccessibleDescription(grund);
+void ItemPalette::SetObjections(
+    const std::function<std::optional<std::string>(ItemId)>& objection) {
+    for (const ItemDisplay& display : ItemDisplays()) {
+        const auto word = objection(display.item);
+        PalettePicture& picture = *m_pictures[display.item];
+        picture.SetDimmed(word.has_value());
+        const QString reason = ToQString(word.value_or(""));
+        SetHint(picture, word ? reason : ToQString(RowOf(display.item).name));
+        picture.setAccessibleDescription(reason);
     }
 }
 
-void Itempalette::PasseGroesseAn() {
-    constexpr int kZeilen = 3;
-    const int seite = kZeilen * fontMetrics().height();
-    for (Palettenbild* const bild : m_bilder) {
-        bild->setFixedSize(seite, seite);
+void ItemPalette::FitToFont() {
+    constexpr int kLines = 3;
+    const int side = kLines * fontMetrics().height();
+    for (PalettePicture* const picture : m_pictures) {
+        picture->setFixedSize(side, side);
     }
 }
 
-void Itempalette::changeEvent(QEvent* event) {
+void ItemPalette::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
-        PasseGroesseAn();
+        FitToFont();
     }
 }
 

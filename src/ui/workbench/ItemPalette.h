@@ -15,33 +15,33 @@
 
 namespace tarvelin {
 
-class Palettenbild;
+class PalettePicture;
 
-class Itempalette : public QWidget {
+class ItemPalette : public QWidget {
     Q_OBJECT
 
   public:
-    explicit Itempalette(QWidget* parent);
+    explicit ItemPalette(QWidget* parent);
 
-    void SetzeBilder(const PerItem<QPixmap>& bilder);
+    void SetPictures(const PerItem<QPixmap>& pictures);
     /// What the place where a row would go in says against each item.
-    void SetzeEinwaende(const std::function<std::optional<std::string>(ItemId)>& einwand);
+    void SetObjections(const std::function<std::optional<std::string>(ItemId)>& objection);
 
   signals:
-    void ItemGewaehlt(ItemId item);
-    void ProduktionGewaehlt(const MineFactors& faktoren);
+    void ItemChosen(ItemId item);
+    void ProductionChosen(const MineFactors& factors);
 
   protected:
     void changeEvent(QEvent* event) override;
 
   private:
-    void BaueBilder();
-    void BaueProduktion();
-    void PasseGroesseAn();
+    void AddPictures();
+    void AddFactorInputs();
+    void FitToFont();
 
     QGridLayout* m_layout;
-    PerItem<Palettenbild*> m_bilder{};
-    std::array<QComboBox*, 3> m_faktoren{};
+    PerItem<PalettePicture*> m_pictures{};
+    std::array<QComboBox*, 3> m_factors{};
 };
 
 }  // namespace tarvelin

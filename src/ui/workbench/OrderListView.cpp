@@ -15,22 +15,22 @@ namespace tarvelin {
 
 namespace {
 
-const QString kZeilen = QStringLiteral("application/x-tarvelin-zeilen");
+const QString kRows = QStringLiteral("application/x-tarvelin-zeilen");
 
 /// As wide as what usually stands in the columns.
-std::vector<int> Spaltenbreiten() {
-    std::vector<int> breiten;
-    const QFontMetrics mass{QFont()};
+std::vector<int> ColumnWidths() {
+    std::vector<int> widths;
+    const QFontMetrics metrics{QFont()};
     for (const char* const text :
          {"254 ", "Raumschiffwerft Stufe: 10 ", "Mo 20.11. 00:00:00 ", "Mo 20.11. 00:00:00 ",
           "Schlafzeit 20:00:00 bis 08:00:00 ", "Prod % "}) {
-        breiten.push_back(mass.horizontalAdvance(QString::fromLatin1(text)));
+        widths.push_back(metrics.horizontalAdvance(QString::fromLatin1(text)));
     }
-    return breiten;
+    return widths;
 }
 
 /// Rows that can be dragged.
-class Zeilenmodell : public TableModel {
+class DraggableRows : public TableModel {
   public:
     using TableModel::TableModel;
 
@@ -42,119 +42,119 @@ class Zeilenmodell : public TableModel {
 
 }  // namespace
 
-Auftragsansicht::Auftragsansicht(const TableModel::Provider& quelle, QWidget* parent)
-    : ListView(QStringLiteral("LV_Werkbank"), QStringLiteral("Aufträge"), Spaltenbreiten(), parent),
-      m_modell(new Zeilenmodell(
+OrderListView::OrderListView(const TableModel::Provider& source, QWidget* parent)
+    : ListView(QStringLiteral("LV_Werkbank"), QStringLiteral("Aufträge"), ColumnWidths(), parent),
+      m_model(new DraggableRows(
           {QStringLiteral("Nr."), QStringLiteral("Auftrag"), QStringLiteral("Start"),
            QStringLiteral("Fertig"), QStringLiteral("Grund"), QStringLiteral("Prod %")},
-          quelle, this)) {
-    setModel(m_modell);
+          source, this)) {
+    setModel(m_model);
     setSelectionMode(ExtendedSelection);
     setTextElideMode(Qt::ElideRight);
     setDragEnabled(true);
     setAcceptDrops(true);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &Auftragsansicht::AuswahlGeaendert);
+            &OrderListView::ChoiceChanged);
 }
 
-void Auftragsansicht::Aktualisiere(const std::vector<std::size_t>& gewaehlt) {
-    m_modell->Refresh();
-    Waehle(gewaehlt);
+void OrderListView::Refresh(const std::vector<std::size_t>& chosen) {
+    m_model->Refresh();
+    Choose(chosen);
 }
 
-void Auftragsansicht::Waehle(const std::vector<std::size_t>& zeilen) {
-    QItemSelection auswahl;
-    QModelIndex erste;
-    for (const std::size_t zeile : zeilen) {
-        const QModelIndex index = m_modell->index(static_cast<int>(zeile), 0);
+void OrderListView::Choose(const std::vector<std::size_t>& rows) {
+    QItemSelection chosen;
+    QModelIndex first;
+    for (const std::size_t row : rows) {
+        const QModelIndex index = m_model->index(static_cast<int>(row), 0);
         if (index.isValid()) {
-            erste = erste.isValid() ? erste : index;
-            auswahl.select(index, index);
+            first = first.isValid() ? first : index;
+            chosen.select(index, index);
         }
     }
-    selectionModel()->setCurrentIndex(erste, QItemSelectionModel::NoUpdate);
-    selectionModel()->select(auswahl,
+    selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+    selectionModel()->select(chosen,
                              QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    if (erste.isValid()) {
-        scrollTo(erste);
+    if (first.isValid()) {
+        scrollTo(first);
     }
 }
 
-std::vector<std::size_t> Auftragsansicht::Gewaehlte() const {
-    std::vector<std::size_t> zeilen;
+std::vector<std::size_t> OrderListView::ChosenRows() const {
+    std::vector<std::size_t> rows;
     for (const QModelIndex& index : selectionModel()->selectedRows()) {
-        zeilen.push_back(static_cast<std::size_t>(index.row()));
+        rows.push_back(static_cast<std::size_t>(index.row()));
     }
-    std::ranges::sort(zeilen);
-    return zeilen;
+    std::ranges::sort(rows);
+    return rows;
 }
 
-void Auftragsansicht::startDrag(Qt::DropActions /*actions*/) {
-    auto* const daten = new QMimeData;
-    daten->setData(kZeilen, {});
+void OrderListView::startDrag(Qt::DropActions /*actions*/) {
+    auto* const mimeData = new QMimeData;
+    mimeData->setData(kRows, {});
     // The toolkit deletes the drag when it is over.
     auto* const drag = new QDrag(this);
-    drag->setMimeData(daten);
+    drag->setMimeData(mimeData);
     drag->exec(Qt::MoveAction);
-    m_ziel = -1;
+    m_target = -1;
     viewport()->update();
 }
 
-int Auftragsansicht::ZielBei(const QPoint& ort) const {
-    const QModelIndex index = indexAt(ort);
+int OrderListView::DropRowAt(const QPoint& position) const {
+    const QModelIndex index = indexAt(position);
     if (!index.isValid()) {
-        return m_modell->rowCount();
+        return m_model->rowCount();
     }
-    return index.row() + (ort.y() > visualRect(index).center().y() ? 1 : 0);
+    return index.row() + (position.y() > visualRect(index).center().y() ? 1 : 0);
 }
 
-void Auftragsansicht::NimmAn(QDropEvent& event) {
-    const bool zeilen = event.source() == this && event.mimeData()->hasFormat(kZeilen);
-    const bool bild = event.mimeData()->hasFormat(kItemMimeType) && event.source() != nullptr;
-    event.setDropAction(zeilen ? Qt::MoveAction : Qt::CopyAction);
-    event.setAccepted(zeilen || bild);
-    m_ziel = event.isAccepted() ? ZielBei(event.position().toPoint()) : -1;
+void OrderListView::OfferDrop(QDropEvent& event) {
+    const bool rows = event.source() == this && event.mimeData()->hasFormat(kRows);
+    const bool picture = event.mimeData()->hasFormat(kItemMimeType) && event.source() != nullptr;
+    event.setDropAction(rows ? Qt::MoveAction : Qt::CopyAction);
+    event.setAccepted(rows || picture);
+    m_target = event.isAccepted() ? DropRowAt(event.position().toPoint()) : -1;
     viewport()->update();
 }
 
-void Auftragsansicht::dragEnterEvent(QDragEnterEvent* event) {
-    NimmAn(*event);
+void OrderListView::dragEnterEvent(QDragEnterEvent* event) {
+    OfferDrop(*event);
 }
 
-void Auftragsansicht::dragMoveEvent(QDragMoveEvent* event) {
+void OrderListView::dragMoveEvent(QDragMoveEvent* event) {
     // A list that is longer than its sight moves on at its edges.
     if (const QModelIndex index = indexAt(event->position().toPoint()); index.isValid()) {
         scrollTo(index.siblingAtRow(std::max(0, index.row() - 1)));
-        scrollTo(index.siblingAtRow(std::min(m_modell->rowCount() - 1, index.row() + 1)));
+        scrollTo(index.siblingAtRow(std::min(m_model->rowCount() - 1, index.row() + 1)));
     }
-    NimmAn(*event);
+    OfferDrop(*event);
 }
 
-void Auftragsansicht::dragLeaveEvent(QDragLeaveEvent* /*event*/) {
-    m_ziel = -1;
+void OrderListView::dragLeaveEvent(QDragLeaveEvent* /*event*/) {
+    m_target = -1;
     viewport()->update();
 }
 
-void Auftragsansicht::dropEvent(QDropEvent* event) {
-    NimmAn(*event);
-    const auto ziel = static_cast<std::size_t>(ZielBei(event->position().toPoint()));
-    m_ziel = -1;
+void OrderListView::dropEvent(QDropEvent* event) {
+    OfferDrop(*event);
+    const auto target = static_cast<std::size_t>(DropRowAt(event->position().toPoint()));
+    m_target = -1;
     viewport()->update();
     if (event->source() == this) {
-        emit Verschoben(ziel);
+        emit RowsDropped(target);
     } else if (event->isAccepted()) {
-        emit BildAbgelegt(QString::fromUtf8(event->mimeData()->data(kItemMimeType)), ziel);
+        emit PictureDropped(QString::fromUtf8(event->mimeData()->data(kItemMimeType)), target);
     }
 }
 
-void Auftragsansicht::paintEvent(QPaintEvent* event) {
+void OrderListView::paintEvent(QPaintEvent* event) {
     ListView::paintEvent(event);
-    if (m_ziel < 0) {
+    if (m_target < 0) {
         return;
     }
-    const int zeilen = m_modell->rowCount();
-    const QRect platz = visualRect(m_modell->index(std::min(m_ziel, zeilen - 1), 0));
-    const int y = zeilen == 0 ? 0 : m_ziel < zeilen ? platz.top() : platz.bottom();
+    const int rows = m_model->rowCount();
+    const QRect slot = visualRect(m_model->index(std::min(m_target, rows - 1), 0));
+    const int y = rows == 0 ? 0 : m_target < rows ? slot.top() : slot.bottom();
     QPainter painter(viewport());
     painter.setPen(QPen(palette().highlight(), 2));
     painter.drawLine(0, y, viewport()->width(), y);

@@ -9,24 +9,24 @@
 namespace tarvelin {
 
 /// Rows can be dragged within the list; pictures of the palette can be dropped between them.
-class Auftragsansicht : public ListView {
+class OrderListView : public ListView {
     Q_OBJECT
 
   public:
-    explicit Auftragsansicht(const TableModel::Provider& quelle, QWidget* parent);
+    explicit OrderListView(const TableModel::Provider& source, QWidget* parent);
 
     /// Tells that the rows have changed; these are chosen then, the first of them in sight.
-    void Aktualisiere(const std::vector<std::size_t>& gewaehlt);
-    void Waehle(const std::vector<std::size_t>& zeilen);
+    void Refresh(const std::vector<std::size_t>& chosen);
+    void Choose(const std::vector<std::size_t>& rows);
     /// In the order of the list.
-    [[nodiscard]] std::vector<std::size_t> Gewaehlte() const;
+    [[nodiscard]] std::vector<std::size_t> ChosenRows() const;
 
   signals:
-    void AuswahlGeaendert();
+    void ChoiceChanged();
     /// The chosen rows were dropped in front of a row, or behind the last.
-    void Verschoben(std::size_t vor);
+    void RowsDropped(std::size_t before);
     /// A picture of this name was dropped there.
-    void BildAbgelegt(const QString& bild, std::size_t vor);
+    void PictureDropped(const QString& picture, std::size_t before);
 
   protected:
     void startDrag(Qt::DropActions actions) override;
@@ -37,12 +37,12 @@ class Auftragsansicht : public ListView {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    void NimmAn(QDropEvent& event);
-    [[nodiscard]] int ZielBei(const QPoint& ort) const;
+    void OfferDrop(QDropEvent& event);
+    [[nodiscard]] int DropRowAt(const QPoint& position) const;
 
-    TableModel* m_modell;
+    TableModel* m_model;
     /// Where a drag would drop, while it lasts.
-    int m_ziel = -1;
+    int m_target = -1;
 };
 
 }  // namespace tarvelin

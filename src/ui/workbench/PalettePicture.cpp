@@ -10,23 +10,23 @@
 
 namespace tarvelin {
 
-void Palettenbild::mousePressEvent(QMouseEvent* event) {
-    m_gedrueckt = event->pos();
+void PalettePicture::mousePressEvent(QMouseEvent* event) {
+    m_pressed = event->pos();
     PictureButton::mousePressEvent(event);
 }
 
-void Palettenbild::mouseMoveEvent(QMouseEvent* event) {
+void PalettePicture::mouseMoveEvent(QMouseEvent* event) {
     PictureButton::mouseMoveEvent(event);
     if ((event->buttons() & Qt::LeftButton) == 0 ||
-        (event->pos() - m_gedrueckt).manhattanLength() < QApplication::startDragDistance()) {
+        (event->pos() - m_pressed).manhattanLength() < QApplication::startDragDistance()) {
         return;
     }
     setDown(false);
-    auto* const daten = new QMimeData;
-    daten->setData(kItemMimeType, objectName().toUtf8());
+    auto* const mimeData = new QMimeData;
+    mimeData->setData(kItemMimeType, objectName().toUtf8());
     // The toolkit deletes the drag when it is over.
     auto* const drag = new QDrag(this);
-    drag->setMimeData(daten);
+    drag->setMimeData(mimeData);
     drag->setPixmap(grab());
     drag->exec(Qt::CopyAction);
 }

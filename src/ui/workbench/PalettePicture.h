@@ -5,7 +5,7 @@
 
 namespace tarvelin {
 
-class Palettenbild : public PictureButton {
+class PalettePicture : public PictureButton {
     Q_OBJECT
 
   public:
@@ -16,7 +16,7 @@ class Palettenbild : public PictureButton {
     void mousePressEvent(QMouseEvent* event) override;
 
   private:
-    QPoint m_gedrueckt;
+    QPoint m_pressed;
 };
 
 }  // namespace tarvelin

@@ -18,273 +18,279 @@ namespace tarvelin {
 namespace {
 
 template <class T>
-T* Neu(const char* name, const char* bedeutung, QWidget* parent) {
-    auto* const eingabe = new T(parent);
-    eingabe->setObjectName(QString::fromLatin1(name));
-    eingabe->setAccessibleName(QString::fromUtf8(bedeutung));
-    return eingabe;
+T* Added(const char* name, const char* accessibleName, QWidget* parent) {
+    auto* const input = new T(parent);
+    input->setObjectName(QString::fromLatin1(name));
+    input->setAccessibleName(QString::fromUtf8(accessibleName));
+    return input;
 }
 
-QCheckBox* NeuerSchalter(const char* name, const char* text, QWidget* parent) {
-    auto* const schalter = new QCheckBox(QString::fromUtf8(text), parent);
-    schalter->setObjectName(QString::fromLatin1(name));
-    return schalter;
+QCheckBox* NewCheckBox(const char* name, const char* text, QWidget* parent) {
+    auto* const checkBox = new QCheckBox(QString::fromUtf8(text), parent);
+    checkBox->setObjectName(QString::fromLatin1(name));
+    return checkBox;
 }
 
-QPushButton* NeuerSuchknopf(const char* name, const char* text, QWidget* parent) {
-    auto* const knopf = new QPushButton(QString::fromUtf8(text), parent);
-    knopf->setObjectName(QString::fromLatin1(name));
-    return knopf;
+QPushButton* NewSearchButton(const char* name, const char* text, QWidget* parent) {
+    auto* const button = new QPushButton(QString::fromUtf8(text), parent);
+    button->setObjectName(QString::fromLatin1(name));
+    return button;
 }
 
 std::string Bytes(const Plan& plan) {
-    IniFile profil("");
-    WritePlan(plan, profil);
-    return profil.Bytes();
+    IniFile profile("");
+    WritePlan(plan, profile);
+    return profile.Bytes();
 }
 
-OrderList ListeAus(const std::vector<Order>& orders) {
-    OrderList liste;
+OrderList ListFrom(const std::vector<Order>& orders) {
+    OrderList list;
     for (const Order& order : orders) {
-        liste.Append(order);
+        list.Append(order);
     }
-    return liste;
+    return list;
 }
 
 /// How much of a search is done, from 0 to 1.
-double Anteil(std::uint64_t versuche, std::uint64_t von) {
-    return von == 0 ? 1 : static_cast<double>(versuche) / static_cast<double>(von);
+double UnitInterval(std::uint64_t tries, std::uint64_t from) {
+    return from == 0 ? 1 : static_cast<double>(tries) / static_cast<double>(from);
 }
 
-int InProzent(double anteil) {
-    constexpr double kGanz = 100;
-    return static_cast<int>(kGanz * anteil);
+int ToPercent(double share) {
+    constexpr double kWhole = 100;
+    return static_cast<int>(kWhole * share);
 }
 
-std::string Fundtext(const Solution& fund) {
-    return TimeSpanText(fund.score.duration) + ", " +
-           CountText(static_cast<std::size_t>(fund.score.sittings), "Sitzung", "Sitzungen") + ", " +
-           CountText(fund.orders.size(), "Zeile", "Zeilen");
+std::string SolutionText(const Solution& solution) {
+    return TimeSpanText(solution.score.duration) + ", " +
+           CountText(static_cast<std::size_t>(solution.score.sittings), "Sitzung", "Sitzungen") +
+           ", " + CountText(solution.orders.size(), "Zeile", "Zeilen");
 }
 
 }  // namespace
 
-Suchfeld::Suchfeld(const Plan& plan, const Environment& umgebung,
-                   std::function<std::vector<std::size_t>()> gewaehlte, QWidget* parent)
+SearchPage::SearchPage(const Plan& plan, const Environment& environment,
+                       std::function<std::vector<std::size_t>()> chosen, QWidget* parent)
     : QWidget(parent),
       m_plan(plan),
-      m_umgebung(umgebung),
-      m_gewaehlte(std::move(gewaehlte)),
-      m_aufgabe(Neu<QComboBox>("Comb_Suchaufgabe", "Aufgabe der Suche", this)),
-      m_ziel(Neu<QLineEdit>("txt_Suchziel", "Ziel der Suche", this)),
-      m_fest(NeuerSchalter("Chk_Fest", "Gewählte Zeilen bleiben &fest", this)),
-      m_frei(NeuerSchalter("Chk_Frei", "Produktionszeilen wandern &mit", this)),
-      m_ab(NeuerSchalter("Chk_AbJetzt", "Ab &jetzt: was begonnen hat, bleibt", this)),
-      m_sitzungen(NeuerSchalter("Chk_Sitzungen", "Weniger Sit&zungen, länger um", this)),
-      m_nachlass(Neu<QDoubleSpinBox>("Spin_Nachlass", "Prozent länger", this)),
-      m_versuche(Neu<QSpinBox>("Spin_Versuche", "Zahl der Versuche", this)),
-      m_suchen(NeuerSuchknopf("Cmd_Suchen", "&Suchen", this)),
-      m_anhalten(NeuerSuchknopf("Cmd_Anhalten", "Anhal&ten", this)),
-      m_uebernehmen(NeuerSuchknopf("Cmd_Uebernehmen", "Über&nehmen", this)),
-      m_balken(Neu<QProgressBar>("Suchbalken", "Fortschritt der Suche", this)),
-      m_kurve(new Bestenkurve(this)),
-      m_stand(NewLabel(QStringLiteral("LBL_Suche"), {}, this)) {
+      m_environment(environment),
+      m_chosen(std::move(chosen)),
+      m_task(Added<QComboBox>("Comb_Suchaufgabe", "Aufgabe der Suche", this)),
+      m_goal(Added<QLineEdit>("txt_Suchziel", "Ziel der Suche", this)),
+      m_pinned(NewCheckBox("Chk_Fest", "Gewählte Zeilen bleiben &fest", this)),
+      m_free(NewCheckBox("Chk_Frei", "Produktionszeilen wandern &mit", this)),
+      m_from(NewCheckBox("Chk_AbJetzt", "Ab &jetzt: was begonnen hat, bleibt", this)),
+      m_sittings(NewCheckBox("Chk_Sitzungen", "Weniger Sit&zungen, länger um", this)),
+      m_slack(Added<QDoubleSpinBox>("Spin_Nachlass", "Prozent länger", this)),
+      m_tries(Added<QSpinBox>("Spin_Versuche", "Zahl der Versuche", this)),
+      m_searchButton(NewSearchButton("Cmd_Suchen", "&Suchen", this)),
+      m_stopButton(NewSearchButton("Cmd_Anhalten", "Anhal&ten", this)),
+      m_acceptButton(NewSearchButton("Cmd_Uebernehmen", "Über&nehmen", this)),
+      m_bar(Added<QProgressBar>("Suchbalken", "Fortschritt der Suche", this)),
+      m_curve(new ConvergencePlot(this)),
+      m_state(NewLabel(QStringLiteral("LBL_Suche"), {}, this)) {
     setObjectName(QStringLiteral("Suchfeld"));
-    m_stand->setWordWrap(true);
-    m_stand->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    m_stand->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_state->setWordWrap(true);
+    m_state->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_state->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* const form = new QFormLayout;
-    BaueEingaben(*form);
-    auto* const knoepfe = new QHBoxLayout;
-    for (QPushButton* const knopf : {m_suchen, m_anhalten, m_uebernehmen}) {
-        knoepfe->addWidget(knopf);
+    AddInputs(*form);
+    auto* const buttons = new QHBoxLayout;
+    for (QPushButton* const button : {m_searchButton, m_stopButton, m_acceptButton}) {
+        buttons->addWidget(button);
     }
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(form);
-    layout->addLayout(knoepfe);
-    layout->addWidget(m_balken);
-    layout->addWidget(m_kurve);
-    layout->addWidget(m_stand, 1);
-    Verbinde();
-    Schalte();
+    layout->addLayout(buttons);
+    layout->addWidget(m_bar);
+    layout->addWidget(m_curve);
+    layout->addWidget(m_state, 1);
+    ConnectSignals();
+    EnableControls();
 }
 
-void Suchfeld::BaueEingaben(QFormLayout& form) {
-    m_aufgabe->addItems(
+void SearchPage::AddInputs(QFormLayout& form) {
+    m_task->addItems(
         {QStringLiteral("andere Reihenfolge"), QStringLiteral("schnellster Weg zum Ziel")});
-    m_ziel->setText(QStringLiteral("plan"));
-    m_ziel->setToolTip(QStringLiteral(
+    m_goal->setText(QStringLiteral("plan"));
+    m_goal->setToolTip(QStringLiteral(
         "plan: Forschung, Schiffe und Verteidigung des Plans; sonst etwa GW2 FV2 WKT1"));
-    constexpr double kHoechstens = 100;
-    constexpr double kUeblich = 0.5;
-    m_nachlass->setRange(0, kHoechstens);
-    m_nachlass->setSingleStep(kUeblich);
-    m_nachlass->setValue(kUeblich);
-    m_nachlass->setSuffix(QStringLiteral(" %"));
-    m_versuche->setRange(1, std::numeric_limits<int>::max());
-    m_versuche->setSingleStep(static_cast<int>(SearchBudget::kDefaultTries));
-    m_versuche->setValue(static_cast<int>(SearchBudget::kDefaultTries));
-    m_versuche->setGroupSeparatorShown(true);
-    auto* const sitzungen = new QHBoxLayout;
-    sitzungen->addWidget(m_sitzungen);
-    sitzungen->addWidget(m_nachlass);
+    constexpr double kMax = 100;
+    constexpr double kUsual = 0.5;
+    m_slack->setRange(0, kMax);
+    m_slack->setSingleStep(kUsual);
+    m_slack->setValue(kUsual);
+    m_slack->setSuffix(QStringLiteral(" %"));
+    m_tries->setRange(1, std::numeric_limits<int>::max());
+    m_tries->setSingleStep(static_cast<int>(SearchBudget::kDefaultTries));
+    m_tries->setValue(static_cast<int>(SearchBudget::kDefaultTries));
+    m_tries->setGroupSeparatorShown(true);
+    auto* const sittings = new QHBoxLayout;
+    sittings->addWidget(m_sittings);
+    sittings->addWidget(m_slack);
     form.setVerticalSpacing(2);
-    form.addRow(m_aufgabe);
-    form.addRow(QStringLiteral("Ziel:"), m_ziel);
-    form.addRow(m_fest);
-    form.addRow(m_frei);
-    form.addRow(m_ab);
-    form.addRow(sitzungen);
-    form.addRow(QStringLiteral("Versuche:"), m_versuche);
+    form.addRow(m_task);
+    form.addRow(QStringLiteral("Ziel:"), m_goal);
+    form.addRow(m_pinned);
+    form.addRow(m_free);
+    form.addRow(m_from);
+    form.addRow(sittings);
+    form.addRow(QStringLiteral("Versuche:"), m_tries);
 }
 
-void Suchfeld::Verbinde() {
-    connect(m_aufgabe, &QComboBox::currentIndexChanged, this, &Suchfeld::Schalte);
-    connect(m_sitzungen, &QCheckBox::toggled, this, &Suchfeld::Schalte);
-    connect(m_suchen, &QPushButton::clicked, this, &Suchfeld::Suche);
-    connect(m_anhalten, &QPushButton::clicked, this, &Suchfeld::HalteAn);
-    connect(m_uebernehmen, &QPushButton::clicked, this, &Suchfeld::Uebernimm);
+void SearchPage::ConnectSignals() {
+    connect(m_task, &QComboBox::currentIndexChanged, this, &SearchPage::EnableControls);
+    connect(m_sittings, &QCheckBox::toggled, this, &SearchPage::EnableControls);
+    connect(m_searchButton, &QPushButton::clicked, this, &SearchPage::StartSearch);
+    connect(m_stopButton, &QPushButton::clicked, this, &SearchPage::StopSearch);
+    connect(m_acceptButton, &QPushButton::clicked, this, &SearchPage::AcceptResult);
     // They come from another thread. News of a search that was followed by another one come to
     // nothing.
     connect(
-        this, &Suchfeld::StandKam, this,
-        [this](int nummer, const SearchProgress& stand) {
-            if (nummer == m_nummer) {
-                ZeigeStand(stand);
+        this, &SearchPage::ProgressReceived, this,
+        [this](int number, const SearchProgress& progress) {
+            if (number == m_number) {
+                ShowProgress(progress);
             }
         },
         Qt::QueuedConnection);
     connect(
-        this, &Suchfeld::ErgebnisKam, this,
-        [this](int nummer, const SearchResult& ergebnis) {
-            if (nummer == m_nummer) {
-                ZeigeErgebnis(ergebnis);
+        this, &SearchPage::ResultReceived, this,
+        [this](int number, const SearchResult& result) {
+            if (number == m_number) {
+                ShowSearchResult(result);
             }
         },
         Qt::QueuedConnection);
 }
 
-void Suchfeld::Schalte() {
-    m_ziel->setEnabled(m_aufgabe->currentIndex() == 1);
-    m_nachlass->setEnabled(m_sitzungen->isChecked());
-    m_suchen->setEnabled(!m_laeuft);
-    m_anhalten->setEnabled(m_laeuft);
-    m_uebernehmen->setEnabled(!m_laeuft && m_gesucht && m_gesucht->Bester);
+void SearchPage::EnableControls() {
+    m_goal->setEnabled(m_task->currentIndex() == 1);
+    m_slack->setEnabled(m_sittings->isChecked());
+    m_searchButton->setEnabled(!m_running);
+    m_stopButton->setEnabled(m_running);
+    m_acceptButton->setEnabled(!m_running && m_wanted && m_wanted->best);
 }
 
-SearchRequest Suchfeld::Wunsch() const {
-    SearchRequest wunsch{.moveProduction = m_frei->isChecked()};
-    if (m_aufgabe->currentIndex() == 1) {
-        wunsch.goal = m_ziel->text().trimmed().toStdString();
+SearchRequest SearchPage::MakeRequest() const {
+    SearchRequest request{.moveProduction = m_free->isChecked()};
+    if (m_task->currentIndex() == 1) {
+        request.goal = m_goal->text().trimmed().toStdString();
     }
-    if (m_fest->isChecked()) {
-        for (const std::size_t zeile : m_gewaehlte()) {
-            wunsch.pinnedRanges.emplace_back(zeile + 1, zeile + 1);
+    if (m_pinned->isChecked()) {
+        for (const std::size_t row : m_chosen()) {
+            request.pinnedRanges.emplace_back(row + 1, row + 1);
         }
     }
-    if (m_ab->isChecked()) {
-        wunsch.notBefore = m_umgebung.now();
+    if (m_from->isChecked()) {
+        request.notBefore = m_environment.now();
     }
-    return wunsch;
+    return request;
 }
 
-SearchBudget Suchfeld::Umfang() const {
+SearchBudget SearchPage::MakeBudget() const {
     // One core is left for the windows.
-    const unsigned kerne = std::thread::hardware_concurrency();
-    return {.tries = static_cast<std::uint64_t>(m_versuche->value()),
-            .threads = std::max(2U, kerne) - 1,
-            .slackPercent = m_sitzungen->isChecked() ? m_nachlass->value() : 0};
+    const unsigned cores = std::thread::hardware_concurrency();
+    return {.tries = static_cast<std::uint64_t>(m_tries->value()),
+            .threads = std::max(2U, cores) - 1,
+            .slackPercent = m_sittings->isChecked() ? m_slack->value() : 0};
 }
 
-void Suchfeld::Suche() {
-    const auto aufgabe = MakePlanTask(m_plan, Wunsch());
-    if (const auto* const absage = std::get_if<SearchRefusal>(&aufgabe)) {
-        emit Meldung(absage->text);
+void SearchPage::StartSearch() {
+    const auto task = MakePlanTask(m_plan, MakeRequest());
+    if (const auto* const refusal = std::get_if<SearchRefusal>(&task)) {
+        emit Notice(refusal->text);
         return;
     }
-    emit Meldung("");
-    m_gesucht = {.Vorher = m_plan, .Aufgabe = std::get<PlanTask>(aufgabe), .Bester = {}};
-    m_kurve->Leere();
-    m_balken->setValue(0);
-    m_stand->clear();
-    m_laeuft = true;
-    Schalte();
-    const int nummer = ++m_nummer;
-    m_suche = std::make_unique<BackgroundSearch>(
-        m_gesucht->Aufgabe, Umfang(),
+    emit Notice("");
+    m_wanted = {.before = m_plan, .task = std::get<PlanTask>(task), .best = {}};
+    m_curve->Clear();
+    m_bar->setValue(0);
+    m_state->clear();
+    m_running = true;
+    EnableControls();
+    const int number = ++m_number;
+    m_search = std::make_unique<BackgroundSearch>(
+        m_wanted->task, MakeBudget(),
         BackgroundSearch::Listener{
-            .onProgress = [this,
-                           nummer](const SearchProgress& stand) { emit StandKam(nummer, stand); },
-            .onDone = [this, nummer](
-                          const SearchResult& ergebnis) { emit ErgebnisKam(nummer, ergebnis); }});
+            .onProgress =
+                [this, number](const SearchProgress& progress) {
+                    emit ProgressReceived(number, progress);
+                },
+            .onDone = [this, number](
+                          const SearchResult& result) { emit ResultReceived(number, result); }});
 }
 
-void Suchfeld::HalteAn() {
-    if (m_suche) {
-        m_suche->Stop();
+void SearchPage::StopSearch() {
+    if (m_search) {
+        m_search->Stop();
     }
 }
 
-void Suchfeld::ZeigeStand(const SearchProgress& stand) {
-    const double anteil = Anteil(stand.tries, stand.totalTries);
-    m_balken->setValue(InProzent(anteil));
-    m_kurve->Merke(anteil, stand.bestDuration);
-    m_stand->setText(ToQString(
-        "Bisher: " + TimeSpanText(stand.bestDuration) + " (" + SignedTimeSpanText(-stand.gain) +
-        ")\n" + std::to_string(stand.tries) + " von " + std::to_string(stand.totalTries) +
-        " Versuchen, " + std::to_string(std::int64_t(stand.triesPerSecond)) + " in der Sekunde"));
+void SearchPage::ShowProgress(const SearchProgress& progress) {
+    const double share = UnitInterval(progress.tries, progress.totalTries);
+    m_bar->setValue(ToPercent(share));
+    m_curve->AddPoint(share, progress.bestDuration);
+    m_state->setText(
+        ToQString("Bisher: " + TimeSpanText(progress.bestDuration) + " (" +
+                  SignedTimeSpanText(-progress.gain) + ")\n" + std::to_string(progress.tries) +
+                  " von " + std::to_string(progress.totalTries) + " Versuchen, " +
+                  std::to_string(std::int64_t(progress.triesPerSecond)) + " in der Sekunde"));
 }
 
-void Suchfeld::ZeigeErgebnis(const SearchResult& ergebnis) {
-    m_suche.reset();
-    m_laeuft = false;
-    m_gesucht->Bester = ergebnis.best;
-    m_balken->setValue(InProzent(Anteil(ergebnis.tries, ergebnis.totalTries)));
-    m_stand->setText(ergebnis.best
-                         ? ToQString(Bericht() + "\nVersuche: " + std::to_string(ergebnis.tries))
+void SearchPage::ShowSearchResult(const SearchResult& result) {
+    m_search.reset();
+    m_running = false;
+    m_wanted->best = result.best;
+    m_bar->setValue(ToPercent(UnitInterval(result.tries, result.totalTries)));
+    m_state->setText(result.best
+                         ? ToQString(ReportText() + "\nVersuche: " + std::to_string(result.tries))
                          : QStringLiteral("Es wurde keine Liste gefunden, die endet."));
-    Schalte();
+    EnableControls();
 }
 
-std::string Suchfeld::Bericht() const {
-    const Solution& nachher = *m_gesucht->Bester;
-    const auto& vorher = m_gesucht->Aufgabe.before;
+std::string SearchPage::ReportText() const {
+    const Solution& after = *m_wanted->best;
+    const auto& before = m_wanted->task.before;
     std::string text =
-        "Vorher: " + (vorher ? Fundtext(*vorher) : "der Plan endet nie oder verfehlt das Ziel") +
-        "\nNachher: " + Fundtext(nachher);
-    if (vorher) {
+        "Vorher: " +
+        (before ? SolutionText(*before) : "der Plan endet nie oder verfehlt das Ziel") +
+        "\nNachher: " + SolutionText(after);
+    if (before) {
         text +=
-            "\nUnterschied: " + SignedTimeSpanText(nachher.score.duration - vorher->score.duration);
+            "\nUnterschied: " + SignedTimeSpanText(after.score.duration - before->score.duration);
     }
-    const OrderList& alte = m_gesucht->Vorher.LV_Bauliste.Orders();
-    const OrderList neue = ListeAus(nachher.orders);
-    for (const auto& [name, dabei] : {std::pair("\nKommt dazu: ", SurplusInWords(neue, alte)),
-                                      std::pair("\nEntfällt: ", SurplusInWords(alte, neue))}) {
-        text += dabei.empty() ? "" : name + dabei;
+    const OrderList& oldOrders = m_wanted->before.LV_Bauliste.Orders();
+    const OrderList newOrders = ListFrom(after.orders);
+    for (const auto& [name, included] :
+         {std::pair("\nKommt dazu: ", SurplusInWords(newOrders, oldOrders)),
+          std::pair("\nEntfällt: ", SurplusInWords(oldOrders, newOrders))}) {
+        text += included.empty() ? "" : name + included;
     }
-    const RunConditions& bedingungen = m_gesucht->Aufgabe.task.conditions;
-    if (!alte.IsEmpty()) {
-        text += "\nJe Stunde vorher: " + RatesText(TraceRun(alte.All(), bedingungen).end);
+    const RunConditions& conditions = m_wanted->task.task.conditions;
+    if (!oldOrders.IsEmpty()) {
+        text += "\nJe Stunde vorher: " + RatesText(TraceRun(oldOrders.All(), conditions).end);
     }
-    return text + "\nJe Stunde nachher: " + RatesText(TraceRun(neue.All(), bedingungen).end);
+    return text + "\nJe Stunde nachher: " + RatesText(TraceRun(newOrders.All(), conditions).end);
 }
 
-void Suchfeld::Uebernimm() {
-    if (Bytes(m_plan) != Bytes(m_gesucht->Vorher) &&
-        !m_umgebung.dialogs.Ask({.text = "Der Plan wurde seit dem Beginn der Suche geändert. Soll "
-                                         "der gefundene trotzdem an seine Stelle treten?",
-                                 .title = "Übernehmen...",
-                                 .icon = MessageIcon::Question})) {
+void SearchPage::AcceptResult() {
+    if (Bytes(m_plan) != Bytes(m_wanted->before) &&
+        !m_environment.dialogs.Ask({.text =
+                                        "Der Plan wurde seit dem Beginn der Suche geändert. Soll "
+                                        "der gefundene trotzdem an seine Stelle treten?",
+                                    .title = "Übernehmen...",
+                                    .icon = MessageIcon::Question})) {
         return;
     }
     std::vector<std::string> tags;
-    for (const Order& order : m_gesucht->Bester->orders) {
+    for (const Order& order : m_wanted->best->orders) {
         tags.push_back(order.Tag());
     }
-    const auto pause = m_gesucht->Aufgabe.pause;
-    m_gesucht.reset();
-    Schalte();
-    emit Uebernommen(tags, pause);
+    const auto pause = m_wanted->task.pause;
+    m_wanted.reset();
+    EnableControls();
+    emit ResultAccepted(tags, pause);
 }
 
 }  // namespace tarvelin

@@ -25,68 +25,68 @@
 namespace tarvelin {
 
 /// Searches for a faster plan while the window lives on.
-class Suchfeld : public QWidget {
+class SearchPage : public QWidget {
     Q_OBJECT
 
   public:
-    /// `plan` and `umgebung` must outlive it; `gewaehlte` gives the rows that are chosen, from 0.
-    Suchfeld(const Plan& plan, const Environment& umgebung,
-             std::function<std::vector<std::size_t>()> gewaehlte, QWidget* parent);
+    /// `plan` and `environment` must outlive it; `chosen` gives the rows that are chosen, from 0.
+    SearchPage(const Plan& plan, const Environment& environment,
+               std::function<std::vector<std::size_t>()> chosen, QWidget* parent);
 
     /// Ends a search under way; what it has found stays.
-    void HalteAn();
+    void StopSearch();
 
   signals:
     /// The player wants what was found: its rows, and the pause in front of the sleep rows.
-    void Uebernommen(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause);
-    void Meldung(const std::string& text);
+    void ResultAccepted(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause);
+    void Notice(const std::string& text);
     /// Of the search's own, by its number.
-    void StandKam(int nummer, const SearchProgress& stand);
-    void ErgebnisKam(int nummer, const SearchResult& ergebnis);
+    void ProgressReceived(int number, const SearchProgress& progress);
+    void ResultReceived(int number, const SearchResult& result);
 
   private:
-    void BaueEingaben(QFormLayout& form);
-    void Verbinde();
-    [[nodiscard]] SearchRequest Wunsch() const;
-    [[nodiscard]] SearchBudget Umfang() const;
-    void Suche();
-    void Uebernimm();
-    void ZeigeStand(const SearchProgress& stand);
-    void ZeigeErgebnis(const SearchResult& ergebnis);
-    [[nodiscard]] std::string Bericht() const;
-    void Schalte();
+    void AddInputs(QFormLayout& form);
+    void ConnectSignals();
+    [[nodiscard]] SearchRequest MakeRequest() const;
+    [[nodiscard]] SearchBudget MakeBudget() const;
+    void StartSearch();
+    void AcceptResult();
+    void ShowProgress(const SearchProgress& progress);
+    void ShowSearchResult(const SearchResult& result);
+    [[nodiscard]] std::string ReportText() const;
+    void EnableControls();
 
     /// What was searched, and what came of it.
-    struct Gesucht {
-        Plan Vorher;
-        PlanTask Aufgabe;
-        std::optional<Solution> Bester;
+    struct Searched {
+        Plan before;
+        PlanTask task;
+        std::optional<Solution> best;
     };
 
     const Plan& m_plan;
-    const Environment& m_umgebung;
-    std::function<std::vector<std::size_t>()> m_gewaehlte;
+    const Environment& m_environment;
+    std::function<std::vector<std::size_t>()> m_chosen;
 
-    QComboBox* m_aufgabe;
-    QLineEdit* m_ziel;
-    QCheckBox* m_fest;
-    QCheckBox* m_frei;
-    QCheckBox* m_ab;
-    QCheckBox* m_sitzungen;
-    QDoubleSpinBox* m_nachlass;
-    QSpinBox* m_versuche;
-    QPushButton* m_suchen;
-    QPushButton* m_anhalten;
-    QPushButton* m_uebernehmen;
-    QProgressBar* m_balken;
-    Bestenkurve* m_kurve;
-    QLabel* m_stand;
-    std::optional<Gesucht> m_gesucht;
+    QComboBox* m_task;
+    QLineEdit* m_goal;
+    QCheckBox* m_pinned;
+    QCheckBox* m_free;
+    QCheckBox* m_from;
+    QCheckBox* m_sittings;
+    QDoubleSpinBox* m_slack;
+    QSpinBox* m_tries;
+    QPushButton* m_searchButton;
+    QPushButton* m_stopButton;
+    QPushButton* m_acceptButton;
+    QProgressBar* m_bar;
+    ConvergencePlot* m_curve;
+    QLabel* m_state;
+    std::optional<Searched> m_wanted;
     /// Which search the news are of.
-    int m_nummer = 0;
-    bool m_laeuft = false;
+    int m_number = 0;
+    bool m_running = false;
     /// Ends before what it tells.
-    std::unique_ptr<BackgroundSearch> m_suche;
+    std::unique_ptr<BackgroundSearch> m_search;
 };
 
 }  // namespace tarvelin

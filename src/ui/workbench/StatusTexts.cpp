@@ -11,31 +11,31 @@ namespace tarvelin {
 
 namespace {
 
-std::string Vorratstext(const RunTrace& ablauf, SimTime moment) {
+std::string StockText(const RunTrace& trace, SimTime moment) {
     struct Name {
-        Resource Was;
-        const char* Text;
+        Resource resource;
+        const char* text;
     };
-    const HistoryPoint& punkt = PointAt(ablauf.curve, moment);
-    const auto vorrat = StockAfter(punkt, std::max(Long{0}, moment - punkt.time));
+    const HistoryPoint& point = PointAt(trace.curve, moment);
+    const auto stock = StockAfter(point, std::max(Long{0}, moment - point.time));
     std::string text;
-    for (const auto& [was, name] :
+    for (const auto& [what, name] :
          {Name{Resource::Metall, "Metall"}, Name{Resource::Kristall, "Kristall"},
           Name{Resource::Deuterium, "Deuterium"}}) {
-        text += std::string("   ") + name + ": " + std::to_string(vorrat[was].WholePart()) + " (" +
-                DecimalText(punkt.ProStunde[was]) + "/h)";
+        text += std::string("   ") + name + ": " + std::to_string(stock[what].WholePart()) + " (" +
+                DecimalText(point.ProStunde[what]) + "/h)";
     }
-    const Long frei = LongSum(punkt.EnergieProduktion, -std::int64_t{punkt.EnergieVerbrauch});
-    return text + "   Energie: " + std::to_string(frei) + " / " +
-           std::to_string(punkt.EnergieProduktion);
+    const Long free = LongSum(point.EnergieProduktion, -std::int64_t{point.EnergieVerbrauch});
+    return text + "   Energie: " + std::to_string(free) + " / " +
+           std::to_string(point.EnergieProduktion);
 }
 
-std::string Stufentext(const HistoryPoint& punkt) {
+std::string LevelsText(const HistoryPoint& point) {
     std::string text;
-    for (const ItemRow& zeile : ItemTable()) {
-        if (const Byte stufe = punkt.Stufe[zeile.item]; stufe > 0) {
+    for (const ItemRow& row : ItemTable()) {
+        if (const Byte level = point.Stufe[row.item]; level > 0) {
             text +=
-                (text.empty() ? "" : ", ") + std::string(zeile.name) + " " + std::to_string(stufe);
+                (text.empty() ? "" : ", ") + std::string(row.name) + " " + std::to_string(level);
         }
     }
     return text;
@@ -43,44 +43,44 @@ std::string Stufentext(const HistoryPoint& punkt) {
 
 }  // namespace
 
-std::string Zeittext(DateTime zeitpunkt) {
-    const std::string datum = DateText(zeitpunkt);
-    return std::string(WeekdayShort(zeitpunkt)) + " " + datum.substr(0, datum.rfind('.') + 1) +
-           " " + TimeOfDayText(zeitpunkt);
+std::string ShortDateTimeText(DateTime time) {
+    const std::string date = DateText(time);
+    return std::string(WeekdayShort(time)) + " " + date.substr(0, date.rfind('.') + 1) + " " +
+           TimeOfDayText(time);
 }
 
-std::string Standtext(const RunTrace& ablauf, SimTime moment) {
-    return Zeittext(ablauf.conditions.WallClock(moment)) +
-           "   Spielzeit: " + TimeSpanText(moment.Seconds()) + Vorratstext(ablauf, moment) + "\n" +
-           Stufentext(PointAt(ablauf.curve, moment));
+std::string StatusText(const RunTrace& trace, SimTime moment) {
+    return ShortDateTimeText(trace.conditions.WallClock(moment)) +
+           "   Spielzeit: " + TimeSpanText(moment.Seconds()) + StockText(trace, moment) + "\n" +
+           LevelsText(PointAt(trace.curve, moment));
 }
 
-std::optional<std::string> NaechsterAuftrag(const RunTrace& ablauf, DateTime jetzt) {
-    const RunConditions& bedingungen = ablauf.conditions;
-    if (jetzt < bedingungen.StartDate || jetzt > bedingungen.WallClock(ablauf.Duration())) {
+std::optional<std::string> NextOrderText(const RunTrace& trace, DateTime now) {
+    const RunConditions& conditions = trace.conditions;
+    if (now < conditions.StartDate || now > conditions.WallClock(trace.Duration())) {
         return std::nullopt;
     }
-    const auto naechster = std::ranges::find_if(ablauf.starts, [&](const StartEvent& start) {
-        return bedingungen.WallClock(start.start) >= jetzt;
+    const auto next = std::ranges::find_if(trace.starts, [&](const StartEvent& start) {
+        return conditions.WallClock(start.start) >= now;
     });
-    if (naechster == ablauf.starts.end()) {
+    if (next == trace.starts.end()) {
         return "alle Aufträge sind gegeben";
     }
-    const DateTime um = bedingungen.WallClock(naechster->start);
-    return OrderText(*naechster) + " um " + TimeOfDayText(um) + ", in " + TimeSpanText(um - jetzt);
+    const DateTime at = conditions.WallClock(next->start);
+    return OrderText(*next) + " um " + TimeOfDayText(at) + ", in " + TimeSpanText(at - now);
 }
 
-std::string Meldungszeile(const RunTrace& ablauf) {
-    std::vector<std::string> texte;
-    if (ablauf.end.IsAtEndOfClock()) {
-        texte.push_back(BeyondClockText());
+std::string MessagesText(const RunTrace& trace) {
+    std::vector<std::string> texts;
+    if (trace.end.IsAtEndOfClock()) {
+        texts.push_back(BeyondClockText());
     }
-    std::ranges::transform(ablauf.messages, std::back_inserter(texte), &Message::text);
-    std::string text = texte.empty() ? "" : texte.front();
-    if (texte.size() == 2) {
-        text += "\n" + texte.back();
-    } else if (texte.size() > 2) {
-        text += "\n... und " + std::to_string(texte.size() - 1) + " weitere";
+    std::ranges::transform(trace.messages, std::back_inserter(texts), &Message::text);
+    std::string text = texts.empty() ? "" : texts.front();
+    if (texts.size() == 2) {
+        text += "\n" + texts.back();
+    } else if (texts.size() > 2) {
+        text += "\n... und " + std::to_string(texts.size() - 1) + " weitere";
     }
     return text;
 }

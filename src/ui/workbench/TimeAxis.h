@@ -11,68 +11,57 @@
 namespace tarvelin {
 
 /// Marks stand at round moments of the wall clock, as many as there is room for their words.
-class Zeitachse {
+class TimeAxis {
   public:
-    /// `jeSekunde` and `breite` in the same unit: how long a second is, and a mark's words.
-    Zeitachse(double jeSekunde, double breite) {
-        for (const std::int64_t schritt : kSchritte) {
-            m_schritt = schritt;
-            if (static_cast<double>(schritt) * jeSekunde >= breite) {
+    /// `perSecond` and `width` in the same unit: how long a second is, and a mark's words.
+    TimeAxis(double perSecond, double width) {
+        for (const std::int64_t step : kSteps) {
+            m_step = step;
+            if (static_cast<double>(step) * perSecond >= width) {
                 return;
             }
         }
-        while (static_cast<double>(m_schritt) * jeSekunde < breite && m_schritt < kLaengster) {
-            m_schritt *= 2;
+        while (static_cast<double>(m_step) * perSecond < width && m_step < kLongestStep) {
+            m_step *= 2;
         }
     }
 
-    /// Tells the marks from `von` to `bis`, in seconds since `beginn`: the second and the words.
-    template <class Strich>
-    void JederStrich(DateTime beginn, double von, double bis, Strich strich) const {
-        const auto erste = beginn + static_cast<std::int64_t>(std::floor(von));
-        const auto letzte = beginn + static_cast<std::int64_t>(std::ceil(bis));
-        const std::int64_t nummer = erste.Seconds() / m_schritt;
-        for (std::int64_t um = nummer * m_schritt; um <= letzte.Seconds(); um += m_schritt) {
-            strich(um - beginn.Seconds(), Text(DateTime(um)));
+    /// Tells the marks from `from` to `until`, in seconds since `begin`: the second and the words.
+    template <class Tick>
+    void ForEachTick(DateTime begin, double from, double until, Tick tick) const {
+        const auto first = begin + static_cast<std::int64_t>(std::floor(from));
+        const auto last = begin + static_cast<std::int64_t>(std::ceil(until));
+        const std::int64_t number = first.Seconds() / m_step;
+        for (std::int64_t at = number * m_step; at <= last.Seconds(); at += m_step) {
+            tick(at - begin.Seconds(), TickText(DateTime(at)));
         }
     }
 
   private:
     static constexpr std::int64_t kMinute = 60;
-    static constexpr std::int64_t kStunde = 60 * kMinute;
-    static constexpr std::int64_t kTag = 24 * kStunde;
-    static constexpr std::int64_t kLaengster = 1'000'000 * kTag;
-    static constexpr std::array<std::int64_t, 17> kSchritte{1,
-                                                            5,
-                                                            15,
-                                                            30,
-                                                            kMinute,
-                                                            5 * kMinute,
-                                                            15 * kMinute,
-                                                            30 * kMinute,
-                                                            kStunde,
-                                                            2 * kStunde,
-                                                            3 * kStunde,
-                                                            6 * kStunde,
-                                                            12 * kStunde,
-                                                            kTag,
-                                                            2 * kTag,
-                                                            7 * kTag,
-                                                            14 * kTag};
+    static constexpr std::int64_t kHour = 60 * kMinute;
+    static constexpr std::int64_t kDay = 24 * kHour;
+    static constexpr std::int64_t kLongestStep = 1'000'000 * kDay;
+    static constexpr std::array<std::int64_t, 17> kSteps{
+        1,          5,           15,           30,
+        kMinute,    5 * kMinute, 15 * kMinute, 30 * kMinute,
+        kHour,      2 * kHour,   3 * kHour,    6 * kHour,
+        12 * kHour, kDay,        2 * kDay,     7 * kDay,
+        14 * kDay};
 
-    [[nodiscard]] std::string Text(DateTime um) const {
-        const std::string datum = DateText(um);
-        std::string tag = std::string(WeekdayShort(um)) + " " +
-                          (m_schritt > kTag ? datum : datum.substr(0, datum.rfind('.') + 1));
-        if (m_schritt >= kTag) {
+    [[nodiscard]] std::string TickText(DateTime at) const {
+        const std::string date = DateText(at);
+        std::string tag = std::string(WeekdayShort(at)) + " " +
+                          (m_step > kDay ? date : date.substr(0, date.rfind('.') + 1));
+        if (m_step >= kDay) {
             return tag;
         }
-        const std::string uhrzeit = TimeOfDayText(um);
-        const bool mitSekunden = m_schritt < kMinute;
-        return tag + " " + (mitSekunden ? uhrzeit : uhrzeit.substr(0, uhrzeit.rfind(':')));
+        const std::string timeOfDay = TimeOfDayText(at);
+        const bool withSeconds = m_step < kMinute;
+        return tag + " " + (withSeconds ? timeOfDay : timeOfDay.substr(0, timeOfDay.rfind(':')));
     }
 
-    std::int64_t m_schritt = 1;
+    std::int64_t m_step = 1;
 };
 
 }  // namespace tarvelin

@@ -10,27 +10,27 @@
 
 namespace tarvelin {
 
-[[nodiscard]] bool IstDunkel(const QPalette& palette);
+[[nodiscard]] bool IsDark(const QPalette& palette);
 
 /// What the timeline is drawn with.
-struct Werkbankfarben {
-    QColor Grund;
-    QColor Spur;
-    QColor Linie;
-    QColor Text;
-    QColor Auswahl;
-    QColor Schlaf;
-    QColor Jetzt;
-    QColor Produktion;
-    QColor Energie;
-    QColor Energiemangel;
-    PerQueue<QColor> Balken;
-    PerResource<QColor> Vorrat;
+struct TimelineColors {
+    QColor background;
+    QColor lane;
+    QColor line;
+    QColor text;
+    QColor chosen;
+    QColor sleep;
+    QColor now;
+    QColor production;
+    QColor energy;
+    QColor energyDeficit;
+    PerQueue<QColor> bars;
+    PerResource<QColor> stock;
 
-    explicit Werkbankfarben(const QPalette& palette);
+    explicit TimelineColors(const QPalette& palette);
 
     /// Of a wait, after its reason.
-    [[nodiscard]] QColor Warten(const Delay& grund) const;
+    [[nodiscard]] QColor ForDelay(const Delay& delay) const;
 };
 
 }  // namespace tarvelin

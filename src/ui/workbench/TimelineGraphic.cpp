@@ -17,452 +17,454 @@ namespace tarvelin {
 namespace {
 
 /// How much of a lane its bars take; the waits lie below them.
-constexpr qreal kBalkenanteil = 0.7;
-constexpr qreal kRand = 3;
+constexpr qreal kBarShare = 0.7;
+constexpr qreal kMargin = 3;
 
 /// What a curve is drawn through: its value at each point, and where it goes until the next.
-template <class Wert>
-void JedesStueck(const RunTrace& ablauf, Wert wert) {
-    for (std::size_t i = 0; i < ablauf.curve.size(); ++i) {
-        const HistoryPoint& punkt = ablauf.curve[i];
-        const SimTime bis =
-            i + 1 < ablauf.curve.size() ? ablauf.curve[i + 1].time : ablauf.Duration();
-        wert(punkt, std::max(bis, punkt.time));
+template <class Value>
+void ForEachPiece(const RunTrace& trace, Value value) {
+    for (std::size_t i = 0; i < trace.curve.size(); ++i) {
+        const HistoryPoint& point = trace.curve[i];
+        const SimTime until =
+            i + 1 < trace.curve.size() ? trace.curve[i + 1].time : trace.Duration();
+        value(point, std::max(until, point.time));
     }
 }
 
-qreal Vorratszahl(const HistoryPoint& punkt, SimTime um, Resource r) {
-    return StockAfter(punkt, um - punkt.time)[r].ToDouble();
+qreal StockNumber(const HistoryPoint& point, SimTime at, Resource resource) {
+    return StockAfter(point, at - point.time)[resource].ToDouble();
 }
 
-qreal Bilanz(const HistoryPoint& punkt) {
-    return static_cast<qreal>(punkt.EnergieProduktion) - static_cast<qreal>(punkt.EnergieVerbrauch);
+qreal Balance(const HistoryPoint& point) {
+    return static_cast<qreal>(point.EnergieProduktion) - static_cast<qreal>(point.EnergieVerbrauch);
 }
 
-struct Bereich {
-    qreal Von = 0;
-    qreal Bis = 0;
+struct Range {
+    qreal from = 0;
+    qreal to = 0;
 
-    void Nimm(qreal wert) {
-        Von = std::min(Von, wert);
-        Bis = std::max(Bis, wert);
+    void Include(qreal value) {
+        from = std::min(from, value);
+        to = std::max(to, value);
     }
     /// The height of a value in a field.
-    [[nodiscard]] qreal Y(qreal wert, const QRectF& feld) const {
-        return feld.bottom() - (wert - Von) / std::max(1.0, Bis - Von) * feld.height();
+    [[nodiscard]] qreal Y(qreal value, const QRectF& rect) const {
+        return rect.bottom() - (value - from) / std::max(1.0, to - from) * rect.height();
     }
 };
 
 }  // namespace
 
-const std::array<Zeitbild::Spur, 3> Zeitbild::kSpuren{{
+const std::array<TimelineGraphic::Lane, 3> TimelineGraphic::kLanes{{
     {Queue::Building, "Gebäude"},
     {Queue::Research, "Forschung"},
     {Queue::Shipyard, "Werft"},
 }};
 
 /// Paints in pixels, whatever the stretch of the scene.
-class Zeitbild::Maler {
+class TimelineGraphic::Renderer {
   public:
-    Maler(const Zeitbild& bild, QPainter& painter, const QRectF& sicht)
-        : m_bild(bild), m_ablauf(*bild.m_ablauf), m_painter(painter) {
-        const QTransform vorher = painter.worldTransform();
-        m_jeSekunde = vorher.m11() / vorher.m22();
-        m_links = X(sicht.left());
-        m_rechts = X(sicht.right());
+    Renderer(const TimelineGraphic& graphic, QPainter& painter, const QRectF& view)
+        : m_graphic(graphic), m_trace(*graphic.m_trace), m_painter(painter) {
+        const QTransform before = painter.worldTransform();
+        m_perSecond = before.m11() / before.m22();
+        m_left = X(view.left());
+        m_right = X(view.right());
         painter.setWorldTransform(
-            QTransform(vorher.m22(), 0, 0, vorher.m22(), vorher.dx(), vorher.dy()));
-        painter.setFont(bild.m_schrift);
+            QTransform(before.m22(), 0, 0, before.m22(), before.dx(), before.dy()));
+        painter.setFont(graphic.m_font);
     }
 
-    void Male() {
-        MaleSpuren();
-        MaleAchse();
-        MaleSchlaf();
-        for (std::size_t i = 0; i < m_ablauf.starts.size(); ++i) {
-            MaleWarten(i);
+    void Draw() {
+        DrawLanes();
+        DrawAxis();
+        DrawSleep();
+        for (std::size_t i = 0; i < m_trace.starts.size(); ++i) {
+            DrawWaits(i);
         }
-        for (const StartEvent& start : m_ablauf.starts) {
+        for (const StartEvent& start : m_trace.starts) {
             if (start.order.kind == Order::Kind::Item) {
-                MaleBalken(start);
+                DrawBar(start);
             }
         }
-        MaleProduktionen();
-        MaleVorraete();
-        MaleEnergie();
-        MaleNamen();
+        DrawProductions();
+        DrawStocks();
+        DrawEnergy();
+        DrawNames();
     }
 
   private:
-    [[nodiscard]] qreal X(qreal sekunde) const { return sekunde * m_jeSekunde; }
+    [[nodiscard]] qreal X(qreal second) const { return second * m_perSecond; }
     [[nodiscard]] qreal X(SimTime moment) const { return X(static_cast<qreal>(moment.Seconds())); }
-    [[nodiscard]] QRectF Breit(const QRectF& flaeche) const {
-        return {m_links, flaeche.top(), m_rechts - m_links, flaeche.height()};
+    [[nodiscard]] QRectF Width(const QRectF& surface) const {
+        return {m_left, surface.top(), m_right - m_left, surface.height()};
     }
-    [[nodiscard]] bool InSicht(qreal von, qreal bis) const {
-        return bis >= m_links && von <= m_rechts;
+    [[nodiscard]] bool InView(qreal from, qreal until) const {
+        return until >= m_left && from <= m_right;
     }
 
     /// Words at the left of what is in sight, on a ground that keeps them apart from what lies
     /// below. Where they end.
-    qreal MaleWort(qreal x, qreal oben, const QString& wort, const QColor& farbe) {
-        const QFontMetricsF mass(m_bild.m_schrift);
-        const QRectF platz(x, oben, mass.horizontalAdvance(wort), mass.height());
-        QColor grund = m_bild.m_farben.Grund;
-        constexpr int kDeckung = 190;
-        grund.setAlpha(kDeckung);
-        m_painter.fillRect(platz, grund);
-        m_painter.setPen(farbe);
-        m_painter.drawText(QPointF(x, oben + mass.ascent()), wort);
-        return platz.right();
+    qreal DrawWord(qreal x, qreal top, const QString& word, const QColor& color) {
+        const QFontMetricsF metrics(m_graphic.m_font);
+        const QRectF slot(x, top, metrics.horizontalAdvance(word), metrics.height());
+        QColor background = m_graphic.m_colors.background;
+        constexpr int kOpacity = 190;
+        background.setAlpha(kOpacity);
+        m_painter.fillRect(slot, background);
+        m_painter.setPen(color);
+        m_painter.drawText(QPointF(x, top + metrics.ascent()), word);
+        return slot.right();
     }
 
-    void MaleSpuren() {
-        for (const Spur& spur : kSpuren) {
-            m_painter.fillRect(Breit(m_bild.Spurflaeche(spur.Queue)), m_bild.m_farben.Spur);
+    void DrawLanes() {
+        for (const Lane& lane : kLanes) {
+            m_painter.fillRect(Width(m_graphic.LaneRect(lane.queue)), m_graphic.m_colors.lane);
         }
     }
 
-    void MaleAchse() {
-        const QFontMetricsF mass(m_bild.m_schrift);
-        const Zeitachse achse(m_jeSekunde,
-                              mass.horizontalAdvance(QStringLiteral(" Mo 20.11. 00:00:00 ")));
-        const QRectF unten = m_bild.Energieflaeche();
-        QColor blass = m_bild.m_farben.Linie;
-        constexpr int kBlass = 70;
-        blass.setAlpha(kBlass);
-        const DateTime beginn = m_ablauf.conditions.StartDate;
-        achse.JederStrich(
-            beginn, m_links / m_jeSekunde, m_rechts / m_jeSekunde,
-            [&](std::int64_t sekunde, const std::string& text) {
-                const qreal x = X(static_cast<qreal>(sekunde));
-                m_painter.setPen(blass);
-                m_painter.drawLine(QPointF(x, m_bild.Achse()), QPointF(x, unten.bottom()));
-                m_painter.setPen(m_bild.m_farben.Text);
-                m_painter.drawText(QPointF(x + kRand, mass.ascent() + kRand), ToQString(text));
-            });
+    void DrawAxis() {
+        const QFontMetricsF metrics(m_graphic.m_font);
+        const TimeAxis axis(m_perSecond,
+                            metrics.horizontalAdvance(QStringLiteral(" Mo 20.11. 00:00:00 ")));
+        const QRectF bottom = m_graphic.EnergyRect();
+        QColor pale = m_graphic.m_colors.line;
+        constexpr int kPale = 70;
+        pale.setAlpha(kPale);
+        const DateTime begin = m_trace.conditions.StartDate;
+        axis.ForEachTick(begin, m_left / m_perSecond, m_right / m_perSecond,
+                         [&](std::int64_t second, const std::string& text) {
+                             const qreal x = X(static_cast<qreal>(second));
+                             m_painter.setPen(pale);
+                             m_painter.drawLine(QPointF(x, m_graphic.AxisHeight()),
+                                                QPointF(x, bottom.bottom()));
+                             m_painter.setPen(m_graphic.m_colors.text);
+                             m_painter.drawText(QPointF(x + kMargin, metrics.ascent() + kMargin),
+                                                ToQString(text));
+                         });
     }
 
-    void MaleSchlaf() {
-        for (const cSchlafzeit& fenster : m_ablauf.conditions.Schlafzeiten) {
-            const DateTime beginn = m_ablauf.conditions.StartDate;
-            const qreal von = X(static_cast<qreal>(fenster.Startzeit() - beginn));
-            const qreal bis = X(static_cast<qreal>(fenster.Endzeit() - beginn));
-            if (InSicht(von, bis)) {
-                const QRectF unten = m_bild.Spurflaeche(kSpuren.back().Queue);
-                m_painter.fillRect(QRectF(std::max(von, m_links), m_bild.Achse(),
-                                          std::min(bis, m_rechts) - std::max(von, m_links),
-                                          unten.bottom() - m_bild.Achse()),
-                                   m_bild.m_farben.Schlaf);
+    void DrawSleep() {
+        for (const cSchlafzeit& sleepWindow : m_trace.conditions.Schlafzeiten) {
+            const DateTime begin = m_trace.conditions.StartDate;
+            const qreal from = X(static_cast<qreal>(sleepWindow.Startzeit() - begin));
+            const qreal until = X(static_cast<qreal>(sleepWindow.Endzeit() - begin));
+            if (InView(from, until)) {
+                const QRectF bottom = m_graphic.LaneRect(kLanes.back().queue);
+                m_painter.fillRect(QRectF(std::max(from, m_left), m_graphic.AxisHeight(),
+                                          std::min(until, m_right) - std::max(from, m_left),
+                                          bottom.bottom() - m_graphic.AxisHeight()),
+                                   m_graphic.m_colors.sleep);
             }
         }
     }
 
-    void MaleWarten(std::size_t nummer) {
-        const StartEvent& start = m_ablauf.starts[nummer];
-        const qreal von = X(m_bild.WartetAb(nummer));
-        const qreal bis = X(start.start);
-        if (start.delay.cause == DelayCause::None || !InSicht(von, bis) || bis <= von) {
+    void DrawWaits(std::size_t number) {
+        const StartEvent& start = m_trace.starts[number];
+        const qreal from = X(m_graphic.WaitsSince(number));
+        const qreal until = X(start.start);
+        if (start.delay.cause == DelayCause::None || !InView(from, until) || until <= from) {
             return;
         }
-        const QRectF spur = m_bild.Spurflaeche(start.order.queue);
-        QColor farbe = m_bild.m_farben.Warten(start.delay);
-        constexpr int kBlass = 130;
-        farbe.setAlpha(kBlass);
-        m_painter.fillRect(QRectF(von, spur.top() + kBalkenanteil * spur.height() + 1, bis - von,
-                                  (1 - kBalkenanteil) * spur.height() - kRand),
-                           farbe);
+        const QRectF lane = m_graphic.LaneRect(start.order.queue);
+        QColor color = m_graphic.m_colors.ForDelay(start.delay);
+        constexpr int kPale = 130;
+        color.setAlpha(kPale);
+        m_painter.fillRect(QRectF(from, lane.top() + kBarShare * lane.height() + 1, until - from,
+                                  (1 - kBarShare) * lane.height() - kMargin),
+                           color);
     }
 
-    void MaleBalken(const StartEvent& start) {
-        const QRectF szene = *m_bild.BalkenVon(start.row);
-        const QRectF balken(X(szene.left()), szene.top(), std::max(1.0, X(szene.width())),
-                            szene.height());
-        if (!InSicht(balken.left(), balken.right())) {
+    void DrawBar(const StartEvent& start) {
+        const QRectF scene = *m_graphic.BarOf(start.row);
+        const QRectF bar(X(scene.left()), scene.top(), std::max(1.0, X(scene.width())),
+                         scene.height());
+        if (!InView(bar.left(), bar.right())) {
             return;
         }
-        const Werkbankfarben& farben = m_bild.m_farben;
-        const bool gewaehlt = m_bild.m_auswahl.contains(start.row);
-        m_painter.fillRect(balken, farben.Balken[start.order.queue]);
-        m_painter.setPen(QPen(gewaehlt ? farben.Auswahl : farben.Linie, gewaehlt ? 2 : 1));
-        constexpr qreal kSchmal = 3;
-        if (gewaehlt || balken.width() > kSchmal) {
-            m_painter.drawRect(balken);
+        const TimelineColors& colors = m_graphic.m_colors;
+        const bool chosen = m_graphic.m_chosen.contains(start.row);
+        m_painter.fillRect(bar, colors.bars[start.order.queue]);
+        m_painter.setPen(QPen(chosen ? colors.chosen : colors.line, chosen ? 2 : 1));
+        constexpr qreal kNarrow = 3;
+        if (chosen || bar.width() > kNarrow) {
+            m_painter.drawRect(bar);
         }
         // What is cut off at the left begins where the sight begins.
-        MaleInhalt(start,
-                   balken.intersected(QRectF(m_links, 0, m_rechts - m_links, balken.bottom()))
-                       .adjusted(kRand, 0, -kRand, 0));
+        DrawContent(start, bar.intersected(QRectF(m_left, 0, m_right - m_left, bar.bottom()))
+                               .adjusted(kMargin, 0, -kMargin, 0));
     }
 
-    void MaleInhalt(const StartEvent& start, QRectF platz) {
-        const QPixmap& bild = m_bild.m_bilder[start.order.item];
-        const qreal seite = platz.height() - 2;
-        if (!bild.isNull() && platz.width() >= seite) {
-            m_painter.drawPixmap(QRectF(platz.left(), platz.top() + 1, seite, seite), bild,
-                                 QRectF(bild.rect()));
-            platz.setLeft(platz.left() + seite + kRand);
+    void DrawContent(const StartEvent& start, QRectF slot) {
+        const QPixmap& picture = m_graphic.m_pictures[start.order.item];
+        const qreal side = slot.height() - 2;
+        if (!picture.isNull() && slot.width() >= side) {
+            m_painter.drawPixmap(QRectF(slot.left(), slot.top() + 1, side, side), picture,
+                                 QRectF(picture.rect()));
+            slot.setLeft(slot.left() + side + kMargin);
         }
-        const QFontMetricsF mass(m_bild.m_schrift);
-        if (platz.width() < mass.horizontalAdvance(QStringLiteral("Met..."))) {
+        const QFontMetricsF metrics(m_graphic.m_font);
+        if (slot.width() < metrics.horizontalAdvance(QStringLiteral("Met..."))) {
             return;
         }
-        m_painter.setPen(m_bild.m_farben.Text);
+        m_painter.setPen(m_graphic.m_colors.text);
         m_painter.drawText(
-            platz, static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter),
-            mass.elidedText(ToQString(OrderText(start)), Qt::ElideRight, platz.width()));
+            slot, static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter),
+            metrics.elidedText(ToQString(OrderText(start)), Qt::ElideRight, slot.width()));
     }
 
-    void MaleProduktionen() {
-        for (const StartEvent& start : m_ablauf.starts) {
+    void DrawProductions() {
+        for (const StartEvent& start : m_trace.starts) {
             const qreal x = X(start.start);
-            if (start.order.kind != Order::Kind::Production || !InSicht(x - kRand, x + kRand)) {
+            if (start.order.kind != Order::Kind::Production || !InView(x - kMargin, x + kMargin)) {
                 continue;
             }
-            const bool gewaehlt = m_bild.m_auswahl.contains(start.row);
-            const QRectF spur = m_bild.Spurflaeche(Queue::Building);
-            m_painter.setPen(QPen(gewaehlt ? m_bild.m_farben.Auswahl : m_bild.m_farben.Produktion,
-                                  2, Qt::DashLine));
-            m_painter.drawLine(QPointF(x, spur.top()),
-                               QPointF(x, m_bild.Energieflaeche().bottom()));
+            const bool chosen = m_graphic.m_chosen.contains(start.row);
+            const QRectF lane = m_graphic.LaneRect(Queue::Building);
+            m_painter.setPen(
+                QPen(chosen ? m_graphic.m_colors.chosen : m_graphic.m_colors.production, 2,
+                     Qt::DashLine));
+            m_painter.drawLine(QPointF(x, lane.top()), QPointF(x, m_graphic.EnergyRect().bottom()));
             m_painter.setPen(Qt::NoPen);
-            m_painter.setBrush(m_bild.m_farben.Produktion);
-            const qreal seite = 2 * kRand;
+            m_painter.setBrush(m_graphic.m_colors.production);
+            const qreal side = 2 * kMargin;
             m_painter.drawPolygon(
-                QPolygonF({QPointF(x - seite, spur.top()), QPointF(x + seite, spur.top()),
-                           QPointF(x, spur.top() + seite)}));
+                QPolygonF({QPointF(x - side, lane.top()), QPointF(x + side, lane.top()),
+                           QPointF(x, lane.top() + side)}));
             m_painter.setBrush(Qt::NoBrush);
         }
     }
 
     /// A line through the values of all pieces in sight.
-    template <class Wert>
-    void MaleKurve(const RunTrace& ablauf, const QRectF& feld, const Bereich& bereich,
-                   const QColor& farbe, Wert wert) {
-        QPolygonF linie;
-        JedesStueck(ablauf, [&](const HistoryPoint& punkt, SimTime bis) {
-            if (InSicht(X(punkt.time), X(bis))) {
-                linie << QPointF(X(punkt.time), bereich.Y(wert(punkt, punkt.time), feld))
-                      << QPointF(X(bis), bereich.Y(wert(punkt, bis), feld));
+    template <class Value>
+    void DrawCurve(const RunTrace& trace, const QRectF& rect, const Range& range,
+                   const QColor& color, Value value) {
+        QPolygonF line;
+        ForEachPiece(trace, [&](const HistoryPoint& point, SimTime until) {
+            if (InView(X(point.time), X(until))) {
+                line << QPointF(X(point.time), range.Y(value(point, point.time), rect))
+                     << QPointF(X(until), range.Y(value(point, until), rect));
             }
         });
-        constexpr qreal kStrich = 1.5;
-        m_painter.setPen(QPen(farbe, kStrich));
-        m_painter.drawPolyline(linie);
+        constexpr qreal kTick = 1.5;
+        m_painter.setPen(QPen(color, kTick));
+        m_painter.drawPolyline(line);
     }
 
     /// The line of nothing, and the words of a field; where they end.
-    qreal MaleFeld(const QRectF& feld, const Bereich& bereich, const QString& name) {
-        m_painter.setPen(m_bild.m_farben.Linie);
-        const qreal null = bereich.Y(0, feld);
-        m_painter.drawLine(QPointF(m_links, null), QPointF(m_rechts, null));
-        const QString ab = bereich.Von < 0
-                               ? QStringLiteral(" von %1").arg(std::ceil(bereich.Von), 0, 'f', 0)
-                               : QString();
-        const QString wort =
-            name + ab + QStringLiteral(" bis %1 ").arg(std::floor(bereich.Bis), 0, 'f', 0);
-        return MaleWort(m_links + kRand, feld.top(), wort, m_bild.m_farben.Text);
+    qreal DrawField(const QRectF& rect, const Range& range, const QString& name) {
+        m_painter.setPen(m_graphic.m_colors.line);
+        const qreal zero = range.Y(0, rect);
+        m_painter.drawLine(QPointF(m_left, zero), QPointF(m_right, zero));
+        const QString from = range.from < 0
+                                 ? QStringLiteral(" von %1").arg(std::ceil(range.from), 0, 'f', 0)
+                                 : QString();
+        const QString word =
+            name + from + QStringLiteral(" bis %1 ").arg(std::floor(range.to), 0, 'f', 0);
+        return DrawWord(m_left + kMargin, rect.top(), word, m_graphic.m_colors.text);
     }
 
-    void MaleVorraete() {
-        const QRectF feld = m_bild.Vorratsflaeche();
-        Bereich bereich;
-        const auto nimm = [&](const RunTrace& ablauf) {
-            JedesStueck(ablauf, [&](const HistoryPoint& punkt, SimTime bis) {
-                for (const Resource r : kResources) {
-                    bereich.Nimm(Vorratszahl(punkt, punkt.time, r));
-                    bereich.Nimm(Vorratszahl(punkt, bis, r));
+    void DrawStocks() {
+        const QRectF rect = m_graphic.StockRect();
+        Range range;
+        const auto take = [&](const RunTrace& trace) {
+            ForEachPiece(trace, [&](const HistoryPoint& point, SimTime until) {
+                for (const Resource resource : kResources) {
+                    range.Include(StockNumber(point, point.time, resource));
+                    range.Include(StockNumber(point, until, resource));
                 }
             });
         };
-        nimm(m_ablauf);
-        if (m_bild.m_anderer) {
-            nimm(*m_bild.m_anderer);
+        take(m_trace);
+        if (m_graphic.m_other) {
+            take(*m_graphic.m_other);
         }
         m_painter.setRenderHint(QPainter::Antialiasing);
-        for (const Resource r : kResources) {
-            const auto vorrat = [r](const HistoryPoint& p, SimTime um) {
-                return Vorratszahl(p, um, r);
+        for (const Resource resource : kResources) {
+            const auto stock = [resource](const HistoryPoint& historyPoint, SimTime at) {
+                return StockNumber(historyPoint, at, resource);
             };
-            const QColor& farbe = m_bild.m_farben.Vorrat[r];
-            if (m_bild.m_anderer) {
-                QColor blass = farbe;
-                constexpr int kBlass = 90;
-                blass.setAlpha(kBlass);
-                MaleKurve(*m_bild.m_anderer, feld, bereich, blass, vorrat);
+            const QColor& color = m_graphic.m_colors.stock[resource];
+            if (m_graphic.m_other) {
+                QColor pale = color;
+                constexpr int kPale = 90;
+                pale.setAlpha(kPale);
+                DrawCurve(*m_graphic.m_other, rect, range, pale, stock);
             }
-            MaleKurve(m_ablauf, feld, bereich, farbe, vorrat);
+            DrawCurve(m_trace, rect, range, color, stock);
         }
         m_painter.setRenderHint(QPainter::Antialiasing, false);
-        qreal x = MaleFeld(feld, bereich, QStringLiteral("Vorräte"));
-        for (const auto& [r, name] :
+        qreal x = DrawField(rect, range, QStringLiteral("Vorräte"));
+        for (const auto& [resource, name] :
              {std::pair(Resource::Metall, "  Metall"), std::pair(Resource::Kristall, "  Kristall"),
               std::pair(Resource::Deuterium, "  Deuterium ")}) {
-            x = MaleWort(x, feld.top(), QString::fromLatin1(name), m_bild.m_farben.Vorrat[r]);
+            x = DrawWord(x, rect.top(), QString::fromLatin1(name),
+                         m_graphic.m_colors.stock[resource]);
         }
     }
 
-    void MaleEnergie() {
-        const QRectF feld = m_bild.Energieflaeche();
-        Bereich bereich;
-        JedesStueck(m_ablauf,
-                    [&](const HistoryPoint& punkt, SimTime) { bereich.Nimm(Bilanz(punkt)); });
-        const qreal null = bereich.Y(0, feld);
-        JedesStueck(m_ablauf, [&](const HistoryPoint& punkt, SimTime bis) {
-            if (!InSicht(X(punkt.time), X(bis))) {
+    void DrawEnergy() {
+        const QRectF rect = m_graphic.EnergyRect();
+        Range range;
+        ForEachPiece(m_trace,
+                     [&](const HistoryPoint& point, SimTime) { range.Include(Balance(point)); });
+        const qreal zero = range.Y(0, rect);
+        ForEachPiece(m_trace, [&](const HistoryPoint& point, SimTime until) {
+            if (!InView(X(point.time), X(until))) {
                 return;
             }
-            const qreal bilanz = Bilanz(punkt);
-            const qreal y = bereich.Y(bilanz, feld);
+            const qreal balance = Balance(point);
+            const qreal y = range.Y(balance, rect);
             m_painter.fillRect(
-                QRectF(X(punkt.time), std::min(y, null), X(bis) - X(punkt.time),
-                       std::abs(null - y)),
-                bilanz < 0 ? m_bild.m_farben.Energiemangel : m_bild.m_farben.Energie);
+                QRectF(X(point.time), std::min(y, zero), X(until) - X(point.time),
+                       std::abs(zero - y)),
+                balance < 0 ? m_graphic.m_colors.energyDeficit : m_graphic.m_colors.energy);
         });
-        MaleFeld(feld, bereich, QStringLiteral("Energie"));
+        DrawField(rect, range, QStringLiteral("Energie"));
     }
 
-    void MaleNamen() {
-        const qreal hoehe = QFontMetricsF(m_bild.m_schrift).height();
-        for (const Spur& spur : kSpuren) {
-            const qreal unten = m_bild.Spurflaeche(spur.Queue).bottom();
-            MaleWort(m_links + kRand, unten - hoehe, QString::fromUtf8(spur.Name),
-                     m_bild.m_farben.Linie);
+    void DrawNames() {
+        const qreal height = QFontMetricsF(m_graphic.m_font).height();
+        for (const Lane& lane : kLanes) {
+            const qreal bottom = m_graphic.LaneRect(lane.queue).bottom();
+            DrawWord(m_left + kMargin, bottom - height, QString::fromUtf8(lane.name),
+                     m_graphic.m_colors.line);
         }
     }
 
-    const Zeitbild& m_bild;
-    const RunTrace& m_ablauf;
+    const TimelineGraphic& m_graphic;
+    const RunTrace& m_trace;
     QPainter& m_painter;
-    qreal m_jeSekunde = 1;
+    qreal m_perSecond = 1;
     /// What is in sight, in pixels.
-    qreal m_links = 0;
-    qreal m_rechts = 0;
+    qreal m_left = 0;
+    qreal m_right = 0;
 };
 
-Zeitbild::Zeitbild() {
+TimelineGraphic::TimelineGraphic() {
     // What is in sight is told to `paint`.
     setFlag(ItemUsesExtendedStyleOption);
 }
 
-void Zeitbild::Setze(const std::optional<RunTrace>& ablauf) {
+void TimelineGraphic::SetRun(const std::optional<RunTrace>& trace) {
     prepareGeometryChange();
-    m_ablauf = ablauf;
+    m_trace = trace;
 }
 
-void Zeitbild::SetzeAnderen(const std::optional<RunTrace>& anderer) {
+void TimelineGraphic::SetOtherRun(const std::optional<RunTrace>& other) {
     prepareGeometryChange();
-    m_anderer = anderer;
+    m_other = other;
 }
 
-void Zeitbild::SetzeBilder(const PerItem<QPixmap>& bilder) {
-    m_bilder = bilder;
+void TimelineGraphic::SetPictures(const PerItem<QPixmap>& pictures) {
+    m_pictures = pictures;
     update();
 }
 
-void Zeitbild::SetzeAussehen(const Werkbankfarben& farben, const QFont& schrift) {
+void TimelineGraphic::SetAppearance(const TimelineColors& colors, const QFont& font) {
     prepareGeometryChange();
-    m_farben = farben;
-    m_schrift = schrift;
+    m_colors = colors;
+    m_font = font;
 }
 
-void Zeitbild::SetzeHoehe(qreal hoehe) {
+void TimelineGraphic::SetHeight(qreal height) {
     prepareGeometryChange();
-    m_hoehe = std::max(hoehe, Mindesthoehe());
+    m_height = std::max(height, MinHeight());
 }
 
-void Zeitbild::SetzeAuswahl(std::set<std::size_t> zeilen) {
-    m_auswahl = std::move(zeilen);
+void TimelineGraphic::SetChosenRows(std::set<std::size_t> rows) {
+    m_chosen = std::move(rows);
     update();
 }
 
-qreal Zeitbild::Zeile() const {
-    return QFontMetricsF(m_schrift).height();
+qreal TimelineGraphic::LineHeight() const {
+    return QFontMetricsF(m_font).height();
 }
 
-qreal Zeitbild::Achse() const {
-    return Zeile() + 2 * kRand;
+qreal TimelineGraphic::AxisHeight() const {
+    return LineHeight() + 2 * kMargin;
 }
 
-qreal Zeitbild::Spurhoehe() const {
-    constexpr qreal kZeilen = 2.5;
-    return kZeilen * Zeile();
+qreal TimelineGraphic::LaneHeight() const {
+    constexpr qreal kLines = 2.5;
+    return kLines * LineHeight();
 }
 
-qreal Zeitbild::Mindesthoehe() const {
-    constexpr qreal kKurven = 6;
-    return Achse() + static_cast<qreal>(kSpuren.size()) * (Spurhoehe() + kRand) + kKurven * Zeile();
+qreal TimelineGraphic::MinHeight() const {
+    constexpr qreal kCurves = 6;
+    return AxisHeight() + static_cast<qreal>(kLanes.size()) * (LaneHeight() + kMargin) +
+           kCurves * LineHeight();
 }
 
-qreal Zeitbild::Ende() const {
-    const auto bis = [](const std::optional<RunTrace>& ablauf) {
-        return ablauf ? static_cast<qreal>(ablauf->Duration().Seconds()) : 0.0;
+qreal TimelineGraphic::EndSecond() const {
+    const auto until = [](const std::optional<RunTrace>& trace) {
+        return trace ? static_cast<qreal>(trace->Duration().Seconds()) : 0.0;
     };
-    return std::max({1.0, bis(m_ablauf), bis(m_anderer)});
+    return std::max({1.0, until(m_trace), until(m_other)});
 }
 
-QRectF Zeitbild::Spurflaeche(Queue queue) const {
-    const auto* const spur = std::ranges::find(kSpuren, queue, &Spur::Queue);
-    const auto nummer = static_cast<qreal>(spur == kSpuren.end() ? 0 : spur - kSpuren.begin());
-    return {0, Achse() + nummer * (Spurhoehe() + kRand), Ende(), Spurhoehe()};
+QRectF TimelineGraphic::LaneRect(Queue queue) const {
+    const auto* const lane = std::ranges::find(kLanes, queue, &Lane::queue);
+    const auto number = static_cast<qreal>(lane == kLanes.end() ? 0 : lane - kLanes.begin());
+    return {0, AxisHeight() + number * (LaneHeight() + kMargin), EndSecond(), LaneHeight()};
 }
 
-QRectF Zeitbild::Vorratsflaeche() const {
-    const qreal oben = Spurflaeche(kSpuren.back().Queue).bottom() + 2 * kRand;
-    constexpr qreal kAnteil = 0.68;
-    return {0, oben, Ende(), (m_hoehe - oben) * kAnteil - 2 * kRand};
+QRectF TimelineGraphic::StockRect() const {
+    const qreal top = LaneRect(kLanes.back().queue).bottom() + 2 * kMargin;
+    constexpr qreal kShare = 0.68;
+    return {0, top, EndSecond(), (m_height - top) * kShare - 2 * kMargin};
 }
 
-QRectF Zeitbild::Energieflaeche() const {
-    const qreal oben = Vorratsflaeche().bottom() + 2 * kRand;
-    return {0, oben, Ende(), m_hoehe - oben - kRand};
+QRectF TimelineGraphic::EnergyRect() const {
+    const qreal top = StockRect().bottom() + 2 * kMargin;
+    return {0, top, EndSecond(), m_height - top - kMargin};
 }
 
-SimTime Zeitbild::WartetAb(std::size_t nummer) const {
-    return nummer == 0 ? SimTime() : m_ablauf->starts[nummer - 1].start;
+SimTime TimelineGraphic::WaitsSince(std::size_t number) const {
+    return number == 0 ? SimTime() : m_trace->starts[number - 1].start;
 }
 
-std::optional<QRectF> Zeitbild::BalkenVon(std::size_t zeile) const {
-    const StartEvent* const start = m_ablauf ? m_ablauf->StartOf(zeile) : nullptr;
+std::optional<QRectF> TimelineGraphic::BarOf(std::size_t row) const {
+    const StartEvent* const start = m_trace ? m_trace->StartOf(row) : nullptr;
     if (start == nullptr) {
         return std::nullopt;
     }
-    const QRectF spur = Spurflaeche(start->order.queue);
-    return QRectF(start->start.Seconds(), spur.top() + 1, start->finish - start->start,
-                  kBalkenanteil * spur.height() - 1);
+    const QRectF lane = LaneRect(start->order.queue);
+    return QRectF(start->start.Seconds(), lane.top() + 1, start->finish - start->start,
+                  kBarShare * lane.height() - 1);
 }
 
-std::optional<std::size_t> Zeitbild::ZeileBei(const QPointF& ort, qreal daneben) const {
-    if (!m_ablauf) {
+std::optional<std::size_t> TimelineGraphic::RowAt(const QPointF& position, qreal beside) const {
+    if (!m_trace) {
         return std::nullopt;
     }
-    std::optional<std::size_t> gefunden;
-    for (std::size_t i = 0; i < m_ablauf->starts.size(); ++i) {
-        const StartEvent& start = m_ablauf->starts[i];
-        const QRectF balken = *BalkenVon(start.row);
-        const QRectF spur = Spurflaeche(start.order.queue);
-        const bool aufBalken = ort.y() <= balken.bottom();
-        const qreal von = aufBalken ? balken.left() : static_cast<qreal>(WartetAb(i).Seconds());
-        const qreal bis = aufBalken ? balken.right() : balken.left();
-        if (ort.y() >= spur.top() && ort.y() <= spur.bottom() && ort.x() >= von - daneben &&
-            ort.x() <= bis + daneben) {
-            gefunden = start.row;
+    std::optional<std::size_t> found;
+    for (std::size_t i = 0; i < m_trace->starts.size(); ++i) {
+        const StartEvent& start = m_trace->starts[i];
+        const QRectF bar = *BarOf(start.row);
+        const QRectF lane = LaneRect(start.order.queue);
+        const bool onBar = position.y() <= bar.bottom();
+        const qreal from = onBar ? bar.left() : static_cast<qreal>(WaitsSince(i).Seconds());
+        const qreal until = onBar ? bar.right() : bar.left();
+        if (position.y() >= lane.top() && position.y() <= lane.bottom() &&
+            position.x() >= from - beside && position.x() <= until + beside) {
+            found = start.row;
         }
     }
-    return gefunden;
+    return found;
 }
 
-QRectF Zeitbild::boundingRect() const {
-    return {0, 0, Ende(), m_hoehe};
+QRectF TimelineGraphic::boundingRect() const {
+    return {0, 0, EndSecond(), m_height};
 }
 
-void Zeitbild::paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
-                     QWidget* /*widget*/) {
-    if (!m_ablauf || m_ablauf->curve.empty()) {
+void TimelineGraphic::paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
+                            QWidget* /*widget*/) {
+    if (!m_trace || m_trace->curve.empty()) {
         return;
     }
     painter->save();
-    Maler(*this, *painter, option->exposedRect).Male();
+    Renderer(*this, *painter, option->exposedRect).Draw();
     painter->restore();
 }
 

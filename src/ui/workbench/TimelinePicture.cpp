@@ -13,53 +13,53 @@ namespace tarvelin {
 
 namespace {
 
-QByteArray AlsPng(Zeitleiste& leiste, const QSize& groesse) {
+QByteArray ToPng(TimelineView& timeline, const QSize& size) {
     // Sharp on a screen of twice the density, too.
-    constexpr int kSchaerfe = 2;
-    QImage bild(groesse * kSchaerfe, QImage::Format_RGB32);
-    QPainter painter(&bild);
-    painter.scale(kSchaerfe, kSchaerfe);
+    constexpr int kSharpness = 2;
+    QImage picture(size * kSharpness, QImage::Format_RGB32);
+    QPainter painter(&picture);
+    painter.scale(kSharpness, kSharpness);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    leiste.Male(painter, QRectF(QPointF(), groesse));
+    timeline.PaintOn(painter, QRectF(QPointF(), size));
     painter.end();
     QByteArray bytes;
-    QBuffer puffer(&bytes);
-    puffer.open(QIODevice::WriteOnly);
-    bild.save(&puffer, "PNG");
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    picture.save(&buffer, "PNG");
     return bytes;
 }
 
-QByteArray AlsPdf(Zeitleiste& leiste, const QSize& groesse) {
+QByteArray ToPdf(TimelineView& timeline, const QSize& size) {
     QByteArray bytes;
-    QBuffer puffer(&bytes);
-    puffer.open(QIODevice::WriteOnly);
-    QPdfWriter schreiber(&puffer);
-    schreiber.setTitle(QStringLiteral("Tarvelin"));
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setTitle(QStringLiteral("Tarvelin"));
     // A point of the page for each pixel.
-    constexpr int kPunkteJeZoll = 72;
-    schreiber.setResolution(kPunkteJeZoll);
-    schreiber.setPageMargins(QMarginsF());
-    schreiber.setPageSize(QPageSize(groesse, {}, QPageSize::ExactMatch));
-    QPainter painter(&schreiber);
-    leiste.Male(painter, QRectF(QPointF(), groesse));
+    constexpr int kDotsPerInch = 72;
+    writer.setResolution(kDotsPerInch);
+    writer.setPageMargins(QMarginsF());
+    writer.setPageSize(QPageSize(size, {}, QPageSize::ExactMatch));
+    QPainter painter(&writer);
+    timeline.PaintOn(painter, QRectF(QPointF(), size));
     painter.end();
     return bytes;
 }
 
 }  // namespace
 
-std::optional<QByteArray> BildVon(Zeitleiste& leiste, const QString& endung) {
-    const QSize groesse = leiste.viewport()->size();
-    const QString format = endung.toLower();
+std::optional<QByteArray> RenderTimeline(TimelineView& timeline, const QString& suffix) {
+    const QSize size = timeline.viewport()->size();
+    const QString format = suffix.toLower();
     if (format == QStringLiteral("png")) {
-        return AlsPng(leiste, groesse);
+        return ToPng(timeline, size);
     }
     if (format == QStringLiteral("pdf")) {
-        return AlsPdf(leiste, groesse);
+        return ToPdf(timeline, size);
     }
     if (format == QStringLiteral("svg") && HasSvg()) {
-        return ToSvg(groesse,
-                     [&](QPainter& painter) { leiste.Male(painter, QRectF(QPointF(), groesse)); });
+        return ToSvg(
+            size, [&](QPainter& painter) { timeline.PaintOn(painter, QRectF(QPointF(), size)); });
     }
     return std::nullopt;
 }

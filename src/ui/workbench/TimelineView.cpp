@@ -18,32 +18,33 @@ namespace tarvelin {
 namespace {
 
 /// Pixels of a second at the strongest zoom, and how far a scroll bar can count.
-constexpr qreal kGroesster = 20;
-constexpr qreal kLaengste = 1e9;
-constexpr qreal kStufe = 1.25;
+constexpr qreal kLargest = 20;
+constexpr qreal kLongest = 1e9;
+constexpr qreal kZoomStep = 1.25;
 
 }  // namespace
 
 /// Changes what is shown. What is in sight stays, unless all was.
-template <class Tat>
-void Zeitleiste::Aendere(Tat tat) {
-    const bool alles = ZeigtAlles();
-    tat();
-    m_szene.setSceneRect(m_bild->boundingRect());
-    if (alles) {
-        ZeigeAlles();
+template <class Action>
+void TimelineView::ChangeKeepingView(Action action) {
+    const bool everything = ShowsAll();
+    action();
+    m_scene.setSceneRect(m_graphic->boundingRect());
+    if (everything) {
+        ShowAll();
     } else {
-        SetzeMassstab(JeSekunde());
+        SetPixelsPerSecond(PixelsPerSecond());
     }
     viewport()->update();
 }
 
-Zeitleiste::Zeitleiste(QWidget* parent) : QGraphicsView(parent), m_bild(new Zeitbild) {
+TimelineView::TimelineView(QWidget* parent)
+    : QGraphicsView(parent), m_graphic(new TimelineGraphic) {
     setObjectName(QStringLiteral("Zeitleiste"));
     setAccessibleName(QStringLiteral("Zeitleiste"));
-    m_szene.setItemIndexMethod(QGraphicsScene::NoIndex);
-    m_szene.addItem(m_bild);
-    setScene(&m_szene);
+    m_scene.setItemIndexMethod(QGraphicsScene::NoIndex);
+    m_scene.addItem(m_graphic);
+    setScene(&m_scene);
     setFrameShape(QFrame::NoFrame);
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setTransformationAnchor(NoAnchor);
@@ -56,157 +57,157 @@ Zeitleiste::Zeitleiste(QWidget* parent) : QGraphicsView(parent), m_bild(new Zeit
     setFocusPolicy(Qt::StrongFocus);
 }
 
-void Zeitleiste::Setze(const std::optional<RunTrace>& ablauf) {
-    Aendere([&] { m_bild->Setze(ablauf); });
+void TimelineView::SetRun(const std::optional<RunTrace>& trace) {
+    ChangeKeepingView([&] { m_graphic->SetRun(trace); });
 }
 
-void Zeitleiste::SetzeAnderen(const std::optional<RunTrace>& anderer) {
-    Aendere([&] { m_bild->SetzeAnderen(anderer); });
+void TimelineView::SetOtherRun(const std::optional<RunTrace>& other) {
+    ChangeKeepingView([&] { m_graphic->SetOtherRun(other); });
 }
 
-void Zeitleiste::SetzeAussehen(const QPalette& palette, const QFont& schrift) {
-    const Werkbankfarben farben(palette);
-    m_bild->SetzeAussehen(farben, schrift);
-    setBackgroundBrush(farben.Grund);
-    setMinimumHeight(static_cast<int>(std::ceil(m_bild->Mindesthoehe())) +
+void TimelineView::SetAppearance(const QPalette& palette, const QFont& font) {
+    const TimelineColors colors(palette);
+    m_graphic->SetAppearance(colors, font);
+    setBackgroundBrush(colors.background);
+    setMinimumHeight(static_cast<int>(std::ceil(m_graphic->MinHeight())) +
                      horizontalScrollBar()->sizeHint().height());
-    PasseHoeheAn();
+    FitHeight();
 }
 
-void Zeitleiste::Zeige(std::size_t zeile) {
-    const auto balken = m_bild->BalkenVon(zeile);
-    if (!balken) {
+void TimelineView::BringIntoView(std::size_t row) {
+    const auto bar = m_graphic->BarOf(row);
+    if (!bar) {
         return;
     }
-    const int links = mapFromScene(balken->topLeft()).x();
-    const int rechts = mapFromScene(balken->topRight()).x();
-    const int breite = viewport()->width();
-    if (links < 0 || links >= breite || (rechts >= breite && rechts - links < breite)) {
-        horizontalScrollBar()->setValue(horizontalScrollBar()->value() + links - breite / 3);
+    const int left = mapFromScene(bar->topLeft()).x();
+    const int right = mapFromScene(bar->topRight()).x();
+    const int width = viewport()->width();
+    if (left < 0 || left >= width || (right >= width && right - left < width)) {
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() + left - width / 3);
     }
 }
 
-void Zeitleiste::SetzeJetzt(DateTime jetzt) {
-    m_jetzt = jetzt;
+void TimelineView::SetNow(DateTime now) {
+    m_now = now;
     viewport()->update();
 }
 
-int Zeitleiste::SpalteVon(SimTime moment) const {
+int TimelineView::ColumnOf(SimTime moment) const {
     return mapFromScene(QPointF(moment.Seconds(), 0)).x();
 }
 
-qreal Zeitleiste::KleinsterMassstab() const {
-    constexpr int kRand = 4;
-    return std::max(1, viewport()->width() - kRand) / m_bild->Ende();
+qreal TimelineView::MinScale() const {
+    constexpr int kMargin = 4;
+    return std::max(1, viewport()->width() - kMargin) / m_graphic->EndSecond();
 }
 
-bool Zeitleiste::ZeigtAlles() const {
-    constexpr qreal kUngefaehr = 1.0001;
-    return JeSekunde() <= KleinsterMassstab() * kUngefaehr || !m_bild->Lauf();
+bool TimelineView::ShowsAll() const {
+    constexpr qreal kRoughly = 1.0001;
+    return PixelsPerSecond() <= MinScale() * kRoughly || !m_graphic->Run();
 }
 
-void Zeitleiste::ZeigeAlles() {
-    SetzeMassstab(KleinsterMassstab());
+void TimelineView::ShowAll() {
+    SetPixelsPerSecond(MinScale());
 }
 
-void Zeitleiste::SetzeMassstab(qreal jeSekunde) {
-    const qreal groesster =
-        std::max(KleinsterMassstab(), std::min(kGroesster, kLaengste / m_bild->Ende()));
-    setTransform(QTransform::fromScale(std::clamp(jeSekunde, KleinsterMassstab(), groesster), 1));
+void TimelineView::SetPixelsPerSecond(qreal perSecond) {
+    const qreal largest =
+        std::max(MinScale(), std::min(kLargest, kLongest / m_graphic->EndSecond()));
+    setTransform(QTransform::fromScale(std::clamp(perSecond, MinScale(), largest), 1));
 }
 
-void Zeitleiste::Zoome(qreal faktor, int spalte) {
-    const qreal sekunde = mapToScene(spalte, 0).x();
-    SetzeMassstab(JeSekunde() * faktor);
-    const int verschoben = mapFromScene(QPointF(sekunde, 0)).x() - spalte;
-    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + verschoben);
+void TimelineView::Zoom(qreal factor, int column) {
+    const qreal second = mapToScene(column, 0).x();
+    SetPixelsPerSecond(PixelsPerSecond() * factor);
+    const int moved = mapFromScene(QPointF(second, 0)).x() - column;
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + moved);
 }
 
-void Zeitleiste::wheelEvent(QWheelEvent* event) {
-    constexpr qreal kRaste = 120;
-    const QPoint weite = event->angleDelta();
-    if (weite.y() == 0) {
+void TimelineView::wheelEvent(QWheelEvent* event) {
+    constexpr qreal kNotch = 120;
+    const QPoint extent = event->angleDelta();
+    if (extent.y() == 0) {
         QGraphicsView::wheelEvent(event);
         return;
     }
-    Zoome(std::pow(kStufe, weite.y() / kRaste), event->position().toPoint().x());
+    Zoom(std::pow(kZoomStep, extent.y() / kNotch), event->position().toPoint().x());
     event->accept();
 }
 
-void Zeitleiste::mousePressEvent(QMouseEvent* event) {
+void TimelineView::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
-        m_gedrueckt = event->pos();
-        m_zuletzt = event->pos();
-        m_zieht = false;
+        m_pressed = event->pos();
+        m_lastPosition = event->pos();
+        m_dragging = false;
     }
 }
 
-void Zeitleiste::mouseMoveEvent(QMouseEvent* event) {
+void TimelineView::mouseMoveEvent(QMouseEvent* event) {
     if ((event->buttons() & Qt::LeftButton) != 0) {
-        m_zieht = m_zieht || (event->pos() - m_gedrueckt).manhattanLength() >=
-                                 QApplication::startDragDistance();
-        if (m_zieht) {
+        m_dragging = m_dragging || (event->pos() - m_pressed).manhattanLength() >=
+                                       QApplication::startDragDistance();
+        if (m_dragging) {
             horizontalScrollBar()->setValue(horizontalScrollBar()->value() -
-                                            (event->pos() - m_zuletzt).x());
-            m_zuletzt = event->pos();
+                                            (event->pos() - m_lastPosition).x());
+            m_lastPosition = event->pos();
         }
     }
-    SetzeZeiger(mapToScene(event->pos()).x());
+    MoveCursor(mapToScene(event->pos()).x());
 }
 
-void Zeitleiste::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && !m_zieht) {
-        Waehle(event->pos());
+void TimelineView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && !m_dragging) {
+        ChooseAt(event->pos());
     }
-    m_zieht = false;
+    m_dragging = false;
 }
 
-void Zeitleiste::mouseDoubleClickEvent(QMouseEvent* /*event*/) {
-    ZeigeAlles();
+void TimelineView::mouseDoubleClickEvent(QMouseEvent* /*event*/) {
+    ShowAll();
     // The release behind it chooses nothing.
-    m_zieht = true;
+    m_dragging = true;
 }
 
-void Zeitleiste::Waehle(const QPoint& ort) {
-    constexpr qreal kDaneben = 3;
-    if (const auto zeile = m_bild->ZeileBei(mapToScene(ort), kDaneben / JeSekunde())) {
-        emit Gewaehlt(*zeile);
+void TimelineView::ChooseAt(const QPoint& position) {
+    constexpr qreal kBeside = 3;
+    if (const auto row = m_graphic->RowAt(mapToScene(position), kBeside / PixelsPerSecond())) {
+        emit RowChosen(*row);
     }
 }
 
-void Zeitleiste::keyPressEvent(QKeyEvent* event) {
-    const qreal zeiger = m_zeiger.value_or(mapToScene(0, 0).x());
-    const int spalte = mapFromScene(QPointF(zeiger, 0)).x();
-    constexpr qreal kSchritt = 10;
-    const bool vor = event->key() == Qt::Key_Right;
+void TimelineView::keyPressEvent(QKeyEvent* event) {
+    const qreal cursor = m_cursor.value_or(mapToScene(0, 0).x());
+    const int column = mapFromScene(QPointF(cursor, 0)).x();
+    constexpr qreal kStep = 10;
+    const bool forward = event->key() == Qt::Key_Right;
     switch (event->key()) {
         case Qt::Key_Left:
         case Qt::Key_Right:
             if ((event->modifiers() & Qt::ControlModifier) != 0) {
-                GeheZuStart(vor);
+                GoToStart(forward);
             } else {
-                SetzeZeiger(zeiger + (vor ? kSchritt : -kSchritt) / JeSekunde());
+                MoveCursor(cursor + (forward ? kStep : -kStep) / PixelsPerSecond());
             }
-            ensureVisible(QRectF(m_zeiger.value_or(0), 0, 0, 1), static_cast<int>(kSchritt), 0);
+            ensureVisible(QRectF(m_cursor.value_or(0), 0, 0, 1), static_cast<int>(kStep), 0);
             break;
         case Qt::Key_Plus:
-            Zoome(kStufe, spalte);
+            Zoom(kZoomStep, column);
             break;
         case Qt::Key_Minus:
-            Zoome(1 / kStufe, spalte);
+            Zoom(1 / kZoomStep, column);
             break;
         case Qt::Key_Home:
-            ZeigeAlles();
+            ShowAll();
             break;
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            if (m_bild->Lauf() && m_zeiger) {
-                const auto& starts = m_bild->Lauf()->starts;
-                const auto naechster = std::ranges::find_if(starts, [&](const StartEvent& s) {
-                    return s.start.Seconds() >= std::floor(*m_zeiger);
+            if (m_graphic->Run() && m_cursor) {
+                const auto& starts = m_graphic->Run()->starts;
+                const auto next = std::ranges::find_if(starts, [&](const StartEvent& start) {
+                    return start.start.Seconds() >= std::floor(*m_cursor);
                 });
-                if (naechster != starts.end()) {
-                    emit Gewaehlt(naechster->row);
+                if (next != starts.end()) {
+                    emit RowChosen(next->row);
                 }
             }
             break;
@@ -215,93 +216,95 @@ void Zeitleiste::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void Zeitleiste::GeheZuStart(bool vor) {
-    if (!m_bild->Lauf()) {
+void TimelineView::GoToStart(bool forward) {
+    if (!m_graphic->Run()) {
         return;
     }
-    const qreal hier = m_zeiger.value_or(-1);
-    std::optional<qreal> ziel;
-    for (const StartEvent& start : m_bild->Lauf()->starts) {
-        const auto dort = static_cast<qreal>(start.start.Seconds());
-        if (vor ? dort > hier && !ziel : dort < hier) {
-            ziel = dort;
+    const qreal here = m_cursor.value_or(-1);
+    std::optional<qreal> target;
+    for (const StartEvent& start : m_graphic->Run()->starts) {
+        const auto there = static_cast<qreal>(start.start.Seconds());
+        if (forward ? there > here && !target : there < here) {
+            target = there;
         }
     }
-    if (ziel) {
-        SetzeZeiger(ziel);
+    if (target) {
+        MoveCursor(target);
     }
 }
 
-void Zeitleiste::SetzeZeiger(std::optional<qreal> sekunde) {
-    if (sekunde) {
-        sekunde = std::clamp(*sekunde, 0.0, m_bild->Ende());
+void TimelineView::MoveCursor(std::optional<qreal> second) {
+    if (second) {
+        second = std::clamp(*second, 0.0, m_graphic->EndSecond());
     }
-    m_zeiger = sekunde;
+    m_cursor = second;
     viewport()->update();
-    emit Zeiger(m_bild->Lauf() && sekunde
-                    ? std::optional(SimTime(static_cast<Long>(std::floor(*sekunde))))
-                    : std::nullopt);
+    emit CursorMoved(m_graphic->Run() && second
+                         ? std::optional(SimTime(static_cast<Long>(std::floor(*second))))
+                         : std::nullopt);
 }
 
-bool Zeitleiste::viewportEvent(QEvent* event) {
+bool TimelineView::viewportEvent(QEvent* event) {
     if (event->type() == QEvent::Leave) {
-        SetzeZeiger(std::nullopt);
+        MoveCursor(std::nullopt);
     }
     return QGraphicsView::viewportEvent(event);
 }
 
-void Zeitleiste::PasseHoeheAn() {
-    m_bild->SetzeHoehe(viewport()->height());
-    m_szene.setSceneRect(m_bild->boundingRect());
+void TimelineView::FitHeight() {
+    m_graphic->SetHeight(viewport()->height());
+    m_scene.setSceneRect(m_graphic->boundingRect());
 }
 
-void Zeitleiste::resizeEvent(QResizeEvent* event) {
+void TimelineView::resizeEvent(QResizeEvent* event) {
     // As it was before the change.
-    const bool alles = event->oldSize().width() <= 0 ||
-                       JeSekunde() * m_bild->Ende() <= static_cast<qreal>(event->oldSize().width());
+    const bool everything =
+        event->oldSize().width() <= 0 ||
+        PixelsPerSecond() * m_graphic->EndSecond() <= static_cast<qreal>(event->oldSize().width());
     QGraphicsView::resizeEvent(event);
-    PasseHoeheAn();
-    if (alles) {
-        ZeigeAlles();
+    FitHeight();
+    if (everything) {
+        ShowAll();
     } else {
-        SetzeMassstab(JeSekunde());
+        SetPixelsPerSecond(PixelsPerSecond());
     }
 }
 
-void Zeitleiste::drawForeground(QPainter* painter, const QRectF& rect) {
-    if (!m_bild->Lauf()) {
+void TimelineView::drawForeground(QPainter* painter, const QRectF& rect) {
+    if (!m_graphic->Run()) {
         return;
     }
-    const auto linie = [&](qreal sekunde, const QColor& farbe) {
-        painter->setPen(QPen(farbe, 0));
-        painter->drawLine(QPointF(sekunde, rect.top()), QPointF(sekunde, rect.bottom()));
+    const auto line = [&](qreal second, const QColor& color) {
+        painter->setPen(QPen(color, 0));
+        painter->drawLine(QPointF(second, rect.top()), QPointF(second, rect.bottom()));
     };
-    const RunTrace& ablauf = *m_bild->Lauf();
-    const auto naechster = m_jetzt ? NaechsterAuftrag(ablauf, *m_jetzt) : std::nullopt;
-    if (naechster) {
-        const auto jetzt = static_cast<qreal>(*m_jetzt - ablauf.conditions.StartDate);
-        linie(jetzt, m_bild->Farben().Jetzt);
-        const QPoint ort = mapFromScene(QPointF(jetzt, 0));
-        const QString text = QStringLiteral("jetzt: ") + ToQString(*naechster);
-        const QFontMetrics mass(font());
-        const bool links = ort.x() + mass.horizontalAdvance(text) > viewport()->width();
+    const RunTrace& trace = *m_graphic->Run();
+    const auto next = m_now ? NextOrderText(trace, *m_now) : std::nullopt;
+    if (next) {
+        const auto now = static_cast<qreal>(*m_now - trace.conditions.StartDate);
+        line(now, m_graphic->Colors().now);
+        const QPoint position = mapFromScene(QPointF(now, 0));
+        const QString text = QStringLiteral("jetzt: ") + ToQString(*next);
+        const QFontMetrics metrics(font());
+        const bool left = position.x() + metrics.horizontalAdvance(text) > viewport()->width();
         painter->save();
         painter->resetTransform();
         painter->setFont(font());
-        painter->setPen(m_bild->Farben().Jetzt);
-        painter->drawText(QPoint(links ? ort.x() - mass.horizontalAdvance(text) - 4 : ort.x() + 4,
-                                 viewport()->height() - mass.descent() - 2),
-                          text);
+        painter->setPen(m_graphic->Colors().now);
+        painter->drawText(
+            QPoint(left ? position.x() - metrics.horizontalAdvance(text) - 4 : position.x() + 4,
+                   viewport()->height() - metrics.descent() - 2),
+            text);
         painter->restore();
     }
-    if (m_zeiger) {
-        linie(*m_zeiger, m_bild->Farben().Text);
+    if (m_cursor) {
+        line(*m_cursor, m_graphic->Colors().text);
     }
 }
 
-void Zeitleiste::Male(QPainter& painter, const QRectF& feld) {
-    painter.fillRect(feld, m_bild->Farben().Grund);
-    m_szene.render(&painter, feld, mapToScene(viewport()->rect()).boundingRect(),
+void TimelineView::PaintOn(QPainter& painter, const QRectF& rect) {
+    painter.fillRect(rect, m_graphic->Colors().background);
+    m_scene.render(&painter, rect, mapToScene(viewport()->rect()).boundingRect(),
                    Qt::IgnoreAspectRatio);
 }
 

@@ -12,37 +12,37 @@ namespace tarvelin {
 /// The wheel zooms at the pointer, a drag moves, a double click shows all, a click tells the row
 /// below it. By keys: the arrows move the cursor, with Ctrl from start to start; plus and minus
 /// zoom at it, Pos1 shows all, Enter tells its row.
-class Zeitleiste : public QGraphicsView {
+class TimelineView : public QGraphicsView {
     Q_OBJECT
 
   public:
-    explicit Zeitleiste(QWidget* parent);
+    explicit TimelineView(QWidget* parent);
 
     /// Shows a run, or none. What is in sight stays, unless all was.
-    void Setze(const std::optional<RunTrace>& ablauf);
+    void SetRun(const std::optional<RunTrace>& trace);
     /// Another run, whose curves stand pale behind those of the first; or none.
-    void SetzeAnderen(const std::optional<RunTrace>& anderer);
-    void SetzeBilder(const PerItem<QPixmap>& bilder) { m_bild->SetzeBilder(bilder); }
-    void SetzeAussehen(const QPalette& palette, const QFont& schrift);
-    void SetzeAuswahl(const std::set<std::size_t>& zeilen) { m_bild->SetzeAuswahl(zeilen); }
+    void SetOtherRun(const std::optional<RunTrace>& other);
+    void SetPictures(const PerItem<QPixmap>& pictures) { m_graphic->SetPictures(pictures); }
+    void SetAppearance(const QPalette& palette, const QFont& font);
+    void SetChosenRows(const std::set<std::size_t>& rows) { m_graphic->SetChosenRows(rows); }
     /// Brings a row's bar to sight.
-    void Zeige(std::size_t zeile);
+    void BringIntoView(std::size_t row);
     /// The wall clock.
-    void SetzeJetzt(DateTime jetzt);
+    void SetNow(DateTime now);
 
     /// Shows the whole plan.
-    void ZeigeAlles();
+    void ShowAll();
     /// What is in sight, as it is seen, on any painter's field.
-    void Male(QPainter& painter, const QRectF& feld);
+    void PaintOn(QPainter& painter, const QRectF& rect);
     /// What a lack is written in.
-    [[nodiscard]] const QColor& Mangelfarbe() const { return m_bild->Farben().Energiemangel; }
+    [[nodiscard]] const QColor& DeficitColor() const { return m_graphic->Colors().energyDeficit; }
     /// The pixel column of a moment, in the viewport.
-    [[nodiscard]] int SpalteVon(SimTime moment) const;
+    [[nodiscard]] int ColumnOf(SimTime moment) const;
 
   signals:
     /// The moment below the cursor; none when the pointer has left.
-    void Zeiger(std::optional<SimTime> moment);
-    void Gewaehlt(std::size_t zeile);
+    void CursorMoved(std::optional<SimTime> moment);
+    void RowChosen(std::size_t row);
 
   protected:
     void wheelEvent(QWheelEvent* event) override;
@@ -56,26 +56,26 @@ class Zeitleiste : public QGraphicsView {
     void drawForeground(QPainter* painter, const QRectF& rect) override;
 
   private:
-    template <class Tat>
-    void Aendere(Tat tat);
-    [[nodiscard]] qreal JeSekunde() const { return transform().m11(); }
-    [[nodiscard]] qreal KleinsterMassstab() const;
-    [[nodiscard]] bool ZeigtAlles() const;
-    void Zoome(qreal faktor, int spalte);
-    void SetzeMassstab(qreal jeSekunde);
-    void SetzeZeiger(std::optional<qreal> sekunde);
-    void GeheZuStart(bool vor);
-    void Waehle(const QPoint& ort);
-    void PasseHoeheAn();
+    template <class Action>
+    void ChangeKeepingView(Action action);
+    [[nodiscard]] qreal PixelsPerSecond() const { return transform().m11(); }
+    [[nodiscard]] qreal MinScale() const;
+    [[nodiscard]] bool ShowsAll() const;
+    void Zoom(qreal factor, int column);
+    void SetPixelsPerSecond(qreal perSecond);
+    void MoveCursor(std::optional<qreal> second);
+    void GoToStart(bool forward);
+    void ChooseAt(const QPoint& position);
+    void FitHeight();
 
-    QGraphicsScene m_szene;
+    QGraphicsScene m_scene;
     /// The scene owns it.
-    Zeitbild* m_bild;
-    std::optional<qreal> m_zeiger;
-    std::optional<DateTime> m_jetzt;
-    QPoint m_gedrueckt;
-    QPoint m_zuletzt;
-    bool m_zieht = false;
+    TimelineGraphic* m_graphic;
+    std::optional<qreal> m_cursor;
+    std::optional<DateTime> m_now;
+    QPoint m_pressed;
+    QPoint m_lastPosition;
+    bool m_dragging = false;
 };
 
 }  // namespace tarvelin

@@ -11,41 +11,41 @@ namespace tarvelin {
 
 namespace {
 
-using Zeile = std::array<std::string, 5>;
+using TextRow = std::array<std::string, 5>;
 
-std::vector<Zeile> Zeilen(const RunTrace& ablauf) {
-    std::vector<Zeile> zeilen{{"Nr.", "Auftrag", "Start", "Fertig", "Grund"}};
-    for (const StartEvent& start : ablauf.starts) {
-        zeilen.push_back({std::to_string(start.row + 1), OrderText(start),
-                          DateTimeText(ablauf.conditions.WallClock(start.start)),
-                          DateTimeText(ablauf.conditions.WallClock(start.finish)),
-                          DelayText(ablauf, start.row)});
+std::vector<TextRow> Rows(const RunTrace& trace) {
+    std::vector<TextRow> rows{{"Nr.", "Auftrag", "Start", "Fertig", "Grund"}};
+    for (const StartEvent& start : trace.starts) {
+        rows.push_back({std::to_string(start.row + 1), OrderText(start),
+                        DateTimeText(trace.conditions.WallClock(start.start)),
+                        DateTimeText(trace.conditions.WallClock(start.finish)),
+                        DelayText(trace, start.row)});
     }
-    return zeilen;
+    return rows;
 }
 
 /// Rows between marks; none of the texts has a letter that needs another form.
-std::string Gesetzt(const std::vector<Zeile>& zeilen, const char* vorZeile, const char* vorZelle,
-                    const char* zwischen, const char* nachZeile) {
+std::string Escaped(const std::vector<TextRow>& rows, const char* beforeRow, const char* beforeCell,
+                    const char* between, const char* afterRow) {
     std::string text;
-    for (const Zeile& zeile : zeilen) {
-        text += vorZeile;
-        for (std::size_t i = 0; i < zeile.size(); ++i) {
-            text += (i == 0 ? "" : zwischen) + (vorZelle + zeile[i]);
+    for (const TextRow& row : rows) {
+        text += beforeRow;
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            text += (i == 0 ? "" : between) + (beforeCell + row[i]);
         }
-        text += nachZeile;
+        text += afterRow;
     }
     return text;
 }
 
 }  // namespace
 
-std::string ZeitplanMitTabs(const RunTrace& ablauf) {
-    return Gesetzt(Zeilen(ablauf), "", "", "\t", "\n");
+std::string TimetableTsv(const RunTrace& trace) {
+    return Escaped(Rows(trace), "", "", "\t", "\n");
 }
 
-std::string ZeitplanAlsTabelle(const RunTrace& ablauf) {
-    return "<table>" + Gesetzt(Zeilen(ablauf), "<tr>", "<td>", "</td>", "</td></tr>") + "</table>";
+std::string TimetableHtml(const RunTrace& trace) {
+    return "<table>" + Escaped(Rows(trace), "<tr>", "<td>", "</td>", "</td></tr>") + "</table>";
 }
 
 }  // namespace tarvelin

@@ -8,9 +8,9 @@
 namespace tarvelin {
 
 /// A line for each order, columns parted by tabs, the captions first.
-[[nodiscard]] std::string ZeitplanMitTabs(const RunTrace& ablauf);
+[[nodiscard]] std::string TimetableTsv(const RunTrace& trace);
 
 /// The same as a table of a web page.
-[[nodiscard]] std::string ZeitplanAlsTabelle(const RunTrace& ablauf);
+[[nodiscard]] std::string TimetableHtml(const RunTrace& trace);
 
 }  // namespace tarvelin

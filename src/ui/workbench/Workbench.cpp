@@ -38,248 +38,250 @@ namespace tarvelin {
 namespace {
 
 /// Of the list, from the left.
-enum Spalte { kNummer, kAuftrag, kStart, kFertig, kGrund, kFaktor };
+enum Column { kNumber, kOrder, kStart, kFinish, kDelay, kFactor };
 
 /// Of the window at first, in heights of a line.
-constexpr QSize kZeilen(96, 54);
+constexpr QSize kRows(96, 54);
 
 /// A palette whose every colour counts, whatever the program's own says.
-QPalette AlsEigene(const QPalette& farben) {
-    QPalette eigene;
-    for (const auto gruppe : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        for (int rolle = 0; rolle < QPalette::NColorRoles; ++rolle) {
-            if (rolle != QPalette::NoRole) {
-                const auto name = static_cast<QPalette::ColorRole>(rolle);
-                eigene.setBrush(gruppe, name, farben.brush(gruppe, name));
+QPalette AsOwn(const QPalette& colors) {
+    QPalette own;
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        for (int role = 0; role < QPalette::NColorRoles; ++role) {
+            if (role != QPalette::NoRole) {
+                const auto name = static_cast<QPalette::ColorRole>(role);
+                own.setBrush(group, name, colors.brush(group, name));
             }
         }
     }
-    return eigene;
+    return own;
 }
 
-QLabel* NeueZeile(const char* name, const char* bedeutung, QWidget* parent) {
+QLabel* NewRow(const char* name, const char* accessibleName, QWidget* parent) {
     QLabel* const label = NewLabel(QString::fromLatin1(name), {}, parent);
-    label->setAccessibleDescription(QString::fromUtf8(bedeutung));
+    label->setAccessibleDescription(QString::fromUtf8(accessibleName));
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return label;
 }
 
 }  // namespace
 
-frmWerkbank::frmWerkbank(const Plan& plan, const EditHistory& verlauf,
-                         std::function<std::string()> vorher, const Environment& umgebung)
+Workbench::Workbench(const Plan& plan, const EditHistory& history,
+                     std::function<std::string()> before, const Environment& environment)
     : m_plan(plan),
-      m_verlauf(verlauf),
-      m_vorher(std::move(vorher)),
-      m_umgebung(umgebung),
-      m_LBL_Meldung(NeueZeile("LBL_Meldung", "Meldung", this)),
-      m_liste(new Auftragsansicht(Listenquelle(), this)),
-      m_felder(new QTabWidget(this)),
-      m_palette(new Itempalette(this)),
-      m_suchfeld(new Suchfeld(
-          plan, umgebung, [this] { return m_liste->Gewaehlte(); }, this)),
-      m_vergleichsfeld(new Vergleichsfeld(umgebung, this)),
-      m_zeitleiste(new Zeitleiste(this)),
-      m_LBL_Stand(NeueZeile("LBL_Stand", "Stand am Zeiger", this)),
-      m_LBL_Dauer(NeueZeile("LBL_Dauer", "Dauer des Plans", this)),
-      m_LBL_Aenderung(NeueZeile("LBL_Aenderung", "Änderung der Dauer", this)),
-      m_LBL_Naechster(NeueZeile("LBL_Naechster", "Nächster Auftrag", this)) {
+      m_history(history),
+      m_before(std::move(before)),
+      m_environment(environment),
+      m_messageLabel(NewRow("LBL_Meldung", "Meldung", this)),
+      m_list(new OrderListView(ListProvider(), this)),
+      m_pages(new QTabWidget(this)),
+      m_palette(new ItemPalette(this)),
+      m_searchPage(new SearchPage(
+          plan, environment, [this] { return m_list->ChosenRows(); }, this)),
+      m_comparisonPage(new ComparisonPage(environment, this)),
+      m_timeline(new TimelineView(this)),
+      m_statusLabel(NewRow("LBL_Stand", "Stand am Zeiger", this)),
+      m_durationLabel(NewRow("LBL_Dauer", "Dauer des Plans", this)),
+      m_changeLabel(NewRow("LBL_Aenderung", "Änderung der Dauer", this)),
+      m_nextOrderLabel(NewRow("LBL_Naechster", "Nächster Auftrag", this)) {
     setObjectName(QStringLiteral("frmWerkbank"));
     setWindowTitle(QStringLiteral("Tarvelin  |  Werkbank"));
-    setWindowIcon(LoadIconFile(umgebung.programFolder / "img" / "icon.ico"));
+    setWindowIcon(LoadIconFile(environment.programFolder / "img" / "icon.ico"));
     setAttribute(Qt::WA_QuitOnClose, false);
-    LegeAus();
-    Verbinde();
-    FolgeDesktop();
+    Arrange();
+    ConnectSignals();
+    FollowDesktop();
 }
 
 // The list asks this window for its rows to its end.
-frmWerkbank::~frmWerkbank() {
-    delete m_liste;
+Workbench::~Workbench() {
+    delete m_list;
 }
 
-QPushButton* frmWerkbank::NeuerBefehl(const char* name, const char* text, const QKeySequence& taste,
-                                      void (frmWerkbank::*handler)()) {
-    auto* const knopf = new QPushButton(QString::fromUtf8(text), this);
-    knopf->setObjectName(QString::fromLatin1(name));
-    connect(knopf, &QPushButton::clicked, this, handler);
-    if (!taste.isEmpty()) {
-        knopf->setToolTip(taste.toString(QKeySequence::NativeText));
-        connect(new QShortcut(taste, this), &QShortcut::activated, this, handler);
+QPushButton* Workbench::NewCommandButton(const char* name, const char* text,
+                                         const QKeySequence& key, void (Workbench::*handler)()) {
+    auto* const button = new QPushButton(QString::fromUtf8(text), this);
+    button->setObjectName(QString::fromLatin1(name));
+    connect(button, &QPushButton::clicked, this, handler);
+    if (!key.isEmpty()) {
+        button->setToolTip(key.toString(QKeySequence::NativeText));
+        connect(new QShortcut(key, this), &QShortcut::activated, this, handler);
     }
-    m_befehle.push_back(knopf);
-    return knopf;
+    m_commands.push_back(button);
+    return button;
 }
 
 /// What is done with the plan, in panels behind each other.
-void frmWerkbank::FuelleFelder() {
-    for (QWidget* const feld :
-         {static_cast<QWidget*>(m_palette), static_cast<QWidget*>(m_suchfeld)}) {
+void Workbench::AddPages() {
+    for (QWidget* const field :
+         {static_cast<QWidget*>(m_palette), static_cast<QWidget*>(m_searchPage)}) {
         // A small screen has no room for all of it.
-        auto* const rolle = new QScrollArea(this);
-        rolle->setWidget(feld);
-        rolle->setWidgetResizable(true);
-        rolle->setFrameShape(QFrame::NoFrame);
-        rolle->setFocusPolicy(Qt::NoFocus);
-        m_felder->addTab(
-            rolle, feld == m_palette ? QStringLiteral("&Einfügen") : QStringLiteral("Su&che"));
+        auto* const scrollArea = new QScrollArea(this);
+        scrollArea->setWidget(field);
+        scrollArea->setWidgetResizable(true);
+        scrollArea->setFrameShape(QFrame::NoFrame);
+        scrollArea->setFocusPolicy(Qt::NoFocus);
+        m_pages->addTab(scrollArea, field == m_palette ? QStringLiteral("&Einfügen")
+                                                       : QStringLiteral("Su&che"));
     }
-    m_felder->addTab(m_vergleichsfeld, QStringLiteral("Ver&gleich"));
+    m_pages->addTab(m_comparisonPage, QStringLiteral("Ver&gleich"));
 }
 
-void frmWerkbank::LegeAus() {
-    auto* const befehle = new QHBoxLayout;
-    m_zurueck = NeuerBefehl("Cmd_Zurueck", "&Rückgängig", QKeySequence(Qt::CTRL | Qt::Key_Z),
-                            &frmWerkbank::ZurueckGewuenscht);
-    m_vor = NeuerBefehl("Cmd_Vor", "&Wiederholen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
-                        &frmWerkbank::VorGewuenscht);
-    NeuerBefehl("Cmd_Hoch", "&Hoch", QKeySequence(Qt::ALT | Qt::Key_Up), &frmWerkbank::Hoch);
-    NeuerBefehl("Cmd_Runter", "R&unter", QKeySequence(Qt::ALT | Qt::Key_Down),
-                &frmWerkbank::Runter);
-    NeuerBefehl("Cmd_Verdopple", "&Verdoppeln", QKeySequence(Qt::CTRL | Qt::Key_D),
-                &frmWerkbank::Verdopple);
-    NeuerBefehl("Cmd_Loesche", "&Löschen", QKeySequence(Qt::Key_Delete), &frmWerkbank::Loesche);
-    NeuerBefehl("Cmd_Kopieren", "&Kopieren", {}, &frmWerkbank::Kopieren);
-    NeuerBefehl("Cmd_KalenderSpeichern", "K&alender speichern...", {},
-                &frmWerkbank::KalenderSpeichern);
-    NeuerBefehl("Cmd_BildSpeichern", "&Bild speichern...", {}, &frmWerkbank::BildSpeichern);
-    for (QPushButton* const knopf : m_befehle) {
-        befehle->addWidget(knopf);
+void Workbench::Arrange() {
+    auto* const commands = new QHBoxLayout;
+    m_back = NewCommandButton("Cmd_Zurueck", "&Rückgängig", QKeySequence(Qt::CTRL | Qt::Key_Z),
+                              &Workbench::UndoRequested);
+    m_forward =
+        NewCommandButton("Cmd_Vor", "&Wiederholen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
+                         &Workbench::RedoRequested);
+    NewCommandButton("Cmd_Hoch", "&Hoch", QKeySequence(Qt::ALT | Qt::Key_Up), &Workbench::MoveUp);
+    NewCommandButton("Cmd_Runter", "R&unter", QKeySequence(Qt::ALT | Qt::Key_Down),
+                     &Workbench::MoveDown);
+    NewCommandButton("Cmd_Verdopple", "&Verdoppeln", QKeySequence(Qt::CTRL | Qt::Key_D),
+                     &Workbench::DuplicateChosen);
+    NewCommandButton("Cmd_Loesche", "&Löschen", QKeySequence(Qt::Key_Delete),
+                     &Workbench::RemoveChosen);
+    NewCommandButton("Cmd_Kopieren", "&Kopieren", {}, &Workbench::CopyTimetable);
+    NewCommandButton("Cmd_KalenderSpeichern", "K&alender speichern...", {},
+                     &Workbench::SaveCalendar);
+    NewCommandButton("Cmd_BildSpeichern", "&Bild speichern...", {}, &Workbench::SavePicture);
+    for (QPushButton* const button : m_commands) {
+        commands->addWidget(button);
     }
-    befehle->addStretch(1);
+    commands->addStretch(1);
 
-    m_LBL_Meldung->setWordWrap(true);
-    m_LBL_Meldung->setFrameStyle(QFrame::StyledPanel);
-    m_LBL_Meldung->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    m_LBL_Stand->setWordWrap(true);
-    m_felder->setObjectName(QStringLiteral("Felder"));
+    m_messageLabel->setWordWrap(true);
+    m_messageLabel->setFrameStyle(QFrame::StyledPanel);
+    m_messageLabel->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_statusLabel->setWordWrap(true);
+    m_pages->setObjectName(QStringLiteral("Felder"));
 
-    auto* const oben = new QSplitter(Qt::Horizontal, this);
-    oben->setChildrenCollapsible(false);
-    oben->addWidget(m_liste);
-    FuelleFelder();
-    oben->addWidget(m_felder);
-    oben->setStretchFactor(0, 1);
-    auto* const teiler = new QSplitter(Qt::Vertical, this);
-    teiler->addWidget(oben);
-    teiler->addWidget(m_zeitleiste);
-    teiler->setChildrenCollapsible(false);
-    teiler->setStretchFactor(0, 3);
-    teiler->setStretchFactor(1, 2);
+    auto* const top = new QSplitter(Qt::Horizontal, this);
+    top->setChildrenCollapsible(false);
+    top->addWidget(m_list);
+    AddPages();
+    top->addWidget(m_pages);
+    top->setStretchFactor(0, 1);
+    auto* const splitter = new QSplitter(Qt::Vertical, this);
+    splitter->addWidget(top);
+    splitter->addWidget(m_timeline);
+    splitter->setChildrenCollapsible(false);
+    splitter->setStretchFactor(0, 3);
+    splitter->setStretchFactor(1, 2);
 
-    auto* const fuss = new QHBoxLayout;
-    fuss->addWidget(m_LBL_Dauer);
-    fuss->addWidget(m_LBL_Aenderung);
-    fuss->addStretch(1);
-    fuss->addWidget(m_LBL_Naechster);
+    auto* const footer = new QHBoxLayout;
+    footer->addWidget(m_durationLabel);
+    footer->addWidget(m_changeLabel);
+    footer->addStretch(1);
+    footer->addWidget(m_nextOrderLabel);
 
     auto* const layout = new QVBoxLayout(this);
-    layout->addLayout(befehle);
-    layout->addWidget(m_LBL_Meldung);
-    layout->addWidget(teiler, 1);
-    layout->addWidget(m_LBL_Stand);
-    layout->addLayout(fuss);
+    layout->addLayout(commands);
+    layout->addWidget(m_messageLabel);
+    layout->addWidget(splitter, 1);
+    layout->addWidget(m_statusLabel);
+    layout->addLayout(footer);
 }
 
-template <class Schritt>
-void frmWerkbank::Bearbeite(Schritt schritt) {
-    ListEdit umstellung(m_plan.LV_Bauliste);
-    schritt(umstellung, m_liste->Gewaehlte());
-    Stelle(umstellung, umstellung.Affected());
+template <class Step>
+void Workbench::EditChosen(Step step) {
+    ListEdit edit(m_plan.LV_Bauliste);
+    step(edit, m_list->ChosenRows());
+    ApplyEdit(edit, edit.Affected());
 }
 
-void frmWerkbank::Verbinde() {
-    connect(m_liste, &Auftragsansicht::AuswahlGeaendert, this, &frmWerkbank::ZeigeAuswahl);
-    connect(m_liste, &Auftragsansicht::Verschoben, this, [this](std::size_t vor) {
-        Bearbeite([vor](ListEdit& u, const auto& zeilen) { u.MoveBefore(vor, zeilen); });
+void Workbench::ConnectSignals() {
+    connect(m_list, &OrderListView::ChoiceChanged, this, &Workbench::ShowChoice);
+    connect(m_list, &OrderListView::RowsDropped, this, [this](std::size_t before) {
+        EditChosen([before](ListEdit& edit, const auto& rows) { edit.MoveBefore(before, rows); });
     });
-    connect(m_liste, &Auftragsansicht::BildAbgelegt, this,
-            [this](const QString& bild, std::size_t vor) {
-                if (const auto item = ItemFromPicture(bild.toStdString())) {
-                    FuegeEin(RowOf(*item).ItemCode, vor);
+    connect(m_list, &OrderListView::PictureDropped, this,
+            [this](const QString& picture, std::size_t before) {
+                if (const auto item = ItemFromPicture(picture.toStdString())) {
+                    InsertRow(RowOf(*item).ItemCode, before);
                 }
             });
-    connect(m_palette, &Itempalette::ItemGewaehlt, this,
-            [this](ItemId item) { FuegeEin(RowOf(item).ItemCode, Einfuegestelle()); });
-    connect(m_palette, &Itempalette::ProduktionGewaehlt, this, [this](const MineFactors& faktoren) {
-        FuegeEin(Order::Of(faktoren).Tag(), Einfuegestelle());
+    connect(m_palette, &ItemPalette::ItemChosen, this,
+            [this](ItemId item) { InsertRow(RowOf(item).ItemCode, InsertPosition()); });
+    connect(m_palette, &ItemPalette::ProductionChosen, this, [this](const MineFactors& factors) {
+        InsertRow(Order::Of(factors).Tag(), InsertPosition());
     });
-    connect(m_zeitleiste, &Zeitleiste::Zeiger, this, &frmWerkbank::ZeigeZeiger);
-    connect(m_zeitleiste, &Zeitleiste::Gewaehlt, this,
-            [this](std::size_t zeile) { m_liste->Waehle({zeile}); });
-    connect(m_suchfeld, &Suchfeld::Meldung, this, &frmWerkbank::Melde);
-    connect(m_suchfeld, &Suchfeld::Uebernommen, this, &frmWerkbank::Umgestellt);
-    connect(m_vergleichsfeld, &Vergleichsfeld::Meldung, this, &frmWerkbank::Melde);
-    connect(m_vergleichsfeld, &Vergleichsfeld::AndererGeaendert, this,
-            [this] { m_zeitleiste->SetzeAnderen(m_vergleichsfeld->Anderer()); });
-    connect(&m_takt, &QTimer::timeout, this, &frmWerkbank::Ticke);
+    connect(m_timeline, &TimelineView::CursorMoved, this, &Workbench::ShowStatusAt);
+    connect(m_timeline, &TimelineView::RowChosen, this,
+            [this](std::size_t row) { m_list->Choose({row}); });
+    connect(m_searchPage, &SearchPage::Notice, this, &Workbench::ShowNotice);
+    connect(m_searchPage, &SearchPage::ResultAccepted, this, &Workbench::ListEdited);
+    connect(m_comparisonPage, &ComparisonPage::Notice, this, &Workbench::ShowNotice);
+    connect(m_comparisonPage, &ComparisonPage::OtherRunChanged, this,
+            [this] { m_timeline->SetOtherRun(m_comparisonPage->OtherRun()); });
+    connect(&m_timer, &QTimer::timeout, this, &Workbench::Tick);
 }
 
 // Nothing moves when a message comes or goes.
-void frmWerkbank::SetzeMeldungshoehe() {
-    constexpr int kZeilenzahl = 2;
-    m_LBL_Meldung->setFixedHeight(kZeilenzahl * m_LBL_Meldung->fontMetrics().lineSpacing() +
-                                  2 * m_LBL_Meldung->frameWidth() + 2);
+void Workbench::SetMessageHeight() {
+    constexpr int kLineCount = 2;
+    m_messageLabel->setFixedHeight(kLineCount * m_messageLabel->fontMetrics().lineSpacing() +
+                                   2 * m_messageLabel->frameWidth() + 2);
 }
 
-void frmWerkbank::FolgeDesktop() {
-    const QPalette farben = m_umgebung.desktopPalette();
-    setPalette(AlsEigene(farben));
+void Workbench::FollowDesktop() {
+    const QPalette colors = m_environment.desktopPalette();
+    setPalette(AsOwn(colors));
     setFont(DesktopFont());
-    SetzeMeldungshoehe();
-    m_zeitleiste->SetzeAussehen(farben, font());
+    SetMessageHeight();
+    m_timeline->SetAppearance(colors, font());
     // Scrolled up and down only.
-    for (auto* const rolle : m_felder->findChildren<QScrollArea*>()) {
-        rolle->setMinimumWidth(rolle->widget()->minimumSizeHint().width() +
-                               style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    for (auto* const scrollArea : m_pages->findChildren<QScrollArea*>()) {
+        scrollArea->setMinimumWidth(scrollArea->widget()->minimumSizeHint().width() +
+                                    style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     }
 }
 
-bool frmWerkbank::event(QEvent* event) {
+bool Workbench::event(QEvent* event) {
     if (event->type() == QEvent::ThemeChange) {
-        FolgeDesktop();
+        FollowDesktop();
     }
     return QWidget::event(event);
 }
 
-void frmWerkbank::showEvent(QShowEvent* event) {
+void Workbench::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    ZeigePlan();
-    m_takt.SetRunning(true);
-    Ticke();
+    RefreshPlan();
+    m_timer.SetRunning(true);
+    Tick();
 }
 
-void frmWerkbank::hideEvent(QHideEvent* event) {
+void Workbench::hideEvent(QHideEvent* event) {
     // A window that is only made small goes on.
     if (!event->spontaneous()) {
-        m_takt.SetRunning(false);
-        m_suchfeld->HalteAn();
+        m_timer.SetRunning(false);
+        m_searchPage->StopSearch();
     }
     QWidget::hideEvent(event);
 }
 
-void frmWerkbank::Oeffne(const Configuration& konfiguration) {
-    if (!m_warOffen) {
-        m_warOffen = true;
-        const auto lies = [&](const ConfigKey& key) {
-            constexpr int kWeitest = 100'000;
-            const auto zahl = ParseWholeNumber(konfiguration.Read(key), -kWeitest, kWeitest);
-            return zahl ? std::optional(static_cast<int>(*zahl)) : std::nullopt;
+void Workbench::Open(const Configuration& configuration) {
+    if (!m_wasOpen) {
+        m_wasOpen = true;
+        const auto read = [&](const ConfigKey& key) {
+            constexpr int kFarthest = 100'000;
+            const auto number = ParseWholeNumber(configuration.Read(key), -kFarthest, kFarthest);
+            return number ? std::optional(static_cast<int>(*number)) : std::nullopt;
         };
-        constexpr QSize kRahmen(8, 36);
-        const QSize raum = QGuiApplication::primaryScreen()->availableSize() - kRahmen;
-        const QSize ersteGroesse = kZeilen * fontMetrics().height();
-        resize(QSize(lies(Configuration::kWorkbenchWidth).value_or(ersteGroesse.width()),
-                     lies(Configuration::kWorkbenchHeight).value_or(ersteGroesse.height()))
-                   .boundedTo(raum)
+        constexpr QSize kFrame(8, 36);
+        const QSize space = QGuiApplication::primaryScreen()->availableSize() - kFrame;
+        const QSize firstSize = kRows * fontMetrics().height();
+        resize(QSize(read(Configuration::kWorkbenchWidth).value_or(firstSize.width()),
+                     read(Configuration::kWorkbenchHeight).value_or(firstSize.height()))
+                   .boundedTo(space)
                    .expandedTo(QSize(1, 1)));
-        const auto links = lies(Configuration::kWorkbenchLeft);
-        const auto oben = lies(Configuration::kWorkbenchTop);
+        const auto left = read(Configuration::kWorkbenchLeft);
+        const auto top = read(Configuration::kWorkbenchTop);
         // A screen that is gone would keep the window out of sight.
-        if (links && oben && QGuiApplication::screenAt({*links, *oben}) != nullptr) {
-            move(*links, *oben);
+        if (left && top && QGuiApplication::screenAt({*left, *top}) != nullptr) {
+            move(*left, *top);
         }
-        if (konfiguration.IsOn(Configuration::kWorkbenchMaximized)) {
+        if (configuration.IsOn(Configuration::kWorkbenchMaximized)) {
             setWindowState(Qt::WindowMaximized);
         }
     }
@@ -289,240 +291,241 @@ void frmWerkbank::Oeffne(const Configuration& konfiguration) {
     activateWindow();
 }
 
-Configuration::Values frmWerkbank::Lage() const {
-    if (!m_warOffen) {
+Configuration::Values Workbench::GeometryValues() const {
+    if (!m_wasOpen) {
         return {};
     }
-    const QSize groesse = isMaximized() ? normalGeometry().size() : size();
+    const QSize windowSize = isMaximized() ? normalGeometry().size() : size();
     return {{Configuration::kWorkbenchLeft, std::to_string(pos().x())},
             {Configuration::kWorkbenchTop, std::to_string(pos().y())},
-            {Configuration::kWorkbenchWidth, std::to_string(groesse.width())},
-            {Configuration::kWorkbenchHeight, std::to_string(groesse.height())},
+            {Configuration::kWorkbenchWidth, std::to_string(windowSize.width())},
+            {Configuration::kWorkbenchHeight, std::to_string(windowSize.height())},
             {Configuration::kWorkbenchMaximized, isMaximized() ? "1" : "0"}};
 }
 
-void frmWerkbank::SetzeBilder(const PerItem<QPixmap>& bilder) {
-    m_palette->SetzeBilder(bilder);
-    m_zeitleiste->SetzeBilder(bilder);
+void Workbench::SetPictures(const PerItem<QPixmap>& pictures) {
+    m_palette->SetPictures(pictures);
+    m_timeline->SetPictures(pictures);
 }
 
-void frmWerkbank::ZeigePlan() {
+void Workbench::RefreshPlan() {
     if (!isVisible()) {
         return;
     }
-    Spiele();
-    m_liste->Aktualisiere(m_naechsteAuswahl.value_or(m_liste->Gewaehlte()));
-    m_naechsteAuswahl.reset();
-    m_zeitleiste->Setze(m_ablauf);
-    m_vergleichsfeld->Zeige(m_ablauf);
-    ZeigeAuswahl();
-    ZeigeFuss();
-    ZeigeZeiger(std::nullopt);
-    Ticke();
+    PlayPlan();
+    m_list->Refresh(m_nextChosen.value_or(m_list->ChosenRows()));
+    m_nextChosen.reset();
+    m_timeline->SetRun(m_trace);
+    m_comparisonPage->SetOwnRun(m_trace);
+    ShowChoice();
+    ShowFooter();
+    ShowStatusAt(std::nullopt);
+    Tick();
 }
 
-void frmWerkbank::Spiele() {
-    if (m_schritte != m_verlauf.StepCount()) {
-        m_schritte = m_verlauf.StepCount();
-        m_dauerDavor = m_ablauf ? std::optional(m_ablauf->Duration().Seconds()) : std::nullopt;
+void Workbench::PlayPlan() {
+    if (m_steps != m_history.StepCount()) {
+        m_steps = m_history.StepCount();
+        m_durationBefore = m_trace ? std::optional(m_trace->Duration().Seconds()) : std::nullopt;
     }
-    const auto bedingungen = ParseRunConditions(m_plan);
-    if (const auto* const absage = std::get_if<Message>(&bedingungen)) {
-        m_ablauf.reset();
-        Melde(m_plan.LV_Bauliste.Orders().IsEmpty() ? "" : absage->text);
+    const auto conditions = ParseRunConditions(m_plan);
+    if (const auto* const refusal = std::get_if<Message>(&conditions)) {
+        m_trace.reset();
+        ShowNotice(m_plan.LV_Bauliste.Orders().IsEmpty() ? "" : refusal->text);
     } else {
-        m_ablauf =
-            TraceRun(m_plan.LV_Bauliste.Orders().All(), std::get<RunConditions>(bedingungen));
-        Melde(Meldungszeile(*m_ablauf));
+        m_trace = TraceRun(m_plan.LV_Bauliste.Orders().All(), std::get<RunConditions>(conditions));
+        ShowNotice(MessagesText(*m_trace));
     }
-    const bool bearbeitet = m_verlauf.CanUndo() || m_verlauf.CanRedo();
-    m_aenderung = bearbeitet && m_dauerDavor && m_ablauf
-                      ? std::optional(m_ablauf->Duration().Seconds() - *m_dauerDavor)
-                      : std::nullopt;
+    const bool edited = m_history.CanUndo() || m_history.CanRedo();
+    m_change = edited && m_durationBefore && m_trace
+                   ? std::optional(m_trace->Duration().Seconds() - *m_durationBefore)
+                   : std::nullopt;
 }
 
-void frmWerkbank::ZeigeFuss() {
-    m_LBL_Dauer->setText(m_ablauf
-                             ? QStringLiteral("Dauer: ") + ToQString(DurationText(m_ablauf->end))
-                             : QStringLiteral("Dauer: -"));
-    m_LBL_Aenderung->setText(m_aenderung ? ToQString(SignedTimeSpanText(*m_aenderung)) : QString());
-    m_zurueck->setEnabled(m_verlauf.CanUndo());
-    m_vor->setEnabled(m_verlauf.CanRedo());
+void Workbench::ShowFooter() {
+    m_durationLabel->setText(m_trace
+                                 ? QStringLiteral("Dauer: ") + ToQString(DurationText(m_trace->end))
+                                 : QStringLiteral("Dauer: -"));
+    m_changeLabel->setText(m_change ? ToQString(SignedTimeSpanText(*m_change)) : QString());
+    m_back->setEnabled(m_history.CanUndo());
+    m_forward->setEnabled(m_history.CanRedo());
 }
 
-void frmWerkbank::ZeigeAuswahl() {
-    const auto gewaehlt = m_liste->Gewaehlte();
-    m_zeitleiste->SetzeAuswahl({gewaehlt.begin(), gewaehlt.end()});
-    if (!gewaehlt.empty()) {
-        m_zeitleiste->Zeige(gewaehlt.front());
+void Workbench::ShowChoice() {
+    const auto chosen = m_list->ChosenRows();
+    m_timeline->SetChosenRows({chosen.begin(), chosen.end()});
+    if (!chosen.empty()) {
+        m_timeline->BringIntoView(chosen.front());
     }
     for (const char* const name : {"Cmd_Hoch", "Cmd_Runter", "Cmd_Verdopple", "Cmd_Loesche"}) {
-        findChild<QPushButton*>(QString::fromLatin1(name))->setEnabled(!gewaehlt.empty());
+        findChild<QPushButton*>(QString::fromLatin1(name))->setEnabled(!chosen.empty());
     }
     for (const char* const name : {"Cmd_Kopieren", "Cmd_KalenderSpeichern", "Cmd_BildSpeichern"}) {
-        findChild<QPushButton*>(QString::fromLatin1(name))->setEnabled(m_ablauf.has_value());
+        findChild<QPushButton*>(QString::fromLatin1(name))->setEnabled(m_trace.has_value());
     }
-    ZeigeEinwaende();
+    ShowObjections();
 }
 
-void frmWerkbank::ZeigeEinwaende() {
-    m_palette->SetzeEinwaende([&](ItemId item) {
-        ListEdit umstellung(m_plan.LV_Bauliste);
-        umstellung.Insert(Einfuegestelle(), RowOf(item).ItemCode);
-        return umstellung.Objection();
+void Workbench::ShowObjections() {
+    m_palette->SetObjections([&](ItemId item) {
+        ListEdit edit(m_plan.LV_Bauliste);
+        edit.Insert(InsertPosition(), RowOf(item).ItemCode);
+        return edit.Objection();
     });
 }
 
-void frmWerkbank::ZeigeZeiger(std::optional<SimTime> moment) {
-    m_LBL_Stand->setText(m_ablauf && moment ? ToQString(Standtext(*m_ablauf, *moment))
-                                            : QStringLiteral("\n"));
-    m_zeitleiste->setAccessibleDescription(m_LBL_Stand->text());
+void Workbench::ShowStatusAt(std::optional<SimTime> moment) {
+    m_statusLabel->setText(m_trace && moment ? ToQString(StatusText(*m_trace, *moment))
+                                             : QStringLiteral("\n"));
+    m_timeline->setAccessibleDescription(m_statusLabel->text());
 }
 
-void frmWerkbank::Ticke() {
-    const DateTime jetzt = m_umgebung.now();
-    m_zeitleiste->SetzeJetzt(jetzt);
-    const auto naechster = m_ablauf ? NaechsterAuftrag(*m_ablauf, jetzt) : std::nullopt;
-    m_LBL_Naechster->setText(naechster ? QStringLiteral("Als Nächstes: ") + ToQString(*naechster)
-                                       : QString());
+void Workbench::Tick() {
+    const DateTime now = m_environment.now();
+    m_timeline->SetNow(now);
+    const auto next = m_trace ? NextOrderText(*m_trace, now) : std::nullopt;
+    m_nextOrderLabel->setText(next ? QStringLiteral("Als Nächstes: ") + ToQString(*next)
+                                   : QString());
 }
 
-void frmWerkbank::Melde(const std::string& text) {
-    m_LBL_Meldung->setText(ToQString(text).trimmed());
+void Workbench::ShowNotice(const std::string& text) {
+    m_messageLabel->setText(ToQString(text).trimmed());
     // Its place has no room for more than two lines.
-    m_LBL_Meldung->setToolTip(m_LBL_Meldung->text());
+    m_messageLabel->setToolTip(m_messageLabel->text());
     if (!text.empty()) {
         // Read out at once, wherever the keyboard is.
-        QAccessibleEvent ruf(m_LBL_Meldung, QAccessible::Alert);
-        QAccessible::updateAccessibility(&ruf);
+        QAccessibleEvent call(m_messageLabel, QAccessible::Alert);
+        QAccessible::updateAccessibility(&call);
     }
 }
 
-void frmWerkbank::Stelle(const ListEdit& umstellung, std::vector<std::size_t> auswahl) {
-    const auto tags = umstellung.Tags();
+void Workbench::ApplyEdit(const ListEdit& edit, std::vector<std::size_t> chosen) {
+    const auto tags = edit.Tags();
     if (tags == m_plan.LV_Bauliste.Tags()) {
         return;
     }
-    if (const auto einwand = umstellung.Objection()) {
-        Melde(*einwand);
+    if (const auto objection = edit.Objection()) {
+        ShowNotice(*objection);
         return;
     }
-    m_naechsteAuswahl = std::move(auswahl);
-    emit Umgestellt(tags, {});
+    m_nextChosen = std::move(chosen);
+    emit ListEdited(tags, {});
 }
 
-void frmWerkbank::Hoch() {
-    Bearbeite([](ListEdit& u, const auto& zeilen) { u.MoveUp(zeilen); });
+void Workbench::MoveUp() {
+    EditChosen([](ListEdit& edit, const auto& rows) { edit.MoveUp(rows); });
 }
 
-void frmWerkbank::Runter() {
-    Bearbeite([](ListEdit& u, const auto& zeilen) { u.MoveDown(zeilen); });
+void Workbench::MoveDown() {
+    EditChosen([](ListEdit& edit, const auto& rows) { edit.MoveDown(rows); });
 }
 
-void frmWerkbank::Loesche() {
-    Bearbeite([](ListEdit& u, const auto& zeilen) { u.Remove(zeilen); });
+void Workbench::RemoveChosen() {
+    EditChosen([](ListEdit& edit, const auto& rows) { edit.Remove(rows); });
 }
 
-void frmWerkbank::Verdopple() {
-    Bearbeite([](ListEdit& u, const auto& zeilen) { u.Duplicate(zeilen); });
+void Workbench::DuplicateChosen() {
+    EditChosen([](ListEdit& edit, const auto& rows) { edit.Duplicate(rows); });
 }
 
 // What was chosen stays so: the next row goes in behind this one.
-void frmWerkbank::FuegeEin(std::string_view tag, std::size_t vor) {
-    ListEdit umstellung(m_plan.LV_Bauliste);
-    umstellung.Insert(vor, tag);
-    auto auswahl = m_liste->Gewaehlte();
-    for (std::size_t& zeile : auswahl) {
-        zeile += zeile >= vor ? 1 : 0;
+void Workbench::InsertRow(std::string_view tag, std::size_t before) {
+    ListEdit edit(m_plan.LV_Bauliste);
+    edit.Insert(before, tag);
+    auto chosen = m_list->ChosenRows();
+    for (std::size_t& row : chosen) {
+        row += row >= before ? 1 : 0;
     }
-    Stelle(umstellung, std::move(auswahl));
+    ApplyEdit(edit, std::move(chosen));
 }
 
-std::size_t frmWerkbank::Einfuegestelle() const {
-    const auto gewaehlt = m_liste->Gewaehlte();
-    return gewaehlt.empty() ? m_plan.LV_Bauliste.Rows().size() : gewaehlt.front();
+std::size_t Workbench::InsertPosition() const {
+    const auto chosen = m_list->ChosenRows();
+    return chosen.empty() ? m_plan.LV_Bauliste.Rows().size() : chosen.front();
 }
 
-void frmWerkbank::BildSpeichern() {
-    const auto datei = m_umgebung.AskForFile(Dialogs::Purpose::Picture);
-    if (datei.empty()) {
+void Workbench::SavePicture() {
+    const auto file = m_environment.AskForFile(Dialogs::Purpose::Picture);
+    if (file.empty()) {
         return;
     }
-    const auto bild = BildVon(*m_zeitleiste, QFileInfo(PathToQString(datei)).suffix());
-    if (!bild) {
-        Melde(std::string("Der Name des Bildes endet auf .png, ") + (HasSvg() ? ".svg " : "") +
-              "oder .pdf: es wurde nichts gespeichert.");
+    const auto picture = RenderTimeline(*m_timeline, QFileInfo(PathToQString(file)).suffix());
+    if (!picture) {
+        ShowNotice(std::string("Der Name des Bildes endet auf .png, ") + (HasSvg() ? ".svg " : "") +
+                   "oder .pdf: es wurde nichts gespeichert.");
         return;
     }
-    SchreibeDatei(datei, bild->toStdString());
+    SaveBytes(file, picture->toStdString());
 }
 
-void frmWerkbank::Kopieren() {
-    auto* const inhalt = new QMimeData;
-    inhalt->setText(ToQString(ZeitplanMitTabs(*m_ablauf)));
-    inhalt->setHtml(ToQString(ZeitplanAlsTabelle(*m_ablauf)));
+void Workbench::CopyTimetable() {
+    auto* const content = new QMimeData;
+    content->setText(ToQString(TimetableTsv(*m_trace)));
+    content->setHtml(ToQString(TimetableHtml(*m_trace)));
     // The clipboard owns it.
-    QGuiApplication::clipboard()->setMimeData(inhalt);
-    Melde("Der Zeitplan liegt in der Zwischenablage.");
+    QGuiApplication::clipboard()->setMimeData(content);
+    ShowNotice("Der Zeitplan liegt in der Zwischenablage.");
 }
 
-void frmWerkbank::KalenderSpeichern() {
-    const auto datei = m_umgebung.AskForFile(Dialogs::Purpose::Calendar);
-    if (!datei.empty()) {
-        const auto stand =
+void Workbench::SaveCalendar() {
+    const auto file = m_environment.AskForFile(Dialogs::Purpose::Calendar);
+    if (!file.empty()) {
+        const auto state =
             std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
-        SchreibeDatei(datei, CalendarText(*m_ablauf, ParseLeadTime(m_vorher()), stand));
+        SaveBytes(file, CalendarText(*m_trace, ParseLeadTime(m_before()), state));
     }
 }
 
-void frmWerkbank::SchreibeDatei(const std::filesystem::path& datei, const std::string& bytes) {
-    if (WriteFileAtomically(datei, bytes, m_umgebung.files)) {
-        Melde("Gespeichert: " + PathToQString(datei).toStdString());
+void Workbench::SaveBytes(const std::filesystem::path& file, const std::string& bytes) {
+    if (WriteFileAtomically(file, bytes, m_environment.files)) {
+        ShowNotice("Gespeichert: " + PathToQString(file).toStdString());
     } else {
-        Melde(
+        ShowNotice(
             "Die Datei konnte nicht gespeichert werden: wähle einen Ordner, in dem du schreiben "
             "kannst.");
     }
 }
 
-TableModel::Provider frmWerkbank::Listenquelle() const {
-    return {.rows = [this] { return m_plan.LV_Bauliste.Rows().size(); },
-            .text = [this](std::size_t zeile,
-                           int spalte) { return ToQString(Zellentext(zeile, spalte)); },
-            .color =
-                [this](std::size_t zeile, int spalte) {
-                    const bool rot =
-                        spalte == kFaktor &&
-                        m_plan.LV_Bauliste.Rows()[zeile].SubItems2Color == TextColor::Red;
-                    return rot ? m_zeitleiste->Mangelfarbe() : palette().color(QPalette::Text);
-                },
-            .description =
-                [this](std::size_t zeile) {
-                    // Narrow columns cut their texts.
-                    std::string text = Zellentext(zeile, kAuftrag);
-                    for (const int spalte : {kStart, kFertig, kGrund}) {
-                        text += "\n" + Zellentext(zeile, spalte);
-                    }
-                    return ToQString(text).trimmed();
-                }};
+TableModel::Provider Workbench::ListProvider() const {
+    return {
+        .rows = [this] { return m_plan.LV_Bauliste.Rows().size(); },
+        .text = [this](std::size_t row, int column) { return ToQString(CellText(row, column)); },
+        .color =
+            [this](std::size_t row, int column) {
+                const bool red = column == kFactor &&
+                                 m_plan.LV_Bauliste.Rows()[row].SubItems2Color == TextColor::Red;
+                return red ? m_timeline->DeficitColor() : palette().color(QPalette::Text);
+            },
+        .description =
+            [this](std::size_t row) {
+                // Narrow columns cut their texts.
+                std::string text = CellText(row, kOrder);
+                for (const int column : {kStart, kFinish, kDelay}) {
+                    text += "\n" + CellText(row, column);
+                }
+                return ToQString(text).trimmed();
+            }};
 }
 
-std::string frmWerkbank::Zellentext(std::size_t zeile, int spalte) const {
-    const BuildListRow& texte = m_plan.LV_Bauliste.Rows()[zeile];
-    const StartEvent* const start = m_ablauf ? m_ablauf->StartOf(zeile) : nullptr;
-    switch (spalte) {
-        case kNummer:
-            return texte.text;
-        case kAuftrag:
-            return texte.SubItems1;
+std::string Workbench::CellText(std::size_t row, int column) const {
+    const BuildListRow& texts = m_plan.LV_Bauliste.Rows()[row];
+    const StartEvent* const start = m_trace ? m_trace->StartOf(row) : nullptr;
+    switch (column) {
+        case kNumber:
+            return texts.text;
+        case kOrder:
+            return texts.SubItems1;
         case kStart:
-            return start != nullptr ? Zeittext(m_ablauf->conditions.WallClock(start->start)) : "";
-        case kFertig:
-            return start != nullptr ? Zeittext(m_ablauf->conditions.WallClock(start->finish)) : "";
-        case kGrund:
-            return m_ablauf ? DelayText(*m_ablauf, zeile) : "";
+            return start != nullptr ? ShortDateTimeText(m_trace->conditions.WallClock(start->start))
+                                    : "";
+        case kFinish:
+            return start != nullptr
+                       ? ShortDateTimeText(m_trace->conditions.WallClock(start->finish))
+                       : "";
+        case kDelay:
+            return m_trace ? DelayText(*m_trace, row) : "";
         default:
-            return texte.SubItems2;
+            return texts.SubItems2;
     }
 }
 

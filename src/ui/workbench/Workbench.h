@@ -28,32 +28,32 @@ namespace tarvelin {
 
 /// Shows a plan that another window owns, and a run of it that it plays for itself. It changes
 /// nothing of the plan: it tells what it is to be.
-class frmWerkbank : public QWidget {
+class Workbench : public QWidget {
     Q_OBJECT
 
   public:
     /// All of them must outlive it.
-    /// `vorher` tells how many seconds before a start the alarm rings, as its input has it.
-    frmWerkbank(const Plan& plan, const EditHistory& verlauf, std::function<std::string()> vorher,
-                const Environment& umgebung);
-    frmWerkbank(const frmWerkbank&) = delete;
-    frmWerkbank& operator=(const frmWerkbank&) = delete;
-    ~frmWerkbank() override;
+    /// `before` tells how many seconds before a start the alarm rings, as its input has it.
+    Workbench(const Plan& plan, const EditHistory& history, std::function<std::string()> before,
+              const Environment& environment);
+    Workbench(const Workbench&) = delete;
+    Workbench& operator=(const Workbench&) = delete;
+    ~Workbench() override;
 
     /// The plan has changed; plays it anew, if the window is open.
-    void ZeigePlan();
-    void SetzeBilder(const PerItem<QPixmap>& bilder);
+    void RefreshPlan();
+    void SetPictures(const PerItem<QPixmap>& pictures);
 
-    /// Opens the window where `konfiguration` says, the first time, or brings it to the front.
-    void Oeffne(const Configuration& konfiguration);
+    /// Opens the window where `configuration` says, the first time, or brings it to the front.
+    void Open(const Configuration& configuration);
     /// Size and place for the next start.
-    [[nodiscard]] Configuration::Values Lage() const;
+    [[nodiscard]] Configuration::Values GeometryValues() const;
 
   signals:
     /// The rows that the plan is to have, and what is to stand in front of its sleep rows.
-    void Umgestellt(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause);
-    void ZurueckGewuenscht();
-    void VorGewuenscht();
+    void ListEdited(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause);
+    void UndoRequested();
+    void RedoRequested();
 
   protected:
     bool event(QEvent* event) override;
@@ -61,70 +61,70 @@ class frmWerkbank : public QWidget {
     void hideEvent(QHideEvent* event) override;
 
   private:
-    void LegeAus();
-    void FuelleFelder();
-    QPushButton* NeuerBefehl(const char* name, const char* text, const QKeySequence& taste,
-                             void (frmWerkbank::*handler)());
-    void Verbinde();
-    void FolgeDesktop();
-    void SetzeMeldungshoehe();
-    void Spiele();
-    void ZeigeFuss();
-    void ZeigeAuswahl();
-    void ZeigeEinwaende();
-    void ZeigeZeiger(std::optional<SimTime> moment);
-    void Ticke();
-    void Melde(const std::string& text);
+    void Arrange();
+    void AddPages();
+    QPushButton* NewCommandButton(const char* name, const char* text, const QKeySequence& key,
+                                  void (Workbench::*handler)());
+    void ConnectSignals();
+    void FollowDesktop();
+    void SetMessageHeight();
+    void PlayPlan();
+    void ShowFooter();
+    void ShowChoice();
+    void ShowObjections();
+    void ShowStatusAt(std::optional<SimTime> moment);
+    void Tick();
+    void ShowNotice(const std::string& text);
 
     /// Carries an edit out, after which these rows are chosen, or tells why it can't be.
-    void Stelle(const ListEdit& umstellung, std::vector<std::size_t> auswahl);
+    void ApplyEdit(const ListEdit& edit, std::vector<std::size_t> chosen);
     /// Makes one of an edit of the chosen rows, which stay so.
-    template <class Schritt>
-    void Bearbeite(Schritt schritt);
-    void Hoch();
-    void Runter();
-    void Loesche();
-    void Verdopple();
-    void FuegeEin(std::string_view tag, std::size_t vor);
-    void BildSpeichern();
-    void Kopieren();
-    void KalenderSpeichern();
-    void SchreibeDatei(const std::filesystem::path& datei, const std::string& bytes);
+    template <class Step>
+    void EditChosen(Step step);
+    void MoveUp();
+    void MoveDown();
+    void RemoveChosen();
+    void DuplicateChosen();
+    void InsertRow(std::string_view tag, std::size_t before);
+    void SavePicture();
+    void CopyTimetable();
+    void SaveCalendar();
+    void SaveBytes(const std::filesystem::path& file, const std::string& bytes);
     /// In front of which row a new one goes: the first that is chosen, or behind the last.
-    [[nodiscard]] std::size_t Einfuegestelle() const;
-    [[nodiscard]] TableModel::Provider Listenquelle() const;
-    [[nodiscard]] std::string Zellentext(std::size_t zeile, int spalte) const;
+    [[nodiscard]] std::size_t InsertPosition() const;
+    [[nodiscard]] TableModel::Provider ListProvider() const;
+    [[nodiscard]] std::string CellText(std::size_t row, int column) const;
 
     const Plan& m_plan;
-    const EditHistory& m_verlauf;
-    std::function<std::string()> m_vorher;
-    const Environment& m_umgebung;
+    const EditHistory& m_history;
+    std::function<std::string()> m_before;
+    const Environment& m_environment;
     /// Nothing, with the reason in the strip, if the plan can't be run.
-    std::optional<RunTrace> m_ablauf;
+    std::optional<RunTrace> m_trace;
     /// The duration before the last step that was done or taken back, and how many lay behind the
     /// plan then.
-    std::optional<Long> m_dauerDavor;
-    std::size_t m_schritte = 0;
-    std::optional<Long> m_aenderung;
+    std::optional<Long> m_durationBefore;
+    std::size_t m_steps = 0;
+    std::optional<Long> m_change;
     /// Which rows are to be chosen when the plan comes back from an edit.
-    std::optional<std::vector<std::size_t>> m_naechsteAuswahl;
+    std::optional<std::vector<std::size_t>> m_nextChosen;
 
-    QLabel* m_LBL_Meldung;
-    Auftragsansicht* m_liste;
-    QTabWidget* m_felder;
-    Itempalette* m_palette;
-    Suchfeld* m_suchfeld;
-    Vergleichsfeld* m_vergleichsfeld;
-    Zeitleiste* m_zeitleiste;
-    QLabel* m_LBL_Stand;
-    QLabel* m_LBL_Dauer;
-    QLabel* m_LBL_Aenderung;
-    QLabel* m_LBL_Naechster;
-    QPushButton* m_zurueck = nullptr;
-    QPushButton* m_vor = nullptr;
-    std::vector<QPushButton*> m_befehle;
-    SecondTimer m_takt{QStringLiteral("Tmr_Werkbank"), this};
-    bool m_warOffen = false;
+    QLabel* m_messageLabel;
+    OrderListView* m_list;
+    QTabWidget* m_pages;
+    ItemPalette* m_palette;
+    SearchPage* m_searchPage;
+    ComparisonPage* m_comparisonPage;
+    TimelineView* m_timeline;
+    QLabel* m_statusLabel;
+    QLabel* m_durationLabel;
+    QLabel* m_changeLabel;
+    QLabel* m_nextOrderLabel;
+    QPushButton* m_back = nullptr;
+    QPushButton* m_forward = nullptr;
+    std::vector<QPushButton*> m_commands;
+    SecondTimer m_timer{QStringLiteral("Tmr_Werkbank"), this};
+    bool m_wasOpen = false;
 };
 
 }  // namespace tarvelin
