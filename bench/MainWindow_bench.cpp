@@ -66,7 +66,7 @@ void ZeigeGanz(frmMain& fenster) {
 
 /// As many rows as a list can hold, all items in turn.
 void Fuelle(const frmMain& fenster) {
-    auto* const liste = fenster.findChild<Baulistenansicht*>();
+    auto* const liste = fenster.findChild<BuildListView*>();
     for (std::size_t i = 0; i < OrderList::kMaxSize; ++i) {
         emit liste->DragDrop(ToQString(ItemDisplays()[i % kNumItems].pictureName));
     }
@@ -100,7 +100,7 @@ void LangerPlanSimuliertUndGezeigt(benchmark::State& state) {
     ZeigeGanz(fenster);
     Fuelle(fenster);
     for (auto _ : state) {
-        fenster.StarteSimulation(true);
+        fenster.RunSimulation(true);
         fenster.grab();
     }
 }

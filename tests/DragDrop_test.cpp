@@ -10,7 +10,7 @@ using Ziehen = Fenster;
 
 TEST_F(Ziehen, VomBildInDieListe) {
     // The screen of this platform is tiny.
-    m_fenster.setFixedSize(frmMain::GroesseAuf({2000, 2000}));
+    m_fenster.setFixedSize(frmMain::SizeOn({2000, 2000}));
     Finde("Fra_Einstellungen").hide();
     const auto ziehe = [&](const char* bild, QPoint ziel) {
         QTimer::singleShot(0, &m_fenster, [this, ziel] {

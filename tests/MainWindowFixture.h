@@ -156,7 +156,7 @@ class Fenster : public testing::Test {
         for (std::size_t anfang = 0; anfang < codes.size();) {
             const std::size_t ende = std::min(codes.find(' ', anfang), codes.size());
             const auto item = ItemFromCode(codes.substr(anfang, ende - anfang));
-            emit Finde<Baulistenansicht>("LV_Bauliste")
+            emit Finde<BuildListView>("LV_Bauliste")
                 .DragDrop(ToQString(ItemDisplays()[*item].pictureName));
             anfang = ende + 1;
         }

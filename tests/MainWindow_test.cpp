@@ -44,9 +44,9 @@ TEST_F(Fenster, KleinerBildschirmRolltDieFlaeche) {
     for (const auto& [bildschirm, groesse] :
          {Fall{{858, 335}, {858, 335}}, Fall{{640, 400}, {632, 335}}, Fall{{640, 300}, {632, 264}},
           Fall{{2000, 320}, {858, 284}}}) {
-        EXPECT_EQ(frmMain::GroesseAuf(bildschirm), groesse) << bildschirm.width();
+        EXPECT_EQ(frmMain::SizeOn(bildschirm), groesse) << bildschirm.width();
     }
-    m_fenster.setFixedSize(frmMain::GroesseAuf({640, 300}));
+    m_fenster.setFixedSize(frmMain::SizeOn({640, 300}));
     QCoreApplication::processEvents();
     auto& alarm = Finde("Chk_BauWeckfunktion");
     EXPECT_TRUE(alarm.visibleRegion().isEmpty());
@@ -60,7 +60,7 @@ TEST_F(Fenster, KleinerBildschirmRolltDieFlaeche) {
 // Every widget that shows words has room for them, panels and groups in each state.
 TEST_F(Fenster, KeinWortIstAbgeschnitten) {
     Lade("GD GS GR GR GW");
-    m_fenster.StarteSimulation(true);
+    m_fenster.RunSimulation(true);
     for (const char* const feld : kFelder) {
         Finde(feld).show();
     }
@@ -117,13 +117,13 @@ TEST_F(Fenster, ListenFassenIhreLaengstenTexte) {
     Plan plan = PlanAus("GX:10:10:10");
     for (const ItemRow& item : ItemTable()) {
         for (int i = 0; i < 12; ++i) {
-            ASSERT_FALSE(plan.LV_Bauliste.AddItem(item.item, m_fenster.DerLauf().conditions));
+            ASSERT_FALSE(plan.LV_Bauliste.AddItem(item.item, m_fenster.CurrentRun().conditions));
         }
     }
     plan.LV_Schlafzeiten.assign(30,
                                 {.Startzeit = "28.12.2006 22:30", .Endzeit = "28.12.2006 23:30"});
     Lade(plan);
-    m_fenster.StarteSimulation(true);
+    m_fenster.RunSimulation(true);
     Finde("Fra_Sleep").show();
     QCoreApplication::processEvents();
     for (const char* const name : {"LV_Bauliste", "LV_Bauzeiten", "LV_Schlafzeiten"}) {
@@ -263,7 +263,7 @@ TEST_F(Fenster, FremdesWirdNirgendsAbgelegt) {
 }
 
 TEST_F(Fenster, UnbekannteQuelleUnd255teZeileGebenEineMeldung) {
-    auto& liste = Finde<Baulistenansicht>("LV_Bauliste");
+    auto& liste = Finde<BuildListView>("LV_Bauliste");
     emit liste.DragDrop(QStringLiteral("ImgUnbekannt"));
     for (int i = 0; i < 255; ++i) {
         emit liste.DragDrop(QStringLiteral("ImgSKW"));
@@ -283,7 +283,7 @@ TEST_F(Fenster, NeueZeilenKommenInsBildUndUndoRolltNicht) {
     const QAbstractItemModelTester pruefer(liste.model(),
                                            QAbstractItemModelTester::FailureReportingMode::Fatal);
     for (int i = 0; i < 60; ++i) {
-        emit Finde<Baulistenansicht>("LV_Bauliste").DragDrop(QStringLiteral("ImgMetMine"));
+        emit Finde<BuildListView>("LV_Bauliste").DragDrop(QStringLiteral("ImgMetMine"));
     }
     const auto letzte = [&] { return liste.visualRect(liste.model()->index(59, 0)); };
     EXPECT_TRUE(liste.viewport()->rect().contains(letzte()));
@@ -331,7 +331,7 @@ TEST_F(Fenster, EingabenLassenSichInDerMitteAendern) {
     EXPECT_EQ(Text("txt_UniStartZeitJahr"), "2006");
     // As a screen reader sets it.
     jahr.setText(QStringLiteral("2007"));
-    EXPECT_EQ(m_fenster.DerPlan().parameters.UniStartZeitJahr, "2007");
+    EXPECT_EQ(m_fenster.CurrentPlan().parameters.UniStartZeitJahr, "2007");
     EXPECT_EQ(Text("LBL_Weekday"), "So.");
 }
 
@@ -380,7 +380,7 @@ TEST_F(Fenster, TemperaturenSindVerbunden) {
     EXPECT_EQ(Text("txt_TempMin"), "11");
     Lade("GM");
     Tippe("txt_TempMax", "");
-    m_fenster.StarteSimulation(false);
+    m_fenster.RunSimulation(false);
     EXPECT_EQ(m_boxen.Texte.back(), "Keine gültige Temperatur eingegeben...");
 }
 
@@ -392,17 +392,17 @@ TEST_F(Fenster, WochentagFolgtDemDatumUndNichtDerUhrzeit) {
     EXPECT_EQ(Finde("LBL_Weekday").toolTip(), QStringLiteral("Freitag"));
     Tippe("txt_UniStartZeitStunden", "25");
     EXPECT_EQ(Text("LBL_Weekday"), "Fr.");
-    m_fenster.StarteSimulation(false);
+    m_fenster.RunSimulation(false);
     EXPECT_EQ(m_boxen.Texte.back(), "Kein gültiges Datum eingegeben...");
     EXPECT_EQ(Text("txt_UniStartZeitTag"), "03") << "padded although refused";
     EXPECT_EQ(Text("LBL_Weekday"), "Err.") << "as the day's text changed";
     Tippe("txt_UniStartZeitStunden", "12");
     EXPECT_EQ(Text("LBL_Weekday"), "Err.");
-    m_fenster.StarteSimulation(false);
+    m_fenster.RunSimulation(false);
     EXPECT_EQ(Text("LBL_Weekday"), "Fr.");
     EXPECT_EQ(m_boxen.Texte.size(), 1U);
     Tippe("txt_UniStartZeitStunden", "");
-    m_fenster.StarteSimulation(false);
+    m_fenster.RunSimulation(false);
     EXPECT_EQ(Text("LBL_Weekday"), "Fr.") << "nothing that it follows has changed";
     // A load sets day, month and year before the hour, and refreshes at each.
     Tippe("txt_UniStartZeitStunden", "12");
@@ -419,7 +419,7 @@ TEST_F(Fenster, DatumsmeldungZeigtDenAufgefuelltenTag) {
     Tippe("txt_UniStartZeitMinuten", "x");
     Tippe("txt_UniStartZeitTag", "5");
     m_boxen.BeiMeldung = [this] { EXPECT_EQ(Text("txt_UniStartZeitTag"), "05"); };
-    m_fenster.StarteSimulation(false);
+    m_fenster.RunSimulation(false);
     EXPECT_EQ(m_boxen.Texte.size(), 1U);
 }
 
@@ -431,9 +431,9 @@ TEST_F(Fenster, KlickpufferSpeedfaktorUndBeschreibungen) {
     EXPECT_EQ(Text("LBL_KlickPuffer"), "00:00");
     QTest::keyClick(&puffer, Qt::Key_End);
     EXPECT_EQ(Text("LBL_KlickPuffer"), "10:00");
-    EXPECT_EQ(m_fenster.DerPlan().parameters.KlickPuffer, 600);
+    EXPECT_EQ(m_fenster.CurrentPlan().parameters.KlickPuffer, 600);
     Druecke("Chk_Speedfaktor");
-    EXPECT_EQ(m_fenster.DerLauf().conditions.Speedfaktor, 2);
+    EXPECT_EQ(m_fenster.CurrentRun().conditions.Speedfaktor, 2);
     Druecke("cmd_ShowDesc");
     EXPECT_EQ(Text("cmd_ShowDesc"), "ein/AUS");
     EXPECT_FALSE(Finde("LBLDesc(0)").isVisible() || Finde("LBLDesc(19)").isVisible());
@@ -532,7 +532,7 @@ TEST_F(Fenster, SimulationSchliesstDieFelderUndJedeZeileNenntIhrenGrund) {
     auto& liste = Finde<QTreeView>("LV_Bauzeiten");
     const QRect dritte = liste.visualRect(liste.model()->index(2, 0));
     Bewege(*liste.viewport(), dritte.center());
-    EXPECT_EQ(liste.toolTip().toStdString(), m_fenster.DerLauf().LV_Bauzeiten[2].Tag());
+    EXPECT_EQ(liste.toolTip().toStdString(), m_fenster.CurrentRun().LV_Bauzeiten[2].Tag());
     QEvent weg(QEvent::Leave);
     QCoreApplication::sendEvent(liste.viewport(), &weg);
     EXPECT_EQ(liste.toolTip(), QString()) << "over the head or the bar";
@@ -544,7 +544,7 @@ TEST_F(Fenster, SimulationSchliesstDieFelderUndJedeZeileNenntIhrenGrund) {
 
 TEST_F(Fenster, ClearUndEingabefehlerLassenDenRestStehen) {
     Lade("GM");
-    m_fenster.StarteSimulation(true);
+    m_fenster.RunSimulation(true);
     const std::string punkte = Text("LBL_Punkte");
     Druecke("Cmd_Clear");
     EXPECT_EQ(Text("LBL_Timegone"), "Dauer: dd:hh:mm:ss");
@@ -560,7 +560,7 @@ TEST_F(Fenster, ClearUndEingabefehlerLassenDenRestStehen) {
 // A message in the middle of a run comes with the rows so far, and with what the reset wrote.
 TEST_F(Fenster, MeldungImLaufZeigtDenStandDesLaufs) {
     Lade("GM");
-    m_fenster.StarteSimulation(true);
+    m_fenster.RunSimulation(true);
     int meldungen = 0;
     m_boxen.BeiMeldung = [&] {
         EXPECT_EQ(Zeilen("LV_Bauzeiten"), ++meldungen);
@@ -569,7 +569,7 @@ TEST_F(Fenster, MeldungImLaufZeigtDenStandDesLaufs) {
     };
     // The lab costs deuterium, which nothing yields.
     Lade("GF GM");
-    m_fenster.StarteSimulation(true);
+    m_fenster.RunSimulation(true);
     EXPECT_EQ(meldungen, 2);
     // From the second one on the player can do without the rest of this run.
     m_boxen.BeiMeldung = nullptr;
@@ -578,7 +578,7 @@ TEST_F(Fenster, MeldungImLaufZeigtDenStandDesLaufs) {
         m_boxen.Texte.clear();
         m_boxen.Abstellbare = 0;
         m_boxen.Abstellen = abstellen;
-        m_fenster.StarteSimulation(true);
+        m_fenster.RunSimulation(true);
         EXPECT_EQ(m_boxen.Texte.size(), 1U + static_cast<std::size_t>(abstellen));
     }
 }
@@ -586,14 +586,14 @@ TEST_F(Fenster, MeldungImLaufZeigtDenStandDesLaufs) {
 TEST_F(Fenster, NeuerLaufBeginntMitLeererListe) {
     Plan plan;
     for (int i = 0; i < 60; ++i) {
-        ASSERT_FALSE(plan.LV_Bauliste.AddItem(ItemId::SKW, m_fenster.DerLauf().conditions));
+        ASSERT_FALSE(plan.LV_Bauliste.AddItem(ItemId::SKW, m_fenster.CurrentRun().conditions));
     }
-    plan.parameters = m_fenster.DerPlan().parameters;
+    plan.parameters = m_fenster.CurrentPlan().parameters;
     Lade(plan);
-    m_fenster.StarteSimulation(true);
+    m_fenster.RunSimulation(true);
     auto& liste = Finde<QTreeView>("LV_Bauzeiten");
     liste.setCurrentIndex(liste.model()->index(59, 0));
-    m_fenster.StarteSimulation(true);
+    m_fenster.RunSimulation(true);
     EXPECT_FALSE(liste.currentIndex().isValid());
     EXPECT_TRUE(liste.viewport()->rect().contains(liste.visualRect(liste.model()->index(0, 0))));
 }
@@ -639,7 +639,7 @@ TEST_F(Fenster, MausGibtEnterZurueck) {
     QTest::mouseClick(&Finde("Cmd_Clear"), Qt::LeftButton);
     ASSERT_EQ(QApplication::focusWidget(), &Finde("Cmd_Clear"));
     for (const char* const bild : {"ImgSKW", "ImgMetMine"}) {
-        emit Finde<Baulistenansicht>("LV_Bauliste").DragDrop(QString::fromLatin1(bild));
+        emit Finde<BuildListView>("LV_Bauliste").DragDrop(QString::fromLatin1(bild));
     }
     enter();
     EXPECT_EQ(Zeilen("LV_Bauliste"), 2);

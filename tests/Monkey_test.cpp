@@ -80,7 +80,7 @@ class Affe : public Fenster {
         } else if (was < 14) {
             Tippe();
         } else if (was < 19) {
-            emit Finde<Baulistenansicht>("LV_Bauliste")
+            emit Finde<BuildListView>("LV_Bauliste")
                 .DragDrop(ToQString(ItemDisplays()[Bis(kNumItems)].pictureName));
         } else {
             const auto eintraege = m_fenster.findChildren<QAction*>();
@@ -104,7 +104,7 @@ class Affe : public Fenster {
             })) << text;
         }
         m_boxen.Texte.clear();
-        const auto& zeilen = m_fenster.DerPlan().LV_Bauliste.Rows();
+        const auto& zeilen = m_fenster.CurrentPlan().LV_Bauliste.Rows();
         ASSERT_EQ(Zeilen("LV_Bauliste"), static_cast<int>(zeilen.size()));
         for (std::size_t i = 0; i < zeilen.size(); ++i) {
             EXPECT_EQ(Zelle("LV_Bauliste", static_cast<int>(i), 1), zeilen[i].SubItems1);

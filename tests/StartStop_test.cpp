@@ -28,7 +28,7 @@ class NeuerStart {
     ~NeuerStart() { m_fenster.close(); }
 
     frmMain* operator->() { return &m_fenster; }
-    std::size_t Zeilen() { return m_fenster.DerPlan().LV_Bauliste.Rows().size(); }
+    std::size_t Zeilen() { return m_fenster.CurrentPlan().LV_Bauliste.Rows().size(); }
 
   private:
     frmMain m_fenster;
@@ -125,7 +125,7 @@ TEST_F(Fensterleben, PlanAlsArgumentStattDesLetzten) {
         NeuerStart anderer(m_umgebung);
         EXPECT_EQ(LiesDatei(saves / "autosave-vorige.tvf"), letzter);
         anderer->findChild<QAbstractButton*>(QStringLiteral("Cmd_Clear"))->click();
-        emit anderer->findChild<Baulistenansicht*>(QStringLiteral("LV_Bauliste"))
+        emit anderer->findChild<BuildListView*>(QStringLiteral("LV_Bauliste"))
             ->DragDrop(QStringLiteral("ImgMetMine"));
     }
     const std::string geaendert = LiesDatei(saves / "autosave.tvf");
@@ -161,7 +161,7 @@ TEST_F(Fensterleben, OrdnerGehoertDemErstenProgramm) {
 // The end of a session is announced, and may still be called off.
 TEST_F(Fensterleben, SichernLaesstDasFensterOffen) {
     Lade("GM GM");
-    m_fenster.Sichere();
+    m_fenster.SaveNow();
     EXPECT_NE(LiesDatei(m_ordner / "saves" / "autosave.tvf").find("ItemCount=2"),
               std::string::npos);
     EXPECT_NE(LiesDatei(m_ordner / "config.cfg").find("ItemCount=2"), std::string::npos);
@@ -354,8 +354,8 @@ TEST_F(Fensterleben, NeuBeginntHeuteUndLaesstDenRest) {
 TEST_F(Fensterleben, AlarmeKlingelnNurSolangeSieAnSind) {
     Lade("GS GM");
     Tippe("txt_UniStartZeitStunden", "12");
-    m_fenster.StarteSimulation(true);
-    m_jetzt = m_fenster.DerLauf().LV_Bauzeiten[1].start + -10;
+    m_fenster.RunSimulation(true);
+    m_jetzt = m_fenster.CurrentRun().LV_Bauzeiten[1].start + -10;
     auto& takt = Finde<QTimer>("Tmr_BauWeckfunktion");
     const auto ticke = [&] { QMetaObject::invokeMethod(&takt, "timeout"); };
     EXPECT_FALSE(takt.isActive());
@@ -619,9 +619,10 @@ TEST_F(Fensterleben, VersionsvergleichNimmtJedesZeichen) {
     for (int i = 0; i < 100; ++i) {
         lang += "ä";
     }
-    EXPECT_NE(Versionsfrage(lang).text.find("(v" + lang.substr(0, 128) + ")zu"), std::string::npos);
+    EXPECT_NE(VersionQuestion(lang).text.find("(v" + lang.substr(0, 128) + ")zu"),
+              std::string::npos);
     // Bytes that are no text count one by one.
-    EXPECT_LT(Versionsfrage(std::string(1000, '\x80')).text.size(), 300U);
+    EXPECT_LT(VersionQuestion(std::string(1000, '\x80')).text.size(), 300U);
     EXPECT_EQ(m_boxen.Koepfe.back(),
               std::pair(std::string("Version-Check..."), MessageIcon::Information));
     EXPECT_TRUE(m_seiten.empty());
@@ -648,7 +649,7 @@ TEST_F(Fensterleben, InfofensterSindEinmaligUndFuehrenAufDieSeiten) {
     EXPECT_EQ(about.findChild<QLabel*>(QStringLiteral("lblVersion"))->text(),
               QStringLiteral(" Version ") + QString::fromLatin1(kVersion));
     about.findChild<QAbstractButton*>(QStringLiteral("Label1"))->click();
-    EXPECT_EQ(m_seiten, std::vector<std::string>{Homepage()});
+    EXPECT_EQ(m_seiten, std::vector<std::string>{HomePage()});
     for (const Qt::Key taste : {Qt::Key_Escape, Qt::Key_Return}) {
         about.findChild<QWidget*>(QStringLiteral("Label1"))->setFocus();
         QTest::keyClick(QApplication::focusWidget(), taste);
@@ -683,7 +684,7 @@ TEST_F(Fensterleben, InfofensterSindEinmaligUndFuehrenAufDieSeiten) {
               m_seiten[4].substr(0, m_seiten[4].find("&item")));
     // They stand beside the main window, and outlive its closing.
     bool geschrieben = false;
-    QObject::connect(&m_fenster, &frmMain::Geschlossen,
+    QObject::connect(&m_fenster, &frmMain::Closed,
                      [&] { geschrieben = fs::exists(m_ordner / "saves" / "autosave.tvf"); });
     m_fenster.close();
     EXPECT_TRUE(spenden.isVisible());

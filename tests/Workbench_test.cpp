@@ -70,7 +70,7 @@ class Werkbank : public Fenster {
     }
     [[nodiscard]] std::string Tags() const {
         std::string text;
-        for (const std::string& tag : m_fenster.DerPlan().LV_Bauliste.Tags()) {
+        for (const std::string& tag : m_fenster.CurrentPlan().LV_Bauliste.Tags()) {
             text += (text.empty() ? "" : " ") + tag;
         }
         return text;
@@ -78,7 +78,7 @@ class Werkbank : public Fenster {
     /// Both windows show the plan, with the texts of dropping its rows anew.
     void ErwarteEinig() {
         BuildList anew;
-        anew.SetTags(m_fenster.DerPlan().LV_Bauliste.Tags(), m_fenster.DerLauf().conditions);
+        anew.SetTags(m_fenster.CurrentPlan().LV_Bauliste.Tags(), m_fenster.CurrentRun().conditions);
         ASSERT_EQ(Zeilen("LV_Bauliste"), static_cast<int>(anew.Rows().size()));
         ASSERT_EQ(Dort<QTreeView>("LV_Werkbank").model()->rowCount(), Zeilen("LV_Bauliste"));
         for (int i = 0; i < Zeilen("LV_Bauliste"); ++i) {
@@ -239,7 +239,7 @@ TEST_F(Werkbank, BleibtMitDemAnderenFensterEinig) {
     const std::array bilder{"ImgMetMine", "ImgSKW",   "ImgDeutMine",
                             "ImgRobo",    "imgFolab", "ImgWerft"};
     for (int i = 0; i < 150; ++i) {
-        const auto zeilen = m_fenster.DerPlan().LV_Bauliste.Rows().size();
+        const auto zeilen = m_fenster.CurrentPlan().LV_Bauliste.Rows().size();
         std::vector<std::size_t> gewaehlt;
         for (std::size_t z = 0; z < zeilen; ++z) {
             if (eins(6)) {
@@ -267,7 +267,7 @@ TEST_F(Werkbank, BleibtMitDemAnderenFensterEinig) {
                 Tippe("txt_TempMax", eins(2) ? "20" : "90");
                 break;
             case 5:
-                emit Finde<Baulistenansicht>("LV_Bauliste").DragDrop(ToQString(bild));
+                emit Finde<BuildListView>("LV_Bauliste").DragDrop(ToQString(bild));
                 break;
             default:
                 Fuege(bild);
@@ -397,7 +397,7 @@ TEST_F(Werkbank, SuchtUndUebernimmtAlsEinenSchritt) {
     const auto bytes = [this] {
         // A save keeps what else a file holds.
         std::filesystem::remove(m_ordner / "jetzt.tvf");
-        EXPECT_TRUE(SaveBauliste(m_ordner / "jetzt.tvf", m_fenster.DerPlan()));
+        EXPECT_TRUE(SaveBauliste(m_ordner / "jetzt.tvf", m_fenster.CurrentPlan()));
         return LiesDatei(m_ordner / "jetzt.tvf");
     };
     const auto suche = [this](int versuche) {
@@ -421,10 +421,10 @@ TEST_F(Werkbank, SuchtUndUebernimmtAlsEinenSchritt) {
     Dort<QAbstractButton>("Cmd_Uebernehmen").click();
     const std::string nachher = bytes();
     EXPECT_NE(nachher, vorher);
-    EXPECT_EQ(m_fenster.DerPlan().LV_Bauliste.Tags()[40], starter.plan.LV_Bauliste.Tags()[40]);
-    EXPECT_EQ(m_fenster.DerPlan().LV_Schlafzeiten.front().Startzeit, "03.12.2026 10:30");
+    EXPECT_EQ(m_fenster.CurrentPlan().LV_Bauliste.Tags()[40], starter.plan.LV_Bauliste.Tags()[40]);
+    EXPECT_EQ(m_fenster.CurrentPlan().LV_Schlafzeiten.front().Startzeit, "03.12.2026 10:30");
     EXPECT_EQ(Sagt("LBL_Dauer"), Text("LBL_Timegone"));
-    const auto dauer = TimeSpanText(m_fenster.DerLauf().state.secsgone.Seconds());
+    const auto dauer = TimeSpanText(m_fenster.CurrentRun().state.secsgone.Seconds());
     EXPECT_NE(bericht.find("Nachher: " + dauer + ","), std::string::npos) << bericht << dauer;
     EXPECT_TRUE(m_boxen.Texte.empty());
     const std::string aenderung = Sagt("LBL_Aenderung");

@@ -97,7 +97,7 @@ int main(int argc, char** argv) {
         .startNotice = ordner.canKeep ? std::nullopt : std::optional(OhneNutzerordner())};
     tarvelin::frmMain fenster(umgebung);
     // Small windows may stay open; they keep nothing.
-    QObject::connect(&fenster, &tarvelin::frmMain::Geschlossen, [&schloss] { schloss.Release(); });
+    QObject::connect(&fenster, &tarvelin::frmMain::Closed, [&schloss] { schloss.Release(); });
     // Whatever is open closes with the window, and every event loop ends.
     const auto beende = [&fenster] {
         fenster.close();
@@ -107,7 +107,7 @@ int main(int argc, char** argv) {
     const tarvelin::TerminationSignals signale(beende);
     // The session may go on after it; its end closes the windows.
     QObject::connect(&programm, &QGuiApplication::commitDataRequest, &fenster,
-                     &tarvelin::frmMain::Sichere, Qt::DirectConnection);
+                     &tarvelin::frmMain::SaveNow, Qt::DirectConnection);
     // Within the event loop, which a signal can end.
     QTimer::singleShot(0, &fenster, &tarvelin::frmMain::Form_Load);
     return QApplication::exec();

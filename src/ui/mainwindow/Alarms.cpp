@@ -5,46 +5,46 @@
 
 namespace tarvelin {
 
-Alarme::Alarme(const Quellen& quellen, const Environment& umgebung, QObject* parent)
+Alarms::Alarms(const Inputs& inputs, const Environment& environment, QObject* parent)
     : QObject(parent),
-      m_quellen(quellen),
-      m_umgebung(umgebung),
-      m_konfiguration(umgebung.programFolder, umgebung.files),
+      m_inputs(inputs),
+      m_environment(environment),
+      m_configuration(environment.programFolder, environment.files),
       m_Tmr_BauWeckfunktion(QStringLiteral("Tmr_BauWeckfunktion"), this),
       m_Tmr_Schlafweckfunktion(QStringLiteral("Tmr_Schlafweckfunktion"), this) {
-    connect(&quellen.Chk_BauWeckfunktion, &QCheckBox::toggled, &m_Tmr_BauWeckfunktion,
+    connect(&inputs.Chk_BauWeckfunktion, &QCheckBox::toggled, &m_Tmr_BauWeckfunktion,
             &SecondTimer::SetRunning);
-    connect(&quellen.Chk_Schlafzeitenwecker, &QCheckBox::toggled, &m_Tmr_Schlafweckfunktion,
+    connect(&inputs.Chk_Schlafzeitenwecker, &QCheckBox::toggled, &m_Tmr_Schlafweckfunktion,
             &SecondTimer::SetRunning);
-    connect(&m_Tmr_BauWeckfunktion, &QTimer::timeout, this, &Alarme::Tmr_BauWeckfunktion_Tick);
+    connect(&m_Tmr_BauWeckfunktion, &QTimer::timeout, this, &Alarms::Tmr_BauWeckfunktion_Tick);
     connect(&m_Tmr_Schlafweckfunktion, &QTimer::timeout, this,
-            &Alarme::Tmr_Schlafweckfunktion_Tick);
+            &Alarms::Tmr_Schlafweckfunktion_Tick);
 }
 
-void Alarme::LiesKonfiguration() {
-    m_quellen.Chk_BauWeckfunktion.setChecked(m_konfiguration.IsOn(Configuration::kBaulistenwecker));
-    m_quellen.Chk_Schlafzeitenwecker.setChecked(
-        m_konfiguration.IsOn(Configuration::kSchlafzeitenwecker));
+void Alarms::ReadConfiguration() {
+    m_inputs.Chk_BauWeckfunktion.setChecked(m_configuration.IsOn(Configuration::kBaulistenwecker));
+    m_inputs.Chk_Schlafzeitenwecker.setChecked(
+        m_configuration.IsOn(Configuration::kSchlafzeitenwecker));
 }
 
-void Alarme::Verstumme() {
+void Alarms::Silence() {
     m_Tmr_BauWeckfunktion.stop();
     m_Tmr_Schlafweckfunktion.stop();
 }
 
-void Alarme::Tmr_BauWeckfunktion_Tick() {
-    PlayAlert(DueStarts(m_quellen.LV_Bauzeiten, m_umgebung.now(),
-                        m_quellen.Comb_Before.currentText().toStdString()));
+void Alarms::Tmr_BauWeckfunktion_Tick() {
+    PlayAlert(DueStarts(m_inputs.LV_Bauzeiten, m_environment.now(),
+                        m_inputs.Comb_Before.currentText().toStdString()));
 }
 
-void Alarme::Tmr_Schlafweckfunktion_Tick() {
-    PlayAlert(DueSleepEnds(m_quellen.LV_Schlafzeiten, m_umgebung.now()));
+void Alarms::Tmr_Schlafweckfunktion_Tick() {
+    PlayAlert(DueSleepEnds(m_inputs.LV_Schlafzeiten, m_environment.now()));
 }
 
 // Once for each row that rings; the last one is heard to its end.
-void Alarme::PlayAlert(std::size_t mal) {
-    for (std::size_t i = 0; i < mal; ++i) {
-        m_umgebung.sound.Play(m_konfiguration.Alertsound());
+void Alarms::PlayAlert(std::size_t times) {
+    for (std::size_t i = 0; i < times; ++i) {
+        m_environment.sound.Play(m_configuration.Alertsound());
     }
 }
 

@@ -13,11 +13,11 @@
 namespace tarvelin {
 
 /// Each alarm runs as long as its box is checked, and compares what stands in its table at a tick.
-class Alarme : public QObject {
+class Alarms : public QObject {
     Q_OBJECT
 
   public:
-    struct Quellen {
+    struct Inputs {
         const Schedule& LV_Bauzeiten;
         const SleepTable& LV_Schlafzeiten;
         QCheckBox& Chk_BauWeckfunktion;
@@ -26,21 +26,21 @@ class Alarme : public QObject {
     };
 
     /// What it is given must outlive it.
-    Alarme(const Quellen& quellen, const Environment& umgebung, QObject* parent);
+    Alarms(const Inputs& inputs, const Environment& environment, QObject* parent);
 
     /// Sets the boxes as the configuration has them.
-    void LiesKonfiguration();
+    void ReadConfiguration();
     /// No tick comes any more.
-    void Verstumme();
+    void Silence();
 
   private:
     void Tmr_BauWeckfunktion_Tick();
     void Tmr_Schlafweckfunktion_Tick();
-    void PlayAlert(std::size_t mal);
+    void PlayAlert(std::size_t times);
 
-    Quellen m_quellen;
-    const Environment& m_umgebung;
-    Configuration m_konfiguration;
+    Inputs m_inputs;
+    const Environment& m_environment;
+    Configuration m_configuration;
     SecondTimer m_Tmr_BauWeckfunktion;
     SecondTimer m_Tmr_Schlafweckfunktion;
 };

@@ -12,24 +12,25 @@
 
 namespace tarvelin {
 
-void ApplySkin(Byte Mode, const std::string& Path, const QWidget& flaeche,
-               const std::filesystem::path& programmordner) {
-    const auto lade = [&flaeche](std::string_view name, const std::filesystem::path& datei) {
-        const QPixmap bild = LoadPixmap(datei);
-        if (!bild.isNull()) {
-            flaeche.findChild<QLabel*>(ToQString(name))->setPixmap(bild);
+void ApplySkin(Byte Mode, const std::string& Path, const QWidget& surface,
+               const std::filesystem::path& programFolder) {
+    const auto load = [&surface](std::string_view name, const std::filesystem::path& file) {
+        const QPixmap picture = LoadPixmap(file);
+        if (!picture.isNull()) {
+            surface.findChild<QLabel*>(ToQString(name))->setPixmap(picture);
         }
     };
-    const auto bilder = programmordner / "img";
-    lade("Images(4)", bilder / "summe.gif");
-    if (Mode != kStandardskin && Mode != kLokalerSkin) {
+    const auto pictures = programFolder / "img";
+    load("Images(4)", pictures / "summe.gif");
+    if (Mode != kStandardSkin && Mode != kLocalSkin) {
         return;
     }
     // Whatever the name, the folder lies among the skins.
-    auto ordner = bilder / "skins";
-    ordner += "/" + (Mode == kStandardskin ? "standard" : Path);
-    for (const Skinbild& bild : Skinbilder()) {
-        lade(bild.Bild, ordner / bild.Ordner / (std::string(bild.Name) + ".gif"));
+    auto folder = pictures / "skins";
+    folder += "/" + (Mode == kStandardSkin ? "standard" : Path);
+    for (const SkinPicture& picture : SkinPictures()) {
+        load(picture.pictureName,
+             folder / picture.TempFolder / (std::string(picture.name) + ".gif"));
     }
 }
 

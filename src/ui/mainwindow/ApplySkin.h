@@ -11,8 +11,8 @@ namespace tarvelin {
 
 /// Shows the skin of a source: the standard skin, or the local one in the folder `Path`; any other
 /// mode shows none. The symbol of the points belongs to all of them. A picture that is missing
-/// leaves the one before. The labels lie below `flaeche`.
-void ApplySkin(Byte Mode, const std::string& Path, const QWidget& flaeche,
-               const std::filesystem::path& programmordner);
+/// leaves the one before. The labels lie below `surface`.
+void ApplySkin(Byte Mode, const std::string& Path, const QWidget& surface,
+               const std::filesystem::path& programFolder);
 
 }  // namespace tarvelin

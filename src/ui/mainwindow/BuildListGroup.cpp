@@ -8,38 +8,39 @@ namespace tarvelin {
 
 namespace {
 
-TableModel::Provider QuelleVon(const BuildList& liste) {
-    return {
-        .rows = [&liste] { return liste.Rows().size(); },
-        .text =
-            [&liste](std::size_t zeile, int spalte) {
-                const BuildListRow& z = liste.Rows()[zeile];
-                return ToQString(spalte == 0 ? z.text : spalte == 1 ? z.SubItems1 : z.SubItems2);
-            },
-        .color =
-            [&liste](std::size_t zeile, int spalte) {
-                const TextColor farbe = liste.Rows()[zeile].SubItems2Color;
-                return QColor(spalte == 2 ? static_cast<int>(farbe) : 0, 0, 0);
-            }};
+TableModel::Provider ProviderOf(const BuildList& list) {
+    return {.rows = [&list] { return list.Rows().size(); },
+            .text =
+                [&list](std::size_t row, int column) {
+                    const BuildListRow& tableRow = list.Rows()[row];
+                    return ToQString(column == 0   ? tableRow.text
+                                     : column == 1 ? tableRow.SubItems1
+                                                   : tableRow.SubItems2);
+                },
+            .color =
+                [&list](std::size_t row, int column) {
+                    const TextColor color = list.Rows()[row].SubItems2Color;
+                    return QColor(column == 2 ? static_cast<int>(color) : 0, 0, 0);
+                }};
 }
 
 }  // namespace
 
-Baulistengruppe::Baulistengruppe(const BuildList& liste, QWidget* parent)
+BuildListGroup::BuildListGroup(const BuildList& list, QWidget* parent)
     : GroupBox(QStringLiteral("Frame8"), QStringLiteral("Bauliste:"), parent),
-      LV_Bauliste(new Baulistenansicht(this)),
+      LV_Bauliste(new BuildListView(this)),
       Cmd_Undo(NewButton(QStringLiteral("Cmd_Undo"), QStringLiteral("Undo"), this)),
       Cmd_Clear(NewButton(QStringLiteral("Cmd_Clear"), QStringLiteral("Clear"), this)),
       Cmd_Simulate(
           NewButton(QStringLiteral("Cmd_Simulate"), QStringLiteral("Simulation starten"), this)),
-      m_modell(new TableModel({{}, {}, {}}, QuelleVon(liste), this)),
-      m_vorraete(new QGridLayout),
-      m_LBL_Met(NeuerVorrat(0, 5, QStringLiteral(" Metall "), QStringLiteral("LBL_Met"))),
-      m_LBL_Kris(NeuerVorrat(1, 5, QStringLiteral(" Kristall "), QStringLiteral("LBL_Kris"))),
-      m_LBL_Deut(NeuerVorrat(2, 5, QStringLiteral(" Deuterium "), QStringLiteral("LBL_Deut"))),
-      m_LBL_ENergie(NeuerVorrat(3, 7, QStringLiteral(" Energie "), QStringLiteral("LBL_ENergie"))),
+      m_model(new TableModel({{}, {}, {}}, ProviderOf(list), this)),
+      m_stocks(new QGridLayout),
+      m_LBL_Met(NewStock(0, 5, QStringLiteral(" Metall "), QStringLiteral("LBL_Met"))),
+      m_LBL_Kris(NewStock(1, 5, QStringLiteral(" Kristall "), QStringLiteral("LBL_Kris"))),
+      m_LBL_Deut(NewStock(2, 5, QStringLiteral(" Deuterium "), QStringLiteral("LBL_Deut"))),
+      m_LBL_ENergie(NewStock(3, 7, QStringLiteral(" Energie "), QStringLiteral("LBL_ENergie"))),
       m_LBL_Timegone(NewLabel(QStringLiteral("LBL_Timegone"), {}, this)) {
-    LV_Bauliste->setModel(m_modell);
+    LV_Bauliste->setModel(m_model);
     QLabel* const prod =
         NewLabel(QStringLiteral("LBL_ProdProzent"), QStringLiteral("Prod %"), this);
     prod->setToolTip(QStringLiteral(
@@ -51,7 +52,7 @@ Baulistengruppe::Baulistengruppe(const BuildList& liste, QWidget* parent)
     layout->setContentsMargins(3, 2, 3, 3);
     layout->setSpacing(3);
     layout->addWidget(LV_Bauliste, 0, 0, 1, 3);
-    layout->addLayout(m_vorraete, 1, 0, 1, 3);
+    layout->addLayout(m_stocks, 1, 0, 1, 3);
     layout->addWidget(m_LBL_Timegone, 2, 0, 1, 3);
     layout->addWidget(Cmd_Undo, 3, 0);
     layout->addWidget(Cmd_Clear, 3, 1);
@@ -62,26 +63,26 @@ Baulistengruppe::Baulistengruppe(const BuildList& liste, QWidget* parent)
     layout->setColumnStretch(2, 5);
 }
 
-NumberLabel* Baulistengruppe::NeuerVorrat(int nummer, int breite, const QString& hinweis,
-                                          const QString& name) {
-    QLabel* const bild =
-        NewPicture(QStringLiteral("Images(%1)").arg(nummer), {26, 26}, hinweis, this);
+NumberLabel* BuildListGroup::NewStock(int number, int width, const QString& hint,
+                                      const QString& name) {
+    QLabel* const picture =
+        NewPicture(QStringLiteral("Images(%1)").arg(number), {26, 26}, hint, this);
     auto* const label = new NumberLabel(name, this);
-    label->setAccessibleDescription(hinweis.trimmed());
-    m_vorraete->setHorizontalSpacing(2);
-    m_vorraete->setVerticalSpacing(1);
-    m_vorraete->addWidget(bild, 0, nummer, Qt::AlignCenter);
-    m_vorraete->addWidget(label, 1, nummer);
-    m_vorraete->setColumnStretch(nummer, breite);
+    label->setAccessibleDescription(hint.trimmed());
+    m_stocks->setHorizontalSpacing(2);
+    m_stocks->setVerticalSpacing(1);
+    m_stocks->addWidget(picture, 0, number, Qt::AlignCenter);
+    m_stocks->addWidget(label, 1, number);
+    m_stocks->setColumnStretch(number, width);
     return label;
 }
 
-void Baulistengruppe::Zeige(const ResultTexts& texte) {
-    m_LBL_Met->Assign(ToQString(texte.LBL_Met));
-    m_LBL_Kris->Assign(ToQString(texte.LBL_Kris));
-    m_LBL_Deut->Assign(ToQString(texte.LBL_Deut));
-    m_LBL_ENergie->Assign(ToQString(texte.LBL_ENergie));
-    m_LBL_Timegone->setText(ToQString(texte.LBL_Timegone));
+void BuildListGroup::ShowResult(const ResultTexts& texts) {
+    m_LBL_Met->Assign(ToQString(texts.LBL_Met));
+    m_LBL_Kris->Assign(ToQString(texts.LBL_Kris));
+    m_LBL_Deut->Assign(ToQString(texts.LBL_Deut));
+    m_LBL_ENergie->Assign(ToQString(texts.LBL_ENergie));
+    m_LBL_Timegone->setText(ToQString(texts.LBL_Timegone));
 }
 
 }  // namespace tarvelin

@@ -11,28 +11,28 @@
 
 namespace tarvelin {
 
-class Baulistengruppe : public GroupBox {
+class BuildListGroup : public GroupBox {
     Q_OBJECT
 
   public:
-    /// Shows the rows of `liste`, which must outlive the group.
-    Baulistengruppe(const BuildList& liste, QWidget* parent);
+    /// Shows the rows of `list`, which must outlive the group.
+    BuildListGroup(const BuildList& list, QWidget* parent);
 
     /// After a change of the list.
-    void ZeigeListe() { m_modell->Refresh(); }
-    void MacheLetzteSichtbar() { LV_Bauliste->scrollToBottom(); }
-    void Zeige(const ResultTexts& texte);
+    void ShowList() { m_model->Refresh(); }
+    void ScrollToLast() { LV_Bauliste->scrollToBottom(); }
+    void ShowResult(const ResultTexts& texts);
 
-    Baulistenansicht* const LV_Bauliste;
+    BuildListView* const LV_Bauliste;
     QPushButton* const Cmd_Undo;
     QPushButton* const Cmd_Clear;
     QPushButton* const Cmd_Simulate;
 
   private:
-    NumberLabel* NeuerVorrat(int nummer, int breite, const QString& hinweis, const QString& name);
+    NumberLabel* NewStock(int number, int width, const QString& hint, const QString& name);
 
-    TableModel* m_modell;
-    QGridLayout* m_vorraete;
+    TableModel* m_model;
+    QGridLayout* m_stocks;
     NumberLabel* m_LBL_Met;
     NumberLabel* m_LBL_Kris;
     NumberLabel* m_LBL_Deut;

@@ -10,18 +10,18 @@ namespace tarvelin {
 namespace {
 
 /// A drag from another program has no source here.
-const ItemPicture* GezogenesBild(const QDropEvent& event) {
+const ItemPicture* DraggedPicture(const QDropEvent& event) {
     return qobject_cast<const ItemPicture*>(event.source());
 }
 
-void NimmBildAn(QDropEvent& event) {
+void OfferPicture(QDropEvent& event) {
     event.setDropAction(Qt::CopyAction);
-    event.setAccepted(GezogenesBild(event) != nullptr);
+    event.setAccepted(DraggedPicture(event) != nullptr);
 }
 
 }  // namespace
 
-Baulistenansicht::Baulistenansicht(QWidget* parent)
+BuildListView::BuildListView(QWidget* parent)
     : ListView(QStringLiteral("LV_Bauliste"), QStringLiteral("Bauliste"), {640, 3636, 800},
                parent) {
     setHeaderHidden(true);
@@ -29,7 +29,7 @@ Baulistenansicht::Baulistenansicht(QWidget* parent)
 }
 
 // The bar at the side belongs to the list as much as the rows do.
-bool Baulistenansicht::event(QEvent* event) {
+bool BuildListView::event(QEvent* event) {
     switch (event->type()) {
         case QEvent::DragEnter:
         case QEvent::DragMove:
@@ -41,18 +41,18 @@ bool Baulistenansicht::event(QEvent* event) {
     }
 }
 
-void Baulistenansicht::dragEnterEvent(QDragEnterEvent* event) {
-    NimmBildAn(*event);
+void BuildListView::dragEnterEvent(QDragEnterEvent* event) {
+    OfferPicture(*event);
 }
 
-void Baulistenansicht::dragMoveEvent(QDragMoveEvent* event) {
-    NimmBildAn(*event);
+void BuildListView::dragMoveEvent(QDragMoveEvent* event) {
+    OfferPicture(*event);
 }
 
-void Baulistenansicht::dropEvent(QDropEvent* event) {
-    NimmBildAn(*event);
-    if (const ItemPicture* const bild = GezogenesBild(*event)) {
-        emit DragDrop(bild->objectName());
+void BuildListView::dropEvent(QDropEvent* event) {
+    OfferPicture(*event);
+    if (const ItemPicture* const picture = DraggedPicture(*event)) {
+        emit DragDrop(picture->objectName());
     }
 }
 

@@ -6,11 +6,11 @@
 namespace tarvelin {
 
 /// Takes drags of this window's item pictures and no others.
-class Baulistenansicht : public ListView {
+class BuildListView : public ListView {
     Q_OBJECT
 
   public:
-    explicit Baulistenansicht(QWidget* parent);
+    explicit BuildListView(QWidget* parent);
 
   signals:
     /// An item picture was dropped, told by its name.

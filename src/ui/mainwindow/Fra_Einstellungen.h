@@ -16,38 +16,38 @@ class Fra_Einstellungen : public Panel {
     Fra_Einstellungen(Plan& plan, QWidget* parent);
 
     /// After the program changed the parameters.
-    void Zeige();
+    void Refresh();
     void RefreshWeekday();
-    void Zeige(const WeekdayLabel& wochentag);
+    void Refresh(const WeekdayLabel& weekday);
 
   signals:
     /// The user has changed a parameter of a run in the input of this name.
-    void Geaendert(const QString& eingabe);
+    void Edited(const QString& input);
     void Chk_Speedfaktor_Click();
     void cmd_ShowDesc_Click();
 
   private:
-    QWidget* NeueTemperaturen();
-    QWidget* NeueStartzeit();
-    QLayout* NeueDatumszeile(QWidget* gruppe);
-    QLayout* NeueUhrzeile(QWidget* gruppe);
-    QWidget* NeuerKlickPuffer();
-    QWidget* NeueBeschreibungen();
-    QWidget* NeuerSpeedfaktor();
-    TextInput* NeueStartzeitEingabe(const char* name, const char* bedeutung, int grenze, int breite,
-                                    std::string StartParameters::*wert);
+    QWidget* NewTemperatures();
+    QWidget* NewStartTime();
+    QLayout* NewDateRow(QWidget* group);
+    QLayout* NewClockRow(QWidget* group);
+    QWidget* NewKlickPuffer();
+    QWidget* NewDescriptions();
+    QWidget* NewSpeedfaktor();
+    TextInput* NewStartTimeInput(const char* name, const char* accessibleName, int limit, int width,
+                                 std::string StartParameters::*value);
 
-    void ZeigeTemperaturen();
-    void ZeigeShowDesc();
+    void ShowTemperatures();
+    void RefreshShowDesc();
 
     Plan& m_plan;
 
-    struct Datumsteil {
-        TextInput* Input;
-        std::string StartParameters::*Wert;
+    struct DatePart {
+        TextInput* input;
+        std::string StartParameters::*value;
     };
     /// Day, month, year, hour and minute.
-    std::vector<Datumsteil> m_startzeit;
+    std::vector<DatePart> m_startTime;
     TextInput* m_txt_TempMin = nullptr;
     TextInput* m_txt_TempMax = nullptr;
     QLabel* m_LBL_Weekday = nullptr;

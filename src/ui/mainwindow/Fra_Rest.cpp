@@ -7,19 +7,19 @@ namespace tarvelin {
 
 namespace {
 
-constexpr int kHoehe = 4300;
+constexpr int kHeight = 4300;
 
-struct Gruppenplatz {
-    const char* Name;
-    const char* Titel;
+struct GroupPlace {
+    const char* name;
+    const char* title;
     /// Twips.
-    int Links;
-    int Breite;
-    PictureGroup Gruppe;
+    int left;
+    int width;
+    PictureGroup group;
 };
 
 // clang-format off
-constexpr std::array<Gruppenplatz, 4> kItemgruppen{{
+constexpr std::array<GroupPlace, 4> kItemGroups{{
     {"Frame3", "Gebäude:",      3480, 2175, PictureGroup::Buildings},
     {"Frame1", "Forschung:",    5760, 1155, PictureGroup::Research},
     {"Frame9", "Verteidigung:", 6960, 1155, PictureGroup::Defense},
@@ -27,83 +27,83 @@ constexpr std::array<Gruppenplatz, 4> kItemgruppen{{
 }};
 // clang-format on
 
-void Stelle(QWidget& gruppe, int links, int breite) {
-    gruppe.setGeometry(TwipsToPixels(links), 0, TwipsToPixels(breite), TwipsToPixels(kHoehe));
+void PlaceGroup(QWidget& group, int left, int width) {
+    group.setGeometry(TwipsToPixels(left), 0, TwipsToPixels(width), TwipsToPixels(kHeight));
 }
 
 }  // namespace
 
-Fra_Rest::Fra_Rest(const BuildList& liste, const LastRun& lauf, QWidget* parent)
+Fra_Rest::Fra_Rest(const BuildList& list, const LastRun& run, QWidget* parent)
     : QWidget(parent),
-      m_liste(liste),
-      m_Frame8(new Baulistengruppe(liste, this)),
-      m_Frame6(new Bauzeitengruppe(lauf.LV_Bauzeiten, this)),
-      m_plaetze(BaueItemgruppen()) {
+      m_list(list),
+      m_Frame8(new BuildListGroup(list, this)),
+      m_Frame6(new ScheduleGroup(run.LV_Bauzeiten, this)),
+      m_tiles(AddItemGroups()) {
     setObjectName(QStringLiteral("Fra_Rest"));
     resize(TwipsToPixels(12735), TwipsToPixels(4335));
-    Stelle(*m_Frame8, 0, 3375);
-    Stelle(*m_Frame6, 9360, 3375);
-    ChainTabOrder({m_plaetze.back().Bild, m_Frame6->LV_Bauzeiten, m_Frame6->Chk_BauWeckfunktion,
+    PlaceGroup(*m_Frame8, 0, 3375);
+    PlaceGroup(*m_Frame6, 9360, 3375);
+    ChainTabOrder({m_tiles.back().picture, m_Frame6->LV_Bauzeiten, m_Frame6->Chk_BauWeckfunktion,
                    m_Frame6->Comb_Before});
-    connect(m_Frame8->LV_Bauliste, &Baulistenansicht::DragDrop, this, &Fra_Rest::DragDrop);
+    connect(m_Frame8->LV_Bauliste, &BuildListView::DragDrop, this, &Fra_Rest::DragDrop);
     connect(m_Frame8->Cmd_Undo, &QPushButton::clicked, this, &Fra_Rest::Cmd_Undo_Click);
     connect(m_Frame8->Cmd_Clear, &QPushButton::clicked, this, &Fra_Rest::Cmd_Clear_Click);
     connect(m_Frame8->Cmd_Simulate, &QPushButton::clicked, this, &Fra_Rest::Cmd_Simulate_Click);
     connect(m_Frame6->ImgDonate_1, &QAbstractButton::clicked, this, &Fra_Rest::ImgDonate_Click);
-    for (const Itemplatz& platz : m_plaetze) {
-        connect(platz.Bild, &ItemPicture::MouseMove, this,
-                [this, platz] { emit Img_MouseMove(platz); });
-        connect(platz.Bild, &ItemPicture::Chosen, this,
-                [this, platz] { emit DragDrop(platz.Bild->objectName()); });
+    for (const ItemTile& tile : m_tiles) {
+        connect(tile.picture, &ItemPicture::MouseMove, this,
+                [this, tile] { emit Img_MouseMove(tile); });
+        connect(tile.picture, &ItemPicture::Chosen, this,
+                [this, tile] { emit DragDrop(tile.picture->objectName()); });
     }
 }
 
-PerItem<QPixmap> Fra_Rest::Itembilder() const {
-    PerItem<QPixmap> bilder;
-    for (const Itemplatz& platz : m_plaetze) {
-        bilder[platz.Item] = platz.Bild->pixmap(Qt::ReturnByValue);
+PerItem<QPixmap> Fra_Rest::ItemPictures() const {
+    PerItem<QPixmap> pictures;
+    for (const ItemTile& tile : m_tiles) {
+        pictures[tile.item] = tile.picture->pixmap(Qt::ReturnByValue);
     }
-    return bilder;
+    return pictures;
 }
 
-void Fra_Rest::SetzeZeiger(const DragCursors& zeiger) {
-    for (const Itemplatz& platz : m_plaetze) {
-        platz.Bild->SetCursors(zeiger);
+void Fra_Rest::SetCursors(const DragCursors& cursors) {
+    for (const ItemTile& tile : m_tiles) {
+        tile.picture->SetCursors(cursors);
     }
-    m_Frame6->ImgDonate_1->setCursor(zeiger.openHand);
+    m_Frame6->ImgDonate_1->setCursor(cursors.openHand);
 }
 
-std::vector<Itemplatz> Fra_Rest::BaueItemgruppen() {
-    std::vector<Itemplatz> plaetze;
-    for (const Gruppenplatz& platz : kItemgruppen) {
-        auto* const gruppe = new Itemgruppe(QString::fromUtf8(platz.Name),
-                                            QString::fromUtf8(platz.Titel), platz.Gruppe, this);
-        if (plaetze.empty()) {
-            gruppe->SetCornerLabel(NewHoverInfo(QStringLiteral("Label8"),
-                                                QStringLiteral(" Drag'n'Drop in die linke Liste "),
-                                                gruppe));
+std::vector<ItemTile> Fra_Rest::AddItemGroups() {
+    std::vector<ItemTile> tiles;
+    for (const GroupPlace& slot : kItemGroups) {
+        auto* const group = new ItemGroup(QString::fromUtf8(slot.name),
+                                          QString::fromUtf8(slot.title), slot.group, this);
+        if (tiles.empty()) {
+            group->SetCornerLabel(NewHoverInfo(QStringLiteral("Label8"),
+                                               QStringLiteral(" Drag'n'Drop in die linke Liste "),
+                                               group));
         }
-        Stelle(*gruppe, platz.Links, platz.Breite);
-        plaetze.insert(plaetze.end(), gruppe->Plaetze().begin(), gruppe->Plaetze().end());
+        PlaceGroup(*group, slot.left, slot.width);
+        tiles.insert(tiles.end(), group->Tiles().begin(), group->Tiles().end());
     }
-    return plaetze;
+    return tiles;
 }
 
-void Fra_Rest::ZeigeListe() {
-    m_Frame8->ZeigeListe();
-    for (const Itemplatz& platz : m_plaetze) {
-        platz.Stufe->setNum(m_liste.Orders().ListStufe(platz.Item));
+void Fra_Rest::ShowList() {
+    m_Frame8->ShowList();
+    for (const ItemTile& tile : m_tiles) {
+        tile.level->setNum(m_list.Orders().ListStufe(tile.item));
     }
 }
 
-void Fra_Rest::Zeige(const ResultTexts& texte) {
-    m_Frame8->Zeige(texte);
-    m_Frame6->Zeige(texte);
+void Fra_Rest::ShowResult(const ResultTexts& texts) {
+    m_Frame8->ShowResult(texts);
+    m_Frame6->ShowResult(texts);
 }
 
-void Fra_Rest::ZeigeNamen(bool zeigen) {
-    for (const Itemplatz& platz : m_plaetze) {
-        platz.Desc->setVisible(zeigen);
+void Fra_Rest::ShowNames(bool show) {
+    for (const ItemTile& tile : m_tiles) {
+        tile.desc->setVisible(show);
     }
 }
 

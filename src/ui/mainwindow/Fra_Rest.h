@@ -16,32 +16,32 @@ class Fra_Rest : public QWidget {
     Q_OBJECT
 
   public:
-    /// Shows `liste` and `lauf`, which must outlive the surface.
-    Fra_Rest(const BuildList& liste, const LastRun& lauf, QWidget* parent);
+    /// Shows `list` and `run`, which must outlive the surface.
+    Fra_Rest(const BuildList& list, const LastRun& run, QWidget* parent);
 
     /// The rows of the list and the levels over the pictures.
-    void ZeigeListe();
-    void MacheLetzteSichtbar() { m_Frame8->MacheLetzteSichtbar(); }
-    void ZeigeBauzeiten() { m_Frame6->ZeigeBauzeiten(); }
-    void MacheErsteBauzeitSichtbar() { m_Frame6->LV_Bauzeiten->scrollToTop(); }
-    void Zeige(const ResultTexts& texte);
+    void ShowList();
+    void ScrollToLast() { m_Frame8->ScrollToLast(); }
+    void ShowSchedule() { m_Frame6->ShowSchedule(); }
+    void ScrollScheduleToTop() { m_Frame6->LV_Bauzeiten->scrollToTop(); }
+    void ShowResult(const ResultTexts& texts);
     /// The names under the pictures.
-    void ZeigeNamen(bool zeigen);
+    void ShowNames(bool show);
 
     /// What the pictures show.
-    [[nodiscard]] PerItem<QPixmap> Itembilder() const;
+    [[nodiscard]] PerItem<QPixmap> ItemPictures() const;
 
-    void SetzeZeiger(const DragCursors& zeiger);
-    void SetzeSpendenbild(const QPixmap& bild) { m_Frame6->ImgDonate_1->SetPicture(bild); }
+    void SetCursors(const DragCursors& cursors);
+    void SetDonationPicture(const QPixmap& picture) { m_Frame6->ImgDonate_1->SetPicture(picture); }
 
     /// What Enter presses.
-    [[nodiscard]] QPushButton* Startknopf() const { return m_Frame8->Cmd_Simulate; }
+    [[nodiscard]] QPushButton* StartButton() const { return m_Frame8->Cmd_Simulate; }
     /// The switch of the alarm before each start, and its seconds of warning.
-    [[nodiscard]] QCheckBox* Bauwecker() const { return m_Frame6->Chk_BauWeckfunktion; }
-    [[nodiscard]] const QComboBox* SekundenVorher() const { return m_Frame6->Comb_Before; }
+    [[nodiscard]] QCheckBox* BuildAlarmSwitch() const { return m_Frame6->Chk_BauWeckfunktion; }
+    [[nodiscard]] const QComboBox* SecondsBefore() const { return m_Frame6->Comb_Before; }
 
   signals:
-    void Img_MouseMove(const Itemplatz& platz);
+    void Img_MouseMove(const ItemTile& tile);
     /// An item picture was dropped on the list, told by its name.
     void DragDrop(const QString& Source);
     void Cmd_Undo_Click();
@@ -50,12 +50,12 @@ class Fra_Rest : public QWidget {
     void ImgDonate_Click();
 
   private:
-    std::vector<Itemplatz> BaueItemgruppen();
+    std::vector<ItemTile> AddItemGroups();
 
-    const BuildList& m_liste;
-    Baulistengruppe* m_Frame8;
-    Bauzeitengruppe* m_Frame6;
-    std::vector<Itemplatz> m_plaetze;
+    const BuildList& m_list;
+    BuildListGroup* m_Frame8;
+    ScheduleGroup* m_Frame6;
+    std::vector<ItemTile> m_tiles;
 };
 
 }  // namespace tarvelin

@@ -10,7 +10,7 @@ namespace tarvelin {
 
 namespace {
 
-QRadioButton* NeueOption(const char* name, const char* text, QWidget* parent) {
+QRadioButton* NewOption(const char* name, const char* text, QWidget* parent) {
     auto* const option = new QRadioButton(QString::fromLatin1(text), parent);
     option->setObjectName(QString::fromLatin1(name));
     return option;
@@ -23,14 +23,14 @@ Fra_Skin::Fra_Skin(std::filesystem::path skins, QWidget* parent)
       Comb_Skins(new QComboBox(this)),
       txt_Pfad(new QLineEdit(QStringLiteral("http://"), this)),
       Cmd_ApplySkin(NewButton(QStringLiteral("Cmd_ApplySkin"), QStringLiteral("OK"), this)),
-      m_Opt_Standard(NeueOption("Opt_Standard", "Standard", this)),
-      m_Opt_Lokal(NeueOption("Opt_Lokal", "Lokal", this)),
-      m_Opt_Web(NeueOption("Opt_Web", "Web", this)),
+      m_Opt_Standard(NewOption("Opt_Standard", "Standard", this)),
+      m_Opt_Lokal(NewOption("Opt_Lokal", "Lokal", this)),
+      m_Opt_Web(NewOption("Opt_Web", "Web", this)),
       m_LBL_Skin(
           NewLabel(QStringLiteral("LBL_Skin"), QStringLiteral(" Standard-Skin benutzen. "), this)),
       m_skins(std::move(skins)) {
     for (QRadioButton* const option : {m_Opt_Standard, m_Opt_Lokal, m_Opt_Web}) {
-        connect(option, &QRadioButton::toggled, this, &Fra_Skin::ZeigeQuelle);
+        connect(option, &QRadioButton::toggled, this, &Fra_Skin::ShowSource);
     }
     m_Opt_Standard->setChecked(true);
     Comb_Skins->setObjectName(QStringLiteral("Comb_Skins"));
@@ -38,19 +38,19 @@ Fra_Skin::Fra_Skin(std::filesystem::path skins, QWidget* parent)
     txt_Pfad->setObjectName(QStringLiteral("txt_Pfad"));
     txt_Pfad->setAccessibleName(QStringLiteral("Web-Verzeichnis"));
 
-    LegeAus();
+    Arrange();
     SetFirstControl(m_Opt_Standard);
     hide();
 }
 
-void Fra_Skin::LegeAus() {
+void Fra_Skin::Arrange() {
     // The lowest panel has room for three low lines.
-    constexpr int kZeilenhoehe = 16;
-    QPushButton* const schliesse = NewHideButton(QStringLiteral("Cmd_HideSchlafzeiten"));
-    for (QWidget* const teil :
+    constexpr int kLineHeight = 16;
+    QPushButton* const close = NewHideButton(QStringLiteral("Cmd_HideSchlafzeiten"));
+    for (QWidget* const part :
          std::initializer_list<QWidget*>{m_Opt_Standard, m_Opt_Lokal, m_Opt_Web, m_LBL_Skin,
-                                         Comb_Skins, txt_Pfad, Cmd_ApplySkin, schliesse}) {
-        teil->setFixedHeight(kZeilenhoehe);
+                                         Comb_Skins, txt_Pfad, Cmd_ApplySkin, close}) {
+        part->setFixedHeight(kLineHeight);
     }
     auto* const layout = new QGridLayout(this);
     layout->setContentsMargins(4, 0, 4, 0);
@@ -63,42 +63,42 @@ void Fra_Skin::LegeAus() {
     layout->addWidget(Comb_Skins, 1, 1, 1, 2);
     layout->addWidget(txt_Pfad, 1, 1, 1, 2);
     layout->addWidget(Cmd_ApplySkin, 2, 1);
-    layout->addWidget(schliesse, 2, 2);
+    layout->addWidget(close, 2, 2);
     layout->setColumnStretch(1, 1);
     layout->setColumnStretch(2, 1);
 }
 
-void Fra_Skin::ZeigeQuelle() {
-    const bool lokal = m_Opt_Lokal->isChecked();
+void Fra_Skin::ShowSource() {
+    const bool local = m_Opt_Lokal->isChecked();
     const bool web = m_Opt_Web->isChecked();
-    m_LBL_Skin->setText(lokal ? QStringLiteral(" Skin-Unterordner wählen: ")
+    m_LBL_Skin->setText(local ? QStringLiteral(" Skin-Unterordner wählen: ")
                         : web ? QStringLiteral(" Web-Verzeichnis: ")
                               : QStringLiteral(" Standard-Skin benutzen. "));
-    txt_Pfad->setEnabled(lokal || web);
+    txt_Pfad->setEnabled(local || web);
     txt_Pfad->setVisible(web);
-    Comb_Skins->setVisible(lokal);
+    Comb_Skins->setVisible(local);
 }
 
-void Fra_Skin::WaehleQuelle(Byte mode) {
-    if (mode == kStandardskin) {
+void Fra_Skin::ChooseSource(Byte mode) {
+    if (mode == kStandardSkin) {
         m_Opt_Standard->setChecked(true);
-    } else if (mode == kLokalerSkin) {
+    } else if (mode == kLocalSkin) {
         m_Opt_Lokal->setChecked(true);
-    } else if (mode == kWebskin) {
+    } else if (mode == kWebSkin) {
         m_Opt_Web->setChecked(true);
     }
 }
 
-Byte Fra_Skin::Quelle() const {
-    return m_Opt_Lokal->isChecked() ? kLokalerSkin
-           : m_Opt_Web->isChecked() ? kWebskin
-                                    : kStandardskin;
+Byte Fra_Skin::ChosenSource() const {
+    return m_Opt_Lokal->isChecked() ? kLocalSkin
+           : m_Opt_Web->isChecked() ? kWebSkin
+                                    : kStandardSkin;
 }
 
 void Fra_Skin::FillSkinList() {
     Comb_Skins->clear();
     for (const std::string& name : GetSubfolders(m_skins)) {
-        if (!name.empty() && name != "standard" && name != kLandeordner) {
+        if (!name.empty() && name != "standard" && name != kWebSkinFolder) {
             Comb_Skins->addItem(ToQString(name));
         }
     }

@@ -12,12 +12,12 @@
 namespace tarvelin {
 
 /// Where a skin comes from, as the configuration keeps it.
-inline constexpr Byte kStandardskin = 1;
-inline constexpr Byte kLokalerSkin = 2;
-inline constexpr Byte kWebskin = 3;
+inline constexpr Byte kStandardSkin = 1;
+inline constexpr Byte kLocalSkin = 2;
+inline constexpr Byte kWebSkin = 3;
 
 /// The folder in which a web skin lands.
-inline constexpr const char* kLandeordner = "temp_webskin";
+inline constexpr const char* kWebSkinFolder = "temp_webskin";
 
 class Fra_Skin : public Panel {
     Q_OBJECT
@@ -30,16 +30,16 @@ class Fra_Skin : public Panel {
     void FillSkinList();
 
     /// Selects the source of this kind; any other value leaves the selection.
-    void WaehleQuelle(Byte mode);
-    [[nodiscard]] Byte Quelle() const;
+    void ChooseSource(Byte mode);
+    [[nodiscard]] Byte ChosenSource() const;
 
     QComboBox* const Comb_Skins;
     QLineEdit* const txt_Pfad;
     QPushButton* const Cmd_ApplySkin;
 
   private:
-    void ZeigeQuelle();
-    void LegeAus();
+    void ShowSource();
+    void Arrange();
 
     QRadioButton* m_Opt_Standard;
     QRadioButton* m_Opt_Lokal;

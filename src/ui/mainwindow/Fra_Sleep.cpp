@@ -10,201 +10,201 @@ namespace tarvelin {
 
 namespace {
 
-TableModel::Provider QuelleVon(const SleepTable& tabelle) {
-    return {.rows = [&tabelle] { return tabelle.size(); },
+TableModel::Provider ProviderOf(const SleepTable& table) {
+    return {.rows = [&table] { return table.size(); },
             .text =
-                [&tabelle](std::size_t zeile, int spalte) {
-                    const SleepRow& z = tabelle[zeile];
-                    return ToQString(spalte == 0 ? z.Startzeit : z.Endzeit);
+                [&table](std::size_t row, int column) {
+                    const SleepRow& tableRow = table[row];
+                    return ToQString(column == 0 ? tableRow.Startzeit : tableRow.Endzeit);
                 }};
 }
 
 /// Hours and minutes, first of the start, then of the duration.
-struct Zeitfeld {
-    const char* Name;
-    const char* Bedeutung;
-    std::string SleepInput::*Wert;
+struct TimeInput {
+    const char* name;
+    const char* accessibleName;
+    std::string SleepInput::*value;
 };
 
-constexpr std::array<Zeitfeld, 4> kZeitfelder{{
+constexpr std::array<TimeInput, 4> kTimeInputs{{
     {"txt_SchlafStartStunden", "Startzeit, Stunden", &SleepInput::startHours},
     {"txt_SchlafStartMinuten", "Startzeit, Minuten", &SleepInput::startMinutes},
     {"txt_SchlafdauerStunden", "Dauer, Stunden", &SleepInput::durationHours},
     {"txt_SchlafdauerMinuten", "Dauer, Minuten", &SleepInput::durationMinutes},
 }};
 
-QDate AlsDatum(DateTime zeitpunkt) {
-    return QDate::fromString(ToQString(DateText(zeitpunkt)), QStringLiteral("dd.MM.yyyy"));
+QDate ToDate(DateTime time) {
+    return QDate::fromString(ToQString(DateText(time)), QStringLiteral("dd.MM.yyyy"));
 }
 
-QCalendarWidget* NeuerKalender(const QDate& tag, QWidget* parent) {
-    auto* const kalender = new QCalendarWidget(parent);
-    kalender->setObjectName(QStringLiteral("SchlafKalender"));
-    kalender->setAccessibleName(QStringLiteral("Tag der Startzeit"));
-    kalender->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+QCalendarWidget* NewCalendar(const QDate& day, QWidget* parent) {
+    auto* const calendar = new QCalendarWidget(parent);
+    calendar->setObjectName(QStringLiteral("SchlafKalender"));
+    calendar->setAccessibleName(QStringLiteral("Tag der Startzeit"));
+    calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     // Digits typed into the page would go to another month.
-    kalender->setDateEditEnabled(false);
-    kalender->setSelectedDate(tag);
-    for (const auto& [teil, bedeutung] : {std::pair("qt_calendar_prevmonth", "Voriger Monat"),
-                                          std::pair("qt_calendar_nextmonth", "Nächster Monat"),
-                                          std::pair("qt_calendar_yearedit", "Jahr")}) {
-        if (auto* const knopf = kalender->findChild<QWidget*>(QString::fromLatin1(teil))) {
-            knopf->setAccessibleName(QString::fromUtf8(bedeutung));
+    calendar->setDateEditEnabled(false);
+    calendar->setSelectedDate(day);
+    for (const auto& [part, accessibleName] : {std::pair("qt_calendar_prevmonth", "Voriger Monat"),
+                                               std::pair("qt_calendar_nextmonth", "Nächster Monat"),
+                                               std::pair("qt_calendar_yearedit", "Jahr")}) {
+        if (auto* const button = calendar->findChild<QWidget*>(QString::fromLatin1(part))) {
+            button->setAccessibleName(QString::fromUtf8(accessibleName));
         }
     }
-    return kalender;
+    return calendar;
 }
 
 }  // namespace
 
-Fra_Sleep::Fra_Sleep(SleepTable& tabelle, const Environment& umgebung, QWidget* parent)
+Fra_Sleep::Fra_Sleep(SleepTable& table, const Environment& environment, QWidget* parent)
     : Panel(QStringLiteral("Fra_Sleep"), QStringLiteral("Schlaf/Pausen-zeiten:"),
             {160, 2, 6855, 3615}, parent),
       LV_Schlafzeiten(new ListView(QStringLiteral("LV_Schlafzeiten"),
                                    QStringLiteral("Schlafzeiten"), {2646, 2646}, this)),
       Chk_Schlafzeitenwecker(new QCheckBox(QStringLiteral("Wecker-Funktion"), this)),
-      m_tabelle(tabelle),
-      m_umgebung(umgebung),
-      m_modell(new TableModel({QStringLiteral("Startzeit"), QStringLiteral("Endzeit")},
-                              QuelleVon(tabelle), this)),
-      m_SchlafKalender(NeuerKalender(AlsDatum(umgebung.now()), this)),
+      m_table(table),
+      m_environment(environment),
+      m_model(new TableModel({QStringLiteral("Startzeit"), QStringLiteral("Endzeit")},
+                             ProviderOf(table), this)),
+      m_SchlafKalender(NewCalendar(ToDate(environment.now()), this)),
       m_LBL_Schlafendzeit(NewLabel(QStringLiteral("LBL_Schlafendzeit"), {}, this)) {
-    LV_Schlafzeiten->setModel(m_modell);
+    LV_Schlafzeiten->setModel(m_model);
     Chk_Schlafzeitenwecker->setObjectName(QStringLiteral("Chk_Schlafzeitenwecker"));
     Chk_Schlafzeitenwecker->setToolTip(
         QStringLiteral(" Eine Minute vor jeder Endzeit ertönt ein Alarmton "));
     connect(m_SchlafKalender, &QCalendarWidget::selectionChanged, this,
             &Fra_Sleep::RefreshSchlafEnde);
-    connect(m_SchlafKalender, &QCalendarWidget::currentPageChanged, this, &Fra_Sleep::Blaettere);
-    BaueEingaben();
-    LegeAus();
+    connect(m_SchlafKalender, &QCalendarWidget::currentPageChanged, this, &Fra_Sleep::TurnPage);
+    AddInputs();
+    Arrange();
     SetFirstControl(m_SchlafKalender);
     RefreshSchlafEnde();
     hide();
 }
 
-void Fra_Sleep::BaueEingaben() {
-    for (const Zeitfeld& feld : kZeitfelder) {
-        auto* const eingabe = new TextInput(QString::fromLatin1(feld.Name),
-                                            QString::fromLatin1(feld.Bedeutung), 2, this);
-        constexpr int kBreite = 22;
-        eingabe->setFixedWidth(kBreite);
-        eingabe->Assign(SleepInput().*feld.Wert);
-        connect(eingabe, &QLineEdit::textChanged, this, &Fra_Sleep::RefreshSchlafEnde);
-        m_zeiten.push_back(eingabe);
+void Fra_Sleep::AddInputs() {
+    for (const TimeInput& field : kTimeInputs) {
+        auto* const input = new TextInput(QString::fromLatin1(field.name),
+                                          QString::fromLatin1(field.accessibleName), 2, this);
+        constexpr int kWidth = 22;
+        input->setFixedWidth(kWidth);
+        input->Assign(SleepInput().*field.value);
+        connect(input, &QLineEdit::textChanged, this, &Fra_Sleep::RefreshSchlafEnde);
+        m_times.push_back(input);
     }
 }
 
-QPushButton* Fra_Sleep::NeuerTabellenknopf(const char* name, const char* text,
-                                           void (Fra_Sleep::*handler)()) {
-    QPushButton* const knopf =
+QPushButton* Fra_Sleep::NewTableButton(const char* name, const char* text,
+                                       void (Fra_Sleep::*handler)()) {
+    QPushButton* const button =
         NewButton(QString::fromLatin1(name), QString::fromLatin1(text), this);
-    connect(knopf, &QPushButton::clicked, this, handler);
-    return knopf;
+    connect(button, &QPushButton::clicked, this, handler);
+    return button;
 }
 
-QLayout* Fra_Sleep::NeueZeiten(QPushButton* add) {
-    auto* const zeiten = new QGridLayout;
-    zeiten->setSpacing(3);
-    for (std::size_t i = 0; i < m_zeiten.size(); i += 2) {
-        const auto zeile = static_cast<int>(i / 2);
-        zeiten->addWidget(
+QLayout* Fra_Sleep::NewTimes(QPushButton* add) {
+    auto* const times = new QGridLayout;
+    times->setSpacing(3);
+    for (std::size_t i = 0; i < m_times.size(); i += 2) {
+        const auto row = static_cast<int>(i / 2);
+        times->addWidget(
             NewLabel({}, i == 0 ? QStringLiteral("Startzeit:") : QStringLiteral("Dauer:"), this),
-            zeile, 0);
-        zeiten->addWidget(m_zeiten[i], zeile, 1);
-        zeiten->addWidget(NewLabel({}, QStringLiteral(":"), this), zeile, 2);
-        zeiten->addWidget(m_zeiten[i + 1], zeile, 3);
+            row, 0);
+        times->addWidget(m_times[i], row, 1);
+        times->addWidget(NewLabel({}, QStringLiteral(":"), this), row, 2);
+        times->addWidget(m_times[i + 1], row, 3);
     }
-    zeiten->addWidget(NewLabel({}, QStringLiteral("Endzeit:"), this), 2, 0);
-    zeiten->addWidget(m_LBL_Schlafendzeit, 2, 1, 1, 4);
-    zeiten->addWidget(add, 0, 4, 2, 1);
-    zeiten->setColumnStretch(4, 1);
-    return zeiten;
+    times->addWidget(NewLabel({}, QStringLiteral("Endzeit:"), this), 2, 0);
+    times->addWidget(m_LBL_Schlafendzeit, 2, 1, 1, 4);
+    times->addWidget(add, 0, 4, 2, 1);
+    times->setColumnStretch(4, 1);
+    return times;
 }
 
-void Fra_Sleep::LegeAus() {
+void Fra_Sleep::Arrange() {
     QPushButton* const add =
-        NeuerTabellenknopf("Cmd_AddSchlafzeit", "Add", &Fra_Sleep::Cmd_AddSchlafzeit_Click);
-    QPushButton* const loesche = NeuerTabellenknopf("Cmd_RemoveSchlafzeit", "Delete",
-                                                    &Fra_Sleep::Cmd_RemoveSchlafzeit_Click);
-    QPushButton* const leere = NeuerTabellenknopf("Cmd_ClearSchlafzeiten", "Clear",
-                                                  &Fra_Sleep::Cmd_ClearSchlafzeiten_Click);
-    QPushButton* const schliesse = NewHideButton(QStringLiteral("Cmd_HideSleep"));
-    auto* const knoepfe = new QHBoxLayout;
-    knoepfe->setSpacing(3);
-    knoepfe->addWidget(loesche);
-    knoepfe->addWidget(leere);
-    knoepfe->addWidget(schliesse);
+        NewTableButton("Cmd_AddSchlafzeit", "Add", &Fra_Sleep::Cmd_AddSchlafzeit_Click);
+    QPushButton* const remove =
+        NewTableButton("Cmd_RemoveSchlafzeit", "Delete", &Fra_Sleep::Cmd_RemoveSchlafzeit_Click);
+    QPushButton* const clear =
+        NewTableButton("Cmd_ClearSchlafzeiten", "Clear", &Fra_Sleep::Cmd_ClearSchlafzeiten_Click);
+    QPushButton* const close = NewHideButton(QStringLiteral("Cmd_HideSleep"));
+    auto* const buttons = new QHBoxLayout;
+    buttons->setSpacing(3);
+    buttons->addWidget(remove);
+    buttons->addWidget(clear);
+    buttons->addWidget(close);
 
     auto* const layout = new QGridLayout(this);
     layout->setContentsMargins(4, 2, 4, 4);
     layout->setSpacing(4);
     layout->addWidget(m_SchlafKalender, 0, 0);
-    layout->addLayout(NeueZeiten(add), 1, 0, 2, 1);
+    layout->addLayout(NewTimes(add), 1, 0, 2, 1);
     layout->addWidget(LV_Schlafzeiten, 0, 1);
     layout->addWidget(Chk_Schlafzeitenwecker, 1, 1);
-    layout->addLayout(knoepfe, 2, 1);
+    layout->addLayout(buttons, 2, 1);
     layout->setColumnStretch(0, 1);
     layout->setColumnStretch(1, 1);
-    ChainTabOrder({m_SchlafKalender, m_zeiten[0], m_zeiten[1], m_zeiten[2], m_zeiten[3], add,
-                   LV_Schlafzeiten, Chk_Schlafzeitenwecker, loesche, leere, schliesse});
+    ChainTabOrder({m_SchlafKalender, m_times[0], m_times[1], m_times[2], m_times[3], add,
+                   LV_Schlafzeiten, Chk_Schlafzeitenwecker, remove, clear, close});
 }
 
-void Fra_Sleep::Zeige() {
-    m_modell->Refresh();
+void Fra_Sleep::Refresh() {
+    m_model->Refresh();
     // The row at its place would be another one.
     LV_Schlafzeiten->setCurrentIndex({});
 }
 
-SleepInput Fra_Sleep::Lies() const {
-    SleepInput eingabe;
-    eingabe.date =
+SleepInput Fra_Sleep::ReadInput() const {
+    SleepInput input;
+    input.date =
         m_SchlafKalender->selectedDate().toString(QStringLiteral("dd.MM.yyyy")).toStdString();
-    for (std::size_t i = 0; i < kZeitfelder.size(); ++i) {
-        eingabe.*kZeitfelder[i].Wert = m_zeiten[i]->Utf8();
+    for (std::size_t i = 0; i < kTimeInputs.size(); ++i) {
+        input.*kTimeInputs[i].value = m_times[i]->Utf8();
     }
-    return eingabe;
+    return input;
 }
 
 // The selected day goes along, so that what is shown is what counts.
-void Fra_Sleep::Blaettere(int jahr, int monat) {
-    const QDate tag = m_SchlafKalender->selectedDate();
-    if (tag.year() != jahr || tag.month() != monat) {
-        const int letzter = QDate(jahr, monat, 1).daysInMonth();
-        m_SchlafKalender->setSelectedDate(QDate(jahr, monat, std::min(tag.day(), letzter)));
+void Fra_Sleep::TurnPage(int year, int month) {
+    const QDate day = m_SchlafKalender->selectedDate();
+    if (day.year() != year || day.month() != month) {
+        const int last = QDate(year, month, 1).daysInMonth();
+        m_SchlafKalender->setSelectedDate(QDate(year, month, std::min(day.day(), last)));
     }
 }
 
 void Fra_Sleep::RefreshSchlafEnde() {
-    m_LBL_Schlafendzeit->setText(ToQString(SleepEndText(Lies())));
+    m_LBL_Schlafendzeit->setText(ToQString(SleepEndText(ReadInput())));
 }
 
 void Fra_Sleep::Cmd_AddSchlafzeit_Click() {
-    if (const auto meldung = AddSleepRow(Lies(), m_tabelle)) {
-        m_umgebung.dialogs.Show(*meldung);
+    if (const auto message = AddSleepRow(ReadInput(), m_table)) {
+        m_environment.dialogs.Show(*message);
         return;
     }
-    Zeige();
-    const QModelIndex neue = m_modell->index(m_modell->rowCount() - 1, 0);
-    LV_Schlafzeiten->scrollTo(neue);
-    LV_Schlafzeiten->setCurrentIndex(neue);
-    emit Geaendert();
+    Refresh();
+    const QModelIndex fresh = m_model->index(m_model->rowCount() - 1, 0);
+    LV_Schlafzeiten->scrollTo(fresh);
+    LV_Schlafzeiten->setCurrentIndex(fresh);
+    emit Edited();
 }
 
 void Fra_Sleep::Cmd_RemoveSchlafzeit_Click() {
-    const QModelIndexList gewaehlt = LV_Schlafzeiten->selectionModel()->selectedRows();
-    if (!gewaehlt.isEmpty()) {
-        m_tabelle.erase(m_tabelle.begin() + gewaehlt.first().row());
-        Zeige();
-        emit Geaendert();
+    const QModelIndexList chosen = LV_Schlafzeiten->selectionModel()->selectedRows();
+    if (!chosen.isEmpty()) {
+        m_table.erase(m_table.begin() + chosen.first().row());
+        Refresh();
+        emit Edited();
     }
 }
 
 void Fra_Sleep::Cmd_ClearSchlafzeiten_Click() {
-    if (m_umgebung.dialogs.Ask({.text = "Wirklich alle löschen ?", .title = ""})) {
-        m_tabelle.clear();
-        Zeige();
-        emit Geaendert();
+    if (m_environment.dialogs.Ask({.text = "Wirklich alle löschen ?", .title = ""})) {
+        m_table.clear();
+        Refresh();
+        emit Edited();
     }
 }
 

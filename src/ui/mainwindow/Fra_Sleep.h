@@ -16,11 +16,11 @@ class Fra_Sleep : public Panel {
     Q_OBJECT
 
   public:
-    /// Edits `tabelle`, which must outlive the panel, as must `umgebung`.
-    Fra_Sleep(SleepTable& tabelle, const Environment& umgebung, QWidget* parent);
+    /// Edits `table`, which must outlive the panel, as must `environment`.
+    Fra_Sleep(SleepTable& table, const Environment& environment, QWidget* parent);
 
     /// After the table changed. No row is selected then.
-    void Zeige();
+    void Refresh();
     void RefreshSchlafEnde();
 
     ListView* const LV_Schlafzeiten;
@@ -28,26 +28,25 @@ class Fra_Sleep : public Panel {
 
   signals:
     /// The user has changed the table.
-    void Geaendert();
+    void Edited();
 
   private:
-    void BaueEingaben();
-    void LegeAus();
-    QLayout* NeueZeiten(QPushButton* add);
-    QPushButton* NeuerTabellenknopf(const char* name, const char* text,
-                                    void (Fra_Sleep::*handler)());
-    void Blaettere(int jahr, int monat);
-    [[nodiscard]] SleepInput Lies() const;
+    void AddInputs();
+    void Arrange();
+    QLayout* NewTimes(QPushButton* add);
+    QPushButton* NewTableButton(const char* name, const char* text, void (Fra_Sleep::*handler)());
+    void TurnPage(int year, int month);
+    [[nodiscard]] SleepInput ReadInput() const;
     void Cmd_AddSchlafzeit_Click();
     void Cmd_RemoveSchlafzeit_Click();
     void Cmd_ClearSchlafzeiten_Click();
 
-    SleepTable& m_tabelle;
-    const Environment& m_umgebung;
-    TableModel* m_modell;
+    SleepTable& m_table;
+    const Environment& m_environment;
+    TableModel* m_model;
     QCalendarWidget* m_SchlafKalender;
     /// Hours and minutes of the start, then of the duration.
-    std::vector<TextInput*> m_zeiten;
+    std::vector<TextInput*> m_times;
     QLabel* m_LBL_Schlafendzeit;
 };
 

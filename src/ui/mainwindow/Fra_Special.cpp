@@ -7,14 +7,14 @@ namespace tarvelin {
 
 namespace {
 
-struct Regler {
-    const char* Name;
-    const char* Label;
+struct FactorSlider {
+    const char* name;
+    const char* label;
     /// In front of the percentage.
-    const char* Text;
+    const char* text;
 };
 
-constexpr std::array<Regler, 3> kRegler{{
+constexpr std::array<FactorSlider, 3> kSliders{{
     {"HSC_MetFaktor", "LBL_MetFaktor", "Metallmine: "},
     {"HSC_Krisfaktor", "LBL_Krisfaktor", "Kristallmine: "},
     {"HSC_Deutfaktor", "LBL_Deutfaktor", "Deutmine: "},
@@ -27,48 +27,48 @@ Fra_Special::Fra_Special(QWidget* parent)
             parent),
       Cmd_AddProdaenderungsevent(NewButton(QStringLiteral("Cmd_AddProdaenderungsevent"),
                                            QStringLiteral("Add Event"), this)) {
-    auto* const gruppe =
+    auto* const group =
         new GroupBox({}, QStringLiteral("Minen-Produktionsfaktor-Änderungen:"), this);
-    auto* const zeilen = new QGridLayout(gruppe);
-    zeilen->setContentsMargins(4, 1, 4, 1);
-    zeilen->setSpacing(1);
-    zeilen->setHorizontalSpacing(6);
-    for (std::size_t i = 0; i < kRegler.size(); ++i) {
-        const QString text = QString::fromLatin1(kRegler[i].Text);
-        QSlider* const regler =
-            NewSlider(QString::fromLatin1(kRegler[i].Name),
-                      text.chopped(2) + QStringLiteral(" in Zehnteln"), kFullFactor, gruppe);
-        QLabel* const label = NewLabel(QString::fromLatin1(kRegler[i].Label), {}, gruppe);
-        const auto zeige = [label, text](int stellung) {
-            label->setText(text + QString::number(10 * stellung) + QStringLiteral("%"));
+    auto* const rows = new QGridLayout(group);
+    rows->setContentsMargins(4, 1, 4, 1);
+    rows->setSpacing(1);
+    rows->setHorizontalSpacing(6);
+    for (std::size_t i = 0; i < kSliders.size(); ++i) {
+        const QString text = QString::fromLatin1(kSliders[i].text);
+        QSlider* const slider =
+            NewSlider(QString::fromLatin1(kSliders[i].name),
+                      text.chopped(2) + QStringLiteral(" in Zehnteln"), kFullFactor, group);
+        QLabel* const label = NewLabel(QString::fromLatin1(kSliders[i].label), {}, group);
+        const auto show = [label, text](int position) {
+            label->setText(text + QString::number(10 * position) + QStringLiteral("%"));
         };
-        connect(regler, &QSlider::valueChanged, label, zeige);
-        regler->setPageStep(1);
-        regler->setValue(kFullFactor);
+        connect(slider, &QSlider::valueChanged, label, show);
+        slider->setPageStep(1);
+        slider->setValue(kFullFactor);
         label->setFixedWidth(label->sizeHint().width());
-        const auto zeile = static_cast<int>(i);
-        zeilen->addWidget(label, zeile, 0);
-        zeilen->addWidget(regler, zeile, 1);
-        m_regler[i] = regler;
+        const auto row = static_cast<int>(i);
+        rows->addWidget(label, row, 0);
+        rows->addWidget(slider, row, 1);
+        m_slider[i] = slider;
     }
-    QPushButton* const schliesse = NewHideButton(QStringLiteral("Cmd_HideFraSpecial"));
+    QPushButton* const close = NewHideButton(QStringLiteral("Cmd_HideFraSpecial"));
     auto* const layout = new QGridLayout(this);
     layout->setContentsMargins(4, 1, 4, 3);
     layout->setSpacing(3);
-    layout->addWidget(gruppe, 0, 0, 1, 2);
+    layout->addWidget(group, 0, 0, 1, 2);
     layout->addWidget(Cmd_AddProdaenderungsevent, 1, 0);
-    layout->addWidget(schliesse, 1, 1);
-    ChainTabOrder({m_regler[0], m_regler[1], m_regler[2], Cmd_AddProdaenderungsevent, schliesse});
-    SetFirstControl(m_regler.front());
+    layout->addWidget(close, 1, 1);
+    ChainTabOrder({m_slider[0], m_slider[1], m_slider[2], Cmd_AddProdaenderungsevent, close});
+    SetFirstControl(m_slider.front());
     hide();
 }
 
-MineFactors Fra_Special::Faktoren() const {
-    MineFactors faktoren{};
-    for (std::size_t i = 0; i < faktoren.size(); ++i) {
-        faktoren[i] = static_cast<Byte>(m_regler[i]->value());
+MineFactors Fra_Special::Factors() const {
+    MineFactors factors{};
+    for (std::size_t i = 0; i < factors.size(); ++i) {
+        factors[i] = static_cast<Byte>(m_slider[i]->value());
     }
-    return faktoren;
+    return factors;
 }
 
 }  // namespace tarvelin

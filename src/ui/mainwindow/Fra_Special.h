@@ -15,13 +15,13 @@ class Fra_Special : public Panel {
     explicit Fra_Special(QWidget* parent);
 
     /// The positions of the three sliders. Only the user moves them.
-    [[nodiscard]] MineFactors Faktoren() const;
+    [[nodiscard]] MineFactors Factors() const;
 
     QPushButton* const Cmd_AddProdaenderungsevent;
 
   private:
     /// Metal, crystal, deuterium.
-    std::array<QSlider*, 3> m_regler{};
+    std::array<QSlider*, 3> m_slider{};
 };
 
 }  // namespace tarvelin

@@ -7,10 +7,10 @@ namespace tarvelin {
 
 namespace {
 
-constexpr int kBildseite = TwipsToPixels(915);
-constexpr int kJeSpalte = 4;
+constexpr int kPictureSide = TwipsToPixels(915);
+constexpr int kPerColumn = 4;
 
-QLabel* NeuesSchild(const QString& name, const QString& text, QWidget* parent) {
+QLabel* NewLevelLabel(const QString& name, const QString& text, QWidget* parent) {
     QLabel* const label = NewLabel(name, text, parent);
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
     label->setAlignment(Qt::AlignCenter);
@@ -19,61 +19,60 @@ QLabel* NeuesSchild(const QString& name, const QString& text, QWidget* parent) {
     return label;
 }
 
-Itemplatz NeuerPlatz(ItemId item, QWidget* parent) {
-    const ItemDisplay& ansicht = ItemDisplays()[item];
-    QLabel* const stufe =
-        NeuesSchild(ToQString(ansicht.levelLabelName), QStringLiteral("0"), parent);
-    stufe->setAccessibleDescription(ToQString(RowOf(item).HoverName()));
-    return {.Item = item,
-            .Bild = new ItemPicture(item, parent),
-            .Stufe = stufe,
-            .Desc = NeuesSchild(QStringLiteral("LBLDesc(%1)").arg(IndexOf(item)),
-                                ToQString(ansicht.caption), parent)};
+ItemTile NewTile(ItemId item, QWidget* parent) {
+    const ItemDisplay& display = ItemDisplays()[item];
+    QLabel* const level =
+        NewLevelLabel(ToQString(display.levelLabelName), QStringLiteral("0"), parent);
+    level->setAccessibleDescription(ToQString(RowOf(item).HoverName()));
+    return {.item = item,
+            .picture = new ItemPicture(item, parent),
+            .level = level,
+            .desc = NewLevelLabel(QStringLiteral("LBLDesc(%1)").arg(IndexOf(item)),
+                                  ToQString(display.caption), parent)};
 }
 
-void Lege(const Itemplatz& platz, const QPoint& ecke) {
-    constexpr int kSchildhoehe = 14;
-    constexpr int kRand = 4;
-    const QRect bild(ecke, QSize(kBildseite, kBildseite));
-    platz.Bild->setGeometry(bild);
-    const int stufenbreite = platz.Stufe->fontMetrics().horizontalAdvance(QStringLiteral("254"));
-    platz.Stufe->setGeometry(bild.right() - stufenbreite - kRand, bild.top() + 1,
-                             stufenbreite + kRand, kSchildhoehe);
-    QRect name(bild.left(), bild.bottom() - kSchildhoehe + 1, bild.width(), kSchildhoehe);
-    const int zuBreit = platz.Desc->sizeHint().width() + kRand - name.width();
-    if (zuBreit > 0) {
-        name.adjust(-(zuBreit + 1) / 2, 0, (zuBreit + 1) / 2, 0);
+void Place(const ItemTile& tile, const QPoint& corner) {
+    constexpr int kLabelHeight = 14;
+    constexpr int kMargin = 4;
+    const QRect picture(corner, QSize(kPictureSide, kPictureSide));
+    tile.picture->setGeometry(picture);
+    const int levelWidth = tile.level->fontMetrics().horizontalAdvance(QStringLiteral("254"));
+    tile.level->setGeometry(picture.right() - levelWidth - kMargin, picture.top() + 1,
+                            levelWidth + kMargin, kLabelHeight);
+    QRect name(picture.left(), picture.bottom() - kLabelHeight + 1, picture.width(), kLabelHeight);
+    const int tooWide = tile.desc->sizeHint().width() + kMargin - name.width();
+    if (tooWide > 0) {
+        name.adjust(-(tooWide + 1) / 2, 0, (tooWide + 1) / 2, 0);
     }
-    platz.Desc->setGeometry(name);
+    tile.desc->setGeometry(name);
 }
 
 }  // namespace
 
-Itemgruppe::Itemgruppe(const QString& name, const QString& titel, PictureGroup gruppe,
-                       QWidget* parent)
-    : GroupBox(name, titel, parent) {
-    for (const ItemDisplay& ansicht : ItemDisplays()) {
-        if (ansicht.group == gruppe) {
-            m_plaetze.push_back(NeuerPlatz(ansicht.item, this));
+ItemGroup::ItemGroup(const QString& name, const QString& title, PictureGroup group, QWidget* parent)
+    : GroupBox(name, title, parent) {
+    for (const ItemDisplay& display : ItemDisplays()) {
+        if (display.group == group) {
+            m_tiles.push_back(NewTile(display.item, this));
         }
     }
-    for (const Itemplatz& platz : m_plaetze) {
-        platz.Stufe->raise();
-        platz.Desc->raise();
+    for (const ItemTile& tile : m_tiles) {
+        tile.level->raise();
+        tile.desc->raise();
     }
 }
 
-void Itemgruppe::resizeEvent(QResizeEvent* event) {
+void ItemGroup::resizeEvent(QResizeEvent* event) {
     GroupBox::resizeEvent(event);
-    const QRect innen = contentsRect();
-    const auto anzahl = static_cast<int>(m_plaetze.size());
-    const int spalten = (anzahl + kJeSpalte - 1) / kJeSpalte;
-    const int breite = innen.width() / spalten;
-    const int hoehe = innen.height() / kJeSpalte;
-    for (int i = 0; i < anzahl; ++i) {
-        const QPoint ecke(innen.left() + i / kJeSpalte * breite + (breite - kBildseite) / 2,
-                          innen.top() + i % kJeSpalte * hoehe + (hoehe - kBildseite) / 2);
-        Lege(m_plaetze[static_cast<std::size_t>(i)], ecke);
+    const QRect inner = contentsRect();
+    const auto count = static_cast<int>(m_tiles.size());
+    const int columns = (count + kPerColumn - 1) / kPerColumn;
+    const int width = inner.width() / columns;
+    const int height = inner.height() / kPerColumn;
+    for (int i = 0; i < count; ++i) {
+        const QPoint corner(inner.left() + i / kPerColumn * width + (width - kPictureSide) / 2,
+                            inner.top() + i % kPerColumn * height + (height - kPictureSide) / 2);
+        Place(m_tiles[static_cast<std::size_t>(i)], corner);
     }
 }
 

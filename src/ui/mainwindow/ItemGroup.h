@@ -10,29 +10,29 @@
 namespace tarvelin {
 
 /// What stands for an item on the screen.
-struct Itemplatz {
-    ItemId Item;
-    ItemPicture* Bild;
+struct ItemTile {
+    ItemId item;
+    ItemPicture* picture;
     /// The level, or the number, that the list reaches.
-    QLabel* Stufe;
+    QLabel* level;
     /// The name under the picture, shown on demand.
-    QLabel* Desc;
+    QLabel* desc;
 };
 
 /// Pictures in columns of four, from top to bottom and then to the right.
-class Itemgruppe : public GroupBox {
+class ItemGroup : public GroupBox {
     Q_OBJECT
 
   public:
-    Itemgruppe(const QString& name, const QString& titel, PictureGroup gruppe, QWidget* parent);
+    ItemGroup(const QString& name, const QString& title, PictureGroup group, QWidget* parent);
 
-    [[nodiscard]] const std::vector<Itemplatz>& Plaetze() const { return m_plaetze; }
+    [[nodiscard]] const std::vector<ItemTile>& Tiles() const { return m_tiles; }
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    std::vector<Itemplatz> m_plaetze;
+    std::vector<ItemTile> m_tiles;
 };
 
 }  // namespace tarvelin

@@ -6,7 +6,7 @@
 namespace tarvelin {
 
 // clang-format off
-const std::array<Spendenknopf, 6> kSpendenknoepfe{{
+const std::array<DonationButton, 6> kDonationButtons{{
     {"ImgDonate_05", "spende_05.png", "0%2e50", " Öffnet eine Seite, auf der du 0.50€ für das Tarvelin-Projekt spenden kannst "},
     {"ImgDonate_1", "spende_1.png", "1%2e00", " Öffnet eine Seite, auf der du 1€ für das Tarvelin-Projekt spenden kannst "},
     {"ImgDonate_2", "spende_2.png", "2%2e00", " Öffnet eine Seite, auf der du 2€ für das Tarvelin-Projekt spenden kannst "},
@@ -18,67 +18,67 @@ const std::array<Spendenknopf, 6> kSpendenknoepfe{{
 
 namespace {
 
-constexpr const char* kZeilenende = "\r\n";
+constexpr const char* kLineEnd = "\r\n";
 
 /// The first characters of a text that should be UTF-8; a byte that isn't counts as one.
-std::string_view Anfang(std::string_view text, std::size_t zeichen) {
-    std::size_t ende = 0;
-    int folgen = 0;
-    for (; ende < text.size(); ++ende) {
-        const int einsen = std::countl_one(static_cast<unsigned char>(text[ende]));
-        if (einsen == 1 && folgen > 0) {
-            --folgen;
+std::string_view BeginOf(std::string_view text, std::size_t character) {
+    std::size_t end = 0;
+    int following = 0;
+    for (; end < text.size(); ++end) {
+        const int ones = std::countl_one(static_cast<unsigned char>(text[end]));
+        if (ones == 1 && following > 0) {
+            --following;
             continue;
         }
-        if (zeichen-- == 0) {
+        if (character-- == 0) {
             break;
         }
-        folgen = einsen >= 2 && einsen <= 4 ? einsen - 1 : 0;
+        following = ones >= 2 && ones <= 4 ? ones - 1 : 0;
     }
-    return text.substr(0, ende);
+    return text.substr(0, end);
 }
 
 }  // namespace
 
-std::string Homepage() {
+std::string HomePage() {
     return TARVELIN_MAKER_SITE "/";
 }
 
-std::string Downloadseite() {
+std::string DownloadsPage() {
     return TARVELIN_MAKER_SITE "/modules.php?name=Downloads&d_op=viewdownload&cid=9";
 }
 
-std::string Versionsdatei() {
+std::string VersionFile() {
     return TARVELIN_MAKER_SITE "/tarvelinversion.txt";
 }
 
-std::string Spendenseite(const Spendenknopf& knopf) {
-    const std::string betrag = knopf.Betrag;
-    const bool frei = betrag.empty();
+std::string DonationPage(const DonationButton& button) {
+    const std::string amount = button.amount;
+    const bool free = amount.empty();
     return std::string(TARVELIN_PAYMENT_SITE "/cgi-bin/webscr?cmd=_xclick&business=") +
-           (frei ? TARVELIN_DONATION_ACCOUNT_FREE : TARVELIN_DONATION_ACCOUNT) +
+           (free ? TARVELIN_DONATION_ACCOUNT_FREE : TARVELIN_DONATION_ACCOUNT) +
            "&item_name=Spende%20f%c3%bcr%20das%20Tarvelin%2dProjekt" +
-           (frei ? "" : "&amount=" + betrag) + "&no_shipping=1" + (frei ? "&no_note=1" : "") +
+           (free ? "" : "&amount=" + amount) + "&no_shipping=1" + (free ? "&no_note=1" : "") +
            "&cn=Optionales%20%2d%2d%3eSpenderliste&tax=0&currency_code=EUR&lc=DE"
            "&bn=PP%2dDonationsBF&charset=UTF%2d8";
 }
 
-Question Versionsfrage(std::string_view geladen) {
-    constexpr std::size_t kGezeigt = 64;
+Question VersionQuestion(std::string_view loaded) {
+    constexpr std::size_t kShown = 64;
     const std::string version = std::string("Deine Version (v") + kVersion + ") scheint ";
-    const std::string urteil =
-        geladen == kVersion
+    const std::string verdict =
+        loaded == kVersion
             ? "die aktuelle zu sein!"
-            : "NICHT die aktuelle (v" + std::string(Anfang(geladen, kGezeigt)) + ")zu sein!";
-    return {.text = version + urteil + kZeilenende +
+            : "NICHT die aktuelle (v" + std::string(BeginOf(loaded, kShown)) + ")zu sein!";
+    return {.text = version + verdict + kLineEnd +
                     "Möglicherweise habe ich aber auch nur vergessen die Versions-Datei auf dem "
                     "Server zu ändern..." +
-                    kZeilenende + kZeilenende + "Hersteller-Homepage aufrufen ?",
+                    kLineEnd + kLineEnd + "Hersteller-Homepage aufrufen ?",
             .title = "Version-Check...",
             .icon = MessageIcon::Information};
 }
 
-Message Versionsfehler() {
+Message VersionErrorMessage() {
     return {.text = "Die Versions-Datei konnte nicht geladen werden...",
             .title = "Version-Check..."};
 }

@@ -13,29 +13,29 @@ namespace tarvelin {
 /// Three numbers with points, as the program is built with.
 inline constexpr const char* kVersion = TARVELIN_VERSION;
 
-[[nodiscard]] std::string Homepage();
-[[nodiscard]] std::string Downloadseite();
+[[nodiscard]] std::string HomePage();
+[[nodiscard]] std::string DownloadsPage();
 /// A text file with the current version and nothing else.
-[[nodiscard]] std::string Versionsdatei();
+[[nodiscard]] std::string VersionFile();
 
 /// A button of the donation dialog.
-struct Spendenknopf {
-    const char* Bild;
-    const char* Datei;
+struct DonationButton {
+    const char* pictureName;
+    const char* file;
     /// Empty where the user chooses the amount on the page.
-    const char* Betrag;
-    const char* Hinweis;
+    const char* amount;
+    const char* hint;
 };
 
-extern const std::array<Spendenknopf, 6> kSpendenknoepfe;
+extern const std::array<DonationButton, 6> kDonationButtons;
 
-[[nodiscard]] std::string Spendenseite(const Spendenknopf& knopf);
+[[nodiscard]] std::string DonationPage(const DonationButton& button);
 
 /// What to ask the user after the fetch of the version file, whose every character counts. At most
 /// 64 characters of it are shown.
-[[nodiscard]] Question Versionsfrage(std::string_view geladen);
+[[nodiscard]] Question VersionQuestion(std::string_view loaded);
 
 /// The message when the version file can't be fetched.
-[[nodiscard]] Message Versionsfehler();
+[[nodiscard]] Message VersionErrorMessage();
 
 }  // namespace tarvelin

@@ -9,59 +9,59 @@ namespace tarvelin {
 
 namespace {
 
-QList<QAction*> MitBuchstabe(const QList<QAction*>& eintraege, const QKeySequence& taste) {
-    QList<QAction*> treffer;
-    for (QAction* const eintrag : eintraege) {
-        if (QKeySequence::mnemonic(eintrag->text()) == taste) {
-            treffer.append(eintrag);
+QList<QAction*> WithLetter(const QList<QAction*>& entries, const QKeySequence& key) {
+    QList<QAction*> hits;
+    for (QAction* const entry : entries) {
+        if (QKeySequence::mnemonic(entry->text()) == key) {
+            hits.append(entry);
         }
     }
-    return treffer;
+    return hits;
 }
 
 }  // namespace
 
-Menueleiste::Menueleiste(QWidget* parent) : QMenuBar(parent) {
+MenuBar::MenuBar(QWidget* parent) : QMenuBar(parent) {
     // A bar of the desktop would know nothing of entries without a menu.
     setNativeMenuBar(false);
     // A click anywhere else ends the walk by keys.
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-bool Menueleiste::event(QEvent* event) {
+bool MenuBar::event(QEvent* event) {
     if (event->type() == QEvent::Shortcut) {
-        const auto* const taste = static_cast<const QShortcutEvent*>(event);
-        const QList<QAction*> treffer = MitBuchstabe(actions(), taste->key());
-        if (treffer.size() > 1) {
+        const auto* const key = static_cast<const QShortcutEvent*>(event);
+        const QList<QAction*> hits = WithLetter(actions(), key->key());
+        if (hits.size() > 1) {
             if (!hasFocus()) {
-                m_vorher = window()->focusWidget();
+                m_before = window()->focusWidget();
             }
             setFocus(Qt::MenuBarFocusReason);
-            setActiveAction(treffer[(treffer.indexOf(activeAction()) + 1) % treffer.size()]);
+            setActiveAction(hits[(hits.indexOf(activeAction()) + 1) % hits.size()]);
             return true;
         }
     }
     return QMenuBar::event(event);
 }
 
-void Menueleiste::keyPressEvent(QKeyEvent* event) {
+void MenuBar::keyPressEvent(QKeyEvent* event) {
     QMenuBar::keyPressEvent(event);
     if (activeAction() == nullptr) {
-        GibFokusZurueck();
+        RestoreFocus();
     }
 }
 
-bool Menueleiste::eventFilter(QObject* ziel, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonPress && ziel != this && hasFocus()) {
+bool MenuBar::eventFilter(QObject* target, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress && target != this && hasFocus()) {
         setActiveAction(nullptr);
-        GibFokusZurueck();
+        RestoreFocus();
     }
-    return QMenuBar::eventFilter(ziel, event);
+    return QMenuBar::eventFilter(target, event);
 }
 
-void Menueleiste::GibFokusZurueck() {
-    if (hasFocus() && m_vorher != nullptr && m_vorher->isVisible()) {
-        m_vorher->setFocus(Qt::MenuBarFocusReason);
+void MenuBar::RestoreFocus() {
+    if (hasFocus() && m_before != nullptr && m_before->isVisible()) {
+        m_before->setFocus(Qt::MenuBarFocusReason);
     } else if (hasFocus()) {
         clearFocus();
     }

@@ -8,22 +8,22 @@ namespace tarvelin {
 
 /// Alt and a letter that several entries share walks from one to the next; Enter then takes the one
 /// that is marked. The toolkit alone would carry an entry out at once, which of them being chance.
-class Menueleiste : public QMenuBar {
+class MenuBar : public QMenuBar {
     Q_OBJECT
 
   public:
-    explicit Menueleiste(QWidget* parent);
+    explicit MenuBar(QWidget* parent);
 
   protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    bool eventFilter(QObject* ziel, QEvent* event) override;
+    bool eventFilter(QObject* target, QEvent* event) override;
 
   private:
-    void GibFokusZurueck();
+    void RestoreFocus();
 
     /// What had the focus before the bar took it.
-    QPointer<QWidget> m_vorher;
+    QPointer<QWidget> m_before;
 };
 
 }  // namespace tarvelin

@@ -11,23 +11,22 @@ namespace tarvelin {
 
 namespace {
 
-TableModel::Provider QuelleVon(const Schedule& bauzeiten) {
-    return {.rows = [&bauzeiten] { return bauzeiten.size(); },
+TableModel::Provider ProviderOf(const Schedule& schedule) {
+    return {.rows = [&schedule] { return schedule.size(); },
             .text =
-                [&bauzeiten](std::size_t zeile, int spalte) {
-                    const ScheduleEntry& z = bauzeiten[zeile];
-                    return ToQString(spalte == 0   ? z.Weekday()
-                                     : spalte == 1 ? z.TimeOfDay()
-                                                   : z.theText());
+                [&schedule](std::size_t row, int column) {
+                    const ScheduleEntry& tableRow = schedule[row];
+                    return ToQString(column == 0   ? tableRow.Weekday()
+                                     : column == 1 ? tableRow.TimeOfDay()
+                                                   : tableRow.theText());
                 },
-            .description =
-                [&bauzeiten](std::size_t zeile) { return ToQString(bauzeiten[zeile].Tag()); }};
+            .description = [&schedule](std::size_t row) { return ToQString(schedule[row].Tag()); }};
 }
 
 /// Takes what is typed and nothing that is pasted.
-class Sekundenfeld : public QLineEdit {
+class SecondsInput : public QLineEdit {
   public:
-    explicit Sekundenfeld(QWidget* parent) : QLineEdit(parent) {
+    explicit SecondsInput(QWidget* parent) : QLineEdit(parent) {
         setContextMenuPolicy(Qt::NoContextMenu);
     }
 
@@ -46,7 +45,7 @@ class Sekundenfeld : public QLineEdit {
 
 }  // namespace
 
-Bauzeitengruppe::Bauzeitengruppe(const Schedule& bauzeiten, QWidget* parent)
+ScheduleGroup::ScheduleGroup(const Schedule& schedule, QWidget* parent)
     : GroupBox(QStringLiteral("Frame6"), QStringLiteral("Optimale Bauzeiten:"), parent),
       LV_Bauzeiten(new ListView(QStringLiteral("LV_Bauzeiten"),
                                 QStringLiteral("Optimale Bauzeiten"), {720, 1450, 2857}, this)),
@@ -57,31 +56,31 @@ Bauzeitengruppe::Bauzeitengruppe(const Schedule& bauzeiten, QWidget* parent)
           QStringLiteral(" Zeigt die Spendenmöglichkeiten an, durch welche du das Tarvelin-Projekt "
                          "unterstützen kannst "),
           this)),
-      m_bauzeiten(bauzeiten),
-      m_modell(new TableModel(
+      m_schedule(schedule),
+      m_model(new TableModel(
           {QStringLiteral("Wochentag"), QStringLiteral("Uhrzeit"), QStringLiteral("theText")},
-          QuelleVon(bauzeiten), this)),
+          ProviderOf(schedule), this)),
       m_LBL_Punkte(NewLabel(QStringLiteral("LBL_Punkte"), {}, this)),
       m_LBL_Timegone2(NewLabel(QStringLiteral("LBL_Timegone2"), {}, this)) {
-    LV_Bauzeiten->setModel(m_modell);
-    connect(LV_Bauzeiten, &ListView::MouseMove, this, &Bauzeitengruppe::LV_Bauzeiten_MouseMove);
+    LV_Bauzeiten->setModel(m_model);
+    connect(LV_Bauzeiten, &ListView::MouseMove, this, &ScheduleGroup::LV_Bauzeiten_MouseMove);
     Chk_BauWeckfunktion->setObjectName(QStringLiteral("Chk_BauWeckfunktion"));
-    FuelleSekunden();
+    FillSeconds();
     m_LBL_Punkte->setAccessibleDescription(QStringLiteral("Punkte"));
     m_LBL_Timegone2->setAlignment(Qt::AlignCenter);
-    LegeAus();
+    Arrange();
 }
 
-void Bauzeitengruppe::FuelleSekunden() {
+void ScheduleGroup::FillSeconds() {
     Comb_Before->setObjectName(QStringLiteral("Comb_Before"));
-    Comb_Before->setLineEdit(new Sekundenfeld(Comb_Before));
+    Comb_Before->setLineEdit(new SecondsInput(Comb_Before));
     Comb_Before->setInsertPolicy(QComboBox::NoInsert);
     // What is typed stays as it is.
     Comb_Before->setCompleter(nullptr);
-    constexpr int kBreite = 46;
-    Comb_Before->setFixedWidth(kBreite);
-    for (const char* const sekunden : {"1", "2", "5", "10", "15", "20", "30", "45", "60", "120"}) {
-        Comb_Before->addItem(QString::fromLatin1(sekunden));
+    constexpr int kWidth = 46;
+    Comb_Before->setFixedWidth(kWidth);
+    for (const char* const seconds : {"1", "2", "5", "10", "15", "20", "30", "45", "60", "120"}) {
+        Comb_Before->addItem(QString::fromLatin1(seconds));
     }
     Comb_Before->setCurrentText(QStringLiteral("10"));
     Comb_Before->setValidator(
@@ -93,7 +92,7 @@ void Bauzeitengruppe::FuelleSekunden() {
     name->hide();
 }
 
-void Bauzeitengruppe::LegeAus() {
+void ScheduleGroup::Arrange() {
     auto* const layout = new QGridLayout(this);
     layout->setContentsMargins(3, 2, 3, 3);
     layout->setSpacing(3);
@@ -109,16 +108,16 @@ void Bauzeitengruppe::LegeAus() {
     layout->setColumnStretch(1, 1);
 }
 
-void Bauzeitengruppe::Zeige(const ResultTexts& texte) {
-    m_LBL_Punkte->setText(ToQString(texte.LBL_Punkte));
-    m_LBL_Punkte->setToolTip(ToQString(texte.LBL_Punkte_Hint));
-    m_LBL_Timegone2->setText(ToQString(texte.LBL_Timegone2));
+void ScheduleGroup::ShowResult(const ResultTexts& texts) {
+    m_LBL_Punkte->setText(ToQString(texts.LBL_Punkte));
+    m_LBL_Punkte->setToolTip(ToQString(texts.LBL_Punkte_Hint));
+    m_LBL_Timegone2->setText(ToQString(texts.LBL_Timegone2));
 }
 
-void Bauzeitengruppe::LV_Bauzeiten_MouseMove(const QModelIndex& zeile) {
-    const auto nummer = static_cast<std::size_t>(zeile.row());
-    const bool steht = zeile.isValid() && nummer < m_bauzeiten.size();
-    SetHint(*LV_Bauzeiten, steht ? ToQString(m_bauzeiten[nummer].Tag()) : QString());
+void ScheduleGroup::LV_Bauzeiten_MouseMove(const QModelIndex& row) {
+    const auto number = static_cast<std::size_t>(row.row());
+    const bool stands = row.isValid() && number < m_schedule.size();
+    SetHint(*LV_Bauzeiten, stands ? ToQString(m_schedule[number].Tag()) : QString());
 }
 
 }  // namespace tarvelin

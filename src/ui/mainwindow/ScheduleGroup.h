@@ -13,16 +13,16 @@
 
 namespace tarvelin {
 
-class Bauzeitengruppe : public GroupBox {
+class ScheduleGroup : public GroupBox {
     Q_OBJECT
 
   public:
-    /// Shows the rows of `bauzeiten`, which must outlive the group.
-    Bauzeitengruppe(const Schedule& bauzeiten, QWidget* parent);
+    /// Shows the rows of `schedule`, which must outlive the group.
+    ScheduleGroup(const Schedule& schedule, QWidget* parent);
 
     /// After a run or a reset.
-    void ZeigeBauzeiten() { m_modell->Refresh(); }
-    void Zeige(const ResultTexts& texte);
+    void ShowSchedule() { m_model->Refresh(); }
+    void ShowResult(const ResultTexts& texts);
 
     ListView* const LV_Bauzeiten;
     QCheckBox* const Chk_BauWeckfunktion;
@@ -31,12 +31,12 @@ class Bauzeitengruppe : public GroupBox {
     PictureButton* const ImgDonate_1;
 
   private:
-    void FuelleSekunden();
-    void LegeAus();
-    void LV_Bauzeiten_MouseMove(const QModelIndex& zeile);
+    void FillSeconds();
+    void Arrange();
+    void LV_Bauzeiten_MouseMove(const QModelIndex& row);
 
-    const Schedule& m_bauzeiten;
-    TableModel* m_modell;
+    const Schedule& m_schedule;
+    TableModel* m_model;
     QLabel* m_LBL_Punkte;
     QLabel* m_LBL_Timegone2;
 };

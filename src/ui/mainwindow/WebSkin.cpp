@@ -11,14 +11,14 @@ namespace tarvelin {
 
 namespace {
 
-struct Itemskin {
-    ItemId Item;
+struct ItemSkinFile {
+    ItemId item;
     /// The file in the folder of the buildings.
-    std::string_view Name;
+    std::string_view name;
 };
 
 // clang-format off
-constexpr std::array<Itemskin, kNumItems> kItemskins{{
+constexpr std::array<ItemSkinFile, kNumItems> kItemSkinFiles{{
     {ItemId::MetMine, "1"},
     {ItemId::KrisMine, "2"},
     {ItemId::DeutMine, "3"},
@@ -42,14 +42,14 @@ constexpr std::array<Itemskin, kNumItems> kItemskins{{
 }};
 // clang-format on
 
-constexpr bool HatSkin(ItemId item) {
-    return std::ranges::count(kItemskins, item, &Itemskin::Item) == 1;
+constexpr bool HasSkin(ItemId item) {
+    return std::ranges::count(kItemSkinFiles, item, &ItemSkinFile::item) == 1;
 }
 
 static_assert(
     [] {
         for (std::size_t i = 0; i < kNumItems; ++i) {
-            if (!HatSkin(static_cast<ItemId>(i))) {
+            if (!HasSkin(static_cast<ItemId>(i))) {
                 return false;
             }
         }
@@ -57,7 +57,7 @@ static_assert(
     }(),
     "every item has its file in a skin");
 
-constexpr std::array<Skinbild, 4> kSymbole{{
+constexpr std::array<SkinPicture, 4> kIcons{{
     {"images", "kristall", "Images(1)"},
     {"images", "metall", "Images(0)"},
     {"images", "deuterium", "Images(2)"},
@@ -66,35 +66,35 @@ constexpr std::array<Skinbild, 4> kSymbole{{
 
 }  // namespace
 
-const std::vector<Skinbild>& Skinbilder() {
-    static const std::vector<Skinbild> kBilder = [] {
-        std::vector<Skinbild> bilder;
-        bilder.reserve(kItemskins.size() + kSymbole.size());
-        for (const Itemskin& skin : kItemskins) {
-            bilder.push_back({"gebaeude", skin.Name, ItemDisplays()[skin.Item].pictureName});
+const std::vector<SkinPicture>& SkinPictures() {
+    static const std::vector<SkinPicture> kPictures = [] {
+        std::vector<SkinPicture> pictures;
+        pictures.reserve(kItemSkinFiles.size() + kIcons.size());
+        for (const ItemSkinFile& skin : kItemSkinFiles) {
+            pictures.push_back({"gebaeude", skin.name, ItemDisplays()[skin.item].pictureName});
         }
-        bilder.insert(bilder.end(), kSymbole.begin(), kSymbole.end());
-        return bilder;
+        pictures.insert(pictures.end(), kIcons.begin(), kIcons.end());
+        return pictures;
     }();
-    return kBilder;
+    return kPictures;
 }
 
 namespace {
 
 /// Whether the file lies there afterwards.
-bool HoleDatei(const std::string& adresse, const std::filesystem::path& datei,
-               const Environment& umgebung) {
-    if (FileExists(datei, umgebung.files)) {
-        static_cast<void>(umgebung.files.Remove(datei));
+bool FetchFile(const std::string& address, const std::filesystem::path& file,
+               const Environment& environment) {
+    if (FileExists(file, environment.files)) {
+        static_cast<void>(environment.files.Remove(file));
     }
-    if (const auto bytes = umgebung.fetcher.Fetch(adresse)) {
-        static_cast<void>(WriteFileAtomically(datei, *bytes, umgebung.files));
+    if (const auto bytes = environment.fetcher.Fetch(address)) {
+        static_cast<void>(WriteFileAtomically(file, *bytes, environment.files));
     }
-    return FileExists(datei, umgebung.files);
+    return FileExists(file, environment.files);
 }
 
-Question NachFehler(const std::string& ort) {
-    return {.text = "\"" + ort +
+Question AfterError(const std::string& position) {
+    return {.text = "\"" + position +
                     "\" konnte nicht von der angegebenen URL geladen werden...\r\n\r\n"
                     "Vorgang abbrechen ?",
             .title = "Download-Fehler...",
@@ -103,25 +103,26 @@ Question NachFehler(const std::string& ort) {
 
 }  // namespace
 
-Webskinausgang HoleWebskin(const std::string& adresse, const std::filesystem::path& ziel,
-                           const Environment& umgebung, const std::function<bool()>& offen) {
-    umgebung.dialogs.Show({.text = "Der folgende Vorgang kann einige Sekunden dauern, je nach "
-                                   "Internet-Anbindung...",
-                           .title = "Fortsetzen...",
-                           .icon = MessageIcon::Information});
-    for (const Skinbild& bild : Skinbilder()) {
-        const std::string ort =
-            "/" + std::string(bild.Ordner) + "/" + std::string(bild.Name) + ".gif";
-        umgebung.fetcher.ProcessEvents();
-        const bool geholt = offen() && HoleDatei(adresse + ort, ziel / ort.substr(1), umgebung);
-        if (!offen()) {
-            return Webskinausgang::Abgebrochen;
+WebSkinOutcome FetchWebSkin(const std::string& address, const std::filesystem::path& destination,
+                            const Environment& environment, const std::function<bool()>& open) {
+    environment.dialogs.Show({.text = "Der folgende Vorgang kann einige Sekunden dauern, je nach "
+                                      "Internet-Anbindung...",
+                              .title = "Fortsetzen...",
+                              .icon = MessageIcon::Information});
+    for (const SkinPicture& picture : SkinPictures()) {
+        const std::string position =
+            "/" + std::string(picture.TempFolder) + "/" + std::string(picture.name) + ".gif";
+        environment.fetcher.ProcessEvents();
+        const bool fetched =
+            open() && FetchFile(address + position, destination / position.substr(1), environment);
+        if (!open()) {
+            return WebSkinOutcome::Aborted;
         }
-        if (!geholt && umgebung.dialogs.Ask(NachFehler(ort))) {
-            return Webskinausgang::Abgebrochen;
+        if (!fetched && environment.dialogs.Ask(AfterError(position))) {
+            return WebSkinOutcome::Aborted;
         }
     }
-    return Webskinausgang::AmEnde;
+    return WebSkinOutcome::Completed;
 }
 
 }  // namespace tarvelin

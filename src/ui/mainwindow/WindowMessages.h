@@ -10,30 +10,30 @@ namespace tarvelin {
 
 /// Messages come up with what a load or a run has changed so far on the screen. From the second one
 /// on the user can do without the rest.
-class Standmeldungen final : public MessageSink {
+class WindowMessages final : public MessageSink {
   public:
-    Standmeldungen(std::function<void()> zeigeStand, Dialogs& boxen)
-        : m_zeigeStand(std::move(zeigeStand)), m_boxen(boxen) {}
+    WindowMessages(std::function<void()> showProgress, Dialogs& dialogs)
+        : m_showProgress(std::move(showProgress)), m_dialogs(dialogs) {}
 
-    void Show(const Message& meldung) override {
-        if (!m_gewuenscht) {
+    void Show(const Message& message) override {
+        if (!m_wanted) {
             return;
         }
-        m_zeigeStand();
-        if (m_erste) {
-            m_boxen.Show(meldung);
+        m_showProgress();
+        if (m_first) {
+            m_dialogs.Show(message);
         } else {
-            m_gewuenscht = m_boxen.ShowSuppressible(meldung);
+            m_wanted = m_dialogs.ShowSuppressible(message);
         }
-        m_erste = false;
+        m_first = false;
     }
-    void Beep() override { m_boxen.Beep(); }
+    void Beep() override { m_dialogs.Beep(); }
 
   private:
-    std::function<void()> m_zeigeStand;
-    Dialogs& m_boxen;
-    bool m_erste = true;
-    bool m_gewuenscht = true;
+    std::function<void()> m_showProgress;
+    Dialogs& m_dialogs;
+    bool m_first = true;
+    bool m_wanted = true;
 };
 
 }  // namespace tarvelin

@@ -13,31 +13,31 @@ namespace tarvelin {
 
 namespace {
 
-constexpr std::array<const char*, 2> kAutoren{"Das Tarvelin-Team", "und seine Spieler"};
+constexpr std::array<const char*, 2> kAuthors{"Das Tarvelin-Team", "und seine Spieler"};
 
-QString Beschreibung() {
+QString Description() {
     QString text = QStringLiteral(" Programming:");
-    for (const char* const autor : kAutoren) {
-        text += QStringLiteral("\n") + QString(15, QLatin1Char(' ')) + QString::fromUtf8(autor);
+    for (const char* const author : kAuthors) {
+        text += QStringLiteral("\n") + QString(15, QLatin1Char(' ')) + QString::fromUtf8(author);
     }
     return text;
 }
 
 }  // namespace
 
-frmAbout::frmAbout(const Environment& umgebung) {
+frmAbout::frmAbout(const Environment& environment) {
     setObjectName(QStringLiteral("frmAbout"));
     setWindowTitle(QStringLiteral("About Tarvelin"));
-    const auto icon = LoadIconFile(umgebung.programFolder / "img" / "icon.ico");
+    const auto icon = LoadIconFile(environment.programFolder / "img" / "icon.ico");
     setWindowIcon(icon);
-    constexpr int kSeite = 64;
-    QLabel* const bild = NewPicture(QStringLiteral("Img_About"), {kSeite, kSeite}, {}, this);
-    bild->setPixmap(icon.pixmap({kSeite, kSeite}, devicePixelRatioF()));
-    QLabel* const titel = NewLabel(QStringLiteral("lblTitle"), QStringLiteral("Tarvelin"), this);
-    QFont gross = titel->font();
-    gross.setPixelSize(2 * gross.pixelSize());
-    titel->setFont(gross);
-    titel->setMinimumWidth(QFontMetrics(gross).boundingRect(titel->text()).width() + 4);
+    constexpr int kPage = 64;
+    QLabel* const picture = NewPicture(QStringLiteral("Img_About"), {kPage, kPage}, {}, this);
+    picture->setPixmap(icon.pixmap({kPage, kPage}, devicePixelRatioF()));
+    QLabel* const title = NewLabel(QStringLiteral("lblTitle"), QStringLiteral("Tarvelin"), this);
+    QFont large = title->font();
+    large.setPixelSize(2 * large.pixelSize());
+    title->setFont(large);
+    title->setMinimumWidth(QFontMetrics(large).boundingRect(title->text()).width() + 4);
     QPushButton* const homepage =
         NewButton(QStringLiteral("Label1"), QStringLiteral("Homepage"), this);
     homepage->setFlat(true);
@@ -47,23 +47,23 @@ frmAbout::frmAbout(const Environment& umgebung) {
     homepage->setStyleSheet(QStringLiteral("color: rgb(255, 0, 0);"));
     homepage->setToolTip(QStringLiteral(" Visit "));
     connect(homepage, &QAbstractButton::clicked, this,
-            [&umgebung] { umgebung.openPage(Homepage()); });
+            [&environment] { environment.openPage(HomePage()); });
     QPushButton* const ok = NewButton(QStringLiteral("cmdOK"), QStringLiteral("OK"), this);
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QWidget::close);
 
     auto* const layout = new QGridLayout(this);
-    layout->addWidget(bild, 0, 0, 2, 1);
-    layout->addWidget(titel, 0, 1);
+    layout->addWidget(picture, 0, 0, 2, 1);
+    layout->addWidget(title, 0, 1);
     layout->addWidget(NewLabel(QStringLiteral("lblVersion"),
                                QStringLiteral(" Version ") + QString::fromLatin1(kVersion), this),
                       1, 1);
-    layout->addWidget(NewLabel(QStringLiteral("lblDescription"), Beschreibung(), this), 2, 0, 1, 2);
+    layout->addWidget(NewLabel(QStringLiteral("lblDescription"), Description(), this), 2, 0, 1, 2);
     layout->addWidget(homepage, 3, 0);
     layout->addWidget(ok, 3, 1);
     // Wide enough for the title in the frame.
-    constexpr int kTextbreite = 170;
-    layout->setColumnMinimumWidth(1, kTextbreite);
+    constexpr int kTextWidth = 170;
+    layout->setColumnMinimumWidth(1, kTextWidth);
     layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 

@@ -11,8 +11,8 @@ class frmAbout : public QWidget {
     Q_OBJECT
 
   public:
-    /// `umgebung` must outlive the box.
-    explicit frmAbout(const Environment& umgebung);
+    /// `environment` must outlive the box.
+    explicit frmAbout(const Environment& environment);
 
   protected:
     /// Enter and Escape press the button.

@@ -11,8 +11,8 @@ class frmDonate : public QWidget {
     Q_OBJECT
 
   public:
-    /// `umgebung` must outlive the dialog.
-    explicit frmDonate(const Environment& umgebung);
+    /// `environment` must outlive the dialog.
+    explicit frmDonate(const Environment& environment);
 };
 
 }  // namespace tarvelin

@@ -25,120 +25,119 @@ namespace tarvelin {
 namespace {
 
 /// Of the window, in twips.
-constexpr int kBreite = 12870;
-constexpr int kHoehe = 5030;
+constexpr int kWidth = 12870;
+constexpr int kHeight = 5030;
 
 /// Brings up a window of its own, or the one that is open already.
 template <class F>
-void ZeigeEinmaliges(std::unique_ptr<F>& fenster, const Environment& umgebung) {
-    if (!fenster) {
-        fenster = std::make_unique<F>(umgebung);
+void ShowSingle(std::unique_ptr<F>& window, const Environment& environment) {
+    if (!window) {
+        window = std::make_unique<F>(environment);
     }
-    fenster->setWindowState(fenster->windowState() & ~Qt::WindowMinimized);
-    fenster->show();
-    fenster->raise();
-    fenster->activateWindow();
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    window->show();
+    window->raise();
+    window->activateWindow();
 }
 
 }  // namespace
 
-frmMain::frmMain(const Environment& umgebung)
-    : m_umgebung(umgebung),
-      m_konfiguration(umgebung.programFolder, umgebung.files),
-      m_autosave(umgebung.programFolder, umgebung.files),
-      m_rollflaeche(new QScrollArea(this)),
-      m_flaeche(new QWidget(this)),
-      m_Fra_Einstellungen(new Fra_Einstellungen(m_plan, m_flaeche)),
-      m_Fra_Special(new Fra_Special(m_flaeche)),
-      m_Fra_Skin(new Fra_Skin(umgebung.programFolder / "img" / "skins", m_flaeche)),
-      m_Fra_Sleep(new Fra_Sleep(m_plan.LV_Schlafzeiten, umgebung, m_flaeche)),
-      m_Fra_Rest(new Fra_Rest(m_plan.LV_Bauliste, m_lauf, m_flaeche)),
-      m_TopLine(new QFrame(m_flaeche)),
-      m_menue(new Menueleiste(this)),
-      m_alarme(new Alarme({.LV_Bauzeiten = m_lauf.LV_Bauzeiten,
+frmMain::frmMain(const Environment& environment)
+    : m_environment(environment),
+      m_configuration(environment.programFolder, environment.files),
+      m_autosave(environment.programFolder, environment.files),
+      m_scrollArea(new QScrollArea(this)),
+      m_surface(new QWidget(this)),
+      m_Fra_Einstellungen(new Fra_Einstellungen(m_plan, m_surface)),
+      m_Fra_Special(new Fra_Special(m_surface)),
+      m_Fra_Skin(new Fra_Skin(environment.programFolder / "img" / "skins", m_surface)),
+      m_Fra_Sleep(new Fra_Sleep(m_plan.LV_Schlafzeiten, environment, m_surface)),
+      m_Fra_Rest(new Fra_Rest(m_plan.LV_Bauliste, m_run, m_surface)),
+      m_TopLine(new QFrame(m_surface)),
+      m_menu(new MenuBar(this)),
+      m_alarms(new Alarms({.LV_Bauzeiten = m_run.LV_Bauzeiten,
                            .LV_Schlafzeiten = m_plan.LV_Schlafzeiten,
-                           .Chk_BauWeckfunktion = *m_Fra_Rest->Bauwecker(),
+                           .Chk_BauWeckfunktion = *m_Fra_Rest->BuildAlarmSwitch(),
                            .Chk_Schlafzeitenwecker = *m_Fra_Sleep->Chk_Schlafzeitenwecker,
-                           .Comb_Before = *m_Fra_Rest->SekundenVorher()},
-                          umgebung, m_flaeche)) {
+                           .Comb_Before = *m_Fra_Rest->SecondsBefore()},
+                          environment, m_surface)) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Tarvelin  |  Kelva Aufbau-Simulator"));
-    LegeAus();
-    BaueMenue();
-    Verbinde();
-    LadeBilder();
-    SetzeHeute();
-    m_verlauf.Begin(SnapshotOf(m_plan));
-    m_Fra_Rest->Zeige(m_texte);
-    m_Fra_Rest->ZeigeNamen(m_plan.ShowDesc);
+    Arrange();
+    AddMenus();
+    ConnectSignals();
+    LoadPictures();
+    SetToday();
+    m_history.Begin(SnapshotOf(m_plan));
+    m_Fra_Rest->ShowResult(m_texts);
+    m_Fra_Rest->ShowNames(m_plan.ShowDesc);
     m_Tmr_Autosave.setObjectName(QStringLiteral("Tmr_Autosave"));
     connect(&m_Tmr_Autosave, &QTimer::timeout, this, [this] { m_autosave.WriteIfChanged(m_plan); });
 }
 
 // What the lists show must outlive them.
 frmMain::~frmMain() {
-    delete m_flaeche;
+    delete m_surface;
 }
 
-void frmMain::LegeAus() {
-    m_rollflaeche->setObjectName(QStringLiteral("Rollflaeche"));
-    m_rollflaeche->setFrameShape(QFrame::NoFrame);
-    m_rollflaeche->setFocusPolicy(Qt::NoFocus);
-    m_rollflaeche->setWidgetResizable(true);
-    m_rollflaeche->setWidget(m_flaeche);
-    setCentralWidget(m_rollflaeche);
-    PasseAnBildschirmAn();
+void frmMain::Arrange() {
+    m_scrollArea->setObjectName(QStringLiteral("Rollflaeche"));
+    m_scrollArea->setFrameShape(QFrame::NoFrame);
+    m_scrollArea->setFocusPolicy(Qt::NoFocus);
+    m_scrollArea->setWidgetResizable(true);
+    m_scrollArea->setWidget(m_surface);
+    setCentralWidget(m_scrollArea);
+    FitToScreen();
     m_Fra_Rest->move(0, TwipsToPixels(2));
     m_Fra_Rest->lower();
-    m_flaeche->setMinimumSize(TwipsToPixels(kBreite), m_Fra_Rest->geometry().bottom() + 1);
+    m_surface->setMinimumSize(TwipsToPixels(kWidth), m_Fra_Rest->geometry().bottom() + 1);
     m_TopLine->setObjectName(QStringLiteral("TopLine"));
     m_TopLine->setFrameStyle(QFrame::HLine | QFrame::Sunken);
-    m_TopLine->setGeometry(0, 0, TwipsToPixels(kBreite), 1);
+    m_TopLine->setGeometry(0, 0, TwipsToPixels(kWidth), 1);
     m_TopLine->setAttribute(Qt::WA_TransparentForMouseEvents);
-    setMenuBar(m_menue);
-    m_Fra_Rest->Startknopf()->setDefault(true);
+    setMenuBar(m_menu);
+    m_Fra_Rest->StartButton()->setDefault(true);
     // The button owns it.
-    new EnterKeyFilter(m_Fra_Rest->Startknopf());
+    new EnterKeyFilter(m_Fra_Rest->StartButton());
     m_Fra_Einstellungen->TakeFocus();
     // No control takes what is dragged in from elsewhere.
-    for (QLineEdit* const eingabe : findChildren<QLineEdit*>()) {
-        eingabe->setAcceptDrops(false);
+    for (QLineEdit* const input : findChildren<QLineEdit*>()) {
+        input->setAcceptDrops(false);
     }
-    for (QTableView* const kalenderblatt : findChildren<QTableView*>()) {
-        kalenderblatt->installEventFilter(this);
+    for (QTableView* const calendarPage : findChildren<QTableView*>()) {
+        calendarPage->installEventFilter(this);
     }
 }
 
-QSize frmMain::GroesseAuf(const QSize& bildschirm) {
-    const QSize ganz(TwipsToPixels(kBreite), TwipsToPixels(kHoehe));
-    if (ganz.boundedTo(bildschirm) == ganz) {
-        return ganz;
+QSize frmMain::SizeOn(const QSize& screen) {
+    const QSize whole(TwipsToPixels(kWidth), TwipsToPixels(kHeight));
+    if (whole.boundedTo(screen) == whole) {
+        return whole;
     }
-    constexpr QSize kRahmen(8, 36);
-    return ganz.boundedTo(bildschirm - kRahmen);
+    constexpr QSize kFrame(8, 36);
+    return whole.boundedTo(screen - kFrame);
 }
 
-void frmMain::FolgeBildschirm() {
-    disconnect(m_bildschirm);
-    m_bildschirm =
-        connect(screen(), &QScreen::availableGeometryChanged, this, &frmMain::PasseAnBildschirmAn);
-    PasseAnBildschirmAn();
+void frmMain::FollowScreen() {
+    disconnect(m_screen);
+    m_screen = connect(screen(), &QScreen::availableGeometryChanged, this, &frmMain::FitToScreen);
+    FitToScreen();
 }
 
-void frmMain::PasseAnBildschirmAn() {
-    setFixedSize(GroesseAuf(screen()->availableSize()));
+void frmMain::FitToScreen() {
+    setFixedSize(SizeOn(screen()->availableSize()));
 }
 
-void frmMain::LadeBilder() {
-    const auto bilder = m_umgebung.programFolder / "img";
-    setWindowIcon(LoadIconFile(bilder / "icon.ico"));
+void frmMain::LoadPictures() {
+    const auto pictures = m_environment.programFolder / "img";
+    setWindowIcon(LoadIconFile(pictures / "icon.ico"));
     // What another skin lacks stays as it is in this one.
-    ZeigeSkin(kStandardskin, {});
-    m_Fra_Rest->SetzeZeiger(LoadDragCursors(bilder, devicePixelRatioF()));
-    m_Fra_Rest->SetzeSpendenbild(LoadPixmap(bilder / "spende.png"));
+    ShowSkin(kStandardSkin, {});
+    m_Fra_Rest->SetCursors(LoadDragCursors(pictures, devicePixelRatioF()));
+    m_Fra_Rest->SetDonationPicture(LoadPixmap(pictures / "spende.png"));
 }
 
-void frmMain::Verbinde() {
+void frmMain::ConnectSignals() {
     connect(m_Fra_Rest, &Fra_Rest::DragDrop, this, &frmMain::LV_Bauliste_DragDrop);
     connect(m_Fra_Rest, &Fra_Rest::Cmd_Undo_Click, this, &frmMain::Cmd_Undo_Click);
     connect(m_Fra_Rest, &Fra_Rest::Cmd_Clear_Click, this, &frmMain::Cmd_Clear_Click);
@@ -149,318 +148,316 @@ void frmMain::Verbinde() {
             &frmMain::Cmd_AddProdaenderungsevent_Click);
     connect(m_Fra_Einstellungen, &Fra_Einstellungen::Chk_Speedfaktor_Click, this,
             &frmMain::Chk_Speedfaktor_Click);
-    connect(m_Fra_Einstellungen, &Fra_Einstellungen::Geaendert, this,
-            [this](const QString& eingabe) { Bearbeitet(eingabe.toStdString()); });
-    connect(m_Fra_Sleep, &Fra_Sleep::Geaendert, this, [this] { Bearbeitet(); });
+    connect(m_Fra_Einstellungen, &Fra_Einstellungen::Edited, this,
+            [this](const QString& input) { FinishEdit(input.toStdString()); });
+    connect(m_Fra_Sleep, &Fra_Sleep::Edited, this, [this] { FinishEdit(); });
     connect(m_Fra_Einstellungen, &Fra_Einstellungen::cmd_ShowDesc_Click, this,
-            [this] { m_Fra_Rest->ZeigeNamen(m_plan.ShowDesc); });
+            [this] { m_Fra_Rest->ShowNames(m_plan.ShowDesc); });
     connect(m_Fra_Skin->Cmd_ApplySkin, &QPushButton::clicked, this, &frmMain::Cmd_ApplySkin_Click);
 }
 
-QAction* frmMain::NeuerEintrag(QWidget* menue, const char* name, const char* text) {
-    auto* const eintrag = new QAction(QString::fromLatin1(text), this);
-    eintrag->setObjectName(QString::fromLatin1(name));
-    menue->addAction(eintrag);
-    return eintrag;
+QAction* frmMain::NewMenuEntry(QWidget* menu, const char* name, const char* text) {
+    auto* const entry = new QAction(QString::fromLatin1(text), this);
+    entry->setObjectName(QString::fromLatin1(name));
+    menu->addAction(entry);
+    return entry;
 }
 
 // The style would draw a separator's caption.
-void frmMain::NeuerStrich(QMenu* menue, const char* name) {
-    menue->addSeparator()->setObjectName(QString::fromLatin1(name));
+void frmMain::NewSeparator(QMenu* menu, const char* name) {
+    menu->addSeparator()->setObjectName(QString::fromLatin1(name));
 }
 
-void frmMain::BaueMenue() {
-    BaueDateimenue();
-    const auto felder = {
+void frmMain::AddMenus() {
+    AddFileMenu();
+    const auto panels = {
         std::tuple("mnuEinstellungen", "&Einstellungen", &frmMain::mnuEinstellungen_Click),
         std::tuple("mnu_SpecialEvents", "Special-&Events", &frmMain::mnu_SpecialEvents_Click),
         std::tuple("mnuSleep", "&Schlafzeiten", &frmMain::mnuSleep_Click),
         std::tuple("mnuSkin", "&Skin", &frmMain::mnuSkin_Click)};
-    for (const auto& [name, text, handler] : felder) {
-        connect(NeuerEintrag(m_menue, name, text), &QAction::triggered, this, handler);
+    for (const auto& [name, text, handler] : panels) {
+        connect(NewMenuEntry(m_menu, name, text), &QAction::triggered, this, handler);
     }
-    BaueInfomenue();
-    connect(NeuerEintrag(m_menue, "mnuWerkbank", "&Werkbank"), &QAction::triggered, this,
-            &frmMain::mnuWerkbank_Click);
+    AddInfoMenu();
+    connect(NewMenuEntry(m_menu, "mnuWerkbank", "&Werkbank"), &QAction::triggered, this,
+            &frmMain::mnuWorkbench_Click);
 }
 
-void frmMain::BaueDateimenue() {
-    QMenu* const datei = m_menue->addMenu(QStringLiteral("&Datei"));
-    datei->menuAction()->setObjectName(QStringLiteral("mnu_Datei"));
-    const auto eintraege = {
+void frmMain::AddFileMenu() {
+    QMenu* const file = m_menu->addMenu(QStringLiteral("&Datei"));
+    file->menuAction()->setObjectName(QStringLiteral("mnu_Datei"));
+    const auto entries = {
         std::tuple("mnu_DateiNeu", "&Neu", Qt::Key_N, &frmMain::mnu_DateiNeu_Click),
         std::tuple("mnu_DateiLaden", "&Laden", Qt::Key_O, &frmMain::mnu_DateiLaden_Click),
         std::tuple("mnu_Datei_Speichern", "&Speichern", Qt::Key_S,
                    &frmMain::mnu_Datei_Speichern_Click)};
-    for (const auto& [name, text, taste, handler] : eintraege) {
-        QAction* const eintrag = NeuerEintrag(datei, name, text);
-        eintrag->setShortcut(Qt::CTRL | taste);
-        connect(eintrag, &QAction::triggered, this, handler);
+    for (const auto& [name, text, key, handler] : entries) {
+        QAction* const entry = NewMenuEntry(file, name, text);
+        entry->setShortcut(Qt::CTRL | key);
+        connect(entry, &QAction::triggered, this, handler);
     }
-    NeuerStrich(datei, "mnu_Datei_Strich01");
-    connect(NeuerEintrag(datei, "mnu_Datei_Beenden", "&Beenden"), &QAction::triggered, this,
+    NewSeparator(file, "mnu_Datei_Strich01");
+    connect(NewMenuEntry(file, "mnu_Datei_Beenden", "&Beenden"), &QAction::triggered, this,
             &QWidget::close);
 }
 
-void frmMain::BaueInfomenue() {
-    QMenu* const info = m_menue->addMenu(QStringLiteral("Info"));
+void frmMain::AddInfoMenu() {
+    QMenu* const info = m_menu->addMenu(QStringLiteral("Info"));
     info->menuAction()->setObjectName(QStringLiteral("mnu_Info"));
-    connect(NeuerEintrag(info, "mnu_DOnate", "&Spenden..."), &QAction::triggered, this,
+    connect(NewMenuEntry(info, "mnu_DOnate", "&Spenden..."), &QAction::triggered, this,
             &frmMain::mnu_DOnate_Click);
-    connect(NeuerEintrag(info, "mnu_UpdateCheck", "&Update-Check"), &QAction::triggered, this,
+    connect(NewMenuEntry(info, "mnu_UpdateCheck", "&Update-Check"), &QAction::triggered, this,
             &frmMain::mnu_UpdateCheck_Click);
-    NeuerStrich(info, "strich_02");
-    connect(NeuerEintrag(info, "mnuAbout_TV", "&About Tarvelin"), &QAction::triggered, this,
+    NewSeparator(info, "strich_02");
+    connect(NewMenuEntry(info, "mnuAbout_TV", "&About Tarvelin"), &QAction::triggered, this,
             &frmMain::mnuAbout_TV_Click);
 }
 
 void frmMain::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        m_Fra_Rest->Startknopf()->click();
+        m_Fra_Rest->StartButton()->click();
     } else {
         QMainWindow::keyPressEvent(event);
     }
 }
 
-bool frmMain::eventFilter(QObject* ziel, QEvent* event) {
+bool frmMain::eventFilter(QObject* target, QEvent* event) {
     // The page of the calendar would keep Enter for itself.
     if (event->type() == QEvent::KeyPress) {
-        auto* const taste = static_cast<QKeyEvent*>(event);
-        if (taste->key() == Qt::Key_Return || taste->key() == Qt::Key_Enter) {
-            keyPressEvent(taste);
+        auto* const key = static_cast<QKeyEvent*>(event);
+        if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
+            keyPressEvent(key);
             return true;
         }
     }
-    return QMainWindow::eventFilter(ziel, event);
+    return QMainWindow::eventFilter(target, event);
 }
 
-void frmMain::SetzeHeute() {
-    const DateTime heute = m_umgebung.now();
-    SetStartDate(m_plan.parameters, heute);
-    m_Fra_Einstellungen->Zeige();
+void frmMain::SetToday() {
+    const DateTime today = m_environment.now();
+    SetStartDate(m_plan.parameters, today);
+    m_Fra_Einstellungen->Refresh();
     // Whatever the hour says.
-    m_Fra_Einstellungen->Zeige(WeekdayOf(heute));
+    m_Fra_Einstellungen->Refresh(WeekdayOf(today));
 }
 
 void frmMain::mnu_UpdateCheck_Click() {
-    const auto geladen = m_umgebung.fetcher.Fetch(Versionsdatei());
-    if (!geladen) {
-        m_umgebung.dialogs.Show(Versionsfehler());
-    } else if (m_umgebung.dialogs.Ask(Versionsfrage(*geladen))) {
-        m_umgebung.openPage(Downloadseite());
+    const auto loaded = m_environment.fetcher.Fetch(VersionFile());
+    if (!loaded) {
+        m_environment.dialogs.Show(VersionErrorMessage());
+    } else if (m_environment.dialogs.Ask(VersionQuestion(*loaded))) {
+        m_environment.openPage(DownloadsPage());
     }
 }
 
 void frmMain::mnuAbout_TV_Click() {
-    ZeigeEinmaliges(m_frmAbout, m_umgebung);
+    ShowSingle(m_frmAbout, m_environment);
 }
 
 void frmMain::mnu_DOnate_Click() {
-    ZeigeEinmaliges(m_frmDonate, m_umgebung);
+    ShowSingle(m_frmDonate, m_environment);
 }
 
-void frmMain::mnuWerkbank_Click() {
-    if (!m_frmWerkbank) {
-        m_frmWerkbank = std::make_unique<Workbench>(
-            m_plan, m_verlauf,
-            [this] { return m_Fra_Rest->SekundenVorher()->currentText().toStdString(); },
-            m_umgebung);
-        m_frmWerkbank->SetPictures(m_Fra_Rest->Itembilder());
-        connect(m_frmWerkbank.get(), &Workbench::ListEdited, this, &frmMain::Uebernimm);
-        connect(m_frmWerkbank.get(), &Workbench::UndoRequested, this, &frmMain::NimmZurueck);
-        connect(m_frmWerkbank.get(), &Workbench::RedoRequested, this,
-                &frmMain::WiederholeZurueckgenommenes);
+void frmMain::mnuWorkbench_Click() {
+    if (!m_workbench) {
+        m_workbench = std::make_unique<Workbench>(
+            m_plan, m_history,
+            [this] { return m_Fra_Rest->SecondsBefore()->currentText().toStdString(); },
+            m_environment);
+        m_workbench->SetPictures(m_Fra_Rest->ItemPictures());
+        connect(m_workbench.get(), &Workbench::ListEdited, this, &frmMain::TakeOver);
+        connect(m_workbench.get(), &Workbench::UndoRequested, this, &frmMain::Undo);
+        connect(m_workbench.get(), &Workbench::RedoRequested, this, &frmMain::Redo);
     }
-    m_frmWerkbank->Open(m_konfiguration);
+    m_workbench->Open(m_configuration);
 }
 
-void frmMain::ZeigeSkin(Byte mode, const std::string& pfad) {
-    ApplySkin(mode, pfad, *m_Fra_Rest, m_umgebung.programFolder);
-    if (m_frmWerkbank) {
-        m_frmWerkbank->SetPictures(m_Fra_Rest->Itembilder());
+void frmMain::ShowSkin(Byte mode, const std::string& path) {
+    ApplySkin(mode, path, *m_Fra_Rest, m_environment.programFolder);
+    if (m_workbench) {
+        m_workbench->SetPictures(m_Fra_Rest->ItemPictures());
     }
 }
 
 void frmMain::Cmd_ApplySkin_Click() {
-    const Byte quelle = m_Fra_Skin->Quelle();
-    QLineEdit& pfad = *m_Fra_Skin->txt_Pfad;
-    if (quelle == kWebskin) {
-        const auto ordner = m_umgebung.programFolder / "img" / "skins" / kLandeordner;
-        ZeigeSkin(kWebskin, {});
-        const auto ausgang = HoleWebskin(pfad.text().toStdString(), ordner, m_umgebung,
-                                         [this] { return !IstGeschlossen(); });
-        ZeigeSkin(ausgang == Webskinausgang::AmEnde ? kLokalerSkin : kStandardskin, kLandeordner);
-        if (pfad.text().endsWith(QLatin1Char('/'))) {
-            pfad.setText(pfad.text().chopped(1));
+    const Byte source = m_Fra_Skin->ChosenSource();
+    QLineEdit& path = *m_Fra_Skin->txt_Pfad;
+    if (source == kWebSkin) {
+        const auto folder = m_environment.programFolder / "img" / "skins" / kWebSkinFolder;
+        ShowSkin(kWebSkin, {});
+        const auto outcome = FetchWebSkin(path.text().toStdString(), folder, m_environment,
+                                          [this] { return !IsClosed(); });
+        ShowSkin(outcome == WebSkinOutcome::Completed ? kLocalSkin : kStandardSkin, kWebSkinFolder);
+        if (path.text().endsWith(QLatin1Char('/'))) {
+            path.setText(path.text().chopped(1));
         }
     } else {
-        ZeigeSkin(quelle, m_Fra_Skin->Comb_Skins->currentText().toStdString());
+        ShowSkin(source, m_Fra_Skin->Comb_Skins->currentText().toStdString());
     }
     m_Fra_Skin->hide();
 }
 
-void frmMain::BringeNachVorn(QWidget& feld) {
-    feld.raise();
+void frmMain::BringToFront(QWidget& panel) {
+    panel.raise();
     m_TopLine->raise();
 }
 
-void frmMain::Klappe(Panel& feld) {
-    feld.setVisible(feld.isHidden());
-    BringeNachVorn(feld);
-    if (feld.isVisible()) {
-        feld.TakeFocus();
+void frmMain::Flip(Panel& panel) {
+    panel.setVisible(panel.isHidden());
+    BringToFront(panel);
+    if (panel.isVisible()) {
+        panel.TakeFocus();
     }
 }
 
 void frmMain::mnuEinstellungen_Click() {
-    Klappe(*m_Fra_Einstellungen);
+    Flip(*m_Fra_Einstellungen);
 }
 
 void frmMain::mnu_SpecialEvents_Click() {
-    Klappe(*m_Fra_Special);
+    Flip(*m_Fra_Special);
     m_Fra_Skin->hide();
     m_Fra_Skin->FillSkinList();
     m_Fra_Sleep->hide();
 }
 
 void frmMain::mnuSkin_Click() {
-    Klappe(*m_Fra_Skin);
+    Flip(*m_Fra_Skin);
     m_Fra_Special->hide();
     m_Fra_Skin->FillSkinList();
     m_Fra_Sleep->hide();
 }
 
 void frmMain::mnuSleep_Click() {
-    Klappe(*m_Fra_Sleep);
+    Flip(*m_Fra_Sleep);
     m_Fra_Special->hide();
     m_Fra_Skin->hide();
     m_Fra_Sleep->RefreshSchlafEnde();
 }
 
-void frmMain::Img_MouseMove(const Itemplatz& platz) {
-    platz.Bild->SetGate(HoverInfoFor(platz.Item, m_plan.LV_Bauliste.Orders(), m_lauf.conditions));
+void frmMain::Img_MouseMove(const ItemTile& tile) {
+    tile.picture->SetGate(HoverInfoFor(tile.item, m_plan.LV_Bauliste.Orders(), m_run.conditions));
 }
 
-void frmMain::Bearbeitet(std::string_view eingabe) {
-    if (m_verlauf.Record(SnapshotOf(m_plan), eingabe)) {
-        ZeigeInWerkbank();
+void frmMain::FinishEdit(std::string_view input) {
+    if (m_history.Record(SnapshotOf(m_plan), input)) {
+        RefreshWorkbench();
     }
 }
 
-void frmMain::NimmZurueck() {
-    if (m_verlauf.CanUndo()) {
-        StellePlan(m_verlauf.Undo());
+void frmMain::Undo() {
+    if (m_history.CanUndo()) {
+        SetPlan(m_history.Undo());
     }
 }
 
-void frmMain::WiederholeZurueckgenommenes() {
-    if (m_verlauf.CanRedo()) {
-        StellePlan(m_verlauf.Redo());
+void frmMain::Redo() {
+    if (m_history.CanRedo()) {
+        SetPlan(m_history.Redo());
     }
 }
 
-void frmMain::Uebernimm(const std::vector<std::string>& tags,
-                        const std::optional<SleepRow>& pause) {
-    PlanSnapshot stand = SnapshotOf(m_plan);
-    stand.tags = tags;
+void frmMain::TakeOver(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause) {
+    PlanSnapshot snapshot = SnapshotOf(m_plan);
+    snapshot.tags = tags;
     if (pause) {
-        stand.Schlafzeiten.insert(stand.Schlafzeiten.begin(), *pause);
+        snapshot.Schlafzeiten.insert(snapshot.Schlafzeiten.begin(), *pause);
     }
-    static_cast<void>(m_verlauf.Record(stand));
-    StellePlan(stand);
+    static_cast<void>(m_history.Record(snapshot));
+    SetPlan(snapshot);
 }
 
-void frmMain::StellePlan(const PlanSnapshot& stand) {
-    m_plan.parameters = stand.parameters;
-    m_Fra_Einstellungen->Zeige();
-    if (m_plan.LV_Schlafzeiten != stand.Schlafzeiten) {
-        m_plan.LV_Schlafzeiten = stand.Schlafzeiten;
-        m_Fra_Sleep->Zeige();
+void frmMain::SetPlan(const PlanSnapshot& snapshot) {
+    m_plan.parameters = snapshot.parameters;
+    m_Fra_Einstellungen->Refresh();
+    if (m_plan.LV_Schlafzeiten != snapshot.Schlafzeiten) {
+        m_plan.LV_Schlafzeiten = snapshot.Schlafzeiten;
+        m_Fra_Sleep->Refresh();
     }
     // The factor texts are those of the run that follows.
-    m_lauf.conditions.Temperatur =
-        ParseTemperature(m_plan.parameters).value_or(m_lauf.conditions.Temperatur);
-    m_plan.LV_Bauliste.SetTags(stand.tags, m_lauf.conditions);
-    m_Fra_Rest->ZeigeListe();
-    SpieleStill();
-    ZeigeInWerkbank();
+    m_run.conditions.Temperatur =
+        ParseTemperature(m_plan.parameters).value_or(m_run.conditions.Temperatur);
+    m_plan.LV_Bauliste.SetTags(snapshot.tags, m_run.conditions);
+    m_Fra_Rest->ShowList();
+    RunQuietly();
+    RefreshWorkbench();
 }
 
 // What a run would tell in boxes stands in the workbench.
-void frmMain::SpieleStill() {
+void frmMain::RunQuietly() {
     Chk_Speedfaktor_Click();
-    const auto bedingungen = ParseRunConditions(m_plan);
-    if (const auto* const gute = std::get_if<RunConditions>(&bedingungen)) {
-        m_lauf.ResetSimulation(*gute);
-        m_texte.AfterReset();
-        std::vector<Message> meldungen;
-        MessageCollector liste(meldungen);
-        RunSimulation(m_plan.LV_Bauliste.Orders().All(), m_lauf, liste);
-        m_texte.AfterRun(m_lauf.state);
+    const auto conditions = ParseRunConditions(m_plan);
+    if (const auto* const good = std::get_if<RunConditions>(&conditions)) {
+        m_run.ResetSimulation(*good);
+        m_texts.AfterReset();
+        std::vector<Message> messages;
+        MessageCollector list(messages);
+        tarvelin::RunSimulation(m_plan.LV_Bauliste.Orders().All(), m_run, list);
+        m_texts.AfterRun(m_run.state);
     } else if (m_plan.LV_Bauliste.Orders().IsEmpty()) {
-        m_lauf.ResetSimulation(m_plan.parameters);
-        m_texte.AfterReset();
-        m_texte.AfterClear();
+        m_run.ResetSimulation(m_plan.parameters);
+        m_texts.AfterReset();
+        m_texts.AfterClear();
     }
-    m_Fra_Rest->Zeige(m_texte);
-    m_Fra_Rest->ZeigeBauzeiten();
+    m_Fra_Rest->ShowResult(m_texts);
+    m_Fra_Rest->ShowSchedule();
 }
 
-void frmMain::ZeigeInWerkbank() {
-    if (m_frmWerkbank) {
-        m_frmWerkbank->RefreshPlan();
+void frmMain::RefreshWorkbench() {
+    if (m_workbench) {
+        m_workbench->RefreshPlan();
     }
 }
 
 void frmMain::LV_Bauliste_DragDrop(const QString& Source) {
     const auto item = ItemFromPicture(Source.toStdString());
-    std::optional<Message> meldung;
+    std::optional<Message> message;
     if (item) {
-        meldung = m_plan.LV_Bauliste.AddItem(*item, m_lauf.conditions);
+        message = m_plan.LV_Bauliste.AddItem(*item, m_run.conditions);
     } else {
-        meldung = Message{.text = "KA", .title = "", .icon = MessageIcon::None};
+        message = Message{.text = "KA", .title = "", .icon = MessageIcon::None};
     }
-    if (meldung) {
+    if (message) {
         // A box would come up inside the drag; it waits until the pointer is free.
-        QTimer::singleShot(0, this, [this, text = *meldung] { m_umgebung.dialogs.Show(text); });
+        QTimer::singleShot(0, this, [this, text = *message] { m_environment.dialogs.Show(text); });
         return;
     }
-    ZeigeNeueZeile();
-    Bearbeitet();
+    ShowNewRow();
+    FinishEdit();
 }
 
 void frmMain::Cmd_AddProdaenderungsevent_Click() {
-    const auto meldung =
-        m_plan.LV_Bauliste.AddProduction(m_Fra_Special->Faktoren(), m_lauf.conditions);
-    if (meldung) {
-        m_umgebung.dialogs.Show(*meldung);
+    const auto message =
+        m_plan.LV_Bauliste.AddProduction(m_Fra_Special->Factors(), m_run.conditions);
+    if (message) {
+        m_environment.dialogs.Show(*message);
         return;
     }
-    ZeigeNeueZeile();
-    Bearbeitet();
+    ShowNewRow();
+    FinishEdit();
 }
 
-void frmMain::ZeigeNeueZeile() {
-    m_Fra_Rest->ZeigeListe();
-    m_Fra_Rest->MacheLetzteSichtbar();
+void frmMain::ShowNewRow() {
+    m_Fra_Rest->ShowList();
+    m_Fra_Rest->ScrollToLast();
 }
 
 void frmMain::Cmd_Undo_Click() {
     m_plan.LV_Bauliste.RemoveLast();
-    m_Fra_Rest->ZeigeListe();
-    Bearbeitet();
+    m_Fra_Rest->ShowList();
+    FinishEdit();
 }
 
 void frmMain::Cmd_Clear_Click() {
-    LeereListe();
-    Bearbeitet();
+    ClearList();
+    FinishEdit();
 }
 
-void frmMain::LeereListe() {
+void frmMain::ClearList() {
     m_plan.LV_Bauliste.Clear();
-    m_texte.AfterClear();
-    m_Fra_Rest->ZeigeListe();
-    m_Fra_Rest->Zeige(m_texte);
+    m_texts.AfterClear();
+    m_Fra_Rest->ShowList();
+    m_Fra_Rest->ShowResult(m_texts);
 }
 
 void frmMain::Cmd_Simulate_Click() {
@@ -468,72 +465,72 @@ void frmMain::Cmd_Simulate_Click() {
     m_Fra_Special->hide();
     m_Fra_Skin->hide();
     m_Fra_Sleep->hide();
-    StarteSimulation(false);
+    RunSimulation(false);
 }
 
 void frmMain::Chk_Speedfaktor_Click() {
-    m_lauf.conditions.Speedfaktor = m_plan.parameters.Speedfaktor();
+    m_run.conditions.Speedfaktor = m_plan.parameters.Speedfaktor();
 }
 
-void frmMain::ZeigePlan() {
-    m_Fra_Einstellungen->Zeige();
+void frmMain::ShowPlan() {
+    m_Fra_Einstellungen->Refresh();
     Chk_Speedfaktor_Click();
-    m_Fra_Sleep->Zeige();
-    m_Fra_Rest->ZeigeNamen(m_plan.ShowDesc);
-    ZeigeNeueZeile();
+    m_Fra_Sleep->Refresh();
+    m_Fra_Rest->ShowNames(m_plan.ShowDesc);
+    ShowNewRow();
 }
 
-void frmMain::StarteSimulation(bool silent) {
+void frmMain::RunSimulation(bool Silent) {
     Chk_Speedfaktor_Click();
-    const auto bedingungen = PruefeEingaben(silent);
-    if (!bedingungen) {
+    const auto conditions = CheckInputs(Silent);
+    if (!conditions) {
         return;
     }
-    m_lauf.ResetSimulation(*bedingungen);
-    m_texte.AfterReset();
-    m_Fra_Rest->Zeige(m_texte);
-    ZeigeStandDesLaufs();
-    m_Fra_Rest->MacheErsteBauzeitSichtbar();
+    m_run.ResetSimulation(*conditions);
+    m_texts.AfterReset();
+    m_Fra_Rest->ShowResult(m_texts);
+    ShowRunSoFar();
+    m_Fra_Rest->ScrollScheduleToTop();
     m_Fra_Einstellungen->RefreshWeekday();
-    Standmeldungen meldungen([this] { ZeigeStandDesLaufs(); }, m_umgebung.dialogs);
-    RunSimulation(m_plan.LV_Bauliste.Orders().All(), m_lauf, meldungen);
-    m_texte.AfterRun(m_lauf.state);
-    m_Fra_Rest->Zeige(m_texte);
-    m_Fra_Rest->ZeigeBauzeiten();
+    WindowMessages messages([this] { ShowRunSoFar(); }, m_environment.dialogs);
+    tarvelin::RunSimulation(m_plan.LV_Bauliste.Orders().All(), m_run, messages);
+    m_texts.AfterRun(m_run.state);
+    m_Fra_Rest->ShowResult(m_texts);
+    m_Fra_Rest->ShowSchedule();
 }
 
-std::optional<RunConditions> frmMain::PruefeEingaben(bool silent) {
-    const bool leer = m_plan.LV_Bauliste.Orders().IsEmpty();
-    if (!leer) {
-        FuelleStartdatum();
+std::optional<RunConditions> frmMain::CheckInputs(bool Silent) {
+    const bool empty = m_plan.LV_Bauliste.Orders().IsEmpty();
+    if (!empty) {
+        FillStartDate();
     }
-    const auto bedingungen = ParseRunConditions(m_plan);
-    const auto* const absage = std::get_if<Message>(&bedingungen);
-    if (absage == nullptr) {
-        return std::get<RunConditions>(bedingungen);
+    const auto conditions = ParseRunConditions(m_plan);
+    const auto* const refusal = std::get_if<Message>(&conditions);
+    if (refusal == nullptr) {
+        return std::get<RunConditions>(conditions);
     }
-    if (!silent || !leer) {
-        ZeigeStandDesLaufs();
-        m_umgebung.dialogs.Show(*absage);
+    if (!Silent || !empty) {
+        ShowRunSoFar();
+        m_environment.dialogs.Show(*refusal);
     }
     return std::nullopt;
 }
 
 // Not an edit: the plan lies where it lay, and there is nothing to take back.
-void frmMain::FuelleStartdatum() {
-    const bool liegtInDatei = m_gesichert == SnapshotOf(m_plan);
-    const StartParameters vorher = m_plan.parameters;
+void frmMain::FillStartDate() {
+    const bool isInFile = m_saved == SnapshotOf(m_plan);
+    const StartParameters before = m_plan.parameters;
     PadStartDate(m_plan.parameters);
-    m_verlauf.RewriteDay(vorher, m_plan.parameters);
-    if (liegtInDatei) {
-        m_gesichert = SnapshotOf(m_plan);
+    m_history.RewriteDay(before, m_plan.parameters);
+    if (isInFile) {
+        m_saved = SnapshotOf(m_plan);
     }
 }
 
-void frmMain::ZeigeStandDesLaufs() {
+void frmMain::ShowRunSoFar() {
     // Day and month may have been padded.
-    m_Fra_Einstellungen->Zeige();
-    m_Fra_Rest->ZeigeBauzeiten();
+    m_Fra_Einstellungen->Refresh();
+    m_Fra_Rest->ShowSchedule();
 }
 
 }  // namespace tarvelin

@@ -34,18 +34,18 @@ class frmMain : public QMainWindow {
     Q_OBJECT
 
   public:
-    /// `umgebung` must outlive the window, as must what it refers to.
-    explicit frmMain(const Environment& umgebung);
+    /// `environment` must outlive the window, as must what it refers to.
+    explicit frmMain(const Environment& environment);
     frmMain(const frmMain&) = delete;
     frmMain& operator=(const frmMain&) = delete;
     ~frmMain() override;
 
     /// The plan and the state of the last run or reset.
-    [[nodiscard]] const Plan& DerPlan() const { return m_plan; }
-    [[nodiscard]] const LastRun& DerLauf() const { return m_lauf; }
+    [[nodiscard]] const Plan& CurrentPlan() const { return m_plan; }
+    [[nodiscard]] const LastRun& CurrentRun() const { return m_run; }
 
     /// The window's size on a screen with this much room, in pixels: its own, or what there is.
-    [[nodiscard]] static QSize GroesseAuf(const QSize& bildschirm);
+    [[nodiscard]] static QSize SizeOn(const QSize& screen);
 
     /// Reads the configuration, shows the window, and brings the starter plan or the last plan
     /// back.
@@ -53,50 +53,50 @@ class frmMain : public QMainWindow {
     /// Takes the plan of a file and runs it. `Silent` keeps quiet about an empty list. False, with
     /// a message, if the file holds no plan.
     bool LoadBauliste(const std::filesystem::path& File, bool Silent);
-    /// Runs the plan and shows what it came to. `silent` keeps quiet about an empty list.
-    void StarteSimulation(bool silent);
+    /// Runs the plan and shows what it came to. `Silent` keeps quiet about an empty list.
+    void RunSimulation(bool Silent);
     /// Keeps what the end of the program would keep, and goes on.
-    void Sichere();
+    void SaveNow();
 
   signals:
     /// The window has closed, and nothing more is written for it.
-    void Geschlossen();
+    void Closed();
 
   protected:
     /// Enter presses the default button, unless what has the focus takes it.
     void keyPressEvent(QKeyEvent* event) override;
-    bool eventFilter(QObject* ziel, QEvent* event) override;
+    bool eventFilter(QObject* target, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    void LegeAus();
-    void FolgeBildschirm();
-    void PasseAnBildschirmAn();
-    void LadeBilder();
-    void Verbinde();
-    void BaueMenue();
-    QAction* NeuerEintrag(QWidget* menue, const char* name, const char* text);
-    static void NeuerStrich(QMenu* menue, const char* name);
+    void Arrange();
+    void FollowScreen();
+    void FitToScreen();
+    void LoadPictures();
+    void ConnectSignals();
+    void AddMenus();
+    QAction* NewMenuEntry(QWidget* menu, const char* name, const char* text);
+    static void NewSeparator(QMenu* menu, const char* name);
 
-    void BaueDateimenue();
-    void BaueInfomenue();
+    void AddFileMenu();
+    void AddInfoMenu();
 
-    void WarteAufBildschirm();
-    void SetzeHeute();
-    void LiesSkin();
+    void WaitUntilExposed();
+    void SetToday();
+    void ReadSkin();
     /// False if there is none, or it can't be loaded.
-    bool BringePlanargument();
-    void BringePlan();
+    bool OpenPlanArgument();
+    void OpenFirstPlan();
     /// Whether the last plan was loaded.
-    bool StelleWiederHer(const std::optional<IniFile>& letzter);
-    void LadeLetzten(const std::optional<IniFile>& letzter);
-    bool LoadBauliste(const std::optional<IniFile>& profil, const std::filesystem::path& File,
+    bool RecoverPlan(const std::optional<IniFile>& last);
+    void LoadLastPlan(const std::optional<IniFile>& last);
+    bool LoadBauliste(const std::optional<IniFile>& profile, const std::filesystem::path& File,
                       bool Silent);
     /// How far the window has come. The plan is the user's own when the start is over.
-    enum class Abschnitt { Vorher, Start, Arbeit, Geschlossen };
-    void Form_Unload(Abschnitt bisher);
-    void Behalte(Abschnitt stand);
-    [[nodiscard]] bool IstGeschlossen() const { return m_abschnitt == Abschnitt::Geschlossen; }
+    enum class Phase { Before, Starting, Working, Closed };
+    void Form_Unload(Phase previous);
+    void Persist(Phase phase);
+    [[nodiscard]] bool IsClosed() const { return m_phase == Phase::Closed; }
 
     void mnu_DateiNeu_Click();
     void mnu_DateiLaden_Click();
@@ -104,59 +104,59 @@ class frmMain : public QMainWindow {
     void mnu_UpdateCheck_Click();
     void mnuAbout_TV_Click();
     void mnu_DOnate_Click();
-    void mnuWerkbank_Click();
+    void mnuWorkbench_Click();
     void Cmd_ApplySkin_Click();
 
-    void BringeNachVorn(QWidget& feld);
-    void Klappe(Panel& feld);
+    void BringToFront(QWidget& panel);
+    void Flip(Panel& panel);
     void mnuEinstellungen_Click();
     void mnu_SpecialEvents_Click();
     void mnuSkin_Click();
     void mnuSleep_Click();
 
-    void Img_MouseMove(const Itemplatz& platz);
+    void Img_MouseMove(const ItemTile& tile);
     void LV_Bauliste_DragDrop(const QString& Source);
     void Cmd_AddProdaenderungsevent_Click();
     void Cmd_Undo_Click();
     void Cmd_Clear_Click();
     void Cmd_Simulate_Click();
     void Chk_Speedfaktor_Click();
-    void LeereListe();
-    /// Ends an edit by hand, which can then be taken back. `eingabe` is the input typed into.
-    void Bearbeitet(std::string_view eingabe = {});
-    void NimmZurueck();
-    void WiederholeZurueckgenommenes();
+    void ClearList();
+    /// Ends an edit by hand, which can then be taken back. `input` is the input typed into.
+    void FinishEdit(std::string_view input = {});
+    void Undo();
+    void Redo();
     /// Takes rows that the workbench made, and a pause in front of the sleep rows.
-    void Uebernimm(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause);
+    void TakeOver(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause);
     /// Makes the plan what it is to be, and runs it without a box.
-    void StellePlan(const PlanSnapshot& stand);
-    void SpieleStill();
-    void BewahreErsetzten() const;
-    void MerkeGesichert(const std::filesystem::path& datei);
-    void FuelleStartdatum();
-    void ZeigeInWerkbank();
-    void ZeigeSkin(Byte mode, const std::string& pfad);
+    void SetPlan(const PlanSnapshot& snapshot);
+    void RunQuietly();
+    void KeepReplaced() const;
+    void RememberSaved(const std::filesystem::path& file);
+    void FillStartDate();
+    void RefreshWorkbench();
+    void ShowSkin(Byte mode, const std::string& path);
     /// What a run can begin with; nothing, with a message, if it can't.
-    std::optional<RunConditions> PruefeEingaben(bool silent);
-    void ZeigeNeueZeile();
-    void ZeigePlan();
-    void ZeigeStandDesLaufs();
+    std::optional<RunConditions> CheckInputs(bool Silent);
+    void ShowNewRow();
+    void ShowPlan();
+    void ShowRunSoFar();
 
-    const Environment& m_umgebung;
-    Configuration m_konfiguration;
+    const Environment& m_environment;
+    Configuration m_configuration;
     Autosave m_autosave;
     QTimer m_Tmr_Autosave{this};
     Plan m_plan;
-    EditHistory m_verlauf;
+    EditHistory m_history;
     /// The plan as it was last loaded from a file of the user's, or saved into one.
-    std::optional<PlanSnapshot> m_gesichert;
-    LastRun m_lauf;
-    ResultTexts m_texte;
+    std::optional<PlanSnapshot> m_saved;
+    LastRun m_run;
+    ResultTexts m_texts;
 
     /// Moves the surface on a screen that has no room for it.
-    QScrollArea* m_rollflaeche;
-    QMetaObject::Connection m_bildschirm;
-    QWidget* m_flaeche;
+    QScrollArea* m_scrollArea;
+    QMetaObject::Connection m_screen;
+    QWidget* m_surface;
     // In the order in which Tab goes through them: what lies above comes first.
     Fra_Einstellungen* m_Fra_Einstellungen;
     Fra_Special* m_Fra_Special;
@@ -164,13 +164,13 @@ class frmMain : public QMainWindow {
     Fra_Sleep* m_Fra_Sleep;
     Fra_Rest* m_Fra_Rest;
     QFrame* m_TopLine;
-    Menueleiste* m_menue;
-    Alarme* m_alarme;
+    MenuBar* m_menu;
+    Alarms* m_alarms;
     /// Windows of their own, made at their first use.
     std::unique_ptr<frmAbout> m_frmAbout;
     std::unique_ptr<frmDonate> m_frmDonate;
-    std::unique_ptr<Workbench> m_frmWerkbank;
-    Abschnitt m_abschnitt = Abschnitt::Vorher;
+    std::unique_ptr<Workbench> m_workbench;
+    Phase m_phase = Phase::Before;
 };
 
 }  // namespace tarvelin

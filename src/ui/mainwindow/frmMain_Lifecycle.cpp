@@ -16,39 +16,39 @@
 namespace tarvelin {
 
 void frmMain::Form_Load() {
-    if (IstGeschlossen()) {
+    if (IsClosed()) {
         return;
     }
     m_Fra_Skin->FillSkinList();
-    m_alarme->LiesKonfiguration();
-    LiesSkin();
-    m_abschnitt = Abschnitt::Start;
+    m_alarms->ReadConfiguration();
+    ReadSkin();
+    m_phase = Phase::Starting;
     show();
-    connect(windowHandle(), &QWindow::screenChanged, this, &frmMain::FolgeBildschirm);
-    FolgeBildschirm();
-    WarteAufBildschirm();
-    if (m_umgebung.startNotice) {
-        m_umgebung.dialogs.Show(*m_umgebung.startNotice);
+    connect(windowHandle(), &QWindow::screenChanged, this, &frmMain::FollowScreen);
+    FollowScreen();
+    WaitUntilExposed();
+    if (m_environment.startNotice) {
+        m_environment.dialogs.Show(*m_environment.startNotice);
     }
-    if (!IstGeschlossen() && !BringePlanargument() && !IstGeschlossen()) {
-        BringePlan();
+    if (!IsClosed() && !OpenPlanArgument() && !IsClosed()) {
+        OpenFirstPlan();
     }
-    if (!IstGeschlossen()) {
-        m_abschnitt = Abschnitt::Arbeit;
-        m_verlauf.Begin(SnapshotOf(m_plan));
-        ZeigeInWerkbank();
-        constexpr std::chrono::seconds kTakt(4);
-        m_Tmr_Autosave.start(kTakt);
+    if (!IsClosed()) {
+        m_phase = Phase::Working;
+        m_history.Begin(SnapshotOf(m_plan));
+        RefreshWorkbench();
+        constexpr std::chrono::seconds kInterval(4);
+        m_Tmr_Autosave.start(kInterval);
     }
 }
 
 // The plan of the last session is kept beside it.
-bool frmMain::BringePlanargument() {
-    const std::filesystem::path& datei = m_umgebung.planArgument;
-    if (datei.empty() || !LoadBauliste(datei, false) || IstGeschlossen()) {
+bool frmMain::OpenPlanArgument() {
+    const std::filesystem::path& file = m_environment.planArgument;
+    if (file.empty() || !LoadBauliste(file, false) || IsClosed()) {
         return false;
     }
-    if (m_gesichert) {
+    if (m_saved) {
         m_autosave.MarkStoredInFile(m_plan);
     }
     static_cast<void>(m_autosave.Write(m_plan));
@@ -56,212 +56,212 @@ bool frmMain::BringePlanargument() {
 }
 
 // The last plan stays untouched until the player has answered for it.
-void frmMain::BringePlan() {
-    const bool ersterStart = m_konfiguration.IsOn(Configuration::kFirststart);
-    const bool lagDa = FileExists(m_autosave.PlanPath(), m_umgebung.files);
-    const auto letzter = IniFile::Load(m_autosave.PlanPath(), m_umgebung.files);
-    const auto starterplan = m_umgebung.programFolder / "saves" / "basic.tvf";
-    const bool geladen = ersterStart && FileExists(starterplan, m_umgebung.files) &&
-                         LoadBauliste(starterplan, false);
-    const bool wieder = lagDa && StelleWiederHer(letzter);
-    if (IstGeschlossen()) {
+void frmMain::OpenFirstPlan() {
+    const bool firstStart = m_configuration.IsOn(Configuration::kFirststart);
+    const bool wasPresent = FileExists(m_autosave.PlanPath(), m_environment.files);
+    const auto last = IniFile::Load(m_autosave.PlanPath(), m_environment.files);
+    const auto starterPlan = m_environment.programFolder / "saves" / "basic.tvf";
+    const bool loaded = firstStart && FileExists(starterPlan, m_environment.files) &&
+                        LoadBauliste(starterPlan, false);
+    const bool again = wasPresent && RecoverPlan(last);
+    if (IsClosed()) {
         return;
     }
-    const bool behalten = !geladen || wieder || m_autosave.Write(m_plan);
+    const bool kept = !loaded || again || m_autosave.Write(m_plan);
     m_autosave.MarkWritten(m_plan);
-    if (ersterStart && behalten) {
-        static_cast<void>(m_umgebung.files.Remove(starterplan));
-        m_gesichert.reset();
-        static_cast<void>(m_konfiguration.Write({{Configuration::kFirststart, "0"}}));
+    if (firstStart && kept) {
+        static_cast<void>(m_environment.files.Remove(starterPlan));
+        m_saved.reset();
+        static_cast<void>(m_configuration.Write({{Configuration::kFirststart, "0"}}));
     }
 }
 
 // A box that comes up before the window has its place would lie beside it.
-void frmMain::WarteAufBildschirm() {
-    constexpr int kLaengstens = 500;
-    constexpr int kHappen = 10;
-    QDeadlineTimer frist(kLaengstens);
-    while (!windowHandle()->isExposed() && !frist.hasExpired()) {
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kHappen);
+void frmMain::WaitUntilExposed() {
+    constexpr int kLongest = 500;
+    constexpr int kSlice = 10;
+    QDeadlineTimer deadline(kLongest);
+    while (!windowHandle()->isExposed() && !deadline.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kSlice);
     }
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 // A web skin is shown as it landed; nothing is fetched at a start.
-void frmMain::LiesSkin() {
-    const Byte mode = m_konfiguration.SkinMode();
-    m_Fra_Skin->txt_Pfad->setText(ToQString(m_konfiguration.Read(Configuration::kWebPath)));
-    m_Fra_Skin->WaehleQuelle(mode);
-    ZeigeSkin(mode == kWebskin ? kLokalerSkin : mode, m_konfiguration.Read(Configuration::kPath));
+void frmMain::ReadSkin() {
+    const Byte mode = m_configuration.SkinMode();
+    m_Fra_Skin->txt_Pfad->setText(ToQString(m_configuration.Read(Configuration::kWebPath)));
+    m_Fra_Skin->ChooseSource(mode);
+    ShowSkin(mode == kWebSkin ? kLocalSkin : mode, m_configuration.Read(Configuration::kPath));
 }
 
-bool frmMain::StelleWiederHer(const std::optional<IniFile>& letzter) {
-    const auto entscheidung = DecideRecovery(m_konfiguration);
-    if (IstGeschlossen() || entscheidung == Recovery::Never) {
+bool frmMain::RecoverPlan(const std::optional<IniFile>& last) {
+    const auto decision = DecideRecovery(m_configuration);
+    if (IsClosed() || decision == Recovery::Never) {
         return false;
     }
-    if (entscheidung == Recovery::Always) {
-        LadeLetzten(letzter);
+    if (decision == Recovery::Always) {
+        LoadLastPlan(last);
         return true;
     }
-    const auto frage = [this](const char* text) {
-        return m_umgebung.dialogs.Ask(
+    const auto ask = [this](const char* text) {
+        return m_environment.dialogs.Ask(
             {.text = text, .title = "Wiederherstellen...", .icon = MessageIcon::Question});
     };
-    const bool ja = frage("Möchtest du die letzte Bauliste wiederherstellen?");
-    const bool immer = frage("Bei jedem Start so verfahren?");
-    if (IstGeschlossen()) {
+    const bool yes = ask("Möchtest du die letzte Bauliste wiederherstellen?");
+    const bool always = ask("Bei jedem Start so verfahren?");
+    if (IsClosed()) {
         // The end of the program is no answer.
         return false;
     }
-    if (immer) {
-        static_cast<void>(m_konfiguration.Write({{Configuration::kAlwaysDoSo, "1"}}));
+    if (always) {
+        static_cast<void>(m_configuration.Write({{Configuration::kAlwaysDoSo, "1"}}));
     }
-    if (ja) {
-        LadeLetzten(letzter);
+    if (yes) {
+        LoadLastPlan(last);
     }
-    static_cast<void>(m_konfiguration.Write({{Configuration::kRecover, ja ? "1" : "0"}}));
-    return ja;
+    static_cast<void>(m_configuration.Write({{Configuration::kRecover, yes ? "1" : "0"}}));
+    return yes;
 }
 
-void frmMain::LadeLetzten(const std::optional<IniFile>& letzter) {
-    LoadBauliste(letzter, m_autosave.PlanPath(), true);
+void frmMain::LoadLastPlan(const std::optional<IniFile>& last) {
+    LoadBauliste(last, m_autosave.PlanPath(), true);
     m_Fra_Einstellungen->hide();
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-    const Abschnitt bisher = std::exchange(m_abschnitt, Abschnitt::Geschlossen);
-    if (bisher != Abschnitt::Geschlossen) {
-        m_umgebung.dialogs.CloseAll();
+    const Phase previous = std::exchange(m_phase, Phase::Closed);
+    if (previous != Phase::Closed) {
+        m_environment.dialogs.CloseAll();
     }
-    if (bisher == Abschnitt::Start || bisher == Abschnitt::Arbeit) {
-        Form_Unload(bisher);
+    if (previous == Phase::Starting || previous == Phase::Working) {
+        Form_Unload(previous);
     }
     QMainWindow::closeEvent(event);
-    emit Geschlossen();
+    emit Closed();
 }
 
-void frmMain::Form_Unload(Abschnitt bisher) {
+void frmMain::Form_Unload(Phase previous) {
     m_Tmr_Autosave.stop();
-    m_alarme->Verstumme();
-    m_umgebung.fetcher.Abort();
-    Behalte(bisher);
-    if (m_frmWerkbank) {
-        m_frmWerkbank->hide();
+    m_alarms->Silence();
+    m_environment.fetcher.Abort();
+    Persist(previous);
+    if (m_workbench) {
+        m_workbench->hide();
     }
 }
 
-void frmMain::Sichere() {
-    if (m_abschnitt == Abschnitt::Start || m_abschnitt == Abschnitt::Arbeit) {
-        Behalte(m_abschnitt);
+void frmMain::SaveNow() {
+    if (m_phase == Phase::Starting || m_phase == Phase::Working) {
+        Persist(m_phase);
     }
 }
 
-void frmMain::Behalte(Abschnitt stand) {
+void frmMain::Persist(Phase phase) {
     // Until the start is over the plan isn't the user's.
-    const bool mitPlan = stand == Abschnitt::Arbeit;
-    const Byte quelle = m_Fra_Skin->Quelle();
-    const std::string pfad = quelle == kStandardskin ? "~"
-                             : quelle == kWebskin
-                                 ? kLandeordner
+    const bool withPlan = phase == Phase::Working;
+    const Byte source = m_Fra_Skin->ChosenSource();
+    const std::string path = source == kStandardSkin ? "~"
+                             : source == kWebSkin
+                                 ? kWebSkinFolder
                                  : m_Fra_Skin->Comb_Skins->currentText().toStdString();
-    const auto schalter = [](const QCheckBox& box) { return box.isChecked() ? "1" : "0"; };
-    Configuration::Values werte{
-        {Configuration::kMode, std::to_string(quelle)},
-        {Configuration::kPath, pfad},
+    const auto checkBox = [](const QCheckBox& box) { return box.isChecked() ? "1" : "0"; };
+    Configuration::Values values{
+        {Configuration::kMode, std::to_string(source)},
+        {Configuration::kPath, path},
         {Configuration::kWebPath, m_Fra_Skin->txt_Pfad->text().toStdString()},
-        {Configuration::kBaulistenwecker, schalter(*m_Fra_Rest->Bauwecker())},
-        {Configuration::kSchlafzeitenwecker, schalter(*m_Fra_Sleep->Chk_Schlafzeitenwecker)}};
-    if (mitPlan) {
-        werte.emplace_back(Configuration::kItemCount,
-                           std::to_string(m_plan.LV_Bauliste.Orders().Size()));
+        {Configuration::kBaulistenwecker, checkBox(*m_Fra_Rest->BuildAlarmSwitch())},
+        {Configuration::kSchlafzeitenwecker, checkBox(*m_Fra_Sleep->Chk_Schlafzeitenwecker)}};
+    if (withPlan) {
+        values.emplace_back(Configuration::kItemCount,
+                            std::to_string(m_plan.LV_Bauliste.Orders().Size()));
     }
-    if (m_frmWerkbank) {
-        const auto lage = m_frmWerkbank->GeometryValues();
-        werte.insert(werte.end(), lage.begin(), lage.end());
+    if (m_workbench) {
+        const auto geometry = m_workbench->GeometryValues();
+        values.insert(values.end(), geometry.begin(), geometry.end());
     }
-    static_cast<void>(m_konfiguration.Write(werte));
-    if (mitPlan) {
+    static_cast<void>(m_configuration.Write(values));
+    if (withPlan) {
         m_autosave.WriteAtExit(m_plan);
     }
 }
 
 void frmMain::mnu_DateiNeu_Click() {
-    BewahreErsetzten();
-    m_lauf.ResetSimulation(m_plan.parameters);
-    m_texte.AfterReset();
-    m_Fra_Rest->ZeigeBauzeiten();
-    LeereListe();
+    KeepReplaced();
+    m_run.ResetSimulation(m_plan.parameters);
+    m_texts.AfterReset();
+    m_Fra_Rest->ShowSchedule();
+    ClearList();
     m_Fra_Einstellungen->show();
     m_Fra_Skin->hide();
     m_Fra_Sleep->hide();
-    SetzeHeute();
-    Bearbeitet();
-    m_alarme->LiesKonfiguration();
+    SetToday();
+    FinishEdit();
+    m_alarms->ReadConfiguration();
 }
 
 void frmMain::mnu_DateiLaden_Click() {
-    const auto datei = m_umgebung.AskForFile(Dialogs::Purpose::Load);
-    if (!datei.empty()) {
-        LoadBauliste(datei, false);
+    const auto file = m_environment.AskForFile(Dialogs::Purpose::Load);
+    if (!file.empty()) {
+        LoadBauliste(file, false);
     }
 }
 
 void frmMain::mnu_Datei_Speichern_Click() {
-    const auto datei = m_umgebung.AskForFile(Dialogs::Purpose::Save);
-    if (datei.empty()) {
+    const auto file = m_environment.AskForFile(Dialogs::Purpose::Save);
+    if (file.empty()) {
         return;
     }
-    if (SaveBauliste(datei, m_plan, m_umgebung.files)) {
-        MerkeGesichert(datei);
+    if (SaveBauliste(file, m_plan, m_environment.files)) {
+        RememberSaved(file);
     } else {
-        m_umgebung.dialogs.Show(SaveErrorMessage());
+        m_environment.dialogs.Show(SaveErrorMessage());
     }
 }
 
 // What the program moves on by itself is no place to lie in.
-void frmMain::MerkeGesichert(const std::filesystem::path& datei) {
-    m_gesichert = m_autosave.IsOwnFile(datei) ? std::nullopt : std::optional(SnapshotOf(m_plan));
+void frmMain::RememberSaved(const std::filesystem::path& file) {
+    m_saved = m_autosave.IsOwnFile(file) ? std::nullopt : std::optional(SnapshotOf(m_plan));
 }
 
-void frmMain::BewahreErsetzten() const {
-    if (m_abschnitt == Abschnitt::Arbeit && m_gesichert != SnapshotOf(m_plan)) {
+void frmMain::KeepReplaced() const {
+    if (m_phase == Phase::Working && m_saved != SnapshotOf(m_plan)) {
         m_autosave.KeepReplaced(m_plan);
     }
 }
 
 bool frmMain::LoadBauliste(const std::filesystem::path& File, bool Silent) {
-    return LoadBauliste(IniFile::Load(File, m_umgebung.files), File, Silent);
+    return LoadBauliste(IniFile::Load(File, m_environment.files), File, Silent);
 }
 
-bool frmMain::LoadBauliste(const std::optional<IniFile>& profil, const std::filesystem::path& File,
+bool frmMain::LoadBauliste(const std::optional<IniFile>& profile, const std::filesystem::path& File,
                            bool Silent) {
-    if (!profil) {
-        m_umgebung.dialogs.Show(LoadErrorMessage());
+    if (!profile) {
+        m_environment.dialogs.Show(LoadErrorMessage());
         return false;
     }
-    BewahreErsetzten();
-    LeereListe();
-    Standmeldungen meldungen(
+    KeepReplaced();
+    ClearList();
+    WindowMessages messages(
         [this] {
-            ZeigePlan();
-            ZeigeInWerkbank();
+            ShowPlan();
+            RefreshWorkbench();
         },
-        m_umgebung.dialogs);
-    const bool geladen = ReadPlan(*profil, m_plan, m_lauf.conditions, meldungen);
-    if (geladen) {
-        ZeigePlan();
-        MerkeGesichert(File);
+        m_environment.dialogs);
+    const bool loaded = ReadPlan(*profile, m_plan, m_run.conditions, messages);
+    if (loaded) {
+        ShowPlan();
+        RememberSaved(File);
     }
     // What was there can be had back.
-    Bearbeitet();
-    if (!geladen) {
+    FinishEdit();
+    if (!loaded) {
         return false;
     }
     // The toolkit takes the lone sign for a place of its own.
     setWindowTitle(
         ToQString(WindowTitleFor(File)).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
-    StarteSimulation(Silent);
+    RunSimulation(Silent);
     return true;
 }
 
