@@ -23,21 +23,21 @@
 namespace {
 
 /// The machine's clock, in its local time.
-tarvelin::DateTime Ortszeit() {
-    const QDateTime jetzt = QDateTime::currentDateTime();
-    const QDate anfang(1899, 12, 30);
-    constexpr qint64 kSekundenJeTag = 86400;
-    constexpr qint64 kJeSekunde = 1000;
-    return tarvelin::DateTime(anfang.daysTo(jetzt.date()) * kSekundenJeTag +
-                              jetzt.time().msecsSinceStartOfDay() / kJeSekunde);
+tarvelin::DateTime LocalTime() {
+    const QDateTime now = QDateTime::currentDateTime();
+    const QDate initial(1899, 12, 30);
+    constexpr qint64 kSecondsPerDay = 86400;
+    constexpr qint64 kPerSecond = 1000;
+    return tarvelin::DateTime(initial.daysTo(now.date()) * kSecondsPerDay +
+                              now.time().msecsSinceStartOfDay() / kPerSecond);
 }
 
-void OeffneSeite(const std::string& adresse) {
-    QDesktopServices::openUrl(QUrl::fromEncoded(QByteArray::fromStdString(adresse)));
+void OpenPage(const std::string& address) {
+    QDesktopServices::openUrl(QUrl::fromEncoded(QByteArray::fromStdString(address)));
 }
 
 /// Empty for a user without a home.
-std::filesystem::path Nutzerordner() {
+std::filesystem::path UserFolder() {
     if (QDir::homePath() == QDir::rootPath() &&
         !qEnvironmentVariable("XDG_DATA_HOME").startsWith(QLatin1Char('/'))) {
         return {};
@@ -45,7 +45,7 @@ std::filesystem::path Nutzerordner() {
     return tarvelin::ToPath(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
 }
 
-tarvelin::Message OhneNutzerordner() {
+tarvelin::Message WithoutUserFolder() {
     return {.text =
                 "Für deine Baulisten und Einstellungen gibt es keinen Ordner, in dem geschrieben "
                 "werden kann: sie werden beim Beenden nicht behalten.\r\n\r\nSpeichere deine "
@@ -54,7 +54,7 @@ tarvelin::Message OhneNutzerordner() {
             .icon = tarvelin::MessageIcon::Warning};
 }
 
-tarvelin::Question ZweitesFenster() {
+tarvelin::Question SecondWindow() {
     return {.text =
                 "Tarvelin läuft schon. Soll trotzdem ein zweites Fenster aufgehen?\r\n\r\nDas "
                 "zweite merkt sich beim Beenden weder Bauliste noch Einstellungen: was bleiben "
@@ -67,48 +67,48 @@ tarvelin::Question ZweitesFenster() {
 
 int main(int argc, char** argv) {
     // The toolkit would take arguments of its own.
-    int anzahl = 1;
-    QApplication programm(anzahl, argv);
+    int count = 1;
+    QApplication program(count, argv);
     const tarvelin::DesktopColors desktop(QApplication::palette());
-    tarvelin::ApplyAppearance(programm);
+    tarvelin::ApplyAppearance(program);
     // The toolkit's file dialog would keep a history of folders in the user's settings. Where these
     // are no file, it is built without that.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
-    const tarvelin::ProgramFolder ordner = tarvelin::ResolveProgramFolder(
-        tarvelin::ToPath(QApplication::applicationDirPath()), Nutzerordner());
-    tarvelin::FolderLock schloss(ordner.TempFolder);
-    tarvelin::QtDialogs boxen;
-    if (schloss.HeldByOther() && !boxen.Ask(ZweitesFenster())) {
+    const tarvelin::ProgramFolder folder = tarvelin::ResolveProgramFolder(
+        tarvelin::ToPath(QApplication::applicationDirPath()), UserFolder());
+    tarvelin::FolderLock lock(folder.TempFolder);
+    tarvelin::QtDialogs dialogs;
+    if (lock.HeldByOther() && !dialogs.Ask(SecondWindow())) {
         return 0;
     }
-    const tarvelin::ProtectedFileSystem dateien(ordner.ReadOnlyPaths(schloss.HeldByOther()));
-    tarvelin::HttpFetcher netz;
-    tarvelin::SoundPlayer ton;
-    const tarvelin::Environment umgebung{
-        .dialogs = boxen,
-        .fetcher = netz,
-        .sound = ton,
-        .now = Ortszeit,
-        .openPage = OeffneSeite,
-        .programFolder = ordner.TempFolder,
-        .files = dateien,
+    const tarvelin::ProtectedFileSystem files(folder.ReadOnlyPaths(lock.HeldByOther()));
+    tarvelin::HttpFetcher fetcher;
+    tarvelin::SoundPlayer sound;
+    const tarvelin::Environment environment{
+        .dialogs = dialogs,
+        .fetcher = fetcher,
+        .sound = sound,
+        .now = LocalTime,
+        .openPage = OpenPage,
+        .programFolder = folder.TempFolder,
+        .files = files,
         .desktopPalette = [&desktop] { return desktop.CurrentPalette(); },
         .planArgument = tarvelin::PlanArgument(argc, argv),
-        .startNotice = ordner.canKeep ? std::nullopt : std::optional(OhneNutzerordner())};
-    tarvelin::frmMain fenster(umgebung);
+        .startNotice = folder.canKeep ? std::nullopt : std::optional(WithoutUserFolder())};
+    tarvelin::frmMain window(environment);
     // Small windows may stay open; they keep nothing.
-    QObject::connect(&fenster, &tarvelin::frmMain::Closed, [&schloss] { schloss.Release(); });
+    QObject::connect(&window, &tarvelin::frmMain::Closed, [&lock] { lock.Release(); });
     // Whatever is open closes with the window, and every event loop ends.
-    const auto beende = [&fenster] {
-        fenster.close();
+    const auto finish = [&window] {
+        window.close();
         QApplication::closeAllWindows();
         QApplication::exit();
     };
-    const tarvelin::TerminationSignals signale(beende);
+    const tarvelin::TerminationSignals signalHandlers(finish);
     // The session may go on after it; its end closes the windows.
-    QObject::connect(&programm, &QGuiApplication::commitDataRequest, &fenster,
+    QObject::connect(&program, &QGuiApplication::commitDataRequest, &window,
                      &tarvelin::frmMain::SaveNow, Qt::DirectConnection);
     // Within the event loop, which a signal can end.
-    QTimer::singleShot(0, &fenster, &tarvelin::frmMain::Form_Load);
+    QTimer::singleShot(0, &window, &tarvelin::frmMain::Form_Load);
     return QApplication::exec();
 }
