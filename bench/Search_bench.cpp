@@ -65,9 +65,9 @@ void Bewiesen(benchmark::State& state) {
     unsigned optimal = 0;
     for (auto _ : state) {
         for (unsigned saat = 1; saat <= kPlaene; ++saat) {
-            const SearchTask aufgabe = Kleinplan(saat);
+            const SearchTask aufgabe = SmallPlan(saat);
             const auto bester = Search(aufgabe, {}, kWeiter, Still).best;
-            optimal += bester && bester->score.duration == BewieseneDauer(aufgabe) ? 1U : 0U;
+            optimal += bester && bester->score.duration == ProvenDuration(aufgabe) ? 1U : 0U;
         }
     }
     state.counters["optimal_von_100"] = optimal;

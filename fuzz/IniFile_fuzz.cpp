@@ -133,7 +133,7 @@ void PruefeSchreiben(const std::string& datei, const std::string& section, const
     }
     Verlange(gelesen.ReadINI(section, key, "-") == profil.ReadINI(section, key, "-"),
              "the file holds what the memory holds", nachher);
-    Verlange(!KommtZurueck(From1252(wert)) || gelesen.ReadINI(section, key, "-") == From1252(wert),
+    Verlange(!ComesBack(From1252(wert)) || gelesen.ReadINI(section, key, "-") == From1252(wert),
              "a plain value comes back", gelesen.ReadINI(section, key, "-"));
     profil.WriteINI(section, key, From1252(wert));
     Verlange(profil.Bytes() == nachher, "the same write again changes nothing", profil.Bytes());

@@ -36,7 +36,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t lae
     const PlanRun lauf("plan.tvf", IniFile(bytes));
     Drucke(lauf);
     if (lauf.loaded && lauf.plan.LV_Bauliste.Rows().size() <= kHoechstzahl) {
-        const Befund befund = PruefeGesetze(lauf.plan);
+        const Finding befund = CheckLaws(lauf.plan);
         Verlange(befund.empty(), "the laws of every plan", befund);
     }
     return 0;

@@ -9,87 +9,87 @@
 namespace tarvelin {
 namespace {
 
-struct Aufruf {
-    int Code = -1;
-    std::string Ausgabe;
-    std::string Fehler;
+struct CallResult {
+    int code = -1;
+    std::string output;
+    std::string errors;
 };
 
-Aufruf Rufe(const Ordner& ordner, const std::string& argumente) {
-    const auto ausgabe = ordner / "ausgabe";
-    const auto fehler = ordner / "fehler";
-    const int code = FuehreAus(ordner, InZeichen(TARVELIN_CLI) + " >" + InZeichen(ausgabe) + " 2>" +
-                                           InZeichen(fehler) + " " + argumente);
-    return {code, LiesDatei(ausgabe), LiesDatei(fehler)};
+CallResult Call(const TempFolder& folder, const std::string& arguments) {
+    const auto output = folder / "ausgabe";
+    const auto error = folder / "fehler";
+    const int code = Execute(folder, Quoted(TARVELIN_CLI) + " >" + Quoted(output) + " 2>" +
+                                         Quoted(error) + " " + arguments);
+    return {code, ReadFileToString(output), ReadFileToString(error)};
 }
 
-const std::string kPlan = InZeichen(std::filesystem::path(TARVELIN_GOLDEN) / "regelwidrig-13.tvf");
-const std::string kLadefehler =
+const std::string kPlan = Quoted(std::filesystem::path(TARVELIN_GOLDEN) / "regelwidrig-13.tvf");
+const std::string kLoadError =
     "Schwerer Ausnahmefehler 1337 !: Die Bauliste konnte nicht geladen werden...\n";
 
-TEST(Konsole, DrucktDenZeitplan) {
-    const Ordner ordner;
-    const Aufruf aufruf = Rufe(ordner, "\"" TARVELIN_SOURCE_DIR "/data/saves/basic.tvf\"");
-    EXPECT_EQ(aufruf.Code, 0);
-    EXPECT_EQ(aufruf.Fehler, "");
-    for (const char* zeile :
+TEST(Console, PrintsTheSchedule) {
+    const TempFolder folder;
+    const CallResult call = Call(folder, "\"" TARVELIN_SOURCE_DIR "/data/saves/basic.tvf\"");
+    EXPECT_EQ(call.code, 0);
+    EXPECT_EQ(call.errors, "");
+    for (const char* row :
          {"basic.tvf\n",
           "\nNr.  Wochentag  Uhrzeit   theText                Zeitpunkt            Grund\n",
           "\n  1  Di         18:00:05  Solarkraftwerk: 1      01.12.2026 18:00:05  Klickpuffer: 5 "
           "s\n",
           "\nDauer:              04 Tage ",
           "\nMetall:                         ", "\nPunkte inkl. Res.:            "}) {
-        EXPECT_NE(aufruf.Ausgabe.find(zeile), std::string::npos) << zeile << aufruf.Ausgabe;
+        EXPECT_NE(call.output.find(row), std::string::npos) << row << call.output;
     }
 }
 
-TEST(Konsole, SchreibtEineTabelleFuerAlle) {
-    const Ordner ordner;
+TEST(Console, WritesOneTableForAll) {
+    const TempFolder folder;
     // Marks can't stand in a name everywhere.
     const std::string name = kWindows ? "[a b]" : "[\"a;b\"]";
-    SchreibeDatei(ordner / name, LiesDatei(TARVELIN_GOLDEN "/fuenf-zeilen.tvf"));
-    const Aufruf aufruf =
-        Rufe(ordner, "--csv " + kPlan + (kWindows ? " \"" + name + "\"" : " '" + name + "'"));
-    EXPECT_EQ(aufruf.Code, 0);
-    EXPECT_TRUE(aufruf.Ausgabe.starts_with(
+    WriteFile(folder / name, ReadFileToString(TARVELIN_GOLDEN "/fuenf-zeilen.tvf"));
+    const CallResult call =
+        Call(folder, "--csv " + kPlan + (kWindows ? " \"" + name + "\"" : " '" + name + "'"));
+    EXPECT_EQ(call.code, 0);
+    EXPECT_TRUE(call.output.starts_with(
         "\xEF\xBB\xBFPlan;Nr.;Wochentag;Uhrzeit;theText;Zeitpunkt;Verzögerung\r\n"
         "regelwidrig-13.tvf;1;Do;00:00:00;"))
-        << aufruf.Ausgabe;
-    const char* const zelle = kWindows ? "[a b]" : "\"[\"\"a;b\"\"]\"";
-    EXPECT_NE(aufruf.Ausgabe.find(std::string("\r\n") + zelle + ";1;Sa;"), std::string::npos)
-        << aufruf.Ausgabe;
-    EXPECT_EQ(aufruf.Ausgabe.find("\xEF\xBB\xBF", 3), std::string::npos);
+        << call.output;
+    const char* const cell = kWindows ? "[a b]" : "\"[\"\"a;b\"\"]\"";
+    EXPECT_NE(call.output.find(std::string("\r\n") + cell + ";1;Sa;"), std::string::npos)
+        << call.output;
+    EXPECT_EQ(call.output.find("\xEF\xBB\xBF", 3), std::string::npos);
 }
 
-TEST(Konsole, FaehrtNachEinemFehlerFort) {
-    const Ordner ordner;
-    for (const char* art : {"", "--csv ", "--json "}) {
-        const Aufruf aufruf =
-            Rufe(ordner, art + InZeichen(ordner / "fehlt.tvf") + " " + InZeichen(ordner / ".") +
+TEST(Console, GoesOnAfterAnError) {
+    const TempFolder folder;
+    for (const char* kind : {"", "--csv ", "--json "}) {
+        const CallResult call =
+            Call(folder, kind + Quoted(folder / "fehlt.tvf") + " " + Quoted(folder / ".") +
                              (kWindows ? " NUL " : " /dev/zero ") + kPlan);
-        EXPECT_EQ(aufruf.Code, 1);
-        EXPECT_TRUE(aufruf.Fehler.starts_with(kLadefehler + (ordner / "fehlt.tvf").string() +
-                                              ": diese Datei gibt es nicht\n" + kLadefehler))
-            << aufruf.Fehler;
-        EXPECT_NE(aufruf.Fehler.find(": das ist ein Ordner, keine Datei\n"), std::string::npos);
-        EXPECT_NE(aufruf.Ausgabe.find("29.02.2024"), std::string::npos) << art;
+        EXPECT_EQ(call.code, 1);
+        EXPECT_TRUE(call.errors.starts_with(kLoadError + (folder / "fehlt.tvf").string() +
+                                            ": diese Datei gibt es nicht\n" + kLoadError))
+            << call.errors;
+        EXPECT_NE(call.errors.find(": das ist ein Ordner, keine Datei\n"), std::string::npos);
+        EXPECT_NE(call.output.find("29.02.2024"), std::string::npos) << kind;
     }
 }
 
-TEST(Konsole, ErklaertSichUndFalscheAufrufe) {
-    const Ordner ordner;
-    EXPECT_EQ(Rufe(ordner, "--version").Ausgabe, "tarvelin-cli " TARVELIN_VERSION "\n");
+TEST(Console, ExplainsItselfAndWrongCalls) {
+    const TempFolder folder;
+    EXPECT_EQ(Call(folder, "--version").output, "tarvelin-cli " TARVELIN_VERSION "\n");
     if (!kWindows) {
-        EXPECT_EQ(Rufe(ordner, kPlan + " >/dev/full").Code, 1);
+        EXPECT_EQ(Call(folder, kPlan + " >/dev/full").code, 1);
     }
-    for (const char* hilfe : {"--hilfe", "--help", "-h"}) {
-        const Aufruf seite = Rufe(ordner, hilfe);
-        EXPECT_EQ(seite.Code, 0);
-        EXPECT_NE(seite.Ausgabe.find("--threads ZAHL"), std::string::npos) << seite.Ausgabe;
-        EXPECT_NE(seite.Ausgabe.find("  WR    Raketenwerfer\n"), std::string::npos);
-        EXPECT_EQ(seite.Ausgabe.find("UINT"), std::string::npos);
+    for (const char* help : {"--hilfe", "--help", "-h"}) {
+        const CallResult side = Call(folder, help);
+        EXPECT_EQ(side.code, 0);
+        EXPECT_NE(side.output.find("--threads ZAHL"), std::string::npos) << side.output;
+        EXPECT_NE(side.output.find("  WR    Raketenwerfer\n"), std::string::npos);
+        EXPECT_EQ(side.output.find("UINT"), std::string::npos);
     }
-    const std::vector<std::pair<const char*, const char*>> falsche{
+    const std::vector<std::pair<const char*, const char*>> wrong{
         {"", "es fehlt eine Plandatei"},
         {"--foo x", "unbekannte Option: --foo"},
         {"--json --csv x", "--json und --csv schließen einander aus"},
@@ -108,86 +108,87 @@ TEST(Konsole, ErklaertSichUndFalscheAufrufe) {
         {"--vergleich x", "--vergleich erwartet zwei Plandateien"},
         {"--ical k x y", "--ical nimmt genau eine Plandatei"},
         {"--vergleich x y --ical k", "--vergleich und --ical schließen einander aus"}};
-    for (const auto& [argumente, fehler] : falsche) {
-        const Aufruf aufruf = Rufe(ordner, argumente);
-        EXPECT_EQ(aufruf.Code, 2) << argumente;
-        EXPECT_EQ(aufruf.Fehler, std::string("tarvelin-cli: ") + fehler + " (siehe --hilfe)\n");
-        EXPECT_EQ(aufruf.Ausgabe, "");
+    for (const auto& [arguments, error] : wrong) {
+        const CallResult call = Call(folder, arguments);
+        EXPECT_EQ(call.code, 2) << arguments;
+        EXPECT_EQ(call.errors, std::string("tarvelin-cli: ") + error + " (siehe --hilfe)\n");
+        EXPECT_EQ(call.output, "");
     }
 }
 
-const std::string kStartplan =
-    InZeichen(std::filesystem::path(TARVELIN_SOURCE_DIR) / "data" / "saves" / "basic.tvf");
+const std::string kStarterPlan =
+    Quoted(std::filesystem::path(TARVELIN_SOURCE_DIR) / "data" / "saves" / "basic.tvf");
 
-TEST(Konsole, StelltPlaeneNebeneinander) {
+TEST(Console, PutsPlansSideBySide) {
     using nlohmann::json;
-    const Ordner ordner;
-    const Aufruf aufruf = Rufe(ordner, "--json --vergleich " + kPlan + " " + kStartplan);
-    EXPECT_EQ(aufruf.Code, 0);
-    const json vergleich = json::parse(aufruf.Ausgabe);
-    const json lauf = json::parse(Rufe(ordner, "--json --verlauf " + kStartplan).Ausgabe);
-    EXPECT_EQ(vergleich["B"]["Sekunden"], lauf["secsgone"]);
-    EXPECT_EQ(lauf["Verlauf"]["Auftraege"].size(), lauf["Bauliste"].size());
-    EXPECT_EQ(lauf["Verlauf"]["Punkte"].back()["Sekunde"], lauf["secsgone"]);
-    json ohne = lauf;
-    ohne.erase("Verlauf");
+    const TempFolder folder;
+    const CallResult call = Call(folder, "--json --vergleich " + kPlan + " " + kStarterPlan);
+    EXPECT_EQ(call.code, 0);
+    const json comparison = json::parse(call.output);
+    const json run = json::parse(Call(folder, "--json --verlauf " + kStarterPlan).output);
+    EXPECT_EQ(comparison["B"]["Sekunden"], run["secsgone"]);
+    EXPECT_EQ(run["Verlauf"]["Auftraege"].size(), run["Bauliste"].size());
+    EXPECT_EQ(run["Verlauf"]["Punkte"].back()["Sekunde"], run["secsgone"]);
+    json without = run;
+    without.erase("Verlauf");
     // Programs know the misspelt name, people read the other one.
-    const auto hat = [](const std::string& text, const char* name) {
+    const auto has = [](const std::string& text, const char* name) {
         return text.find(name) != std::string::npos;
     };
-    EXPECT_TRUE(hat(lauf["Verlauf"]["Auftraege"].dump(), "\"Rakentenwerfer 1\""));
-    const std::string fuerMenschen =
-        Rufe(ordner, "--vergleich " + kPlan + " " + kStartplan).Ausgabe;
-    EXPECT_TRUE(hat(fuerMenschen, "Raketenwerfer 1") && !hat(fuerMenschen, "Rakentenwerfer"));
-    EXPECT_EQ(ohne, json::parse(Rufe(ordner, "--json " + kStartplan).Ausgabe));
+    EXPECT_TRUE(has(run["Verlauf"]["Auftraege"].dump(), "\"Rakentenwerfer 1\""));
+    const std::string forPeople = Call(folder, "--vergleich " + kPlan + " " + kStarterPlan).output;
+    EXPECT_TRUE(has(forPeople, "Raketenwerfer 1") && !has(forPeople, "Rakentenwerfer"));
+    EXPECT_EQ(without, json::parse(Call(folder, "--json " + kStarterPlan).output));
     // What is the same isn't listed.
-    const std::string gleich = Rufe(ordner, "--vergleich " + kStartplan + " " + kStartplan).Ausgabe;
-    EXPECT_NE(gleich.find("4 Tage 04:40:16"), std::string::npos) << gleich;
-    EXPECT_EQ(gleich.find("Solarkraftwerk 1"), std::string::npos) << gleich;
+    const std::string same =
+        Call(folder, "--vergleich " + kStarterPlan + " " + kStarterPlan).output;
+    EXPECT_NE(same.find("4 Tage 04:40:16"), std::string::npos) << same;
+    EXPECT_EQ(same.find("Solarkraftwerk 1"), std::string::npos) << same;
     for (const char* const option : {"--vergleich ", "--ical kalender.ics "}) {
-        const std::string weiterer = option[2] == 'v' ? kStartplan : "";
-        const Aufruf fehlt = Rufe(ordner, option + weiterer + " fehlt.tvf");
-        EXPECT_EQ(fehlt.Code, 1);
-        EXPECT_EQ(fehlt.Fehler, kLadefehler + "fehlt.tvf: diese Datei gibt es nicht\n");
+        const std::string another = option[2] == 'v' ? kStarterPlan : "";
+        const CallResult missing = Call(folder, option + another + " fehlt.tvf");
+        EXPECT_EQ(missing.code, 1);
+        EXPECT_EQ(missing.errors, kLoadError + "fehlt.tvf: diese Datei gibt es nicht\n");
     }
-    EXPECT_FALSE(std::filesystem::exists(ordner / "kalender.ics"));
-    EXPECT_EQ(Rufe(ordner, "--ical fehlt/kalender.ics " + kStartplan).Code, 1);
+    EXPECT_FALSE(std::filesystem::exists(folder / "kalender.ics"));
+    EXPECT_EQ(Call(folder, "--ical fehlt/kalender.ics " + kStarterPlan).code, 1);
 }
 
-TEST(Konsole, SuchtUndSchreibtDenPlan) {
+TEST(Console, SearchesAndWritesThePlan) {
     using nlohmann::json;
-    const Ordner ordner;
-    const std::string suche = "--suche " + kStartplan + " --versuche 20000 --json";
-    const Aufruf aufruf = Rufe(ordner, suche + " --nach neu.tvf");
-    EXPECT_EQ(aufruf.Code, 0);
-    EXPECT_EQ(aufruf.Fehler, "");
-    const json bericht = json::parse(aufruf.Ausgabe);
-    EXPECT_EQ(bericht["Vorher"]["Dauer"], "04 Tage 04:40:16");
-    EXPECT_EQ(bericht["Vorher"]["Zeilen"], 49);
-    EXPECT_LT(bericht["Nachher"]["Sekunden"], bericht["Vorher"]["Sekunden"]);
-    EXPECT_EQ(bericht["Versuche"], 20000);
-    EXPECT_EQ(bericht["Saat"], 1);
-    const json lauf = json::parse(Rufe(ordner, "--json neu.tvf").Ausgabe);
-    EXPECT_EQ(lauf["secsgone"], bericht["Nachher"]["Sekunden"]);
+    const TempFolder folder;
+    const std::string search = "--suche " + kStarterPlan + " --versuche 20000 --json";
+    const CallResult call = Call(folder, search + " --nach neu.tvf");
+    EXPECT_EQ(call.code, 0);
+    EXPECT_EQ(call.errors, "");
+    const json report = json::parse(call.output);
+    EXPECT_EQ(report["Vorher"]["Dauer"], "04 Tage 04:40:16");
+    EXPECT_EQ(report["Vorher"]["Zeilen"], 49);
+    EXPECT_LT(report["Nachher"]["Sekunden"], report["Vorher"]["Sekunden"]);
+    EXPECT_EQ(report["Versuche"], 20000);
+    EXPECT_EQ(report["Saat"], 1);
+    const json run = json::parse(Call(folder, "--json neu.tvf").output);
+    EXPECT_EQ(run["secsgone"], report["Nachher"]["Sekunden"]);
     json tags;
-    for (const json& zeile : lauf["Bauliste"]) {
-        tags.push_back(zeile["Tag"]);
+    for (const json& row : run["Bauliste"]) {
+        tags.push_back(row["Tag"]);
     }
-    EXPECT_EQ(tags, bericht["Bauliste"]);
+    EXPECT_EQ(tags, report["Bauliste"]);
     // The same call gives the same, whether it writes or not.
-    EXPECT_EQ(Rufe(ordner, suche + " --threads 2").Ausgabe, aufruf.Ausgabe);
-    const std::string weniger =
-        Rufe(ordner, "--suche " + kStartplan + " --ziel WLJ1 --versuche 1 --sitzungen 0,5").Ausgabe;
-    EXPECT_NE(weniger.find("\nEntfällt:    "), std::string::npos) << weniger;
-    EXPECT_NE(weniger.find("1 x Raketenwerfer"), std::string::npos) << weniger;
+    EXPECT_EQ(Call(folder, search + " --threads 2").output, call.output);
+    const std::string fewer =
+        Call(folder, "--suche " + kStarterPlan + " --ziel WLJ1 --versuche 1 --sitzungen 0,5")
+            .output;
+    EXPECT_NE(fewer.find("\nEntfällt:    "), std::string::npos) << fewer;
+    EXPECT_NE(fewer.find("1 x Raketenwerfer"), std::string::npos) << fewer;
     EXPECT_NE(ProgressLine({.gain = -960}).find("Gewinn -00 Tage 00:16:00 "), std::string::npos);
-    const std::string text = Rufe(ordner, "--suche neu.tvf --versuche 20000 --fest 1-49").Ausgabe;
+    const std::string text = Call(folder, "--suche neu.tvf --versuche 20000 --fest 1-49").output;
     EXPECT_NE(text.find("Gewinn:      00 Tage 00:00:00 (0 %)"), std::string::npos) << text;
 }
 
-TEST(Konsole, SchreibtNichtsWennDieSucheNichtSuchenKann) {
-    const Ordner ordner;
-    const std::vector<std::tuple<const char*, int, const char*>> faelle{
+TEST(Console, WritesNothingIfTheSearchCannotRun) {
+    const TempFolder folder;
+    const std::vector<std::tuple<const char*, int, const char*>> cases{
         {"--ziel XX1", 2, "\"XX1\" nennt kein Item"},
         {"--fest 3,", 2, "--fest erwartet Zeilen wie 3,7-9"},
         {"--fest 50", 2, "Feste Zeilen gehen von 1 bis 49"},
@@ -195,32 +196,32 @@ TEST(Konsole, SchreibtNichtsWennDieSucheNichtSuchenKann) {
         {"--ab gestern", 2, "--ab erwartet einen Zeitpunkt"},
         {"--ab \"01.01.2030 00:00:00\"", 1, "Alle Aufträge beginnen vor dem"},
     };
-    for (const auto& [optionen, code, text] : faelle) {
-        const Aufruf aufruf = Rufe(ordner, "--suche " + kStartplan + " --nach neu.tvf " + optionen);
-        EXPECT_EQ(aufruf.Code, code) << optionen;
-        EXPECT_NE(aufruf.Fehler.find(text), std::string::npos) << aufruf.Fehler;
-        EXPECT_EQ(aufruf.Ausgabe, "");
-        EXPECT_FALSE(std::filesystem::exists(ordner / "neu.tvf"));
+    for (const auto& [options, code, text] : cases) {
+        const CallResult call =
+            Call(folder, "--suche " + kStarterPlan + " --nach neu.tvf " + options);
+        EXPECT_EQ(call.code, code) << options;
+        EXPECT_NE(call.errors.find(text), std::string::npos) << call.errors;
+        EXPECT_EQ(call.output, "");
+        EXPECT_FALSE(std::filesystem::exists(folder / "neu.tvf"));
     }
-    EXPECT_EQ(Rufe(ordner, "--suche fehlt.tvf").Fehler,
+    EXPECT_EQ(Call(folder, "--suche fehlt.tvf").errors,
               "tarvelin-cli: Die Bauliste konnte nicht geladen werden...\n"
               "fehlt.tvf: diese Datei gibt es nicht\n");
 }
 
 #ifdef __linux__
-TEST(Konsole, EndetAufEinSignalMitDemBestenPlan) {
-    const Ordner ordner;
+TEST(Console, EndsOnASignalWithTheBestPlan) {
+    const TempFolder folder;
     // The signal comes as soon as it is caught, by the program and not by the shell before it.
-    SchreibeDatei(
-        ordner / "ruf",
+    WriteFile(
+        folder / "ruf",
         "\"$1\" --suche \"$2\" --nach neu.tvf --versuche 1000000000000 & p=$!\n"
         "until grep -q '^tarvelin' /proc/$p/comm; do sleep 0.05; done\n"
         "until grep -qE '^SigCgt:.*[2367abef]$|^State:.*Z' /proc/$p/status; do sleep 0.05; done\n"
         "kill -INT $p; wait $p\n");
-    EXPECT_EQ(FuehreAus(ordner, "sh ruf " + InZeichen(TARVELIN_CLI) + " " + kStartplan + " >aus"),
-              0);
-    EXPECT_TRUE(LiesDatei(ordner / "aus").starts_with("Vorher:      04 Tage 04:40:16"));
-    EXPECT_EQ(Rufe(ordner, "neu.tvf").Code, 0);
+    EXPECT_EQ(Execute(folder, "sh ruf " + Quoted(TARVELIN_CLI) + " " + kStarterPlan + " >aus"), 0);
+    EXPECT_TRUE(ReadFileToString(folder / "aus").starts_with("Vorher:      04 Tage 04:40:16"));
+    EXPECT_EQ(Call(folder, "neu.tvf").code, 0);
 }
 #endif
 

@@ -6,33 +6,33 @@
 namespace tarvelin {
 namespace {
 
-using Ziehen = Fenster;
+using DragDrop = MainWindow;
 
-TEST_F(Ziehen, VomBildInDieListe) {
+TEST_F(DragDrop, FromThePictureIntoTheList) {
     // The screen of this platform is tiny.
-    m_fenster.setFixedSize(frmMain::SizeOn({2000, 2000}));
-    Finde("Fra_Einstellungen").hide();
-    const auto ziehe = [&](const char* bild, QPoint ziel) {
-        QTimer::singleShot(0, &m_fenster, [this, ziel] {
-            QTest::mouseMove(m_fenster.windowHandle(), ziel);
-            QTest::mouseRelease(m_fenster.windowHandle(), Qt::LeftButton, {}, ziel);
+    m_window.setFixedSize(frmMain::SizeOn({2000, 2000}));
+    Find("Fra_Einstellungen").hide();
+    const auto drag = [&](const char* picture, QPoint target) {
+        QTimer::singleShot(0, &m_window, [this, target] {
+            QTest::mouseMove(m_window.windowHandle(), target);
+            QTest::mouseRelease(m_window.windowHandle(), Qt::LeftButton, {}, target);
         });
-        QTest::mousePress(&Finde(bild), Qt::LeftButton);
+        QTest::mousePress(&Find(picture), Qt::LeftButton);
     };
-    auto& liste = Finde("LV_Bauliste");
-    const QPoint mitten = liste.mapTo(&m_fenster, liste.rect().center());
-    const auto& robo = Finde("ImgRobo");
-    QTest::mouseMove(m_fenster.windowHandle(), robo.mapTo(&m_fenster, robo.rect().center()));
-    ziehe("ImgRobo", mitten);
-    EXPECT_EQ(Zeilen("LV_Bauliste"), 0) << "its gate is closed";
-    ziehe("ImgSKW", mitten);
-    ziehe("ImgDeutMine", mitten);
-    ziehe("ImgDeutMine", Finde("LV_Bauzeiten").mapTo(&m_fenster, QPoint(20, 20)));
-    ziehe("imgFolab", mitten);
-    ASSERT_EQ(Zeilen("LV_Bauliste"), 3);
-    EXPECT_EQ(Zelle("LV_Bauliste", 0, 1), "Solarkraftwerk Stufe: 1");
-    EXPECT_EQ(Zelle("LV_Bauliste", 1, 1), "DeuteriumMine Stufe: 1");
-    EXPECT_EQ(Zelle("LV_Bauliste", 2, 1), "Forschungslabor Stufe: 1");
+    auto& list = Find("LV_Bauliste");
+    const QPoint center = list.mapTo(&m_window, list.rect().center());
+    const auto& robo = Find("ImgRobo");
+    QTest::mouseMove(m_window.windowHandle(), robo.mapTo(&m_window, robo.rect().center()));
+    drag("ImgRobo", center);
+    EXPECT_EQ(RowCount("LV_Bauliste"), 0) << "its gate is closed";
+    drag("ImgSKW", center);
+    drag("ImgDeutMine", center);
+    drag("ImgDeutMine", Find("LV_Bauzeiten").mapTo(&m_window, QPoint(20, 20)));
+    drag("imgFolab", center);
+    ASSERT_EQ(RowCount("LV_Bauliste"), 3);
+    EXPECT_EQ(Cell("LV_Bauliste", 0, 1), "Solarkraftwerk Stufe: 1");
+    EXPECT_EQ(Cell("LV_Bauliste", 1, 1), "DeuteriumMine Stufe: 1");
+    EXPECT_EQ(Cell("LV_Bauliste", 2, 1), "Forschungslabor Stufe: 1");
 }
 
 }  // namespace

@@ -9,105 +9,104 @@ namespace tarvelin {
 
 /// What fails behind the n-th call: nothing more, calls of its kind (a full disk), or all of them
 /// (a disk that was pulled out).
-enum class Ausfallart { Einmal, DieserAufrufFuerImmer, AllesFuerImmer };
+enum class FaultKind { Once, ThisCallForever, EverythingForever };
 
 /// The platform with its n-th call failing, from 1. A write that fails has written half.
-class Stoersystem : public FileSystem {
+class FaultyFileSystem : public FileSystem {
   public:
-    Stoersystem(int n, Ausfallart art) : m_n(n), m_art(art) {}
+    FaultyFileSystem(int n, FaultKind kind) : m_n(n), m_kind(kind) {}
 
     /// Counts from 1 again.
-    void Beginne(int n) {
+    void Begin(int n) {
         m_n = n;
-        m_zaehler = 0;
+        m_counter = 0;
     }
-    [[nodiscard]] bool HatGestoert() const { return m_zaehler >= m_n; }
+    [[nodiscard]] bool HasFailed() const { return m_counter >= m_n; }
     /// The name of the call that failed first.
-    [[nodiscard]] std::string_view Gestoert() const { return m_gestoert; }
+    [[nodiscard]] std::string_view Faulty() const { return m_disturbed; }
 
-    [[nodiscard]] std::optional<Kind> KindOf(const std::filesystem::path& pfad) const override {
-        return Stoert("Sieh") ? std::nullopt : NativeFileSystem().KindOf(pfad);
+    [[nodiscard]] std::optional<Kind> KindOf(const std::filesystem::path& path) const override {
+        return Fails("Sieh") ? std::nullopt : NativeFileSystem().KindOf(path);
     }
     [[nodiscard]] std::optional<std::filesystem::path> Resolve(
-        const std::filesystem::path& pfad) const override {
-        return Stoert("LoeseAuf") ? std::nullopt : NativeFileSystem().Resolve(pfad);
+        const std::filesystem::path& path) const override {
+        return Fails("LoeseAuf") ? std::nullopt : NativeFileSystem().Resolve(path);
     }
-    [[nodiscard]] bool IsWritable(const std::filesystem::path& pfad) const override {
-        return !Stoert("IstBeschreibbar") && NativeFileSystem().IsWritable(pfad);
+    [[nodiscard]] bool IsWritable(const std::filesystem::path& path) const override {
+        return !Fails("IstBeschreibbar") && NativeFileSystem().IsWritable(path);
     }
     [[nodiscard]] std::vector<std::filesystem::path> Entries(
-        const std::filesystem::path& ordner) const override {
-        return Stoert("Eintraege") ? std::vector<std::filesystem::path>()
-                                   : NativeFileSystem().Entries(ordner);
+        const std::filesystem::path& folder) const override {
+        return Fails("Eintraege") ? std::vector<std::filesystem::path>()
+                                  : NativeFileSystem().Entries(folder);
     }
-    [[nodiscard]] bool IsPlainFolder(const std::filesystem::path& pfad) const override {
-        return !Stoert("IstSchlichterOrdner") && NativeFileSystem().IsPlainFolder(pfad);
+    [[nodiscard]] bool IsPlainFolder(const std::filesystem::path& path) const override {
+        return !Fails("IstSchlichterOrdner") && NativeFileSystem().IsPlainFolder(path);
     }
-    [[nodiscard]] bool CreateFolders(const std::filesystem::path& pfad) const override {
-        return !Stoert("LegeOrdnerAn") && NativeFileSystem().CreateFolders(pfad);
+    [[nodiscard]] bool CreateFolders(const std::filesystem::path& path) const override {
+        return !Fails("LegeOrdnerAn") && NativeFileSystem().CreateFolders(path);
     }
-    [[nodiscard]] int Open(const std::filesystem::path& datei) const override {
-        return Stoert("Oeffne") ? -1 : NativeFileSystem().Open(datei);
+    [[nodiscard]] int Open(const std::filesystem::path& file) const override {
+        return Fails("Oeffne") ? -1 : NativeFileSystem().Open(file);
     }
-    [[nodiscard]] int Create(const std::filesystem::path& datei) const override {
-        return Stoert("LegeAn") ? -1 : NativeFileSystem().Create(datei);
+    [[nodiscard]] int Create(const std::filesystem::path& file) const override {
+        return Fails("LegeAn") ? -1 : NativeFileSystem().Create(file);
     }
-    [[nodiscard]] std::ptrdiff_t Read(int nummer, std::span<char> bytes) const override {
-        return Stoert("Lies") ? -1 : NativeFileSystem().Read(nummer, bytes);
+    [[nodiscard]] std::ptrdiff_t Read(int number, std::span<char> bytes) const override {
+        return Fails("Lies") ? -1 : NativeFileSystem().Read(number, bytes);
     }
-    [[nodiscard]] std::ptrdiff_t Write(int nummer, std::string_view bytes) const override {
+    [[nodiscard]] std::ptrdiff_t Write(int number, std::string_view bytes) const override {
         // In two pieces, so that something can fail between them.
-        const auto haelfte = bytes.substr(0, (bytes.size() + 1) / 2);
-        if (Stoert("Schreibe")) {
-            static_cast<void>(NativeFileSystem().Write(nummer, haelfte));
+        const auto half = bytes.substr(0, (bytes.size() + 1) / 2);
+        if (Fails("Schreibe")) {
+            static_cast<void>(NativeFileSystem().Write(number, half));
             return -1;
         }
-        return NativeFileSystem().Write(nummer, haelfte);
+        return NativeFileSystem().Write(number, half);
     }
-    [[nodiscard]] bool CopyPermissions(int nummer,
-                                       const std::filesystem::path& von) const override {
-        return !Stoert("UebernimmRechte") && NativeFileSystem().CopyPermissions(nummer, von);
+    [[nodiscard]] bool CopyPermissions(int number,
+                                       const std::filesystem::path& from) const override {
+        return !Fails("UebernimmRechte") && NativeFileSystem().CopyPermissions(number, from);
     }
-    [[nodiscard]] bool Sync(int nummer) const override {
-        return !Stoert("BringAufPlatte") && NativeFileSystem().Sync(nummer);
+    [[nodiscard]] bool Sync(int number) const override {
+        return !Fails("BringAufPlatte") && NativeFileSystem().Sync(number);
     }
-    bool Close(int nummer) const override {
-        const bool gestoert = Stoert("Schliesse");
-        return NativeFileSystem().Close(nummer) && !gestoert;
+    bool Close(int number) const override {
+        const bool disturbed = Fails("Schliesse");
+        return NativeFileSystem().Close(number) && !disturbed;
     }
-    [[nodiscard]] bool Rename(const std::filesystem::path& von,
-                              const std::filesystem::path& nach) const override {
-        return !Stoert("BenenneUm") && NativeFileSystem().Rename(von, nach);
+    [[nodiscard]] bool Rename(const std::filesystem::path& from,
+                              const std::filesystem::path& target) const override {
+        return !Fails("BenenneUm") && NativeFileSystem().Rename(from, target);
     }
-    bool SyncFolder(const std::filesystem::path& ordner) const override {
-        return !Stoert("BringOrdnerAufPlatte") && NativeFileSystem().SyncFolder(ordner);
+    bool SyncFolder(const std::filesystem::path& folder) const override {
+        return !Fails("BringOrdnerAufPlatte") && NativeFileSystem().SyncFolder(folder);
     }
-    bool Remove(const std::filesystem::path& datei) const override {
-        return !Stoert("Loesche") && NativeFileSystem().Remove(datei);
+    bool Remove(const std::filesystem::path& file) const override {
+        return !Fails("Loesche") && NativeFileSystem().Remove(file);
     }
     [[nodiscard]] std::int64_t ProcessId() const override { return NativeFileSystem().ProcessId(); }
-    [[nodiscard]] bool IsRunning(std::int64_t prozess) const override {
-        return NativeFileSystem().IsRunning(prozess);
+    [[nodiscard]] bool IsRunning(std::int64_t process) const override {
+        return NativeFileSystem().IsRunning(process);
     }
 
   private:
     /// Called in front of the call; whether it fails.
-    [[nodiscard]] bool Stoert(std::string_view aufruf) const {
-        if (++m_zaehler == m_n) {
-            m_gestoert = aufruf;
-            VorAusfall();
+    [[nodiscard]] bool Fails(std::string_view call) const {
+        if (++m_counter == m_n) {
+            m_disturbed = call;
+            BeforeFault();
             return true;
         }
-        return m_zaehler > m_n &&
-               (m_art == Ausfallart::AllesFuerImmer ||
-                (m_art == Ausfallart::DieserAufrufFuerImmer && m_gestoert == aufruf));
+        return m_counter > m_n && (m_kind == FaultKind::EverythingForever ||
+                                   (m_kind == FaultKind::ThisCallForever && m_disturbed == call));
     }
-    virtual void VorAusfall() const {}
+    virtual void BeforeFault() const {}
 
     int m_n;
-    Ausfallart m_art;
-    mutable int m_zaehler = 0;
-    mutable std::string_view m_gestoert;
+    FaultKind m_kind;
+    mutable int m_counter = 0;
+    mutable std::string_view m_disturbed;
 };
 
 }  // namespace tarvelin

@@ -13,109 +13,109 @@ namespace tarvelin {
 namespace {
 
 /// As a virus scanner or an editor holds a file: nobody may replace it, or even read it.
-class Halter {
+class FileHolder {
   public:
-    Halter(const std::filesystem::path& datei, DWORD lassen)
-        : m_griff(::CreateFileW(datei.c_str(), GENERIC_READ, lassen, nullptr, OPEN_EXISTING, 0,
-                                nullptr)) {
-        EXPECT_NE(m_griff, INVALID_HANDLE_VALUE);
+    FileHolder(const std::filesystem::path& file, DWORD leave)
+        : m_handle(::CreateFileW(file.c_str(), GENERIC_READ, leave, nullptr, OPEN_EXISTING, 0,
+                                 nullptr)) {
+        EXPECT_NE(m_handle, INVALID_HANDLE_VALUE);
     }
-    Halter(const Halter&) = delete;
-    Halter& operator=(const Halter&) = delete;
-    ~Halter() { LassLos(); }
+    FileHolder(const FileHolder&) = delete;
+    FileHolder& operator=(const FileHolder&) = delete;
+    ~FileHolder() { Release(); }
 
-    void LassLos() {
-        if (m_griff != INVALID_HANDLE_VALUE) {
-            ::CloseHandle(std::exchange(m_griff, INVALID_HANDLE_VALUE));
+    void Release() {
+        if (m_handle != INVALID_HANDLE_VALUE) {
+            ::CloseHandle(std::exchange(m_handle, INVALID_HANDLE_VALUE));
         }
     }
 
   private:
-    HANDLE m_griff;
+    HANDLE m_handle;
 };
 
-TEST(DateisystemWindows, WartetAufDenDerEineDateiHaelt) {
-    const Ordner ordner;
-    const auto datei = ordner / "plan.tvf";
-    for (const DWORD lassen : {DWORD{FILE_SHARE_READ}, DWORD{0}}) {
-        ASSERT_TRUE(SaveBauliste(datei, PlanAus("GM")));
-        const std::string alt = LiesDatei(datei);
+TEST(WindowsFileSystem, WaitsForWhoHoldsAFile) {
+    const TempFolder folder;
+    const auto file = folder / "plan.tvf";
+    for (const DWORD leave : {DWORD{FILE_SHARE_READ}, DWORD{0}}) {
+        ASSERT_TRUE(SaveBauliste(file, PlanOf("GM")));
+        const std::string before = ReadFileToString(file);
         {
-            const Halter immer(datei, lassen);
-            EXPECT_FALSE(SaveBauliste(datei, PlanAus("GM GS")));
+            const FileHolder always(file, leave);
+            EXPECT_FALSE(SaveBauliste(file, PlanOf("GM GS")));
         }
-        EXPECT_EQ(LiesDatei(datei), alt);
-        EXPECT_EQ(ordner.Eintraege(), 1U);
-        Halter kurz(datei, lassen);
-        std::thread gleich([&] {
-            constexpr DWORD kWeile = 20;
-            ::Sleep(kWeile);
-            kurz.LassLos();
+        EXPECT_EQ(ReadFileToString(file), before);
+        EXPECT_EQ(folder.Entries(), 1U);
+        FileHolder shortPlan(file, leave);
+        std::thread same([&] {
+            constexpr DWORD kWhile = 20;
+            ::Sleep(kWhile);
+            shortPlan.Release();
         });
-        EXPECT_TRUE(SaveBauliste(datei, PlanAus("GM GS")));
-        gleich.join();
-        EXPECT_NE(LiesDatei(datei), alt);
-        EXPECT_EQ(ordner.Eintraege(), 1U);
+        EXPECT_TRUE(SaveBauliste(file, PlanOf("GM GS")));
+        same.join();
+        EXPECT_NE(ReadFileToString(file), before);
+        EXPECT_EQ(folder.Entries(), 1U);
     }
 }
 
-TEST(DateisystemWindows, ZeigtSchlichteOrdner) {
-    const Ordner ordner;
-    struct Fall {
-        const wchar_t* Name;
-        DWORD Attribute;
+TEST(WindowsFileSystem, ShowsPlainFolders) {
+    const TempFolder folder;
+    struct Case {
+        const wchar_t* name;
+        DWORD attributes;
     };
     for (const auto& [name, attribute] :
-         {Fall{L"blau", 0}, Fall{L"versteckt", FILE_ATTRIBUTE_HIDDEN},
-          Fall{L"system", FILE_ATTRIBUTE_SYSTEM},
-          Fall{L"ohne Index", FILE_ATTRIBUTE_NOT_CONTENT_INDEXED}}) {
-        const std::filesystem::path unter = (ordner / "") / name;
-        std::filesystem::create_directory(unter);
-        ASSERT_NE(::SetFileAttributesW(unter.c_str(), FILE_ATTRIBUTE_DIRECTORY | attribute), 0);
+         {Case{L"blau", 0}, Case{L"versteckt", FILE_ATTRIBUTE_HIDDEN},
+          Case{L"system", FILE_ATTRIBUTE_SYSTEM},
+          Case{L"ohne Index", FILE_ATTRIBUTE_NOT_CONTENT_INDEXED}}) {
+        const std::filesystem::path under = (folder / "") / name;
+        std::filesystem::create_directory(under);
+        ASSERT_NE(::SetFileAttributesW(under.c_str(), FILE_ATTRIBUTE_DIRECTORY | attribute), 0);
     }
-    EXPECT_EQ(GetSubfolders(ordner / ""), (std::vector<std::string>{"blau", "ohne Index"}));
+    EXPECT_EQ(GetSubfolders(folder / ""), (std::vector<std::string>{"blau", "ohne Index"}));
 }
 
 /// Deletes a folder whose path may be long, which the library can't.
-void Raeume(const std::filesystem::path& ordner) {
-    for (const auto& eintrag : NativeFileSystem().Entries(ordner)) {
-        if (NativeFileSystem().KindOf(eintrag) == FileSystem::Kind::TempFolder) {
-            Raeume(eintrag);
+void Clear(const std::filesystem::path& folder) {
+    for (const auto& entry : NativeFileSystem().Entries(folder)) {
+        if (NativeFileSystem().KindOf(entry) == FileSystem::Kind::TempFolder) {
+            Clear(entry);
         } else {
-            EXPECT_TRUE(NativeFileSystem().Remove(eintrag));
+            EXPECT_TRUE(NativeFileSystem().Remove(entry));
         }
     }
-    const auto ort = NativeFileSystem().Resolve(ordner);
-    EXPECT_NE(::RemoveDirectoryW(ort->c_str()), 0) << ::GetLastError();
+    const auto position = NativeFileSystem().Resolve(folder);
+    EXPECT_NE(::RemoveDirectoryW(position->c_str()), 0) << ::GetLastError();
 }
 
-TEST(DateisystemWindows, KommtMitLangenPfadenZurecht) {
-    const Ordner ordner;
-    std::filesystem::path ort = ordner / "lang";
+TEST(WindowsFileSystem, CopesWithLongPaths) {
+    const TempFolder folder;
+    std::filesystem::path position = folder / "lang";
     for (int i = 0; i < 6; ++i) {
-        ort /= L"Größe – 星のプラン " + std::wstring(50, L'x');
+        position /= L"Größe – 星のプラン " + std::wstring(50, L'x');
     }
-    const auto datei = ort / "saves" / "plan.tvf";
-    ASSERT_GT(datei.native().size(), 300U);
+    const auto file = position / "saves" / "plan.tvf";
+    ASSERT_GT(file.native().size(), 300U);
     // A folder of a program, with its files in it.
-    ASSERT_TRUE(NativeFileSystem().CreateFolders(ordner / "share/tarvelin/img/skins/blau"));
-    SchreibeDatei(ordner / "share/tarvelin/img/icon.ico", "icon");
-    const auto gewaehlt = ResolveProgramFolder(ordner / "bin", ort);
-    EXPECT_EQ(gewaehlt.TempFolder, ort);
-    EXPECT_TRUE(gewaehlt.canKeep);
-    EXPECT_EQ(ReadFileToString(ort / "img/icon.ico", 9, NativeFileSystem()), "icon");
-    EXPECT_EQ(GetSubfolders(ort / "img/skins"), std::vector<std::string>{"blau"});
+    ASSERT_TRUE(NativeFileSystem().CreateFolders(folder / "share/tarvelin/img/skins/blau"));
+    WriteFile(folder / "share/tarvelin/img/icon.ico", "icon");
+    const auto chosen = ResolveProgramFolder(folder / "bin", position);
+    EXPECT_EQ(chosen.TempFolder, position);
+    EXPECT_TRUE(chosen.canKeep);
+    EXPECT_EQ(ReadFileToString(position / "img/icon.ico", 9, NativeFileSystem()), "icon");
+    EXPECT_EQ(GetSubfolders(position / "img/skins"), std::vector<std::string>{"blau"});
     for (const char* const codes : {"GM", "GM GS"}) {
-        ASSERT_TRUE(SaveBauliste(datei, PlanAus(codes)));
-        const auto profil = IniFile::Load(datei);
-        ASSERT_TRUE(profil);
-        EXPECT_EQ(profil->ReadINI("Bauliste", "ItemCount", ""),
+        ASSERT_TRUE(SaveBauliste(file, PlanOf(codes)));
+        const auto profile = IniFile::Load(file);
+        ASSERT_TRUE(profile);
+        EXPECT_EQ(profile->ReadINI("Bauliste", "ItemCount", ""),
                   codes == std::string("GM") ? "1" : "2");
     }
-    EXPECT_TRUE(FileExists(datei));
-    EXPECT_EQ(NativeFileSystem().KindOf(ort / "fehlt.tvf"), FileSystem::Kind::Nothing);
-    EXPECT_FALSE(SaveBauliste(datei, PlanAus("GM"), ProtectedFileSystem({ort})));
-    Raeume(ordner / "lang");
+    EXPECT_TRUE(FileExists(file));
+    EXPECT_EQ(NativeFileSystem().KindOf(position / "fehlt.tvf"), FileSystem::Kind::Nothing);
+    EXPECT_FALSE(SaveBauliste(file, PlanOf("GM"), ProtectedFileSystem({position})));
+    Clear(folder / "lang");
 }
 
 }  // namespace

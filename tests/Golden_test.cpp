@@ -8,50 +8,51 @@
 namespace tarvelin {
 namespace {
 
-std::vector<std::string> Plaene() {
-    std::vector<std::string> namen;
-    for (const auto& eintrag : std::filesystem::directory_iterator(TARVELIN_GOLDEN)) {
-        if (eintrag.path().extension() == ".tvf") {
-            namen.push_back(eintrag.path().stem().string());
+std::vector<std::string> Plans() {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(TARVELIN_GOLDEN)) {
+        if (entry.path().extension() == ".tvf") {
+            names.push_back(entry.path().stem().string());
         }
     }
-    std::ranges::sort(namen);
-    return namen;
+    std::ranges::sort(names);
+    return names;
 }
 
 class Golden : public testing::TestWithParam<std::string> {};
 
-TEST_P(Golden, ErgibtFeldFuerFeldDasErwartete) {
-    const auto datei = std::filesystem::path(TARVELIN_GOLDEN) / (GetParam() + ".tvf");
-    const auto ist = nlohmann::json::parse(JsonText(PlanRun(datei)));
-    auto json = datei;
-    const auto soll = nlohmann::json::parse(LiesDatei(json.replace_extension(".json")));
-    for (const auto& unterschied : nlohmann::json::diff(soll, ist)) {
-        const nlohmann::json::json_pointer ort(unterschied["path"].get<std::string>());
-        ADD_FAILURE() << unterschied["op"] << " " << unterschied["path"] << "\n  soll "
-                      << (soll.contains(ort) ? soll[ort].dump() : "(nichts)") << "\n  ist  "
-                      << (ist.contains(ort) ? ist[ort].dump() : "(nichts)");
+TEST_P(Golden, GivesTheExpectedFieldByField) {
+    const auto file = std::filesystem::path(TARVELIN_GOLDEN) / (GetParam() + ".tvf");
+    const auto actual = nlohmann::json::parse(JsonText(PlanRun(file)));
+    auto json = file;
+    const auto expected = nlohmann::json::parse(ReadFileToString(json.replace_extension(".json")));
+    for (const auto& difference : nlohmann::json::diff(expected, actual)) {
+        const nlohmann::json::json_pointer position(difference["path"].get<std::string>());
+        ADD_FAILURE() << difference["op"] << " " << difference["path"] << "\n  soll "
+                      << (expected.contains(position) ? expected[position].dump() : "(nichts)")
+                      << "\n  ist  "
+                      << (actual.contains(position) ? actual[position].dump() : "(nichts)");
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Plaene, Golden, testing::ValuesIn(Plaene()), [](const auto& fall) {
-    std::string name = fall.param;
+INSTANTIATE_TEST_SUITE_P(Plans, Golden, testing::ValuesIn(Plans()), [](const auto& testCase) {
+    std::string name = testCase.param;
     std::ranges::replace(name, '-', '_');
     return name;
 });
 
-TEST(Starterplan, HaeltDieRegelnUndLaeuftOhneMeldung) {
-    const PlanRun lauf(std::filesystem::path(TARVELIN_SOURCE_DIR) / "data/saves/basic.tvf");
-    EXPECT_TRUE(lauf.hasRun);
-    EXPECT_TRUE(lauf.messages.empty());
-    const auto orders = lauf.plan.LV_Bauliste.Orders().All();
+TEST(StarterPlan, KeepsTheRulesAndRunsWithoutAMessage) {
+    const PlanRun document(std::filesystem::path(TARVELIN_SOURCE_DIR) / "data/saves/basic.tvf");
+    EXPECT_TRUE(document.hasRun);
+    EXPECT_TRUE(document.messages.empty());
+    const auto orders = document.plan.LV_Bauliste.Orders().All();
     EXPECT_GE(orders.size(), 30U);
     EXPECT_LE(orders.size(), 60U);
-    OrderList liste;
+    OrderList list;
     for (const Order& order : orders) {
         ASSERT_EQ(order.kind, Order::Kind::Item);
-        EXPECT_FALSE(Refusal(order.item, liste)) << order.Tag();
-        liste.Append(order);
+        EXPECT_FALSE(Refusal(order.item, list)) << order.Tag();
+        list.Append(order);
     }
 }
 

@@ -1,10 +1,10 @@
 // The real fetch against a real server on this machine, with all its whims.
 #ifdef _WIN32
 #include <winsock2.h>
-using Anschluss = SOCKET;
+using SocketHandle = SOCKET;
 #else
 #include <sys/socket.h>
-using Anschluss = int;
+using SocketHandle = int;
 #endif
 
 #include <QApplication>
@@ -28,201 +28,201 @@ class Server {
     Server() {
         EXPECT_TRUE(m_server.listen(QHostAddress::LocalHost));
         QObject::connect(&m_server, &QTcpServer::newConnection, [this] {
-            QTcpSocket* const kunde = m_server.nextPendingConnection();
-            QObject::connect(kunde, &QTcpSocket::readyRead, kunde, [this, kunde] {
-                const QByteArray anfrage = kunde->readAll();
-                const std::string pfad = anfrage.split(' ').value(1).toStdString();
-                ++Anfragen;
-                Antworte(*kunde, pfad);
+            QTcpSocket* const client = m_server.nextPendingConnection();
+            QObject::connect(client, &QTcpSocket::readyRead, client, [this, client] {
+                const QByteArray request = client->readAll();
+                const std::string path = request.split(' ').value(1).toStdString();
+                ++requestLines;
+                Answer(*client, path);
             });
         });
     }
 
-    std::string Adresse(const std::string& pfad) const {
-        return "http://127.0.0.1:" + std::to_string(m_server.serverPort()) + pfad;
+    std::string Address(const std::string& path) const {
+        return "http://127.0.0.1:" + std::to_string(m_server.serverPort()) + path;
     }
 
-    std::map<std::string, std::string> Antworten;
-    int Anfragen = 0;
+    std::map<std::string, std::string> responses;
+    int requestLines = 0;
     /// What comes behind an answer: a clean close, a reset, or nothing.
-    bool Schliessen = true;
-    bool Zuruecksetzen = false;
+    bool close = true;
+    bool reset = false;
 
   private:
-    void Antworte(QTcpSocket& kunde, const std::string& pfad) {
-        if (pfad == "/endlos") {
-            kunde.write("HTTP/1.1 200 OK\r\n\r\n");
-            QObject::connect(&kunde, &QTcpSocket::bytesWritten, &kunde,
-                             [&kunde] { kunde.write(QByteArray(65536, 'x')); });
+    void Answer(QTcpSocket& client, const std::string& path) {
+        if (path == "/endlos") {
+            client.write("HTTP/1.1 200 OK\r\n\r\n");
+            QObject::connect(&client, &QTcpSocket::bytesWritten, &client,
+                             [&client] { client.write(QByteArray(65536, 'x')); });
             return;
         }
-        if (pfad == "/stumm") {
+        if (path == "/stumm") {
             return;
         }
-        if (pfad == "/tropfen") {
-            kunde.write("HTTP/1.1 200 OK\r\nContent-Length: 100000\r\n\r\n");
-            auto* const takt = new QTimer(&kunde);
-            QObject::connect(takt, &QTimer::timeout, &kunde, [&kunde] { kunde.write("x"); });
-            takt->start(20);
+        if (path == "/tropfen") {
+            client.write("HTTP/1.1 200 OK\r\nContent-Length: 100000\r\n\r\n");
+            auto* const timer = new QTimer(&client);
+            QObject::connect(timer, &QTimer::timeout, &client, [&client] { client.write("x"); });
+            timer->start(20);
             return;
         }
-        kunde.write(QByteArray::fromStdString(Antworten[pfad]));
-        if (Zuruecksetzen) {
-            kunde.flush();
-            const linger hart{.l_onoff = 1, .l_linger = 0};
-            ::setsockopt(static_cast<Anschluss>(kunde.socketDescriptor()), SOL_SOCKET, SO_LINGER,
-                         reinterpret_cast<const char*>(&hart), sizeof hart);
-            kunde.abort();
-        } else if (Schliessen) {
-            kunde.disconnectFromHost();
+        client.write(QByteArray::fromStdString(responses[path]));
+        if (reset) {
+            client.flush();
+            const linger hard{.l_onoff = 1, .l_linger = 0};
+            ::setsockopt(static_cast<SocketHandle>(client.socketDescriptor()), SOL_SOCKET,
+                         SO_LINGER, reinterpret_cast<const char*>(&hard), sizeof hard);
+            client.abort();
+        } else if (close) {
+            client.disconnectFromHost();
         }
     }
 
     QTcpServer m_server;
 };
 
-std::string Gut(const std::string& inhalt) {
-    return "HTTP/1.1 200 OK\r\nContent-Length: " + std::to_string(inhalt.size()) + "\r\n\r\n" +
-           inhalt;
+std::string Good(const std::string& content) {
+    return "HTTP/1.1 200 OK\r\nContent-Length: " + std::to_string(content.size()) + "\r\n\r\n" +
+           content;
 }
 
-std::string Umleitung(const std::string& ziel) {
-    return "HTTP/1.1 302 Found\r\nLocation: " + ziel +
+std::string Redirect(const std::string& target) {
+    return "HTTP/1.1 302 Found\r\nLocation: " + target +
            "\r\nConnection: close\r\nContent-Length: 0\r\n\r\n";
 }
 
-constexpr const char* kStuecke = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
+constexpr const char* kPieces = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
 
-TEST(Netzabruf, HoltNurGanzesUndGutes) {
+TEST(HttpFetcher, FetchesOnlyWhatIsWholeAndGood) {
     Server server;
-    HttpFetcher netz;
+    HttpFetcher fetcher;
     const std::string bytes("a\0b\xff\r\n", 6);
-    server.Antworten = {
-        {"/gut", Gut(bytes)},
-        {"/leer", Gut("")},
+    server.responses = {
+        {"/gut", Good(bytes)},
+        {"/leer", Good("")},
         {"/ohnelaenge", "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\nInhalt"},
-        {"/stuecke", kStuecke + std::string("5\r\nhallo\r\n1\r\n!\r\n0\r\n\r\n")},
-        {"/anhang", kStuecke + std::string("2\r\nda\r\n0\r\nMehr: dahinter\r\n\r\n")},
+        {"/stuecke", kPieces + std::string("5\r\nhallo\r\n1\r\n!\r\n0\r\n\r\n")},
+        {"/anhang", kPieces + std::string("2\r\nda\r\n0\r\nMehr: dahinter\r\n\r\n")},
         {"/404", "HTTP/1.1 404 Not Found\r\nContent-Length: 3\r\n\r\nweg"},
         {"/500", "HTTP/1.1 500 Kaputt\r\nContent-Length: 0\r\n\r\n"},
         {"/206", "HTTP/1.1 206 Teil\r\nContent-Length: 3\r\n\r\nabc"},
         {"/unsinn", "das ist kein HTTP\r\n\r\n"},
     };
     // A connection that stays open serves the next one too.
-    for (const bool schliessen : {true, false}) {
-        server.Schliessen = schliessen;
-        EXPECT_EQ(netz.Fetch(server.Adresse("/gut")), bytes);
-        EXPECT_EQ(netz.Fetch(server.Adresse("/leer")), "");
-        EXPECT_EQ(netz.Fetch(server.Adresse("/stuecke")), "hallo!");
-        EXPECT_EQ(netz.Fetch(server.Adresse("/anhang")), "da");
+    for (const bool close : {true, false}) {
+        server.close = close;
+        EXPECT_EQ(fetcher.Fetch(server.Address("/gut")), bytes);
+        EXPECT_EQ(fetcher.Fetch(server.Address("/leer")), "");
+        EXPECT_EQ(fetcher.Fetch(server.Address("/stuecke")), "hallo!");
+        EXPECT_EQ(fetcher.Fetch(server.Address("/anhang")), "da");
     }
-    server.Schliessen = true;
-    EXPECT_EQ(netz.Fetch(server.Adresse("/ohnelaenge")), "Inhalt");
-    for (const char* const pfad : {"/404", "/500", "/206", "/unsinn"}) {
-        EXPECT_EQ(netz.Fetch(server.Adresse(pfad)), std::nullopt) << pfad;
+    server.close = true;
+    EXPECT_EQ(fetcher.Fetch(server.Address("/ohnelaenge")), "Inhalt");
+    for (const char* const path : {"/404", "/500", "/206", "/unsinn"}) {
+        EXPECT_EQ(fetcher.Fetch(server.Address(path)), std::nullopt) << path;
     }
-    const int bisher = server.Anfragen;
-    for (const char* const adresse :
+    const int previous = server.requestLines;
+    for (const char* const address :
          {"file:///etc/hostname", "ftp://127.0.0.1/x", "", "http://", "gut", "http:///gut",
           "http://127.0.0.1:1/zu", "data:text/plain,x"}) {
-        EXPECT_EQ(netz.Fetch(adresse), std::nullopt) << adresse;
+        EXPECT_EQ(fetcher.Fetch(address), std::nullopt) << address;
     }
-    EXPECT_EQ(server.Anfragen, bisher);
+    EXPECT_EQ(server.requestLines, previous);
 }
 
 // Whether a close or a reset follows, at each byte of it.
-TEST(Netzabruf, NimmtNichtsAbgeschnittenes) {
+TEST(HttpFetcher, TakesNothingCutOff) {
     Server server;
-    HttpFetcher netz;
-    struct Fall {
-        const char* Name;
-        std::string Antwort;
+    HttpFetcher fetcher;
+    struct Case {
+        const char* name;
+        std::string response;
         /// From where on a clean close ends it well: behind the last byte that means something.
-        std::size_t Ganz;
+        std::size_t whole;
     };
-    const std::string laenge = Gut("nur wenig");
-    const std::string stuecke = kStuecke + std::string("5\r\nhallo\r\n0\r\n\r\n");
-    const std::string kopf = "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n";
-    for (const auto& [name, antwort, ganz] :
-         {Fall{"length", laenge, laenge.size()}, Fall{"chunks", stuecke, stuecke.size() - 1},
-          Fall{"neither", kopf + "Inhalt", kopf.size()}}) {
+    const std::string length = Good("nur wenig");
+    const std::string pieces = kPieces + std::string("5\r\nhallo\r\n0\r\n\r\n");
+    const std::string header = "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n";
+    for (const auto& [name, answer, whole] :
+         {Case{"length", length, length.size()}, Case{"chunks", pieces, pieces.size() - 1},
+          Case{"neither", header + "Inhalt", header.size()}}) {
         // Where the toolkit's sockets know no reset, they close.
-        for (const bool zurueck : kWindows ? std::vector{false} : std::vector{false, true}) {
-            server.Zuruecksetzen = zurueck;
-            for (std::size_t n = 0; n < (zurueck ? antwort.size() : ganz); ++n) {
-                server.Antworten["/"] = antwort.substr(0, n);
-                EXPECT_EQ(netz.Fetch(server.Adresse("/")), std::nullopt)
-                    << name << ", " << n << " bytes, " << (zurueck ? "reset" : "closed");
+        for (const bool back : kWindows ? std::vector{false} : std::vector{false, true}) {
+            server.reset = back;
+            for (std::size_t n = 0; n < (back ? answer.size() : whole); ++n) {
+                server.responses["/"] = answer.substr(0, n);
+                EXPECT_EQ(fetcher.Fetch(server.Address("/")), std::nullopt)
+                    << name << ", " << n << " bytes, " << (back ? "reset" : "closed");
             }
         }
     }
 }
 
-TEST(Netzabruf, FolgtHoechstensFuenfUmleitungen) {
+TEST(HttpFetcher, FollowsFiveRedirectsAtMost) {
     Server server;
-    HttpFetcher netz;
+    HttpFetcher fetcher;
     for (int i = 0; i < 7; ++i) {
-        server.Antworten["/" + std::to_string(i)] =
-            i == 6 ? Gut("da") : Umleitung(server.Adresse("/" + std::to_string(i + 1)));
+        server.responses["/" + std::to_string(i)] =
+            i == 6 ? Good("da") : Redirect(server.Address("/" + std::to_string(i + 1)));
     }
-    server.Antworten["/kreis"] = Umleitung("/kreis");
-    server.Antworten["/datei"] = Umleitung("file:///etc/hostname");
-    server.Antworten["/ftp"] = Umleitung("ftp://127.0.0.1/x");
-    EXPECT_EQ(netz.Fetch(server.Adresse("/1")), "da");
-    EXPECT_EQ(netz.Fetch(server.Adresse("/0")), std::nullopt);
-    for (const char* const pfad : {"/kreis", "/datei", "/ftp"}) {
-        EXPECT_EQ(netz.Fetch(server.Adresse(pfad)), std::nullopt) << pfad;
+    server.responses["/kreis"] = Redirect("/kreis");
+    server.responses["/datei"] = Redirect("file:///etc/hostname");
+    server.responses["/ftp"] = Redirect("ftp://127.0.0.1/x");
+    EXPECT_EQ(fetcher.Fetch(server.Address("/1")), "da");
+    EXPECT_EQ(fetcher.Fetch(server.Address("/0")), std::nullopt);
+    for (const char* const path : {"/kreis", "/datei", "/ftp"}) {
+        EXPECT_EQ(fetcher.Fetch(server.Address(path)), std::nullopt) << path;
     }
 }
 
-TEST(Netzabruf, HaeltGrenzenVonZeitUndGroesseEin) {
+TEST(HttpFetcher, KeepsLimitsOfTimeAndSize) {
     Server server;
-    HttpFetcher kleiner({.bytes = 1000});
-    server.Antworten["/genau"] = Gut(std::string(1000, 'x'));
-    server.Antworten["/mehr"] = Gut(std::string(1001, 'x'));
-    EXPECT_EQ(kleiner.Fetch(server.Adresse("/genau")), std::string(1000, 'x'));
-    EXPECT_EQ(kleiner.Fetch(server.Adresse("/mehr")), std::nullopt);
-    EXPECT_EQ(kleiner.Fetch(server.Adresse("/endlos")), std::nullopt);
-    HttpFetcher kurzer({.duration = std::chrono::milliseconds(100)});
-    EXPECT_EQ(kurzer.Fetch(server.Adresse("/stumm")), std::nullopt);
+    HttpFetcher smallFetcher({.bytes = 1000});
+    server.responses["/genau"] = Good(std::string(1000, 'x'));
+    server.responses["/mehr"] = Good(std::string(1001, 'x'));
+    EXPECT_EQ(smallFetcher.Fetch(server.Address("/genau")), std::string(1000, 'x'));
+    EXPECT_EQ(smallFetcher.Fetch(server.Address("/mehr")), std::nullopt);
+    EXPECT_EQ(smallFetcher.Fetch(server.Address("/endlos")), std::nullopt);
+    HttpFetcher shortFetcher({.duration = std::chrono::milliseconds(100)});
+    EXPECT_EQ(shortFetcher.Fetch(server.Address("/stumm")), std::nullopt);
     // Bytes that keep coming don't make it longer.
-    EXPECT_EQ(kurzer.Fetch(server.Adresse("/tropfen")), std::nullopt);
+    EXPECT_EQ(shortFetcher.Fetch(server.Address("/tropfen")), std::nullopt);
 }
 
-TEST(Netzabruf, EingabenGehenInsLeereUndDasEndeIstSauber) {
+TEST(HttpFetcher, InputsGoNowhereAndTheEndIsClean) {
     Server server;
-    HttpFetcher netz;
-    QPushButton knopf(QStringLiteral("Knopf"));
-    int gedrueckt = 0;
-    QObject::connect(&knopf, &QPushButton::clicked, [&] { ++gedrueckt; });
-    QLineEdit eingabe;
-    knopf.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&knopf));
-    int takte = 0;
-    QTimer takt;
-    QObject::connect(&takt, &QTimer::timeout, [&] {
-        ++takte;
-        QTest::mouseClick(knopf.windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
-        QTest::keyClick(knopf.windowHandle(), Qt::Key_Space);
-        QInputMethodEvent silbe;
-        silbe.setCommitString(QStringLiteral("é"));
-        QCoreApplication::sendEvent(&eingabe, &silbe);
+    HttpFetcher fetcher;
+    QPushButton button(QStringLiteral("Knopf"));
+    int pressed = 0;
+    QObject::connect(&button, &QPushButton::clicked, [&] { ++pressed; });
+    QLineEdit input;
+    button.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&button));
+    int ticks = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        ++ticks;
+        QTest::mouseClick(button.windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
+        QTest::keyClick(button.windowHandle(), Qt::Key_Space);
+        QInputMethodEvent syllable;
+        syllable.setCommitString(QStringLiteral("é"));
+        QCoreApplication::sendEvent(&input, &syllable);
         EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-        if (takte >= 5) {
-            netz.Abort();
+        if (ticks >= 5) {
+            fetcher.Abort();
         }
     });
-    takt.start(10);
-    EXPECT_EQ(netz.Fetch(server.Adresse("/stumm")), std::nullopt);
-    takt.stop();
+    timer.start(10);
+    EXPECT_EQ(fetcher.Fetch(server.Address("/stumm")), std::nullopt);
+    timer.stop();
     QCoreApplication::processEvents();
-    EXPECT_GE(takte, 5) << "timers go on";
-    EXPECT_EQ(gedrueckt, 0);
-    EXPECT_EQ(eingabe.text(), QString());
+    EXPECT_GE(ticks, 5) << "timers go on";
+    EXPECT_EQ(pressed, 0);
+    EXPECT_EQ(input.text(), QString());
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-    QTest::mouseClick(knopf.windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
-    EXPECT_EQ(gedrueckt, 1);
-    netz.Abort();
+    QTest::mouseClick(button.windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_EQ(pressed, 1);
+    fetcher.Abort();
 }
 
 }  // namespace

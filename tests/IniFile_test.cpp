@@ -5,15 +5,15 @@
 namespace tarvelin {
 namespace {
 
-struct Lesefall {
-    const char* Was;
-    std::string Bytes;
-    std::string Wert;
+struct ReadCase {
+    const char* what;
+    std::string bytes;
+    std::string value;
 };
 
-TEST(Profil, LiestWieDiePlattform) {
-    const std::string lang255(255, 'x');
-    const std::vector<Lesefall> faelle{
+TEST(IniFile, ReadsAsThePlatformDoes) {
+    const std::string long255(255, 'x');
+    const std::vector<ReadCase> cases{
         {"einfach", "[A]\r\nK=v\r\n", "v"},
         {"LF und ohne Ende", "[A]\nK=v", "v"},
         {"CR", "[A]\rK=v\rL=w", "v"},
@@ -34,31 +34,32 @@ TEST(Profil, LiestWieDiePlattform) {
         {"gemischt", "[A]\nK=\"v'", "\"v'"},
         {"ein Zeichen", "[A]\nK=\"", "\""},
         {"doppelt", "[A]\nK=\"\"v\"\"", "\"v\""},
-        {"255 Bytes", "[A]\nK=" + lang255, lang255},
-        {"256 Bytes", "[A]\nK=" + lang255 + "y", lang255},
+        {"255 Bytes", "[A]\nK=" + long255, long255},
+        {"256 Bytes", "[A]\nK=" + long255 + "y", long255},
         {"NUL", std::string("[A]\nK=v\0w", 10), "v"},
         {"Umlaut", "[A]\nK=\xE4\x80", "ä€"},
         {"leere Datei", "", "Standard"},
         {"nur Klammer", "[", "Standard"},
     };
-    for (const Lesefall& fall : faelle) {
-        EXPECT_EQ(IniFile(fall.Bytes).ReadINI("A", "K", "Standard"), fall.Wert) << fall.Was;
+    for (const ReadCase& testCase : cases) {
+        EXPECT_EQ(IniFile(testCase.bytes).ReadINI("A", "K", "Standard"), testCase.value)
+            << testCase.what;
     }
-    std::string umlaute;
+    std::string umlauts;
     for (int i = 0; i < 300; ++i) {
-        umlaute += "ä";
+        umlauts += "ä";
     }
-    EXPECT_EQ(IniFile("").ReadINI("A", "K", umlaute), umlaute.substr(0, 510));
+    EXPECT_EQ(IniFile("").ReadINI("A", "K", umlauts), umlauts.substr(0, 510));
 }
 
-struct Schreibfall {
-    const char* Was;
-    std::string Vorher;
-    std::string Nachher;
+struct WriteCase {
+    const char* what;
+    std::string before;
+    std::string after;
 };
 
-TEST(Profil, SchreibtUndLaesstAllesAndereStehen) {
-    const std::vector<Schreibfall> faelle{
+TEST(IniFile, WritesAndLeavesAllElse) {
+    const std::vector<WriteCase> cases{
         {"leer", "", "[A]\r\nK=v\r\n"},
         {"nur Marke", "\xEF\xBB\xBF", "\xEF\xBB\xBF[A]\r\nK=v\r\n"},
         {"neuer Abschnitt", "[B]\nx=1", "[B]\nx=1\r\n[A]\r\nK=v\r\n"},
@@ -70,28 +71,28 @@ TEST(Profil, SchreibtUndLaesstAllesAndereStehen) {
         {"erster von zweien", "[A]\rk=1\rK=2\r[A]\rK=3", "[A]\rk=v\r\nK=2\r[A]\rK=3"},
         {"fremde Zeilen", "Unsinn\n=\n[A\nK=\"x\"", "Unsinn\n=\n[A\nK=v\r\n"},
     };
-    for (const Schreibfall& fall : faelle) {
-        IniFile profil(fall.Vorher);
-        EXPECT_EQ(profil.Bytes(), fall.Vorher) << fall.Was;
-        profil.WriteINI("A", "K", "v");
-        EXPECT_EQ(profil.Bytes(), fall.Nachher) << fall.Was;
-        EXPECT_EQ(profil.ReadINI("a", "k", ""), "v") << fall.Was;
+    for (const WriteCase& testCase : cases) {
+        IniFile profile(testCase.before);
+        EXPECT_EQ(profile.Bytes(), testCase.before) << testCase.what;
+        profile.WriteINI("A", "K", "v");
+        EXPECT_EQ(profile.Bytes(), testCase.after) << testCase.what;
+        EXPECT_EQ(profile.ReadINI("a", "k", ""), "v") << testCase.what;
         // The same key again changes no length, and what is written is what is read anew.
-        profil.WriteINI("A", "K", "ä漢");
-        EXPECT_EQ(IniFile(profil.Bytes()).ReadINI("A", "K", ""), "ä?") << fall.Was;
+        profile.WriteINI("A", "K", "ä漢");
+        EXPECT_EQ(IniFile(profile.Bytes()).ReadINI("A", "K", ""), "ä?") << testCase.what;
     }
 }
 
-struct Utf16fall {
-    const char* Was;
-    std::u16string Vorher;
-    std::string Wert;
-    std::u16string Nachher;
+struct Utf16Case {
+    const char* what;
+    std::u16string before;
+    std::string value;
+    std::u16string after;
 };
 
-TEST(Profil, HaeltUtf16MitJedemZeichen) {
+TEST(IniFile, KeepsUtf16WithEveryCharacter) {
     // clang-format off
-    const std::vector<Utf16fall> faelle{
+    const std::vector<Utf16Case> cases{
         {"nur Marke", u"", "Standard", u"[Ä?]\r\nKö=ü?\r\n"},
         {"Umlaute", u"[Ä漢]\r\nKö=äß€\r\n", "äß€", u"[Ä漢]\r\nKö=ü?\r\n"},
         {"nicht in der Codepage", u"[Ä😀]\n[Ä?]\nKö=a漢b😀\n;漢", "a?b??", u"[Ä😀]\n[Ä?]\nKö=ü?\r\n;漢"},
@@ -102,59 +103,59 @@ TEST(Profil, HaeltUtf16MitJedemZeichen) {
         {"neue Zeile", u"[Ä?]\n\n;漢", "Standard", u"[Ä?]\n\n;漢\r\nKö=ü?\r\n"},
     };
     // clang-format on
-    for (const Utf16fall& fall : faelle) {
-        for (const bool hochVorn : {false, true}) {
-            SCOPED_TRACE(std::string(fall.Was) + (hochVorn ? ", BE" : ", LE"));
-            const std::string vorher = InUtf16(fall.Vorher, hochVorn);
-            IniFile profil(vorher + "x");  // half a unit, which goes
-            EXPECT_EQ(profil.Bytes(), vorher);
-            EXPECT_EQ(profil.ReadINI("Ä漢", "kö", "Standard"), fall.Wert);
-            profil.WriteINI("Ä漢", "Kö", "ü漢");
-            EXPECT_EQ(profil.Bytes(), InUtf16(fall.Nachher, hochVorn));
-            EXPECT_EQ(profil.ReadINI("Ä?", "Kö", ""), "ü?");
+    for (const Utf16Case& testCase : cases) {
+        for (const bool highFirst : {false, true}) {
+            SCOPED_TRACE(std::string(testCase.what) + (highFirst ? ", BE" : ", LE"));
+            const std::string before = ToUtf16Bytes(testCase.before, highFirst);
+            IniFile profile(before + "x");  // half a unit, which goes
+            EXPECT_EQ(profile.Bytes(), before);
+            EXPECT_EQ(profile.ReadINI("Ä漢", "kö", "Standard"), testCase.value);
+            profile.WriteINI("Ä漢", "Kö", "ü漢");
+            EXPECT_EQ(profile.Bytes(), ToUtf16Bytes(testCase.after, highFirst));
+            EXPECT_EQ(profile.ReadINI("Ä?", "Kö", ""), "ü?");
         }
     }
 }
 
-TEST(Dateiersatz, ErsetztGanzOderGarNicht) {
+TEST(AtomicWrite, ReplacesWhollyOrNotAtAll) {
     using std::filesystem::perms;
-    const Ordner ordner;
-    const auto datei = ordner / "plan.tvf";
-    SchreibeDatei(datei, "alt");
-    const perms rechte = perms::owner_read | perms::owner_write | perms::group_read;
-    std::filesystem::permissions(datei, rechte);
-    ASSERT_TRUE(WriteFileAtomically(datei, "neu"));
-    EXPECT_EQ(LiesDatei(datei), "neu");
-    EXPECT_FALSE(WriteFileAtomically(ordner / "fehlt" / "plan.tvf", "x"));
+    const TempFolder folder;
+    const auto file = folder / "plan.tvf";
+    WriteFile(file, "alt");
+    const perms permissions = perms::owner_read | perms::owner_write | perms::group_read;
+    std::filesystem::permissions(file, permissions);
+    ASSERT_TRUE(WriteFileAtomically(file, "neu"));
+    EXPECT_EQ(ReadFileToString(file), "neu");
+    EXPECT_FALSE(WriteFileAtomically(folder / "fehlt" / "plan.tvf", "x"));
     EXPECT_FALSE(WriteFileAtomically("", "x"));
-    EXPECT_EQ(ordner.Eintraege(), 1U);
+    EXPECT_EQ(folder.Entries(), 1U);
     if (kWindows) {
         return;
     }
-    EXPECT_EQ(std::filesystem::status(datei).permissions(), rechte);
-    std::filesystem::create_symlink(datei, ordner / "zeiger");
-    ASSERT_TRUE(WriteFileAtomically(ordner / "zeiger", "neuer"));
-    EXPECT_TRUE(std::filesystem::is_symlink(ordner / "zeiger"));
-    EXPECT_EQ(LiesDatei(datei), "neuer");
-    std::filesystem::permissions(datei, perms::owner_read);
+    EXPECT_EQ(std::filesystem::status(file).permissions(), permissions);
+    std::filesystem::create_symlink(file, folder / "zeiger");
+    ASSERT_TRUE(WriteFileAtomically(folder / "zeiger", "neuer"));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "zeiger"));
+    EXPECT_EQ(ReadFileToString(file), "neuer");
+    std::filesystem::permissions(file, perms::owner_read);
     // Nothing is forbidden to root.
-    const bool darf = NativeFileSystem().IsWritable(datei);
-    EXPECT_EQ(WriteFileAtomically(datei, "neu"), darf);
-    EXPECT_EQ(LiesDatei(datei), darf ? "neu" : "neuer");
-    EXPECT_EQ(ordner.Eintraege(), 2U);
+    const bool allowed = NativeFileSystem().IsWritable(file);
+    EXPECT_EQ(WriteFileAtomically(file, "neu"), allowed);
+    EXPECT_EQ(ReadFileToString(file), allowed ? "neu" : "neuer");
+    EXPECT_EQ(folder.Entries(), 2U);
 }
 
-TEST(Profil, WeistZuGrossesUndFremdesAb) {
-    const Ordner ordner;
-    std::filesystem::create_directory(ordner / "verzeichnis");
-    EXPECT_FALSE(IniFile::Load(ordner / "verzeichnis"));
-    EXPECT_FALSE(IniFile::Load(ordner / "fehlt"));
+TEST(IniFile, RefusesTooLargeAndForeignFiles) {
+    const TempFolder folder;
+    std::filesystem::create_directory(folder / "verzeichnis");
+    EXPECT_FALSE(IniFile::Load(folder / "verzeichnis"));
+    EXPECT_FALSE(IniFile::Load(folder / "fehlt"));
     EXPECT_FALSE(IniFile::Load("/dev/zero"));
-    EXPECT_TRUE(IniFile::LoadOrEmpty(ordner / "fehlt"));
-    SchreibeDatei(ordner / "gross", std::string(IniFile::kMaxBytes, 'x'));
-    EXPECT_TRUE(IniFile::Load(ordner / "gross"));
-    SchreibeDatei(ordner / "gross", std::string(IniFile::kMaxBytes + 1, 'x'));
-    EXPECT_FALSE(IniFile::LoadOrEmpty(ordner / "gross"));
+    EXPECT_TRUE(IniFile::LoadOrEmpty(folder / "fehlt"));
+    WriteFile(folder / "gross", std::string(IniFile::kMaxBytes, 'x'));
+    EXPECT_TRUE(IniFile::Load(folder / "gross"));
+    WriteFile(folder / "gross", std::string(IniFile::kMaxBytes + 1, 'x'));
+    EXPECT_FALSE(IniFile::LoadOrEmpty(folder / "gross"));
 }
 
 }  // namespace

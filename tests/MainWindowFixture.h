@@ -20,166 +20,167 @@
 namespace tarvelin {
 
 /// Keeps messages and questions, and answers at once.
-class Boxenmerker final : public Dialogs {
+class FakeDialogs final : public Dialogs {
   public:
-    void Show(const Message& meldung) override {
-        if (Beendet) {
+    void Show(const Message& message) override {
+        if (closedAll) {
             return;
         }
-        Texte.push_back(meldung.text);
-        Koepfe.emplace_back(meldung.title, meldung.icon);
-        if (BeiMeldung) {
-            BeiMeldung();
+        texts.push_back(message.text);
+        headers.emplace_back(message.title, message.icon);
+        if (onMessage) {
+            onMessage();
         }
     }
-    bool ShowSuppressible(const Message& meldung) override {
-        Show(meldung);
-        return ++Abstellbare < Abstellen;
+    bool ShowSuppressible(const Message& message) override {
+        Show(message);
+        return ++suppressible < suppress;
     }
     void Beep() override {}
-    bool Ask(const Question& frage) override {
-        if (Beendet) {
+    bool Ask(const Question& question) override {
+        if (closedAll) {
             return false;
         }
-        Texte.push_back(frage.text);
-        Koepfe.emplace_back(frage.title, frage.icon);
-        if (BeiFrage) {
-            BeiFrage();
+        texts.push_back(question.text);
+        headers.emplace_back(question.title, question.icon);
+        if (onQuestion) {
+            onQuestion();
         }
-        return Antwort && !Beendet;
+        return answer && !closedAll;
     }
     std::filesystem::path AskForFile(Purpose /*zweck*/,
-                                     const std::filesystem::path& ordner) override {
-        return Datei.empty() || Beendet ? std::filesystem::path() : ordner / Datei;
+                                     const std::filesystem::path& folder) override {
+        return file.empty() || closedAll ? std::filesystem::path() : folder / file;
     }
-    void CloseAll() override { Beendet = true; }
+    void CloseAll() override { closedAll = true; }
 
-    std::vector<std::string> Texte;
+    std::vector<std::string> texts;
     /// Title and icon of each.
-    std::vector<std::pair<std::string, MessageIcon>> Koepfe;
-    std::function<void()> BeiMeldung;
-    std::function<void()> BeiFrage;
-    bool Antwort = false;
+    std::vector<std::pair<std::string, MessageIcon>> headers;
+    std::function<void()> onMessage;
+    std::function<void()> onQuestion;
+    bool answer = false;
     /// The how manieth box with a check box gets it checked.
-    int Abstellen = std::numeric_limits<int>::max();
-    int Abstellbare = 0;
+    int suppress = std::numeric_limits<int>::max();
+    int suppressible = 0;
     /// What the file dialogs answer, from their folder on.
-    std::filesystem::path Datei;
-    bool Beendet = false;
+    std::filesystem::path file;
+    bool closedAll = false;
 };
 
 /// Has the files of a table and no others; keeps what was asked.
-class Netzmerker final : public Fetcher {
+class FakeFetcher final : public Fetcher {
   public:
-    std::optional<std::string> Fetch(const std::string& adresse) override {
-        Adressen.push_back(adresse);
-        if (BeiAbruf) {
-            BeiAbruf();
+    std::optional<std::string> Fetch(const std::string& address) override {
+        addresses.push_back(address);
+        if (onFetch) {
+            onFetch();
         }
-        const auto datei = Dateien.find(adresse);
-        return datei == Dateien.end() ? std::nullopt : std::optional(datei->second);
+        const auto file = files.find(address);
+        return file == files.end() ? std::nullopt : std::optional(file->second);
     }
     void ProcessEvents() override {}
-    void Abort() override { ++Abgebrochen; }
+    void Abort() override { ++aborted; }
 
-    std::function<void()> BeiAbruf;
-    int Abgebrochen = 0;
+    std::function<void()> onFetch;
+    int aborted = 0;
 
-    std::map<std::string, std::string> Dateien;
-    std::vector<std::string> Adressen;
+    std::map<std::string, std::string> files;
+    std::vector<std::string> addresses;
 };
 
-class Klangmerker final : public Sound {
+class FakeSound final : public Sound {
   public:
-    void Play(const std::filesystem::path& datei) override { Gespielt.push_back(datei); }
+    void Play(const std::filesystem::path& file) override { played.push_back(file); }
 
-    std::vector<std::filesystem::path> Gespielt;
+    std::vector<std::filesystem::path> played;
 };
 
 /// A move of the pointer over a control, whatever the screen's own pointer does.
-inline void Bewege(QWidget& widget, const QPoint& ort) {
-    QMouseEvent bewegung(QEvent::MouseMove, ort, widget.mapToGlobal(ort), Qt::NoButton, {}, {});
-    QCoreApplication::sendEvent(&widget, &bewegung);
+inline void MoveMouse(QWidget& widget, const QPoint& position) {
+    QMouseEvent movement(QEvent::MouseMove, position, widget.mapToGlobal(position), Qt::NoButton,
+                         {}, {});
+    QCoreApplication::sendEvent(&widget, &movement);
 }
 
-inline void LegeDatenAn(const std::filesystem::path& ordner) {
+inline void CreateData(const std::filesystem::path& folder) {
     namespace fs = std::filesystem;
     // One platform's library copies nothing to a name that ends with a slash.
-    fs::copy(fs::path(TARVELIN_SOURCE_DIR) / "data", ordner / ".",
+    fs::copy(fs::path(TARVELIN_SOURCE_DIR) / "data", folder / ".",
              fs::copy_options::recursive | fs::copy_options::overwrite_existing);
-    fs::remove(ordner / "saves" / "basic.tvf");
+    fs::remove(folder / "saves" / "basic.tvf");
 }
 
 /// The window on Saturday, 18 November 2006, in a folder of its own with the data of the
 /// repository, but for the starter plan.
-class Fenster : public testing::Test {
+class MainWindow : public testing::Test {
   protected:
-    Fenster() {
-        LegeDatenAn(m_ordner / "");
-        m_fenster.Form_Load();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_fenster));
+    MainWindow() {
+        CreateData(m_folder / "");
+        m_window.Form_Load();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
     }
 
     template <class T = QWidget>
-    T& Finde(const char* name) {
-        T* const gefunden = m_fenster.findChild<T*>(QString::fromUtf8(name));
-        if (gefunden == nullptr) {
+    T& Find(const char* name) {
+        T* const found = m_window.findChild<T*>(QString::fromUtf8(name));
+        if (found == nullptr) {
             throw std::out_of_range(name);
         }
-        return *gefunden;
+        return *found;
     }
-    std::string Text(const char* name) {
-        return Finde(name).property("text").toString().toStdString();
+    std::string TextOf(const char* name) {
+        return Find(name).property("text").toString().toStdString();
     }
-    void Druecke(const char* name) { Finde<QAbstractButton>(name).click(); }
-    void Waehle(const char* eintrag) { Finde<QAction>(eintrag).trigger(); }
-    void Tippe(const char* name, const char* text) {
-        auto& eingabe = Finde<QLineEdit>(name);
-        eingabe.selectAll();
-        QTest::keyClick(&eingabe, Qt::Key_Delete);
-        QTest::keyClicks(&eingabe, QString::fromUtf8(text));
+    void Press(const char* name) { Find<QAbstractButton>(name).click(); }
+    void Choose(const char* entry) { Find<QAction>(entry).trigger(); }
+    void Type(const char* name, const char* text) {
+        auto& input = Find<QLineEdit>(name);
+        input.selectAll();
+        QTest::keyClick(&input, Qt::Key_Delete);
+        QTest::keyClicks(&input, QString::fromUtf8(text));
     }
     /// The pointer comes over a picture, or moves on it.
-    void Zeige(const char* bild) {
-        auto& widget = Finde(bild);
+    void Show(const char* picture) {
+        auto& widget = Find(picture);
         QTest::mouseMove(&widget, QPoint(1, 1));
         QTest::mouseMove(&widget, widget.rect().center());
     }
-    std::string Zelle(const char* liste, int zeile, int spalte) {
-        const auto* const modell = Finde<QTreeView>(liste).model();
-        return modell->index(zeile, spalte).data().toString().toStdString();
+    std::string Cell(const char* list, int row, int column) {
+        const auto* const model = Find<QTreeView>(list).model();
+        return model->index(row, column).data().toString().toStdString();
     }
-    int Zeilen(const char* liste) { return Finde<QTreeView>(liste).model()->rowCount(); }
+    int RowCount(const char* list) { return Find<QTreeView>(list).model()->rowCount(); }
     /// Clears the list and drops items, told by their codes.
-    void Lade(std::string_view codes) {
-        Druecke("Cmd_Clear");
-        for (std::size_t anfang = 0; anfang < codes.size();) {
-            const std::size_t ende = std::min(codes.find(' ', anfang), codes.size());
-            const auto item = ItemFromCode(codes.substr(anfang, ende - anfang));
-            emit Finde<BuildListView>("LV_Bauliste")
+    void Load(std::string_view codes) {
+        Press("Cmd_Clear");
+        for (std::size_t initial = 0; initial < codes.size();) {
+            const std::size_t end = std::min(codes.find(' ', initial), codes.size());
+            const auto item = ItemFromCode(codes.substr(initial, end - initial));
+            emit Find<BuildListView>("LV_Bauliste")
                 .DragDrop(ToQString(ItemDisplays()[*item].pictureName));
-            anfang = ende + 1;
+            initial = end + 1;
         }
     }
     /// Loads a plan through its file, which runs it.
-    void Lade(const Plan& plan) {
-        ASSERT_TRUE(SaveBauliste(m_ordner / "plan.tvf", plan));
-        m_fenster.LoadBauliste(m_ordner / "plan.tvf", true);
+    void Load(const Plan& plan) {
+        ASSERT_TRUE(SaveBauliste(m_folder / "plan.tvf", plan));
+        m_window.LoadBauliste(m_folder / "plan.tvf", true);
     }
 
-    Ordner m_ordner;
-    Boxenmerker m_boxen;
-    Netzmerker m_netz;
-    Klangmerker m_ton;
-    DateTime m_jetzt = *ParseDateTime("18.11.2006 09:15:00");
-    std::vector<std::string> m_seiten;
-    Environment m_umgebung{.dialogs = m_boxen,
-                           .fetcher = m_netz,
-                           .sound = m_ton,
-                           .now = [this] { return m_jetzt; },
-                           .openPage = [this](const std::string& s) { m_seiten.push_back(s); },
-                           .programFolder = m_ordner / ""};
-    frmMain m_fenster{m_umgebung};
+    TempFolder m_folder;
+    FakeDialogs m_dialogs;
+    FakeFetcher m_fetcher;
+    FakeSound m_sound;
+    DateTime m_now = *ParseDateTime("18.11.2006 09:15:00");
+    std::vector<std::string> m_pages;
+    Environment m_environment{.dialogs = m_dialogs,
+                              .fetcher = m_fetcher,
+                              .sound = m_sound,
+                              .now = [this] { return m_now; },
+                              .openPage = [this](const std::string& s) { m_pages.push_back(s); },
+                              .programFolder = m_folder / ""};
+    frmMain m_window{m_environment};
 };
 
 }  // namespace tarvelin

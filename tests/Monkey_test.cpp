@@ -11,7 +11,7 @@ namespace {
 
 /// Every text that a box can have; but not what a run says of orders that it doesn't know, which no
 /// player can give.
-const std::vector<const char*> kTexte{
+const std::vector<const char*> kTexts{
     "Die Bauliste ist leer\\.\\.\\.",
     "Die Bauliste ist voll: mehr als 254 Einträge sind nicht möglich\\.\\.\\.",
     "Die Bauliste konnte nicht (geladen|gespeichert) werden\\.\\.\\.",
@@ -26,109 +26,110 @@ const std::vector<const char*> kTexte{
     "Die Versions-Datei konnte nicht geladen werden\\.\\.\\.",
 };
 
-const std::vector<Qt::Key> kTasten{
-    Qt::Key_Return, Qt::Key_Escape,    Qt::Key_Tab,  Qt::Key_Space, Qt::Key_Up,     Qt::Key_Down,
-    Qt::Key_Left,   Qt::Key_Right,     Qt::Key_Home, Qt::Key_End,   Qt::Key_PageUp, Qt::Key_Delete,
-    Qt::Key_E,      Qt::Key_Backspace, Qt::Key_S,    Qt::Key_F1};
+const std::vector<Qt::Key> kKeys{Qt::Key_Return, Qt::Key_Escape,    Qt::Key_Tab,    Qt::Key_Space,
+                                 Qt::Key_Up,     Qt::Key_Down,      Qt::Key_Left,   Qt::Key_Right,
+                                 Qt::Key_Home,   Qt::Key_End,       Qt::Key_PageUp, Qt::Key_Delete,
+                                 Qt::Key_E,      Qt::Key_Backspace, Qt::Key_S,      Qt::Key_F1};
 
-class Affe : public Fenster {
+class Monkey : public MainWindow {
   protected:
-    std::size_t Bis(std::size_t anzahl) { return m_zufall() % anzahl; }
+    std::size_t Below(std::size_t count) { return m_random() % count; }
 
-    QWidget& IrgendeinWidget() {
-        QList<QWidget*> sichtbare;
-        for (auto* const widget : m_fenster.findChildren<QWidget*>()) {
+    QWidget& AnyWidget() {
+        QList<QWidget*> visible;
+        for (auto* const widget : m_window.findChildren<QWidget*>()) {
             // The calendar's menu of months waits for its answer.
             if (widget->isVisible() && widget->isEnabled() && !widget->inherits("QToolButton")) {
-                sichtbare.append(widget);
+                visible.append(widget);
             }
         }
-        return *sichtbare[static_cast<qsizetype>(Bis(static_cast<std::size_t>(sichtbare.size())))];
+        return *visible[static_cast<qsizetype>(Below(static_cast<std::size_t>(visible.size())))];
     }
 
-    void Klicke() {
-        QWidget& ziel = IrgendeinWidget();
-        const QPoint ort(static_cast<int>(Bis(static_cast<std::size_t>(ziel.width()) + 1)),
-                         static_cast<int>(Bis(static_cast<std::size_t>(ziel.height()) + 1)));
-        if (Bis(8) == 0) {
-            QTest::mouseDClick(&ziel, Qt::LeftButton, {}, ort);
+    void Click() {
+        QWidget& target = AnyWidget();
+        const QPoint position(
+            static_cast<int>(Below(static_cast<std::size_t>(target.width()) + 1)),
+            static_cast<int>(Below(static_cast<std::size_t>(target.height()) + 1)));
+        if (Below(8) == 0) {
+            QTest::mouseDClick(&target, Qt::LeftButton, {}, position);
         } else {
-            QTest::mouseClick(&ziel, Qt::LeftButton, {}, ort);
+            QTest::mouseClick(&target, Qt::LeftButton, {}, position);
         }
     }
 
-    void Tippe() {
-        QWidget* const ziel = QApplication::focusWidget();
-        if (ziel == nullptr) {
+    void Type() {
+        QWidget* const target = QApplication::focusWidget();
+        if (target == nullptr) {
             return;
         }
-        if (Bis(2) == 0) {
-            const Qt::KeyboardModifiers alt = Bis(6) == 0 ? Qt::AltModifier : Qt::NoModifier;
-            QTest::keyClick(ziel, kTasten[Bis(kTasten.size())], alt);
+        if (Below(2) == 0) {
+            const Qt::KeyboardModifiers before = Below(6) == 0 ? Qt::AltModifier : Qt::NoModifier;
+            QTest::keyClick(target, kKeys[Below(kKeys.size())], before);
         } else {
-            constexpr std::string_view kZeichen = "0123456789+-,.x;=[";
-            QTest::keyClick(ziel, kZeichen[Bis(kZeichen.size())]);
+            constexpr std::string_view kCharacters = "0123456789+-,.x;=[";
+            QTest::keyClick(target, kCharacters[Below(kCharacters.size())]);
         }
     }
 
-    void TuIrgendwas() {
-        m_boxen.Antwort = Bis(2) == 0;
-        m_boxen.Datei = Bis(2) == 0 ? "affe.tvf" : "fehlt/affe.tvf";
-        const std::size_t was = Bis(20);
-        if (was < 9) {
-            Klicke();
-        } else if (was < 14) {
-            Tippe();
-        } else if (was < 19) {
-            emit Finde<BuildListView>("LV_Bauliste")
-                .DragDrop(ToQString(ItemDisplays()[Bis(kNumItems)].pictureName));
+    void DoAnything() {
+        m_dialogs.answer = Below(2) == 0;
+        m_dialogs.file = Below(2) == 0 ? "affe.tvf" : "fehlt/affe.tvf";
+        const std::size_t what = Below(20);
+        if (what < 9) {
+            Click();
+        } else if (what < 14) {
+            Type();
+        } else if (what < 19) {
+            emit Find<BuildListView>("LV_Bauliste")
+                .DragDrop(ToQString(ItemDisplays()[Below(kNumItems)].pictureName));
         } else {
-            const auto eintraege = m_fenster.findChildren<QAction*>();
-            QAction& eintrag =
-                *eintraege[static_cast<qsizetype>(Bis(static_cast<std::size_t>(eintraege.size())))];
-            if (eintrag.objectName() != QStringLiteral("mnu_Datei_Beenden")) {
-                eintrag.trigger();
+            const auto entries = m_window.findChildren<QAction*>();
+            QAction& entry =
+                *entries[static_cast<qsizetype>(Below(static_cast<std::size_t>(entries.size())))];
+            if (entry.objectName() != QStringLiteral("mnu_Datei_Beenden")) {
+                entry.trigger();
             }
         }
         QCoreApplication::processEvents();
     }
 
-    void Pruefe() {
-        for (const std::string& text : m_boxen.Texte) {
-            EXPECT_TRUE(std::ranges::any_of(kTexte, [&](const char* muster) {
+    void Check() {
+        for (const std::string& text : m_dialogs.texts) {
+            EXPECT_TRUE(std::ranges::any_of(kTexts, [&](const char* pattern) {
                 return QRegularExpression(
-                           QRegularExpression::anchoredPattern(QString::fromUtf8(muster)),
+                           QRegularExpression::anchoredPattern(QString::fromUtf8(pattern)),
                            QRegularExpression::DotMatchesEverythingOption)
                     .match(QString::fromStdString(text))
                     .hasMatch();
             })) << text;
         }
-        m_boxen.Texte.clear();
-        const auto& zeilen = m_fenster.CurrentPlan().LV_Bauliste.Rows();
-        ASSERT_EQ(Zeilen("LV_Bauliste"), static_cast<int>(zeilen.size()));
-        for (std::size_t i = 0; i < zeilen.size(); ++i) {
-            EXPECT_EQ(Zelle("LV_Bauliste", static_cast<int>(i), 1), zeilen[i].SubItems1);
+        m_dialogs.texts.clear();
+        const auto& rows = m_window.CurrentPlan().LV_Bauliste.Rows();
+        ASSERT_EQ(RowCount("LV_Bauliste"), static_cast<int>(rows.size()));
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            EXPECT_EQ(Cell("LV_Bauliste", static_cast<int>(i), 1), rows[i].SubItems1);
         }
     }
 
-    std::mt19937 m_zufall;
+    std::mt19937 m_random;
 };
 
-TEST_F(Affe, MachtNichtsKaputt) {
-    for (const unsigned saat : {1U, 2U, 3U}) {
-        m_zufall.seed(saat);
+TEST_F(Monkey, BreaksNothing) {
+    for (const unsigned seed : {1U, 2U, 3U}) {
+        m_random.seed(seed);
         for (int i = 0; i < 300; ++i) {
-            SCOPED_TRACE("seed " + std::to_string(saat) + ", action " + std::to_string(i));
-            TuIrgendwas();
-            Pruefe();
-            ASSERT_TRUE(m_fenster.isVisible() && !HasFailure());
+            SCOPED_TRACE("seed " + std::to_string(seed) + ", action " + std::to_string(i));
+            DoAnything();
+            Check();
+            ASSERT_TRUE(m_window.isVisible() && !HasFailure());
         }
     }
-    m_fenster.close();
+    m_window.close();
     Plan plan;
-    Merker meldungen;
-    EXPECT_TRUE(ReadPlan(*IniFile::Load(m_ordner / "saves" / "autosave.tvf"), plan, RunConditions(),
-                         meldungen));
+    MessageRecorder messages;
+    EXPECT_TRUE(ReadPlan(*IniFile::Load(m_folder / "saves" / "autosave.tvf"), plan, RunConditions(),
+                         messages));
 }
 
 }  // namespace

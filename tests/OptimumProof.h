@@ -9,10 +9,10 @@ namespace tarvelin {
 
 /// A random plan of 8 to 10 orders that the rules of the list accept: hot and cold planets, quick
 /// and slow players, both speeds, with and without nights. One number, one plan.
-[[nodiscard]] SearchTask Kleinplan(unsigned saat);
+[[nodiscard]] SearchTask SmallPlan(unsigned seed);
 
 /// The shortest duration of all orders of a task's orders, by depth-first branch and bound.
 /// Nothing if no order of them ends.
-[[nodiscard]] std::optional<Long> BewieseneDauer(const SearchTask& aufgabe);
+[[nodiscard]] std::optional<Long> ProvenDuration(const SearchTask& task);
 
 }  // namespace tarvelin

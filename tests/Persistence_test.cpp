@@ -12,352 +12,352 @@
 namespace tarvelin {
 namespace {
 
-TEST(Konfiguration, WiederherstellungNachDenFrueherenAntworten) {
-    using enum Wiederherstellung;
-    const Ordner ordner;
-    const Configuration konfiguration(ordner / "");
+TEST(Configuration, RecoversAsAnsweredBefore) {
+    using enum Recovery;
+    const TempFolder folder;
+    const Configuration configuration(folder / "");
     // By `AlwaysDoSo` from left to right; nothing stands for a key that is missing.
-    const std::array<const char*, 5> immer{nullptr, "0", "1", "ja", ""};
-    const std::vector<std::pair<const char*, std::array<Recovery, 5>>> faelle{
+    const std::array<const char*, 5> always{nullptr, "0", "1", "ja", ""};
+    const std::vector<std::pair<const char*, std::array<Recovery, 5>>> cases{
         {nullptr, {Ask, Ask, Always, Never, Never}},
         {"1", {Ask, Ask, Always, Never, Never}},
         {"0", {Ask, Ask, Never, Never, Never}},
         {"ja", {Ask, Ask, Never, Never, Never}},
         {"", {Ask, Ask, Never, Never, Never}}};
-    for (const auto& [recover, erwartet] : faelle) {
-        for (std::size_t i = 0; i < immer.size(); ++i) {
-            SchreibeDatei(ordner / "config.cfg", "");
-            for (const auto& [key, wert] : {std::pair(Configuration::kRecover, recover),
-                                            std::pair(Configuration::kAlwaysDoSo, immer.at(i))}) {
-                if (wert != nullptr) {
-                    ASSERT_TRUE(konfiguration.Write({{key, wert}}));
+    for (const auto& [recover, expected] : cases) {
+        for (std::size_t i = 0; i < always.size(); ++i) {
+            WriteFile(folder / "config.cfg", "");
+            for (const auto& [key, value] : {std::pair(Configuration::kRecover, recover),
+                                             std::pair(Configuration::kAlwaysDoSo, always.at(i))}) {
+                if (value != nullptr) {
+                    ASSERT_TRUE(configuration.Write({{key, value}}));
                 }
             }
-            EXPECT_EQ(DecideRecovery(konfiguration), erwartet.at(i))
-                << LiesDatei(ordner / "config.cfg");
+            EXPECT_EQ(DecideRecovery(configuration), expected.at(i))
+                << ReadFileToString(folder / "config.cfg");
         }
     }
 }
 
-TEST(Konfiguration, FehlendeKeysLesenSichAlsStandard) {
-    const Ordner ordner;
-    const Configuration konfiguration(ordner / "");
-    for (const auto& [key, standard] :
+TEST(Configuration, MissingKeysReadAsTheDefault) {
+    const TempFolder folder;
+    const Configuration configuration(folder / "");
+    for (const auto& [key, fallback] :
          {std::pair(Configuration::kBaulistenwecker, "0"),
           std::pair(Configuration::kSchlafzeitenwecker, "0"), std::pair(Configuration::kMode, "1"),
           std::pair(Configuration::kPath, "~"), std::pair(Configuration::kWebPath, "http://"),
           std::pair(Configuration::kFirststart, "1"), std::pair(Configuration::kRecover, "1"),
           std::pair(Configuration::kAlwaysDoSo, "0")}) {
-        EXPECT_EQ(konfiguration.Read(key), standard) << key.Key;
+        EXPECT_EQ(configuration.Read(key), fallback) << key.Key;
     }
     // Another spelling leads to the same place.
-    SchreibeDatei(ordner / "config.cfg", "[skinsettings]\nwebpath=http://x\n");
-    EXPECT_EQ(konfiguration.Read(Configuration::kWebPath), "http://x");
+    WriteFile(folder / "config.cfg", "[skinsettings]\nwebpath=http://x\n");
+    EXPECT_EQ(configuration.Read(Configuration::kWebPath), "http://x");
 }
 
-TEST(Konfiguration, UnbrauchbareWerteZaehlenAlsStandard) {
-    const Ordner ordner;
-    const Configuration konfiguration(ordner / "");
-    for (const auto& [text, modus] :
+TEST(Configuration, UnusableValuesCountAsTheDefault) {
+    const TempFolder folder;
+    const Configuration configuration(folder / "");
+    for (const auto& [text, mode] :
          {std::pair("2", 2), std::pair("0", 0), std::pair("255", 255), std::pair("256", 1),
           std::pair("-1", 1), std::pair("", 1), std::pair("zwei", 1), std::pair("2,5", 1)}) {
-        ASSERT_TRUE(konfiguration.Write(
+        ASSERT_TRUE(configuration.Write(
             {{Configuration::kMode, text}, {Configuration::kBaulistenwecker, text}}));
-        EXPECT_EQ(konfiguration.SkinMode(), modus) << text;
-        EXPECT_FALSE(konfiguration.IsOn(Configuration::kBaulistenwecker)) << text;
+        EXPECT_EQ(configuration.SkinMode(), mode) << text;
+        EXPECT_FALSE(configuration.IsOn(Configuration::kBaulistenwecker)) << text;
     }
 }
 
-TEST(Konfiguration, KlangVomProgrammordnerOderGanzerPfad) {
-    const Ordner ordner;
-    const Configuration konfiguration(ordner / "");
-    EXPECT_EQ(konfiguration.Alertsound(), ordner / "mfx/alert.wav");
-    struct Fall {
-        const char* Wert;
+TEST(Configuration, SoundFromTheProgramFolderOrAWholePath) {
+    const TempFolder folder;
+    const Configuration configuration(folder / "");
+    EXPECT_EQ(configuration.Alertsound(), folder / "mfx/alert.wav");
+    struct Case {
+        const char* value;
         /// From the program's folder; empty if the path stays.
-        const char* Posix;
-        const char* Windows;
+        const char* posix;
+        const char* windows;
     };
-    for (const auto& [wert, posix, windows] :
-         {Fall{"mfx/gong.wav", "mfx/gong.wav", "mfx/gong.wav"},
-          Fall{"mfx\\gong.wav", "mfx/gong.wav", "mfx/gong.wav"},
-          Fall{"\\mfx\\gong.wav", "mfx/gong.wav", "mfx/gong.wav"},
-          Fall{"..\\gong.wav", "../gong.wav", "../gong.wav"},
-          Fall{"/töne/a\\b.wav", "", "töne/a/b.wav"}, Fall{"C:\\töne\\x.wav", "C:/töne/x.wav", ""},
-          Fall{"C:x.wav", "C:x.wav", "x.wav"}, Fall{"\\\\rechner\\x.wav", "rechner/x.wav", ""}}) {
-        ASSERT_TRUE(konfiguration.Write({{Configuration::kAlertsound, wert}}));
-        const std::string_view ziel = kWindows ? windows : posix;
-        const auto alsPfad = [](std::string_view text) {
+    for (const auto& [value, posix, windows] :
+         {Case{"mfx/gong.wav", "mfx/gong.wav", "mfx/gong.wav"},
+          Case{"mfx\\gong.wav", "mfx/gong.wav", "mfx/gong.wav"},
+          Case{"\\mfx\\gong.wav", "mfx/gong.wav", "mfx/gong.wav"},
+          Case{"..\\gong.wav", "../gong.wav", "../gong.wav"},
+          Case{"/töne/a\\b.wav", "", "töne/a/b.wav"}, Case{"C:\\töne\\x.wav", "C:/töne/x.wav", ""},
+          Case{"C:x.wav", "C:x.wav", "x.wav"}, Case{"\\\\rechner\\x.wav", "rechner/x.wav", ""}}) {
+        ASSERT_TRUE(configuration.Write({{Configuration::kAlertsound, value}}));
+        const std::string_view target = kWindows ? windows : posix;
+        const auto toPath = [](std::string_view text) {
             return std::filesystem::path(std::u8string(text.begin(), text.end()));
         };
-        EXPECT_EQ(konfiguration.Alertsound(),
-                  ziel.empty() ? alsPfad(wert) : (ordner / "") / alsPfad(ziel))
-            << wert;
+        EXPECT_EQ(configuration.Alertsound(),
+                  target.empty() ? toPath(value) : (folder / "") / toPath(target))
+            << value;
     }
 }
 
-TEST(Konfiguration, SchreibtNebenFremdeZeilenUndVerliertSichOhneOrdner) {
-    const Ordner ordner;
-    SchreibeDatei(ordner / "config.cfg", "; von Hand\r\n[Settings]\r\nEigenes=1\r\n");
-    ASSERT_TRUE(Configuration(ordner / "").Write({{Configuration::kFirststart, "0"}}));
-    EXPECT_EQ(LiesDatei(ordner / "config.cfg"),
+TEST(Configuration, WritesBesideForeignLinesAndGoesWithoutAFolder) {
+    const TempFolder folder;
+    WriteFile(folder / "config.cfg", "; von Hand\r\n[Settings]\r\nEigenes=1\r\n");
+    ASSERT_TRUE(Configuration(folder / "").Write({{Configuration::kFirststart, "0"}}));
+    EXPECT_EQ(ReadFileToString(folder / "config.cfg"),
               "; von Hand\r\n[Settings]\r\nEigenes=1\r\nFirststart=0\r\n");
     // A folder can have such a name.
     ASSERT_TRUE(
-        Configuration(ordner / "").Write({{Configuration::kPath, "a\n[Settings]\nFirststart=1"}}));
-    EXPECT_EQ(Configuration(ordner / "").Read(Configuration::kPath), "a");
-    EXPECT_EQ(Configuration(ordner / "").Read(Configuration::kFirststart), "0");
-    const Configuration ohne(ordner / "fehlt");
-    EXPECT_FALSE(ohne.Write({{Configuration::kFirststart, "0"}}));
-    EXPECT_EQ(ohne.Read(Configuration::kFirststart), "1");
+        Configuration(folder / "").Write({{Configuration::kPath, "a\n[Settings]\nFirststart=1"}}));
+    EXPECT_EQ(Configuration(folder / "").Read(Configuration::kPath), "a");
+    EXPECT_EQ(Configuration(folder / "").Read(Configuration::kFirststart), "0");
+    const Configuration without(folder / "fehlt");
+    EXPECT_FALSE(without.Write({{Configuration::kFirststart, "0"}}));
+    EXPECT_EQ(without.Read(Configuration::kFirststart), "1");
 }
 
-TEST(Wecker, KlingeltAufDieSekunde) {
+TEST(DueAlarms, RingToTheSecond) {
     const DateTime start = *ParseDateTime("18.11.2006 12:00:00");
-    const Schedule bauzeiten{{.start = start}, {.start = start + 86400}, {.start = start}};
-    struct Fall {
-        const char* Jetzt;
-        const char* Vorher;
-        std::size_t Erwartet;
+    const Schedule schedule{{.start = start}, {.start = start + 86400}, {.start = start}};
+    struct Case {
+        const char* now;
+        const char* before;
+        std::size_t expected;
     };
-    for (const auto& [jetzt, vorher, erwartet] :
-         {Fall{"18.11.2006 11:59:50", "10", 2}, Fall{"18.11.2006 11:59:49", "10", 0},
-          Fall{"18.11.2006 11:59:51", "10", 0}, Fall{"18.11.2006 12:00:00", "0", 2},
-          Fall{"18.11.2006 12:00:00", "86400", 1}, Fall{"18.11.2006 11:59:59", "86401", 0},
-          Fall{"18.11.2006 12:00:00", "", 0}, Fall{"18.11.2006 11:59:59", "eins", 0},
-          Fall{"18.11.2006 12:00:00", "99999999999999999999", 0}}) {
-        EXPECT_EQ(DueStarts(bauzeiten, *ParseDateTime(jetzt), vorher), erwartet)
-            << jetzt << " " << vorher;
+    for (const auto& [now, before, expected] :
+         {Case{"18.11.2006 11:59:50", "10", 2}, Case{"18.11.2006 11:59:49", "10", 0},
+          Case{"18.11.2006 11:59:51", "10", 0}, Case{"18.11.2006 12:00:00", "0", 2},
+          Case{"18.11.2006 12:00:00", "86400", 1}, Case{"18.11.2006 11:59:59", "86401", 0},
+          Case{"18.11.2006 12:00:00", "", 0}, Case{"18.11.2006 11:59:59", "eins", 0},
+          Case{"18.11.2006 12:00:00", "99999999999999999999", 0}}) {
+        EXPECT_EQ(DueStarts(schedule, *ParseDateTime(now), before), expected)
+            << now << " " << before;
     }
     EXPECT_EQ(DueStarts({}, start, "0"), 0U);
 }
 
-TEST(Wecker, KlingeltEineMinuteVorDemAufwachen) {
-    const SleepTable tabelle{{"17.11.2006 22:30", "18.11.2006 06:30"},
-                             {"x", "Unsinn"},
-                             {"17.11.2006 23:30", "18.11.2006 06:30"}};
-    EXPECT_EQ(DueSleepEnds(tabelle, *ParseDateTime("18.11.2006 06:29:00")), 2U);
-    EXPECT_EQ(DueSleepEnds(tabelle, *ParseDateTime("18.11.2006 06:29:01")), 0U);
-    EXPECT_EQ(DueSleepEnds(tabelle, *ParseDateTime("18.11.2006 06:30:00")), 0U);
+TEST(DueAlarms, RingAMinuteBeforeWaking) {
+    const SleepTable table{{"17.11.2006 22:30", "18.11.2006 06:30"},
+                           {"x", "Unsinn"},
+                           {"17.11.2006 23:30", "18.11.2006 06:30"}};
+    EXPECT_EQ(DueSleepEnds(table, *ParseDateTime("18.11.2006 06:29:00")), 2U);
+    EXPECT_EQ(DueSleepEnds(table, *ParseDateTime("18.11.2006 06:29:01")), 0U);
+    EXPECT_EQ(DueSleepEnds(table, *ParseDateTime("18.11.2006 06:30:00")), 0U);
 }
 
-TEST(Dateisystem, SchautInOrdner) {
-    const Ordner ordner;
-    EXPECT_EQ(GetSubfolders(ordner / ""), std::vector<std::string>{""});
-    EXPECT_EQ(GetSubfolders(ordner / "fehlt"), std::vector<std::string>{""});
+TEST(FileSystem, LooksIntoFolders) {
+    const TempFolder folder;
+    EXPECT_EQ(GetSubfolders(folder / ""), std::vector<std::string>{""});
+    EXPECT_EQ(GetSubfolders(folder / "fehlt"), std::vector<std::string>{""});
     for (const char* name : {"standard", "blau", ".versteckt"}) {
-        std::filesystem::create_directory(ordner / name);
+        std::filesystem::create_directory(folder / name);
     }
-    SchreibeDatei(ordner / "datei", "x");
+    WriteFile(folder / "datei", "x");
     if (kWindows) {
         // A name hides nothing there.
-        std::filesystem::remove(ordner / ".versteckt");
+        std::filesystem::remove(folder / ".versteckt");
     } else {
-        std::filesystem::create_directory_symlink(ordner / "blau", ordner / "zeiger");
+        std::filesystem::create_directory_symlink(folder / "blau", folder / "zeiger");
     }
-    EXPECT_EQ(GetSubfolders(ordner / ""), (std::vector<std::string>{"blau", "standard"}));
-    EXPECT_TRUE(FileExists(ordner / "datei"));
-    EXPECT_FALSE(FileExists(ordner / "blau"));
-    EXPECT_FALSE(FileExists(ordner / "fehlt"));
+    EXPECT_EQ(GetSubfolders(folder / ""), (std::vector<std::string>{"blau", "standard"}));
+    EXPECT_TRUE(FileExists(folder / "datei"));
+    EXPECT_FALSE(FileExists(folder / "blau"));
+    EXPECT_FALSE(FileExists(folder / "fehlt"));
 }
 
 /// A folder with the data of a program, as small as it goes.
-void LegeDatenAn(const std::filesystem::path& ordner) {
-    for (const char* const unter : {"img/skins/temp_webskin/images", "mfx", "saves"}) {
-        std::filesystem::create_directories(ordner / unter);
+void CreateData(const std::filesystem::path& folder) {
+    for (const char* const under : {"img/skins/temp_webskin/images", "mfx", "saves"}) {
+        std::filesystem::create_directories(folder / under);
     }
-    SchreibeDatei(ordner / "img" / "icon.ico", "icon");
-    SchreibeDatei(ordner / "mfx" / "alert.wav", "ton");
-    SchreibeDatei(ordner / "saves" / "basic.tvf", "plan");
+    WriteFile(folder / "img" / "icon.ico", "icon");
+    WriteFile(folder / "mfx" / "alert.wav", "ton");
+    WriteFile(folder / "saves" / "basic.tvf", "plan");
 }
 
-TEST(Programmordner, BeimProgrammWennDortGeschriebenWerdenKann) {
-    const Ordner ordner;
-    LegeDatenAn(ordner / "bin");
-    EXPECT_EQ(ResolveProgramFolder(ordner / "bin", ordner / "nutzer").TempFolder, ordner / "bin");
-    EXPECT_FALSE(std::filesystem::exists(ordner / "nutzer"));
+TEST(ProgramFolder, IsBesideTheProgramIfItIsWritable) {
+    const TempFolder folder;
+    CreateData(folder / "bin");
+    EXPECT_EQ(ResolveProgramFolder(folder / "bin", folder / "nutzer").TempFolder, folder / "bin");
+    EXPECT_FALSE(std::filesystem::exists(folder / "nutzer"));
 }
 
-TEST(Programmordner, EingerichtetesProgrammHatDieDateienBeimNutzer) {
-    const Ordner ordner;
-    LegeDatenAn(ordner / "share" / "tarvelin");
-    std::filesystem::create_directories(ordner / "bin");
-    const auto nutzer = ordner / "nutzer" / "Tarvelin";
-    EXPECT_EQ(ResolveProgramFolder(ordner / "bin", nutzer).TempFolder, nutzer);
-    EXPECT_EQ(LiesDatei(nutzer / "saves" / "basic.tvf"), "plan");
-    EXPECT_TRUE(std::filesystem::is_directory(nutzer / "img/skins/temp_webskin/images"));
+TEST(ProgramFolder, InstalledProgramHasItsFilesWithTheUser) {
+    const TempFolder folder;
+    CreateData(folder / "share" / "tarvelin");
+    std::filesystem::create_directories(folder / "bin");
+    const auto user = folder / "nutzer" / "Tarvelin";
+    EXPECT_EQ(ResolveProgramFolder(folder / "bin", user).TempFolder, user);
+    EXPECT_EQ(ReadFileToString(user / "saves" / "basic.tvf"), "plan");
+    EXPECT_TRUE(std::filesystem::is_directory(user / "img/skins/temp_webskin/images"));
 
     // The user's own files stay, a lost one comes back, the starter plan doesn't.
-    SchreibeDatei(nutzer / "mfx" / "alert.wav", "eigener Ton");
-    SchreibeDatei(nutzer / "config.cfg", "[Settings]\r\nFirststart=0\r\n");
-    std::filesystem::remove(nutzer / "img" / "icon.ico");
-    std::filesystem::remove(nutzer / "saves" / "basic.tvf");
-    EXPECT_EQ(ResolveProgramFolder(ordner / "bin", nutzer).TempFolder, nutzer);
-    EXPECT_EQ(LiesDatei(nutzer / "mfx" / "alert.wav"), "eigener Ton");
-    EXPECT_EQ(LiesDatei(nutzer / "img" / "icon.ico"), "icon");
-    EXPECT_FALSE(std::filesystem::exists(nutzer / "saves" / "basic.tvf"));
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(ordner / "bin"), {}), 0);
+    WriteFile(user / "mfx" / "alert.wav", "eigener Ton");
+    WriteFile(user / "config.cfg", "[Settings]\r\nFirststart=0\r\n");
+    std::filesystem::remove(user / "img" / "icon.ico");
+    std::filesystem::remove(user / "saves" / "basic.tvf");
+    EXPECT_EQ(ResolveProgramFolder(folder / "bin", user).TempFolder, user);
+    EXPECT_EQ(ReadFileToString(user / "mfx" / "alert.wav"), "eigener Ton");
+    EXPECT_EQ(ReadFileToString(user / "img" / "icon.ico"), "icon");
+    EXPECT_FALSE(std::filesystem::exists(user / "saves" / "basic.tvf"));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder / "bin"), {}), 0);
 }
 
-TEST(Programmordner, OhneNutzerordnerDienenDieEigenenDateien) {
-    const Ordner ordner;
-    const auto eigene = ordner / "share" / "tarvelin";
-    LegeDatenAn(eigene);
-    SchreibeDatei(ordner / "datei", "");
-    std::filesystem::create_directories(ordner / "voll" / "img");
-    SchreibeDatei(ordner / "voll" / "mfx", "");
+TEST(ProgramFolder, WithoutAUserFolderItsOwnFilesServe) {
+    const TempFolder folder;
+    const auto own = folder / "share" / "tarvelin";
+    CreateData(own);
+    WriteFile(folder / "datei", "");
+    std::filesystem::create_directories(folder / "voll" / "img");
+    WriteFile(folder / "voll" / "mfx", "");
     // There is none, it can't be made, or has no room for all; nothing is thrown.
-    for (const auto& nutzer : {std::filesystem::path(), ordner / "datei" / "x", ordner / "voll"}) {
-        const ProgramFolder gewaehlt = ResolveProgramFolder(ordner / "bin", nutzer);
-        EXPECT_EQ(gewaehlt.TempFolder, eigene) << nutzer;
-        EXPECT_FALSE(gewaehlt.canKeep) << nutzer;
+    for (const auto& user : {std::filesystem::path(), folder / "datei" / "x", folder / "voll"}) {
+        const ProgramFolder chosen = ResolveProgramFolder(folder / "bin", user);
+        EXPECT_EQ(chosen.TempFolder, own) << user;
+        EXPECT_FALSE(chosen.canKeep) << user;
     }
     // Where plans lie the user keeps them in sight.
-    for (const char* const datei : {"basic.tvf", "meiner.tvf"}) {
-        SchreibeDatei(ordner / "voll" / "saves" / datei, "plan");
-        const ProgramFolder gewaehlt = ResolveProgramFolder(ordner / "bin", ordner / "voll");
-        EXPECT_EQ(gewaehlt.TempFolder == ordner / "voll", datei == std::string("meiner.tvf"));
-        EXPECT_FALSE(gewaehlt.canKeep) << "what is new there has no room";
+    for (const char* const file : {"basic.tvf", "meiner.tvf"}) {
+        WriteFile(folder / "voll" / "saves" / file, "plan");
+        const ProgramFolder chosen = ResolveProgramFolder(folder / "bin", folder / "voll");
+        EXPECT_EQ(chosen.TempFolder == folder / "voll", file == std::string("meiner.tvf"));
+        EXPECT_FALSE(chosen.canKeep) << "what is new there has no room";
     }
 }
 
-TEST(Schreibschutz, AendertImOrdnerNichtsUndSonstAlles) {
-    const Ordner ordner;
-    LegeDatenAn(ordner / "eigene");
-    const ProtectedFileSystem schutz({ordner / "eigene"});
+TEST(ProtectedFileSystem, ChangesNothingInTheFolderAndAllElse) {
+    const TempFolder folder;
+    CreateData(folder / "eigene");
+    const ProtectedFileSystem protection({folder / "eigene"});
     if (!kWindows) {
-        std::filesystem::create_directory_symlink(ordner / "eigene", ordner / "umweg");
+        std::filesystem::create_directory_symlink(folder / "eigene", folder / "umweg");
     }
-    for (const char* const wo : {"eigene", kWindows ? "eigene/." : "umweg"}) {
-        const auto plan = ordner / wo / "saves" / "basic.tvf";
-        EXPECT_FALSE(SaveBauliste(plan, PlanAus("GM"), schutz));
-        EXPECT_FALSE(SaveBauliste(ordner / wo / "neu.tvf", PlanAus("GM"), schutz));
-        EXPECT_FALSE(schutz.Remove(plan));
-        EXPECT_FALSE(schutz.Rename(plan, ordner / "weg.tvf"));
-        EXPECT_EQ(ReadFileToString(plan, 100, schutz), "plan");
+    for (const char* const where : {"eigene", kWindows ? "eigene/." : "umweg"}) {
+        const auto plan = folder / where / "saves" / "basic.tvf";
+        EXPECT_FALSE(SaveBauliste(plan, PlanOf("GM"), protection));
+        EXPECT_FALSE(SaveBauliste(folder / where / "neu.tvf", PlanOf("GM"), protection));
+        EXPECT_FALSE(protection.Remove(plan));
+        EXPECT_FALSE(protection.Rename(plan, folder / "weg.tvf"));
+        EXPECT_EQ(ReadFileToString(plan, 100, protection), "plan");
     }
-    EXPECT_TRUE(SaveBauliste(ordner / "eigene-plaene.tvf", PlanAus("GM"), schutz));
+    EXPECT_TRUE(SaveBauliste(folder / "eigene-plaene.tvf", PlanOf("GM"), protection));
 }
 
-TEST(Programmordner, DateidialogeBeginnenNieIrgendwo) {
-    const Ordner ordner;
-    EXPECT_EQ(PlanFolder(ordner / "", NativeFileSystem()), ordner / "saves") << "made anew";
-    EXPECT_TRUE(std::filesystem::is_directory(ordner / "saves"));
-    std::filesystem::remove(ordner / "saves");
-    SchreibeDatei(ordner / "saves", "");
-    EXPECT_EQ(PlanFolder(ordner / "", NativeFileSystem()).string() + "/", (ordner / "").string());
+TEST(ProgramFolder, FileDialogsNeverBeginJustAnywhere) {
+    const TempFolder folder;
+    EXPECT_EQ(PlanFolder(folder / "", NativeFileSystem()), folder / "saves") << "made anew";
+    EXPECT_TRUE(std::filesystem::is_directory(folder / "saves"));
+    std::filesystem::remove(folder / "saves");
+    WriteFile(folder / "saves", "");
+    EXPECT_EQ(PlanFolder(folder / "", NativeFileSystem()).string() + "/", (folder / "").string());
 }
 
-TEST(Programmordner, SperrtWasEinAndererBehaelt) {
-    const Ordner ordner;
-    std::filesystem::create_directory(ordner / "saves");
-    const ProgramFolder programmordner{.TempFolder = ordner / ""};
-    const ProtectedFileSystem dateien(programmordner.ReadOnlyPaths(true));
-    Autosave autosave(ordner / "", dateien);
-    autosave.WriteAtExit(PlanAus("GM"));
-    autosave.KeepReplaced(PlanAus("GM"));
-    EXPECT_FALSE(Configuration(ordner / "", dateien).Write({{Configuration::kFirststart, "0"}}));
-    EXPECT_EQ(ordner.Eintraege(), 1U);
-    EXPECT_TRUE(std::filesystem::is_empty(ordner / "saves"));
-    EXPECT_TRUE(SaveBauliste(ordner / "saves" / "meiner.tvf", PlanAus("GM"), dateien));
-    EXPECT_TRUE(programmordner.ReadOnlyPaths(false).empty());
+TEST(ProgramFolder, ProtectsWhatAnotherKeeps) {
+    const TempFolder folder;
+    std::filesystem::create_directory(folder / "saves");
+    const ProgramFolder programFolder{.TempFolder = folder / ""};
+    const ProtectedFileSystem files(programFolder.ReadOnlyPaths(true));
+    Autosave autosave(folder / "", files);
+    autosave.WriteAtExit(PlanOf("GM"));
+    autosave.KeepReplaced(PlanOf("GM"));
+    EXPECT_FALSE(Configuration(folder / "", files).Write({{Configuration::kFirststart, "0"}}));
+    EXPECT_EQ(folder.Entries(), 1U);
+    EXPECT_TRUE(std::filesystem::is_empty(folder / "saves"));
+    EXPECT_TRUE(SaveBauliste(folder / "saves" / "meiner.tvf", PlanOf("GM"), files));
+    EXPECT_TRUE(programFolder.ReadOnlyPaths(false).empty());
 }
 
-TEST(Autosave, BewahrtDieLetztenFuenfErsetzten) {
-    const Ordner ordner;
-    const Autosave autosave(ordner / "");
-    const auto liegen = [&] {
-        std::string zahlen;
+TEST(Autosave, KeepsTheLastFiveReplacedPlans) {
+    const TempFolder folder;
+    const Autosave autosave(folder / "");
+    const auto kept = [&] {
+        std::string figures;
         for (const char* const n : {"1", "2", "3", "4", "5", "6"}) {
-            const auto profil =
-                IniFile::Load(ordner / "saves" / (std::string("ersetzt-") + n + ".tvf"));
-            zahlen += profil ? profil->ReadINI("Bauliste", "ItemCount", "?") : "-";
+            const auto profile =
+                IniFile::Load(folder / "saves" / (std::string("ersetzt-") + n + ".tvf"));
+            figures += profile ? profile->ReadINI("Bauliste", "ItemCount", "?") : "-";
         }
-        return zahlen;
+        return figures;
     };
     std::string codes;
-    for (const char* const erwartet :
+    for (const char* const expected :
          {"1-----", "21----", "321---", "4321--", "54321-", "65432-"}) {
         codes += codes.empty() ? "GM" : " GM";
-        autosave.KeepReplaced(PlanAus(codes));
-        autosave.KeepReplaced(PlanAus(codes));
-        autosave.KeepReplaced(PlanAus(""));
-        EXPECT_EQ(liegen(), erwartet) << "neither twice nor empty";
+        autosave.KeepReplaced(PlanOf(codes));
+        autosave.KeepReplaced(PlanOf(codes));
+        autosave.KeepReplaced(PlanOf(""));
+        EXPECT_EQ(kept(), expected) << "neither twice nor empty";
     }
-    std::filesystem::remove(ordner / "saves" / "ersetzt-3.tvf");
-    autosave.KeepReplaced(PlanAus("GM"));
-    EXPECT_EQ(liegen(), "16532-") << "a gap is filled before the oldest goes";
+    std::filesystem::remove(folder / "saves" / "ersetzt-3.tvf");
+    autosave.KeepReplaced(PlanOf("GM"));
+    EXPECT_EQ(kept(), "16532-") << "a gap is filled before the oldest goes";
     // Whichever call fails, all that was there is there, and mostly the new one as well.
     for (int n = 1;; ++n) {
-        std::filesystem::remove_all(ordner / "saves");
+        std::filesystem::remove_all(folder / "saves");
         for (const char* const plan : {"GM", "GM GM", "GM GM GM"}) {
-            autosave.KeepReplaced(PlanAus(plan));
+            autosave.KeepReplaced(PlanOf(plan));
         }
-        const Stoersystem kaputt(n, Ausfallart::Einmal);
-        Autosave(ordner / "", kaputt).KeepReplaced(PlanAus("GM GM GM GM"));
-        std::string da = liegen();
+        const FaultyFileSystem broken(n, FaultKind::Once);
+        Autosave(folder / "", broken).KeepReplaced(PlanOf("GM GM GM GM"));
+        std::string present = kept();
         for (const char plan : {'1', '2', '3'}) {
-            EXPECT_NE(da.find(plan), std::string::npos) << da << kaputt.Gestoert();
+            EXPECT_NE(present.find(plan), std::string::npos) << present << broken.Faulty();
         }
-        if (kaputt.Gestoert().empty()) {
-            EXPECT_EQ(da, "4321--");
+        if (broken.Faulty().empty()) {
+            EXPECT_EQ(present, "4321--");
             break;
         }
     }
-    EXPECT_TRUE(autosave.IsOwnFile(ordner / "saves" / ".." / "saves" / "ersetzt-3.tvf"));
-    EXPECT_FALSE(autosave.IsOwnFile(ordner / "saves" / "ersetzt-6.tvf"));
+    EXPECT_TRUE(autosave.IsOwnFile(folder / "saves" / ".." / "saves" / "ersetzt-3.tvf"));
+    EXPECT_FALSE(autosave.IsOwnFile(folder / "saves" / "ersetzt-6.tvf"));
 }
 
 /// The steps of a session, and the plans that lie there after each; "" for none.
-TEST(Autosave, BewahrtDenPlanDerLetztenSitzung) {
-    const Ordner ordner;
-    std::filesystem::create_directory(ordner / "saves");
-    const auto zeilen = [&](const char* datei) {
-        const auto profil = IniFile::Load(ordner / "saves" / datei);
-        return profil ? profil->ReadINI("Bauliste", "ItemCount", "?") : "";
+TEST(Autosave, KeepsThePlanOfTheLastSession) {
+    const TempFolder folder;
+    std::filesystem::create_directory(folder / "saves");
+    const auto rows = [&](const char* file) {
+        const auto profile = IniFile::Load(folder / "saves" / file);
+        return profile ? profile->ReadINI("Bauliste", "ItemCount", "?") : "";
     };
-    struct Fall {
-        const char* Codes;
-        bool NeueSitzung;
-        const char* Plan;
-        const char* Vorige;
+    struct Case {
+        const char* codes;
+        bool newSession;
+        const char* plan;
+        const char* previous;
     };
-    std::optional<Autosave> autosave(ordner / "");
-    for (const auto& [codes, neueSitzung, plan, vorige] :
-         {Fall{"GM", false, "1", ""}, Fall{"GM GM", false, "2", ""}, Fall{"GM GM", true, "2", ""},
-          Fall{"GM GM GM", false, "3", "2"}, Fall{"", false, "0", "2"}, Fall{"GM", true, "1", "2"},
-          Fall{"", true, "0", "1"}}) {
+    std::optional<Autosave> autosave(folder / "");
+    for (const auto& [codes, newSession, plan, previous] :
+         {Case{"GM", false, "1", ""}, Case{"GM GM", false, "2", ""}, Case{"GM GM", true, "2", ""},
+          Case{"GM GM GM", false, "3", "2"}, Case{"", false, "0", "2"}, Case{"GM", true, "1", "2"},
+          Case{"", true, "0", "1"}}) {
         SCOPED_TRACE(std::string(codes) + " " + plan);
-        if (neueSitzung) {
-            autosave.emplace(ordner / "");
+        if (newSession) {
+            autosave.emplace(folder / "");
         }
-        EXPECT_TRUE(autosave->Write(PlanAus(codes)));
-        EXPECT_EQ(zeilen("autosave.tvf"), plan);
-        EXPECT_EQ(zeilen("autosave-vorige.tvf"), vorige);
+        EXPECT_TRUE(autosave->Write(PlanOf(codes)));
+        EXPECT_EQ(rows("autosave.tvf"), plan);
+        EXPECT_EQ(rows("autosave-vorige.tvf"), previous);
     }
     // What was tried in vain is tried again when it changes, and at the end.
-    const auto datei = ordner / "saves" / "autosave.tvf";
-    const Stoersystem kaputt(1, Ausfallart::AllesFuerImmer);
-    Autosave gestoert(ordner / "", kaputt);
-    gestoert.WriteIfChanged(PlanAus("GM"));
-    EXPECT_EQ(kaputt.Gestoert(), "LegeOrdnerAn");
+    const auto file = folder / "saves" / "autosave.tvf";
+    const FaultyFileSystem broken(1, FaultKind::EverythingForever);
+    Autosave disturbed(folder / "", broken);
+    disturbed.WriteIfChanged(PlanOf("GM"));
+    EXPECT_EQ(broken.Faulty(), "LegeOrdnerAn");
     // Where the last plan can't be kept under its name it gets another, and else stays until the
     // end.
-    const auto versperre = [&](const char* name) {
-        std::filesystem::remove(ordner / "saves" / name);
-        std::filesystem::create_directories(ordner / "saves" / name / "x");
+    const auto block = [&](const char* name) {
+        std::filesystem::remove(folder / "saves" / name);
+        std::filesystem::create_directories(folder / "saves" / name / "x");
     };
-    versperre("autosave-vorige.tvf");
-    ASSERT_TRUE(autosave->Write(PlanAus("GM GM GM")));
-    EXPECT_TRUE(Autosave(ordner / "").Write(PlanAus("GM GM")));
-    EXPECT_EQ(zeilen("autosave-vorige-2.tvf"), "3");
-    versperre("autosave-vorige-2.tvf");
-    Autosave ohneVorige(ordner / "");
-    EXPECT_FALSE(ohneVorige.Write(PlanAus("GM")));
-    EXPECT_EQ(zeilen("autosave.tvf"), "2");
-    ohneVorige.WriteIfChanged(PlanAus("GM"));
-    ohneVorige.WriteAtExit(PlanAus("GM"));
-    EXPECT_EQ(zeilen("autosave.tvf"), "1");
+    block("autosave-vorige.tvf");
+    ASSERT_TRUE(autosave->Write(PlanOf("GM GM GM")));
+    EXPECT_TRUE(Autosave(folder / "").Write(PlanOf("GM GM")));
+    EXPECT_EQ(rows("autosave-vorige-2.tvf"), "3");
+    block("autosave-vorige-2.tvf");
+    Autosave withoutPrevious(folder / "");
+    EXPECT_FALSE(withoutPrevious.Write(PlanOf("GM")));
+    EXPECT_EQ(rows("autosave.tvf"), "2");
+    withoutPrevious.WriteIfChanged(PlanOf("GM"));
+    withoutPrevious.WriteAtExit(PlanOf("GM"));
+    EXPECT_EQ(rows("autosave.tvf"), "1");
 }
 
 }  // namespace

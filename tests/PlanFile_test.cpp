@@ -5,64 +5,64 @@
 namespace tarvelin {
 namespace {
 
-struct Ladung {
-    Plan Geladen;
-    Merker Meldungen;
-    bool Gelesen;
+struct LoadResult {
+    Plan loaded;
+    MessageRecorder messages;
+    bool plan;
 
-    explicit Ladung(std::string_view bytes)
-        : Gelesen(ReadPlan(IniFile(bytes), Geladen, RunConditions(), Meldungen)) {}
+    explicit LoadResult(std::string_view bytes)
+        : plan(ReadPlan(IniFile(bytes), loaded, RunConditions(), messages)) {}
 };
 
-std::string Bytes(const Plan& plan, std::string_view vorher = "") {
-    IniFile profil(vorher);
-    WritePlan(plan, profil);
-    return profil.Bytes();
+std::string Bytes(const Plan& plan, std::string_view before = "") {
+    IniFile profile(before);
+    WritePlan(plan, profile);
+    return profile.Bytes();
 }
 
-Plan Beispiel() {
-    Plan plan = PlanAus("GM GS GX:8:10:5");
+Plan Example() {
+    Plan plan = PlanOf("GM GS GX:8:10:5");
     plan.parameters.KlickPuffer = 5;
     plan.LV_Schlafzeiten = {{"18.11.2006 22:00", "19.11.2006 06:00"}};
     return plan;
 }
 
-const std::string kBeispiel =
+const std::string kExample =
     "[Einstellungen]\r\nKlickPuffer=5\r\nUniStartZeitTag=18\r\nUniStartZeitMonat=11\r\n"
     "UniStartZeitJahr=2006\r\nUniStartZeitStunden=12\r\nUniStartZeitMinuten=30\r\nTempMax=11\r\n"
     "ShowDesc=1\r\nSpeedfaktor_X2=0\r\n[Bauliste]\r\nItemCount=3\r\nItem_001=GM\r\nItem_002=GS\r\n"
     "Item_003=GX:8:10:5\r\n[Schlafzeiten]\r\nItemCount=1\r\nItem_001=18.11.2006 22:00\r\n"
     "SubItem_001=19.11.2006 06:00\r\n";
 
-/// The example with one line changed, or taken out where `neu` is empty.
-std::string Mit(const std::string& alt, const std::string& neu) {
-    std::string bytes = kBeispiel;
-    const auto ort = bytes.find(alt);
-    EXPECT_NE(ort, std::string::npos) << alt;
-    return bytes.replace(ort, alt.size() + 2, neu.empty() ? "" : neu + "\r\n");
+/// The example with one line changed, or taken out where `after` is empty.
+std::string With(const std::string& before, const std::string& after) {
+    std::string bytes = kExample;
+    const auto position = bytes.find(before);
+    EXPECT_NE(position, std::string::npos) << before;
+    return bytes.replace(position, before.size() + 2, after.empty() ? "" : after + "\r\n");
 }
 
-TEST(Planablage, HatDasFormat) {
-    EXPECT_EQ(Bytes(Beispiel()), kBeispiel);
-    Plan kurz = Beispiel();
-    kurz.LV_Bauliste.RemoveLast();
-    const std::string ueber = Bytes(kurz, kBeispiel);
-    EXPECT_NE(ueber.find("ItemCount=2\r\nItem_001=GM\r\nItem_002=GS\r\nItem_003=GX:8:10:5"),
+TEST(PlanFile, HasTheFormat) {
+    EXPECT_EQ(Bytes(Example()), kExample);
+    Plan shortPlan = Example();
+    shortPlan.LV_Bauliste.RemoveLast();
+    const std::string above = Bytes(shortPlan, kExample);
+    EXPECT_NE(above.find("ItemCount=2\r\nItem_001=GM\r\nItem_002=GS\r\nItem_003=GX:8:10:5"),
               std::string::npos);
-    EXPECT_EQ(Ladung(ueber).Geladen.LV_Bauliste.Rows().size(), 2U);
+    EXPECT_EQ(LoadResult(above).loaded.LV_Bauliste.Rows().size(), 2U);
     EXPECT_EQ(WindowTitleFor("/ein/Ordner/x.y.tvf"),
               "Tarvelin  |  Kelva Aufbau-Simulator      ( x.y.tvf )");
 }
 
-TEST(Planablage, HoertAmErstenUnbrauchbarenWertAuf) {
-    struct Fall {
-        const char* Alt;
-        const char* Neu;
-        std::size_t Zeilen;
-        std::size_t Schlafzeiten;
-        const char* Hindernis;
+TEST(PlanFile, StopsAtTheFirstUnusableValue) {
+    struct Case {
+        const char* before;
+        const char* after;
+        std::size_t rows;
+        std::size_t sleepRows;
+        const char* obstacle;
     };
-    const std::vector<Fall> faelle{
+    const std::vector<Case> cases{
         {"KlickPuffer=5", "KlickPuffer=601", 0, 0,
          "Zeile 2, KlickPuffer: 601 ist keine Zahl von 0 bis 600"},
         {"KlickPuffer=5", "", 0, 0, "[Einstellungen], KlickPuffer fehlt"},
@@ -79,65 +79,65 @@ TEST(Planablage, HoertAmErstenUnbrauchbarenWertAuf) {
         {"Item_002=GS", "", 1, 1, "[Bauliste], Item_002 fehlt"},
         {"Item_003=GX:8:10:5", "Item_003=GX:8:10:11", 2, 1,
          "Zeile 15, Item_003: GX:8:10:11 ist kein Code der Bauliste"}};
-    for (const Fall& fall : faelle) {
-        SCOPED_TRACE(std::string(fall.Alt) + " " + fall.Neu);
-        const Ladung ladung(Mit(fall.Alt, fall.Neu));
-        EXPECT_FALSE(ladung.Gelesen);
-        EXPECT_EQ(ladung.Meldungen.Texte,
+    for (const Case& testCase : cases) {
+        SCOPED_TRACE(std::string(testCase.before) + " " + testCase.after);
+        const LoadResult loaded(With(testCase.before, testCase.after));
+        EXPECT_FALSE(loaded.plan);
+        EXPECT_EQ(loaded.messages.texts,
                   std::vector<std::string>{"Die Bauliste konnte nicht geladen werden..."});
-        EXPECT_EQ(ladung.Geladen.LV_Bauliste.Rows().size(), fall.Zeilen);
-        EXPECT_EQ(ladung.Geladen.LV_Schlafzeiten.size(), fall.Schlafzeiten);
-        EXPECT_EQ(LoadObstacle(IniFile(Mit(fall.Alt, fall.Neu))), fall.Hindernis);
+        EXPECT_EQ(loaded.loaded.LV_Bauliste.Rows().size(), testCase.rows);
+        EXPECT_EQ(loaded.loaded.LV_Schlafzeiten.size(), testCase.sleepRows);
+        EXPECT_EQ(LoadObstacle(IniFile(With(testCase.before, testCase.after))), testCase.obstacle);
     }
-    EXPECT_EQ(LoadObstacle(IniFile(kBeispiel)), "");
-    const Ladung zuviel(Mit("ItemCount=3", "ItemCount=99999999999999999999"));
-    EXPECT_EQ(zuviel.Meldungen.Texte.size(), 1U);
+    EXPECT_EQ(LoadObstacle(IniFile(kExample)), "");
+    const LoadResult tooMuch(With("ItemCount=3", "ItemCount=99999999999999999999"));
+    EXPECT_EQ(tooMuch.messages.texts.size(), 1U);
 }
 
-TEST(Planablage, LiestWasBrauchbarIst) {
-    EXPECT_FALSE(Ladung(Mit("ShowDesc=1", "ShowDesc=0,0")).Geladen.ShowDesc);
-    EXPECT_TRUE(Ladung(Mit("ShowDesc=1", "ShowDesc=-7")).Geladen.ShowDesc);
+TEST(PlanFile, ReadsWhatIsUsable) {
+    EXPECT_FALSE(LoadResult(With("ShowDesc=1", "ShowDesc=0,0")).loaded.ShowDesc);
+    EXPECT_TRUE(LoadResult(With("ShowDesc=1", "ShowDesc=-7")).loaded.ShowDesc);
     EXPECT_TRUE(
-        Ladung(Mit("Speedfaktor_X2=0", "Speedfaktor_X2=1")).Geladen.parameters.Speedfaktor_X2);
+        LoadResult(With("Speedfaktor_X2=0", "Speedfaktor_X2=1")).loaded.parameters.Speedfaktor_X2);
     EXPECT_FALSE(
-        Ladung(Mit("Speedfaktor_X2=0", "Speedfaktor_X2=01")).Geladen.parameters.Speedfaktor_X2);
-    EXPECT_FALSE(Ladung(Mit("Speedfaktor_X2=0", "")).Geladen.parameters.Speedfaktor_X2);
-    const Ladung kalt(Mit("TempMax=11", "TempMax=-20,5"));
-    EXPECT_EQ(kalt.Geladen.parameters.tempMin, "-60,5");
-    const Ladung ohneDatum(Mit("UniStartZeitTag=18", "UniStartZeitTag=31"));
-    EXPECT_TRUE(ohneDatum.Gelesen);
-    EXPECT_FALSE(Probe(ohneDatum.Geladen).Gelungen);
-    const Ladung vorzeichen(Mit("Item_003=GX:8:10:5", "Item_003=GX:+8:010: 5 :x"));
-    EXPECT_EQ(vorzeichen.Geladen.LV_Bauliste.Rows()[2].Tag, "GX:+8:010: 5 :x");
-    EXPECT_EQ(vorzeichen.Geladen.LV_Bauliste.Rows()[2].SubItems1, "M:80% K:100% D:50%");
-    EXPECT_EQ(Probe(vorzeichen.Geladen).Gelaufen.LV_Bauzeiten[2].theText(), "80% 100% 50%");
+        LoadResult(With("Speedfaktor_X2=0", "Speedfaktor_X2=01")).loaded.parameters.Speedfaktor_X2);
+    EXPECT_FALSE(LoadResult(With("Speedfaktor_X2=0", "")).loaded.parameters.Speedfaktor_X2);
+    const LoadResult cold(With("TempMax=11", "TempMax=-20,5"));
+    EXPECT_EQ(cold.loaded.parameters.tempMin, "-60,5");
+    const LoadResult withoutDate(With("UniStartZeitTag=18", "UniStartZeitTag=31"));
+    EXPECT_TRUE(withoutDate.plan);
+    EXPECT_FALSE(TestRun(withoutDate.loaded).succeeded);
+    const LoadResult sign(With("Item_003=GX:8:10:5", "Item_003=GX:+8:010: 5 :x"));
+    EXPECT_EQ(sign.loaded.LV_Bauliste.Rows()[2].Tag, "GX:+8:010: 5 :x");
+    EXPECT_EQ(sign.loaded.LV_Bauliste.Rows()[2].SubItems1, "M:80% K:100% D:50%");
+    EXPECT_EQ(TestRun(sign.loaded).run.LV_Bauzeiten[2].theText(), "80% 100% 50%");
 }
 
-TEST(Planablage, SchreibtInDieDateiOderGarNicht) {
-    const Ordner ordner;
-    const Plan plan = Beispiel();
-    ASSERT_TRUE(SaveBauliste(ordner / "plan.tvf", plan));
-    EXPECT_EQ(LiesDatei(ordner / "plan.tvf"), kBeispiel);
-    EXPECT_FALSE(SaveBauliste(ordner / "", plan));
-    EXPECT_FALSE(SaveBauliste(ordner / "fehlt" / "plan.tvf", plan));
-    EXPECT_EQ(ordner.Eintraege(), 1U);
+TEST(PlanFile, WritesIntoTheFileOrNotAtAll) {
+    const TempFolder folder;
+    const Plan plan = Example();
+    ASSERT_TRUE(SaveBauliste(folder / "plan.tvf", plan));
+    EXPECT_EQ(ReadFileToString(folder / "plan.tvf"), kExample);
+    EXPECT_FALSE(SaveBauliste(folder / "", plan));
+    EXPECT_FALSE(SaveBauliste(folder / "fehlt" / "plan.tvf", plan));
+    EXPECT_EQ(folder.Entries(), 1U);
 }
 
-TEST(Planablage, BleibtUtf16) {
-    const Ordner ordner;
-    const auto datei = ordner / "plan.tvf";
-    const std::string golden = LiesDatei(TARVELIN_GOLDEN "/regelwidrig-13.tvf");
-    const Ladung original(golden);
-    IniFile ueber(golden);
-    WritePlan(Beispiel(), ueber);
-    const std::string neu = ueber.Bytes();
-    for (const bool hochVorn : {false, true}) {
-        SchreibeDatei(datei, InUtf16({golden.begin(), golden.end()}, hochVorn));
-        const Ladung ladung(LiesDatei(datei));
-        EXPECT_TRUE(ladung.Gelesen);
-        EXPECT_EQ(Ergebnis(ladung.Geladen), Ergebnis(original.Geladen));
-        ASSERT_TRUE(SaveBauliste(datei, Beispiel()));
-        EXPECT_EQ(LiesDatei(datei), InUtf16({neu.begin(), neu.end()}, hochVorn));
+TEST(PlanFile, StaysUtf16) {
+    const TempFolder folder;
+    const auto file = folder / "plan.tvf";
+    const std::string golden = ReadFileToString(TARVELIN_GOLDEN "/regelwidrig-13.tvf");
+    const LoadResult original(golden);
+    IniFile above(golden);
+    WritePlan(Example(), above);
+    const std::string after = above.Bytes();
+    for (const bool highFirst : {false, true}) {
+        WriteFile(file, ToUtf16Bytes({golden.begin(), golden.end()}, highFirst));
+        const LoadResult loaded(ReadFileToString(file));
+        EXPECT_TRUE(loaded.plan);
+        EXPECT_EQ(ResultText(loaded.loaded), ResultText(original.loaded));
+        ASSERT_TRUE(SaveBauliste(file, Example()));
+        EXPECT_EQ(ReadFileToString(file), ToUtf16Bytes({after.begin(), after.end()}, highFirst));
     }
 }
 

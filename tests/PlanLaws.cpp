@@ -29,91 +29,90 @@ namespace tarvelin {
 
 namespace {
 
-constexpr SimTime kEndeDerUhr(std::numeric_limits<Long>::max());
+constexpr SimTime kEndOfClock(std::numeric_limits<Long>::max());
 
-class Stumm final : public MessageSink {
+class NullSink final : public MessageSink {
   public:
     void Show(const Message& /*meldung*/) override {}
     void Beep() override {}
 };
 
 /// All that a run tells, and the state behind each of its steps.
-class Mitschrift final : public RunObserver {
+class EventLog final : public RunObserver {
   public:
-    void OnStart(const StartEvent& ereignis) override {
-        Starts.push_back(ereignis);
-        StartIm.push_back(Staende.size());
+    void OnStart(const StartEvent& event) override {
+        starts.push_back(event);
+        startEvents.push_back(states.size());
     }
     void OnNegativeStock(const GameState& /*stand*/) override {
-        SchuldenIm.push_back(Staende.size());
+        negativeStockEvents.push_back(states.size());
     }
-    void OnStepDone(const GameState& stand) override { Staende.push_back(stand); }
+    void OnStepDone(const GameState& state) override { states.push_back(state); }
 
-    std::vector<StartEvent> Starts;
+    std::vector<StartEvent> starts;
     /// The step of each start, and of each debt that was told.
-    std::vector<std::size_t> StartIm;
-    std::vector<std::size_t> SchuldenIm;
-    std::vector<GameState> Staende;
+    std::vector<std::size_t> startEvents;
+    std::vector<std::size_t> negativeStockEvents;
+    std::vector<GameState> states;
 };
 
 std::string Bytes(const Plan& plan) {
-    IniFile profil("");
-    WritePlan(plan, profil);
-    return profil.Bytes();
+    IniFile profile("");
+    WritePlan(plan, profile);
+    return profile.Bytes();
 }
 
-std::array<const std::string*, 6> Eingaben(const StartParameters& p) {
-    return {&p.UniStartZeitTag,     &p.UniStartZeitMonat,   &p.UniStartZeitJahr,
-            &p.UniStartZeitStunden, &p.UniStartZeitMinuten, &p.TempMax};
+std::array<const std::string*, 6> Inputs(const StartParameters& parameters) {
+    return {&parameters.UniStartZeitTag,     &parameters.UniStartZeitMonat,
+            &parameters.UniStartZeitJahr,    &parameters.UniStartZeitStunden,
+            &parameters.UniStartZeitMinuten, &parameters.TempMax};
 }
 
-bool IstSpeicherbar(const Plan& plan) {
-    const auto eingaben = Eingaben(plan.parameters);
-    return std::ranges::all_of(eingaben, [](const auto* text) { return KommtZurueck(*text); }) &&
+bool IsSavable(const Plan& plan) {
+    const auto inputs = Inputs(plan.parameters);
+    return std::ranges::all_of(inputs, [](const auto* text) { return ComesBack(*text); }) &&
            std::ranges::all_of(plan.LV_Schlafzeiten,
-                               [](const SleepRow& zeile) {
-                                   return KommtZurueck(zeile.Startzeit) &&
-                                          KommtZurueck(zeile.Endzeit);
+                               [](const SleepRow& row) {
+                                   return ComesBack(row.Startzeit) && ComesBack(row.Endzeit);
                                }) &&
            std::ranges::all_of(plan.LV_Bauliste.Rows(),
-                               [](const BuildListRow& zeile) { return KommtZurueck(zeile.Tag); });
+                               [](const BuildListRow& row) { return ComesBack(row.Tag); });
 }
 
 /// The conditions of a plan's run, or some where it has none.
-RunConditions BedingungenVon(const Plan& plan) {
-    const auto bedingungen = ParseRunConditions(plan);
-    const auto* const gelesen = std::get_if<RunConditions>(&bedingungen);
-    return gelesen == nullptr ? RunConditions{.Speedfaktor = 1} : *gelesen;
+RunConditions ConditionsOf(const Plan& plan) {
+    const auto conditions = ParseRunConditions(plan);
+    const auto* const parsed = std::get_if<RunConditions>(&conditions);
+    return parsed == nullptr ? RunConditions{.Speedfaktor = 1} : *parsed;
 }
 
 /// What goes on from a point of the history, less what the start of that step costs.
-PerResource<FixedPoint> VorratNachSchritt(const GameState& vorher, const GameState& nachher,
-                                          const StartEvent* start) {
-    const HistoryRecorder verlauf(vorher);
-    auto vorrat = StockAfter(verlauf.Recorded().back(), nachher.secsgone - vorher.secsgone);
+PerResource<FixedPoint> StockAfterStep(const GameState& before, const GameState& after,
+                                       const StartEvent* start) {
+    const HistoryRecorder recorder(before);
+    auto stock = StockAfter(recorder.Recorded().back(), after.secsgone - before.secsgone);
     if (start != nullptr && start->order.kind == Order::Kind::Item) {
-        const Cost& preis = CostOf(start->order.item, static_cast<Byte>(start->number - 1));
-        for (const Resource r : kResources) {
-            vorrat[r] = vorrat[r] - FixedPoint::FromDouble(preis[r]);
+        const Cost& cost = CostOf(start->order.item, static_cast<Byte>(start->number - 1));
+        for (const Resource resource : kResources) {
+            stock[resource] = stock[resource] - FixedPoint::FromDouble(cost[resource]);
         }
     }
-    return vorrat;
+    return stock;
 }
 
-Befund PruefeVorraete(const Mitschrift& lauf, const GameState& anfang) {
-    std::size_t naechster = 0;
-    for (std::size_t i = 0; i < lauf.Staende.size(); ++i) {
-        const GameState& vorher = i == 0 ? anfang : lauf.Staende[i - 1];
-        const GameState& stand = lauf.Staende[i];
-        const bool start = naechster < lauf.StartIm.size() && lauf.StartIm[naechster] == i;
-        const auto soll =
-            VorratNachSchritt(vorher, stand, start ? &lauf.Starts[naechster] : nullptr);
-        naechster += start ? 1 : 0;
-        if (soll != stand.stock && stand.secsgone != kEndeDerUhr) {
+Finding CheckStocks(const EventLog& log, const GameState& initial) {
+    std::size_t next = 0;
+    for (std::size_t i = 0; i < log.states.size(); ++i) {
+        const GameState& before = i == 0 ? initial : log.states[i - 1];
+        const GameState& state = log.states[i];
+        const bool start = next < log.startEvents.size() && log.startEvents[next] == i;
+        const auto expected = StockAfterStep(before, state, start ? &log.starts[next] : nullptr);
+        next += start ? 1 : 0;
+        if (expected != state.stock && state.secsgone != kEndOfClock) {
             return "a stock is wrong behind step " + std::to_string(i);
         }
-        if ((start && std::ranges::min(stand.stock) < FixedPoint()) !=
-            (std::ranges::count(lauf.SchuldenIm, i) == 1)) {
+        if ((start && std::ranges::min(state.stock) < FixedPoint()) !=
+            (std::ranges::count(log.negativeStockEvents, i) == 1)) {
             return "a debt isn't told in step " + std::to_string(i);
         }
     }
@@ -121,421 +120,421 @@ Befund PruefeVorraete(const Mitschrift& lauf, const GameState& anfang) {
 }
 
 /// The code's first letter names the queue, whatever the run thinks.
-Befund PruefeSchlangen(const Mitschrift& lauf) {
-    std::map<char, SimTime> frei;
-    for (const StartEvent& start : lauf.Starts) {
-        SimTime& bis = frei[start.order.Tag().front()];
-        if (start.order.kind == Order::Kind::Item && start.start < bis) {
+Finding CheckQueues(const EventLog& log) {
+    std::map<char, SimTime> free;
+    for (const StartEvent& start : log.starts) {
+        SimTime& until = free[start.order.Tag().front()];
+        if (start.order.kind == Order::Kind::Item && start.start < until) {
             return "row " + std::to_string(start.row + 1) + " starts within its queue's last one";
         }
-        bis = std::max(bis, start.finish);
+        until = std::max(until, start.finish);
     }
     return {};
 }
 
-Befund PruefeSummen(const OrderList& liste, const GameState& stand) {
-    double verbaut = 0;
-    for (const ItemRow& zeile : ItemTable()) {
-        if (stand.Stufe[zeile.item] != liste.ListStufe(zeile.item)) {
+Finding CheckSums(const OrderList& list, const GameState& state) {
+    double spent = 0;
+    for (const ItemRow& row : ItemTable()) {
+        if (state.Stufe[row.item] != list.ListStufe(row.item)) {
             return "a level is wrong";
         }
-        for (Byte stufe = 0; stufe < liste.ListStufe(zeile.item); ++stufe) {
-            const Cost& preis = CostOf(zeile.item, stufe);
-            verbaut = std::accumulate(preis.begin(), preis.end(), verbaut);
+        for (Byte level = 0; level < list.ListStufe(row.item); ++level) {
+            const Cost& cost = CostOf(row.item, level);
+            spent = std::accumulate(cost.begin(), cost.end(), spent);
         }
     }
-    return stand.VerbauteRessourcen == HalfEvenLong(verbaut) ? "" : "the sum of costs is wrong";
+    return state.VerbauteRessourcen == HalfEvenLong(spent) ? "" : "the sum of costs is wrong";
 }
 
-/// Whether a run that goes on tells and does what the whole one did from step `schritt` on.
-bool GehtWeiterWie(const Mitschrift& ganz, std::size_t schritt, const Mitschrift& rest) {
-    const auto starts = std::ranges::lower_bound(ganz.StartIm, schritt) - ganz.StartIm.begin();
-    return std::ranges::equal(ganz.Staende.begin() + static_cast<std::ptrdiff_t>(schritt),
-                              ganz.Staende.end(), rest.Staende.begin(), rest.Staende.end()) &&
-           std::ranges::equal(ganz.Starts.begin() + starts, ganz.Starts.end(), rest.Starts.begin(),
-                              rest.Starts.end());
+/// Whether a run that goes on tells and does what the whole one did from step `step` on.
+bool GoesOnLike(const EventLog& whole, std::size_t step, const EventLog& rest) {
+    const auto starts =
+        std::ranges::lower_bound(whole.startEvents, step) - whole.startEvents.begin();
+    return std::ranges::equal(whole.states.begin() + static_cast<std::ptrdiff_t>(step),
+                              whole.states.end(), rest.states.begin(), rest.states.end()) &&
+           std::ranges::equal(whole.starts.begin() + starts, whole.starts.end(),
+                              rest.starts.begin(), rest.starts.end());
 }
 
 /// A run over the first `n` orders, up to the step that started the last of them.
-Simulation LaufBis(std::span<const Order> auftraege, std::size_t n,
-                   const RunConditions& bedingungen) {
-    Simulation lauf(auftraege.first(n), bedingungen);
-    Mitschrift stumm;
-    while (lauf.NextListRow() < n || lauf.HasPendingOrder()) {
-        lauf.Step(stumm);
+Simulation RunUntil(std::span<const Order> orders, std::size_t n, const RunConditions& conditions) {
+    Simulation simulation(orders.first(n), conditions);
+    EventLog quiet;
+    while (simulation.NextListRow() < n || simulation.HasPendingOrder()) {
+        simulation.Step(quiet);
     }
-    return lauf;
+    return simulation;
 }
 
 /// How many rows the rules wouldn't let be where they stand.
-std::size_t Regelbrueche(const std::vector<std::string>& tags) {
-    std::size_t brueche = 0;
-    OrderList liste;
+std::size_t RuleBreaches(const std::vector<std::string>& tags) {
+    std::size_t breaches = 0;
+    OrderList list;
     for (const std::string& tag : tags) {
         const Order order = Order::FromTag(tag);
-        if (order.kind == Order::Kind::Item && Refusal(order.item, liste)) {
-            ++brueche;
+        if (order.kind == Order::Kind::Item && Refusal(order.item, list)) {
+            ++breaches;
         }
-        liste.Append(order);
+        list.Append(order);
     }
-    return brueche;
+    return breaches;
 }
 
 /// Some edit of some rows.
-ListEdit Irgendeine(const BuildList& liste, std::minstd_rand& zufall) {
-    const std::size_t zeilen = liste.Rows().size();
-    std::vector<std::size_t> gewaehlt;
-    for (std::size_t i = 0; i < zeilen; ++i) {
-        if (zufall() % zeilen < 2) {
-            gewaehlt.push_back(i);
+ListEdit AnyRows(const BuildList& list, std::minstd_rand& random) {
+    const std::size_t rows = list.Rows().size();
+    std::vector<std::size_t> chosen;
+    for (std::size_t i = 0; i < rows; ++i) {
+        if (random() % rows < 2) {
+            chosen.push_back(i);
         }
     }
-    ListEdit umstellung(liste);
-    const std::size_t stelle = zufall() % (zeilen + 1);
-    switch (zufall() % 7) {
+    ListEdit edit(list);
+    const std::size_t position = random() % (rows + 1);
+    switch (random() % 7) {
         case 0:
-            umstellung.MoveUp(gewaehlt);
+            edit.MoveUp(chosen);
             break;
         case 1:
-            umstellung.MoveDown(gewaehlt);
+            edit.MoveDown(chosen);
             break;
         case 2:
-            umstellung.MoveBefore(stelle, gewaehlt);
+            edit.MoveBefore(position, chosen);
             break;
         case 3:
-            umstellung.Remove(gewaehlt);
+            edit.Remove(chosen);
             break;
         case 4:
-            umstellung.Duplicate(gewaehlt);
+            edit.Duplicate(chosen);
             break;
         case 5:
-            umstellung.Insert(stelle, "GX:1:2:3");
+            edit.Insert(position, "GX:1:2:3");
             break;
         default:
-            umstellung.Insert(stelle, ItemTable()[zufall() % kNumItems].ItemCode);
+            edit.Insert(position, ItemTable()[random() % kNumItems].ItemCode);
     }
-    return umstellung;
+    return edit;
 }
 
 /// What dropping rows one by one gives.
-BuildList Nacheinander(const std::vector<std::string>& tags, const RunConditions& bedingungen) {
-    BuildList liste;
+BuildList InSequence(const std::vector<std::string>& tags, const RunConditions& conditions) {
+    BuildList list;
     for (const std::string& tag : tags) {
         const Order order = Order::FromTag(tag);
         static_cast<void>(order.kind == Order::Kind::Item
-                              ? liste.AddItem(order.item, bedingungen)
-                              : liste.AddProduction(order.factors, bedingungen));
+                              ? list.AddItem(order.item, conditions)
+                              : list.AddProduction(order.factors, conditions));
     }
-    return liste;
+    return list;
 }
 
 }  // namespace
 
-std::string Zustand(const BuildList& liste) {
+std::string StateText(const BuildList& list) {
     std::string text;
-    for (const BuildListRow& zeile : liste.Rows()) {
-        text += zeile.text + "|" + zeile.Tag + "|" + zeile.SubItems1 + "|" + zeile.SubItems2 + "|" +
-                (zeile.SubItems2Color == TextColor::Red ? "rot\n" : "schwarz\n");
+    for (const BuildListRow& row : list.Rows()) {
+        text += row.text + "|" + row.Tag + "|" + row.SubItems1 + "|" + row.SubItems2 + "|" +
+                (row.SubItems2Color == TextColor::Red ? "rot\n" : "schwarz\n");
     }
-    for (const ItemRow& zeile : ItemTable()) {
-        text += std::to_string(liste.Orders().ListStufe(zeile.item)) + " ";
+    for (const ItemRow& row : ItemTable()) {
+        text += std::to_string(list.Orders().ListStufe(row.item)) + " ";
     }
-    for (const Byte faktor : liste.Orders().ListFaktor()) {
-        text += std::to_string(faktor) + " ";
+    for (const Byte factor : list.Orders().ListFaktor()) {
+        text += std::to_string(factor) + " ";
     }
     return text;
 }
 
-std::string Ergebnis(const Plan& plan) {
-    std::ostringstream strom;
-    const PlanRun lauf("plan.tvf", IniFile(Bytes(plan)));
-    WriteText(strom, lauf);
-    WriteCsvRows(strom, lauf);
-    strom << JsonText(lauf);
-    return strom.str();
+std::string ResultText(const Plan& plan) {
+    std::ostringstream stream;
+    const PlanRun document("plan.tvf", IniFile(Bytes(plan)));
+    WriteText(stream, document);
+    WriteCsvRows(stream, document);
+    stream << JsonText(document);
+    return stream.str();
 }
 
-Befund PruefeSpeichern(const Plan& plan) {
-    if (!IstSpeicherbar(plan)) {
+Finding CheckSaving(const Plan& plan) {
+    if (!IsSavable(plan)) {
         return {};
     }
     // Both lists are made on a planet of the same temperature.
-    const RunConditions bedingungen;
-    Stumm meldungen;
-    Plan vorher;
-    Plan nachher;
-    if (!ReadPlan(IniFile(Bytes(plan)), vorher, bedingungen, meldungen) ||
-        !ReadPlan(IniFile(Bytes(vorher)), nachher, bedingungen, meldungen)) {
+    const RunConditions conditions;
+    NullSink messages;
+    Plan before;
+    Plan after;
+    if (!ReadPlan(IniFile(Bytes(plan)), before, conditions, messages) ||
+        !ReadPlan(IniFile(Bytes(before)), after, conditions, messages)) {
         return "a saved plan can't be loaded";
     }
-    if (Bytes(nachher) != Bytes(plan) || nachher.LV_Schlafzeiten != plan.LV_Schlafzeiten) {
-        return "a saved plan comes back as\n" + Bytes(nachher);
+    if (Bytes(after) != Bytes(plan) || after.LV_Schlafzeiten != plan.LV_Schlafzeiten) {
+        return "a saved plan comes back as\n" + Bytes(after);
     }
-    if (Zustand(nachher.LV_Bauliste) != Zustand(vorher.LV_Bauliste)) {
-        return "a saved list comes back as\n" + Zustand(nachher.LV_Bauliste);
+    if (StateText(after.LV_Bauliste) != StateText(before.LV_Bauliste)) {
+        return "a saved list comes back as\n" + StateText(after.LV_Bauliste);
     }
-    return Ergebnis(nachher) == Ergebnis(plan) ? "" : "a saved plan has another result";
+    return ResultText(after) == ResultText(plan) ? "" : "a saved plan has another result";
 }
 
-Befund PruefeUndo(const Plan& plan) {
-    const RunConditions bedingungen = BedingungenVon(plan);
-    BuildList liste;
-    for (const BuildListRow& zeile : plan.LV_Bauliste.Rows()) {
-        const std::string vorher = Zustand(liste);
-        const auto anderes = static_cast<ItemId>(liste.Rows().size() % ItemTable().size());
-        if (liste.AddItem(anderes, bedingungen)) {
+Finding CheckUndo(const Plan& plan) {
+    const RunConditions conditions = ConditionsOf(plan);
+    BuildList list;
+    for (const BuildListRow& row : plan.LV_Bauliste.Rows()) {
+        const std::string before = StateText(list);
+        const auto other = static_cast<ItemId>(list.Rows().size() % ItemTable().size());
+        if (list.AddItem(other, conditions)) {
             return "a row can't be added";
         }
-        liste.RemoveLast();
-        if (!liste.AddProduction({{1, 2, 3}}, bedingungen)) {
-            liste.RemoveLast();
+        list.RemoveLast();
+        if (!list.AddProduction({{1, 2, 3}}, conditions)) {
+            list.RemoveLast();
         }
-        if (Zustand(liste) != vorher) {
-            return "an undo leaves\n" + Zustand(liste);
+        if (StateText(list) != before) {
+            return "an undo leaves\n" + StateText(list);
         }
-        if (!liste.Replay(zeile.Tag, bedingungen)) {
+        if (!list.Replay(row.Tag, conditions)) {
             return "a row can't be repeated";
         }
     }
     return {};
 }
 
-Befund PruefeBuecher(const Plan& plan) {
+Finding CheckBooks(const Plan& plan) {
     if (std::holds_alternative<Message>(ParseRunConditions(plan))) {
         return {};
     }
-    const RunConditions bedingungen = BedingungenVon(plan);
-    const OrderList& liste = plan.LV_Bauliste.Orders();
-    Simulation simulation(liste.All(), bedingungen);
-    const GameState anfang = simulation.State();
-    Mitschrift lauf;
-    simulation.RunToEnd(lauf);
-    for (std::size_t i = 0; i < liste.Size(); ++i) {
-        if (lauf.Starts.size() != liste.Size() || lauf.Starts[i].row != i ||
-            lauf.Starts[i].order != liste.All()[i]) {
+    const RunConditions conditions = ConditionsOf(plan);
+    const OrderList& list = plan.LV_Bauliste.Orders();
+    Simulation simulation(list.All(), conditions);
+    const GameState initial = simulation.State();
+    EventLog log;
+    simulation.RunToEnd(log);
+    for (std::size_t i = 0; i < list.Size(); ++i) {
+        if (log.starts.size() != list.Size() || log.starts[i].row != i ||
+            log.starts[i].order != list.All()[i]) {
             return "row " + std::to_string(i + 1) + " hasn't started in its turn";
         }
     }
-    for (const Befund& befund : {PruefeSchlangen(lauf), PruefeVorraete(lauf, anfang),
-                                 PruefeSummen(liste, simulation.State())}) {
-        if (!befund.empty()) {
-            return befund;
+    for (const Finding& finding :
+         {CheckQueues(log), CheckStocks(log, initial), CheckSums(list, simulation.State())}) {
+        if (!finding.empty()) {
+            return finding;
         }
     }
     return {};
 }
 
-Befund PruefeWiederaufnahme(const Plan& plan) {
-    constexpr std::size_t kProben = 12;
-    const RunConditions bedingungen = BedingungenVon(plan);
+Finding CheckResuming(const Plan& plan) {
+    constexpr std::size_t kTrials = 12;
+    const RunConditions conditions = ConditionsOf(plan);
     const auto orders = plan.LV_Bauliste.Orders().All();
-    std::vector<Order> andere(orders.begin(), orders.end());
-    Simulation lauf(orders, bedingungen);
-    std::vector<Simulation> kopien;
-    Mitschrift ganz;
-    while (!lauf.IsFinished()) {
-        kopien.push_back(lauf);
-        lauf.Step(ganz);
+    std::vector<Order> other(orders.begin(), orders.end());
+    Simulation simulation(orders, conditions);
+    std::vector<Simulation> copies;
+    EventLog whole;
+    while (!simulation.IsFinished()) {
+        copies.push_back(simulation);
+        simulation.Step(whole);
     }
-    for (std::size_t schritt = 0; schritt < kopien.size(); schritt += 1 + kopien.size() / kProben) {
-        const GameState vorher = kopien[schritt].State();
-        Simulation kopie = kopien[schritt];
-        Mitschrift rest;
-        kopie.RunToEnd(rest);
-        if (!GehtWeiterWie(ganz, schritt, rest) || kopie.State() != lauf.State()) {
-            return "a copy goes on otherwise from step " + std::to_string(schritt);
+    for (std::size_t step = 0; step < copies.size(); step += 1 + copies.size() / kTrials) {
+        const GameState before = copies[step].State();
+        Simulation copy = copies[step];
+        EventLog rest;
+        copy.RunToEnd(rest);
+        if (!GoesOnLike(whole, step, rest) || copy.State() != simulation.State()) {
+            return "a copy goes on otherwise from step " + std::to_string(step);
         }
-        if (kopien[schritt].State() != vorher) {
+        if (copies[step].State() != before) {
             return "a copy has changed what it was copied from";
         }
     }
-    for (std::size_t n = 1; n < orders.size(); n += 1 + orders.size() / kProben) {
-        std::ranges::copy(orders, andere.begin());
-        std::ranges::reverse(andere.begin() + static_cast<std::ptrdiff_t>(n), andere.end());
-        Simulation neu(andere, bedingungen);
-        Mitschrift vonVorn;
-        neu.RunToEnd(vonVorn);
-        Simulation fortgesetzt = LaufBis(orders, n, bedingungen);
-        fortgesetzt.ReplaceOrders(andere);
-        Mitschrift rest;
-        fortgesetzt.RunToEnd(rest);
-        if (!GehtWeiterWie(vonVorn, vonVorn.Staende.size() - rest.Staende.size(), rest) ||
-            rest.Starts.size() != orders.size() - n) {
+    for (std::size_t n = 1; n < orders.size(); n += 1 + orders.size() / kTrials) {
+        std::ranges::copy(orders, other.begin());
+        std::ranges::reverse(other.begin() + static_cast<std::ptrdiff_t>(n), other.end());
+        Simulation fresh(other, conditions);
+        EventLog fromStart;
+        fresh.RunToEnd(fromStart);
+        Simulation resumed = RunUntil(orders, n, conditions);
+        resumed.ReplaceOrders(other);
+        EventLog rest;
+        resumed.RunToEnd(rest);
+        if (!GoesOnLike(fromStart, fromStart.states.size() - rest.states.size(), rest) ||
+            rest.starts.size() != orders.size() - n) {
             return "a run goes on otherwise behind row " + std::to_string(n);
         }
     }
     return {};
 }
 
-Befund PruefeZeitsprung(const Plan& plan) {
-    constexpr Long kStuecke = 7;
-    constexpr std::int64_t kStunde = 3600;
-    constexpr std::int64_t kGenau = std::int64_t{1} << 40U;
-    const RunConditions bedingungen = BedingungenVon(plan);
-    Simulation lauf(plan.LV_Bauliste.Orders().All(), bedingungen);
-    Mitschrift stumm;
-    lauf.RunToEnd(stumm);
-    GameState gesprungen = lauf.State();
-    GameState gegangen = lauf.State();
-    std::int64_t teiler = kStunde;
-    for (const FixedPoint rate : gesprungen.ProStunde) {
-        teiler = std::gcd(teiler, rate.Raw());
-        if (std::abs(rate.Raw()) > kGenau) {
+Finding CheckTimeJump(const Plan& plan) {
+    constexpr Long kPieces = 7;
+    constexpr std::int64_t kHour = 3600;
+    constexpr std::int64_t kExact = std::int64_t{1} << 40U;
+    const RunConditions conditions = ConditionsOf(plan);
+    Simulation simulation(plan.LV_Bauliste.Orders().All(), conditions);
+    EventLog quiet;
+    simulation.RunToEnd(quiet);
+    GameState jumped = simulation.State();
+    GameState walked = simulation.State();
+    std::int64_t divisor = kHour;
+    for (const FixedPoint rate : jumped.ProStunde) {
+        divisor = std::gcd(divisor, rate.Raw());
+        if (std::abs(rate.Raw()) > kExact) {
             return {};
         }
     }
-    const auto stueck = static_cast<Long>(kStunde / teiler);
-    VergeheZeit(kStuecke * stueck, gesprungen);
-    for (Long i = 0; i < kStuecke; ++i) {
-        VergeheZeit(stueck, gegangen);
+    const auto piece = static_cast<Long>(kHour / divisor);
+    VergeheZeit(kPieces * piece, jumped);
+    for (Long i = 0; i < kPieces; ++i) {
+        VergeheZeit(piece, walked);
     }
-    return gesprungen == gegangen || gesprungen.secsgone == kEndeDerUhr
+    return jumped == walked || jumped.secsgone == kEndOfClock
                ? ""
-               : "a jump is no walk of " + std::to_string(stueck) + " s";
+               : "a jump is no walk of " + std::to_string(piece) + " s";
 }
 
-Befund PruefeWiederholung(const Plan& plan) {
-    PlanRun lauf("plan.tvf", IniFile(Bytes(plan)));
-    const std::string einmal = JsonText(lauf);
-    if (lauf.hasRun) {
-        Stumm meldungen;
-        lauf.run.ResetSimulation(BedingungenVon(lauf.plan));
-        RunSimulation(lauf.plan.LV_Bauliste.Orders().All(), lauf.run, meldungen);
-        lauf.texts.AfterRun(lauf.run.state);
+Finding CheckRepetition(const Plan& plan) {
+    PlanRun document("plan.tvf", IniFile(Bytes(plan)));
+    const std::string once = JsonText(document);
+    if (document.hasRun) {
+        NullSink messages;
+        document.run.ResetSimulation(ConditionsOf(document.plan));
+        RunSimulation(document.plan.LV_Bauliste.Orders().All(), document.run, messages);
+        document.texts.AfterRun(document.run.state);
     }
-    return JsonText(lauf) == einmal ? "" : "a second run has another result";
+    return JsonText(document) == once ? "" : "a second run has another result";
 }
 
-Befund PruefeKurve(const Plan& plan) {
+Finding CheckCurve(const Plan& plan) {
     if (plan.LV_Bauliste.Orders().IsEmpty()) {
         return {};
     }
-    const RunConditions bedingungen = BedingungenVon(plan);
-    const RunTrace ablauf = TraceRun(plan.LV_Bauliste.Orders().All(), bedingungen);
-    Simulation simulation(plan.LV_Bauliste.Orders().All(), bedingungen);
-    Mitschrift lauf;
-    lauf.OnStepDone(simulation.State());
-    simulation.RunToEnd(lauf);
-    const auto nachZeit = [](const HistoryPoint& a, const HistoryPoint& b) {
+    const RunConditions conditions = ConditionsOf(plan);
+    const RunTrace trace = TraceRun(plan.LV_Bauliste.Orders().All(), conditions);
+    Simulation simulation(plan.LV_Bauliste.Orders().All(), conditions);
+    EventLog log;
+    log.OnStepDone(simulation.State());
+    simulation.RunToEnd(log);
+    const auto byTime = [](const HistoryPoint& a, const HistoryPoint& b) {
         return a.time >= b.time;
     };
-    if (std::ranges::adjacent_find(ablauf.curve, nachZeit) != ablauf.curve.end()) {
+    if (std::ranges::adjacent_find(trace.curve, byTime) != trace.curve.end()) {
         return "the curve goes back in time";
     }
-    for (std::size_t i = 0; i < lauf.Staende.size(); ++i) {
-        const SimTime um = lauf.Staende[i].secsgone;
+    for (std::size_t i = 0; i < log.states.size(); ++i) {
+        const SimTime at = log.states[i].secsgone;
         // The run goes on from the last state that isn't behind the moment: those after it are.
-        std::size_t letzter = i;
-        for (std::size_t j = i + 1; j < lauf.Staende.size(); ++j) {
-            letzter = lauf.Staende[j].secsgone <= um ? j : letzter;
+        std::size_t last = i;
+        for (std::size_t j = i + 1; j < log.states.size(); ++j) {
+            last = log.states[j].secsgone <= at ? j : last;
         }
-        const HistoryPoint& punkt = PointAt(ablauf.curve, um);
-        const GameState& stand = lauf.Staende[letzter];
-        if (punkt.time != stand.secsgone || punkt.stock != stand.stock ||
-            punkt.ProStunde != stand.ProStunde || punkt.Stufe != stand.Stufe) {
-            return "the curve is wrong at " + std::to_string(um.Seconds());
+        const HistoryPoint& point = PointAt(trace.curve, at);
+        const GameState& state = log.states[last];
+        if (point.time != state.secsgone || point.stock != state.stock ||
+            point.ProStunde != state.ProStunde || point.Stufe != state.Stufe) {
+            return "the curve is wrong at " + std::to_string(at.Seconds());
         }
     }
-    return ablauf.end == simulation.State() && ablauf.starts == lauf.Starts
+    return trace.end == simulation.State() && trace.starts == log.starts
                ? ""
                : "a run that is drawn is another one";
 }
 
-Befund PruefeUmstellungen(const Plan& plan) {
-    constexpr int kProben = 25;
-    const RunConditions bedingungen = BedingungenVon(plan);
-    std::minstd_rand zufall(static_cast<unsigned>(plan.LV_Bauliste.Rows().size()) + 1);
-    BuildList liste = Nacheinander(plan.LV_Bauliste.Tags(), bedingungen);
-    EditHistory verlauf;
-    std::vector<std::vector<std::string>> staende{liste.Tags()};
-    verlauf.Begin({.tags = liste.Tags()});
-    for (int i = 0; i < kProben; ++i) {
-        const ListEdit umstellung = Irgendeine(liste, zufall);
-        const auto tags = umstellung.Tags();
-        const bool zuLang = tags.size() > OrderList::kMaxSize;
-        const std::size_t brueche = Regelbrueche(liste.Tags());
-        const auto einwand = umstellung.Objection();
-        if (!einwand && (zuLang || Regelbrueche(tags) > brueche)) {
+Finding CheckEdits(const Plan& plan) {
+    constexpr int kTrials = 25;
+    const RunConditions conditions = ConditionsOf(plan);
+    std::minstd_rand random(static_cast<unsigned>(plan.LV_Bauliste.Rows().size()) + 1);
+    BuildList list = InSequence(plan.LV_Bauliste.Tags(), conditions);
+    EditHistory history;
+    std::vector<std::vector<std::string>> states{list.Tags()};
+    history.Begin({.tags = list.Tags()});
+    for (int i = 0; i < kTrials; ++i) {
+        const ListEdit edit = AnyRows(list, random);
+        const auto tags = edit.Tags();
+        const bool tooLong = tags.size() > OrderList::kMaxSize;
+        const std::size_t breaches = RuleBreaches(list.Tags());
+        const auto objection = edit.Objection();
+        if (!objection && (tooLong || RuleBreaches(tags) > breaches)) {
             return "an edit is let be that breaks a rule";
         }
-        if (einwand && !zuLang && brueche == 0 && Regelbrueche(tags) == 0) {
-            return "an edit is refused: " + *einwand;
+        if (objection && !tooLong && breaches == 0 && RuleBreaches(tags) == 0) {
+            return "an edit is refused: " + *objection;
         }
-        if (einwand || tags == staende.back()) {
+        if (objection || tags == states.back()) {
             continue;
         }
-        verlauf.Record({.tags = tags});
-        liste.SetTags(tags, bedingungen);
-        staende.push_back(tags);
-        if (Zustand(liste) != Zustand(Nacheinander(tags, bedingungen))) {
+        history.Record({.tags = tags});
+        list.SetTags(tags, conditions);
+        states.push_back(tags);
+        if (StateText(list) != StateText(InSequence(tags, conditions))) {
             return "an edited list isn't its rows dropped anew";
         }
     }
-    for (std::size_t i = staende.size() - 1; i > 0; --i) {
-        if (verlauf.Undo().tags != staende[i - 1] || verlauf.Redo().tags != staende[i] ||
-            verlauf.Undo().tags != staende[i - 1]) {
+    for (std::size_t i = states.size() - 1; i > 0; --i) {
+        if (history.Undo().tags != states[i - 1] || history.Redo().tags != states[i] ||
+            history.Undo().tags != states[i - 1]) {
             return "an edit can't be taken back and done again";
         }
     }
-    return verlauf.CanUndo() ? "there is more to take back than was done" : "";
+    return history.CanUndo() ? "there is more to take back than was done" : "";
 }
 
-Befund PruefeVergleich(const Plan& plan) {
+Finding CheckComparison(const Plan& plan) {
     if (plan.LV_Bauliste.Orders().IsEmpty()) {
         return {};
     }
-    const RunConditions bedingungen = BedingungenVon(plan);
+    const RunConditions conditions = ConditionsOf(plan);
     const auto orders = plan.LV_Bauliste.Orders().All();
-    std::vector<Order> andere(orders.begin(), orders.end());
-    std::ranges::reverse(andere);
-    andere.resize(andere.size() / 2 + 1);
-    const RunTrace a = TraceRun(orders, bedingungen);
-    const RunTrace b = TraceRun(andere, bedingungen);
+    std::vector<Order> other(orders.begin(), orders.end());
+    std::ranges::reverse(other);
+    other.resize(other.size() / 2 + 1);
+    const RunTrace a = TraceRun(orders, conditions);
+    const RunTrace b = TraceRun(other, conditions);
     if (!Compare(a, a).differences.empty()) {
         return "a run differs from itself";
     }
-    const Comparison hin = Compare(a, b);
-    Comparison her = Compare(b, a);
-    for (ComparisonRow& zeile : her.differences) {
-        std::swap(zeile.a, zeile.b);
+    const Comparison forward = Compare(a, b);
+    Comparison backward = Compare(b, a);
+    for (ComparisonRow& row : backward.differences) {
+        std::swap(row.a, row.b);
     }
-    if (hin.a != her.b || hin.b != her.a || hin.differences != her.differences) {
+    if (forward.a != backward.b || forward.b != backward.a ||
+        forward.differences != backward.differences) {
         return "a comparison has no mirror";
     }
     // Each start of either is in it, or the same in both.
     std::size_t in_a = 0;
     std::size_t in_b = 0;
-    for (const ComparisonRow& zeile : hin.differences) {
-        in_a += zeile.a ? 1U : 0U;
-        in_b += zeile.b ? 1U : 0U;
+    for (const ComparisonRow& row : forward.differences) {
+        in_a += row.a ? 1U : 0U;
+        in_b += row.b ? 1U : 0U;
     }
     return a.starts.size() - in_a == b.starts.size() - in_b ? "" : "a comparison loses orders";
 }
 
-Befund PruefeGesetze(const Plan& plan) {
-    for (const auto gesetz :
-         {PruefeSpeichern, PruefeUndo, PruefeBuecher, PruefeWiederaufnahme, PruefeZeitsprung,
-          PruefeWiederholung, PruefeKurve, PruefeUmstellungen, PruefeVergleich}) {
-        if (Befund befund = gesetz(plan); !befund.empty()) {
-            return befund;
+Finding CheckLaws(const Plan& plan) {
+    for (const auto law : {CheckSaving, CheckUndo, CheckBooks, CheckResuming, CheckTimeJump,
+                           CheckRepetition, CheckCurve, CheckEdits, CheckComparison}) {
+        if (Finding finding = law(plan); !finding.empty()) {
+            return finding;
         }
     }
     return {};
 }
 
-bool KommtZurueck(std::string_view wert) {
+bool ComesBack(std::string_view value) {
     constexpr std::string_view kBlanks = " \t\v\f";
-    constexpr std::size_t kHoechstlaenge = 255;
-    if (wert.empty()) {
+    constexpr std::size_t kMaxLength = 255;
+    if (value.empty()) {
         return true;
     }
-    const bool angefuehrt = wert.size() >= 2 && wert.front() == wert.back() &&
-                            (wert.front() == '"' || wert.front() == '\'');
-    const std::string bytes = To1252(wert);
-    return !angefuehrt && kBlanks.find(wert.front()) == std::string_view::npos &&
-           kBlanks.find(wert.back()) == std::string_view::npos &&
-           wert.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos &&
-           bytes.size() <= kHoechstlaenge && From1252(bytes) == wert;
+    const bool quoted = value.size() >= 2 && value.front() == value.back() &&
+                        (value.front() == '"' || value.front() == '\'');
+    const std::string bytes = To1252(value);
+    return !quoted && kBlanks.find(value.front()) == std::string_view::npos &&
+           kBlanks.find(value.back()) == std::string_view::npos &&
+           value.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos &&
+           bytes.size() <= kMaxLength && From1252(bytes) == value;
 }
 
 }  // namespace tarvelin

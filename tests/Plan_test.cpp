@@ -10,9 +10,9 @@
 namespace tarvelin {
 namespace {
 
-TEST(Bauliste, HaeltZeilenMitTextFaktorUndFarbe) {
-    const Plan plan = PlanAus("GS GM GK GD GX:10:10:0 WKSK WS WS WKT");
-    EXPECT_EQ(Zustand(plan.LV_Bauliste),
+TEST(BuildList, HoldsRowsWithTextFactorAndColor) {
+    const Plan plan = PlanOf("GS GM GK GD GX:10:10:0 WKSK WS WS WKT");
+    EXPECT_EQ(StateText(plan.LV_Bauliste),
               "1|GS|Solarkraftwerk Stufe: 1|1,00|schwarz\n"
               "2|GM|MetallMine Stufe: 1|1,00|schwarz\n"
               "3|GK|KristallMine Stufe: 1|1,00|schwarz\n"
@@ -23,55 +23,55 @@ TEST(Bauliste, HaeltZeilenMitTextFaktorUndFarbe) {
               "8|WS|Solarsatellit Nr.: 2|1,00|schwarz\n"
               "9|WKT|Kl. Transporter Nr: 1|1,00|schwarz\n"
               "1 1 1 1 0 0 0 2 0 1 0 0 0 0 1 0 0 0 0 0 10 10 0 ");
-    EXPECT_EQ(PlanAus("GM").LV_Bauliste.Rows()[0].SubItems2, "0,00");
-    EXPECT_EQ(PlanAus("GX:0:0:0 GM GK GD").LV_Bauliste.Rows()[3].SubItems2, "1,00");
+    EXPECT_EQ(PlanOf("GM").LV_Bauliste.Rows()[0].SubItems2, "0,00");
+    EXPECT_EQ(PlanOf("GX:0:0:0 GM GK GD").LV_Bauliste.Rows()[3].SubItems2, "1,00");
 }
 
-TEST(Bauliste, FaktortextFolgtDerTemperaturDesLetztenLaufs) {
-    EXPECT_EQ(PlanAus("GM WS").LV_Bauliste.Rows()[1].SubItems2, "1,00");
-    EXPECT_EQ(PlanAus("GM WS", {.Temperatur = -100}).LV_Bauliste.Rows()[1].SubItems2, "-0,45");
+TEST(BuildList, FactorTextFollowsTheTemperatureOfTheLastRun) {
+    EXPECT_EQ(PlanOf("GM WS").LV_Bauliste.Rows()[1].SubItems2, "1,00");
+    EXPECT_EQ(PlanOf("GM WS", {.Temperatur = -100}).LV_Bauliste.Rows()[1].SubItems2, "-0,45");
 }
 
-TEST(Bauliste, WeistUnbekanntesUndDie255teZeileAb) {
-    const RunConditions bedingungen;
-    BuildList liste;
-    EXPECT_FALSE(liste.Replay("Quatsch", bedingungen));
-    while (!liste.Orders().IsFull()) {
-        ASSERT_FALSE(liste.AddItem(ItemId::DeutMine, bedingungen));
+TEST(BuildList, RefusesUnknownCodesAndRow255) {
+    const RunConditions conditions;
+    BuildList list;
+    EXPECT_FALSE(list.Replay("Quatsch", conditions));
+    while (!list.Orders().IsFull()) {
+        ASSERT_FALSE(list.AddItem(ItemId::DeutMine, conditions));
     }
-    const std::string voll = Zustand(liste);
-    const Message absage{"Die Bauliste ist voll: mehr als 254 Einträge sind nicht möglich...",
-                         "Schwerer Ausnahmefehler 1337 !"};
-    EXPECT_EQ(liste.AddItem(ItemId::SKW, bedingungen), absage);
-    EXPECT_EQ(liste.AddProduction(kFullFactors, bedingungen), absage);
-    EXPECT_EQ(Zustand(liste), voll);
-    EXPECT_EQ(liste.Rows().size(), 254U);
-    EXPECT_EQ(liste.Rows().back().SubItems2, "0,00");  // a need beyond 32 bits
-    liste.Clear();
-    EXPECT_EQ(Zustand(liste), Zustand(BuildList()));
+    const std::string full = StateText(list);
+    const Message refusal{"Die Bauliste ist voll: mehr als 254 Einträge sind nicht möglich...",
+                          "Schwerer Ausnahmefehler 1337 !"};
+    EXPECT_EQ(list.AddItem(ItemId::SKW, conditions), refusal);
+    EXPECT_EQ(list.AddProduction(kFullFactors, conditions), refusal);
+    EXPECT_EQ(StateText(list), full);
+    EXPECT_EQ(list.Rows().size(), 254U);
+    EXPECT_EQ(list.Rows().back().SubItems2, "0,00");  // a need beyond 32 bits
+    list.Clear();
+    EXPECT_EQ(StateText(list), StateText(BuildList()));
 }
 
-TEST(Auftrag, VerstehtNurGanzeFaktorenVonNullBisZehn) {
-    for (const char* tag : {"GX:8:10:5", "GX: 8 :+010:-0", "GXfoo:8:10:5:99", "GX8:1:2:3"}) {
-        EXPECT_EQ(Order::FromTag(tag).kind, Order::Kind::Production) << tag;
+TEST(Order, UnderstandsOnlyWholeFactorsFromZeroToTen) {
+    for (const char* day : {"GX:8:10:5", "GX: 8 :+010:-0", "GXfoo:8:10:5:99", "GX8:1:2:3"}) {
+        EXPECT_EQ(Order::FromTag(day).kind, Order::Kind::Production) << day;
     }
-    for (const char* tag : {"GX", "GX:8:10", "GX:8:10:11", "GX:8:10:-1", "GX:8:10:5,0",
+    for (const char* day : {"GX", "GX:8:10", "GX:8:10:11", "GX:8:10:-1", "GX:8:10:5,0",
                             "GX::8:10:5", "gx:8:10:5", "GX:8:10:", "gm", "GM ", "", "G"}) {
-        EXPECT_EQ(Order::FromTag(tag).kind, Order::Kind::Unknown) << tag;
+        EXPECT_EQ(Order::FromTag(day).kind, Order::Kind::Unknown) << day;
     }
 }
 
 /// An item, the rows that it needs, and what is told as missing: all of it or, where there are
 /// words for that, each need alone. A text that begins with a blank is whole.
-struct Regelfall {
-    const char* Item;
-    std::vector<std::pair<std::string, int>> Braucht;
-    std::string Alles;
-    std::array<std::string, 2> Einzeln = {};
+struct RuleCase {
+    const char* item;
+    std::vector<std::pair<std::string, int>> requirements;
+    std::string everything;
+    std::array<std::string, 2> single = {};
 };
 
 // clang-format off
-const std::vector<Regelfall> kRegelfaelle{
+const std::vector<RuleCase> kRuleCases{
     {"GM", {}, ""}, {"GK", {}, ""}, {"GD", {}, ""}, {"GS", {}, ""},
     {"GR", {{"GD", 1}, {"GS", 1}}, "Noch keine Deuteriummine oder kein Solarkraftwerk"},
     {"GF", {{"GD", 1}, {"GS", 1}}, "Noch keine Deuteriummine oder kein Solarkraftwerk"},
@@ -103,54 +103,55 @@ const std::vector<Regelfall> kRegelfaelle{
 // clang-format on
 
 /// What an item says when one row of some of its needs isn't in the list.
-std::string AbsageOhne(const Regelfall& fall, const std::set<std::size_t>& zuWenige) {
+std::string RefusalWithout(const RuleCase& testCase, const std::set<std::size_t>& tooFew) {
     std::string codes;
-    for (std::size_t i = 0; i < fall.Braucht.size(); ++i) {
-        const auto& [code, anzahl] = fall.Braucht[i];
-        for (int n = zuWenige.contains(i) ? 1 : 0; n < anzahl; ++n) {
+    for (std::size_t i = 0; i < testCase.requirements.size(); ++i) {
+        const auto& [code, count] = testCase.requirements[i];
+        for (int n = tooFew.contains(i) ? 1 : 0; n < count; ++n) {
             codes += code + " ";
         }
     }
-    return std::string(
-        Refusal(*ItemFromCode(fall.Item), PlanAus(codes).LV_Bauliste.Orders()).value_or("offen"));
+    return std::string(Refusal(*ItemFromCode(testCase.item), PlanOf(codes).LV_Bauliste.Orders())
+                           .value_or("offen"));
 }
 
-TEST(Regeln, OeffnenAufDieZeileGenau) {
-    const auto satz = [](const std::string& fehlt, const char* tun) {
-        return " " + fehlt + " in der Bauliste, " + tun + " wäre unmöglich! ";
+TEST(Rules, OpenExactlyAtTheRow) {
+    const auto sentence = [](const std::string& missing, const char* action) {
+        return " " + missing + " in der Bauliste, " + action + " wäre unmöglich! ";
     };
-    for (const Regelfall& fall : kRegelfaelle) {
-        SCOPED_TRACE(fall.Item);
-        EXPECT_EQ(AbsageOhne(fall, {}), "offen");
-        const std::string alles =
-            fall.Alles.starts_with(' ') ? fall.Alles : satz(fall.Alles, "bauen");
-        for (std::size_t i = 0; i < fall.Braucht.size(); ++i) {
-            const std::string& code = fall.Braucht[i].first;
-            const std::string einzeln =
-                fall.Einzeln[0].empty()
-                    ? alles
-                    : satz("Noch keine " + fall.Einzeln.at(i), code == "FE" ? "forschen" : "bauen");
-            EXPECT_EQ(AbsageOhne(fall, {i}), einzeln) << code;
-            EXPECT_EQ(AbsageOhne(fall, {0, 1, 2}), alles);
+    for (const RuleCase& testCase : kRuleCases) {
+        SCOPED_TRACE(testCase.item);
+        EXPECT_EQ(RefusalWithout(testCase, {}), "offen");
+        const std::string everything = testCase.everything.starts_with(' ')
+                                           ? testCase.everything
+                                           : sentence(testCase.everything, "bauen");
+        for (std::size_t i = 0; i < testCase.requirements.size(); ++i) {
+            const std::string& code = testCase.requirements[i].first;
+            const std::string single = testCase.single[0].empty()
+                                           ? everything
+                                           : sentence("Noch keine " + testCase.single.at(i),
+                                                      code == "FE" ? "forschen" : "bauen");
+            EXPECT_EQ(RefusalWithout(testCase, {i}), single) << code;
+            EXPECT_EQ(RefusalWithout(testCase, {0, 1, 2}), everything);
         }
     }
 }
 
-TEST(Regeln, LassenGenauEineKuppelAllein) {
-    const auto kuppel = [](const char* codes) {
-        return Refusal(ItemId::klSchK, PlanAus(codes).LV_Bauliste.Orders()).value_or("offen");
+TEST(Rules, AllowASingleDomeOnly) {
+    const auto dome = [](const char* codes) {
+        return Refusal(ItemId::klSchK, PlanOf(codes).LV_Bauliste.Orders()).value_or("offen");
     };
-    for (const char* eine : {"WKSK", "GW FSCH FSCH WKSK"}) {
-        EXPECT_EQ(kuppel(eine), " Bereits eine kleine Schildkuppel in der Bauliste vorhanden! ");
+    for (const char* one : {"WKSK", "GW FSCH FSCH WKSK"}) {
+        EXPECT_EQ(dome(one), " Bereits eine kleine Schildkuppel in der Bauliste vorhanden! ");
     }
-    EXPECT_EQ(kuppel("WKSK FSCH WKSK GW FSCH"), "offen");
+    EXPECT_EQ(dome("WKSK FSCH WKSK GW FSCH"), "offen");
 }
 
-TEST(Hovertexte, NennenKostenUndEnergieDerNaechstenZeile) {
+TEST(HoverInfo, NamesCostAndEnergyOfTheNextRow) {
     using enum ItemId;
-    RunConditions bedingungen;
+    RunConditions conditions;
     const auto text = [&](const char* codes, ItemId item) {
-        return HoverInfoFor(item, PlanAus(codes).LV_Bauliste.Orders(), bedingungen).tooltip;
+        return HoverInfoFor(item, PlanOf(codes).LV_Bauliste.Orders(), conditions).tooltip;
     };
     EXPECT_EQ(text("", DeutMine),
               " Deuteriummine  |  Kosten:  Met: 225  Kris: 75  Deut: 0  |  Energie: -22");
@@ -161,117 +162,118 @@ TEST(Hovertexte, NennenKostenUndEnergieDerNaechstenZeile) {
     EXPECT_EQ(text("GW WR WR", Rakws), " Rakentenwerfer  |  Kosten:  Met: 2000  Kris: 0  Deut: 0");
     EXPECT_EQ(text("GW WS", Solsats),
               " Solarsatellit  |  Kosten:  Met: 0  Kris: 2000  Deut: 500  |  Energie: +20");
-    bedingungen.Temperatur = 30;
+    conditions.Temperatur = 30;
     EXPECT_TRUE(text("GW WS", Solsats).ends_with("  |  Energie: +27"));
-    const HoverInfo zu = HoverInfoFor(Rakws, OrderList(), bedingungen);
-    EXPECT_FALSE(zu.dragEnabled);
-    EXPECT_EQ(zu.tooltip, " Noch keine Raumschiffwerft in der Bauliste, bauen wäre unmöglich! ");
+    const HoverInfo closed = HoverInfoFor(Rakws, OrderList(), conditions);
+    EXPECT_FALSE(closed.dragEnabled);
+    EXPECT_EQ(closed.tooltip,
+              " Noch keine Raumschiffwerft in der Bauliste, bauen wäre unmöglich! ");
 }
 
-TEST(Listenverlauf, TippenInEineEingabeIstEinSchritt) {
-    EditHistory verlauf;
-    const auto tippe = [&](const char* eingabe, const char* temperatur) {
-        PlanSnapshot stand;
-        stand.parameters.TempMax = temperatur;
-        verlauf.Record(stand, eingabe);
+TEST(EditHistory, TypingIntoOneInputIsOneStep) {
+    EditHistory history;
+    const auto type = [&](const char* input, const char* temperature) {
+        PlanSnapshot snapshot;
+        snapshot.parameters.TempMax = temperature;
+        history.Record(snapshot, input);
     };
     for (const char* const text : {"", "2", "25"}) {
-        tippe("TempMax", text);
+        type("TempMax", text);
     }
-    tippe("TempMin", "26");
-    tippe("TempMax", "27");
-    EXPECT_EQ(verlauf.Undo().parameters.TempMax, "26");
-    tippe("TempMax", "28");
-    EXPECT_FALSE(verlauf.CanRedo());
-    tippe("TempMax", "26");
-    EXPECT_EQ(verlauf.Undo().parameters.TempMax, "25") << "typed back to what it was";
-    EXPECT_EQ(verlauf.Undo().parameters.TempMax, "11");
-    EXPECT_FALSE(verlauf.CanUndo());
+    type("TempMin", "26");
+    type("TempMax", "27");
+    EXPECT_EQ(history.Undo().parameters.TempMax, "26");
+    type("TempMax", "28");
+    EXPECT_FALSE(history.CanRedo());
+    type("TempMax", "26");
+    EXPECT_EQ(history.Undo().parameters.TempMax, "25") << "typed back to what it was";
+    EXPECT_EQ(history.Undo().parameters.TempMax, "11");
+    EXPECT_FALSE(history.CanUndo());
 }
 
-TEST(Listenverlauf, EinAndersGeschriebenerTagIstKeinSchritt) {
-    EditHistory verlauf;
-    PlanSnapshot stand;
-    const auto tag = [&](const char* text) -> PlanSnapshot& {
-        stand.parameters.UniStartZeitTag = text;
-        return stand;
+TEST(EditHistory, ADayWrittenInAnotherWayIsNoStep) {
+    EditHistory history;
+    PlanSnapshot snapshot;
+    const auto day = [&](const char* text) -> PlanSnapshot& {
+        snapshot.parameters.UniStartZeitTag = text;
+        return snapshot;
     };
-    verlauf.Begin(tag("05"));
-    EXPECT_TRUE(verlauf.Record(tag("5"), "Tag"));
-    stand.tags = {"GM"};
-    EXPECT_TRUE(verlauf.Record(stand));
-    const StartParameters vorher = stand.parameters;
-    verlauf.RewriteDay(vorher, tag("05").parameters);
-    EXPECT_FALSE(verlauf.Record(stand));
-    EXPECT_EQ(verlauf.StepCount(), 1U);
-    EXPECT_EQ(verlauf.Undo().parameters.UniStartZeitTag, "05");
-    EXPECT_TRUE(verlauf.CanRedo() && !verlauf.CanUndo());
+    history.Begin(day("05"));
+    EXPECT_TRUE(history.Record(day("5"), "Tag"));
+    snapshot.tags = {"GM"};
+    EXPECT_TRUE(history.Record(snapshot));
+    const StartParameters before = snapshot.parameters;
+    history.RewriteDay(before, day("05").parameters);
+    EXPECT_FALSE(history.Record(snapshot));
+    EXPECT_EQ(history.StepCount(), 1U);
+    EXPECT_EQ(history.Undo().parameters.UniStartZeitTag, "05");
+    EXPECT_TRUE(history.CanRedo() && !history.CanUndo());
 }
 
-TEST(Startparameter, WochentagUndStartdatum) {
-    StartParameters parameter = PlanAus("").parameters;
-    EXPECT_EQ(RefreshWeekday(parameter).caption, "Sa.");
-    EXPECT_EQ(RefreshWeekday(parameter).hint, "Samstag");
-    parameter.UniStartZeitTag = "5";
-    EXPECT_EQ(*ReadUniStartZeit(parameter), *ParseDateTime("05.11.2006 12:30:00"));
-    parameter.UniStartZeitMonat = "2";
-    parameter.UniStartZeitTag = "30";
-    EXPECT_EQ(RefreshWeekday(parameter).caption, "Err.");
-    EXPECT_FALSE(ReadUniStartZeit(parameter));
-    PadStartDate(parameter);
-    EXPECT_EQ(parameter.UniStartZeitMonat, "02");
+TEST(StartParameters, WeekdayAndStartDate) {
+    StartParameters parameters = PlanOf("").parameters;
+    EXPECT_EQ(RefreshWeekday(parameters).caption, "Sa.");
+    EXPECT_EQ(RefreshWeekday(parameters).hint, "Samstag");
+    parameters.UniStartZeitTag = "5";
+    EXPECT_EQ(*ReadUniStartZeit(parameters), *ParseDateTime("05.11.2006 12:30:00"));
+    parameters.UniStartZeitMonat = "2";
+    parameters.UniStartZeitTag = "30";
+    EXPECT_EQ(RefreshWeekday(parameters).caption, "Err.");
+    EXPECT_FALSE(ReadUniStartZeit(parameters));
+    PadStartDate(parameters);
+    EXPECT_EQ(parameters.UniStartZeitMonat, "02");
     EXPECT_EQ(KlickPufferText(600), "10:00");
 }
 
-TEST(Startparameter, TemperaturenHaengenZusammen) {
-    StartParameters parameter;
+TEST(StartParameters, TemperaturesAreLinked) {
+    StartParameters parameters;
     const auto max = [&](const char* text) {
-        ChangeTempMax(parameter, text);
-        return parameter.tempMin + " " + parameter.TempMax;
+        ChangeTempMax(parameters, text);
+        return parameters.tempMin + " " + parameters.TempMax;
     };
     EXPECT_EQ(max("011"), "-29 11");
     EXPECT_EQ(max("+5"), "-35 5");
     EXPECT_EQ(max("0,1"), "-39,9 0,1");
     EXPECT_EQ(max("abc"), "-39,9 abc");
     EXPECT_EQ(max(" 12,05 "), "-27,95 12,05");
-    ChangeTempMin(parameter, "-10");
-    EXPECT_EQ(parameter.TempMax, "30");
-    ChangeTempMin(parameter, "");
-    EXPECT_EQ(parameter.TempMax, "30");
-    const auto grad = [&](const char* text) {
-        parameter.TempMax = text;
-        return ParseTemperature(parameter);
+    ChangeTempMin(parameters, "-10");
+    EXPECT_EQ(parameters.TempMax, "30");
+    ChangeTempMin(parameters, "");
+    EXPECT_EQ(parameters.TempMax, "30");
+    const auto degrees = [&](const char* text) {
+        parameters.TempMax = text;
+        return ParseTemperature(parameters);
     };
-    EXPECT_EQ(grad("25,5"), 26);
-    EXPECT_EQ(grad("24,5"), 24);
-    EXPECT_EQ(grad("-32768,5"), -32768);
+    EXPECT_EQ(degrees("25,5"), 26);
+    EXPECT_EQ(degrees("24,5"), 24);
+    EXPECT_EQ(degrees("-32768,5"), -32768);
     for (const char* text : {"-32769", "32767,5", "99999999999999999999", "12a", ""}) {
-        EXPECT_FALSE(grad(text)) << text;
+        EXPECT_FALSE(degrees(text)) << text;
     }
 }
 
-TEST(Schlaftabelle, NimmtNurWasSichNichtUeberschneidet) {
-    SleepTable tabelle{{"kein", "Datum"}};
-    const auto fuege = [&](const char* stunde, const char* minute, const char* dauerStunden,
-                           const char* dauerMinuten) {
-        const auto meldung =
-            AddSleepRow({"18.11.2006", stunde, minute, dauerStunden, dauerMinuten}, tabelle);
-        return meldung ? meldung->text : std::to_string(tabelle.size());
+TEST(SleepTable, TakesOnlyWhatDoesNotOverlap) {
+    SleepTable table{{"kein", "Datum"}};
+    const auto insert = [&](const char* hour, const char* minute, const char* durationHours,
+                            const char* durationMinutes) {
+        const auto message =
+            AddSleepRow({"18.11.2006", hour, minute, durationHours, durationMinutes}, table);
+        return message ? message->text : std::to_string(table.size());
     };
-    const std::string trifft = "Kein überschneidenden Zeiträumen eingegeben...";
-    EXPECT_EQ(fuege("10", "00", "2", "00"), "2");
-    EXPECT_EQ(tabelle.back(), (SleepRow{"18.11.2006 10:00", "18.11.2006 12:00"}));
-    EXPECT_EQ(fuege("10", "00", "2", "00"), trifft);
-    EXPECT_EQ(fuege("11", "59", "0", "01"), trifft);
-    EXPECT_EQ(fuege("09", "00", "1", "00"), trifft);  // ends where the row begins
-    EXPECT_EQ(fuege("09", "00", "0", "59"), "3");
-    EXPECT_EQ(fuege("12", "00", "0", "00"), "4");     // begins where the row ends
-    EXPECT_EQ(fuege("08", "00", "9", "00"), trifft);  // around rows
-    EXPECT_EQ(fuege("23", "30", "1,5", "30"), "5");
-    EXPECT_EQ(tabelle.back(), (SleepRow{"18.11.2006 23:30", "19.11.2006 01:30"}));
-    EXPECT_EQ(fuege("24", "00", "x", "00"), "Keine gültige Dauer eingegeben...");
-    EXPECT_EQ(fuege("24", "00", "1", "00"), "Kein gültiges Datum eingegeben...");
-    EXPECT_EQ(ParseSleepTable(tabelle).size(), 4U);
+    const std::string hits = "Kein überschneidenden Zeiträumen eingegeben...";
+    EXPECT_EQ(insert("10", "00", "2", "00"), "2");
+    EXPECT_EQ(table.back(), (SleepRow{"18.11.2006 10:00", "18.11.2006 12:00"}));
+    EXPECT_EQ(insert("10", "00", "2", "00"), hits);
+    EXPECT_EQ(insert("11", "59", "0", "01"), hits);
+    EXPECT_EQ(insert("09", "00", "1", "00"), hits);  // ends where the row begins
+    EXPECT_EQ(insert("09", "00", "0", "59"), "3");
+    EXPECT_EQ(insert("12", "00", "0", "00"), "4");   // begins where the row ends
+    EXPECT_EQ(insert("08", "00", "9", "00"), hits);  // around rows
+    EXPECT_EQ(insert("23", "30", "1,5", "30"), "5");
+    EXPECT_EQ(table.back(), (SleepRow{"18.11.2006 23:30", "19.11.2006 01:30"}));
+    EXPECT_EQ(insert("24", "00", "x", "00"), "Keine gültige Dauer eingegeben...");
+    EXPECT_EQ(insert("24", "00", "1", "00"), "Kein gültiges Datum eingegeben...");
+    EXPECT_EQ(ParseSleepTable(table).size(), 4U);
     EXPECT_EQ(SleepEndText({"18.11.2006", "22", "30", "01", "00"}), "Sa.  18.11.2006 23:30");
     EXPECT_EQ(SleepEndText({"18.11.2006", "22", "30", "", "00"}), "Error");
     EXPECT_EQ(SleepEndText({"18.11.2006", "22", "60", "1", "00"}), "Error");

@@ -18,109 +18,109 @@ namespace tarvelin {
 namespace {
 
 /// Presses a button of the box that comes up, and keeps what it showed.
-class Druecker {
+class ButtonPresser {
   public:
-    explicit Druecker(const QString& knopf) {
-        m_takt.setInterval(10);
-        QObject::connect(&m_takt, &QTimer::timeout, [this, knopf] {
+    explicit ButtonPresser(const QString& button) {
+        m_timer.setInterval(10);
+        QObject::connect(&m_timer, &QTimer::timeout, [this, button] {
             auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (box == nullptr) {
                 return;
             }
-            constexpr int kVersuche = 100;
-            if (++m_versuche > kVersuche) {
-                ADD_FAILURE() << "no button " << knopf.toStdString();
+            constexpr int kTries = 100;
+            if (++m_tries > kTries) {
+                ADD_FAILURE() << "no button " << button.toStdString();
                 box->reject();
             }
-            Titel = box->windowTitle();
-            Symbol = box->icon();
-            Text = box->text();
-            Format = box->textFormat();
+            title = box->windowTitle();
+            icon = box->icon();
+            text = box->text();
+            format = box->textFormat();
             if (box->checkBox() != nullptr) {
-                box->checkBox()->setChecked(Kaestchen);
+                box->checkBox()->setChecked(checkBox);
             }
             for (QAbstractButton* const b : box->buttons()) {
-                Knoepfe << b->text().remove(QLatin1Char('&'));
-                if (Knoepfe.back() == knopf) {
+                buttons << b->text().remove(QLatin1Char('&'));
+                if (buttons.back() == button) {
                     b->click();
                 }
             }
         });
-        m_takt.start();
+        m_timer.start();
     }
 
-    QString Titel;
-    QString Text;
-    QStringList Knoepfe;
-    QMessageBox::Icon Symbol{};
-    Qt::TextFormat Format{};
-    bool Kaestchen = false;
+    QString title;
+    QString text;
+    QStringList buttons;
+    QMessageBox::Icon icon{};
+    Qt::TextFormat format{};
+    bool checkBox = false;
 
   private:
-    QTimer m_takt;
-    int m_versuche = 0;
+    QTimer m_timer;
+    int m_tries = 0;
 };
 
-TEST(Meldungsfenster, ZeigtMeldungenWieSieSind) {
-    Druecker druecker(QStringLiteral("OK"));
+TEST(QtDialogs, ShowsMessagesAsTheyAre) {
+    ButtonPresser presser(QStringLiteral("OK"));
     QtDialogs().Show({.text = "a < b & <b>c</b>", .title = ""});
-    EXPECT_EQ(druecker.Titel, QStringLiteral("Tarvelin"));
-    EXPECT_EQ(druecker.Text, QStringLiteral("a < b & <b>c</b>"));
-    EXPECT_EQ(druecker.Format, Qt::PlainText);
-    EXPECT_EQ(druecker.Symbol, QMessageBox::Critical);
-    EXPECT_EQ(druecker.Knoepfe, QStringList{QStringLiteral("OK")});
+    EXPECT_EQ(presser.title, QStringLiteral("Tarvelin"));
+    EXPECT_EQ(presser.text, QStringLiteral("a < b & <b>c</b>"));
+    EXPECT_EQ(presser.format, Qt::PlainText);
+    EXPECT_EQ(presser.icon, QMessageBox::Critical);
+    EXPECT_EQ(presser.buttons, QStringList{QStringLiteral("OK")});
 }
 
-TEST(Meldungsfenster, FragtAufDeutsch) {
-    for (const bool ja : {true, false}) {
-        Druecker druecker(ja ? QStringLiteral("Ja") : QStringLiteral("Nein"));
-        EXPECT_EQ(QtDialogs().Ask({.text = "Wirklich?", .title = "Frage..."}), ja);
-        EXPECT_EQ(druecker.Titel, QStringLiteral("Frage..."));
-        EXPECT_EQ(druecker.Knoepfe.size(), 2);
+TEST(QtDialogs, AsksInGerman) {
+    for (const bool yes : {true, false}) {
+        ButtonPresser presser(yes ? QStringLiteral("Ja") : QStringLiteral("Nein"));
+        EXPECT_EQ(QtDialogs().Ask({.text = "Wirklich?", .title = "Frage..."}), yes);
+        EXPECT_EQ(presser.title, QStringLiteral("Frage..."));
+        EXPECT_EQ(presser.buttons.size(), 2);
     }
 }
 
-TEST(Meldungsfenster, AbstellbareHabenEinKaestchen) {
-    for (const bool ab : {true, false}) {
-        Druecker druecker(QStringLiteral("OK"));
-        druecker.Kaestchen = ab;
-        EXPECT_EQ(QtDialogs().ShowSuppressible({.text = "Nochmal", .title = ""}), !ab);
+TEST(QtDialogs, SuppressibleOnesHaveACheckBox) {
+    for (const bool from : {true, false}) {
+        ButtonPresser presser(QStringLiteral("OK"));
+        presser.checkBox = from;
+        EXPECT_EQ(QtDialogs().ShowSuppressible({.text = "Nochmal", .title = ""}), !from);
     }
 }
 
-TEST(Meldungsfenster, NimmtAuchDenNamenEinerDateiDieFehlt) {
-    QtDialogs boxen;
-    const Ordner ordner;
-    SchreibeDatei(ordner / "plan.tvf", std::string(1234, ';'));
-    std::set<QString> texte;
-    QTimer::singleShot(0, [&texte] {
-        auto* const dateien = qobject_cast<QDialog*>(QApplication::activeModalWidget())
-                                  ->findChild<QTreeView*>(QStringLiteral("treeView"));
-        const auto lies = [&] {
-            const auto wurzel = dateien->rootIndex();
-            for (int spalte = 0; spalte < dateien->model()->columnCount(wurzel); ++spalte) {
-                texte.insert(dateien->model()->index(0, spalte, wurzel).data().toString());
+TEST(QtDialogs, TakesTheNameOfAMissingFileToo) {
+    QtDialogs dialogs;
+    const TempFolder folder;
+    WriteFile(folder / "plan.tvf", std::string(1234, ';'));
+    std::set<QString> texts;
+    QTimer::singleShot(0, [&texts] {
+        auto* const files = qobject_cast<QDialog*>(QApplication::activeModalWidget())
+                                ->findChild<QTreeView*>(QStringLiteral("treeView"));
+        const auto read = [&] {
+            const auto root = files->rootIndex();
+            for (int column = 0; column < files->model()->columnCount(root); ++column) {
+                texts.insert(files->model()->index(0, column, root).data().toString());
             }
-            return texte.contains(QStringLiteral("plan.tvf"));
+            return texts.contains(QStringLiteral("plan.tvf"));
         };
-        EXPECT_TRUE(QTest::qWaitFor(lies));
+        EXPECT_TRUE(QTest::qWaitFor(read));
         auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))
             ->setText(QStringLiteral("fehlt.tvf"));
         dialog->accept();
     });
-    EXPECT_EQ(boxen.AskForFile(Dialogs::Purpose::Load, ordner / ""), ordner / "fehlt.tvf");
-    EXPECT_TRUE(texte.contains(QStringLiteral("1,21 KiB"))) << "in German, whatever the system";
+    EXPECT_EQ(dialogs.AskForFile(Dialogs::Purpose::Load, folder / ""), folder / "fehlt.tvf");
+    EXPECT_TRUE(texts.contains(QStringLiteral("1,21 KiB"))) << "in German, whatever the system";
 }
 
-TEST(Meldungsfenster, AmEndeGehtZuWasOffenIst) {
-    QtDialogs boxen;
-    QTimer::singleShot(0, [&] { boxen.CloseAll(); });
-    EXPECT_FALSE(boxen.Ask({.text = "Wirklich?", .title = ""}));
+TEST(QtDialogs, AtTheEndClosesWhatIsOpen) {
+    QtDialogs dialogs;
+    QTimer::singleShot(0, [&] { dialogs.CloseAll(); });
+    EXPECT_FALSE(dialogs.Ask({.text = "Wirklich?", .title = ""}));
     // None of them waits for anybody.
-    boxen.Show({.text = "Noch eine", .title = ""});
-    EXPECT_FALSE(boxen.Ask({.text = "Und noch eine?", .title = ""}));
-    EXPECT_TRUE(boxen.AskForFile(Dialogs::Purpose::Load, ".").empty());
+    dialogs.Show({.text = "Noch eine", .title = ""});
+    EXPECT_FALSE(dialogs.Ask({.text = "Und noch eine?", .title = ""}));
+    EXPECT_TRUE(dialogs.AskForFile(Dialogs::Purpose::Load, ".").empty());
 }
 
 }  // namespace

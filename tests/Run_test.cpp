@@ -8,156 +8,156 @@
 namespace tarvelin {
 namespace {
 
-Plan MitPuffer(std::string_view tags, int puffer) {
-    Plan plan = PlanAus(tags);
-    plan.parameters.KlickPuffer = puffer;
+Plan WithKlickPuffer(std::string_view tags, int buffer) {
+    Plan plan = PlanOf(tags);
+    plan.parameters.KlickPuffer = buffer;
     return plan;
 }
 
-TEST(Ergebnistexte, FolgenLaufClearUndReset) {
-    const Probe probe(MitPuffer("GM", 5));
-    ResultTexts texte;
-    texte.AfterRun(probe.Gelaufen.state);
-    EXPECT_EQ(texte.LBL_Timegone2, "Dauer: 00 Tage 00:01:53");
-    EXPECT_EQ(texte.LBL_Punkte, "0,075 P");
-    texte.AfterClear();
-    EXPECT_EQ(texte.LBL_Timegone + texte.LBL_Met, "Dauer: dd:hh:mm:ss500");
-    EXPECT_EQ(texte.LBL_Punkte, "0,075 P");
-    texte.AfterReset();
-    EXPECT_EQ(texte.LBL_Timegone2 + texte.LBL_Punkte, "Dauer: dd:hh:mm:ss0");
+TEST(ResultTexts, FollowRunClearAndReset) {
+    const TestRun trial(WithKlickPuffer("GM", 5));
+    ResultTexts texts;
+    texts.AfterRun(trial.run.state);
+    EXPECT_EQ(texts.LBL_Timegone2, "Dauer: 00 Tage 00:01:53");
+    EXPECT_EQ(texts.LBL_Punkte, "0,075 P");
+    texts.AfterClear();
+    EXPECT_EQ(texts.LBL_Timegone + texts.LBL_Met, "Dauer: dd:hh:mm:ss500");
+    EXPECT_EQ(texts.LBL_Punkte, "0,075 P");
+    texts.AfterReset();
+    EXPECT_EQ(texts.LBL_Timegone2 + texts.LBL_Punkte, "Dauer: dd:hh:mm:ss0");
 }
 
-TEST(Startbedingungen, WerdenDerReiheNachGelesen) {
-    struct Fall {
-        const char* Tags;
-        const char* Temperatur;
-        const char* Tag;
-        std::vector<std::string> Texte;
+TEST(RunConditions, AreParsedInOrder) {
+    struct Case {
+        const char* tags;
+        const char* temperature;
+        const char* tag;
+        std::vector<std::string> texts;
     };
-    for (const auto& [tags, temperatur, tag, texte] :
-         {Fall{"", "x", "x", {"Die Bauliste ist leer..."}},
-          Fall{"GM", "x", "x", {"Keine gültige Temperatur eingegeben..."}},
-          Fall{"GM", "40000", "18", {"Keine gültige Temperatur eingegeben..."}},
-          Fall{"GM", "11", "x", {"Kein gültiges Datum eingegeben..."}},
-          Fall{"GM", "11", "18", {}}}) {
-        Plan plan = PlanAus(tags);
-        plan.parameters.TempMax = temperatur;
-        plan.parameters.UniStartZeitTag = tag;
-        const Probe probe(plan);
-        EXPECT_EQ(probe.Meldungen.Texte, texte);
-        EXPECT_EQ(probe.Gelungen, texte.empty());
+    for (const auto& [tags, temperature, day, texts] :
+         {Case{"", "x", "x", {"Die Bauliste ist leer..."}},
+          Case{"GM", "x", "x", {"Keine gültige Temperatur eingegeben..."}},
+          Case{"GM", "40000", "18", {"Keine gültige Temperatur eingegeben..."}},
+          Case{"GM", "11", "x", {"Kein gültiges Datum eingegeben..."}},
+          Case{"GM", "11", "18", {}}}) {
+        Plan plan = PlanOf(tags);
+        plan.parameters.TempMax = temperature;
+        plan.parameters.UniStartZeitTag = day;
+        const TestRun trial(plan);
+        EXPECT_EQ(trial.messages.texts, texts);
+        EXPECT_EQ(trial.succeeded, texts.empty());
     }
 }
 
-TEST(Lauf, SchuldenJedesRohstoffsWerdenGemeldet) {
-    const std::string vorn = "Negative Ressourcen: Metall: ";
-    for (const auto& [code, schulden] :
+TEST(Run, ReportsNegativeStockOfEachResource) {
+    const std::string front = "Negative Ressourcen: Metall: ";
+    for (const auto& [code, negativeStock] :
          {std::pair("WR", "-1500    Kristall:500    Deuterium: 0"),
           std::pair("WSS", "500    Kristall:-500    Deuterium: 0"),
           std::pair("GW", "100    Kristall:300    Deuterium: -100")}) {
-        EXPECT_EQ(Probe(MitPuffer(code, 0)).Meldungen.Texte,
-                  std::vector<std::string>{vorn + schulden});
+        EXPECT_EQ(TestRun(WithKlickPuffer(code, 0)).messages.texts,
+                  std::vector<std::string>{front + negativeStock});
     }
 }
 
 /// Counts what orders bring that no rule knows.
-class Fremdenzaehler final : public RunObserver {
+class UnknownOrderCounter final : public RunObserver {
   public:
-    void OnStart(const StartEvent& ereignis) override { Letzter = ereignis; }
-    void OnUnknownOrder(UnknownOrderAt was) override {
-        ++(was == UnknownOrderAt::Start ? Starts : Zeiten);
+    void OnStart(const StartEvent& event) override { last = event; }
+    void OnUnknownOrder(UnknownOrderAt what) override {
+        ++(what == UnknownOrderAt::Start ? starts : times);
     }
-    void OnEmptyStep() override { ++Pieptoene; }
+    void OnEmptyStep() override { ++beeps; }
 
-    StartEvent Letzter;
-    int Starts = 0;
-    int Zeiten = 0;
-    int Pieptoene = 0;
+    StartEvent last;
+    int starts = 0;
+    int times = 0;
+    int beeps = 0;
 };
 
-TEST(Lauf, UnbekannteAuftraegeFallenWeg) {
-    const auto laufe = [](const std::vector<Order>& orders, Long puffer) {
-        const RunConditions bedingungen{.Speedfaktor = 1, .KlickPuffer = puffer};
-        Fremdenzaehler zaehler;
-        Simulation(orders, bedingungen).RunToEnd(zaehler);
-        EXPECT_EQ(zaehler.Letzter.row, orders.size() - 1);
-        return std::array{zaehler.Starts, zaehler.Zeiten, zaehler.Pieptoene,
-                          static_cast<int>(zaehler.Letzter.start.Seconds())};
+TEST(Run, DropsUnknownOrders) {
+    const auto run = [](const std::vector<Order>& orders, Long buffer) {
+        const RunConditions conditions{.Speedfaktor = 1, .KlickPuffer = buffer};
+        UnknownOrderCounter counter;
+        Simulation(orders, conditions).RunToEnd(counter);
+        EXPECT_EQ(counter.last.row, orders.size() - 1);
+        return std::array{counter.starts, counter.times, counter.beeps,
+                          static_cast<int>(counter.last.start.Seconds())};
     };
     const Order mine = Order::Of(ItemId::MetMine);
-    const Order quatsch = Order::FromTag("Quatsch");
-    EXPECT_EQ(quatsch.queue, Queue::None);
+    const Order nonsense = Order::FromTag("Quatsch");
+    EXPECT_EQ(nonsense.queue, Queue::None);
     EXPECT_EQ(Order::FromTag("WZZ").queue, Queue::Shipyard);
     // The finishes of both are beeps. The mines follow each other in their queue.
-    EXPECT_EQ(laufe({mine, quatsch, Order::FromTag("WZZ"), mine}, 0), (std::array{2, 2, 2, 109}));
+    EXPECT_EQ(run({mine, nonsense, Order::FromTag("WZZ"), mine}, 0), (std::array{2, 2, 2, 109}));
     // Timed at the moment of the order before: not before it, and not held back by any queue.
-    EXPECT_EQ(laufe({quatsch, mine}, 7), (std::array{1, 0, 1, 14}));
+    EXPECT_EQ(run({nonsense, mine}, 7), (std::array{1, 0, 1, 14}));
 }
 
-TEST(Lauf, HaeltDieUhrAmEndeIhresBereichs) {
-    const Probe probe(MitPuffer("GW WR GX:10:10:10 FS GX:5:5:5 FE GM GM", 600));
-    EXPECT_EQ(probe.Gelaufen.state.secsgone.Seconds(), 2147483647);
-    EXPECT_EQ(probe.Gelaufen.LV_Bauzeiten.size(), 8U);
+TEST(Run, StopsTheClockAtTheEndOfItsRange) {
+    const TestRun trial(WithKlickPuffer("GW WR GX:10:10:10 FS GX:5:5:5 FE GM GM", 600));
+    EXPECT_EQ(trial.run.state.secsgone.Seconds(), 2147483647);
+    EXPECT_EQ(trial.run.LV_Bauzeiten.size(), 8U);
 }
 
-TEST(Lauf, NenntWasEinenAuftragAufhielt) {
-    const auto gruende = [](const Plan& plan) {
+TEST(Run, NamesWhatHeldAnOrderBack) {
+    const auto delays = [](const Plan& plan) {
         std::string text;
-        for (const ScheduleEntry& zeile : Probe(plan).Gelaufen.LV_Bauzeiten) {
-            constexpr std::array kBuchstaben{'-', 'l', 'a', 'd', 'r', 's', 'z'};
-            text += kBuchstaben.at(static_cast<std::size_t>(zeile.delay.cause));
+        for (const ScheduleEntry& row : TestRun(plan).run.LV_Bauzeiten) {
+            constexpr std::array kLetters{'-', 'l', 'a', 'd', 'r', 's', 'z'};
+            text += kLetters.at(static_cast<std::size_t>(row.delay.cause));
         }
         return text;
     };
-    Plan plan = PlanAus("GM GM GM GM GS GM");
-    EXPECT_EQ(gruende(plan), "-sssrr");
+    Plan plan = PlanOf("GM GM GM GM GS GM");
+    EXPECT_EQ(delays(plan), "-sssrr");
     plan.LV_Schlafzeiten = {{"18.11.2006 12:31", "18.11.2006 20:00"}};
-    EXPECT_EQ(gruende(plan), "-zsssr");
-    const Probe gesperrt(PlanAus("GS GD GR FE"));
-    EXPECT_EQ(gesperrt.Gelaufen.LV_Bauzeiten.back().delay,
+    EXPECT_EQ(delays(plan), "-zsssr");
+    const TestRun blocked(PlanOf("GS GD GR FE"));
+    EXPECT_EQ(blocked.run.LV_Bauzeiten.back().delay,
               (Delay{.cause = DelayCause::Level, .missing = {ItemId::Folab, 1}}));
 }
 
-TEST(Lauf, SagtWasEinenAuftragAufhielt) {
-    const auto texte = [](const Plan& plan) {
-        const auto bedingungen = ParseRunConditions(plan);
-        const RunTrace ablauf =
-            TraceRun(plan.LV_Bauliste.Orders().All(), std::get<RunConditions>(bedingungen));
-        std::vector<std::string> gruende;
-        for (std::size_t i = 0; i < ablauf.starts.size(); ++i) {
-            gruende.push_back(DelayText(ablauf, i));
+TEST(Run, SaysWhatHeldAnOrderBack) {
+    const auto texts = [](const Plan& plan) {
+        const auto conditions = ParseRunConditions(plan);
+        const RunTrace trace =
+            TraceRun(plan.LV_Bauliste.Orders().All(), std::get<RunConditions>(conditions));
+        std::vector<std::string> delays;
+        for (std::size_t i = 0; i < trace.starts.size(); ++i) {
+            delays.push_back(DelayText(trace, i));
         }
-        return gruende;
+        return delays;
     };
-    using Texte = std::vector<std::string>;
-    EXPECT_EQ(texte(PlanAus("GX:9:9:9 GM GM GX:8:8:8 GM GM GM GS")),
-              (Texte{"", "wartete auf Zeile 1", "Bauschleife bis 12:31:49",
+    using Texts = std::vector<std::string>;
+    EXPECT_EQ(texts(PlanOf("GX:9:9:9 GM GM GX:8:8:8 GM GM GM GS")),
+              (Texts{"", "wartete auf Zeile 1", "Bauschleife bis 12:31:49",
                      "Bauschleife bis 12:34:31", "wartete auf Zeile 4", "Bauschleife bis 12:38:34",
                      "Es fehlten: 286 Metall", "Es fehlten: 72 Metall"}));
-    Plan plan = MitPuffer("GX:9:9:9 GM GM GX:1:1:1 GM", 5);
+    Plan plan = WithKlickPuffer("GX:9:9:9 GM GM GX:1:1:1 GM", 5);
     plan.LV_Schlafzeiten = {{"18.11.2006 12:31", "18.11.2006 20:00"}};
-    EXPECT_EQ(texte(plan),
-              (Texte{"Klickpuffer: 5 s", "Klickpuffer: 5 s", "Schlafzeit 12:31:00 bis 20:00:00",
+    EXPECT_EQ(texts(plan),
+              (Texts{"Klickpuffer: 5 s", "Klickpuffer: 5 s", "Schlafzeit 12:31:00 bis 20:00:00",
                      "Bauschleife bis 20:02:52", "wartete auf Zeile 4"}));
-    EXPECT_EQ(texte(PlanAus("GS GD GR FE")).back(), "Es fehlte: Forschungslabor 1 (bis zuletzt)");
-    EXPECT_EQ(texte(PlanAus("GR")).back(), "");
-    EXPECT_EQ(texte(PlanAus("GS GR GF")).back(),
+    EXPECT_EQ(texts(PlanOf("GS GD GR FE")).back(), "Es fehlte: Forschungslabor 1 (bis zuletzt)");
+    EXPECT_EQ(texts(PlanOf("GR")).back(), "");
+    EXPECT_EQ(texts(PlanOf("GS GR GF")).back(),
               "Es fehlte: Produktion von Deuterium (bis zuletzt)");
 }
 
-TEST(EventTabelle, OrdnetNachZeitArtUndEintritt) {
-    EventTable tabelle;
-    EXPECT_TRUE(tabelle.IsEmpty());
-    tabelle.SetEvent(4);
-    tabelle.RetimeStart(SimTime(100));
-    tabelle.SetEvent(SimTime(100), 2);
-    tabelle.SetEvent(SimTime(100), 1);
-    tabelle.SetEvent(SimTime(99), 3);
-    EXPECT_EQ(tabelle.PendingOrder(), 4U);
+TEST(EventTable, SortsByTimeKindAndEntry) {
+    EventTable table;
+    EXPECT_TRUE(table.IsEmpty());
+    table.SetEvent(4);
+    table.RetimeStart(SimTime(100));
+    table.SetEvent(SimTime(100), 2);
+    table.SetEvent(SimTime(100), 1);
+    table.SetEvent(SimTime(99), 3);
+    EXPECT_EQ(table.PendingOrder(), 4U);
     for (const std::size_t order : {3U, 2U, 1U, 4U}) {
-        EXPECT_EQ(tabelle.ClearEvent().order, order);
+        EXPECT_EQ(table.ClearEvent().order, order);
     }
-    EXPECT_TRUE(tabelle.NoStartPending() && tabelle.IsEmpty());
+    EXPECT_TRUE(table.NoStartPending() && table.IsEmpty());
 }
 
 }  // namespace

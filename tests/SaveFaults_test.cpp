@@ -9,84 +9,84 @@
 namespace tarvelin {
 namespace {
 
-constexpr std::string_view kAlt = "; von Hand\r\n[Einstellungen]\nTempMax=7\n[Eigenes]\nx=1";
+constexpr std::string_view kBefore = "; von Hand\r\n[Einstellungen]\nTempMax=7\n[Eigenes]\nx=1";
 
 /// A save over a plan of somebody's own making.
-class Ausfall : public testing::TestWithParam<Ausfallart> {
+class SaveFaults : public testing::TestWithParam<FaultKind> {
   protected:
     /// Whether only what the call itself left can lie there: no deletion worked any more.
-    static constexpr bool BleibtLiegen(Ausfallart art) { return art == Ausfallart::AllesFuerImmer; }
+    static constexpr bool MayRemain(FaultKind kind) { return kind == FaultKind::EverythingForever; }
 
-    /// Lets the n-th call of `tat` fail, for n from 1 until it has so many no more, and looks at
+    /// Lets the n-th call of `action` fail, for n from 1 until it has so many no more, and looks at
     /// the folder after each. How often something failed.
-    template <class Tat, class Blick>
-    int Probiere(Tat tat, Blick blick) {
+    template <class Action, class View>
+    int Try(Action action, View view) {
         int n = 1;
-        for (bool gestoert = true; gestoert; ++n) {
+        for (bool disturbed = true; disturbed; ++n) {
             SCOPED_TRACE("call " + std::to_string(n));
-            SchreibeDatei(m_ordner / "plan.tvf", kAlt);
-            SchreibeDatei(m_ordner / "config.cfg", kAlt);
-            const Stoersystem system(n, GetParam());
-            tat(system);
-            m_aufrufe += std::string(system.Gestoert()) + " ";
-            gestoert = system.HatGestoert();
-            blick();
-            if (!BleibtLiegen(GetParam())) {
-                EXPECT_EQ(m_ordner.Eintraege(), 2U);
+            WriteFile(m_folder / "plan.tvf", kBefore);
+            WriteFile(m_folder / "config.cfg", kBefore);
+            const FaultyFileSystem system(n, GetParam());
+            action(system);
+            m_calls += std::string(system.Faulty()) + " ";
+            disturbed = system.HasFailed();
+            view();
+            if (!MayRemain(GetParam())) {
+                EXPECT_EQ(m_folder.Entries(), 2U);
             }
             // What a failed deletion left goes with the next save.
-            EXPECT_TRUE(WriteFileAtomically(m_ordner / "plan.tvf", kAlt));
-            EXPECT_EQ(m_ordner.Eintraege(), 2U);
+            EXPECT_TRUE(WriteFileAtomically(m_folder / "plan.tvf", kBefore));
+            EXPECT_EQ(m_folder.Entries(), 2U);
         }
         return n - 2;
     }
 
-    const Ordner m_ordner;
+    const TempFolder m_folder;
     /// Calls in their order.
-    std::string m_aufrufe;
-    const Plan m_plan = PlanAus("GM GS GX:8:10:5 GK");
+    std::string m_calls;
+    const Plan m_plan = PlanOf("GM GS GX:8:10:5 GK");
 };
 
-TEST_P(Ausfall, PlanIstDerAlteOderDerNeue) {
-    IniFile erwartet(kAlt);
-    WritePlan(m_plan, erwartet);
-    bool gespeichert = false;
-    const int ausfaelle = Probiere(
+TEST_P(SaveFaults, PlanIsTheOldOrTheNewOne) {
+    IniFile expected(kBefore);
+    WritePlan(m_plan, expected);
+    bool saved = false;
+    const int faults = Try(
         [&](const FileSystem& system) {
-            gespeichert = SaveBauliste(m_ordner / "plan.tvf", m_plan, system);
+            saved = SaveBauliste(m_folder / "plan.tvf", m_plan, system);
         },
         [&] {
-            EXPECT_EQ(LiesDatei(m_ordner / "plan.tvf"),
-                      gespeichert ? erwartet.Bytes() : std::string(kAlt));
+            EXPECT_EQ(ReadFileToString(m_folder / "plan.tvf"),
+                      saved ? expected.Bytes() : std::string(kBefore));
         });
-    EXPECT_TRUE(gespeichert);
-    EXPECT_GE(ausfaelle, 14);
+    EXPECT_TRUE(saved);
+    EXPECT_GE(faults, 14);
     // The bytes lie on the disk before they get the name.
     EXPECT_TRUE(
-        m_aufrufe.ends_with(" Schreibe BringAufPlatte Schliesse BenenneUm BringOrdnerAufPlatte  "))
-        << m_aufrufe;
+        m_calls.ends_with(" Schreibe BringAufPlatte Schliesse BenenneUm BringOrdnerAufPlatte  "))
+        << m_calls;
 }
 
-TEST_P(Ausfall, KonfigurationHatAlleOderKeinenNeuenWert) {
-    const Configuration::Values werte{{Configuration::kMode, "3"},
-                                      {Configuration::kFirststart, "0"}};
-    IniFile neu(kAlt);
-    for (const auto& [key, wert] : werte) {
-        neu.WriteINI(key.Section, key.Key, wert);
+TEST_P(SaveFaults, ConfigurationHasAllNewValuesOrNone) {
+    const Configuration::Values values{{Configuration::kMode, "3"},
+                                       {Configuration::kFirststart, "0"}};
+    IniFile fresh(kBefore);
+    for (const auto& [key, value] : values) {
+        fresh.WriteINI(key.Section, key.Key, value);
     }
-    Probiere(
+    Try(
         [&](const FileSystem& system) {
-            static_cast<void>(Configuration(m_ordner / "", system).Write(werte));
+            static_cast<void>(Configuration(m_folder / "", system).Write(values));
         },
         [&] {
-            const std::string config = LiesDatei(m_ordner / "config.cfg");
-            EXPECT_TRUE(config == kAlt || config == neu.Bytes()) << config;
+            const std::string config = ReadFileToString(m_folder / "config.cfg");
+            EXPECT_TRUE(config == kBefore || config == fresh.Bytes()) << config;
         });
 }
 
-INSTANTIATE_TEST_SUITE_P(Arten, Ausfall,
-                         testing::Values(Ausfallart::Einmal, Ausfallart::DieserAufrufFuerImmer,
-                                         Ausfallart::AllesFuerImmer));
+INSTANTIATE_TEST_SUITE_P(Kinds, SaveFaults,
+                         testing::Values(FaultKind::Once, FaultKind::ThisCallForever,
+                                         FaultKind::EverythingForever));
 
 }  // namespace
 }  // namespace tarvelin

@@ -12,100 +12,101 @@
 namespace tarvelin {
 namespace {
 
-const std::atomic<bool> kWeiter{false};
+const std::atomic<bool> kGoOn{false};
 
-void Still(const SearchProgress& /*stand*/) {}
+void Quiet(const SearchProgress& /*stand*/) {}
 
-constexpr SearchBudget kEineKette{.tries = SearchBudget::kChainLength};
+constexpr SearchBudget kOneChain{.tries = SearchBudget::kChainLength};
 
 /// The starter plan.
-const PlanRun& Startlauf() {
-    static const PlanRun lauf(std::filesystem::path(TARVELIN_SOURCE_DIR) / "data/saves/basic.tvf");
-    return lauf;
+const PlanRun& StarterRun() {
+    static const PlanRun document(std::filesystem::path(TARVELIN_SOURCE_DIR) /
+                                  "data/saves/basic.tvf");
+    return document;
 }
 
-const Plan& Startplan() {
-    return Startlauf().plan;
+const Plan& StarterPlan() {
+    return StarterRun().plan;
 }
 
-PlanTask Stelle(const Plan& plan, const SearchRequest& wunsch) {
-    const auto aufgabe = MakePlanTask(plan, wunsch);
-    const auto* const absage = std::get_if<SearchRefusal>(&aufgabe);
-    EXPECT_EQ(absage, nullptr) << absage->text;
-    return absage != nullptr ? PlanTask() : std::get<PlanTask>(aufgabe);
+PlanTask MakeTask(const Plan& plan, const SearchRequest& request) {
+    const auto task = MakePlanTask(plan, request);
+    const auto* const refusal = std::get_if<SearchRefusal>(&task);
+    EXPECT_EQ(refusal, nullptr) << refusal->text;
+    return refusal != nullptr ? PlanTask() : std::get<PlanTask>(task);
 }
 
 /// As a player finds the plan again: written to a file, loaded and run.
-PlanRun Wiedergefunden(const Plan& plan, const PlanTask& aufgabe, const Solution& fund) {
-    IniFile profil("");
-    WritePlan(WithOrders(plan, fund.orders, aufgabe.pause), profil);
-    return {"gefunden", IniFile(profil.Bytes())};
+PlanRun FoundAgain(const Plan& plan, const PlanTask& task, const Solution& solution) {
+    IniFile profile("");
+    WritePlan(WithOrders(plan, solution.orders, task.pause), profile);
+    return {"gefunden", IniFile(profile.Bytes())};
 }
 
-bool HaeltRegeln(const std::vector<Order>& orders) {
-    OrderList liste;
+bool KeepsRules(const std::vector<Order>& orders) {
+    OrderList list;
     return std::ranges::all_of(orders, [&](const Order& order) {
-        const bool gut = order.kind != Order::Kind::Item || !Refusal(order.item, liste);
-        liste.Append(order);
-        return gut;
+        const bool good = order.kind != Order::Kind::Item || !Refusal(order.item, list);
+        list.Append(order);
+        return good;
     });
 }
 
-std::map<std::string, int> Gezaehlt(const std::vector<Order>& orders) {
-    std::map<std::string, int> zahlen;
+std::map<std::string, int> Counted(const std::vector<Order>& orders) {
+    std::map<std::string, int> figures;
     for (const Order& order : orders) {
-        ++zahlen[order.Tag()];
+        ++figures[order.Tag()];
     }
-    return zahlen;
+    return figures;
 }
 
 /// The moments of the starts of a run.
-std::vector<DateTime> Startzeiten(const PlanRun& lauf) {
-    std::vector<DateTime> zeiten;
-    for (const ScheduleEntry& zeile : lauf.run.LV_Bauzeiten) {
-        zeiten.push_back(zeile.start);
+std::vector<DateTime> StartTimesOf(const PlanRun& document) {
+    std::vector<DateTime> times;
+    for (const ScheduleEntry& row : document.run.LV_Bauzeiten) {
+        times.push_back(row.start);
     }
-    return zeiten;
+    return times;
 }
 
 /// What any result keeps: the rules, its duration in a file, and never less than the plan.
-void Pruefe(const Plan& plan, const PlanTask& aufgabe, const SearchResult& ergebnis) {
-    ASSERT_TRUE(ergebnis.best);
-    const Solution& fund = *ergebnis.best;
-    EXPECT_TRUE(HaeltRegeln(fund.orders));
-    if (aufgabe.before) {
-        EXPECT_LE(fund.score.duration, aufgabe.before->score.duration);
+void Check(const Plan& plan, const PlanTask& task, const SearchResult& result) {
+    ASSERT_TRUE(result.best);
+    const Solution& solution = *result.best;
+    EXPECT_TRUE(KeepsRules(solution.orders));
+    if (task.before) {
+        EXPECT_LE(solution.score.duration, task.before->score.duration);
     }
-    const PlanRun lauf = Wiedergefunden(plan, aufgabe, fund);
-    ASSERT_TRUE(lauf.hasRun);
-    EXPECT_EQ(lauf.run.state.secsgone.Seconds(), fund.score.duration);
-    EXPECT_TRUE(lauf.messages.empty());
-    if (aufgabe.task.kind == SearchTask::Kind::Sequence) {
-        EXPECT_EQ(Gezaehlt(fund.orders), Gezaehlt(aufgabe.task.orders));
-        for (std::size_t i = 0; i < fund.orders.size(); ++i) {
-            EXPECT_TRUE(!aufgabe.task.pinned[i] || fund.orders[i] == aufgabe.task.orders[i]);
+    const PlanRun document = FoundAgain(plan, task, solution);
+    ASSERT_TRUE(document.hasRun);
+    EXPECT_EQ(document.run.state.secsgone.Seconds(), solution.score.duration);
+    EXPECT_TRUE(document.messages.empty());
+    if (task.task.kind == SearchTask::Kind::Sequence) {
+        EXPECT_EQ(Counted(solution.orders), Counted(task.task.orders));
+        for (std::size_t i = 0; i < solution.orders.size(); ++i) {
+            EXPECT_TRUE(!task.task.pinned[i] || solution.orders[i] == task.task.orders[i]);
         }
         return;
     }
-    const PerItem<Byte> stufen = FinalLevels(fund.orders);
-    for (const ItemRow& zeile : ItemTable()) {
-        EXPECT_GE(stufen[zeile.item], aufgabe.task.minLevels[zeile.item]) << zeile.ItemCode;
+    const PerItem<Byte> levels = FinalLevels(solution.orders);
+    for (const ItemRow& row : ItemTable()) {
+        EXPECT_GE(levels[row.item], task.task.minLevels[row.item]) << row.ItemCode;
     }
 }
 
-TEST(Suche, FindetDasOptimumKleinerPlaene) {
-    for (unsigned saat = 1; saat <= 100; ++saat) {
-        const SearchTask aufgabe = Kleinplan(saat);
+TEST(Search, FindsTheOptimumOfSmallPlans) {
+    for (unsigned seed = 1; seed <= 100; ++seed) {
+        const SearchTask task = SmallPlan(seed);
         // The whole search takes the sanitizers half an hour.
-        const bool ganz = saat % 50 == 0;
-        const auto ergebnis = Search(aufgabe, ganz ? SearchBudget() : kEineKette, kWeiter, Still);
-        ASSERT_TRUE(ergebnis.best) << saat;
-        EXPECT_EQ(ergebnis.best->score.duration, BewieseneDauer(aufgabe)) << saat;
+        const bool whole = seed % 50 == 0;
+        const auto result = Search(task, whole ? SearchBudget() : kOneChain, kGoOn, Quiet);
+        ASSERT_TRUE(result.best) << seed;
+        EXPECT_EQ(result.best->score.duration, ProvenDuration(task)) << seed;
     }
 }
 
-TEST(Suche, HaeltWasSieSagt) {
-    const std::vector<std::pair<const char*, SearchRequest>> wuensche{
+TEST(Search, KeepsWhatItSays) {
+    const std::vector<std::pair<const char*, SearchRequest>> requests{
         {"gedraengt-01", {}},
         {"gedraengt-05", {.goal = "plan"}},
         {"gedraengt-09", {.moveProduction = true}},
@@ -114,137 +115,138 @@ TEST(Suche, HaeltWasSieSagt) {
         {"regelgerecht-08", {.goal = "WKT2 FE2"}},
         {"schwere-laser", {}},
     };
-    for (const auto& [name, wunsch] : wuensche) {
+    for (const auto& [name, request] : requests) {
         SCOPED_TRACE(name);
-        const PlanRun lauf(std::filesystem::path(TARVELIN_GOLDEN) / (std::string(name) + ".tvf"));
-        ASSERT_TRUE(lauf.loaded);
-        const PlanTask aufgabe = Stelle(lauf.plan, wunsch);
-        Pruefe(lauf.plan, aufgabe, Search(aufgabe, kEineKette, kWeiter, Still));
+        const PlanRun document(std::filesystem::path(TARVELIN_GOLDEN) /
+                               (std::string(name) + ".tvf"));
+        ASSERT_TRUE(document.loaded);
+        const PlanTask task = MakeTask(document.plan, request);
+        Check(document.plan, task, Search(task, kOneChain, kGoOn, Quiet));
     }
 }
 
-TEST(Suche, GibtMitAllenThreadsDasselbe) {
-    const PlanTask aufgabe = Stelle(Startplan(), {.goal = "plan"});
-    SearchBudget umfang{.tries = 5 * SearchBudget::kChainLength, .seed = 7};
-    const auto eines = Search(aufgabe, umfang, kWeiter, Still);
-    umfang.threads = 3;
-    EXPECT_EQ(Search(aufgabe, umfang, kWeiter, Still).best->orders, eines.best->orders);
-    umfang.seed = 8;
-    EXPECT_NE(Search(aufgabe, umfang, kWeiter, Still).best->orders, eines.best->orders);
+TEST(Search, GivesTheSameWithAnyNumberOfThreads) {
+    const PlanTask task = MakeTask(StarterPlan(), {.goal = "plan"});
+    SearchBudget budget{.tries = 5 * SearchBudget::kChainLength, .seed = 7};
+    const auto one = Search(task, budget, kGoOn, Quiet);
+    budget.threads = 3;
+    EXPECT_EQ(Search(task, budget, kGoOn, Quiet).best->orders, one.best->orders);
+    budget.seed = 8;
+    EXPECT_NE(Search(task, budget, kGoOn, Quiet).best->orders, one.best->orders);
 }
 
-TEST(Suche, HoertAufUndBehaeltDasBeste) {
-    const Plan& plan = Startplan();
-    const PlanTask aufgabe = Stelle(plan, {});
-    std::atomic<bool> halt{false};
-    const SearchBudget endlos{.tries = std::uint64_t{1} << 50U, .threads = 2};
-    SearchProgress letzter;
-    const auto ergebnis = Search(aufgabe, endlos, halt, [&](const SearchProgress& stand) {
-        letzter = stand;
-        halt = stand.gain > 0 && stand.tries > SearchBudget::kChainLength;
+TEST(Search, StopsAndKeepsTheBest) {
+    const Plan& plan = StarterPlan();
+    const PlanTask task = MakeTask(plan, {});
+    std::atomic<bool> stop{false};
+    const SearchBudget endless{.tries = std::uint64_t{1} << 50U, .threads = 2};
+    SearchProgress last;
+    const auto result = Search(task, endless, stop, [&](const SearchProgress& progress) {
+        last = progress;
+        stop = progress.gain > 0 && progress.tries > SearchBudget::kChainLength;
     });
-    Pruefe(plan, aufgabe, ergebnis);
-    EXPECT_EQ(letzter.gain, aufgabe.before->score.duration - letzter.bestDuration);
-    EXPECT_LE(ergebnis.best->score.duration, letzter.bestDuration);
-    EXPECT_LT(ergebnis.tries, letzter.totalTries);
-    EXPECT_EQ(Search(aufgabe, endlos, halt, Still).best->orders, aufgabe.task.orders);
+    Check(plan, task, result);
+    EXPECT_EQ(last.gain, task.before->score.duration - last.bestDuration);
+    EXPECT_LE(result.best->score.duration, last.bestDuration);
+    EXPECT_LT(result.tries, last.totalTries);
+    EXPECT_EQ(Search(task, endless, stop, Quiet).best->orders, task.task.orders);
 }
 
-TEST(Suche, FindetEinenAnfangFuerEinenPlanDerNieEndet) {
+TEST(Search, FindsABeginningForAPlanThatNeverEnds) {
     // The research comes behind the end of all deuterium.
-    const Plan plan = PlanAus("GS GM GK GD GF GX:10:10:0 FE");
-    const PlanTask aufgabe = Stelle(plan, {});
-    EXPECT_FALSE(aufgabe.before);
-    Pruefe(plan, aufgabe, Search(aufgabe, kEineKette, kWeiter, Still));
+    const Plan plan = PlanOf("GS GM GK GD GF GX:10:10:0 FE");
+    const PlanTask task = MakeTask(plan, {});
+    EXPECT_FALSE(task.before);
+    Check(plan, task, Search(task, kOneChain, kGoOn, Quiet));
 }
 
-TEST(Suche, LaesstWasSchonGespieltIst) {
-    const Plan& plan = Startplan();
-    const auto vorher = Startzeiten(Startlauf());
-    const SearchRequest wunsch{.notBefore = ParseDateTime("03.12.2026 12:00:30")};
-    const PlanTask aufgabe = Stelle(plan, wunsch);
-    ASSERT_TRUE(aufgabe.pause);
-    EXPECT_EQ(aufgabe.pause->Startzeit + "/" + aufgabe.pause->Endzeit,
+TEST(Search, LeavesWhatIsAlreadyPlayed) {
+    const Plan& plan = StarterPlan();
+    const auto before = StartTimesOf(StarterRun());
+    const SearchRequest request{.notBefore = ParseDateTime("03.12.2026 12:00:30")};
+    const PlanTask task = MakeTask(plan, request);
+    ASSERT_TRUE(task.pause);
+    EXPECT_EQ(task.pause->Startzeit + "/" + task.pause->Endzeit,
               "03.12.2026 10:30/03.12.2026 12:01");
-    EXPECT_EQ(aufgabe.task.headSize, 31U);
-    const auto ergebnis = Search(aufgabe, kEineKette, kWeiter, Still);
-    Pruefe(plan, aufgabe, ergebnis);
-    const auto nachher = Startzeiten(Wiedergefunden(plan, aufgabe, *ergebnis.best));
-    const auto kopf = static_cast<std::ptrdiff_t>(aufgabe.task.headSize);
-    EXPECT_TRUE(std::equal(vorher.begin(), vorher.begin() + kopf, nachher.begin()));
-    EXPECT_TRUE(std::all_of(nachher.begin() + kopf, nachher.end(),
-                            [&](const auto& zeit) { return zeit >= *wunsch.notBefore; }));
-    EXPECT_LT(ergebnis.best->score.duration, aufgabe.before->score.duration);
+    EXPECT_EQ(task.task.headSize, 31U);
+    const auto result = Search(task, kOneChain, kGoOn, Quiet);
+    Check(plan, task, result);
+    const auto after = StartTimesOf(FoundAgain(plan, task, *result.best));
+    const auto header = static_cast<std::ptrdiff_t>(task.task.headSize);
+    EXPECT_TRUE(std::equal(before.begin(), before.begin() + header, after.begin()));
+    EXPECT_TRUE(std::all_of(after.begin() + header, after.end(),
+                            [&](const auto& time) { return time >= *request.notBefore; }));
+    EXPECT_LT(result.best->score.duration, task.before->score.duration);
 }
 
 /// Pinned rows of a goal keep their sequence and the orders above them that are no economy.
-TEST(Suche, HaeltFesteZeilenEinesZiels) {
-    const Plan plan = PlanAus("GS GM GM GX:10:8:10 GK GD GF FE GX:10:10:10 GR GR GW FV WLJ WLJ");
-    const PlanTask aufgabe = Stelle(plan, {.goal = "plan", .pinnedRanges = {{13, 13}}});
-    const auto ergebnis = Search(aufgabe, kEineKette, kWeiter, Still);
-    Pruefe(plan, aufgabe, ergebnis);
-    std::string ohneWirtschaft;
-    for (const Order& order : ergebnis.best->orders) {
+TEST(Search, KeepsPinnedRowsOfAGoal) {
+    const Plan plan = PlanOf("GS GM GM GX:10:8:10 GK GD GF FE GX:10:10:10 GR GR GW FV WLJ WLJ");
+    const PlanTask task = MakeTask(plan, {.goal = "plan", .pinnedRanges = {{13, 13}}});
+    const auto result = Search(task, kOneChain, kGoOn, Quiet);
+    Check(plan, task, result);
+    std::string withoutEconomy;
+    for (const Order& order : result.best->orders) {
         if (order.kind == Order::Kind::Production || !IsEconomy(order.item)) {
-            ohneWirtschaft += order.Tag() + " ";
+            withoutEconomy += order.Tag() + " ";
         }
     }
-    EXPECT_EQ(ohneWirtschaft, "GX:10:8:10 FE GX:10:10:10 FV WLJ WLJ ");
+    EXPECT_EQ(withoutEconomy, "GX:10:8:10 FE GX:10:10:10 FV WLJ WLJ ");
 }
 
-TEST(Suche, SpartSitzungenInnerhalbDesErlaubten) {
-    const PlanTask aufgabe = Stelle(Startplan(), {});
-    SearchBudget umfang{.tries = 8 * SearchBudget::kChainLength};
-    const Score schnell = Search(aufgabe, umfang, kWeiter, Still).best->score;
-    umfang.slackPercent = 2;
-    const Score ruhig = Search(aufgabe, umfang, kWeiter, Still).best->score;
-    EXPECT_LT(ruhig.sittings, schnell.sittings);
-    EXPECT_LE(ruhig.duration, schnell.duration * 1.02);
+TEST(Search, SavesSittingsWithinWhatIsAllowed) {
+    const PlanTask task = MakeTask(StarterPlan(), {});
+    SearchBudget budget{.tries = 8 * SearchBudget::kChainLength};
+    const Score fast = Search(task, budget, kGoOn, Quiet).best->score;
+    budget.slackPercent = 2;
+    const Score quiet = Search(task, budget, kGoOn, Quiet).best->score;
+    EXPECT_LT(quiet.sittings, fast.sittings);
+    EXPECT_LE(quiet.duration, fast.duration * 1.02);
 }
 
-TEST(Suche, SagtWarumSieNichtSuchenKann) {
-    const Plan wirtschaft = PlanAus("GM GM GK");
-    Plan gebrochen = PlanAus("GM");
-    gebrochen.LV_Bauliste.Clear();
-    for (const char* const tag : {"GM", "GW", "GR"}) {
-        EXPECT_TRUE(gebrochen.LV_Bauliste.Replay(tag, RunConditions()));
+TEST(Search, SaysWhyItCannotSearch) {
+    const Plan economy = PlanOf("GM GM GK");
+    Plan broken = PlanOf("GM");
+    broken.LV_Bauliste.Clear();
+    for (const char* const day : {"GM", "GW", "GR"}) {
+        EXPECT_TRUE(broken.LV_Bauliste.Replay(day, RunConditions()));
     }
-    Plan ohneTag = wirtschaft;
-    ohneTag.parameters.UniStartZeitTag = "";
-    const std::vector<std::tuple<Plan, SearchRequest, bool, const char*>> faelle{
-        {wirtschaft, {.goal = "plan"}, false, "Der Plan hat kein Ziel außerhalb der Wirtschaft"},
-        {wirtschaft, {.goal = " "}, true, "Das Ziel ist leer"},
-        {wirtschaft, {.goal = "GW2 XY3"}, true, "\"XY3\" nennt kein Item"},
-        {wirtschaft, {.goal = "gw2"}, true, "\"gw2\" nennt kein Item"},
-        {wirtschaft, {.goal = "GW0"}, true, "\"GW0\": die Stufe oder Anzahl muss von 1 bis 254"},
-        {wirtschaft, {.goal = "GW"}, true, "\"GW\": die Stufe"},
-        {wirtschaft, {.goal = "WLJ99999999999999999999"}, true, "die Stufe oder Anzahl"},
-        {wirtschaft, {.goal = "WLJ254"}, true, "mehr als 254 Zeilen"},
-        {wirtschaft, {.pinnedRanges = {{3, 4}}}, true, "Feste Zeilen gehen von 1 bis 3"},
-        {wirtschaft, {.pinnedRanges = {{2, 1}}}, true, "Feste Zeilen gehen von 1 bis 3"},
-        {gebrochen, {}, false, "Zeile 2 (GW) hält die Regeln der Bauliste nicht:"},
-        {wirtschaft,
+    Plan withoutTag = economy;
+    withoutTag.parameters.UniStartZeitTag = "";
+    const std::vector<std::tuple<Plan, SearchRequest, bool, const char*>> cases{
+        {economy, {.goal = "plan"}, false, "Der Plan hat kein Ziel außerhalb der Wirtschaft"},
+        {economy, {.goal = " "}, true, "Das Ziel ist leer"},
+        {economy, {.goal = "GW2 XY3"}, true, "\"XY3\" nennt kein Item"},
+        {economy, {.goal = "gw2"}, true, "\"gw2\" nennt kein Item"},
+        {economy, {.goal = "GW0"}, true, "\"GW0\": die Stufe oder Anzahl muss von 1 bis 254"},
+        {economy, {.goal = "GW"}, true, "\"GW\": die Stufe"},
+        {economy, {.goal = "WLJ99999999999999999999"}, true, "die Stufe oder Anzahl"},
+        {economy, {.goal = "WLJ254"}, true, "mehr als 254 Zeilen"},
+        {economy, {.pinnedRanges = {{3, 4}}}, true, "Feste Zeilen gehen von 1 bis 3"},
+        {economy, {.pinnedRanges = {{2, 1}}}, true, "Feste Zeilen gehen von 1 bis 3"},
+        {broken, {}, false, "Zeile 2 (GW) hält die Regeln der Bauliste nicht:"},
+        {economy,
          {.notBefore = ParseDateTime("18.11.2016 12:30:00")},
          false,
          "Alle Aufträge beginnen vor dem 18.11.2016 12:30:00"},
-        {ohneTag, {}, false, ""},
-        {PlanAus(""), {}, false, ""},
+        {withoutTag, {}, false, ""},
+        {PlanOf(""), {}, false, ""},
     };
-    for (const auto& [plan, wunsch, falsch, text] : faelle) {
-        const auto aufgabe = MakePlanTask(plan, wunsch);
-        const auto* const absage = std::get_if<SearchRefusal>(&aufgabe);
-        ASSERT_NE(absage, nullptr) << text;
-        EXPECT_EQ(absage->wrongCall, falsch) << absage->text;
-        EXPECT_NE(absage->text.find(text), std::string::npos) << absage->text;
-        EXPECT_NE(absage->text, "");
+    for (const auto& [plan, request, wrongCall, text] : cases) {
+        const auto task = MakePlanTask(plan, request);
+        const auto* const refusal = std::get_if<SearchRefusal>(&task);
+        ASSERT_NE(refusal, nullptr) << text;
+        EXPECT_EQ(refusal->wrongCall, wrongCall) << refusal->text;
+        EXPECT_NE(refusal->text.find(text), std::string::npos) << refusal->text;
+        EXPECT_NE(refusal->text, "");
     }
 }
 
-TEST(Suche, ErreichtEinZielAusDemNichts) {
-    Plan plan = PlanAus("");
-    const PlanTask aufgabe = Stelle(plan, {.goal = "WLL1 GF2 WSS1"});
-    EXPECT_FALSE(aufgabe.before);
-    Pruefe(plan, aufgabe, Search(aufgabe, kEineKette, kWeiter, Still));
+TEST(Search, ReachesAGoalFromNothing) {
+    Plan plan = PlanOf("");
+    const PlanTask task = MakeTask(plan, {.goal = "WLL1 GF2 WSS1"});
+    EXPECT_FALSE(task.before);
+    Check(plan, task, Search(task, kOneChain, kGoOn, Quiet));
 }
 
 }  // namespace

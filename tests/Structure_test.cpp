@@ -8,11 +8,11 @@
 namespace tarvelin {
 namespace {
 
-const std::filesystem::path kWurzel = TARVELIN_SOURCE_DIR;
+const std::filesystem::path kRoot = TARVELIN_SOURCE_DIR;
 
 /// The rooms of the house, and which others each may include. Whatever isn't told here is a
 /// mistake.
-const std::map<std::string, std::set<std::string>> kRaeume{
+const std::map<std::string, std::set<std::string>> kRooms{
     {"util", {}},
     {"model", {"util"}},
     {"plan", {"util", "model"}},
@@ -30,117 +30,117 @@ const std::map<std::string, std::set<std::string>> kRaeume{
     {"ui", {"persistence", "ui/widgets", "ui/services", "ui/mainwindow"}},
 };
 /// The only file of a room that another room knows.
-const std::map<std::string, std::string> kTueren{{"ui/workbench", "ui/workbench/Workbench.h"}};
+const std::map<std::string, std::string> kDoors{{"ui/workbench", "ui/workbench/Workbench.h"}};
 /// What stands on C++ and the platform alone.
-const std::set<std::string> kKern{"util", "model", "plan", "simulation", "search", "persistence"};
+const std::set<std::string> kCore{"util", "model", "plan", "simulation", "search", "persistence"};
 
-std::vector<std::filesystem::path> Quellen() {
-    std::vector<std::filesystem::path> quellen;
-    for (const auto& eintrag : std::filesystem::recursive_directory_iterator(kWurzel / "src")) {
-        if (eintrag.path().extension() == ".h" || eintrag.path().extension() == ".cpp") {
-            quellen.push_back(std::filesystem::relative(eintrag.path(), kWurzel / "src"));
+std::vector<std::filesystem::path> Sources() {
+    std::vector<std::filesystem::path> sources;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(kRoot / "src")) {
+        if (entry.path().extension() == ".h" || entry.path().extension() == ".cpp") {
+            sources.push_back(std::filesystem::relative(entry.path(), kRoot / "src"));
         }
     }
-    return quellen;
+    return sources;
 }
 
 /// The files of ours that a source includes, and the others.
 std::pair<std::vector<std::string>, std::vector<std::string>> Includes(
-    const std::filesystem::path& quelle) {
+    const std::filesystem::path& source) {
     std::pair<std::vector<std::string>, std::vector<std::string>> includes;
-    std::istringstream zeilen(LiesDatei(kWurzel / "src" / quelle));
-    for (std::string zeile; std::getline(zeilen, zeile);) {
-        if (zeile.starts_with("#include \"")) {
-            includes.first.push_back(zeile.substr(10, zeile.find('"', 10) - 10));
-        } else if (zeile.starts_with("#include <")) {
-            includes.second.push_back(zeile.substr(10, zeile.find('>') - 10));
+    std::istringstream lines(ReadFileToString(kRoot / "src" / source));
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with("#include \"")) {
+            includes.first.push_back(line.substr(10, line.find('"', 10) - 10));
+        } else if (line.starts_with("#include <")) {
+            includes.second.push_back(line.substr(10, line.find('>') - 10));
         }
     }
     return includes;
 }
 
-std::string Raum(const std::filesystem::path& quelle) {
-    return quelle.parent_path().generic_string();
+std::string RoomOf(const std::filesystem::path& source) {
+    return source.parent_path().generic_string();
 }
 
-TEST(Struktur, JederPfeilIstErlaubt) {
-    for (const auto& quelle : Quellen()) {
-        const std::string raum = Raum(quelle);
-        ASSERT_TRUE(kRaeume.contains(raum)) << quelle;
-        const auto [eigene, fremde] = Includes(quelle);
-        for (const std::string& ziel : eigene) {
-            EXPECT_TRUE(std::filesystem::exists(kWurzel / "src" / ziel)) << quelle << " " << ziel;
-            EXPECT_TRUE(Raum(ziel) == raum || kRaeume.at(raum).contains(Raum(ziel)))
-                << quelle << " includes " << ziel;
-            const auto tuer = kTueren.find(Raum(ziel));
-            EXPECT_TRUE(tuer == kTueren.end() || Raum(ziel) == raum || tuer->second == ziel)
-                << quelle << " passes by the door of " << ziel;
+TEST(Structure, EveryArrowIsAllowed) {
+    for (const auto& source : Sources()) {
+        const std::string room = RoomOf(source);
+        ASSERT_TRUE(kRooms.contains(room)) << source;
+        const auto [own, others] = Includes(source);
+        for (const std::string& target : own) {
+            EXPECT_TRUE(std::filesystem::exists(kRoot / "src" / target)) << source << " " << target;
+            EXPECT_TRUE(RoomOf(target) == room || kRooms.at(room).contains(RoomOf(target)))
+                << source << " includes " << target;
+            const auto door = kDoors.find(RoomOf(target));
+            EXPECT_TRUE(door == kDoors.end() || RoomOf(target) == room || door->second == target)
+                << source << " passes by the door of " << target;
         }
-        for (const std::string& kopf : fremde) {
-            EXPECT_FALSE(
-                kKern.contains(raum) &&
-                (kopf.starts_with("Q") || kopf.starts_with("nlohmann") || kopf.starts_with("CLI")))
-                << quelle << " includes " << kopf;
+        for (const std::string& header : others) {
+            EXPECT_FALSE(kCore.contains(room) &&
+                         (header.starts_with("Q") || header.starts_with("nlohmann") ||
+                          header.starts_with("CLI")))
+                << source << " includes " << header;
         }
     }
 }
 
-TEST(Struktur, KeinKreisZwischenDateien) {
-    std::map<std::string, std::set<std::string>> pfeile;
-    const auto stamm = [](std::filesystem::path p) { return p.replace_extension().string(); };
-    for (const auto& quelle : Quellen()) {
-        for (const std::string& ziel : Includes(quelle).first) {
-            if (stamm(ziel) != stamm(quelle)) {
-                pfeile[stamm(quelle)].insert(stamm(ziel));
+TEST(Structure, NoCircleBetweenFiles) {
+    std::map<std::string, std::set<std::string>> arrows;
+    const auto stem = [](std::filesystem::path path) { return path.replace_extension().string(); };
+    for (const auto& source : Sources()) {
+        for (const std::string& target : Includes(source).first) {
+            if (stem(target) != stem(source)) {
+                arrows[stem(source)].insert(stem(target));
             }
         }
     }
     // Takes files away that include nothing any more; what remains is a circle.
-    for (bool weniger = true; weniger;) {
-        std::set<std::string> offen;
-        for (const auto& [quelle, ziele] : pfeile) {
-            offen.insert(quelle);
+    for (bool fewer = true; fewer;) {
+        std::set<std::string> open;
+        for (const auto& [source, targets] : arrows) {
+            open.insert(source);
         }
-        weniger = std::erase_if(pfeile, [&](const auto& paar) {
-                      return std::ranges::none_of(
-                          paar.second, [&](const auto& ziel) { return offen.contains(ziel); });
-                  }) > 0;
+        fewer = std::erase_if(arrows, [&](const auto& pair) {
+                    return std::ranges::none_of(
+                        pair.second, [&](const auto& target) { return open.contains(target); });
+                }) > 0;
     }
-    for (const auto& [quelle, ziele] : pfeile) {
-        ADD_FAILURE() << quelle << " stands in a circle of includes or leads into one";
+    for (const auto& [source, targets] : arrows) {
+        ADD_FAILURE() << source << " stands in a circle of includes or leads into one";
     }
 }
 
-TEST(Struktur, JedesGenannteBildLiegtBeiDenDaten) {
-    std::set<std::string> daten;
-    for (const auto& e : std::filesystem::recursive_directory_iterator(kWurzel / "data")) {
-        daten.insert(e.path().filename().string());
+TEST(Structure, EveryNamedPictureLiesWithTheData) {
+    std::set<std::string> data;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(kRoot / "data")) {
+        data.insert(entry.path().filename().string());
     }
-    std::size_t genannt = 0;
-    for (const auto& quelle : Quellen()) {
-        std::istringstream stuecke(LiesDatei(kWurzel / "src" / quelle));
-        for (std::string stueck; std::getline(stuecke, stueck, '"');) {
-            const std::string endung = std::filesystem::path(stueck).extension().string();
-            if (std::set<std::string>{".gif", ".png", ".ico", ".wav"}.contains(endung) &&
-                endung != stueck) {
-                EXPECT_TRUE(daten.contains(stueck)) << quelle << " names " << stueck;
-                ++genannt;
+    std::size_t named = 0;
+    for (const auto& source : Sources()) {
+        std::istringstream pieces(ReadFileToString(kRoot / "src" / source));
+        for (std::string piece; std::getline(pieces, piece, '"');) {
+            const std::string suffix = std::filesystem::path(piece).extension().string();
+            if (std::set<std::string>{".gif", ".png", ".ico", ".wav"}.contains(suffix) &&
+                suffix != piece) {
+                EXPECT_TRUE(data.contains(piece)) << source << " names " << piece;
+                ++named;
             }
         }
     }
-    EXPECT_GT(genannt, 0U);
+    EXPECT_GT(named, 0U);
 }
 
-TEST(Struktur, DerBauKenntJedeQuelle) {
-    for (const auto& [ordner, liste] :
+TEST(Structure, TheBuildKnowsEverySource) {
+    for (const auto& [folder, list] :
          {std::pair("src", "src/CMakeLists.txt"), std::pair("tests", "tests/CMakeLists.txt"),
           std::pair("bench", "bench/CMakeLists.txt")}) {
-        const std::string bau = LiesDatei(kWurzel / liste);
-        for (const auto& e : std::filesystem::recursive_directory_iterator(kWurzel / ordner)) {
-            if (e.path().extension() == ".cpp") {
+        const std::string buildList = ReadFileToString(kRoot / list);
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(kRoot / folder)) {
+            if (entry.path().extension() == ".cpp") {
                 const auto name =
-                    std::filesystem::relative(e.path(), kWurzel / ordner).generic_string();
-                EXPECT_NE(bau.find(name), std::string::npos) << name;
+                    std::filesystem::relative(entry.path(), kRoot / folder).generic_string();
+                EXPECT_NE(buildList.find(name), std::string::npos) << name;
             }
         }
     }

@@ -9,15 +9,15 @@
 namespace tarvelin {
 namespace {
 
-TEST(Endesignale, KommenAmFensterAn) {
-    int gekommen = 0;
+TEST(TerminationSignals, ReachTheWindow) {
+    int arrived = 0;
     {
-        const TerminationSignals signale([&] { ++gekommen; });
+        const TerminationSignals signalHandlers([&] { ++arrived; });
         for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
-            const int bisher = gekommen;
+            const int previous = arrived;
             std::raise(signal);
-            EXPECT_EQ(gekommen, bisher) << "not within the handler";
-            EXPECT_TRUE(QTest::qWaitFor([&] { return gekommen == bisher + 1; })) << signal;
+            EXPECT_EQ(arrived, previous) << "not within the handler";
+            EXPECT_TRUE(QTest::qWaitFor([&] { return arrived == previous + 1; })) << signal;
         }
     }
     for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {

@@ -26,80 +26,80 @@ inline constexpr bool kWindows = false;
 #endif
 
 /// Keeps messages and counts beeps.
-class Merker final : public MessageSink {
+class MessageRecorder final : public MessageSink {
   public:
-    void Show(const Message& meldung) override { Texte.push_back(meldung.text); }
-    void Beep() override { ++Pieptoene; }
+    void Show(const Message& message) override { texts.push_back(message.text); }
+    void Beep() override { ++beeps; }
 
-    std::vector<std::string> Texte;
-    int Pieptoene = 0;
+    std::vector<std::string> texts;
+    int beeps = 0;
 };
 
 /// A new folder of its own, gone at the end of the test. Other runs of the tests share the place.
-class Ordner {
+class TempFolder {
   public:
-    Ordner() {
-        const std::filesystem::path ort = testing::TempDir();
+    TempFolder() {
+        const std::filesystem::path position = testing::TempDir();
         const std::string name =
             "tarvelin-test-" + std::to_string(NativeFileSystem().ProcessId()) + "-";
         int n = 0;
         do {
-            m_pfad = ort / (name + std::to_string(++n));
-        } while (!std::filesystem::create_directory(m_pfad));
+            m_path = position / (name + std::to_string(++n));
+        } while (!std::filesystem::create_directory(m_path));
     }
-    Ordner(const Ordner&) = delete;
-    Ordner& operator=(const Ordner&) = delete;
-    ~Ordner() {
-        std::error_code fehler;
-        std::filesystem::remove_all(m_pfad, fehler);
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+    ~TempFolder() {
+        std::error_code error;
+        std::filesystem::remove_all(m_path, error);
     }
 
-    std::filesystem::path operator/(std::string_view name) const { return m_pfad / name; }
-    [[nodiscard]] std::size_t Eintraege() const {
+    std::filesystem::path operator/(std::string_view name) const { return m_path / name; }
+    [[nodiscard]] std::size_t Entries() const {
         return static_cast<std::size_t>(
-            std::distance(std::filesystem::directory_iterator(m_pfad), {}));
+            std::distance(std::filesystem::directory_iterator(m_path), {}));
     }
 
   private:
-    std::filesystem::path m_pfad;
+    std::filesystem::path m_path;
 };
 
-inline std::string LiesDatei(const std::filesystem::path& datei) {
-    std::ifstream strom(datei, std::ios::binary);
-    return {std::istreambuf_iterator<char>(strom), {}};
+inline std::string ReadFileToString(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-inline void SchreibeDatei(const std::filesystem::path& datei, std::string_view bytes) {
-    std::ofstream(datei, std::ios::binary) << bytes;
+inline void WriteFile(const std::filesystem::path& file, std::string_view bytes) {
+    std::ofstream(file, std::ios::binary) << bytes;
 }
 
 /// As a word of a command.
-inline std::string InZeichen(const std::filesystem::path& pfad) {
-    return "\"" + pfad.string() + "\"";
+inline std::string Quoted(const std::filesystem::path& path) {
+    return "\"" + path.string() + "\"";
 }
 
 /// Runs a command in a folder by the platform's shell. Its exit code.
-inline int FuehreAus(const Ordner& ordner, const std::string& befehl) {
-    const std::string ganzer =
-        (kWindows ? "cd /d " : "cd ") + InZeichen(ordner / "") + " && " + befehl;
-    const int status = std::system(ganzer.c_str());
+inline int Execute(const TempFolder& folder, const std::string& command) {
+    const std::string whole =
+        (kWindows ? "cd /d " : "cd ") + Quoted(folder / "") + " && " + command;
+    const int status = std::system(whole.c_str());
     // Where a shell speaks POSIX, the code stands in the second byte.
     return kWindows ? status : status >> 8;
 }
 
 /// A file in 16-bit units behind its mark, the low byte of each first or the high one.
-inline std::string InUtf16(const std::u16string& text, bool hochVorn) {
+inline std::string ToUtf16Bytes(const std::u16string& text, bool highFirst) {
     std::string bytes;
-    for (const char16_t einheit : u'\xFEFF' + text) {
-        const auto hoch = static_cast<char>(einheit >> 8U);
-        const auto niedrig = static_cast<char>(einheit & 0xFFU);
-        bytes += {hochVorn ? hoch : niedrig, hochVorn ? niedrig : hoch};
+    for (const char16_t unit : u'\xFEFF' + text) {
+        const auto high = static_cast<char>(unit >> 8U);
+        const auto low = static_cast<char>(unit & 0xFFU);
+        bytes += {highFirst ? high : low, highFirst ? low : high};
     }
     return bytes;
 }
 
 /// A plan of 18.11.2006 12:30 without a click buffer, its rows by `Tag`s parted by blanks.
-inline Plan PlanAus(std::string_view tags, const RunConditions& bedingungen = {}) {
+inline Plan PlanOf(std::string_view tags, const RunConditions& conditions = {}) {
     Plan plan;
     plan.parameters.UniStartZeitTag = "18";
     plan.parameters.UniStartZeitMonat = "11";
@@ -107,27 +107,27 @@ inline Plan PlanAus(std::string_view tags, const RunConditions& bedingungen = {}
     plan.parameters.KlickPuffer = 0;
     while (!tags.empty()) {
         const auto tag = tags.substr(0, tags.find(' '));
-        EXPECT_TRUE(plan.LV_Bauliste.Replay(tag, bedingungen)) << tag;
+        EXPECT_TRUE(plan.LV_Bauliste.Replay(tag, conditions)) << tag;
         tags.remove_prefix(std::min(tag.size() + 1, tags.size()));
     }
     return plan;
 }
 
 /// A plan that was run, unless its inputs can't be used.
-struct Probe {
-    LastRun Gelaufen;
-    Merker Meldungen;
-    bool Gelungen = false;
+struct TestRun {
+    LastRun run;
+    MessageRecorder messages;
+    bool succeeded = false;
 
-    explicit Probe(const Plan& plan) {
-        const auto bedingungen = ParseRunConditions(plan);
-        if (const auto* const absage = std::get_if<Message>(&bedingungen)) {
-            Meldungen.Show(*absage);
+    explicit TestRun(const Plan& plan) {
+        const auto conditions = ParseRunConditions(plan);
+        if (const auto* const refusal = std::get_if<Message>(&conditions)) {
+            messages.Show(*refusal);
             return;
         }
-        Gelaufen.ResetSimulation(std::get<RunConditions>(bedingungen));
-        RunSimulation(plan.LV_Bauliste.Orders().All(), Gelaufen, Meldungen);
-        Gelungen = true;
+        run.ResetSimulation(std::get<RunConditions>(conditions));
+        RunSimulation(plan.LV_Bauliste.Orders().All(), run, messages);
+        succeeded = true;
     }
 };
 

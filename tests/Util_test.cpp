@@ -13,23 +13,23 @@ namespace tarvelin {
 namespace {
 
 constexpr auto kMax64 = std::numeric_limits<std::int64_t>::max();
-constexpr double kUnendlich = std::numeric_limits<double>::infinity();
-constexpr double kKeineZahl = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInfinite = std::numeric_limits<double>::infinity();
+constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 constexpr auto kMin64 = std::numeric_limits<std::int64_t>::min();
 
-TEST(Rundung, NimmtDieRichtungIhresNamensUndHaeltAnDenEnden) {
-    struct Fall {
-        double wert;
-        std::int64_t halb, ab, runter;
+TEST(Rounding, GoesTheWayOfItsNameAndStopsAtTheLimits) {
+    struct Case {
+        double value;
+        std::int64_t half, cut, floor;
     };
-    for (const Fall& f :
-         {Fall{2.5, 2, 2, 2}, Fall{3.5, 4, 3, 3}, Fall{-2.5, -2, -2, -3}, Fall{-0.1, 0, 0, -1},
-          Fall{7, 7, 7, 7}, Fall{1e300, kMax64, kMax64, kMax64},
-          Fall{-9223372036854775808.0, kMin64, kMin64, kMin64},
-          Fall{-kUnendlich, kMin64, kMin64, kMin64}, Fall{kKeineZahl, 0, 0, 0}}) {
-        EXPECT_EQ(Rounding::HalfEven(f.wert), f.halb) << f.wert;
-        EXPECT_EQ(Rounding::Cut(f.wert), f.ab) << f.wert;
-        EXPECT_EQ(Rounding::Floor(f.wert), f.runter) << f.wert;
+    for (const Case& testCase :
+         {Case{2.5, 2, 2, 2}, Case{3.5, 4, 3, 3}, Case{-2.5, -2, -2, -3}, Case{-0.1, 0, 0, -1},
+          Case{7, 7, 7, 7}, Case{1e300, kMax64, kMax64, kMax64},
+          Case{-9223372036854775808.0, kMin64, kMin64, kMin64},
+          Case{-kInfinite, kMin64, kMin64, kMin64}, Case{kNoNumber, 0, 0, 0}}) {
+        EXPECT_EQ(Rounding::HalfEven(testCase.value), testCase.half) << testCase.value;
+        EXPECT_EQ(Rounding::Cut(testCase.value), testCase.cut) << testCase.value;
+        EXPECT_EQ(Rounding::Floor(testCase.value), testCase.floor) << testCase.value;
     }
     EXPECT_EQ(LongSum(kMax64 / 2, 5), std::numeric_limits<Long>::max());
     EXPECT_EQ(LongSum(-3'000'000'000, 5), std::numeric_limits<Long>::min());
@@ -37,7 +37,7 @@ TEST(Rundung, NimmtDieRichtungIhresNamensUndHaeltAnDenEnden) {
     EXPECT_EQ(Saturate<Byte>(-1), 0);
 }
 
-TEST(Festkomma, RechnetGenauUndHaeltAnDenEnden) {
+TEST(FixedPoint, CalculatesExactlyAndStopsAtTheLimits) {
     const auto max = FixedPoint::FromRaw(kMax64);
     const auto min = FixedPoint::FromRaw(kMin64);
     EXPECT_EQ(max + FixedPoint::FromRaw(1), max);
@@ -56,7 +56,7 @@ TEST(Festkomma, RechnetGenauUndHaeltAnDenEnden) {
     EXPECT_EQ(DecimalText(FixedPoint()), "0");
 }
 
-TEST(Zahlentext, SchreibtSchlichteDezimalzahlen) {
+TEST(NumberText, WritesPlainDecimals) {
     EXPECT_EQ(DecimalText(0.1 - 40 + 40, 10), "0,1");
     EXPECT_EQ(DecimalText(-0.00004, 4), "0");
     EXPECT_EQ(DecimalText(0.0625, 3), "0,062");
@@ -71,19 +71,19 @@ TEST(Zahlentext, SchreibtSchlichteDezimalzahlen) {
     EXPECT_EQ(WholeText(std::ldexp(1.0, 80)), "1208925819614629174706176");
 }
 
-TEST(Datumzeit, LiestNurDieseTexte) {
-    const auto gelesen = [](const char* text) {
-        const auto zeit = ParseDateTime(text);
-        return zeit ? DateTimeText(*zeit) : "-";
+TEST(DateTime, ParsesOnlyTheseTexts) {
+    const auto parsed = [](const char* text) {
+        const auto time = ParseDateTime(text);
+        return time ? DateTimeText(*time) : "-";
     };
-    for (const auto& [text, zeit] : {std::pair("1.2.06 3:4", "01.02.2006 03:04:00"),
+    for (const auto& [text, time] : {std::pair("1.2.06 3:4", "01.02.2006 03:04:00"),
                                      std::pair("01.02.2006 03:04:5", "01.02.2006 03:04:05"),
                                      std::pair("29.02.29 23:59:59", "-"),
                                      std::pair("28.02.29 23:59:59", "28.02.2029 23:59:59"),
                                      std::pair("28.02.30 00:00:00", "28.02.1930 00:00:00"),
                                      std::pair("29.02.2000 00:00", "29.02.2000 00:00:00"),
                                      std::pair("01.01.0100 00:00", "01.01.0100 00:00:00")}) {
-        EXPECT_EQ(gelesen(text), zeit) << text;
+        EXPECT_EQ(parsed(text), time) << text;
     }
     for (const char* const text : {"18.11.206 12:30",
                                    "18.11.0099 12:30",
@@ -110,23 +110,23 @@ TEST(Datumzeit, LiestNurDieseTexte) {
                                    "-1.11.2006 12:30",
                                    "18/11/2006 12:30",
                                    ""}) {
-        EXPECT_EQ(gelesen(text), "-") << text;
+        EXPECT_EQ(parsed(text), "-") << text;
     }
 }
 
-TEST(Datumzeit, KenntWochentageUndGrosseJahre) {
-    const DateTime samstag = *ParseDateTime("18.11.2006 23:59:59");
-    EXPECT_EQ(WeekdayShort(samstag), "Sa");
-    EXPECT_EQ(WeekdayLong(samstag + 1), "Sonntag");
-    EXPECT_EQ(Weekday(samstag + 1), 1);
+TEST(DateTime, KnowsWeekdaysAndLargeYears) {
+    const DateTime saturday = *ParseDateTime("18.11.2006 23:59:59");
+    EXPECT_EQ(WeekdayShort(saturday), "Sa");
+    EXPECT_EQ(WeekdayLong(saturday + 1), "Sonntag");
+    EXPECT_EQ(Weekday(saturday + 1), 1);
     EXPECT_EQ(DateTimeText(*ParseDateTime("31.12.9999 23:59:59") + 1), "01.01.10000 00:00:00");
-    const DateTime alt = *ParseDateTime("29.12.1899 12:00");
-    EXPECT_EQ(DateTimeText(alt), "29.12.1899 12:00:00");
-    EXPECT_EQ(WeekdayShort(alt), "Fr");
-    EXPECT_EQ(*ParseDateTime("01.01.9999 00:00") - samstag, std::numeric_limits<Long>::max());
+    const DateTime before = *ParseDateTime("29.12.1899 12:00");
+    EXPECT_EQ(DateTimeText(before), "29.12.1899 12:00:00");
+    EXPECT_EQ(WeekdayShort(before), "Fr");
+    EXPECT_EQ(*ParseDateTime("01.01.9999 00:00") - saturday, std::numeric_limits<Long>::max());
 }
 
-TEST(Nuetzliches, SchneidetUndFuelltTexte) {
+TEST(Nuetzliches, CutsAndPadsTexts) {
     EXPECT_EQ(GetToken("GX:8:10:5", 4, ""), "5");
     EXPECT_EQ(GetToken("GX:8", std::numeric_limits<int>::max(), ":"), "");
     EXPECT_EQ(TextBefore("abc", ":"), "");
@@ -136,7 +136,7 @@ TEST(Nuetzliches, SchneidetUndFuelltTexte) {
     EXPECT_EQ(PadDecimals("1", 2), "1,00");
 }
 
-TEST(Nuetzliches, SchreibtDauern) {
+TEST(Nuetzliches, WritesDurations) {
     EXPECT_EQ(FormatDuration(90061, "s", "d(0)h(1)m(2)s(3)(&)", "d"), "1 Tage 1h 1m 1s und");
     EXPECT_EQ(FormatDuration(90061, "s", "hh:mm:ss", "h"), "25:01:01");
     EXPECT_EQ(FormatDuration(3700, "s", "mm:ss", "d"), "01:40");
@@ -149,12 +149,12 @@ TEST(Nuetzliches, SchreibtDauern) {
     EXPECT_EQ(FormatDuration(5, "w", "ss", "d"), "");
 }
 
-TEST(Codepage1252, KommtMitJedemByteZurueck) {
-    std::string alle;
+TEST(Codepage1252, ComesBackWithEveryByte) {
+    std::string all;
     for (int byte = 0; byte < 256; ++byte) {
-        alle += static_cast<char>(byte);
+        all += static_cast<char>(byte);
     }
-    EXPECT_EQ(To1252(From1252(alle)), alle);
+    EXPECT_EQ(To1252(From1252(all)), all);
     EXPECT_EQ(From1252("\x80\xE4"), "€ä");
     EXPECT_EQ(To1252("\xE0\x81\x81\xC0\xAF\xF4\x90\x80\x80"), "?????????");
     EXPECT_EQ(To1252("漢\xF0\x9F\x98\x80 \xFFx\xC3"), "?? ?x?");

@@ -12,14 +12,14 @@ int main(int argc, char** argv) {
                 "offscreen:configfile=" TARVELIN_SOURCE_DIR "/tests/data/bildschirm.json");
     }
     // The toolkit would make a folder that stays.
-    const QTemporaryDir laufzeit;
-    qputenv("XDG_RUNTIME_DIR", laufzeit.path().toUtf8());
+    const QTemporaryDir runtimeFolder;
+    qputenv("XDG_RUNTIME_DIR", runtimeFolder.path().toUtf8());
     // What is fetched lies on this machine.
     qputenv("no_proxy", "*");
     testing::InitGoogleTest(&argc, argv);
     // A test can press the toolkit's own dialogs only.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QApplication programm(argc, argv);
-    tarvelin::ApplyAppearance(programm);
+    QApplication program(argc, argv);
+    tarvelin::ApplyAppearance(program);
     return RUN_ALL_TESTS();
 }
