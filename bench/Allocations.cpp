@@ -7,30 +7,30 @@
 
 namespace {
 
-std::size_t g_allokationen = 0;
+std::size_t g_allocations = 0;
 
 }  // namespace
 
 namespace tarvelin {
 
-std::size_t Allokationen() {
-    return g_allokationen;
+std::size_t Allocations() {
+    return g_allocations;
 }
 
 }  // namespace tarvelin
 
-void* operator new(std::size_t groesse) {
-    ++g_allokationen;
-    if (void* const speicher = std::malloc(groesse)) {
-        return speicher;
+void* operator new(std::size_t size) {
+    ++g_allocations;
+    if (void* const memory = std::malloc(size)) {
+        return memory;
     }
     throw std::bad_alloc();
 }
 
-void operator delete(void* speicher) noexcept {
-    std::free(speicher);
+void operator delete(void* memory) noexcept {
+    std::free(memory);
 }
 
-void operator delete(void* speicher, std::size_t /*groesse*/) noexcept {
-    std::free(speicher);
+void operator delete(void* memory, std::size_t /*groesse*/) noexcept {
+    std::free(memory);
 }

@@ -6,6 +6,6 @@
 namespace tarvelin {
 
 /// Calls of the global operator new since the program's start.
-[[nodiscard]] std::size_t Allokationen();
+[[nodiscard]] std::size_t Allocations();
 
 }  // namespace tarvelin

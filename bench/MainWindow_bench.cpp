@@ -18,7 +18,7 @@
 namespace tarvelin {
 namespace {
 
-class Stumm final : public Dialogs {
+class NullSink final : public Dialogs {
   public:
     void Show(const Message& /*meldung*/) override {}
     bool ShowSuppressible(const Message& /*meldung*/) override { return true; }
@@ -31,145 +31,144 @@ class Stumm final : public Dialogs {
     void CloseAll() override {}
 };
 
-class KeinNetz final : public Fetcher {
+class NoFetcher final : public Fetcher {
   public:
     std::optional<std::string> Fetch(const std::string& /*adresse*/) override { return {}; }
     void ProcessEvents() override {}
     void Abort() override {}
 };
 
-class KeinTon final : public Sound {
+class NoSound final : public Sound {
   public:
     void Play(const std::filesystem::path& /*datei*/) override {}
 };
 
-struct Welt {
-    Stumm Boxen;
-    KeinNetz Netz;
-    KeinTon Ton;
-    tarvelin::Environment Umgebung{
-        .dialogs = Boxen,
-        .fetcher = Netz,
-        .sound = Ton,
+struct FakeWorld {
+    NullSink dialogs;
+    NoFetcher fetcher;
+    NoSound sound;
+    tarvelin::Environment environment{
+        .dialogs = dialogs,
+        .fetcher = fetcher,
+        .sound = sound,
         .now = [] { return *ParseDateTime("18.11.2006 12:30:00"); },
         .openPage = [](const std::string&) {},
         .programFolder = QCoreApplication::applicationDirPath().toStdString()};
 };
 
 /// Shown, with every event behind it that painting takes.
-void ZeigeGanz(frmMain& fenster) {
-    fenster.show();
-    while (!QTest::qWaitForWindowExposed(&fenster)) {
+void ShowFully(frmMain& window) {
+    window.show();
+    while (!QTest::qWaitForWindowExposed(&window)) {
     }
-    fenster.grab();
+    window.grab();
 }
 
 /// As many rows as a list can hold, all items in turn.
-void Fuelle(const frmMain& fenster) {
-    auto* const liste = fenster.findChild<BuildListView*>();
+void Fill(const frmMain& window) {
+    auto* const list = window.findChild<BuildListView*>();
     for (std::size_t i = 0; i < OrderList::kMaxSize; ++i) {
-        emit liste->DragDrop(ToQString(ItemDisplays()[i % kNumItems].pictureName));
+        emit list->DragDrop(ToQString(ItemDisplays()[i % kNumItems].pictureName));
     }
 }
 
-void Start(benchmark::State& state) {
-    const Welt welt;
+void ProgramStart(benchmark::State& state) {
+    const FakeWorld world;
     for (auto _ : state) {
-        frmMain fenster(welt.Umgebung);
-        ZeigeGanz(fenster);
+        frmMain window(world.environment);
+        ShowFully(window);
     }
 }
-BENCHMARK(Start)->Unit(benchmark::kMillisecond);
+BENCHMARK(ProgramStart)->Unit(benchmark::kMillisecond);
 
-void LangerPlanZeileFuerZeile(benchmark::State& state) {
-    const Welt welt;
-    frmMain fenster(welt.Umgebung);
-    ZeigeGanz(fenster);
-    auto* const leeren = fenster.findChild<QPushButton*>(QStringLiteral("Cmd_Clear"));
+void LongPlanRowByRow(benchmark::State& state) {
+    const FakeWorld world;
+    frmMain window(world.environment);
+    ShowFully(window);
+    auto* const clear = window.findChild<QPushButton*>(QStringLiteral("Cmd_Clear"));
     for (auto _ : state) {
-        leeren->click();
-        Fuelle(fenster);
-        fenster.grab();
+        clear->click();
+        Fill(window);
+        window.grab();
     }
 }
-BENCHMARK(LangerPlanZeileFuerZeile)->Unit(benchmark::kMillisecond);
+BENCHMARK(LongPlanRowByRow)->Unit(benchmark::kMillisecond);
 
-void LangerPlanSimuliertUndGezeigt(benchmark::State& state) {
-    const Welt welt;
-    frmMain fenster(welt.Umgebung);
-    ZeigeGanz(fenster);
-    Fuelle(fenster);
+void LongPlanSimulatedAndShown(benchmark::State& state) {
+    const FakeWorld world;
+    frmMain window(world.environment);
+    ShowFully(window);
+    Fill(window);
     for (auto _ : state) {
-        fenster.RunSimulation(true);
-        fenster.grab();
+        window.RunSimulation(true);
+        window.grab();
     }
 }
-BENCHMARK(LangerPlanSimuliertUndGezeigt)->Unit(benchmark::kMillisecond);
+BENCHMARK(LongPlanSimulatedAndShown)->Unit(benchmark::kMillisecond);
 
-void EineBewegungUeberEinemBild(benchmark::State& state) {
-    const Welt welt;
-    frmMain fenster(welt.Umgebung);
-    ZeigeGanz(fenster);
-    Fuelle(fenster);
-    auto* const bild = fenster.findChild<ItemPicture*>(QStringLiteral("ImgMetMine"));
+void OneMoveOverAPicture(benchmark::State& state) {
+    const FakeWorld world;
+    frmMain window(world.environment);
+    ShowFully(window);
+    Fill(window);
+    auto* const picture = window.findChild<ItemPicture*>(QStringLiteral("ImgMetMine"));
     for (auto _ : state) {
-        emit bild->MouseMove();
+        emit picture->MouseMove();
     }
 }
-BENCHMARK(EineBewegungUeberEinemBild)->Unit(benchmark::kMicrosecond);
+BENCHMARK(OneMoveOverAPicture)->Unit(benchmark::kMicrosecond);
 
-QWidget& Werkbank(frmMain& fenster) {
-    fenster.findChild<QAction*>(QStringLiteral("mnuWerkbank"))->trigger();
-    const auto alle = QApplication::topLevelWidgets();
-    const auto offen = std::ranges::find(alle, QStringLiteral("frmWerkbank"), &QObject::objectName);
-    (*offen)->resize(1600, 1000);
-    while (!QTest::qWaitForWindowExposed(*offen)) {
+QWidget& WorkbenchOf(frmMain& window) {
+    window.findChild<QAction*>(QStringLiteral("mnuWerkbank"))->trigger();
+    const auto all = QApplication::topLevelWidgets();
+    const auto open = std::ranges::find(all, QStringLiteral("frmWerkbank"), &QObject::objectName);
+    (*open)->resize(1600, 1000);
+    while (!QTest::qWaitForWindowExposed(*open)) {
     }
-    return **offen;
+    return **open;
 }
 
 /// A picture of the timeline, first of the whole plan, then with each number of zooms.
-void ZeitleisteGemalt(benchmark::State& state) {
-    const Welt welt;
-    frmMain fenster(welt.Umgebung);
-    ZeigeGanz(fenster);
-    Fuelle(fenster);
-    auto& leiste = *Werkbank(fenster).findChild<TimelineView*>();
-    const QPointF ort(leiste.viewport()->rect().center());
+void TimelinePainted(benchmark::State& state) {
+    const FakeWorld world;
+    frmMain window(world.environment);
+    ShowFully(window);
+    Fill(window);
+    auto& timeline = *WorkbenchOf(window).findChild<TimelineView*>();
+    const QPointF position(timeline.viewport()->rect().center());
     for (std::int64_t i = 0; i < state.range(0); ++i) {
-        QWheelEvent rad(ort, ort, {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(leiste.viewport(), &rad);
+        QWheelEvent wheel(position, position, {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(timeline.viewport(), &wheel);
     }
-    QImage bild(leiste.viewport()->size(), QImage::Format_RGB32);
-    int schritt = 1;
+    QImage picture(timeline.viewport()->size(), QImage::Format_RGB32);
+    int step = 1;
     for (auto _ : state) {
-        schritt = -schritt;
-        leiste.horizontalScrollBar()->setValue(leiste.horizontalScrollBar()->value() + schritt);
-        leiste.viewport()->render(&bild);
+        step = -step;
+        timeline.horizontalScrollBar()->setValue(timeline.horizontalScrollBar()->value() + step);
+        timeline.viewport()->render(&picture);
     }
 }
-BENCHMARK(ZeitleisteGemalt)->Arg(0)->Arg(5)->Arg(20)->Unit(benchmark::kMillisecond);
+BENCHMARK(TimelinePainted)->Arg(0)->Arg(5)->Arg(20)->Unit(benchmark::kMillisecond);
 
 /// A row of 254 goes up and down: both windows run the plan and show it.
-void ZeileVerschoben(benchmark::State& state) {
-    const Welt welt;
-    frmMain fenster(welt.Umgebung);
-    ZeigeGanz(fenster);
-    Fuelle(fenster);
-    QWidget& werkbank = Werkbank(fenster);
-    auto* const liste = werkbank.findChild<OrderListView*>();
-    liste->Choose({100});
-    bool hoch = false;
+void RowMoved(benchmark::State& state) {
+    const FakeWorld world;
+    frmMain window(world.environment);
+    ShowFully(window);
+    Fill(window);
+    QWidget& workbench = WorkbenchOf(window);
+    auto* const list = workbench.findChild<OrderListView*>();
+    list->Choose({100});
+    bool up = false;
     for (auto _ : state) {
-        hoch = !hoch;
-        werkbank
-            .findChild<QPushButton*>(hoch ? QStringLiteral("Cmd_Hoch")
-                                          : QStringLiteral("Cmd_Runter"))
+        up = !up;
+        workbench
+            .findChild<QPushButton*>(up ? QStringLiteral("Cmd_Hoch") : QStringLiteral("Cmd_Runter"))
             ->click();
-        werkbank.grab();
+        workbench.grab();
     }
 }
-BENCHMARK(ZeileVerschoben)->Unit(benchmark::kMillisecond);
+BENCHMARK(RowMoved)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace tarvelin
@@ -179,8 +178,8 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     benchmark::Initialize(&argc, argv);
-    QApplication programm(argc, argv);
-    tarvelin::ApplyAppearance(programm);
+    QApplication program(argc, argv);
+    tarvelin::ApplyAppearance(program);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -21,195 +21,194 @@ namespace {
 
 using namespace tarvelin;
 
-class Schweigend final : public MessageSink {
+class QuietObserver final : public MessageSink {
   public:
     void Show(const Message& /*meldung*/) override {}
     void Beep() override {}
 };
 
 /// Counts starts.
-class Zaehler final : public RunObserver {
+class StartCounter final : public RunObserver {
   public:
-    void OnStart(const StartEvent& /*ereignis*/) override { ++Starts; }
+    void OnStart(const StartEvent& /*ereignis*/) override { ++starts; }
 
-    std::size_t Starts = 0;
+    std::size_t starts = 0;
 };
 
 /// Orders as a player would give them: within the rules, buildings and research up to levels that
 /// an opening reaches, ships and defences in batches, now and then a production row.
-OrderList MacheListe(std::size_t zeilen) {
-    constexpr int kHoechsteMine = 20;
-    constexpr int kHoechsteStufe = 6;
-    constexpr unsigned kProduktionJede = 40;
-    constexpr int kStapel = 5;
-    std::minstd_rand zufall(20061118);
-    OrderList liste;
-    while (liste.Size() < zeilen) {
-        const ItemRow& zeile = RowOf(static_cast<ItemId>(zufall() % kNumItems));
+OrderList MakeList(std::size_t rows) {
+    constexpr int kHighestMine = 20;
+    constexpr int kMaxLevel = 6;
+    constexpr unsigned kProductionEvery = 40;
+    constexpr int kBatch = 5;
+    std::minstd_rand random(20061118);
+    OrderList list;
+    while (list.Size() < rows) {
+        const ItemRow& row = RowOf(static_cast<ItemId>(random() % kNumItems));
         // The first four items are the mines and the power plant.
-        const int hoechste = zeile.item < ItemId::Robo ? kHoechsteMine : kHoechsteStufe;
-        const bool einheit = zeile.queue == Queue::Shipyard && zeile.item != ItemId::klSchK;
-        if (zufall() % kProduktionJede == 0) {
-            liste.Append(Order::Of(MineFactors{{10, 10, 8}}));
-        } else if (!Refusal(zeile.item, liste) &&
-                   (einheit || liste.ListStufe(zeile.item) < hoechste)) {
-            for (int i = 0; i < (einheit ? kStapel : 1) && liste.Size() < zeilen; ++i) {
-                liste.Append(Order::Of(zeile.item));
+        const int highest = row.item < ItemId::Robo ? kHighestMine : kMaxLevel;
+        const bool unit = row.queue == Queue::Shipyard && row.item != ItemId::klSchK;
+        if (random() % kProductionEvery == 0) {
+            list.Append(Order::Of(MineFactors{{10, 10, 8}}));
+        } else if (!Refusal(row.item, list) && (unit || list.ListStufe(row.item) < highest)) {
+            for (int i = 0; i < (unit ? kBatch : 1) && list.Size() < rows; ++i) {
+                list.Append(Order::Of(row.item));
             }
         }
     }
-    return liste;
+    return list;
 }
 
 /// With two nights of sleep.
-Plan MachePlan(std::size_t zeilen) {
+Plan MakePlan(std::size_t rows) {
     Plan plan;
     plan.parameters.UniStartZeitTag = "18";
     plan.parameters.UniStartZeitMonat = "11";
     plan.parameters.UniStartZeitJahr = "2006";
     plan.LV_Schlafzeiten = {{"18.11.2006 23:00", "19.11.2006 07:00"},
                             {"19.11.2006 23:00", "20.11.2006 07:00"}};
-    const OrderList liste = MacheListe(zeilen);
-    for (const Order& order : liste.All()) {
+    const OrderList list = MakeList(rows);
+    for (const Order& order : list.All()) {
         (void)plan.LV_Bauliste.Replay(order.Tag(), RunConditions());
     }
     return plan;
 }
 
-RunConditions Bedingungen() {
-    return std::get<RunConditions>(ParseRunConditions(MachePlan(1)));
+RunConditions Conditions() {
+    return std::get<RunConditions>(ParseRunConditions(MakePlan(1)));
 }
 
-std::size_t Zeilen(const benchmark::State& state) {
+std::size_t RowCount(const benchmark::State& state) {
     return static_cast<std::size_t>(state.range(0));
 }
 
-void MerkeAllokationen(benchmark::State& state, std::size_t vorher) {
-    state.counters["Allokationen"] = benchmark::Counter(
-        static_cast<double>(Allokationen() - vorher), benchmark::Counter::kAvgIterations);
+void RecordAllocations(benchmark::State& state, std::size_t before) {
+    state.counters["Allokationen"] = benchmark::Counter(static_cast<double>(Allocations() - before),
+                                                        benchmark::Counter::kAvgIterations);
 }
 
 /// With the rows of its build times, as the window shows them.
-void Laufen(benchmark::State& state) {
-    const OrderList liste = MacheListe(Zeilen(state));
-    const RunConditions bedingungen = Bedingungen();
-    Schweigend meldungen;
-    const std::size_t vorher = Allokationen();
+void Running(benchmark::State& state) {
+    const OrderList list = MakeList(RowCount(state));
+    const RunConditions conditions = Conditions();
+    QuietObserver messages;
+    const std::size_t before = Allocations();
     for (auto _ : state) {
-        LastRun lauf;
-        lauf.ResetSimulation(bedingungen);
-        RunSimulation(liste.All(), lauf, meldungen);
-        benchmark::DoNotOptimize(lauf.state);
+        LastRun run;
+        run.ResetSimulation(conditions);
+        RunSimulation(list.All(), run, messages);
+        benchmark::DoNotOptimize(run.state);
     }
-    MerkeAllokationen(state, vorher);
+    RecordAllocations(state, before);
 }
-BENCHMARK(Laufen)->Arg(60)->Arg(254);
+BENCHMARK(Running)->Arg(60)->Arg(254);
 
 /// With an observer that only counts.
-void Zaehlen(benchmark::State& state) {
-    const OrderList liste = MacheListe(Zeilen(state));
-    const RunConditions bedingungen = Bedingungen();
-    const std::size_t vorher = Allokationen();
+void Counting(benchmark::State& state) {
+    const OrderList list = MakeList(RowCount(state));
+    const RunConditions conditions = Conditions();
+    const std::size_t before = Allocations();
     for (auto _ : state) {
-        Zaehler zaehler;
-        Simulation simulation(liste.All(), bedingungen);
-        simulation.RunToEnd(zaehler);
-        benchmark::DoNotOptimize(zaehler.Starts);
+        StartCounter counter;
+        Simulation simulation(list.All(), conditions);
+        simulation.RunToEnd(counter);
+        benchmark::DoNotOptimize(counter.starts);
     }
-    MerkeAllokationen(state, vorher);
+    RecordAllocations(state, before);
 }
-BENCHMARK(Zaehlen)->Arg(60)->Arg(254);
+BENCHMARK(Counting)->Arg(60)->Arg(254);
 
 /// The last third of a run, from a copy of its state.
-void Fortsetzen(benchmark::State& state) {
-    const OrderList liste = MacheListe(Zeilen(state));
-    const RunConditions bedingungen = Bedingungen();
-    Zaehler zaehler;
-    Simulation stand(liste.All(), bedingungen);
-    while (stand.NextListRow() < liste.Size() * 2 / 3 || stand.HasPendingOrder()) {
-        stand.Step(zaehler);
+void Resuming(benchmark::State& state) {
+    const OrderList list = MakeList(RowCount(state));
+    const RunConditions conditions = Conditions();
+    StartCounter counter;
+    Simulation prepared(list.All(), conditions);
+    while (prepared.NextListRow() < list.Size() * 2 / 3 || prepared.HasPendingOrder()) {
+        prepared.Step(counter);
     }
     for (auto _ : state) {
-        Simulation simulation = stand;
-        simulation.RunToEnd(zaehler);
-        benchmark::DoNotOptimize(zaehler.Starts);
+        Simulation simulation = prepared;
+        simulation.RunToEnd(counter);
+        benchmark::DoNotOptimize(counter.starts);
     }
 }
-BENCHMARK(Fortsetzen)->Arg(60);
+BENCHMARK(Resuming)->Arg(60);
 
-void Kopieren(benchmark::State& state) {
-    const OrderList liste = MacheListe(1);
-    const RunConditions bedingungen = Bedingungen();
-    const Simulation simulation(liste.All(), bedingungen);
-    Simulation kopie = simulation;
+void Copying(benchmark::State& state) {
+    const OrderList list = MakeList(1);
+    const RunConditions conditions = Conditions();
+    const Simulation simulation(list.All(), conditions);
+    Simulation copy = simulation;
     for (auto _ : state) {
-        kopie = simulation;
-        benchmark::DoNotOptimize(kopie);
+        copy = simulation;
+        benchmark::DoNotOptimize(copy);
     }
 }
-BENCHMARK(Kopieren);
+BENCHMARK(Copying);
 
 /// A list of orders, without a text.
-void Bauen(benchmark::State& state) {
-    const OrderList vorlage = MacheListe(Zeilen(state));
+void Building(benchmark::State& state) {
+    const OrderList pattern = MakeList(RowCount(state));
     for (auto _ : state) {
-        OrderList liste;
-        for (const Order& order : vorlage.All()) {
-            liste.Append(order);
+        OrderList list;
+        for (const Order& order : pattern.All()) {
+            list.Append(order);
         }
-        benchmark::DoNotOptimize(liste);
+        benchmark::DoNotOptimize(list);
     }
 }
-BENCHMARK(Bauen)->Arg(60);
+BENCHMARK(Building)->Arg(60);
 
-void Laden(benchmark::State& state) {
-    IniFile profil("");
-    WritePlan(MachePlan(Zeilen(state)), profil);
-    const std::string bytes = profil.Bytes();
-    Schweigend meldungen;
+void Loading(benchmark::State& state) {
+    IniFile profile("");
+    WritePlan(MakePlan(RowCount(state)), profile);
+    const std::string bytes = profile.Bytes();
+    QuietObserver messages;
     for (auto _ : state) {
         Plan plan;
-        benchmark::DoNotOptimize(ReadPlan(IniFile(bytes), plan, RunConditions(), meldungen));
+        benchmark::DoNotOptimize(ReadPlan(IniFile(bytes), plan, RunConditions(), messages));
     }
 }
-BENCHMARK(Laden)->Arg(60)->Arg(254);
+BENCHMARK(Loading)->Arg(60)->Arg(254);
 
-void Speichern(benchmark::State& state) {
-    const Plan plan = MachePlan(Zeilen(state));
+void Saving(benchmark::State& state) {
+    const Plan plan = MakePlan(RowCount(state));
     for (auto _ : state) {
-        IniFile profil("");
-        WritePlan(plan, profil);
-        benchmark::DoNotOptimize(profil.Bytes());
+        IniFile profile("");
+        WritePlan(plan, profile);
+        benchmark::DoNotOptimize(profile.Bytes());
     }
 }
-BENCHMARK(Speichern)->Arg(60)->Arg(254);
+BENCHMARK(Saving)->Arg(60)->Arg(254);
 
-void Potenz(benchmark::State& state) {
-    constexpr unsigned kStufen = 64;
+void PowerOf(benchmark::State& state) {
+    constexpr unsigned kLevels = 64;
     unsigned n = 0;
     for (auto _ : state) {
         benchmark::DoNotOptimize(std::pow(1.1, static_cast<double>(n)));
-        n = (n + 1) % kStufen;
+        n = (n + 1) % kLevels;
     }
 }
-BENCHMARK(Potenz);
+BENCHMARK(PowerOf);
 
 /// Prints the table and keeps the times, in nanoseconds.
-class Sammler final : public benchmark::ConsoleReporter {
+class ResultCollector final : public benchmark::ConsoleReporter {
   public:
-    void ReportRuns(const std::vector<Run>& laeufe) override {
-        for (const Run& lauf : laeufe) {
-            m_zeiten[lauf.benchmark_name()] = lauf.GetAdjustedCPUTime();
+    void ReportRuns(const std::vector<Run>& runs) override {
+        for (const Run& run : runs) {
+            m_times[run.benchmark_name()] = run.GetAdjustedCPUTime();
         }
-        ConsoleReporter::ReportRuns(laeufe);
+        ConsoleReporter::ReportRuns(runs);
     }
-    [[nodiscard]] double Zeit(const std::string& name) const {
-        const auto zeit = m_zeiten.find(name);
-        return zeit == m_zeiten.end() ? 0 : zeit->second;
+    [[nodiscard]] double TimeOf(const std::string& name) const {
+        const auto time = m_times.find(name);
+        return time == m_times.end() ? 0 : time->second;
     }
 
   private:
-    std::map<std::string, double> m_zeiten;
+    std::map<std::string, double> m_times;
 };
 
 }  // namespace
@@ -219,22 +218,22 @@ int main(int argc, char** argv) {
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return EXIT_FAILURE;
     }
-    Sammler sammler;
-    benchmark::RunSpecifiedBenchmarks(&sammler);
-    const double potenz = sammler.Zeit("Potenz");
-    if (potenz > 0) {
-        for (const int zeilen : {60, 254}) {
-            const double lauf = sammler.Zeit("Laufen/" + std::to_string(zeilen));
-            std::printf("Ein Ereignis eines Laufs von %d Zeilen kostet %.2f Potenzen.\n", zeilen,
-                        lauf / (2 * zeilen) / potenz);
+    ResultCollector collector;
+    benchmark::RunSpecifiedBenchmarks(&collector);
+    const double power = collector.TimeOf("Potenz");
+    if (power > 0) {
+        for (const int rows : {60, 254}) {
+            const double run = collector.TimeOf("Laufen/" + std::to_string(rows));
+            std::printf("Ein Ereignis eines Laufs von %d Zeilen kostet %.2f Potenzen.\n", rows,
+                        run / (2 * rows) / power);
         }
     }
-    const double sechzig = sammler.Zeit("Zaehlen/60");
-    if (sechzig > 0) {
-        for (const auto& [was, name] : {std::pair("Das letzte Drittel", "Fortsetzen/60"),
-                                        std::pair("Der Aufbau der Liste", "Bauen/60")}) {
-            std::printf("%s kostet %.1f %% eines Laufs von 60 Zeilen.\n", was,
-                        100 * sammler.Zeit(name) / sechzig);
+    const double sixty = collector.TimeOf("Zaehlen/60");
+    if (sixty > 0) {
+        for (const auto& [what, name] : {std::pair("Das letzte Drittel", "Fortsetzen/60"),
+                                         std::pair("Der Aufbau der Liste", "Bauen/60")}) {
+            std::printf("%s kostet %.1f %% eines Laufs von 60 Zeilen.\n", what,
+                        100 * collector.TimeOf(name) / sixty);
         }
     }
     return EXIT_SUCCESS;

@@ -12,66 +12,66 @@ namespace {
 
 using namespace tarvelin;
 
-const std::atomic<bool> kWeiter{false};
+const std::atomic<bool> kGoOn{false};
 
-void Still(const SearchProgress& /*stand*/) {}
+void Quiet(const SearchProgress& /*stand*/) {}
 
-PlanTask Aufgabe(const std::string& datei, const SearchRequest& wunsch) {
+PlanTask Task(const std::string& file, const SearchRequest& request) {
     return std::get<PlanTask>(
-        MakePlanTask(PlanRun(std::filesystem::path(TARVELIN_SOURCE_DIR) / datei).plan, wunsch));
+        MakePlanTask(PlanRun(std::filesystem::path(TARVELIN_SOURCE_DIR) / file).plan, request));
 }
 
 /// The starter plan's own orders, on as many threads.
-void Versuche(benchmark::State& state) {
-    const PlanTask aufgabe = Aufgabe("data/saves/basic.tvf", {});
-    const SearchBudget umfang{.threads = static_cast<unsigned>(state.range(0))};
-    std::uint64_t versuche = 0;
+void Tries(benchmark::State& state) {
+    const PlanTask task = Task("data/saves/basic.tvf", {});
+    const SearchBudget budget{.threads = static_cast<unsigned>(state.range(0))};
+    std::uint64_t tries = 0;
     for (auto _ : state) {
-        versuche += Search(aufgabe, umfang, kWeiter, Still).tries;
+        tries += Search(task, budget, kGoOn, Quiet).tries;
     }
     state.counters["Versuche/s"] =
-        benchmark::Counter(static_cast<double>(versuche), benchmark::Counter::kIsRate);
+        benchmark::Counter(static_cast<double>(tries), benchmark::Counter::kIsRate);
 }
-BENCHMARK(Versuche)->Arg(1)->Arg(2)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(Tries)->Arg(1)->Arg(2)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 /// Seconds before and after a search by the default settings.
-void Guete(benchmark::State& state, const std::string& datei, const SearchRequest& wunsch) {
-    const PlanTask aufgabe = Aufgabe(datei, wunsch);
-    SearchResult ergebnis;
+void Quality(benchmark::State& state, const std::string& file, const SearchRequest& request) {
+    const PlanTask task = Task(file, request);
+    SearchResult result;
     for (auto _ : state) {
-        ergebnis = Search(aufgabe, {}, kWeiter, Still);
+        result = Search(task, {}, kGoOn, Quiet);
     }
-    const auto vorher = static_cast<double>(aufgabe.before->score.duration);
-    const auto nachher = static_cast<double>(ergebnis.best->score.duration);
-    state.counters["vorher_s"] = vorher;
-    state.counters["nachher_s"] = nachher;
-    state.counters["Gewinn_%"] = 100 * (1 - nachher / vorher);
+    const auto before = static_cast<double>(task.before->score.duration);
+    const auto after = static_cast<double>(result.best->score.duration);
+    state.counters["vorher_s"] = before;
+    state.counters["nachher_s"] = after;
+    state.counters["Gewinn_%"] = 100 * (1 - after / before);
 }
-#define GUETE(name, datei, ...)                                       \
-    BENCHMARK_CAPTURE(Guete, name, datei, SearchRequest{__VA_ARGS__}) \
-        ->Iterations(1)                                               \
+#define QUALITY(name, file, ...)                                       \
+    BENCHMARK_CAPTURE(Quality, name, file, SearchRequest{__VA_ARGS__}) \
+        ->Iterations(1)                                                \
         ->Unit(benchmark::kMillisecond)
-GUETE(Startplan, "data/saves/basic.tvf");
-GUETE(StartplanZiel, "data/saves/basic.tvf", .goal = "plan");
-GUETE(Naechte60, "tests/data/golden/gedraengt-01.tvf");
-GUETE(Lang150, "tests/data/golden/gedraengt-03.tvf");
-GUETE(Forschung85, "tests/data/golden/regelgerecht-05.tvf");
-GUETE(Kurz43, "tests/data/golden/regelgerecht-10.tvf");
-#undef GUETE
+QUALITY(StarterPlan, "data/saves/basic.tvf");
+QUALITY(StarterPlanGoal, "data/saves/basic.tvf", .goal = "plan");
+QUALITY(Nights60, "tests/data/golden/gedraengt-01.tvf");
+QUALITY(Long150, "tests/data/golden/gedraengt-03.tvf");
+QUALITY(Research85, "tests/data/golden/regelgerecht-05.tvf");
+QUALITY(Short43, "tests/data/golden/regelgerecht-10.tvf");
+#undef QUALITY
 
 /// Plans of 8 to 10 orders against their proved optimum.
-void Bewiesen(benchmark::State& state) {
-    constexpr unsigned kPlaene = 100;
+void Proven(benchmark::State& state) {
+    constexpr unsigned kPlans = 100;
     unsigned optimal = 0;
     for (auto _ : state) {
-        for (unsigned saat = 1; saat <= kPlaene; ++saat) {
-            const SearchTask aufgabe = SmallPlan(saat);
-            const auto bester = Search(aufgabe, {}, kWeiter, Still).best;
-            optimal += bester && bester->score.duration == ProvenDuration(aufgabe) ? 1U : 0U;
+        for (unsigned seed = 1; seed <= kPlans; ++seed) {
+            const SearchTask task = SmallPlan(seed);
+            const auto best = Search(task, {}, kGoOn, Quiet).best;
+            optimal += best && best->score.duration == ProvenDuration(task) ? 1U : 0U;
         }
     }
     state.counters["optimal_von_100"] = optimal;
 }
-BENCHMARK(Bewiesen)->Iterations(1)->Unit(benchmark::kSecond);
+BENCHMARK(Proven)->Iterations(1)->Unit(benchmark::kSecond);
 
 }  // namespace
