@@ -9,30 +9,30 @@
 #include <string_view>
 
 /// Called with each input, by the fuzzer and by the replay of its finds.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t laenge);
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t length);
 
 namespace tarvelin {
 
 /// Ends the program with a word on what didn't hold; the fuzzer keeps the input.
-inline void Verlange(bool haelt, std::string_view gesetz, std::string_view ist = "") {
-    if (!haelt) {
-        std::fprintf(stderr, "BROKEN: %.*s: \"%.*s\"\n", static_cast<int>(gesetz.size()),
-                     gesetz.data(), static_cast<int>(ist.size()), ist.data());
+inline void Require(bool keeps, std::string_view law, std::string_view actual = "") {
+    if (!keeps) {
+        std::fprintf(stderr, "BROKEN: %.*s: \"%.*s\"\n", static_cast<int>(law.size()), law.data(),
+                     static_cast<int>(actual.size()), actual.data());
         std::abort();
     }
 }
 
 /// Bytes of which the first parts end at a unit separator each, and the last one at their end.
-class Eingabe {
+class FuzzInput {
   public:
-    Eingabe(const std::uint8_t* daten, std::size_t laenge)
-        : m_rest(reinterpret_cast<const char*>(daten), laenge) {}
+    FuzzInput(const std::uint8_t* data, std::size_t length)
+        : m_rest(reinterpret_cast<const char*>(data), length) {}
 
-    std::string NimmTeil() {
-        const auto ende = std::min(m_rest.find('\x1F'), m_rest.size());
-        std::string teil(m_rest.substr(0, ende));
-        m_rest.remove_prefix(std::min(ende + 1, m_rest.size()));
-        return teil;
+    std::string TakePart() {
+        const auto end = std::min(m_rest.find('\x1F'), m_rest.size());
+        std::string part(m_rest.substr(0, end));
+        m_rest.remove_prefix(std::min(end + 1, m_rest.size()));
+        return part;
     }
     [[nodiscard]] std::string_view Rest() const { return m_rest; }
 

@@ -13,173 +13,173 @@
 namespace tarvelin {
 namespace {
 
-using Zeilen = std::vector<std::string_view>;
+using Lines = std::vector<std::string_view>;
 
 /// The mark of a file's encoding; empty for a file without one.
-std::string_view Bytemarke(std::string_view bytes) {
-    for (const std::string_view marke : {"\xEF\xBB\xBF", "\xFF\xFE", "\xFE\xFF"}) {
-        if (bytes.starts_with(marke)) {
-            return marke;
+std::string_view ByteOrderMark(std::string_view bytes) {
+    for (const std::string_view mark : {"\xEF\xBB\xBF", "\xFF\xFE", "\xFE\xFF"}) {
+        if (bytes.starts_with(mark)) {
+            return mark;
         }
     }
     return {};
 }
 
-std::optional<ByteOrder> Utf16(std::string_view bytes) {
-    const std::string_view marke = Bytemarke(bytes);
-    if (marke.size() != 2) {
+std::optional<ByteOrder> Utf16Order(std::string_view bytes) {
+    const std::string_view mark = ByteOrderMark(bytes);
+    if (mark.size() != 2) {
         return std::nullopt;
     }
-    return marke.front() == '\xFF' ? ByteOrder::LittleEndian : ByteOrder::BigEndian;
+    return mark.front() == '\xFF' ? ByteOrder::LittleEndian : ByteOrder::BigEndian;
 }
 
 /// What stands behind the mark of a file, in 8 bits.
-std::string Inhalt(std::string_view bytes) {
-    const auto folge = Utf16(bytes);
-    bytes.remove_prefix(Bytemarke(bytes).size());
-    return folge ? FromUtf16(bytes, *folge) : std::string(bytes);
+std::string Content(std::string_view bytes) {
+    const auto byteOrder = Utf16Order(bytes);
+    bytes.remove_prefix(ByteOrderMark(bytes).size());
+    return byteOrder ? FromUtf16(bytes, *byteOrder) : std::string(bytes);
 }
 
 /// The lines of a text with their ends, LF, CR LF or CR.
-Zeilen ZeilenVon(std::string_view bytes) {
-    Zeilen zeilen;
+Lines LinesOf(std::string_view bytes) {
+    Lines lines;
     while (!bytes.empty()) {
-        std::size_t ende = bytes.find_first_of("\r\n");
-        ende = ende == std::string_view::npos ? bytes.size() : ende + 1;
-        ende += bytes.substr(ende - 1).starts_with("\r\n") ? 1U : 0U;
-        zeilen.push_back(bytes.substr(0, ende));
-        bytes.remove_prefix(ende);
+        std::size_t end = bytes.find_first_of("\r\n");
+        end = end == std::string_view::npos ? bytes.size() : end + 1;
+        end += bytes.substr(end - 1).starts_with("\r\n") ? 1U : 0U;
+        lines.push_back(bytes.substr(0, end));
+        bytes.remove_prefix(end);
     }
-    return zeilen;
+    return lines;
 }
 
 /// Whether the new line is the old one, or the old one with the end that it lacked.
-bool IstGeblieben(std::string_view alt, std::string_view neu) {
-    return neu == alt || (alt.find_first_of("\r\n") == std::string_view::npos &&
-                          neu == std::string(alt) + "\r\n");
+bool HasStayed(std::string_view before, std::string_view after) {
+    return after == before || (before.find_first_of("\r\n") == std::string_view::npos &&
+                               after == std::string(before) + "\r\n");
 }
 
 /// One line has another text, or one line or a section with one line has come in.
-bool NurEineStelle(const Zeilen& alt, const Zeilen& neu) {
-    std::size_t vorn = 0;
-    while (vorn < alt.size() && vorn < neu.size() && IstGeblieben(alt[vorn], neu[vorn])) {
-        ++vorn;
+bool OnlyOnePlace(const Lines& before, const Lines& after) {
+    std::size_t front = 0;
+    while (front < before.size() && front < after.size() &&
+           HasStayed(before[front], after[front])) {
+        ++front;
     }
-    std::size_t hinten = 0;
-    while (hinten < alt.size() - vorn && hinten < neu.size() - vorn &&
-           alt[alt.size() - 1 - hinten] == neu[neu.size() - 1 - hinten]) {
-        ++hinten;
+    std::size_t back = 0;
+    while (back < before.size() - front && back < after.size() - front &&
+           before[before.size() - 1 - back] == after[after.size() - 1 - back]) {
+        ++back;
     }
-    const std::size_t weg = alt.size() - vorn - hinten;
-    const std::size_t dazu = neu.size() - vorn - hinten;
-    return weg == 0 ? dazu <= 2 : weg == 1 && dazu == 1;
+    const std::size_t removed = before.size() - front - back;
+    const std::size_t inserted = after.size() - front - back;
+    return removed == 0 ? inserted <= 2 : removed == 1 && inserted == 1;
 }
 
 /// Names of sections and keys that stand in a file, as near as a glance finds them.
-std::vector<std::pair<std::string, std::string>> Namen(const Zeilen& zeilen, bool utf16) {
+std::vector<std::pair<std::string, std::string>> Names(const Lines& lines, bool utf16) {
     const auto name = [utf16](std::string_view text) {
         return From1252(utf16 ? To1252(text) : std::string(text));
     };
-    std::vector<std::pair<std::string, std::string>> namen;
+    std::vector<std::pair<std::string, std::string>> names;
     std::string section;
-    for (const std::string_view zeile : zeilen) {
-        if (zeile.starts_with('[')) {
-            section = name(zeile.substr(1, zeile.find(']') - 1));
-        } else if (const auto gleich = zeile.find('='); gleich != std::string_view::npos) {
-            namen.emplace_back(section, name(zeile.substr(0, gleich)));
+    for (const std::string_view line : lines) {
+        if (line.starts_with('[')) {
+            section = name(line.substr(1, line.find(']') - 1));
+        } else if (const auto equals = line.find('='); equals != std::string_view::npos) {
+            names.emplace_back(section, name(line.substr(0, equals)));
         }
     }
-    return namen;
+    return names;
 }
 
-std::string Klein(std::string_view text) {
-    std::string klein(text);
-    std::ranges::transform(klein, klein.begin(), [](char z) {
-        return z >= 'A' && z <= 'Z' ? static_cast<char>(z - 'A' + 'a') : z;
+std::string Lowercase(std::string_view text) {
+    std::string lowercase(text);
+    std::ranges::transform(lowercase, lowercase.begin(), [](char character) {
+        return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
+                                                    : character;
     });
-    return klein;
+    return lowercase;
 }
 
-bool HatRand(std::string_view bytes) {
+bool HasMargin(std::string_view bytes) {
     constexpr std::string_view kBlanks = " \t\v\f";
     return !bytes.empty() && (kBlanks.find(bytes.front()) != std::string_view::npos ||
                               kBlanks.find(bytes.back()) != std::string_view::npos);
 }
 
 /// Names as the program has them: of one line, without blanks around and without marks.
-bool IstName(std::string_view bytes) {
-    return !bytes.empty() && !HatRand(bytes) &&
+bool IsName(std::string_view bytes) {
+    return !bytes.empty() && !HasMargin(bytes) &&
            bytes.find_first_of(std::string_view("[]=;\r\n\0", 7)) == std::string_view::npos;
 }
 
-void PruefeSchreiben(const std::string& datei, const std::string& section, const std::string& key,
-                     const std::string& wert) {
-    IniFile profil(datei);
-    profil.WriteINI(section, key, From1252(wert));
-    const std::string nachher = profil.Bytes();
-    const std::string inhalt = Inhalt(datei);
-    const Zeilen zeilen = ZeilenVon(inhalt);
-    Verlange(Bytemarke(nachher) == Bytemarke(datei), "the mark of the encoding stays", nachher);
-    Verlange(NurEineStelle(zeilen, ZeilenVon(Inhalt(nachher))), "a write changes one line",
-             nachher);
+void CheckWriting(const std::string& file, const std::string& section, const std::string& key,
+                  const std::string& value) {
+    IniFile profile(file);
+    profile.WriteINI(section, key, From1252(value));
+    const std::string after = profile.Bytes();
+    const std::string content = Content(file);
+    const Lines lines = LinesOf(content);
+    Require(ByteOrderMark(after) == ByteOrderMark(file), "the mark of the encoding stays", after);
+    Require(OnlyOnePlace(lines, LinesOf(Content(after))), "a write changes one line", after);
 
-    const IniFile vorher(datei);
-    const IniFile gelesen(nachher);
-    for (const auto& [s, k] : Namen(zeilen, Utf16(datei).has_value())) {
-        const bool selbst = Klein(s) == Klein(section) && Klein(k) == Klein(key);
-        Verlange(selbst || gelesen.ReadINI(s, k, "-") == vorher.ReadINI(s, k, "-") || HatRand(s) ||
-                     HatRand(k),
-                 "a write leaves the other keys", k);
+    const IniFile before(file);
+    const IniFile parsed(after);
+    for (const auto& [s, k] : Names(lines, Utf16Order(file).has_value())) {
+        const bool itself = Lowercase(s) == Lowercase(section) && Lowercase(k) == Lowercase(key);
+        Require(itself || parsed.ReadINI(s, k, "-") == before.ReadINI(s, k, "-") || HasMargin(s) ||
+                    HasMargin(k),
+                "a write leaves the other keys", k);
     }
-    Verlange(gelesen.ReadINI(section, key, "-") == profil.ReadINI(section, key, "-"),
-             "the file holds what the memory holds", nachher);
-    Verlange(!ComesBack(From1252(wert)) || gelesen.ReadINI(section, key, "-") == From1252(wert),
-             "a plain value comes back", gelesen.ReadINI(section, key, "-"));
-    profil.WriteINI(section, key, From1252(wert));
-    Verlange(profil.Bytes() == nachher, "the same write again changes nothing", profil.Bytes());
+    Require(parsed.ReadINI(section, key, "-") == profile.ReadINI(section, key, "-"),
+            "the file holds what the memory holds", after);
+    Require(!ComesBack(From1252(value)) || parsed.ReadINI(section, key, "-") == From1252(value),
+            "a plain value comes back", parsed.ReadINI(section, key, "-"));
+    profile.WriteINI(section, key, From1252(value));
+    Require(profile.Bytes() == after, "the same write again changes nothing", profile.Bytes());
 }
 
 /// The same file in 16 bits is changed and read alike.
-void PruefeUtf16(const std::string& datei, const std::string& section, const std::string& key,
-                 const std::string& wert) {
-    for (const auto folge : {ByteOrder::LittleEndian, ByteOrder::BigEndian}) {
+void CheckUtf16(const std::string& file, const std::string& section, const std::string& key,
+                const std::string& value) {
+    for (const auto byteOrder : {ByteOrder::LittleEndian, ByteOrder::BigEndian}) {
         const auto in16 = [&](const std::string& bytes) {
-            return ToUtf16("\xEF\xBB\xBF" + From1252(bytes), folge);
+            return ToUtf16("\xEF\xBB\xBF" + From1252(bytes), byteOrder);
         };
-        IniFile acht(datei);
-        IniFile sechzehn(in16(datei));
-        Verlange(sechzehn.ReadINI(section, key, "-") == acht.ReadINI(section, key, "-"),
-                 "16 bits are read like 8", sechzehn.ReadINI(section, key, "-"));
-        acht.WriteINI(section, key, From1252(wert));
-        sechzehn.WriteINI(section, key, From1252(wert));
-        Verlange(sechzehn.Bytes() == in16(acht.Bytes()), "16 bits are written like 8",
-                 sechzehn.Bytes());
+        IniFile utf8(file);
+        IniFile utf16(in16(file));
+        Require(utf16.ReadINI(section, key, "-") == utf8.ReadINI(section, key, "-"),
+                "16 bits are read like 8", utf16.ReadINI(section, key, "-"));
+        utf8.WriteINI(section, key, From1252(value));
+        utf16.WriteINI(section, key, From1252(value));
+        Require(utf16.Bytes() == in16(utf8.Bytes()), "16 bits are written like 8", utf16.Bytes());
     }
 }
 
 }  // namespace
 }  // namespace tarvelin
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t laenge) {
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t length) {
     using namespace tarvelin;
-    Eingabe eingabe(daten, laenge);
-    const std::string section = eingabe.NimmTeil();
-    const std::string key = eingabe.NimmTeil();
-    const std::string wert = eingabe.NimmTeil();
-    std::string datei(eingabe.Rest());
-    if (Utf16(datei)) {
-        datei.resize(datei.size() - datei.size() % 2);
+    FuzzInput input(data, length);
+    const std::string section = input.TakePart();
+    const std::string key = input.TakePart();
+    const std::string value = input.TakePart();
+    std::string file(input.Rest());
+    if (Utf16Order(file)) {
+        file.resize(file.size() - file.size() % 2);
     }
-    const IniFile profil(eingabe.Rest());
-    Verlange(profil.Bytes() == datei, "a profile keeps its bytes", datei);
-    Verlange(To1252(profil.ReadINI(section, key, From1252(wert))).size() <= 255,
-             "a value is 255 at most");
-    Verlange(To1252(From1252(datei)) == datei, "the code page loses no byte", datei);
-    static_cast<void>(From1252(To1252(datei)));
-    if (IstName(section) && IstName(key)) {
-        PruefeSchreiben(datei, From1252(section), From1252(key), wert);
-        if (Bytemarke(datei).empty()) {
-            PruefeUtf16(datei, From1252(section), From1252(key), wert);
+    const IniFile profile(input.Rest());
+    Require(profile.Bytes() == file, "a profile keeps its bytes", file);
+    Require(To1252(profile.ReadINI(section, key, From1252(value))).size() <= 255,
+            "a value is 255 at most");
+    Require(To1252(From1252(file)) == file, "the code page loses no byte", file);
+    static_cast<void>(From1252(To1252(file)));
+    if (IsName(section) && IsName(key)) {
+        CheckWriting(file, From1252(section), From1252(key), value);
+        if (ByteOrderMark(file).empty()) {
+            CheckUtf16(file, From1252(section), From1252(key), value);
         }
     }
     return 0;

@@ -11,33 +11,33 @@ namespace tarvelin {
 namespace {
 
 /// The longest list that the laws are tried on; they build it anew after each row.
-constexpr std::size_t kHoechstzahl = 60;
+constexpr std::size_t kMaxSize = 60;
 
-void Drucke(const PlanRun& lauf) {
-    std::ostringstream strom;
-    WriteText(strom, lauf);
-    WriteCsvHeader(strom);
-    WriteCsvRows(strom, lauf);
-    strom << JsonText(lauf) << RefreshWeekday(lauf.plan.parameters).hint
-          << PointsWithStockText(lauf.run.state);
-    for (const auto& bauzeit : lauf.run.LV_Bauzeiten) {
-        strom << DueStarts(lauf.run.LV_Bauzeiten, bauzeit.start, "0")
-              << DueSleepEnds(lauf.plan.LV_Schlafzeiten, bauzeit.start);
+void Print(const PlanRun& document) {
+    std::ostringstream stream;
+    WriteText(stream, document);
+    WriteCsvHeader(stream);
+    WriteCsvRows(stream, document);
+    stream << JsonText(document) << RefreshWeekday(document.plan.parameters).hint
+           << PointsWithStockText(document.run.state);
+    for (const auto& entry : document.run.LV_Bauzeiten) {
+        stream << DueStarts(document.run.LV_Bauzeiten, entry.start, "0")
+               << DueSleepEnds(document.plan.LV_Schlafzeiten, entry.start);
     }
-    Verlange(lauf.hasRun || !lauf.messages.empty(), "a plan runs or says why not");
+    Require(document.hasRun || !document.messages.empty(), "a plan runs or says why not");
 }
 
 }  // namespace
 }  // namespace tarvelin
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t laenge) {
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t length) {
     using namespace tarvelin;
-    const std::string_view bytes(reinterpret_cast<const char*>(daten), laenge);
-    const PlanRun lauf("plan.tvf", IniFile(bytes));
-    Drucke(lauf);
-    if (lauf.loaded && lauf.plan.LV_Bauliste.Rows().size() <= kHoechstzahl) {
-        const Finding befund = CheckLaws(lauf.plan);
-        Verlange(befund.empty(), "the laws of every plan", befund);
+    const std::string_view bytes(reinterpret_cast<const char*>(data), length);
+    const PlanRun document("plan.tvf", IniFile(bytes));
+    Print(document);
+    if (document.loaded && document.plan.LV_Bauliste.Rows().size() <= kMaxSize) {
+        const Finding finding = CheckLaws(document.plan);
+        Require(finding.empty(), "the laws of every plan", finding);
     }
     return 0;
 }

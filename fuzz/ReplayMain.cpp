@@ -8,20 +8,20 @@
 
 #include "FuzzInput.h"
 
-int main(int anzahl, char** argumente) {
-    std::vector<std::filesystem::path> dateien;
-    for (int i = 1; i < anzahl; ++i) {
-        for (const auto& eintrag : std::filesystem::directory_iterator(argumente[i])) {
-            dateien.push_back(eintrag.path());
+int main(int count, char** arguments) {
+    std::vector<std::filesystem::path> files;
+    for (int i = 1; i < count; ++i) {
+        for (const auto& entry : std::filesystem::directory_iterator(arguments[i])) {
+            files.push_back(entry.path());
         }
     }
-    std::ranges::sort(dateien);
-    for (const auto& datei : dateien) {
-        std::ifstream strom(datei, std::ios::binary);
-        const std::vector<char> bytes{std::istreambuf_iterator<char>(strom), {}};
+    std::ranges::sort(files);
+    for (const auto& file : files) {
+        std::ifstream stream(file, std::ios::binary);
+        const std::vector<char> bytes{std::istreambuf_iterator<char>(stream), {}};
         // Told before it is played: the last name in front of a crash is the culprit's.
-        std::cerr << datei.filename().string() << '\n';
+        std::cerr << file.filename().string() << '\n';
         LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
     }
-    return dateien.empty() ? 1 : 0;
+    return files.empty() ? 1 : 0;
 }
