@@ -160,7 +160,7 @@ bool GoesOnLike(const EventLog& whole, std::size_t step, const EventLog& rest) {
 Simulation RunUntil(std::span<const Order> orders, std::size_t n, const RunConditions& conditions) {
     Simulation simulation(orders.first(n), conditions);
     EventLog quiet;
-    while (simulation.NextListRow() < n || simulation.HasPendingOrder()) {
+    while (quiet.starts.size() < n) {
         simulation.Step(quiet);
     }
     return simulation;
@@ -384,9 +384,9 @@ Finding CheckTimeJump(const Plan& plan) {
         }
     }
     const auto piece = static_cast<Long>(kHour / divisor);
-    VergeheZeit(kPieces * piece, jumped);
+    VergeheZeit(kPieces * piece, false, jumped, conditions);
     for (Long i = 0; i < kPieces; ++i) {
-        VergeheZeit(piece, walked);
+        VergeheZeit(piece, false, walked, conditions);
     }
     return jumped == walked || jumped.secsgone == kEndOfClock
                ? ""

@@ -101,11 +101,16 @@ TEST(Run, StopsTheClockAtTheEndOfItsRange) {
 }
 
 TEST(Run, NamesWhatHeldAnOrderBack) {
-    const auto delays = [](const Plan& plan) {
+    const auto starts = [](const Plan& plan) {
+        return TraceRun(plan.LV_Bauliste.Orders().All(),
+                        std::get<RunConditions>(ParseRunConditions(plan)))
+            .starts;
+    };
+    const auto delays = [&](const Plan& plan) {
         std::string text;
-        for (const ScheduleEntry& row : TestRun(plan).run.LV_Bauzeiten) {
+        for (const StartEvent& start : starts(plan)) {
             constexpr std::array kLetters{'-', 'l', 'a', 'd', 'r', 's', 'z'};
-            text += kLetters.at(static_cast<std::size_t>(row.delay.cause));
+            text += kLetters.at(static_cast<std::size_t>(start.delay.cause));
         }
         return text;
     };
@@ -113,8 +118,7 @@ TEST(Run, NamesWhatHeldAnOrderBack) {
     EXPECT_EQ(delays(plan), "-sssrr");
     plan.LV_Schlafzeiten = {{"18.11.2006 12:31", "18.11.2006 20:00"}};
     EXPECT_EQ(delays(plan), "-zsssr");
-    const TestRun blocked(PlanOf("GS GD GR FE"));
-    EXPECT_EQ(blocked.run.LV_Bauzeiten.back().delay,
+    EXPECT_EQ(starts(PlanOf("GS GD GR FE")).back().delay,
               (Delay{.cause = DelayCause::Level, .missing = {ItemId::Folab, 1}}));
 }
 
@@ -148,11 +152,11 @@ TEST(Run, SaysWhatHeldAnOrderBack) {
 TEST(EventTable, SortsByTimeKindAndEntry) {
     EventTable table;
     EXPECT_TRUE(table.IsEmpty());
-    table.SetEvent(4);
+    table.SetEvent(SimTime(), 4, true);
     table.RetimeStart(SimTime(100));
-    table.SetEvent(SimTime(100), 2);
-    table.SetEvent(SimTime(100), 1);
-    table.SetEvent(SimTime(99), 3);
+    table.SetEvent(SimTime(100), 2, false);
+    table.SetEvent(SimTime(100), 1, false);
+    table.SetEvent(SimTime(99), 3, false);
     EXPECT_EQ(table.PendingOrder(), 4U);
     for (const std::size_t order : {3U, 2U, 1U, 4U}) {
         EXPECT_EQ(table.ClearEvent().order, order);

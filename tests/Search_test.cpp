@@ -187,7 +187,7 @@ TEST(Search, KeepsPinnedRowsOfAGoal) {
     Check(plan, task, result);
     std::string withoutEconomy;
     for (const Order& order : result.best->orders) {
-        if (order.kind == Order::Kind::Production || !IsEconomy(order.item)) {
+        if (order.kind == Order::Kind::Production || !RowOf(order.item).IsEconomy()) {
             withoutEconomy += order.Tag() + " ";
         }
     }

@@ -19,7 +19,7 @@ struct LevelCost {
     PerResource<FixedPoint> deduction{};
 };
 
-/// Every price there is, as each event of a run asks for some.
+/// Worked out once, as each event of a run asks for some.
 using CostTable = PerItem<std::array<LevelCost, kLevels>>;
 
 CostTable AllCosts() noexcept {
@@ -37,22 +37,25 @@ CostTable AllCosts() noexcept {
     return table;
 }
 
-const CostTable kCosts = AllCosts();
+const LevelCost& LevelCostOf(ItemId item, Byte level) {
+    static const CostTable costs = AllCosts();
+    return costs[item][level];
+}
 
 }  // namespace
 
 const Cost& CostOf(ItemId item, Byte level) {
-    return kCosts[item][level].amount;
+    return LevelCostOf(item, level).amount;
 }
 
 const PerResource<FixedPoint>& StockDeduction(ItemId item, Byte level) {
-    return kCosts[item][level].deduction;
+    return LevelCostOf(item, level).deduction;
 }
 
-std::string GetUpgradecostString(const Cost& cost) {
-    return "Kosten:  Met: " + WholeText(cost[Resource::Metall]) +
-           "  Kris: " + WholeText(cost[Resource::Kristall]) +
-           "  Deut: " + WholeText(cost[Resource::Deuterium]);
+std::string GetUpgradecostString(ItemId item, Byte extStufe) {
+    return "Kosten:  Met: " + WholeText(GetMetallKosten(item, extStufe)) +
+           "  Kris: " + WholeText(GetKristallKosten(item, extStufe)) +
+           "  Deut: " + WholeText(GetDeuteriumKosten(item, extStufe));
 }
 
 }  // namespace tarvelin

@@ -12,10 +12,20 @@ namespace tarvelin {
 /// The price of the step from `level`, 0 or more, to the next one.
 [[nodiscard]] const Cost& CostOf(ItemId item, Byte level);
 
-/// The same as it goes off the stocks.
+[[nodiscard]] inline double GetMetallKosten(ItemId item, Byte level) {
+    return CostOf(item, level)[Resource::Metall];
+}
+[[nodiscard]] inline double GetKristallKosten(ItemId item, Byte level) {
+    return CostOf(item, level)[Resource::Kristall];
+}
+[[nodiscard]] inline double GetDeuteriumKosten(ItemId item, Byte level) {
+    return CostOf(item, level)[Resource::Deuterium];
+}
+
+/// The price as it is taken off the stocks.
 [[nodiscard]] const PerResource<FixedPoint>& StockDeduction(ItemId item, Byte level);
 
-/// "Kosten:  Met: 60  Kris: 15  Deut: 0".
-[[nodiscard]] std::string GetUpgradecostString(const Cost& cost);
+/// "Kosten:  Met: 60  Kris: 15  Deut: 0": the price of the step from `extStufe` on.
+[[nodiscard]] std::string GetUpgradecostString(ItemId item, Byte extStufe);
 
 }  // namespace tarvelin

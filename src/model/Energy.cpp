@@ -19,14 +19,6 @@ Powers AllPowers() noexcept {
     return powers;
 }
 
-const Powers kPowers = AllPowers();
-
-}  // namespace
-
-double OnePointOneToThe(Byte level) {
-    return kPowers[level];
-}
-
 FixedPoint PowerPlantProduction(Byte level) {
     constexpr double kEnergyPerLevel = 20;
     return FixedPoint::FromWhole(
@@ -39,6 +31,24 @@ FixedPoint SatelliteProduction(Byte count, Integer temperature) {
     constexpr double kEnergyAtZeroDegrees = 20;
     const double perSatellite = temperature / kDegreesPerEnergy + kEnergyAtZeroDegrees;
     return FixedPoint::FromWhole(Rounding::Floor(perSatellite * count));
+}
+
+}  // namespace
+
+double OnePointOneToThe(Byte level) {
+    static const Powers powers = AllPowers();
+    return powers[level];
+}
+
+FixedPoint GetProduktion(ItemId source, Byte ExterneStufe, Integer Temperatur) {
+    switch (source) {
+        case ItemId::SKW:
+            return PowerPlantProduction(ExterneStufe);
+        case ItemId::Solsats:
+            return SatelliteProduction(ExterneStufe, Temperatur);
+        default:
+            return {};
+    }
 }
 
 }  // namespace tarvelin

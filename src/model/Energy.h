@@ -1,18 +1,17 @@
 // Where the energy comes from, and how it grows with the level.
 #pragma once
 
+#include "model/ItemId.h"
 #include "util/FixedPoint.h"
 
 namespace tarvelin {
 
-/// 1.1^`level`, by which yields and needs of energy grow.
+/// 1.1^`level`: how yields and energy needs grow.
 [[nodiscard]] double OnePointOneToThe(Byte level);
 
-/// Energy that the solar power plant delivers at a level, a whole number.
-[[nodiscard]] FixedPoint PowerPlantProduction(Byte level);
-
-/// Energy that a number of satellites delivers at the planet's temperature in degrees, a whole
-/// number; negative in great cold.
-[[nodiscard]] FixedPoint SatelliteProduction(Byte count, Integer temperature);
+/// Energy that a source delivers at a level, or that many satellites deliver together, a whole
+/// number; 0 for an item that is no source. Satellites depend on the planet's temperature, in
+/// degrees, and are negative in great cold.
+[[nodiscard]] FixedPoint GetProduktion(ItemId source, Byte ExterneStufe, Integer Temperatur);
 
 }  // namespace tarvelin

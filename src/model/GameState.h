@@ -12,17 +12,18 @@
 
 namespace tarvelin {
 
-/// A value: a copy of it is the whole game at that moment. Stocks are units, rates units per hour
-/// with the speed factor included, times seconds, energy a whole number without a unit of time.
+/// A value: a copy is the whole game at that moment. Stocks are in units, rates in units per hour
+/// with the speed factor included, times in seconds; energy is a whole number without a unit of
+/// time.
 struct GameState {
     /// The clock of the run.
     SimTime secsgone;
-    /// From when on each order queue is free again; 0 for none.
+    /// When each order queue falls free; 0 if nothing has been in it.
     PerQueue<SimTime> FertigZeit{};
 
     PerResource<FixedPoint> stock{};
     PerResource<FixedPoint> ProStunde{};
-    /// The same rates, as waits are worked out from them.
+    /// The same rates in the form that waits are worked out from.
     PerResource<double> perSecond{};
     MineFactors MinenProdfaktor = kFullFactors;
 
@@ -31,12 +32,10 @@ struct GameState {
     FixedPoint ProdFaktor;
     Long EnergieProduktion = 0;
     Long EnergieVerbrauch = 0;
-    /// Whether a level of the mines, power plant or satellites or a factor of the mines has changed
-    /// since the balance was struck.
+    /// Whether a level or factor has changed since that the energy balance depends on.
     bool balanceStale = true;
 
-    /// Whether the facility that serves a queue is being raised, from the start of the order to its
-    /// finish.
+    /// Whether the facility that serves a queue is being upgraded.
     PerQueue<bool> Upgrading{};
 
     /// Sum of the resources spent on all started orders, from which the points come.
@@ -45,10 +44,26 @@ struct GameState {
     /// Level reached by each building and research, number finished of each unit.
     PerItem<Byte> Stufe{};
 
-    /// What each item lacked when it was last asked with its gate open.
+    /// What each item's stocks lacked when it was last timed with its gate open.
     PerItem<Shortage> VerzoegerungsGrund{};
 
-    /// Whether the run went beyond the clock, so that its last moments aren't their own.
+    [[nodiscard]] FixedPoint Metall() const { return stock[Resource::Metall]; }
+    [[nodiscard]] FixedPoint Kristall() const { return stock[Resource::Kristall]; }
+    [[nodiscard]] FixedPoint Deuterium() const { return stock[Resource::Deuterium]; }
+    [[nodiscard]] FixedPoint MetallProStunde() const { return ProStunde[Resource::Metall]; }
+    [[nodiscard]] FixedPoint KristallProStunde() const { return ProStunde[Resource::Kristall]; }
+    [[nodiscard]] FixedPoint DeuteriumProStunde() const { return ProStunde[Resource::Deuterium]; }
+    [[nodiscard]] SimTime GebaeudeFertigZeit() const { return FertigZeit[Queue::Building]; }
+    [[nodiscard]] SimTime WerftFertigZeit() const { return FertigZeit[Queue::Shipyard]; }
+    [[nodiscard]] SimTime ForschungFertigZeit() const { return FertigZeit[Queue::Research]; }
+    [[nodiscard]] Byte GetStufe(ItemId item) const { return Stufe[item]; }
+    [[nodiscard]] Byte RoboterStufe() const { return GetStufe(ItemId::Robo); }
+    [[nodiscard]] Byte WerftStufe() const { return GetStufe(ItemId::Werft); }
+    [[nodiscard]] Byte ForschungslaborStufe() const { return GetStufe(ItemId::Folab); }
+    /// Whether the facility that serves this queue is being upgraded.
+    [[nodiscard]] bool IsUpgrading(Queue served) const { return Upgrading[served]; }
+
+    /// Whether the run went beyond the clock's range; its last moments are then cut to that.
     [[nodiscard]] bool IsAtEndOfClock() const { return secsgone == SimTime::Last(); }
 
     friend bool operator==(const GameState&, const GameState&) = default;

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <limits>
 #include <string_view>
 
 #include "model/CostGrowth.h"
@@ -47,12 +48,17 @@ struct ItemTraits {
     /// Its rows end with the level or number, and name the reason of a wait.
     bool showsNumber = true;
     bool showsReason = true;
+    /// Its place, from 1, among the items that bring resources, energy or speed; 0 for the others.
+    /// A search for a goal builds as many of them as pay off, and draws them by this number.
+    Byte economyRank = 0;
+    /// With so many in the build list no other one is allowed.
+    Byte maxCount = std::numeric_limits<Byte>::max();
     /// Its name in the hint over its picture, where that isn't its `name`.
     std::string_view hoverName{};
 };
 
-/// The row of an item. Three vocabularies of names stand beside each other on purpose: in the build
-/// list, in the build times and everywhere else.
+/// The row of an item. The game has three sets of names, and so have we: in the build list, in the
+/// build times and everywhere else.
 struct ItemRow {
     ItemId item;
     /// `ItemCode`: the first letter is the order queue, G building, W shipyard, F research; the
@@ -69,6 +75,7 @@ struct ItemRow {
     LevelRequirements requirements;
     ItemTraits traits;
 
+    [[nodiscard]] constexpr bool IsEconomy() const { return traits.economyRank > 0; }
     [[nodiscard]] constexpr std::string_view HoverName() const {
         return traits.hoverName.empty() ? name : traits.hoverName;
     }

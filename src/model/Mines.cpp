@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "model/Energy.h"
+#include "model/UpgradeTime.h"
 
 namespace tarvelin {
 
@@ -44,29 +45,41 @@ Resource ResourceOf(ItemId mine) {
     return static_cast<Resource>(std::ranges::find(kMines, mine) - kMines.begin());
 }
 
-double GetEnergieVerbrauch(Resource mine, Byte level, Byte factor) {
+double GetEnergieVerbrauch(Resource mine, const GameState& state) {
+    const Byte level = state.GetStufe(kMines[mine]);
     // The first two products are rounded to single precision, the last one isn't.
-    const float need = ToShare(factor) * kMineConstants[mine].c * static_cast<float>(level);
+    const float need =
+        ToShare(state.MinenProdfaktor[mine]) * kMineConstants[mine].c * static_cast<float>(level);
     return std::trunc(static_cast<double>(need) * OnePointOneToThe(level));
 }
 
-double ListEnergieVerbrauch(Resource mine, Byte level, Byte factor) {
-    return std::trunc(static_cast<double>(ToShare(factor)) *
-                      static_cast<double>(kMineConstants[mine].c) * level *
-                      OnePointOneToThe(level));
+double GetEnergieVerbrauch(Resource mine, Byte ExterneStufe, Byte externerProduktionsfaktor) {
+    return std::trunc(static_cast<double>(ToShare(externerProduktionsfaktor)) *
+                      static_cast<double>(kMineConstants[mine].c) * ExterneStufe *
+                      OnePointOneToThe(ExterneStufe));
 }
 
 // The order of the operations is part of the result. The base income stands inside the floor,
 // untouched by the energy balance and the mine's factor; the speed factor doubles what the floor
 // leaves.
-FixedPoint GetProduktion(Resource mine, Byte level, Byte factor, FixedPoint prodFaktor,
-                         const RunConditions& conditions) {
+FixedPoint GetProduktion(Resource mine, const GameState& state, const RunConditions& conditions) {
+    const Byte level = state.GetStufe(kMines[mine]);
     const double production = ((kMineConstants[mine].a * level) * OnePointOneToThe(level) *
                                TemperatureFactor(mine, conditions.Temperatur)) *
-                              prodFaktor.ToDouble();
-    const auto perHour =
-        Rounding::Floor(static_cast<double>(ToShare(factor)) * production + kMineConstants[mine].b);
+                              state.ProdFaktor.ToDouble();
+    const auto share = static_cast<double>(ToShare(state.MinenProdfaktor[mine]));
+    const auto perHour = Rounding::Floor(share * production + kMineConstants[mine].b);
     return FixedPoint::FromWhole(perHour) * conditions.Speedfaktor;
+}
+
+void RefreshProduktion(Resource mine, GameState& state, const RunConditions& conditions) {
+    state.ProStunde[mine] = GetProduktion(mine, state, conditions);
+    state.perSecond[mine] = state.ProStunde[mine].ToDouble() / kSecondsPerHour;
+}
+
+void SetProdfaktor(Resource mine, Byte theFaktor, GameState& state) {
+    state.MinenProdfaktor[mine] = theFaktor;
+    state.balanceStale = true;
 }
 
 }  // namespace tarvelin

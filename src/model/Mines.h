@@ -1,6 +1,7 @@
 // The three mines: what they yield and what energy they need.
 #pragma once
 
+#include "model/GameState.h"
 #include "model/ItemId.h"
 #include "model/Resource.h"
 #include "model/RunConditions.h"
@@ -14,14 +15,23 @@ inline constexpr PerResource<ItemId> kMines{{ItemId::MetMine, ItemId::KrisMine, 
 /// What a mine yields.
 [[nodiscard]] Resource ResourceOf(ItemId mine);
 
-/// Energy that the mine of a resource needs in a run, a whole number.
-[[nodiscard]] double GetEnergieVerbrauch(Resource mine, Byte level, Byte factor);
+/// Energy that the mine of a resource needs in a run, a whole number. Worked out in single
+/// precision, as the game does.
+[[nodiscard]] double GetEnergieVerbrauch(Resource mine, const GameState& state);
 
-/// The same as the build list works it out, which can differ by one where the factor isn't full.
-[[nodiscard]] double ListEnergieVerbrauch(Resource mine, Byte level, Byte factor);
+/// The same for the build list, at a given level and factor in tenths. Worked out in double
+/// precision, so it can differ by one where the factor isn't full.
+[[nodiscard]] double GetEnergieVerbrauch(Resource mine, Byte ExterneStufe,
+                                         Byte externerProduktionsfaktor);
 
-/// Units per hour, a whole number, with this share of the mines' energy need met.
-[[nodiscard]] FixedPoint GetProduktion(Resource mine, Byte level, Byte factor,
-                                       FixedPoint prodFaktor, const RunConditions& conditions);
+/// What the mine yields in an hour, a whole number, with the share of the energy need that is met.
+[[nodiscard]] FixedPoint GetProduktion(Resource mine, const GameState& state,
+                                       const RunConditions& conditions);
+
+/// Enters what the mine yields into the state; it holds until the next energy balance.
+void RefreshProduktion(Resource mine, GameState& state, const RunConditions& conditions);
+
+/// Sets the factor of a mine, in tenths. It takes effect with the next energy balance.
+void SetProdfaktor(Resource mine, Byte theFaktor, GameState& state);
 
 }  // namespace tarvelin

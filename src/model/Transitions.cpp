@@ -1,4 +1,4 @@
-// The steps of the state.
+// Starts, finishes, balance and time.
 #include "model/Transitions.h"
 
 #include <algorithm>
@@ -12,23 +12,13 @@ namespace tarvelin {
 
 namespace {
 
-/// What the mines yield, for all moments until the next balance.
-void RefreshProduktion(GameState& state, const RunConditions& conditions) {
-    ForEachResource([&](Resource resource) {
-        state.ProStunde[resource] =
-            GetProduktion(resource, state.Stufe[kMines[resource]], state.MinenProdfaktor[resource],
-                          state.ProdFaktor, conditions);
-        state.perSecond[resource] = state.ProStunde[resource].ToDouble() / kSecondsPerHour;
-    });
-}
-
-/// What a rate yields: divided in floating point, half to even at the fourth decimal.
+/// What a rate yields: the quotient in floating point, rounded half to even at the fourth decimal.
 FixedPoint MineYield(FixedPoint perHour, Long seconds) {
     constexpr std::uint64_t kHour = 3600;
     constexpr std::uint64_t kSafe = kHour << 38U;
     const FixedPoint hourly = perHour * seconds;
-    // The floating point quotient is off by less than 3 parts in 2^53, here 0.0001 at most. Only at
-    // a half, or for more than that, can this be seen; all else is told by whole numbers.
+    // The floating-point quotient is off by less than 3 parts in 2^53. Below `kSafe` that shows
+    // only at a half, so whole numbers give the same result everywhere else, and faster.
     const auto n = static_cast<std::uint64_t>(hourly.Raw());
     const std::uint64_t half = 2 * n + kHour;
     const std::uint64_t whole = half / (2 * kHour);
@@ -44,14 +34,15 @@ GameState InitialState(const RunConditions& conditions) {
     constexpr FixedPoint kInitialStock = FixedPoint::FromWhole(500);
     GameState state;
     state.stock = {{kInitialStock, kInitialStock, FixedPoint()}};
-    RefreshProduktion(state, conditions);
+    ForEachResource([&](Resource mine) { RefreshProduktion(mine, state, conditions); });
     return state;
 }
 
-void UpgradeStart(const ItemRow& row, GameState& state) {
-    const Cost& cost = CostOf(row.item, state.Stufe[row.item]);
-    const PerResource<FixedPoint>& deduction = StockDeduction(row.item, state.Stufe[row.item]);
-    state.Upgrading[row.traits.serves] = true;
+void UpgradeStart(const ItemRow& item, GameState& state) {
+    const Byte level = state.GetStufe(item.item);
+    const Cost& cost = CostOf(item.item, level);
+    const PerResource<FixedPoint>& deduction = StockDeduction(item.item, level);
+    state.Upgrading[item.traits.serves] = true;
     double spent = state.VerbauteRessourcen;
     ForEachResource([&](Resource resource) {
         state.stock[resource] = state.stock[resource] - deduction[resource];
@@ -60,15 +51,15 @@ void UpgradeStart(const ItemRow& row, GameState& state) {
     state.VerbauteRessourcen = HalfEvenLong(spent);
 }
 
-void UpgradeFinished(const ItemRow& row, GameState& state) {
-    state.Upgrading[row.traits.serves] = false;
-    state.Stufe[row.item] = Saturate<Byte>(state.Stufe[row.item] + 1);
-    state.balanceStale |= row.traits.energyRole != EnergyRole::None;
+void UpgradeFinished(const ItemRow& item, GameState& state) {
+    state.Upgrading[item.traits.serves] = false;
+    state.Stufe[item.item] = Saturate<Byte>(state.GetStufe(item.item) + 1);
+    state.balanceStale |= item.traits.energyRole != EnergyRole::None;
 }
 
-void SetProdfaktor(const MineFactors& factors, GameState& state) {
-    state.MinenProdfaktor = factors;
-    state.balanceStale = true;
+double GetUpgradeTime(const ItemRow& item, const GameState& state,
+                      const RunConditions& conditions) {
+    return item.upgradeTime(CostOf(item.item, state.GetStufe(item.item)), state, conditions);
 }
 
 void EnergieBilanz(GameState& state, const RunConditions& conditions) {
@@ -77,33 +68,35 @@ void EnergieBilanz(GameState& state, const RunConditions& conditions) {
     }
     state.balanceStale = false;
     double need = 0;
-    ForEachResource([&](Resource resource) {
-        need += GetEnergieVerbrauch(resource, state.Stufe[kMines[resource]],
-                                    state.MinenProdfaktor[resource]);
-    });
+    ForEachResource([&](Resource mine) { need += GetEnergieVerbrauch(mine, state); });
     state.EnergieVerbrauch = HalfEvenLong(need);
+    const auto production = [&](ItemId source) {
+        return GetProduktion(source, state.GetStufe(source), conditions.Temperatur);
+    };
     state.EnergieProduktion =
-        HalfEvenLong((SatelliteProduction(state.Stufe[ItemId::Solsats], conditions.Temperatur) +
-                      PowerPlantProduction(state.Stufe[ItemId::SKW]))
-                         .ToDouble());
+        HalfEvenLong((production(ItemId::Solsats) + production(ItemId::SKW)).ToDouble());
     constexpr FixedPoint kFull = FixedPoint::FromWhole(1);
     state.ProdFaktor =
         state.EnergieVerbrauch == 0
             ? kFull
             : std::min(kFull, FixedPoint::FromDouble(static_cast<double>(state.EnergieProduktion) /
                                                      state.EnergieVerbrauch));
-    RefreshProduktion(state, conditions);
+    ForEachResource([&](Resource mine) { RefreshProduktion(mine, state, conditions); });
 }
 
-void VergeheZeit(Long SecondsToPass, GameState& state) {
-    if (SecondsToPass == 0) {
+void Passtime(Resource mine, Long SecondsToPass, GameState& state) {
+    state.stock[mine] = state.stock[mine] + MineYield(state.ProStunde[mine], SecondsToPass);
+}
+
+void VergeheZeit(Long SecondsToPass, bool AddKlickPuffer, GameState& state,
+                 const RunConditions& conditions) {
+    const Long seconds =
+        AddKlickPuffer ? LongSum(SecondsToPass, conditions.KlickPuffer) : SecondsToPass;
+    if (seconds == 0) {
         return;
     }
-    ForEachResource([&](Resource resource) {
-        state.stock[resource] =
-            state.stock[resource] + MineYield(state.ProStunde[resource], SecondsToPass);
-    });
-    state.secsgone = state.secsgone + SecondsToPass;
+    ForEachResource([&](Resource mine) { Passtime(mine, seconds, state); });
+    state.secsgone = state.secsgone + seconds;
 }
 
 }  // namespace tarvelin

@@ -1,4 +1,4 @@
-// The order of the operations is part of each result.
+// The four formulas. The order of their operations is part of the result.
 #include "model/UpgradeTime.h"
 
 namespace tarvelin {
@@ -7,7 +7,7 @@ double BuildingTime(const Cost& cost, const GameState& state, const RunCondition
     constexpr double kResourcesPerHour = 2500;
     return (1.0 / conditions.Speedfaktor) *
            ((cost[Resource::Kristall] + cost[Resource::Metall]) / kResourcesPerHour) *
-           (1.0 / (1 + state.Stufe[ItemId::Robo])) * kSecondsPerHour;
+           (1.0 / (1 + state.RoboterStufe())) * kSecondsPerHour;
 }
 
 double DeuteriumMineTime(const Cost& cost, const GameState& state,
@@ -19,12 +19,12 @@ double UnitTime(const Cost& cost, const GameState& state, const RunConditions& c
     constexpr double kResourcesPerHour = 5000;
     return (1.0 / conditions.Speedfaktor) *
            ((cost[Resource::Kristall] + cost[Resource::Metall]) / kResourcesPerHour) *
-           (2.0 / (1 + state.Stufe[ItemId::Werft])) * kSecondsPerHour;
+           (2.0 / (1 + state.WerftStufe())) * kSecondsPerHour;
 }
 
 // The divisor is 1000 times the lab's level plus 1, not 1000 times (level plus 1).
 double ResearchTime(const Cost& cost, const GameState& state, const RunConditions& conditions) {
-    const Long divisor = 1000 * state.Stufe[ItemId::Folab] + 1;
+    const Long divisor = 1000 * state.ForschungslaborStufe() + 1;
     return ((1.0 / conditions.Speedfaktor) * (cost[Resource::Kristall] + cost[Resource::Metall])) /
            divisor * kSecondsPerHour;
 }

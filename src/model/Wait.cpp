@@ -9,15 +9,15 @@ namespace tarvelin {
 
 namespace {
 
-/// A gate that is closed.
+/// The first gate that is closed, and how it holds the order back.
 struct GateCheck {
     GateValue value = GateValue::Open;
     Delay delay;
 };
 
-const LevelRequirement* MissingLevel(const ItemRow& row, const GameState& state) {
-    for (const LevelRequirement& requirement : row.requirements) {
-        if (state.Stufe[requirement.item] < requirement.minLevel) {
+const LevelRequirement* MissingLevel(const ItemRow& item, const GameState& state) {
+    for (const LevelRequirement& requirement : item.requirements) {
+        if (state.GetStufe(requirement.item) < requirement.minLevel) {
             return &requirement;
         }
     }
@@ -26,36 +26,36 @@ const LevelRequirement* MissingLevel(const ItemRow& row, const GameState& state)
 
 GateValue CheckDeuteriumGate(DeuteriumGate gate, const GameState& state) {
     if (gate == DeuteriumGate::PlantOrMine) {
-        return state.Stufe[ItemId::SKW] == 0 && state.Stufe[ItemId::DeutMine] == 0
+        return state.GetStufe(ItemId::SKW) == 0 && state.GetStufe(ItemId::DeutMine) == 0
                    ? GateValue::NoDeuteriumSource
                    : GateValue::Open;
     }
-    if (state.ProStunde[Resource::Deuterium] != FixedPoint()) {
+    if (state.DeuteriumProStunde() != FixedPoint()) {
         return GateValue::Open;
     }
     return gate == DeuteriumGate::Production ? GateValue::Prerequisite : GateValue::ForNow;
 }
 
-GateCheck CheckGates(const ItemRow& row, const Cost& cost, const GameState& state) {
-    if (state.Upgrading[row.queue] && !row.traits.startsDuringUpgrade) {
+GateCheck CheckGates(const ItemRow& item, const Cost& cost, const GameState& state) {
+    if (state.IsUpgrading(item.queue) && !item.traits.startsDuringUpgrade) {
         return {GateValue::Prerequisite,
-                {.cause = DelayCause::FacilityUpgrade, .queue = row.queue}};
+                {.cause = DelayCause::FacilityUpgrade, .queue = item.queue}};
     }
-    if (const LevelRequirement* const missing = MissingLevel(row, state)) {
+    if (const LevelRequirement* const missing = MissingLevel(item, state)) {
         return {GateValue::Prerequisite, {.cause = DelayCause::Level, .missing = *missing}};
     }
     if (cost[Resource::Deuterium] <= 0) {
         return {};
     }
-    const GateValue gate = CheckDeuteriumGate(row.traits.deuteriumGate, state);
+    const GateValue gate = CheckDeuteriumGate(item.traits.deuteriumGate, state);
     if (gate == GateValue::Open) {
         return {};
     }
     return {gate, {.cause = DelayCause::Deuterium}};
 }
 
-/// What is short of a resource, and for how long. Figures side by side, not a `Shortage`: the
-/// machine would wait for the halves of it at each copy.
+/// What is short of a resource, and for how long. Separate scalars, not a `Shortage`: copying a
+/// struct that was just written field by field stalls on store forwarding.
 struct ResourceWait {
     Long seconds = 0;
     Shortage::Kind kind = Shortage::Kind::None;
@@ -65,8 +65,8 @@ struct ResourceWait {
 constexpr PerResource<Shortage::Kind> kKinds{
     {Shortage::Kind::Metall, Shortage::Kind::Kristall, Shortage::Kind::Deuterium}};
 
-/// The wait for a resource whose stock is short. One that never comes gives a wait so long that the
-/// next re-timing replaces it.
+/// The wait for a resource whose stock is short. One that never comes waits so long that the order
+/// is timed again before.
 Long SecondsUntil(double missing, double perSecond) {
     constexpr Long kEndless = 1'000'000'000;
     if (perSecond <= 0) {
@@ -75,7 +75,7 @@ Long SecondsUntil(double missing, double perSecond) {
     return Saturate<Long>(Rounding::Cut(1 + missing / perSecond));
 }
 
-/// Whether a stock is enough, told by whole numbers. Where they don't tell it surely, false.
+/// Whether a stock is enough, by whole numbers alone; false where these can't be sure.
 bool IsSurelyEnough(FixedPoint stock, FixedPoint deduction) {
     constexpr FixedPoint kExact = FixedPoint::FromWhole(std::int64_t{1} << 38U);
     return deduction <= stock && deduction < kExact;
@@ -83,8 +83,8 @@ bool IsSurelyEnough(FixedPoint stock, FixedPoint deduction) {
 
 /// The longest wait for a resource; on a tie the earlier resource keeps the reason: metal before
 /// crystal before deuterium.
-ResourceWait LongestResourceWait(const ItemRow& row, const Cost& cost, const GameState& state) {
-    const PerResource<FixedPoint>& deduction = StockDeduction(row.item, state.Stufe[row.item]);
+ResourceWait LongestResourceWait(const ItemRow& item, const Cost& cost, const GameState& state) {
+    const PerResource<FixedPoint>& deduction = StockDeduction(item.item, state.GetStufe(item.item));
     ResourceWait longest;
     ForEachResource([&](Resource resource) __attribute__((always_inline)) {
         if (IsSurelyEnough(state.stock[resource], deduction[resource])) {
@@ -102,8 +102,8 @@ ResourceWait LongestResourceWait(const ItemRow& row, const Cost& cost, const Gam
     return longest;
 }
 
-/// Moves a wait that ends inside a sleep window to that window's end. Each window is asked once,
-/// with the wait as the windows before it left it.
+/// Moves a wait that ends inside a sleep window to that window's end. Each window is asked once, in
+/// their order, with the wait as the windows before have left it.
 Long AfterSleep(Long waitSeconds, SimTime now, const RunConditions& conditions) {
     for (const cSchlafzeit& sleepWindow : conditions.Schlafzeiten) {
         if (sleepWindow.CheckifInside(conditions.WallClock(now + waitSeconds))) {
@@ -115,18 +115,18 @@ Long AfterSleep(Long waitSeconds, SimTime now, const RunConditions& conditions) 
 
 }  // namespace
 
-Wait GetTimeUntilUpgradeIsPossible(const ItemRow& row, const GameState& state,
+Wait GetTimeUntilUpgradeIsPossible(const ItemRow& item, const GameState& state,
                                    const RunConditions& conditions) {
-    const Cost& cost = CostOf(row.item, state.Stufe[row.item]);
-    const Queue served = row.traits.serves;
+    const Cost& cost = CostOf(item.item, state.GetStufe(item.item));
+    const Queue served = item.traits.serves;
     const Long untilFree = state.FertigZeit[served] - state.secsgone;
-    const GateCheck gate = CheckGates(row, cost, state);
+    const GateCheck gate = CheckGates(item, cost, state);
     if (gate.value != GateValue::Open) {
         return {.seconds = std::max(static_cast<Long>(gate.value), untilFree),
                 .shortage = {.kind = Shortage::Kind::Unstated},
                 .delay = gate.delay};
     }
-    const ResourceWait wait = LongestResourceWait(row, cost, state);
+    const ResourceWait wait = LongestResourceWait(item, cost, state);
     const Long sleepFree = std::max(wait.seconds, untilFree);
     const Long afterSleep = AfterSleep(sleepFree, state.secsgone, conditions);
     Delay delay;

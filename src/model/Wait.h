@@ -67,7 +67,7 @@ struct Wait {
 
 /// Seconds until the next step of an item can start: the gates, then the wait for resources, then
 /// the sleep windows. A facility is never raised before the queue that it serves falls free.
-[[nodiscard]] Wait GetTimeUntilUpgradeIsPossible(const ItemRow& row, const GameState& state,
+[[nodiscard]] Wait GetTimeUntilUpgradeIsPossible(const ItemRow& item, const GameState& state,
                                                  const RunConditions& conditions);
 
 }  // namespace tarvelin

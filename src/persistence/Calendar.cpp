@@ -97,8 +97,8 @@ std::string Description(const RunTrace& trace, const CalendarEntry& entry) {
         text += text.empty() ? "" : "\n";
         text += TimeOfDayText(trace.conditions.WallClock(start->start)) + " " + OrderText(*start);
         if (start->order.kind == Order::Kind::Item) {
-            text += "\n" + GetUpgradecostString(
-                               CostOf(start->order.item, static_cast<Byte>(start->number - 1)));
+            text += "\n" +
+                    GetUpgradecostString(start->order.item, static_cast<Byte>(start->number - 1));
         }
         const std::string reason = DelayText(trace, start->row);
         text += reason.empty() ? "" : "\n" + reason;

@@ -1,4 +1,4 @@
-// Editing of the build list and its texts.
+// Adding and removing rows, and their texts.
 #include "plan/BuildList.h"
 
 #include <algorithm>
@@ -53,20 +53,25 @@ bool BuildList::Replay(std::string_view tag, const RunConditions& conditions) {
     return order.kind != Order::Kind::Unknown && !Append(order, tag, conditions);
 }
 
-// The factor text sees the counters with the row done.
+// The factor text counts the new row in.
 std::optional<Message> BuildList::Append(const Order& order, std::string_view tag,
                                          const RunConditions& conditions) {
     if (m_orders.IsFull()) {
         return ListFullMessage();
     }
     m_orders.Append(order);
-    const std::string factor = GetProdfaktorText(m_orders, conditions);
-    m_rows.push_back({.text = std::to_string(m_orders.Size()),
-                      .Tag = std::string(tag),
-                      .SubItems1 = ListText(m_orders),
-                      .SubItems2 = factor,
-                      .SubItems2Color = factor == "1,00" ? TextColor::Black : TextColor::Red});
+    BuildListRow& row = m_rows.emplace_back();
+    row.Tag = tag;
+    row.SubItems1 = ListText(m_orders);
+    row.SubItems2 = GetProdfaktorText(m_orders, conditions);
+    RenumberBauliste();
     return std::nullopt;
+}
+
+void BuildList::RenumberBauliste() {
+    BuildListRow& last = m_rows.back();
+    last.text = std::to_string(m_rows.size());
+    last.SubItems2Color = last.SubItems2 == "1,00" ? TextColor::Black : TextColor::Red;
 }
 
 void BuildList::RemoveLast() {
@@ -101,15 +106,16 @@ Message ListFullMessage() {
 
 std::string GetProdfaktorText(const OrderList& list, const RunConditions& conditions) {
     const auto needOf = [&](Resource resource, ItemId mine) {
-        return ListEnergieVerbrauch(resource, list.ListStufe(mine), list.ListFaktor()[resource]);
+        return GetEnergieVerbrauch(resource, list.ListStufe(mine), list.ListFaktor()[resource]);
     };
     const Long need = HalfEvenLong(needOf(Resource::Deuterium, ItemId::DeutMine) +
                                    needOf(Resource::Kristall, ItemId::KrisMine) +
                                    needOf(Resource::Metall, ItemId::MetMine));
+    const auto production = [&](ItemId source) {
+        return GetProduktion(source, list.ListStufe(source), conditions.Temperatur);
+    };
     const Long supply =
-        HalfEvenLong((SatelliteProduction(list.ListStufe(ItemId::Solsats), conditions.Temperatur) +
-                      PowerPlantProduction(list.ListStufe(ItemId::SKW)))
-                         .ToDouble());
+        HalfEvenLong((production(ItemId::Solsats) + production(ItemId::SKW)).ToDouble());
     constexpr int kDecimals = 2;
     constexpr double kHundred = 100;
     const double share = need == 0 ? 1.0 : static_cast<double>(supply) / need;

@@ -12,7 +12,7 @@
 
 namespace tarvelin {
 
-/// Colour of a row's factor text, as the red share of a colour.
+/// Colour of a row's factor text, as the amount of red in it.
 enum class TextColor : Byte { Black = 0, Red = 255 };
 
 struct BuildListRow {
@@ -27,9 +27,9 @@ struct BuildListRow {
     TextColor SubItems2Color = TextColor::Black;
 };
 
-/// The orders and the texts of the screen. A row's texts are made when it is added and never
-/// change; the operations that work out a factor text take the conditions of the last run or reset,
-/// as the satellites' share follows the temperature.
+/// The orders and the texts that the screen shows of them. A row's texts are made when it is added
+/// and never change. Operations that make a factor text take the conditions of the last run or
+/// reset, as satellites depend on the temperature.
 class BuildList {
   public:
     [[nodiscard]] const OrderList& Orders() const { return m_orders; }
@@ -63,11 +63,14 @@ class BuildList {
     std::optional<Message> Append(const Order& order, std::string_view tag,
                                   const RunConditions& conditions);
 
+    /// Numbers and colours the row that was just added.
+    void RenumberBauliste();
+
     OrderList m_orders;
     std::vector<BuildListRow> m_rows;
 };
 
-/// What is told of a row beyond the last that a list has room for.
+/// Told when a row is added to a full list.
 [[nodiscard]] Message ListFullMessage();
 
 /// The production factor of a list as it stands, with two decimals: supply divided by need, at most

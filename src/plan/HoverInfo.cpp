@@ -15,7 +15,7 @@ namespace {
 /// What the step from `level` to the next level needs, at full production.
 std::string NeedText(Resource mine, Byte level) {
     const auto needOf = [&](int s) {
-        return ListEnergieVerbrauch(mine, Saturate<Byte>(s), kFullFactor);
+        return GetEnergieVerbrauch(mine, Saturate<Byte>(s), kFullFactor);
     };
     return "  |  Energie: -" + WholeText(needOf(level + 1) - needOf(level));
 }
@@ -25,16 +25,18 @@ std::string YieldText(FixedPoint production) {
 }
 
 std::string EnergySuffix(ItemId item, Byte level, const RunConditions& conditions) {
+    const auto production = [&](Byte count) {
+        return GetProduktion(item, count, conditions.Temperatur);
+    };
     switch (RowOf(item).traits.energyRole) {
         case EnergyRole::None:
             break;
         case EnergyRole::Mine:
             return NeedText(ResourceOf(item), level);
         case EnergyRole::PowerPlant:
-            return YieldText(PowerPlantProduction(Saturate<Byte>(level + 1)) -
-                             PowerPlantProduction(level));
+            return YieldText(production(Saturate<Byte>(level + 1)) - production(level));
         case EnergyRole::Satellite:
-            return YieldText(SatelliteProduction(1, conditions.Temperatur));
+            return YieldText(production(1));
     }
     return "";
 }
@@ -48,8 +50,7 @@ HoverInfo HoverInfoFor(ItemId item, const OrderList& list, const RunConditions& 
     const Byte level = list.ListStufe(item);
     return {.dragEnabled = true,
             .tooltip = " " + std::string(RowOf(item).HoverName()) + "  |  " +
-                       GetUpgradecostString(CostOf(item, level)) +
-                       EnergySuffix(item, level, conditions)};
+                       GetUpgradecostString(item, level) + EnergySuffix(item, level, conditions)};
 }
 
 }  // namespace tarvelin

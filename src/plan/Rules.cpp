@@ -89,8 +89,8 @@ const LevelRequirements& ListRequirements(ItemId item) {
 }
 
 bool IsAllowed(ItemId item, const PerItem<Byte>& listStufen) {
-    // Exactly one: a loaded list with two domes opens the third.
-    if (item == ItemId::klSchK && listStufen[item] == 1) {
+    // Exactly as many: a loaded list with two domes opens the third.
+    if (listStufen[item] == RowOf(item).traits.maxCount) {
         return false;
     }
     return std::ranges::all_of(kRules[item].requirements, [&](const LevelRequirement& requirement) {
@@ -102,7 +102,7 @@ std::optional<std::string_view> Refusal(ItemId item, const OrderList& list) {
     if (IsAllowed(item, list.ListStufe())) {
         return std::nullopt;
     }
-    if (item == ItemId::klSchK && list.ListStufe(item) == 1) {
+    if (list.ListStufe(item) == RowOf(item).traits.maxCount) {
         return kDomePresent;
     }
     const Rule& rule = kRules[item];

@@ -12,8 +12,21 @@ namespace tarvelin {
 
 namespace {
 
-constexpr std::array kEconomy{ItemId::MetMine, ItemId::KrisMine, ItemId::DeutMine, ItemId::SKW,
-                              ItemId::Solsats, ItemId::Robo,     ItemId::Werft,    ItemId::Folab};
+std::vector<ItemId> EconomyByRank() {
+    std::vector<ItemId> items;
+    for (const ItemRow& row : ItemTable()) {
+        if (row.IsEconomy()) {
+            items.push_back(row.item);
+        }
+    }
+    std::ranges::sort(items, {}, [](ItemId item) { return RowOf(item).traits.economyRank; });
+    return items;
+}
+
+Order RandomEconomyOrder(Random& random) {
+    static const std::vector<ItemId> items = EconomyByRank();
+    return Order::Of(items[random.Below(items.size())]);
+}
 
 /// How far a move goes: half of them at most eight rows, the others anywhere.
 std::size_t Reach(Random& random, std::size_t highest) {
@@ -23,7 +36,7 @@ std::size_t Reach(Random& random, std::size_t highest) {
 
 bool SameWithoutEconomy(const PerItem<Byte>& a, const PerItem<Byte>& b) {
     return std::ranges::all_of(ItemTable(), [&](const ItemRow& row) {
-        return IsEconomy(row.item) || a[row.item] == b[row.item];
+        return row.IsEconomy() || a[row.item] == b[row.item];
     });
 }
 
@@ -141,8 +154,7 @@ bool Neighborhood::InsertEconomy(Random& random) {
     const std::size_t slot =
         m_task->headSize + random.Below(m_orders.size() - m_task->headSize + 1);
     const auto position = static_cast<std::ptrdiff_t>(slot);
-    m_neighbor.insert(m_neighbor.begin() + position,
-                      Order::Of(kEconomy[random.Below(kEconomy.size())]));
+    m_neighbor.insert(m_neighbor.begin() + position, RandomEconomyOrder(random));
     m_neighborPinned.insert(m_neighborPinned.begin() + position, false);
     m_from = slot;
     m_until = m_neighbor.size();
@@ -156,7 +168,7 @@ bool Neighborhood::RemoveEconomy(Random& random) {
     }
     const std::size_t slot = m_free[random.Below(m_free.size())];
     const Order& order = m_orders[slot];
-    if (order.kind != Order::Kind::Item || !IsEconomy(order.item) ||
+    if (order.kind != Order::Kind::Item || !RowOf(order.item).IsEconomy() ||
         m_before.back()[order.item] <= m_task->minLevels[order.item]) {
         return false;
     }
@@ -176,8 +188,7 @@ bool Neighborhood::ReplaceEconomy(Random& random) {
     const std::size_t slot =
         m_task->headSize + random.Below(m_neighbor.size() - m_task->headSize + 1);
     const auto position = static_cast<std::ptrdiff_t>(slot);
-    m_neighbor.insert(m_neighbor.begin() + position,
-                      Order::Of(kEconomy[random.Below(kEconomy.size())]));
+    m_neighbor.insert(m_neighbor.begin() + position, RandomEconomyOrder(random));
     m_neighborPinned.insert(m_neighborPinned.begin() + position, false);
     m_from = std::min(m_from, slot);
     m_until = m_neighbor.size();

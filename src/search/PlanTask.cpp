@@ -27,7 +27,8 @@ std::variant<std::pair<ItemId, Byte>, SearchRefusal> ParseGoalWord(std::string_v
         return Wrong("\"" + std::string(word) +
                      "\" nennt kein Item: erwartet wird etwa GW2 oder WKT1");
     }
-    const auto highest = item == ItemId::klSchK ? 1 : std::int64_t{OrderList::kMaxSize};
+    const auto highest =
+        std::min(std::int64_t{RowOf(*item).traits.maxCount}, std::int64_t{OrderList::kMaxSize});
     const auto level = ParseWholeNumber(word.substr(digit), 1, highest);
     if (!level) {
         return Wrong("\"" + std::string(word) + "\": die Stufe oder Anzahl muss von 1 bis " +
@@ -64,7 +65,7 @@ std::variant<Levels, SearchRefusal> ParseGoal(std::string_view text) {
 std::variant<Levels, SearchRefusal> GoalOfPlan(const Plan& plan) {
     Levels goal = plan.LV_Bauliste.Orders().ListStufe();
     for (const ItemRow& row : ItemTable()) {
-        if (IsEconomy(row.item)) {
+        if (row.IsEconomy()) {
             goal[row.item] = 0;
         }
     }
@@ -179,7 +180,7 @@ void AimAtGoal(SearchTask& task) {
     };
     for (std::size_t i = 0; i < task.orders.size(); ++i) {
         const Order& order = task.orders[i];
-        const bool surplus = order.kind == Order::Kind::Item && !IsEconomy(order.item) &&
+        const bool surplus = order.kind == Order::Kind::Item && !RowOf(order.item).IsEconomy() &&
                              levels[order.item] >= task.minLevels[order.item];
         if (!surplus || i < task.headSize || task.pinned[i]) {
             take(order, task.pinned[i]);

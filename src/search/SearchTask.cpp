@@ -2,18 +2,10 @@
 #include "search/SearchTask.h"
 
 #include <algorithm>
-#include <array>
 
 #include "plan/Rules.h"
 
 namespace tarvelin {
-
-bool IsEconomy(ItemId item) {
-    constexpr std::array kEconomy{ItemId::MetMine, ItemId::KrisMine, ItemId::DeutMine,
-                                  ItemId::SKW,     ItemId::Robo,     ItemId::Werft,
-                                  ItemId::Folab,   ItemId::Solsats};
-    return std::ranges::find(kEconomy, item) != kEconomy.end();
-}
 
 PerItem<Byte> WithPrerequisites(PerItem<Byte> goal) {
     // What an item needs can need something itself.

@@ -11,10 +11,6 @@
 
 namespace tarvelin {
 
-/// The items that bring resources, energy or speed. A search for a goal builds as many of them as
-/// pay off.
-[[nodiscard]] bool IsEconomy(ItemId item);
-
 /// A task of the search.
 struct SearchTask {
     enum class Kind : std::uint8_t {

@@ -1,5 +1,5 @@
-// The run's timetable, `LV_Eventhandler`: the finish of each order under way and the start of the
-// one order that waits.
+// The event table of a run, `LV_Eventhandler`: the finish of each order under way and the start of
+// the one order that waits.
 #pragma once
 
 #include <array>
@@ -10,9 +10,9 @@
 
 namespace tarvelin {
 
-/// The rows' order is that of their moments; at one moment finish rows come before the start row,
-/// and finish rows in the order in which they were entered. Rows name orders by their places in the
-/// list.
+/// Rows are in the sequence of their moments. At one moment finish rows come before the start row,
+/// and finish rows in the sequence in which they were entered. A row names its order by its index
+/// in the list.
 class EventTable {
   public:
     struct Event {
@@ -21,41 +21,35 @@ class EventTable {
         bool StartFlag = false;
     };
 
-    /// Enters the start row; none waits yet.
-    void SetEvent(std::size_t order) {
-        m_startTime = SimTime();
-        m_pendingOrder = static_cast<std::uint16_t>(order);
-        m_isPending = true;
-    }
+    /// Enters the start row of an order, of which there is one at a time, or a finish row.
+    void SetEvent(SimTime Zeit, std::size_t order, bool StartFlag);
+
     [[nodiscard]] bool NoStartPending() const { return !m_isPending; }
-    /// The place of the order that waits.
+    /// Which order waits for its start.
     [[nodiscard]] std::size_t PendingOrder() const { return m_pendingOrder; }
-    /// Gives the start row that waits another moment.
+    /// Moves the start row to another moment.
     void RetimeStart(SimTime time) { m_startTime = time; }
 
-    /// Enters a finish row.
-    void SetEvent(SimTime Zeit, std::size_t order);
-
     [[nodiscard]] bool HasFinishBefore(SimTime time) const {
-        return m_number > 0 && m_finishes[m_number - 1].time < time;
+        return m_finishCount > 0 && m_finishes[m_finishCount - 1].time < time;
     }
 
-    [[nodiscard]] bool IsEmpty() const { return NoStartPending() && m_number == 0; }
+    [[nodiscard]] bool IsEmpty() const { return NoStartPending() && m_finishCount == 0; }
 
-    /// Takes out the earliest row. There is one.
+    /// Takes out the earliest row; there must be one.
     Event ClearEvent();
 
   private:
-    /// All that a run ever has in use: one finish for each queue, as a queue's next order can't
-    /// start before its finish, and the finishes of production rows. The next event carries those
-    /// out, unless an order without a source of deuterium starts a second before; each queue can
-    /// bring one such order.
+    /// As many as a run ever needs: one finish for each queue, whose next order can't start before
+    /// it, and those of production rows. A production row finishes with the next event, unless an
+    /// order without a source of deuterium starts a second earlier, of which each queue can have
+    /// one.
     static constexpr std::size_t kFinishEvents = 8;
 
     SimTime m_startTime;
     std::uint16_t m_pendingOrder = 0;
     bool m_isPending = false;
-    std::size_t m_number = 0;
+    std::size_t m_finishCount = 0;
     /// The earliest stands at the end.
     std::array<Event, kFinishEvents> m_finishes{};
 };

@@ -18,7 +18,7 @@ PerResource<FixedPoint> StockAfter(const HistoryPoint& point, Long seconds) {
     GameState state;
     state.stock = point.stock;
     state.ProStunde = point.ProStunde;
-    VergeheZeit(seconds, state);
+    ForEachResource([&](Resource mine) { Passtime(mine, seconds, state); });
     return state.stock;
 }
 

@@ -7,8 +7,8 @@
 
 namespace tarvelin {
 
-/// Tells each event to all of them, one after the other. Their kinds are known, so that what an
-/// observer doesn't ask for costs nothing.
+/// Tells each event to all of them, one after the other. Their types are known at compile time, so
+/// a hook that none of them overrides costs nothing.
 template <class... Observer>
 class ObserverGroup final : public RunObserver {
   public:
@@ -16,28 +16,25 @@ class ObserverGroup final : public RunObserver {
     explicit ObserverGroup(Observer&... all) : m_all(all...) {}
 
     void OnStart(const StartEvent& event) override {
-        ForAll([&](auto& b) { b.OnStart(event); });
-    }
-    void OnFinish(const Order& order) override {
-        ForAll([&](auto& b) { b.OnFinish(order); });
+        ForAll([&](auto& observer) { observer.OnStart(event); });
     }
     void OnNegativeStock(const GameState& state) override {
-        ForAll([&](auto& b) { b.OnNegativeStock(state); });
+        ForAll([&](auto& observer) { observer.OnNegativeStock(state); });
     }
     void OnUnknownOrder(UnknownOrderAt what) override {
-        ForAll([&](auto& b) { b.OnUnknownOrder(what); });
+        ForAll([&](auto& observer) { observer.OnUnknownOrder(what); });
     }
     void OnEmptyStep() override {
-        ForAll([](auto& b) { b.OnEmptyStep(); });
+        ForAll([](auto& observer) { observer.OnEmptyStep(); });
     }
     void OnStepDone(const GameState& state) override {
-        ForAll([&](auto& b) { b.OnStepDone(state); });
+        ForAll([&](auto& observer) { observer.OnStepDone(state); });
     }
 
   private:
     template <class Report>
     void ForAll(Report report) {
-        std::apply([&](Observer&... b) { (report(b), ...); }, m_all);
+        std::apply([&](Observer&... observers) { (report(observers), ...); }, m_all);
     }
 
     std::tuple<Observer&...> m_all;

@@ -25,9 +25,8 @@ std::string PointsText(const GameState& state) {
 }
 
 std::string PointsWithStockText(const GameState& state) {
-    return ToPoints((FixedPoint::FromWhole(state.VerbauteRessourcen) +
-                     state.stock[Resource::Deuterium] + state.stock[Resource::Kristall] +
-                     state.stock[Resource::Metall])
+    return ToPoints((FixedPoint::FromWhole(state.VerbauteRessourcen) + state.Deuterium() +
+                     state.Kristall() + state.Metall())
                         .ToDouble());
 }
 
@@ -49,9 +48,9 @@ void ResultTexts::AfterClear() {
 void ResultTexts::AfterRun(const GameState& state) {
     LBL_Timegone = "Dauer: " + DurationText(state);
     LBL_Timegone2 = LBL_Timegone;
-    LBL_Met = std::to_string(state.stock[Resource::Metall].WholePart());
-    LBL_Kris = std::to_string(state.stock[Resource::Kristall].WholePart());
-    LBL_Deut = std::to_string(state.stock[Resource::Deuterium].WholePart());
+    LBL_Met = std::to_string(state.Metall().WholePart());
+    LBL_Kris = std::to_string(state.Kristall().WholePart());
+    LBL_Deut = std::to_string(state.Deuterium().WholePart());
     LBL_ENergie =
         std::to_string(LongSum(state.EnergieProduktion, -std::int64_t{state.EnergieVerbrauch})) +
         " / " + std::to_string(state.EnergieProduktion);

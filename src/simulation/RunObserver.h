@@ -34,11 +34,11 @@ struct StartEvent {
     friend bool operator==(const StartEvent&, const StartEvent&) = default;
 };
 
-/// Where an order is met that no rule knows.
+/// Where the run met an order of unknown code.
 enum class UnknownOrderAt : std::uint8_t { Start, Wait };
 
-/// Is told a run as figures. The state is that behind the event, before the next balance. Each of
-/// these does nothing unless it is overridden.
+/// Hears of a run in figures. The state is the one after the event, before the next balance. Each
+/// hook does nothing unless it is overridden.
 class RunObserver {
   public:
     RunObserver() = default;
@@ -46,15 +46,14 @@ class RunObserver {
     RunObserver& operator=(const RunObserver&) = delete;
     virtual ~RunObserver() = default;
 
-    virtual void OnStart(const StartEvent& /*ereignis*/) {}
-    virtual void OnFinish(const Order& /*order*/) {}
+    virtual void OnStart(const StartEvent& /*event*/) {}
     /// A start has left a stock below 0.
-    virtual void OnNegativeStock(const GameState& /*stand*/) {}
-    virtual void OnUnknownOrder(UnknownOrderAt /*was*/) {}
+    virtual void OnNegativeStock(const GameState& /*state*/) {}
+    virtual void OnUnknownOrder(UnknownOrderAt /*where*/) {}
     /// A step found nothing to do.
     virtual void OnEmptyStep() {}
     /// A step is over, and the balance struck.
-    virtual void OnStepDone(const GameState& /*stand*/) {}
+    virtual void OnStepDone(const GameState& /*state*/) {}
 };
 
 }  // namespace tarvelin

@@ -6,11 +6,10 @@
 namespace tarvelin {
 
 void RunReporter::OnNegativeStock(const GameState& state) {
-    m_messages.Show(
-        {.text = "Negative Ressourcen: Metall: " + DecimalText(state.stock[Resource::Metall]) +
-                 "    Kristall:" + DecimalText(state.stock[Resource::Kristall]) +
-                 "    Deuterium: " + DecimalText(state.stock[Resource::Deuterium]),
-         .title = "Simulations-Fehler, bitte melden"});
+    m_messages.Show({.text = "Negative Ressourcen: Metall: " + DecimalText(state.Metall()) +
+                             "    Kristall:" + DecimalText(state.Kristall()) +
+                             "    Deuterium: " + DecimalText(state.Deuterium()),
+                     .title = "Simulations-Fehler, bitte melden"});
 }
 
 void RunReporter::OnUnknownOrder(UnknownOrderAt what) {

@@ -29,14 +29,12 @@ std::string ScheduleEntry::Tag() const {
     return reason.empty() ? tag : tag + " | " + reason;
 }
 
-void ScheduleRecorder::OnStart(const StartEvent& event) {
-    ScheduleEntry& row = m_rows.emplace_back();
-    row.order = event.order;
-    row.number = event.number;
-    row.start = m_conditions.WallClock(event.start);
-    row.finish = m_conditions.WallClock(event.finish);
-    row.shortage.Assign(event.shortage);
-    row.delay = event.delay;
+void AddBauzeit(DateTime StartDate, const StartEvent& start, Schedule& LV_Bauzeiten) {
+    ScheduleEntry& entry = LV_Bauzeiten.emplace_back();
+    entry.order = start.order;
+    entry.number = start.number;
+    entry.start = StartDate + start.start.Seconds();
+    entry.shortage.Assign(start.shortage);
 }
 
 }  // namespace tarvelin

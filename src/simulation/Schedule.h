@@ -10,17 +10,14 @@
 
 namespace tarvelin {
 
-/// A row of `LV_Bauzeiten`. Its cells are worked out from figures when they are read.
+/// A row of `LV_Bauzeiten`: figures, of which the texts of its cells are made when they are read.
 struct ScheduleEntry {
     Order order{};
     /// The level or number that an item reaches; 0 for a production row.
     Byte number = 0;
     DateTime start{};
-    DateTime finish{};
     /// What the stocks lacked when the start was last timed.
     Shortage shortage{};
-    /// What held the order back last.
-    Delay delay{};
 
     /// Short name of the weekday.
     [[nodiscard]] std::string Weekday() const { return std::string(WeekdayShort(start)); }
@@ -34,8 +31,11 @@ struct ScheduleEntry {
     [[nodiscard]] std::string VerzoegerungsGrund() const;
 };
 
-/// `LV_Bauzeiten`: rows in the order of the starts, never sorted.
+/// `LV_Bauzeiten`: rows in the sequence of the starts, never sorted.
 using Schedule = std::vector<ScheduleEntry>;
+
+/// Adds the row of a start to the schedule of a run that began at `StartDate`.
+void AddBauzeit(DateTime StartDate, const StartEvent& start, Schedule& LV_Bauzeiten);
 
 /// Adds a row at each start.
 class ScheduleRecorder final : public RunObserver {
@@ -44,7 +44,9 @@ class ScheduleRecorder final : public RunObserver {
     ScheduleRecorder(const RunConditions& conditions, Schedule& rows)
         : m_conditions(conditions), m_rows(rows) {}
 
-    void OnStart(const StartEvent& event) override;
+    void OnStart(const StartEvent& event) override {
+        AddBauzeit(m_conditions.StartDate, event, m_rows);
+    }
 
   private:
     const RunConditions& m_conditions;

@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <limits>
 
-#include "model/Cost.h"
 #include "model/ItemTable.h"
+#include "model/Mines.h"
 #include "model/Transitions.h"
 
 namespace tarvelin {
@@ -38,31 +38,28 @@ void Simulation::Step(RunObserver& observer) {
         return;
     }
     const EventTable::Event first = m_LV_Eventhandler.ClearEvent();
-    // Negative where an order's click buffer has carried the clock past this row.
-    const Long difference = first.time - m_state.secsgone;
+    // Negative where an order's click buffer has carried the clock past this event.
+    VergeheZeit(first.time - m_state.secsgone, first.StartFlag, m_state, *m_conditions);
     if (first.StartFlag) {
-        VergeheZeit(LongSum(difference, m_conditions->KlickPuffer), m_state);
         StartOrder(first.order, observer);
     } else {
-        VergeheZeit(difference, m_state);
-        FinishOrder(m_orders[first.order], observer);
+        FinishOrder(m_orders[first.order]);
     }
     EnergieBilanz(m_state, *m_conditions);
     observer.OnStepDone(m_state);
 }
 
-/// Only one order at a time waits, in the order of the list.
+/// One order waits at a time, in the sequence of the list.
 void Simulation::EnqueueNext() {
     if (m_LV_Eventhandler.NoStartPending() && m_NextListRow < m_orders.size()) {
-        m_LV_Eventhandler.SetEvent(m_NextListRow++);
+        m_LV_Eventhandler.SetEvent(SimTime(), m_NextListRow++, true);
         m_delay = {};
         m_gateClosed = false;
         m_sleepFree = kNever;
     }
 }
 
-/// Times the waiting order from the state as it stands. An estimate made earlier counts for
-/// nothing.
+/// Times the waiting order from the present state, whatever it was timed to before.
 void Simulation::RetimePending(RunObserver& observer) {
     const Order& order = m_orders[m_LV_Eventhandler.PendingOrder()];
     const SimTime free = m_state.FertigZeit[order.queue];
@@ -128,29 +125,27 @@ void Simulation::StartOrder(std::size_t row, RunObserver& observer) {
             observer.OnUnknownOrder(UnknownOrderAt::Start);
             break;
     }
-    // A first order that costs more than the start stocks, or one without any source of deuterium,
-    // starts all the same. It is told again at each start until the stocks have recovered.
+    // The first order starts even if it costs more than the start stocks, and so does one without
+    // a source of deuterium. Each start tells it until the stocks have recovered.
     if (std::ranges::min(m_state.stock) < FixedPoint()) {
         observer.OnNegativeStock(m_state);
     }
 }
 
-// The click buffer counts twice: before the start, and behind the finish until the queue falls
-// free.
+// The click buffer counts twice: before the start, and after the finish until the queue falls free.
 void Simulation::StartItem(std::size_t row, RunObserver& observer) {
     const Order& order = m_orders[row];
     const ItemRow& item = RowOf(order.item);
-    const Byte level = m_state.Stufe[order.item];
     UpgradeStart(item, m_state);
-    const double finished = m_state.secsgone.Seconds() +
-                            item.upgradeTime(CostOf(order.item, level), m_state, *m_conditions);
+    const double finished =
+        m_state.secsgone.Seconds() + GetUpgradeTime(item, m_state, *m_conditions);
     const SimTime finish(HalfEvenLong(finished));
-    m_LV_Eventhandler.SetEvent(finish, row);
+    m_LV_Eventhandler.SetEvent(finish, row, false);
     m_state.FertigZeit[order.queue] =
         SimTime(HalfEvenLong(finished + 1 + m_conditions->KlickPuffer));
     StartEvent event{.row = row,
                      .order = order,
-                     .number = Saturate<Byte>(level + 1),
+                     .number = Saturate<Byte>(m_state.GetStufe(order.item) + 1),
                      .start = m_state.secsgone,
                      .finish = finish,
                      .shortage = {},
@@ -161,11 +156,11 @@ void Simulation::StartItem(std::size_t row, RunObserver& observer) {
     observer.OnStart(event);
 }
 
-/// It occupies no queue: the next order of the building queue need not wait for it.
+/// It occupies no queue: the next building need not wait for it.
 void Simulation::StartProduction(std::size_t row, RunObserver& observer) {
     const Order& order = m_orders[row];
-    SetProdfaktor(order.factors, m_state);
-    m_LV_Eventhandler.SetEvent(m_state.secsgone, row);
+    ForEachResource([&](Resource mine) { SetProdfaktor(mine, order.factors[mine], m_state); });
+    m_LV_Eventhandler.SetEvent(m_state.secsgone, row, false);
     observer.OnStart({.row = row,
                       .order = order,
                       .start = m_state.secsgone,
@@ -174,11 +169,10 @@ void Simulation::StartProduction(std::size_t row, RunObserver& observer) {
                       .delay = m_delay});
 }
 
-void Simulation::FinishOrder(const Order& order, RunObserver& observer) {
+void Simulation::FinishOrder(const Order& order) {
     if (order.kind == Order::Kind::Item) {
         UpgradeFinished(RowOf(order.item), m_state);
     }
-    observer.OnFinish(order);
 }
 
 }  // namespace tarvelin

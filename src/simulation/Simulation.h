@@ -11,10 +11,9 @@
 
 namespace tarvelin {
 
-/// A run as a value. It goes event by event: time jumps to the earliest row of the timetable, the
-/// order there starts or finishes. A copy is a run of its own, which goes on from there. Between
-/// two steps no order waits that the list has behind those that were given; it enters with the
-/// next.
+/// A run as a value. It goes event by event: time jumps to the earliest row of the event table, and
+/// the order there starts or finishes. A copy is a run of its own and goes on from there. Orders
+/// appended to the list meanwhile enter at the next step.
 ///
 /// Orders and conditions must outlive it; at most 254 orders.
 class Simulation {
@@ -24,11 +23,8 @@ class Simulation {
     /// Goes on over other orders, of which the first `NextListRow()` are those of the former.
     void ReplaceOrders(std::span<const Order> orders) { m_orders = orders; }
 
-    /// How many orders have entered the timetable: the others don't matter yet.
+    /// How many orders have entered the event table; the others don't matter yet.
     [[nodiscard]] std::size_t NextListRow() const { return m_NextListRow; }
-
-    /// Whether an order that has entered is still waiting for its start.
-    [[nodiscard]] bool HasPendingOrder() const { return !m_LV_Eventhandler.NoStartPending(); }
 
     /// Whether the run is over: each order goes through two steps, a start and a finish.
     [[nodiscard]] bool IsFinished() const { return m_steps >= 2 * m_orders.size(); }
@@ -39,7 +35,7 @@ class Simulation {
     /// Goes to the end.
     void RunToEnd(RunObserver& observer);
 
-    /// The state behind the last step.
+    /// The state after the last step.
     [[nodiscard]] const GameState& State() const { return m_state; }
 
   private:
@@ -50,22 +46,22 @@ class Simulation {
     void StartOrder(std::size_t row, RunObserver& observer);
     void StartItem(std::size_t row, RunObserver& observer);
     void StartProduction(std::size_t row, RunObserver& observer);
-    void FinishOrder(const Order& order, RunObserver& observer);
+    void FinishOrder(const Order& order);
 
     std::span<const Order> m_orders;
     const RunConditions* m_conditions;
     GameState m_state;
     EventTable m_LV_Eventhandler;
-    /// The next order that has not yet entered the timetable.
+    /// The next order to enter the event table.
     std::size_t m_NextListRow = 0;
     std::size_t m_steps = 0;
-    /// When the wait of the waiting order ends; an unknown order keeps that of the one before it.
+    /// When the waiting order's wait ends; an unknown order takes that of the order before it.
     SimTime m_readyAt;
-    /// What the waiting order last waited for.
+    /// What the waiting order was held back by when it was last timed.
     Delay m_delay;
     /// Whether a gate was shut when it was last timed.
     bool m_gateClosed = false;
-    /// The earliest moment from which on only a sleep window held it back.
+    /// The earliest moment from which only a sleep window has held it back.
     SimTime m_sleepFree;
 };
 
