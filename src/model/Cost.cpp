@@ -37,19 +37,18 @@ CostTable AllCosts() noexcept {
     return table;
 }
 
-const LevelCost& LevelCostOf(ItemId item, Byte level) {
-    static const CostTable costs = AllCosts();
-    return costs[item][level];
-}
+// Made before main: each event of a run looks something up, and a function's static would ask each
+// time whether it has been made.
+const CostTable kCosts = AllCosts();
 
 }  // namespace
 
 const Cost& CostOf(ItemId item, Byte level) {
-    return LevelCostOf(item, level).amount;
+    return kCosts[item][level].amount;
 }
 
 const PerResource<FixedPoint>& StockDeduction(ItemId item, Byte level) {
-    return LevelCostOf(item, level).deduction;
+    return kCosts[item][level].deduction;
 }
 
 std::string GetUpgradecostString(ItemId item, Byte extStufe) {

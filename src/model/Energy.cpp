@@ -19,6 +19,9 @@ Powers AllPowers() noexcept {
     return powers;
 }
 
+// Made before main, as the prices are and for the same reason.
+const Powers kPowers = AllPowers();
+
 FixedPoint PowerPlantProduction(Byte level) {
     constexpr double kEnergyPerLevel = 20;
     return FixedPoint::FromWhole(
@@ -36,8 +39,7 @@ FixedPoint SatelliteProduction(Byte count, Integer temperature) {
 }  // namespace
 
 double OnePointOneToThe(Byte level) {
-    static const Powers powers = AllPowers();
-    return powers[level];
+    return kPowers[level];
 }
 
 FixedPoint GetProduktion(ItemId source, Byte ExterneStufe, Integer Temperatur) {
