@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string_view>
 
 #include "util/EnumArray.h"
 #include "util/Integers.h"
@@ -15,6 +16,9 @@ inline constexpr std::array kResources{Resource::Metall, Resource::Kristall, Res
 
 template <class T>
 using PerResource = EnumArray<Resource, T>;
+
+/// What the player reads.
+inline constexpr PerResource<std::string_view> kResourceNames{{"Metall", "Kristall", "Deuterium"}};
 
 /// For each resource in its turn; without a loop, as each event of a run does this several times.
 template <class Action>

@@ -2,27 +2,17 @@
 #include "model/Shortage.h"
 
 #include <cmath>
-#include <string_view>
 
+#include "model/Resource.h"
 #include "util/NumberText.h"
 
 namespace tarvelin {
 
 namespace {
 
-std::string_view ResourceText(Shortage::Kind kind) {
-    switch (kind) {
-        case Shortage::Kind::Metall:
-            return " Metall";
-        case Shortage::Kind::Kristall:
-            return " Kristall";
-        case Shortage::Kind::Deuterium:
-            return " Deuterium";
-        case Shortage::Kind::Unstated:
-        case Shortage::Kind::None:
-            break;
-    }
-    return "";
+std::string MissingText(double amount, Resource resource) {
+    return "Es fehlten: " + WholeText(std::floor(amount)) + " " +
+           std::string(kResourceNames[resource]);
 }
 
 }  // namespace
@@ -30,13 +20,17 @@ std::string_view ResourceText(Shortage::Kind kind) {
 std::string Shortage::Text() const {
     switch (kind) {
         case Kind::Unstated:
-            return "";
+            break;
         case Kind::None:
             return "Keine Verzögerung wegen der Ressourcen!";
-        default:
-            return "Es fehlten: " + WholeText(std::floor(missingAmount)) +
-                   std::string(ResourceText(kind));
+        case Kind::Metall:
+            return MissingText(missingAmount, Resource::Metall);
+        case Kind::Kristall:
+            return MissingText(missingAmount, Resource::Kristall);
+        case Kind::Deuterium:
+            return MissingText(missingAmount, Resource::Deuterium);
     }
+    return "";
 }
 
 }  // namespace tarvelin

@@ -39,9 +39,12 @@ std::string CountText(std::size_t number, const char* singular, const char* plur
 }
 
 std::string RatesText(const GameState& state) {
-    return "Metall " + std::to_string(state.ProStunde[Resource::Metall].WholePart()) +
-           ", Kristall " + std::to_string(state.ProStunde[Resource::Kristall].WholePart()) +
-           ", Deuterium " + std::to_string(state.ProStunde[Resource::Deuterium].WholePart());
+    std::string text;
+    for (const Resource resource : kResources) {
+        text += (text.empty() ? "" : ", ") + std::string(kResourceNames[resource]) + " " +
+                std::to_string(state.ProStunde[resource].WholePart());
+    }
+    return text;
 }
 
 }  // namespace tarvelin

@@ -29,15 +29,10 @@ std::vector<ComparisonText> SummaryTexts(const Comparison& comparison) {
         TimeText("Dauer", a.duration, b.duration),
         NumberText("Punkte", a.VerbauteRessourcen / kResourcesPerPoint,
                    b.VerbauteRessourcen / kResourcesPerPoint, kDecimals)};
-    struct Name {
-        Resource resource;
-        const char* text;
-    };
-    for (const auto& [what, name] :
-         {Name{Resource::Metall, "Metall"}, Name{Resource::Kristall, "Kristall"},
-          Name{Resource::Deuterium, "Deuterium"}}) {
-        rows.push_back(NumberText(name, static_cast<double>(a.stock[what].WholePart()),
-                                  static_cast<double>(b.stock[what].WholePart()), 0));
+    for (const Resource resource : kResources) {
+        rows.push_back(NumberText(std::string(kResourceNames[resource]),
+                                  static_cast<double>(a.stock[resource].WholePart()),
+                                  static_cast<double>(b.stock[resource].WholePart()), 0));
     }
     rows.push_back(NumberText("Sitzungen", a.sittings, b.sittings, 0));
     for (const Queue queue : {Queue::Building, Queue::Research, Queue::Shipyard}) {

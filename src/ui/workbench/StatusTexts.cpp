@@ -12,18 +12,13 @@ namespace tarvelin {
 namespace {
 
 std::string StockText(const RunTrace& trace, SimTime moment) {
-    struct Name {
-        Resource resource;
-        const char* text;
-    };
     const HistoryPoint& point = PointAt(trace.curve, moment);
     const auto stock = StockAfter(point, std::max(Long{0}, moment - point.time));
     std::string text;
-    for (const auto& [what, name] :
-         {Name{Resource::Metall, "Metall"}, Name{Resource::Kristall, "Kristall"},
-          Name{Resource::Deuterium, "Deuterium"}}) {
-        text += std::string("   ") + name + ": " + std::to_string(stock[what].WholePart()) + " (" +
-                DecimalText(point.ProStunde[what]) + "/h)";
+    for (const Resource resource : kResources) {
+        text += "   " + std::string(kResourceNames[resource]) + ": " +
+                std::to_string(stock[resource].WholePart()) + " (" +
+                DecimalText(point.ProStunde[resource]) + "/h)";
     }
     const Long free = LongSum(point.EnergieProduktion, -std::int64_t{point.EnergieVerbrauch});
     return text + "   Energie: " + std::to_string(free) + " / " +

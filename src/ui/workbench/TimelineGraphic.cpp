@@ -295,10 +295,10 @@ class TimelineGraphic::Renderer {
         }
         m_painter.setRenderHint(QPainter::Antialiasing, false);
         qreal x = DrawField(rect, range, QStringLiteral("Vorräte"));
-        for (const auto& [resource, name] :
-             {std::pair(Resource::Metall, "  Metall"), std::pair(Resource::Kristall, "  Kristall"),
-              std::pair(Resource::Deuterium, "  Deuterium ")}) {
-            x = DrawWord(x, rect.top(), QString::fromLatin1(name),
+        for (const Resource resource : kResources) {
+            const QString end(resource == kResources.back() ? 1 : 0, QLatin1Char(' '));
+            x = DrawWord(x, rect.top(),
+                         QStringLiteral("  ") + ToQString(kResourceNames[resource]) + end,
                          m_graphic.m_colors.stock[resource]);
         }
     }
