@@ -1,7 +1,6 @@
 // From options to a search and its report.
 #include "console/SearchCommand.h"
 
-#include <filesystem>
 #include <iostream>
 
 #ifdef _WIN32
@@ -14,6 +13,7 @@
 #include "persistence/PlanFile.h"
 #include "simulation/RunTexts.h"
 #include "util/NumberText.h"
+#include "util/Utf8.h"
 
 namespace tarvelin {
 
@@ -84,10 +84,6 @@ std::variant<SearchRequest, std::string> ParseRequest(const SearchCommand& comma
     return request;
 }
 
-std::filesystem::path ToPath(const std::string& file) {
-    return std::u8string(file.begin(), file.end());
-}
-
 SearchResult SearchWithProgress(const PlanTask& task, const SearchCommand& command,
                                 const std::atomic<bool>& stop) {
     SearchBudget budget{.seed = command.seed, .threads = command.threads};
@@ -112,10 +108,11 @@ int RunSearchCommand(const SearchCommand& command, const std::atomic<bool>& stop
     if (const auto* const error = std::get_if<std::string>(&request)) {
         return Say(*error, kWrongCall);
     }
-    const PlanRun plan(ToPath(command.planFile));
+    const PlanRun plan(PathFromUtf8(command.planFile));
     if (!plan.loaded) {
         const int code = Say(LoadErrorMessage().text, kPlanFailed);
-        std::cerr << command.planFile << ": " << LoadObstacle(ToPath(command.planFile)) << '\n';
+        std::cerr << command.planFile << ": " << LoadObstacle(PathFromUtf8(command.planFile))
+                  << '\n';
         return code;
     }
     if (plan.run.state.IsAtEndOfClock()) {
@@ -134,13 +131,14 @@ int RunSearchCommand(const SearchCommand& command, const std::atomic<bool>& stop
     IniFile profile("");
     WritePlan(after, profile);
     const PlanRun document(
-        command.outputFile ? ToPath(*command.outputFile).filename().string() : plan.name, profile);
+        command.outputFile ? PathToUtf8(PathFromUtf8(*command.outputFile).filename()) : plan.name,
+        profile);
     const SearchReport report{.before = plan,
                               .task = posed,
                               .ResultText = result,
                               .after = document,
                               .seed = command.seed};
-    if (command.outputFile && !SaveBauliste(ToPath(*command.outputFile), after)) {
+    if (command.outputFile && !SaveBauliste(PathFromUtf8(*command.outputFile), after)) {
         return Say(SaveErrorMessage().text, kPlanFailed);
     }
     if (command.json) {

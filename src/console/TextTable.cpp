@@ -2,23 +2,13 @@
 #include "console/TextTable.h"
 
 #include <algorithm>
-#include <string_view>
+
+#include "util/Utf8.h"
 
 namespace tarvelin {
 
-namespace {
-
-/// Characters of a UTF-8 text.
-std::size_t WidthOf(std::string_view text) {
-    return static_cast<std::size_t>(std::ranges::count_if(text, [](char character) {
-        return (static_cast<unsigned char>(character) & 0xC0U) != 0x80U;
-    }));
-}
-
-}  // namespace
-
 std::string Padded(const std::string& text, std::size_t width, bool right) {
-    const std::size_t length = WidthOf(text);
+    const std::size_t length = CountCharacters(text);
     const std::string gap(length < width ? width - length : 0, ' ');
     return right ? gap + text : text + gap;
 }
@@ -28,7 +18,7 @@ void WriteTable(std::ostream& stream, const std::vector<std::vector<std::string>
     std::vector<std::size_t> widths(lines.empty() ? 0 : lines.front().size());
     for (const auto& line : lines) {
         for (std::size_t i = 0; i < widths.size(); ++i) {
-            widths[i] = std::max(widths[i], WidthOf(line[i]));
+            widths[i] = std::max(widths[i], CountCharacters(line[i]));
         }
     }
     for (const auto& line : lines) {

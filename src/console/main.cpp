@@ -31,6 +31,7 @@
 #include "persistence/Calendar.h"
 #include "persistence/PlanFile.h"
 #include "simulation/RunTexts.h"
+#include "util/Utf8.h"
 
 namespace {
 
@@ -110,18 +111,14 @@ std::string ErrorText(const CLI::ParseError& error) {
     return ValueError(error.what());
 }
 
-std::filesystem::path ToPath(const std::string& file) {
-    return std::u8string(file.begin(), file.end());
-}
-
 /// Each message as "Titel: Text", or the text alone without a title; then what is to be told of the
 /// file, under its name.
 tarvelin::PlanRun RunFile(const std::string& file) {
-    tarvelin::PlanRun document(ToPath(file));
+    tarvelin::PlanRun document(tarvelin::PathFromUtf8(file));
     for (const tarvelin::Message& message : document.messages) {
         std::cerr << message.title << (message.title.empty() ? "" : ": ") << message.text << '\n';
     }
-    const std::string text = !document.loaded   ? tarvelin::LoadObstacle(ToPath(file))
+    const std::string text = !document.loaded ? tarvelin::LoadObstacle(tarvelin::PathFromUtf8(file))
                              : !document.hasRun ? "dieser Plan kann nicht gespielt werden"
                              : document.run.state.IsAtEndOfClock() ? tarvelin::BeyondClockText()
                                                                    : "";
@@ -133,7 +130,8 @@ bool WriteCalendar(const tarvelin::PlanRun& document, const std::string& file) {
     constexpr tarvelin::Long kReminder = 10;
     const auto now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
     const std::string text = tarvelin::CalendarText(document.Trace(), kReminder, now);
-    if (tarvelin::WriteFileAtomically(ToPath(file), text, tarvelin::NativeFileSystem())) {
+    if (tarvelin::WriteFileAtomically(tarvelin::PathFromUtf8(file), text,
+                                      tarvelin::NativeFileSystem())) {
         return true;
     }
     std::cerr << "tarvelin-cli: Der Kalender konnte nicht gespeichert werden\n";
@@ -338,8 +336,7 @@ int wmain(int argc, wchar_t** argv) {
     _setmode(_fileno(stderr), _O_BINARY);
     std::vector<std::string> arguments;
     for (const std::filesystem::path argument : std::span(argv, static_cast<std::size_t>(argc))) {
-        const auto utf8 = argument.u8string();
-        arguments.emplace_back(utf8.begin(), utf8.end());
+        arguments.push_back(tarvelin::PathToUtf8(argument));
     }
     return Start(arguments);
 }

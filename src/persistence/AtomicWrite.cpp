@@ -6,6 +6,8 @@
 #include <system_error>
 #include <utility>
 
+#include "util/Utf8.h"
+
 namespace tarvelin {
 
 namespace {
@@ -28,8 +30,7 @@ bool IsOrphaned(std::string_view name, const FileSystem& system) {
 
 void RemoveOrphans(const std::filesystem::path& folder, const FileSystem& system) {
     for (const auto& entry : system.Entries(folder)) {
-        const auto name = entry.filename().u8string();
-        if (IsOrphaned(std::string(name.begin(), name.end()), system)) {
+        if (IsOrphaned(PathToUtf8(entry.filename()), system)) {
             static_cast<void>(system.Remove(entry));
         }
     }

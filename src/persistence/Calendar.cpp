@@ -9,6 +9,7 @@
 #include "model/Cost.h"
 #include "simulation/RunTexts.h"
 #include "util/DateTime.h"
+#include "util/Utf8.h"
 
 namespace tarvelin {
 
@@ -20,25 +21,19 @@ constexpr Long kMinute = 60;
 /// behind a blank. No letter is parted.
 std::string ContentLine(std::string_view text) {
     constexpr std::size_t kMax = 75;
-    constexpr unsigned char kContinuationByte = 0x80;
-    constexpr unsigned char kMask = 0xC0;
-    std::string unfolded;
+    std::string folded;
     std::size_t length = 0;
-    for (std::size_t i = 0; i < text.size();) {
-        std::size_t character = 1;
-        while (i + character < text.size() &&
-               (static_cast<unsigned char>(text[i + character]) & kMask) == kContinuationByte) {
-            ++character;
-        }
-        if (length + character > kMax) {
-            unfolded += "\r\n ";
+    while (!text.empty()) {
+        const std::size_t size = FirstCharacterSize(text);
+        if (length + size > kMax) {
+            folded += "\r\n ";
             length = 1;
         }
-        unfolded += text.substr(i, character);
-        length += character;
-        i += character;
+        folded += text.substr(0, size);
+        length += size;
+        text.remove_prefix(size);
     }
-    return unfolded + "\r\n";
+    return folded + "\r\n";
 }
 
 std::string Escaped(std::string_view text) {

@@ -6,6 +6,7 @@
 #include "persistence/AtomicWrite.h"
 #include "persistence/IniFile.h"
 #include "util/NumberText.h"
+#include "util/Utf8.h"
 
 namespace tarvelin {
 
@@ -13,18 +14,15 @@ namespace {
 
 /// Where a path leads that a user wrote, with either separator: never by the current directory.
 std::filesystem::path FromFolder(const std::filesystem::path& folder, std::string text) {
-    const auto toPath = [&] {
-        return std::filesystem::path(std::u8string(text.begin(), text.end()));
-    };
     // Not every standard library knows that a name of a computer makes a path absolute.
     const bool byMachine = std::filesystem::path::preferred_separator == '\\' &&
                            (text.starts_with("\\\\") || text.starts_with("//"));
-    if (byMachine || toPath().is_absolute()) {
-        return toPath();
+    if (byMachine || PathFromUtf8(text).is_absolute()) {
+        return PathFromUtf8(text);
     }
     std::ranges::replace(text, '\\', '/');
     // A root that is left names no place of its own: a leading separator, or a drive alone.
-    return folder / toPath().relative_path();
+    return folder / PathFromUtf8(text).relative_path();
 }
 
 }  // namespace

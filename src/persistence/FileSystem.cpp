@@ -5,6 +5,8 @@
 #include <array>
 #include <utility>
 
+#include "util/Utf8.h"
+
 namespace tarvelin {
 
 std::optional<std::string> ReadFileToString(const std::filesystem::path& file, std::size_t max,
@@ -38,8 +40,7 @@ std::vector<std::string> GetSubfolders(const std::filesystem::path& Path,
     std::vector<std::string> names;
     for (const auto& entry : system.Entries(Path)) {
         if (system.IsPlainFolder(entry)) {
-            const auto name = entry.filename().u8string();
-            names.emplace_back(name.begin(), name.end());
+            names.push_back(PathToUtf8(entry.filename()));
         }
     }
     std::ranges::sort(names);

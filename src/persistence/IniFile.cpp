@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "util/Codepage1252.h"
+#include "util/Utf8.h"
 
 namespace tarvelin {
 
@@ -83,10 +84,9 @@ std::string_view UpToNul(std::string_view value) {
 
 /// A default is cut by characters, as each would be one byte of the file.
 std::string_view CutDefault(std::string_view utf8) {
-    std::size_t character = 0;
+    std::size_t characters = 0;
     for (std::size_t i = 0; i < utf8.size(); ++i) {
-        const bool beginsCharacter = (static_cast<unsigned char>(utf8[i]) & 0xC0U) != 0x80U;
-        if (beginsCharacter && ++character > kMaxLength) {
+        if (!IsContinuation(utf8[i]) && ++characters > kMaxLength) {
             return UpToNul(utf8.substr(0, i));
         }
     }

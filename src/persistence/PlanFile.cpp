@@ -11,6 +11,7 @@
 #include "persistence/AtomicWrite.h"
 #include "util/Nuetzliches.h"
 #include "util/NumberText.h"
+#include "util/Utf8.h"
 
 namespace tarvelin {
 
@@ -61,7 +62,7 @@ std::string Readable(std::string_view value) {
     if (text.size() > kMax) {
         // No letter is parted.
         std::size_t end = kMax;
-        while ((static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) {
+        while (IsContinuation(text[end])) {
             --end;
         }
         text.resize(end);
@@ -241,9 +242,7 @@ std::string LoadObstacle(const std::filesystem::path& File, const FileSystem& sy
 }
 
 std::string WindowTitleFor(const std::filesystem::path& File) {
-    const auto name = File.filename().u8string();
-    return "Tarvelin  |  Kelva Aufbau-Simulator      ( " + std::string(name.begin(), name.end()) +
-           " )";
+    return "Tarvelin  |  Kelva Aufbau-Simulator      ( " + PathToUtf8(File.filename()) + " )";
 }
 
 }  // namespace tarvelin

@@ -4,24 +4,16 @@
 #include <utility>
 
 #include "persistence/PlanFile.h"
+#include "util/Utf8.h"
 
 namespace tarvelin {
-
-namespace {
-
-std::string FileName(const std::filesystem::path& file) {
-    const auto name = file.filename().u8string();
-    return {name.begin(), name.end()};
-}
-
-}  // namespace
 
 RunTrace PlanRun::Trace() const {
     return TraceRun(plan.LV_Bauliste.Orders().All(), run.conditions);
 }
 
 PlanRun::PlanRun(const std::filesystem::path& file)
-    : PlanRun(FileName(file), IniFile::Load(file)) {}
+    : PlanRun(PathToUtf8(file.filename()), IniFile::Load(file)) {}
 
 PlanRun::PlanRun(std::string fileName, const std::optional<IniFile>& profile)
     : name(std::move(fileName)) {

@@ -7,20 +7,11 @@
 #include <system_error>
 
 #include "util/NumberText.h"
+#include "util/Utf8.h"
 
 namespace tarvelin {
 
 namespace {
-
-/// Length in bytes of the UTF-8 character that begins a text; a stray byte is one of its own.
-std::size_t FirstCharacter(std::string_view text) {
-    const bool several = static_cast<unsigned char>(text.front()) >= 0xC0U;
-    std::size_t n = 1;
-    while (several && n < text.size() && (static_cast<unsigned char>(text[n]) & 0xC0U) == 0x80U) {
-        ++n;
-    }
-    return n;
-}
 
 void ReplaceAll(std::string& text, std::string_view wanted, std::string_view replacement) {
     for (auto position = text.find(wanted); position != std::string::npos;
@@ -95,7 +86,7 @@ std::string_view TextAfter(std::string_view Text, std::string_view Separator) {
     if (position == std::string_view::npos || Separator.empty()) {
         return Text;
     }
-    return Text.substr(position + FirstCharacter(Text.substr(position)));
+    return Text.substr(position + FirstCharacterSize(Text.substr(position)));
 }
 
 std::string PadIntegerDigits(std::string Text, int Count) {

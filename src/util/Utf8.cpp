@@ -1,9 +1,26 @@
-// UTF-8, whose bytes tell where a character begins.
+// Encoding and decoding of UTF-8.
 #include "util/Utf8.h"
 
+#include <algorithm>
 #include <array>
 
 namespace tarvelin {
+
+std::size_t FirstCharacterSize(std::string_view text) {
+    constexpr unsigned char kFirstLead = 0xC0;
+    if (static_cast<unsigned char>(text.front()) < kFirstLead) {
+        return 1;
+    }
+    std::size_t n = 1;
+    while (n < text.size() && IsContinuation(text[n])) {
+        ++n;
+    }
+    return n;
+}
+
+std::size_t CountCharacters(std::string_view text) {
+    return text.size() - static_cast<std::size_t>(std::ranges::count_if(text, IsContinuation));
+}
 
 void AppendCodePoint(std::string& text, char32_t character) {
     if (character < 0x80) {
@@ -32,19 +49,27 @@ char32_t TakeCodePoint(std::string_view& rest) {
     }
     char32_t character = first & (0x3FU >> following);
     for (std::size_t i = 0; i < following; ++i) {
-        const auto byte = static_cast<unsigned char>(rest[i]);
-        if ((byte & 0xC0U) != 0x80U) {
+        if (!IsContinuation(rest[i])) {
             return kReplacement;
         }
-        character = (character << 6U) | (byte & 0x3FU);
+        character = (character << 6U) | (static_cast<unsigned char>(rest[i]) & 0x3FU);
     }
-    // A character written longer than it need be is none.
+    // Overlong forms are malformed.
     constexpr std::array<char32_t, 4> kSmallest{0, 0x80, 0x800, 0x10000};
     if (character < kSmallest.at(following) || character > kLargest) {
         return kReplacement;
     }
     rest.remove_prefix(following);
     return character;
+}
+
+std::string PathToUtf8(const std::filesystem::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+std::filesystem::path PathFromUtf8(std::string_view text) {
+    return std::u8string(text.begin(), text.end());
 }
 
 }  // namespace tarvelin
