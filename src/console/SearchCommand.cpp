@@ -9,6 +9,7 @@
 #include <unistd.h>
 #endif
 
+#include "console/ExitCode.h"
 #include "console/SearchReport.h"
 #include "persistence/PlanFile.h"
 #include "simulation/RunTexts.h"
@@ -18,10 +19,6 @@
 namespace tarvelin {
 
 namespace {
-
-constexpr int kGood = 0;
-constexpr int kPlanFailed = 1;
-constexpr int kWrongCall = 2;
 
 int Say(const std::string& text, int code) {
     std::cerr << "tarvelin-cli: " << text << '\n';

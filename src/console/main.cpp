@@ -24,6 +24,7 @@
 #endif
 
 #include "console/ComparisonReport.h"
+#include "console/ExitCode.h"
 #include "console/HelpPage.h"
 #include "console/RunReport.h"
 #include "console/SearchCommand.h"
@@ -34,10 +35,6 @@
 #include "util/Utf8.h"
 
 namespace {
-
-constexpr int kGood = 0;
-constexpr int kPlanFailed = 1;
-constexpr int kWrongCall = 2;
 
 struct CommandLine {
     bool json = false;
@@ -297,21 +294,21 @@ int Run(const std::vector<std::string>& arguments) {
         return app.exit(help);
     } catch (const CLI::ParseError& error) {
         std::cerr << "tarvelin-cli: " << ErrorText(error) << " (siehe --hilfe)\n";
-        return kWrongCall;
+        return tarvelin::kWrongCall;
     }
     const bool searching = search->count() > 0;
     if (const std::string error = PlanFileError(files->count(), searching, comparison->count() > 0,
                                                 calendar->count() > 0);
         !error.empty()) {
         std::cerr << "tarvelin-cli: " << error << " (siehe --hilfe)\n";
-        return kWrongCall;
+        return tarvelin::kWrongCall;
     }
     const int code = searching       ? SearchCommandOf(call.search, call.json)
-                     : Execute(call) ? kGood
-                                     : kPlanFailed;
+                     : Execute(call) ? tarvelin::kGood
+                                     : tarvelin::kPlanFailed;
     if (!std::cout.flush()) {
         std::cerr << "tarvelin-cli: die Ausgabe konnte nicht geschrieben werden\n";
-        return kPlanFailed;
+        return tarvelin::kPlanFailed;
     }
     return code;
 }
@@ -322,7 +319,7 @@ int Start(const std::vector<std::string>& arguments) {
     } catch (const std::exception& error) {
         // The memory ran out, or the system failed in a way that nobody foresees.
         std::fprintf(stderr, "tarvelin-cli: %s\n", error.what());
-        return kPlanFailed;
+        return tarvelin::kPlanFailed;
     }
 }
 
