@@ -43,7 +43,7 @@ class FaultyFileSystem : public FileSystem {
     [[nodiscard]] bool IsPlainFolder(const std::filesystem::path& path) const override {
         return !Fails("IstSchlichterOrdner") && NativeFileSystem().IsPlainFolder(path);
     }
-    [[nodiscard]] bool CreateFolders(const std::filesystem::path& path) const override {
+    bool CreateFolders(const std::filesystem::path& path) const override {
         return !Fails("LegeOrdnerAn") && NativeFileSystem().CreateFolders(path);
     }
     [[nodiscard]] int Open(const std::filesystem::path& file) const override {

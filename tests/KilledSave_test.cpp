@@ -42,8 +42,8 @@ class KilledSave : public testing::Test {
         // Saved in turn over each other they give the same bytes each time.
         const std::array plans{PlanOf("GM GS GM GS"), PlanOf("GK GX:8:10:5 GD GD")};
         static_cast<void>(SaveBauliste(position / "plan.tvf", plans.at(which), system));
-        static_cast<void>(Configuration(position, system)
-                              .Write({{Configuration::kFirststart, std::to_string(which)}}));
+        Configuration(position, system)
+            .Write({{Configuration::kFirststart, std::to_string(which)}});
     }
 
     [[nodiscard]] std::pair<std::string, std::string> Bytes() const {

@@ -74,10 +74,7 @@ TEST_P(SaveFaults, ConfigurationHasAllNewValuesOrNone) {
     for (const auto& [key, value] : values) {
         fresh.WriteINI(key.Section, key.Key, value);
     }
-    Try(
-        [&](const FileSystem& system) {
-            static_cast<void>(Configuration(m_folder / "", system).Write(values));
-        },
+    Try([&](const FileSystem& system) { Configuration(m_folder / "", system).Write(values); },
         [&] {
             const std::string config = ReadFileToString(m_folder / "config.cfg");
             EXPECT_TRUE(config == kBefore || config == fresh.Bytes()) << config;

@@ -31,7 +31,7 @@ bool IsOrphaned(std::string_view name, const FileSystem& system) {
 void RemoveOrphans(const std::filesystem::path& folder, const FileSystem& system) {
     for (const auto& entry : system.Entries(folder)) {
         if (IsOrphaned(PathToUtf8(entry.filename()), system)) {
-            static_cast<void>(system.Remove(entry));
+            DeleteFile(entry, system);
         }
     }
 }
@@ -50,7 +50,7 @@ class TempFile {
     ~TempFile() {
         Close();
         if (m_exists) {
-            static_cast<void>(m_system.Remove(m_path));
+            DeleteFile(m_path, m_system);
         }
     }
 
@@ -108,7 +108,7 @@ bool WriteFileAtomically(const std::filesystem::path& file, std::string_view byt
         return false;
     }
     // The rename itself reaches the disk with its folder.
-    static_cast<void>(system.SyncFolder(folder));
+    system.SyncFolder(folder);
     return true;
 }
 

@@ -57,7 +57,7 @@ void Autosave::MarkWritten(const Plan& plan) {
 
 void Autosave::WriteIfChanged(const Plan& plan) {
     if (m_lastWritten != ToBytes(plan)) {
-        static_cast<void>(Write(plan));
+        Write(plan);
     }
 }
 
@@ -66,12 +66,12 @@ bool Autosave::Write(const Plan& plan) {
 }
 
 void Autosave::WriteAtExit(const Plan& plan) {
-    static_cast<void>(Write(plan, true));
+    Write(plan, true);
 }
 
 bool Autosave::Write(const Plan& plan, bool evenWithoutPrevious) {
     MarkWritten(plan);
-    static_cast<void>(m_system.CreateFolders(m_file.parent_path()));
+    m_system.CreateFolders(m_file.parent_path());
     const auto before = IniFile::LoadOrEmpty(m_file, m_system);
     if (!before) {
         return false;
@@ -96,7 +96,7 @@ void Autosave::KeepReplaced(const Plan& plan) const {
     if (plan.LV_Bauliste.Orders().IsEmpty() || (last && last->Bytes() == bytes)) {
         return;
     }
-    static_cast<void>(m_system.CreateFolders(m_file.parent_path()));
+    m_system.CreateFolders(m_file.parent_path());
     if (WriteFileAtomically(ReplacedPath(0), bytes, m_system)) {
         static_cast<void>(m_system.Rename(ReplacedPath(0), ReplacedPath(ShiftReplaced())));
     }

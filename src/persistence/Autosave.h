@@ -40,7 +40,7 @@ class Autosave {
     void WriteIfChanged(const Plan& plan);
 
     /// Writes the plan. False if it can't be written; the file is then as it was.
-    [[nodiscard]] bool Write(const Plan& plan);
+    bool Write(const Plan& plan);
 
     /// As `Write`, at the last chance: even if the former plan can't be kept.
     void WriteAtExit(const Plan& plan);
@@ -54,7 +54,7 @@ class Autosave {
     static constexpr std::size_t kReplaced = 5;
 
     [[nodiscard]] bool KeepPrevious(const IniFile& previous);
-    [[nodiscard]] bool Write(const Plan& plan, bool evenWithoutPrevious);
+    bool Write(const Plan& plan, bool evenWithoutPrevious);
     /// From 1, the last one, to `kReplaced`; 0 is the one that is just written.
     [[nodiscard]] std::filesystem::path ReplacedPath(std::size_t number) const;
     /// Makes room at the first place, or as near to it as can be. The place.

@@ -58,7 +58,7 @@ class Configuration {
     [[nodiscard]] std::filesystem::path Alertsound() const;
 
     /// Writes keys, all of them in one step. False, with nothing changed, if that fails.
-    [[nodiscard]] bool Write(const Values& values) const;
+    bool Write(const Values& values) const;
 
   private:
     std::filesystem::path m_programFolder;

@@ -26,13 +26,17 @@ std::optional<std::string> ReadFileToString(const std::filesystem::path& file, s
         parsed = system.Read(number, block);
         bytes.append(block.data(), static_cast<std::size_t>(parsed < 0 ? 0 : parsed));
     }
-    static_cast<void>(system.Close(number));
+    system.Close(number);
     return parsed == 0 ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 bool FileExists(const std::filesystem::path& File, const FileSystem& system) {
     const auto kind = system.KindOf(File);
     return kind && *kind != FileSystem::Kind::Nothing && *kind != FileSystem::Kind::TempFolder;
+}
+
+void DeleteFile(const std::filesystem::path& File, const FileSystem& files) {
+    files.Remove(File);
 }
 
 std::vector<std::string> GetSubfolders(const std::filesystem::path& Path,

@@ -38,7 +38,7 @@ class FileSystem {
     /// user of the platform would set for a folder apart.
     [[nodiscard]] virtual bool IsPlainFolder(const std::filesystem::path& path) const = 0;
     /// Makes a folder and those above it. Whether it is there afterwards.
-    [[nodiscard]] virtual bool CreateFolders(const std::filesystem::path& path) const = 0;
+    virtual bool CreateFolders(const std::filesystem::path& path) const = 0;
 
     /// Opens a file for reading.
     [[nodiscard]] virtual int Open(const std::filesystem::path& file) const = 0;
@@ -54,14 +54,14 @@ class FileSystem {
     /// Returns when the bytes lie on the disk.
     [[nodiscard]] virtual bool Sync(int number) const = 0;
     /// The number is free afterwards in any case.
-    [[nodiscard]] virtual bool Close(int number) const = 0;
+    virtual bool Close(int number) const = 0;
 
     /// In one step; a file with the new name gives way.
     [[nodiscard]] virtual bool Rename(const std::filesystem::path& from,
                                       const std::filesystem::path& target) const = 0;
     /// Brings the names in a folder to the disk, where the platform knows such a thing.
-    [[nodiscard]] virtual bool SyncFolder(const std::filesystem::path& folder) const = 0;
-    [[nodiscard]] virtual bool Remove(const std::filesystem::path& file) const = 0;
+    virtual bool SyncFolder(const std::filesystem::path& folder) const = 0;
+    virtual bool Remove(const std::filesystem::path& file) const = 0;
 
     /// The number of this process.
     [[nodiscard]] virtual std::int64_t ProcessId() const = 0;
@@ -80,6 +80,9 @@ class FileSystem {
 /// Whether an existing file, not a folder, has this name.
 [[nodiscard]] bool FileExists(const std::filesystem::path& File,
                               const FileSystem& system = NativeFileSystem());
+
+/// Deletes a file if that can be done.
+void DeleteFile(const std::filesystem::path& File, const FileSystem& files);
 
 /// The names of the plain subfolders of a folder, sorted. A folder without any, or one that can't
 /// be listed, gives one empty name.

@@ -61,7 +61,7 @@ class PosixFileSystem final : public FileSystem {
         return fs::symlink_status(path, error).type() == fs::file_type::directory &&
                !path.filename().native().starts_with('.');
     }
-    [[nodiscard]] bool CreateFolders(const fs::path& path) const override {
+    bool CreateFolders(const fs::path& path) const override {
         std::error_code error;
         fs::create_directories(path, error);
         return KindOf(path) == Kind::TempFolder;

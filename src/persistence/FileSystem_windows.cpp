@@ -161,7 +161,7 @@ class WindowsFileSystem final : public FileSystem {
         return attribute != INVALID_FILE_ATTRIBUTES &&
                (attribute & (FILE_ATTRIBUTE_DIRECTORY | kSpecial)) == FILE_ATTRIBUTE_DIRECTORY;
     }
-    [[nodiscard]] bool CreateFolders(const fs::path& path) const override {
+    bool CreateFolders(const fs::path& path) const override {
         if (KindOf(path) != Kind::TempFolder && path.has_relative_path() &&
             CreateFolders(path.parent_path())) {
             ::CreateDirectoryW(Readable(path).c_str(), nullptr);
@@ -171,10 +171,10 @@ class WindowsFileSystem final : public FileSystem {
 
     [[nodiscard]] int Open(const fs::path& file) const override {
         int number = -1;
-        static_cast<void>(Patiently([&] {
+        Patiently([&] {
             number = ::_wopen(Readable(file).c_str(), _O_RDONLY | _O_BINARY | _O_NOINHERIT);
             return number >= 0 ? DWORD{ERROR_SUCCESS} : DWORD{_doserrno};
-        }));
+        });
         return number;
     }
     [[nodiscard]] int Create(const fs::path& file) const override {

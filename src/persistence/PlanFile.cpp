@@ -133,8 +133,7 @@ class PlanReader {
                                                    std::int64_t until) {
         const auto number = ParseWholeNumber(m_profile.ReadINI(section, key, ""), 0, until);
         if (!number) {
-            static_cast<void>(
-                Fail(section, key, "ist keine Zahl von 0 bis " + std::to_string(until)));
+            Fail(section, key, "ist keine Zahl von 0 bis " + std::to_string(until));
         }
         return number;
     }

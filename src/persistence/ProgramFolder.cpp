@@ -72,7 +72,7 @@ std::vector<fs::path> ProgramFolder::ReadOnlyPaths(bool heldByOther) const {
 
 fs::path PlanFolder(const fs::path& programFolder, const FileSystem& system) {
     fs::path folder = programFolder / "saves";
-    static_cast<void>(system.CreateFolders(folder));
+    system.CreateFolders(folder);
     while (system.KindOf(folder) != FileSystem::Kind::TempFolder && folder.has_relative_path()) {
         folder = folder.parent_path();
     }

@@ -23,7 +23,7 @@ class ProtectedFileSystem final : public FileSystem {
     [[nodiscard]] int Create(const std::filesystem::path& file) const override {
         return IsProtected(file) ? -1 : m_system.Create(file);
     }
-    [[nodiscard]] bool CreateFolders(const std::filesystem::path& path) const override {
+    bool CreateFolders(const std::filesystem::path& path) const override {
         return !IsProtected(path) && m_system.CreateFolders(path);
     }
     [[nodiscard]] bool Rename(const std::filesystem::path& from,

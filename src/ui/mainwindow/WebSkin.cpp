@@ -85,7 +85,7 @@ namespace {
 bool FetchFile(const std::string& address, const std::filesystem::path& file,
                const Environment& environment) {
     if (FileExists(file, environment.files)) {
-        static_cast<void>(environment.files.Remove(file));
+        DeleteFile(file, environment.files);
     }
     if (const auto bytes = environment.fetcher.Fetch(address)) {
         static_cast<void>(WriteFileAtomically(file, *bytes, environment.files));

@@ -51,7 +51,7 @@ bool frmMain::OpenPlanArgument() {
     if (m_saved) {
         m_autosave.MarkStoredInFile(m_plan);
     }
-    static_cast<void>(m_autosave.Write(m_plan));
+    m_autosave.Write(m_plan);
     return true;
 }
 
@@ -70,9 +70,9 @@ void frmMain::OpenFirstPlan() {
     const bool kept = !loaded || again || m_autosave.Write(m_plan);
     m_autosave.MarkWritten(m_plan);
     if (firstStart && kept) {
-        static_cast<void>(m_environment.files.Remove(starterPlan));
+        DeleteFile(starterPlan, m_environment.files);
         m_saved.reset();
-        static_cast<void>(m_configuration.Write({{Configuration::kFirststart, "0"}}));
+        m_configuration.Write({{Configuration::kFirststart, "0"}});
     }
 }
 
@@ -115,12 +115,12 @@ bool frmMain::RecoverPlan(const std::optional<IniFile>& last) {
         return false;
     }
     if (always) {
-        static_cast<void>(m_configuration.Write({{Configuration::kAlwaysDoSo, "1"}}));
+        m_configuration.Write({{Configuration::kAlwaysDoSo, "1"}});
     }
     if (yes) {
         LoadLastPlan(last);
     }
-    static_cast<void>(m_configuration.Write({{Configuration::kRecover, yes ? "1" : "0"}}));
+    m_configuration.Write({{Configuration::kRecover, yes ? "1" : "0"}});
     return yes;
 }
 
@@ -180,7 +180,7 @@ void frmMain::Persist(Phase phase) {
         const auto geometry = m_workbench->GeometryValues();
         values.insert(values.end(), geometry.begin(), geometry.end());
     }
-    static_cast<void>(m_configuration.Write(values));
+    m_configuration.Write(values);
     if (withPlan) {
         m_autosave.WriteAtExit(m_plan);
     }
