@@ -46,7 +46,9 @@ Fra_Einstellungen::Fra_Einstellungen(Plan& plan, QWidget* parent)
     layout->addWidget(NewDescriptions());
     layout->addWidget(NewSpeedfaktor());
     layout->addStretch();
-    layout->addWidget(NewHideButton(QStringLiteral("Cmd_HideEinstellungen")));
+    QPushButton* const close = NewHideButton(QStringLiteral("Cmd_HideEinstellungen"));
+    connect(close, &QPushButton::clicked, this, &QWidget::hide);
+    layout->addWidget(close);
     SetFirstControl(m_txt_TempMin);
     Refresh();
     RefreshWeekday();
@@ -146,17 +148,20 @@ QWidget* Fra_Einstellungen::NewKlickPuffer() {
     constexpr int kLargeStep = 10;
     m_HSC_KlickPuffer->setPageStep(kLargeStep);
     m_LBL_KlickPuffer = NewLabel(QStringLiteral("LBL_KlickPuffer"), {}, group);
-    connect(m_HSC_KlickPuffer, &QSlider::valueChanged, this, [this](int seconds) {
-        m_LBL_KlickPuffer->setText(ToQString(KlickPufferText(seconds)));
-        // The program moves it to where the plan is already.
-        if (m_plan.parameters.KlickPuffer != seconds) {
-            m_plan.parameters.KlickPuffer = seconds;
-            emit Edited(m_HSC_KlickPuffer->objectName());
-        }
-    });
+    connect(m_HSC_KlickPuffer, &QSlider::valueChanged, this,
+            &Fra_Einstellungen::HSC_KlickPuffer_Change);
     row->addWidget(m_HSC_KlickPuffer);
     row->addWidget(m_LBL_KlickPuffer);
     return group;
+}
+
+void Fra_Einstellungen::HSC_KlickPuffer_Change(int position) {
+    m_LBL_KlickPuffer->setText(ToQString(KlickPufferText(position)));
+    // `Refresh` moves the slider to what the plan already has: no edit.
+    if (m_plan.parameters.KlickPuffer != position) {
+        m_plan.parameters.KlickPuffer = position;
+        emit Edited(m_HSC_KlickPuffer->objectName());
+    }
 }
 
 QWidget* Fra_Einstellungen::NewDescriptions() {

@@ -37,6 +37,8 @@ class Fra_Einstellungen : public Panel {
     TextInput* NewStartTimeInput(const char* name, const char* accessibleName, int limit, int width,
                                  std::string StartParameters::*value);
 
+    /// `position` in seconds.
+    void HSC_KlickPuffer_Change(int position);
     void ShowTemperatures();
     void RefreshShowDesc();
 

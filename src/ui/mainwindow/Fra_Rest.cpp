@@ -91,6 +91,10 @@ std::vector<ItemTile> Fra_Rest::AddItemGroups() {
 
 void Fra_Rest::ShowList() {
     m_Frame8->ShowList();
+    RefreshStufenLabels();
+}
+
+void Fra_Rest::RefreshStufenLabels() {
     for (const ItemTile& tile : m_tiles) {
         tile.level->setNum(m_list.Orders().ListStufe(tile.item));
     }

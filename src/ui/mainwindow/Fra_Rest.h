@@ -19,7 +19,7 @@ class Fra_Rest : public QWidget {
     /// Shows `list` and `run`, which must outlive the surface.
     Fra_Rest(const BuildList& list, const LastRun& run, QWidget* parent);
 
-    /// The rows of the list and the levels over the pictures.
+    /// After a change of the list: its rows, and the levels over the pictures.
     void ShowList();
     void ScrollToLast() { m_Frame8->ScrollToLast(); }
     void ShowSchedule() { m_Frame6->ShowSchedule(); }
@@ -51,6 +51,7 @@ class Fra_Rest : public QWidget {
 
   private:
     std::vector<ItemTile> AddItemGroups();
+    void RefreshStufenLabels();
 
     const BuildList& m_list;
     BuildListGroup* m_Frame8;

@@ -47,6 +47,7 @@ void Fra_Skin::Arrange() {
     // The lowest panel has room for three low lines.
     constexpr int kLineHeight = 16;
     QPushButton* const close = NewHideButton(QStringLiteral("Cmd_HideSchlafzeiten"));
+    connect(close, &QPushButton::clicked, this, &QWidget::hide);
     for (QWidget* const part :
          std::initializer_list<QWidget*>{m_Opt_Standard, m_Opt_Lokal, m_Opt_Web, m_LBL_Skin,
                                          Comb_Skins, txt_Pfad, Cmd_ApplySkin, close}) {

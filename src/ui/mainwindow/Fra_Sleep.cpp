@@ -130,6 +130,7 @@ void Fra_Sleep::Arrange() {
     QPushButton* const clear =
         NewTableButton("Cmd_ClearSchlafzeiten", "Clear", &Fra_Sleep::Cmd_ClearSchlafzeiten_Click);
     QPushButton* const close = NewHideButton(QStringLiteral("Cmd_HideSleep"));
+    connect(close, &QPushButton::clicked, this, &Fra_Sleep::Cmd_HideSleep_Click);
     auto* const buttons = new QHBoxLayout;
     buttons->setSpacing(3);
     buttons->addWidget(remove);
@@ -206,6 +207,10 @@ void Fra_Sleep::Cmd_ClearSchlafzeiten_Click() {
         Refresh();
         emit Edited();
     }
+}
+
+void Fra_Sleep::Cmd_HideSleep_Click() {
+    hide();
 }
 
 }  // namespace tarvelin

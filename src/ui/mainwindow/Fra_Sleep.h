@@ -40,6 +40,7 @@ class Fra_Sleep : public Panel {
     void Cmd_AddSchlafzeit_Click();
     void Cmd_RemoveSchlafzeit_Click();
     void Cmd_ClearSchlafzeiten_Click();
+    void Cmd_HideSleep_Click();
 
     SleepTable& m_table;
     const Environment& m_environment;

@@ -10,15 +10,14 @@ namespace {
 struct FactorSlider {
     const char* name;
     const char* label;
-    /// In front of the percentage.
-    const char* text;
+    const char* mine;
 };
 
-constexpr std::array<FactorSlider, 3> kSliders{{
-    {"HSC_MetFaktor", "LBL_MetFaktor", "Metallmine: "},
-    {"HSC_Krisfaktor", "LBL_Krisfaktor", "Kristallmine: "},
-    {"HSC_Deutfaktor", "LBL_Deutfaktor", "Deutmine: "},
-}};
+constexpr PerResource<FactorSlider> kSliders{{{
+    {"HSC_MetFaktor", "LBL_MetFaktor", "Metallmine"},
+    {"HSC_Krisfaktor", "LBL_Krisfaktor", "Kristallmine"},
+    {"HSC_Deutfaktor", "LBL_Deutfaktor", "Deutmine"},
+}}};
 
 }  // namespace
 
@@ -27,48 +26,78 @@ Fra_Special::Fra_Special(QWidget* parent)
             parent),
       Cmd_AddProdaenderungsevent(NewButton(QStringLiteral("Cmd_AddProdaenderungsevent"),
                                            QStringLiteral("Add Event"), this)) {
+    QWidget* const sliders = NewFactorSliders();
+    QPushButton* const close = NewHideButton(QStringLiteral("Cmd_HideFraSpecial"));
+    connect(close, &QPushButton::clicked, this, &Fra_Special::Cmd_HideFraSpecial_Click);
+    auto* const layout = new QGridLayout(this);
+    layout->setContentsMargins(4, 1, 4, 3);
+    layout->setSpacing(3);
+    layout->addWidget(sliders, 0, 0, 1, 2);
+    layout->addWidget(Cmd_AddProdaenderungsevent, 1, 0);
+    layout->addWidget(close, 1, 1);
+    ChainTabOrder({m_sliders[Resource::Metall], m_sliders[Resource::Kristall],
+                   m_sliders[Resource::Deuterium], Cmd_AddProdaenderungsevent, close});
+    SetFirstControl(m_sliders[Resource::Metall]);
+    hide();
+}
+
+QWidget* Fra_Special::NewFactorSliders() {
     auto* const group =
         new GroupBox({}, QStringLiteral("Minen-Produktionsfaktor-Änderungen:"), this);
     auto* const rows = new QGridLayout(group);
     rows->setContentsMargins(4, 1, 4, 1);
     rows->setSpacing(1);
     rows->setHorizontalSpacing(6);
-    for (std::size_t i = 0; i < kSliders.size(); ++i) {
-        const QString text = QString::fromLatin1(kSliders[i].text);
-        QSlider* const slider =
-            NewSlider(QString::fromLatin1(kSliders[i].name),
-                      text.chopped(2) + QStringLiteral(" in Zehnteln"), kFullFactor, group);
-        QLabel* const label = NewLabel(QString::fromLatin1(kSliders[i].label), {}, group);
-        const auto show = [label, text](int position) {
-            label->setText(text + QString::number(10 * position) + QStringLiteral("%"));
-        };
-        connect(slider, &QSlider::valueChanged, label, show);
+    for (const auto& [mine, handler] :
+         {std::pair(Resource::Metall, &Fra_Special::HSC_MetFaktor_Change),
+          std::pair(Resource::Kristall, &Fra_Special::HSC_Krisfaktor_Change),
+          std::pair(Resource::Deuterium, &Fra_Special::HSC_Deutfaktor_Change)}) {
+        const FactorSlider& texts = kSliders[mine];
+        QSlider* const slider = NewSlider(
+            QString::fromLatin1(texts.name),
+            QString::fromLatin1(texts.mine) + QStringLiteral(" in Zehnteln"), kFullFactor, group);
+        QLabel* const label = NewLabel(QString::fromLatin1(texts.label), {}, group);
+        m_sliders[mine] = slider;
+        m_labels[mine] = label;
+        connect(slider, &QSlider::valueChanged, this, handler);
         slider->setPageStep(1);
         slider->setValue(kFullFactor);
+        // 100% is the widest text.
         label->setFixedWidth(label->sizeHint().width());
-        const auto row = static_cast<int>(i);
+        const auto row = static_cast<int>(IndexOf(mine));
         rows->addWidget(label, row, 0);
         rows->addWidget(slider, row, 1);
-        m_slider[i] = slider;
     }
-    QPushButton* const close = NewHideButton(QStringLiteral("Cmd_HideFraSpecial"));
-    auto* const layout = new QGridLayout(this);
-    layout->setContentsMargins(4, 1, 4, 3);
-    layout->setSpacing(3);
-    layout->addWidget(group, 0, 0, 1, 2);
-    layout->addWidget(Cmd_AddProdaenderungsevent, 1, 0);
-    layout->addWidget(close, 1, 1);
-    ChainTabOrder({m_slider[0], m_slider[1], m_slider[2], Cmd_AddProdaenderungsevent, close});
-    SetFirstControl(m_slider.front());
-    hide();
+    return group;
 }
 
 MineFactors Fra_Special::Factors() const {
     MineFactors factors{};
-    for (std::size_t i = 0; i < factors.size(); ++i) {
-        factors[i] = static_cast<Byte>(m_slider[i]->value());
+    for (const Resource mine : kResources) {
+        factors[mine] = static_cast<Byte>(m_sliders[mine]->value());
     }
     return factors;
+}
+
+void Fra_Special::HSC_MetFaktor_Change(int position) {
+    ShowFactor(Resource::Metall, position);
+}
+
+void Fra_Special::HSC_Krisfaktor_Change(int position) {
+    ShowFactor(Resource::Kristall, position);
+}
+
+void Fra_Special::HSC_Deutfaktor_Change(int position) {
+    ShowFactor(Resource::Deuterium, position);
+}
+
+void Fra_Special::ShowFactor(Resource mine, int position) {
+    m_labels[mine]->setText(
+        QStringLiteral("%1: %2%").arg(QString::fromLatin1(kSliders[mine].mine)).arg(10 * position));
+}
+
+void Fra_Special::Cmd_HideFraSpecial_Click() {
+    hide();
 }
 
 }  // namespace tarvelin

@@ -1,8 +1,6 @@
 // The panel "Special-Events:": rows that turn the mines up or down.
 #pragma once
 
-#include <array>
-
 #include "plan/Order.h"
 #include "ui/widgets/Panel.h"
 
@@ -20,8 +18,16 @@ class Fra_Special : public Panel {
     QPushButton* const Cmd_AddProdaenderungsevent;
 
   private:
-    /// Metal, crystal, deuterium.
-    std::array<QSlider*, 3> m_slider{};
+    QWidget* NewFactorSliders();
+    void HSC_MetFaktor_Change(int position);
+    void HSC_Krisfaktor_Change(int position);
+    void HSC_Deutfaktor_Change(int position);
+    void Cmd_HideFraSpecial_Click();
+    /// `position` in tenths.
+    void ShowFactor(Resource mine, int position);
+
+    PerResource<QSlider*> m_sliders{};
+    PerResource<QLabel*> m_labels{};
 };
 
 }  // namespace tarvelin

@@ -41,7 +41,6 @@ QPushButton* Panel::NewHideButton(const QString& name) {
                        " border-radius: 3px; }"
                        "QPushButton:focus { border: 2px solid black; }"
                        "QPushButton:pressed { background: rgb(200, 0, 0); }"));
-    connect(button, &QPushButton::clicked, this, &QWidget::hide);
     return button;
 }
 

@@ -19,7 +19,7 @@ class Panel : public GroupBox {
   protected:
     void paintEvent(QPaintEvent* event) override;
     void SetFirstControl(QWidget* control) { m_first = control; }
-    /// The button "Hide", which hides the panel.
+    /// The button "Hide"; the panel connects it.
     [[nodiscard]] QPushButton* NewHideButton(const QString& name);
 
   private:
