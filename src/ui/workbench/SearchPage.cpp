@@ -7,7 +7,6 @@
 #include <limits>
 #include <utility>
 
-#include "persistence/PlanFile.h"
 #include "search/SearchTexts.h"
 #include "simulation/RunTexts.h"
 #include "simulation/RunTrace.h"
@@ -35,12 +34,6 @@ QPushButton* NewSearchButton(const char* name, const char* text, QWidget* parent
     auto* const button = new QPushButton(QString::fromUtf8(text), parent);
     button->setObjectName(QString::fromLatin1(name));
     return button;
-}
-
-std::string Bytes(const Plan& plan) {
-    IniFile profile("");
-    WritePlan(plan, profile);
-    return profile.Bytes();
 }
 
 OrderList ListFrom(const std::vector<Order>& orders) {
@@ -275,7 +268,7 @@ std::string SearchPage::ReportText() const {
 }
 
 void SearchPage::AcceptResult() {
-    if (Bytes(m_plan) != Bytes(m_wanted->before) &&
+    if (SnapshotOf(m_plan) != SnapshotOf(m_wanted->before) &&
         !m_environment.dialogs.Ask({.text =
                                         "Der Plan wurde seit dem Beginn der Suche geändert. Soll "
                                         "der gefundene trotzdem an seine Stelle treten?",
