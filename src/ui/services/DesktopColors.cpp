@@ -11,11 +11,6 @@ namespace tarvelin {
 
 namespace {
 
-bool IsDark(const QPalette& palette) {
-    return palette.color(QPalette::Window).lightness() <
-           palette.color(QPalette::WindowText).lightness();
-}
-
 /// For a desktop that asks for dark windows and has no theme for the toolkit.
 QPalette DarkPalette() {
     const QColor background(53, 53, 53);
@@ -37,6 +32,11 @@ QPalette DarkPalette() {
 }
 
 }  // namespace
+
+bool IsDark(const QPalette& palette) {
+    return palette.color(QPalette::Window).lightness() <
+           palette.color(QPalette::WindowText).lightness();
+}
 
 DesktopColors::DesktopColors(QPalette ofTheme) : m_ofTheme(std::move(ofTheme)) {
     WatchColorScheme(this, [this](bool dark) { Prefer(dark); });

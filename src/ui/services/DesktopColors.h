@@ -6,6 +6,9 @@
 
 namespace tarvelin {
 
+/// Whether windows in these colors are darker than the text on them.
+[[nodiscard]] bool IsDark(const QPalette& palette);
+
 /// Follows what the desktop's theme gives the program at its start, and what the user has asked all
 /// programs for in the settings of his desktop. At a change every window gets a
 /// `QEvent::ThemeChange`.

@@ -1,6 +1,8 @@
 // The two sets of colours.
 #include "ui/workbench/TimelineColors.h"
 
+#include "ui/services/DesktopColors.h"
+
 namespace tarvelin {
 
 namespace {
@@ -17,11 +19,6 @@ QColor Translucent(QColor color, int opacity) {
 }
 
 }  // namespace
-
-bool IsDark(const QPalette& palette) {
-    constexpr int kMiddle = 128;
-    return palette.color(QPalette::Window).lightness() < kMiddle;
-}
 
 TimelineColors::TimelineColors(const QPalette& palette)
     : background(palette.color(QPalette::Base)),

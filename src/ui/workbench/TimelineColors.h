@@ -10,8 +10,6 @@
 
 namespace tarvelin {
 
-[[nodiscard]] bool IsDark(const QPalette& palette);
-
 /// What the timeline is drawn with.
 struct TimelineColors {
     QColor background;
