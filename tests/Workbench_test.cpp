@@ -49,6 +49,10 @@ class WorkbenchWindow : public MainWindow {
         }
         return text;
     }
+    /// Where a moment stands in the viewport.
+    static int ColumnOf(const TimelineView& timeline, SimTime moment) {
+        return timeline.mapFromScene(QPointF(moment.Seconds(), 0)).x();
+    }
     void Grab(const std::vector<std::size_t>& rows) {
         Page<OrderListView>("LV_Werkbank").Choose(rows);
     }
@@ -295,7 +299,7 @@ TEST_F(WorkbenchWindow, ShowsThePlanAsAPicture) {
     EXPECT_EQ(Says("LBL_Naechster"), "Als Nächstes: Solarkraftwerk 1 um 12:34:56, in 00:01:56");
     const auto click = [&](Long second, int y) {
         QTest::mouseClick(timeline.viewport(), Qt::LeftButton, {},
-                          QPoint(timeline.ColumnOf(SimTime(second)), y));
+                          QPoint(ColumnOf(timeline, SimTime(second)), y));
         return Page<OrderListView>("LV_Werkbank").ChosenRows();
     };
     const int buildLane = 2 * timeline.fontMetrics().height();
@@ -304,10 +308,10 @@ TEST_F(WorkbenchWindow, ShowsThePlanAsAPicture) {
     // Its colour tells the queue, the frame the choice.
     const QImage picture = timeline.viewport()->grab().toImage();
     const TimelineColors colors(m_workbench->palette());
-    EXPECT_EQ(picture.pixelColor(timeline.ColumnOf(SimTime(60)), buildLane),
+    EXPECT_EQ(picture.pixelColor(ColumnOf(timeline, SimTime(60)), buildLane),
               colors.bars[Queue::Building]);
     // The wheel keeps the moment below the pointer.
-    const QPoint position(timeline.ColumnOf(SimTime(300)), 20);
+    const QPoint position(ColumnOf(timeline, SimTime(300)), 20);
     for (int i = 0; i < 8; ++i) {
         QWheelEvent wheel(position, timeline.viewport()->mapToGlobal(position), {}, {0, 120}, {},
                           {}, Qt::NoScrollPhase, false);
@@ -315,16 +319,16 @@ TEST_F(WorkbenchWindow, ShowsThePlanAsAPicture) {
         QCoreApplication::sendEvent(timeline.viewport(), &wheel);
         EXPECT_NEAR(timeline.mapFromScene(QPointF(below, 0)).x(), position.x(), 1);
     }
-    EXPECT_GT(timeline.ColumnOf(SimTime(310)) - timeline.ColumnOf(SimTime(300)), 20);
+    EXPECT_GT(ColumnOf(timeline, SimTime(310)) - ColumnOf(timeline, SimTime(300)), 20);
     MoveMouse(*timeline.viewport(), position);
     EXPECT_EQ(Says("LBL_Stand").substr(0, 18), "Sa 18.11. 12:35:00");
     EXPECT_NE(Says("LBL_Stand").find("Metallmine 2"), std::string::npos);
     Grab({4});
-    const int start = timeline.ColumnOf(
-        SimTime(*ParseDateTime("18.11.2006 12:38:53") - *ParseDateTime("18.11.2006 12:30:00")));
+    const int start = ColumnOf(timeline, SimTime(*ParseDateTime("18.11.2006 12:38:53") -
+                                                 *ParseDateTime("18.11.2006 12:30:00")));
     EXPECT_TRUE(start >= 0 && start < timeline.viewport()->width()) << "brought to sight";
     QTest::mouseDClick(timeline.viewport(), Qt::LeftButton, {}, position);
-    EXPECT_EQ(timeline.ColumnOf(SimTime()), 0);
+    EXPECT_EQ(ColumnOf(timeline, SimTime()), 0);
     // By keys: from start to start, and the row there.
     timeline.setFocus();
     for (const auto key :
@@ -356,7 +360,7 @@ TEST_F(WorkbenchWindow, SavesThePicture) {
     const QImage png = QImage::fromData(QByteArray::fromStdString(save("bild.png")));
     auto& timeline = Page<TimelineView>("Zeitleiste");
     EXPECT_EQ(png.size(), 2 * timeline.viewport()->size());
-    const QPoint bar(timeline.ColumnOf(SimTime(60)), 2 * timeline.fontMetrics().height());
+    const QPoint bar(ColumnOf(timeline, SimTime(60)), 2 * timeline.fontMetrics().height());
     EXPECT_EQ(png.pixelColor(2 * bar), timeline.viewport()->grab().toImage().pixelColor(bar));
     EXPECT_EQ(save("bild.txt"), "");
     EXPECT_NE(Says("LBL_Meldung").find("oder .pdf"), std::string::npos);

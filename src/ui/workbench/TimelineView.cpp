@@ -92,10 +92,6 @@ void TimelineView::SetNow(DateTime now) {
     viewport()->update();
 }
 
-int TimelineView::ColumnOf(SimTime moment) const {
-    return mapFromScene(QPointF(moment.Seconds(), 0)).x();
-}
-
 qreal TimelineView::MinScale() const {
     constexpr int kMargin = 4;
     return std::max(1, viewport()->width() - kMargin) / m_graphic->EndSecond();

@@ -36,8 +36,6 @@ class TimelineView : public QGraphicsView {
     void PaintOn(QPainter& painter, const QRectF& rect);
     /// What a lack is written in.
     [[nodiscard]] const QColor& DeficitColor() const { return m_graphic->Colors().energyDeficit; }
-    /// The pixel column of a moment, in the viewport.
-    [[nodiscard]] int ColumnOf(SimTime moment) const;
 
   signals:
     /// The moment below the cursor; none when the pointer has left.
