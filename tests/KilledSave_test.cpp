@@ -10,7 +10,7 @@
 namespace tarvelin {
 namespace {
 
-constexpr const char* kWhen = "TARVELIN_TOD";
+constexpr const char* kWhen = "TARVELIN_KILL_AT";
 constexpr int kDead = 99;
 
 /// Ends its process at the n-th call, on the spot: nothing of ours is done any more.

@@ -1,4 +1,4 @@
-// The laws of every plan, tried on random ones. TARVELIN_SAAT sets the first seed, TARVELIN_PLAENE
+// The laws of every plan, tried on random ones. TARVELIN_SEED sets the first seed, TARVELIN_PLANS
 // how many follow it.
 #include <cstdlib>
 #include <random>
@@ -64,8 +64,8 @@ class PlanGenerator {
 
 class PlanLaws : public testing::Test {
   protected:
-    const unsigned first = FromEnvironment("TARVELIN_SAAT", 2006);
-    const unsigned plans = FromEnvironment("TARVELIN_PLAENE", 150);
+    const unsigned first = FromEnvironment("TARVELIN_SEED", 2006);
+    const unsigned plans = FromEnvironment("TARVELIN_PLANS", 150);
 };
 
 TEST_F(PlanLaws, HoldForEveryPlan) {

@@ -50,7 +50,7 @@ void ApplyAppearance(QApplication& program) {
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setPalette(LightPalette());
     // Those that the program itself brings along, for a system that has them not.
-    for (const QFileInfo& file : QDir(QStringLiteral(":/schriften")).entryInfoList()) {
+    for (const QFileInfo& file : QDir(QStringLiteral(":/fonts")).entryInfoList()) {
         QFontDatabase::addApplicationFont(file.filePath());
     }
     QFont font;
