@@ -119,7 +119,7 @@ TEST(Console, ExplainsItselfAndWrongCalls) {
 const std::string kStarterPlan =
     Quoted(std::filesystem::path(TARVELIN_SOURCE_DIR) / "data" / "saves" / "basic.tvf");
 
-TEST(Console, PutsPlansSideBySide) {
+TEST(Console, ComparesPlans) {
     using nlohmann::json;
     const TempFolder folder;
     const CallResult call = Call(folder, "--json --vergleich " + kPlan + " " + kStarterPlan);

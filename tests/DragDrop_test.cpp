@@ -8,7 +8,7 @@ namespace {
 
 using DragDrop = MainWindow;
 
-TEST_F(DragDrop, FromThePictureIntoTheList) {
+TEST_F(DragDrop, DragsAPictureIntoTheList) {
     // The screen of this platform is tiny.
     m_window.setFixedSize(frmMain::SizeOn({2000, 2000}));
     Find("Fra_Einstellungen").hide();

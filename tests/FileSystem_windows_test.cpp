@@ -34,7 +34,7 @@ class FileHolder {
     HANDLE m_handle;
 };
 
-TEST(WindowsFileSystem, WaitsForWhoHoldsAFile) {
+TEST(WindowsFileSystem, WaitsForFilesInUse) {
     const TempFolder folder;
     const auto file = folder / "plan.tvf";
     for (const DWORD leave : {DWORD{FILE_SHARE_READ}, DWORD{0}}) {
@@ -59,7 +59,7 @@ TEST(WindowsFileSystem, WaitsForWhoHoldsAFile) {
     }
 }
 
-TEST(WindowsFileSystem, ShowsPlainFolders) {
+TEST(WindowsFileSystem, ListsPlainFolders) {
     const TempFolder folder;
     struct Case {
         const wchar_t* name;

@@ -21,7 +21,7 @@ std::vector<std::string> Plans() {
 
 class Golden : public testing::TestWithParam<std::string> {};
 
-TEST_P(Golden, GivesTheExpectedFieldByField) {
+TEST_P(Golden, MatchesFieldByField) {
     const auto file = std::filesystem::path(TARVELIN_GOLDEN) / (GetParam() + ".tvf");
     const auto actual = nlohmann::json::parse(JsonText(PlanRun(file)));
     auto json = file;

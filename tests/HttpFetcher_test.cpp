@@ -93,7 +93,7 @@ std::string Redirect(const std::string& target) {
 
 constexpr const char* kPieces = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
 
-TEST(HttpFetcher, FetchesOnlyWhatIsWholeAndGood) {
+TEST(HttpFetcher, FetchesOnlyCompleteFiles) {
     Server server;
     HttpFetcher fetcher;
     const std::string bytes("a\0b\xff\r\n", 6);
@@ -131,7 +131,7 @@ TEST(HttpFetcher, FetchesOnlyWhatIsWholeAndGood) {
 }
 
 // Whether a close or a reset follows, at each byte of it.
-TEST(HttpFetcher, TakesNothingCutOff) {
+TEST(HttpFetcher, RefusesWhatIsCutOff) {
     Server server;
     HttpFetcher fetcher;
     struct Case {
@@ -189,7 +189,7 @@ TEST(HttpFetcher, KeepsLimitsOfTimeAndSize) {
     EXPECT_EQ(shortFetcher.Fetch(server.Address("/tropfen")), std::nullopt);
 }
 
-TEST(HttpFetcher, InputsGoNowhereAndTheEndIsClean) {
+TEST(HttpFetcher, SwallowsInputWhileItWaits) {
     Server server;
     HttpFetcher fetcher;
     QPushButton button(QStringLiteral("Knopf"));

@@ -58,7 +58,7 @@ struct WriteCase {
     std::string after;
 };
 
-TEST(IniFile, WritesAndLeavesAllElse) {
+TEST(IniFile, WritesAndKeepsEverythingElse) {
     const std::vector<WriteCase> cases{
         {"leer", "", "[A]\r\nK=v\r\n"},
         {"nur Marke", "\xEF\xBB\xBF", "\xEF\xBB\xBF[A]\r\nK=v\r\n"},

@@ -424,7 +424,7 @@ TEST_F(MainWindow, DateMessageShowsThePaddedDay) {
     EXPECT_EQ(m_dialogs.texts.size(), 1U);
 }
 
-TEST_F(MainWindow, KlickPufferSpeedfaktorAndDescriptions) {
+TEST_F(MainWindow, KlickPufferSpeedfaktorAndDescriptionsTakeEffect) {
     auto& buffer = Find<QSlider>("HSC_KlickPuffer");
     QTest::keyClick(&buffer, Qt::Key_PageUp);
     EXPECT_EQ(TextOf("LBL_KlickPuffer"), "00:15");
@@ -443,7 +443,7 @@ TEST_F(MainWindow, KlickPufferSpeedfaktorAndDescriptions) {
     EXPECT_TRUE(Find("LBLDesc(0)").isVisible() && Find("LBLDesc(19)").isVisible());
 }
 
-TEST_F(MainWindow, SleepWindows) {
+TEST_F(MainWindow, SleepWindowsAreAddedAndRemoved) {
     Choose("mnuSleep");
     EXPECT_EQ(TextOf("LBL_Schlafendzeit"), "Sa.  18.11.2006 23:30");
     Press("Cmd_RemoveSchlafzeit");
@@ -628,7 +628,7 @@ TEST_F(MainWindow, EnterPressesAButtonEverywhere) {
 }
 
 // A button that was clicked keeps the focus, but not Enter.
-TEST_F(MainWindow, MouseGivesEnterBack) {
+TEST_F(MainWindow, MousePressGivesEnterBack) {
     const auto enter = [&] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); };
     const auto tabTo = [&](const char* name) {
         constexpr int kLongest = 200;
@@ -663,7 +663,7 @@ TEST_F(MainWindow, MouseGivesEnterBack) {
     EXPECT_EQ(RowCount("LV_Bauliste"), 0);
 }
 
-TEST_F(MainWindow, TabReachesAllInOrderAndAllHasAName) {
+TEST_F(MainWindow, TabReachesEverythingInOrderAndEverythingHasAName) {
     for (const char* const field : kPanels) {
         Find(field).show();
     }

@@ -68,7 +68,7 @@ TEST(Configuration, UnusableValuesCountAsTheDefault) {
     }
 }
 
-TEST(Configuration, SoundFromTheProgramFolderOrAWholePath) {
+TEST(Configuration, SoundIsInTheProgramFolderOrAtAnAbsolutePath) {
     const TempFolder folder;
     const Configuration configuration(folder / "");
     EXPECT_EQ(configuration.Alertsound(), folder / "mfx/alert.wav");
@@ -96,7 +96,7 @@ TEST(Configuration, SoundFromTheProgramFolderOrAWholePath) {
     }
 }
 
-TEST(Configuration, WritesBesideForeignLinesAndGoesWithoutAFolder) {
+TEST(Configuration, KeepsForeignLinesAndWorksWithoutAFolder) {
     const TempFolder folder;
     WriteFile(folder / "config.cfg", "; von Hand\r\n[Settings]\r\nEigenes=1\r\n");
     ASSERT_TRUE(Configuration(folder / "").Write({{Configuration::kFirststart, "0"}}));
@@ -141,7 +141,7 @@ TEST(DueAlarms, RingAMinuteBeforeWaking) {
     EXPECT_EQ(DueSleepEnds(table, *ParseDateTime("18.11.2006 06:30:00")), 0U);
 }
 
-TEST(FileSystem, LooksIntoFolders) {
+TEST(FileSystem, ListsSubfolders) {
     const TempFolder folder;
     EXPECT_EQ(GetSubfolders(folder / ""), std::vector<std::string>{""});
     EXPECT_EQ(GetSubfolders(folder / "fehlt"), std::vector<std::string>{""});
@@ -178,7 +178,7 @@ TEST(ProgramFolder, IsBesideTheProgramIfItIsWritable) {
     EXPECT_FALSE(std::filesystem::exists(folder / "nutzer"));
 }
 
-TEST(ProgramFolder, InstalledProgramHasItsFilesWithTheUser) {
+TEST(ProgramFolder, InstalledProgramCopiesItsFilesToTheUser) {
     const TempFolder folder;
     CreateData(folder / "share" / "tarvelin");
     std::filesystem::create_directories(folder / "bin");
@@ -199,7 +199,7 @@ TEST(ProgramFolder, InstalledProgramHasItsFilesWithTheUser) {
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder / "bin"), {}), 0);
 }
 
-TEST(ProgramFolder, WithoutAUserFolderItsOwnFilesServe) {
+TEST(ProgramFolder, ReadsItsOwnFilesWithoutAUserFolder) {
     const TempFolder folder;
     const auto own = folder / "share" / "tarvelin";
     CreateData(own);
@@ -221,7 +221,7 @@ TEST(ProgramFolder, WithoutAUserFolderItsOwnFilesServe) {
     }
 }
 
-TEST(ProtectedFileSystem, ChangesNothingInTheFolderAndAllElse) {
+TEST(ProtectedFileSystem, ProtectsItsFolderAlone) {
     const TempFolder folder;
     CreateData(folder / "eigene");
     const ProtectedFileSystem protection({folder / "eigene"});
@@ -239,7 +239,7 @@ TEST(ProtectedFileSystem, ChangesNothingInTheFolderAndAllElse) {
     EXPECT_TRUE(SaveBauliste(folder / "eigene-plaene.tvf", PlanOf("GM"), protection));
 }
 
-TEST(ProgramFolder, FileDialogsNeverBeginJustAnywhere) {
+TEST(ProgramFolder, FileDialogsBeginInAKnownFolder) {
     const TempFolder folder;
     EXPECT_EQ(PlanFolder(folder / "", NativeFileSystem()), folder / "saves") << "made anew";
     EXPECT_TRUE(std::filesystem::is_directory(folder / "saves"));
@@ -248,7 +248,7 @@ TEST(ProgramFolder, FileDialogsNeverBeginJustAnywhere) {
     EXPECT_EQ(PlanFolder(folder / "", NativeFileSystem()).string() + "/", (folder / "").string());
 }
 
-TEST(ProgramFolder, ProtectsWhatAnotherKeeps) {
+TEST(ProgramFolder, ProtectsWhatAnotherWindowKeeps) {
     const TempFolder folder;
     std::filesystem::create_directory(folder / "saves");
     const ProgramFolder programFolder{.TempFolder = folder / ""};

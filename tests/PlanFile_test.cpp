@@ -42,7 +42,7 @@ std::string With(const std::string& before, const std::string& after) {
     return bytes.replace(position, before.size() + 2, after.empty() ? "" : after + "\r\n");
 }
 
-TEST(PlanFile, HasTheFormat) {
+TEST(PlanFile, HasTheDocumentedFormat) {
     EXPECT_EQ(Bytes(Example()), kExample);
     Plan shortPlan = Example();
     shortPlan.LV_Bauliste.RemoveLast();
@@ -113,7 +113,7 @@ TEST(PlanFile, ReadsWhatIsUsable) {
     EXPECT_EQ(TestRun(sign.loaded).run.LV_Bauzeiten[2].theText(), "80% 100% 50%");
 }
 
-TEST(PlanFile, WritesIntoTheFileOrNotAtAll) {
+TEST(PlanFile, WritesTheFileOrNothing) {
     const TempFolder folder;
     const Plan plan = Example();
     ASSERT_TRUE(SaveBauliste(folder / "plan.tvf", plan));

@@ -74,7 +74,7 @@ TEST_F(PlanLaws, HoldForEveryPlan) {
     }
 }
 
-TEST_F(PlanLaws, TwoRunsAtOnceAreTwoInSequence) {
+TEST_F(PlanLaws, ParallelRunsEqualSequentialOnes) {
     for (unsigned seed = first; seed < first + plans; seed += 2) {
         const std::array pair{PlanGenerator(seed).Next(), PlanGenerator(seed + 1).Next()};
         std::array<std::string, 2> together;

@@ -115,7 +115,7 @@ std::string RefusalWithout(const RuleCase& testCase, const std::set<std::size_t>
                            .value_or("offen"));
 }
 
-TEST(Rules, OpenExactlyAtTheRow) {
+TEST(Rules, OpenWithTheLastMissingRow) {
     const auto sentence = [](const std::string& missing, const char* action) {
         return " " + missing + " in der Bauliste, " + action + " wäre unmöglich! ";
     };
@@ -137,7 +137,7 @@ TEST(Rules, OpenExactlyAtTheRow) {
     }
 }
 
-TEST(Rules, AllowASingleDomeOnly) {
+TEST(Rules, AllowOneDomeOnly) {
     const auto dome = [](const char* codes) {
         return Refusal(ItemId::klSchK, PlanOf(codes).LV_Bauliste.Orders()).value_or("offen");
     };
@@ -191,7 +191,7 @@ TEST(EditHistory, TypingIntoOneInputIsOneStep) {
     EXPECT_FALSE(history.CanUndo());
 }
 
-TEST(EditHistory, ADayWrittenInAnotherWayIsNoStep) {
+TEST(EditHistory, RewritingADayIsNoStep) {
     EditHistory history;
     PlanSnapshot snapshot;
     const auto day = [&](const char* text) -> PlanSnapshot& {
@@ -210,7 +210,7 @@ TEST(EditHistory, ADayWrittenInAnotherWayIsNoStep) {
     EXPECT_TRUE(history.CanRedo() && !history.CanUndo());
 }
 
-TEST(StartParameters, WeekdayAndStartDate) {
+TEST(StartParameters, GiveWeekdayAndStartDate) {
     StartParameters parameters = PlanOf("").parameters;
     EXPECT_EQ(RefreshWeekday(parameters).caption, "Sa.");
     EXPECT_EQ(RefreshWeekday(parameters).hint, "Samstag");

@@ -88,7 +88,7 @@ TEST(QtDialogs, SuppressibleOnesHaveACheckBox) {
     }
 }
 
-TEST(QtDialogs, TakesTheNameOfAMissingFileToo) {
+TEST(QtDialogs, AcceptsTheNameOfAMissingFile) {
     QtDialogs dialogs;
     const TempFolder folder;
     WriteFile(folder / "plan.tvf", std::string(1234, ';'));
@@ -113,7 +113,7 @@ TEST(QtDialogs, TakesTheNameOfAMissingFileToo) {
     EXPECT_TRUE(texts.contains(QStringLiteral("1,21 KiB"))) << "in German, whatever the system";
 }
 
-TEST(QtDialogs, AtTheEndClosesWhatIsOpen) {
+TEST(QtDialogs, CloseAllClosesWhatIsOpen) {
     QtDialogs dialogs;
     QTimer::singleShot(0, [&] { dialogs.CloseAll(); });
     EXPECT_FALSE(dialogs.Ask({.text = "Wirklich?", .title = ""}));

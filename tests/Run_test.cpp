@@ -100,7 +100,7 @@ TEST(Run, StopsTheClockAtTheEndOfItsRange) {
     EXPECT_EQ(trial.run.LV_Bauzeiten.size(), 8U);
 }
 
-TEST(Run, NamesWhatHeldAnOrderBack) {
+TEST(Run, FindsTheCauseOfEachDelay) {
     const auto starts = [](const Plan& plan) {
         return TraceRun(plan.LV_Bauliste.Orders().All(),
                         std::get<RunConditions>(ParseRunConditions(plan)))

@@ -105,7 +105,7 @@ TEST(Search, FindsTheOptimumOfSmallPlans) {
     }
 }
 
-TEST(Search, KeepsWhatItSays) {
+TEST(Search, KeepsItsPromises) {
     const std::vector<std::pair<const char*, SearchRequest>> requests{
         {"gedraengt-01", {}},
         {"gedraengt-05", {.goal = "plan"}},
@@ -152,7 +152,7 @@ TEST(Search, StopsAndKeepsTheBest) {
     EXPECT_EQ(Search(task, endless, stop, Quiet).best->orders, task.task.orders);
 }
 
-TEST(Search, FindsABeginningForAPlanThatNeverEnds) {
+TEST(Search, FindsAnInitialListForAPlanThatNeverEnds) {
     // The research comes behind the end of all deuterium.
     const Plan plan = PlanOf("GS GM GK GD GF GX:10:10:0 FE");
     const PlanTask task = MakeTask(plan, {});
@@ -160,7 +160,7 @@ TEST(Search, FindsABeginningForAPlanThatNeverEnds) {
     Check(plan, task, Search(task, kOneChain, kGoOn, Quiet));
 }
 
-TEST(Search, LeavesWhatIsAlreadyPlayed) {
+TEST(Search, LeavesWhatHasStarted) {
     const Plan& plan = StarterPlan();
     const auto before = StartTimesOf(StarterRun());
     const SearchRequest request{.notBefore = ParseDateTime("03.12.2026 12:00:30")};

@@ -70,7 +70,7 @@ TEST_F(StartStop, RecoversAfterEachAnswer) {
 }
 
 // The end of the program is no answer, whichever question stands open.
-TEST_F(StartStop, EndDuringTheQuestionsLeavesPlanAndAnswers) {
+TEST_F(StartStop, ClosingDuringTheQuestionsChangesNothing) {
     Load("GM GM");
     m_window.close();
     const std::string plan = ReadFileToString(m_folder / "saves" / "autosave.tvf");
@@ -97,7 +97,7 @@ TEST_F(StartStop, EndDuringTheQuestionsLeavesPlanAndAnswers) {
 }
 
 // A double click on a plan brings that one; the last one is kept beside it.
-TEST_F(StartStop, PlanAsAnArgumentInsteadOfTheLast) {
+TEST_F(StartStop, OpensThePlanOfTheCommandLine) {
     Load("GM GM");
     m_window.close();
     const auto saves = m_folder / "saves";
@@ -254,7 +254,7 @@ TEST_F(StartStop, StartNoticeComesBeforeAllElse) {
     EXPECT_EQ(m_dialogs.texts.front(), "Hinweis");
 }
 
-TEST_F(StartStop, LoadsAndSavesByTheDialog) {
+TEST_F(StartStop, LoadsAndSavesThroughTheDialog) {
     Load("GS GM");
     Choose("mnu_Datei_Speichern");
     EXPECT_EQ(fs::exists(m_folder / "saves" / "meiner"), false) << "cancelled";
@@ -397,7 +397,7 @@ TEST_F(StartStop, AlarmsRingOnlyWhileTheyAreOn) {
 }
 
 // What is no sound of ours is told by a beep, and the next one is heard.
-TEST_F(StartStop, SoundPlaysOnlyWholeWaves) {
+TEST_F(StartStop, SoundPlaysOnlyCompleteWaveFiles) {
     const std::string good = ReadFileToString(m_folder / "mfx" / "alert.wav");
     std::string withoutFormat = good;
     withoutFormat.replace(withoutFormat.find("fmt "), 4, "xxx ");
@@ -523,7 +523,7 @@ TEST_F(Skins, SourcesShowTheirInputs) {
     EXPECT_EQ(Color("ImgSKW"), before);
 }
 
-TEST_F(Skins, LocalSkinLeavesMissingPictures) {
+TEST_F(Skins, LocalSkinKeepsPicturesThatItLacks) {
     const auto blue = m_folder / "img" / "skins" / "blau" / "gebaeude";
     fs::create_directories(blue);
     WriteFile(blue / "4.gif", Picture(Qt::blue));
@@ -542,7 +542,7 @@ TEST_F(Skins, LocalSkinLeavesMissingPictures) {
     EXPECT_TRUE(start->findChild<QRadioButton*>(QStringLiteral("Opt_Lokal"))->isChecked());
 }
 
-TEST_F(Skins, WebSkinComesFileByFileToItsPlace) {
+TEST_F(Skins, WebSkinIsFetchedFileByFile) {
     PutOnline("http://skin.example/");
     ChooseSource("Opt_Web");
     Find<QLineEdit>("txt_Pfad").setText(QStringLiteral("http://skin.example/"));
@@ -600,7 +600,7 @@ TEST_F(Skins, ClosingEndsTheFetch) {
     EXPECT_EQ(m_dialogs.texts.size(), 3U);
 }
 
-TEST_F(StartStop, VersionCheckTakesEveryCharacter) {
+TEST_F(StartStop, VersionCheckComparesEveryCharacter) {
     Choose("mnu_UpdateCheck");
     EXPECT_EQ(m_dialogs.texts.back(), "Die Versions-Datei konnte nicht geladen werden...");
     EXPECT_EQ(m_dialogs.headers.back(),
@@ -637,7 +637,7 @@ TEST_F(StartStop, VersionCheckTakesEveryCharacter) {
     EXPECT_TRUE(m_pages[0].ends_with("/modules.php?name=Downloads&d_op=viewdownload&cid=9"));
 }
 
-TEST_F(StartStop, InfoWindowsAreSingleAndLeadToThePages) {
+TEST_F(StartStop, InfoWindowsOpenOnceAndLeadToThePages) {
     const auto window = [](const char* name) {
         std::vector<QWidget*> found;
         for (QWidget* const widget : QApplication::topLevelWidgets()) {

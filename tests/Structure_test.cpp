@@ -63,7 +63,7 @@ std::string RoomOf(const std::filesystem::path& source) {
     return source.parent_path().generic_string();
 }
 
-TEST(Structure, EveryArrowIsAllowed) {
+TEST(Structure, EveryIncludeIsAllowed) {
     for (const auto& source : Sources()) {
         const std::string room = RoomOf(source);
         ASSERT_TRUE(kRooms.contains(room)) << source;
@@ -85,7 +85,7 @@ TEST(Structure, EveryArrowIsAllowed) {
     }
 }
 
-TEST(Structure, NoCircleBetweenFiles) {
+TEST(Structure, IncludesFormNoCycle) {
     std::map<std::string, std::set<std::string>> arrows;
     const auto stem = [](std::filesystem::path path) { return path.replace_extension().string(); };
     for (const auto& source : Sources()) {
@@ -111,7 +111,7 @@ TEST(Structure, NoCircleBetweenFiles) {
     }
 }
 
-TEST(Structure, EveryNamedPictureLiesWithTheData) {
+TEST(Structure, EveryNamedPictureExists) {
     std::set<std::string> data;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(kRoot / "data")) {
         data.insert(entry.path().filename().string());

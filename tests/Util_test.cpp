@@ -17,7 +17,7 @@ constexpr double kInfinite = std::numeric_limits<double>::infinity();
 constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 constexpr auto kMin64 = std::numeric_limits<std::int64_t>::min();
 
-TEST(Rounding, GoesTheWayOfItsNameAndStopsAtTheLimits) {
+TEST(Rounding, GoesAsNamedAndSaturates) {
     struct Case {
         double value;
         std::int64_t half, cut, floor;
@@ -37,7 +37,7 @@ TEST(Rounding, GoesTheWayOfItsNameAndStopsAtTheLimits) {
     EXPECT_EQ(Saturate<Byte>(-1), 0);
 }
 
-TEST(FixedPoint, CalculatesExactlyAndStopsAtTheLimits) {
+TEST(FixedPoint, CalculatesExactlyAndSaturates) {
     const auto max = FixedPoint::FromRaw(kMax64);
     const auto min = FixedPoint::FromRaw(kMin64);
     EXPECT_EQ(max + FixedPoint::FromRaw(1), max);
@@ -149,7 +149,7 @@ TEST(Nuetzliches, WritesDurations) {
     EXPECT_EQ(FormatDuration(5, "w", "ss", "d"), "");
 }
 
-TEST(Codepage1252, ComesBackWithEveryByte) {
+TEST(Codepage1252, KeepsEveryByte) {
     std::string all;
     for (int byte = 0; byte < 256; ++byte) {
         all += static_cast<char>(byte);

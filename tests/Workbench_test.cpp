@@ -147,7 +147,7 @@ TEST_F(WorkbenchWindow, EditsInTheMiddle) {
     EXPECT_TRUE(m_dialogs.texts.empty());
 }
 
-TEST_F(WorkbenchWindow, PlaysAfterEachEditInBothWindows) {
+TEST_F(WorkbenchWindow, RunsAfterEachEditInBothWindows) {
     Load("GM GM GS");
     EXPECT_EQ(RowCount("LV_Bauzeiten"), 0) << "nobody has started a run there";
     EXPECT_EQ(Column(2), "Sa 18.11. 12:30:05|Sa 18.11. 12:32:04|Sa 18.11. 12:34:56");
@@ -239,7 +239,7 @@ TEST_F(WorkbenchWindow, UndoesEditsOfBothWindows) {
 }
 
 // Whatever is done in whichever window; what is taken back is what was there.
-TEST_F(WorkbenchWindow, StaysInAgreementWithTheOtherWindow) {
+TEST_F(WorkbenchWindow, AgreesWithTheMainWindow) {
     std::minstd_rand random(7);
     const auto one = [&](unsigned from) { return random() % from == 0; };
     const std::array pictures{"ImgMetMine", "ImgSKW",   "ImgDeutMine",
@@ -368,7 +368,7 @@ TEST_F(WorkbenchWindow, SavesThePicture) {
     EXPECT_NE(Says("LBL_Meldung").find("konnte nicht gespeichert werden"), std::string::npos);
 }
 
-TEST_F(WorkbenchWindow, ClosesHiddenAndComesBack) {
+TEST_F(WorkbenchWindow, IsHiddenWhenClosedAndComesBack) {
     Load("GM GM");
     m_workbench->resize(900, 700);
     m_workbench->close();
@@ -469,7 +469,7 @@ TEST_F(WorkbenchWindow, SaysWhyItCannotSearch) {
     EXPECT_TRUE(Page("Cmd_Suchen").isEnabled());
 }
 
-TEST_F(WorkbenchWindow, ComparesWithTheRememberedAndWithFiles) {
+TEST_F(WorkbenchWindow, ComparesWithARememberedRunAndWithFiles) {
     const auto columns = [this](const char* table) {
         const auto* const model = Page<QTreeView>(table).model();
         std::string text;
@@ -508,7 +508,7 @@ TEST_F(WorkbenchWindow, ComparesWithTheRememberedAndWithFiles) {
     EXPECT_EQ(columns("LV_Kennzahlen"), "");
 }
 
-TEST_F(WorkbenchWindow, HandsOutTheTimetable) {
+TEST_F(WorkbenchWindow, ExportsTheTimetable) {
     Plan plan = PlanOf("GM GX:10:0:10");
     Load(plan);
     Page<QAbstractButton>("Cmd_Kopieren").click();
