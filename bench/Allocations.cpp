@@ -1,5 +1,5 @@
-// The global allocation functions, counting. A file of its own, as the compiler must not see
-// through them where they are called.
+// Replaces the global allocation functions by ones that count. They have a file of their own so
+// that the compiler can't inline them and drop allocations that are never used.
 #include "Allocations.h"
 
 #include <cstdlib>
@@ -31,6 +31,6 @@ void operator delete(void* memory) noexcept {
     std::free(memory);
 }
 
-void operator delete(void* memory, std::size_t /*groesse*/) noexcept {
+void operator delete(void* memory, std::size_t /*size*/) noexcept {
     std::free(memory);
 }

@@ -1,11 +1,11 @@
-// A count of what the measured code takes from the heap.
+// Counts heap allocations of the measured code.
 #pragma once
 
 #include <cstddef>
 
 namespace tarvelin {
 
-/// Calls of the global operator new since the program's start.
+/// Calls of the global operator new since the program started.
 [[nodiscard]] std::size_t Allocations();
 
 }  // namespace tarvelin

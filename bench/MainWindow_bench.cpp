@@ -1,4 +1,4 @@
-// How long the window keeps the player waiting: start, a long plan, the hints.
+// Measures how long the windows keep the player waiting: start, a long plan, hints, the workbench.
 #include <benchmark/benchmark.h>
 
 #include <QLabel>
@@ -18,14 +18,14 @@
 namespace tarvelin {
 namespace {
 
-class NullSink final : public Dialogs {
+class NoDialogs final : public Dialogs {
   public:
-    void Show(const Message& /*meldung*/) override {}
-    bool ShowSuppressible(const Message& /*meldung*/) override { return true; }
+    void Show(const Message& /*message*/) override {}
+    bool ShowSuppressible(const Message& /*message*/) override { return true; }
     void Beep() override {}
-    bool Ask(const Question& /*frage*/) override { return false; }
-    std::filesystem::path AskForFile(Purpose /*zweck*/,
-                                     const std::filesystem::path& /*ordner*/) override {
+    bool Ask(const Question& /*question*/) override { return false; }
+    std::filesystem::path AskForFile(Purpose /*purpose*/,
+                                     const std::filesystem::path& /*folder*/) override {
         return {};
     }
     void CloseAll() override {}
@@ -33,30 +33,29 @@ class NullSink final : public Dialogs {
 
 class NoFetcher final : public Fetcher {
   public:
-    std::optional<std::string> Fetch(const std::string& /*adresse*/) override { return {}; }
+    std::optional<std::string> Fetch(const std::string& /*address*/) override { return {}; }
     void ProcessEvents() override {}
     void Abort() override {}
 };
 
 class NoSound final : public Sound {
   public:
-    void Play(const std::filesystem::path& /*datei*/) override {}
+    void Play(const std::filesystem::path& /*file*/) override {}
 };
 
 struct FakeWorld {
-    NullSink dialogs;
+    NoDialogs dialogs;
     NoFetcher fetcher;
     NoSound sound;
-    tarvelin::Environment environment{
-        .dialogs = dialogs,
-        .fetcher = fetcher,
-        .sound = sound,
-        .now = [] { return *ParseDateTime("18.11.2006 12:30:00"); },
-        .openPage = [](const std::string&) {},
-        .programFolder = QCoreApplication::applicationDirPath().toStdString()};
+    Environment environment{.dialogs = dialogs,
+                            .fetcher = fetcher,
+                            .sound = sound,
+                            .now = [] { return *ParseDateTime("18.11.2006 12:30:00"); },
+                            .openPage = [](const std::string&) {},
+                            .programFolder = QCoreApplication::applicationDirPath().toStdString()};
 };
 
-/// Shown, with every event behind it that painting takes.
+/// Shows the window and paints it, with all events that this takes.
 void ShowFully(frmMain& window) {
     window.show();
     while (!QTest::qWaitForWindowExposed(&window)) {
@@ -64,7 +63,7 @@ void ShowFully(frmMain& window) {
     window.grab();
 }
 
-/// As many rows as a list can hold, all items in turn.
+/// Fills the list to its limit, with all items in turn.
 void Fill(const frmMain& window) {
     auto* const list = window.findChild<BuildListView*>();
     for (std::size_t i = 0; i < OrderList::kMaxSize; ++i) {
@@ -128,7 +127,7 @@ QWidget& WorkbenchOf(frmMain& window) {
     return **open;
 }
 
-/// A picture of the timeline, first of the whole plan, then with each number of zooms.
+/// Paints the timeline: the whole plan, and zoomed in by the given number of wheel steps.
 void TimelinePainted(benchmark::State& state) {
     const FakeWorld world;
     frmMain window(world.environment);
@@ -150,7 +149,7 @@ void TimelinePainted(benchmark::State& state) {
 }
 BENCHMARK(TimelinePainted)->Arg(0)->Arg(5)->Arg(20)->Unit(benchmark::kMillisecond);
 
-/// A row of 254 goes up and down: both windows run the plan and show it.
+/// Moves a row of 254 up and down; both windows run the plan and show it.
 void RowMoved(benchmark::State& state) {
     const FakeWorld world;
     frmMain window(world.environment);

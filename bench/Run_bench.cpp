@@ -1,5 +1,5 @@
-// What a run, a load and a save of a plan cost, told beside the cost of a power: a ratio that means
-// the same on any machine.
+// Measures a run, a load and a save of a plan. The run is also given as a multiple of one std::pow,
+// a ratio that hardly depends on the machine.
 #include <benchmark/benchmark.h>
 
 #include <cmath>
@@ -21,24 +21,23 @@ namespace {
 
 using namespace tarvelin;
 
-class QuietObserver final : public MessageSink {
+class NullSink final : public MessageSink {
   public:
-    void Show(const Message& /*meldung*/) override {}
+    void Show(const Message& /*message*/) override {}
     void Beep() override {}
 };
 
-/// Counts starts.
 class StartCounter final : public RunObserver {
   public:
-    void OnStart(const StartEvent& /*ereignis*/) override { ++starts; }
+    void OnStart(const StartEvent& /*event*/) override { ++starts; }
 
     std::size_t starts = 0;
 };
 
-/// Orders as a player would give them: within the rules, buildings and research up to levels that
-/// an opening reaches, ships and defences in batches, now and then a production row.
+/// Orders as a player would give them: they keep the rules, buildings and research end at the
+/// levels of an opening, ships and defences come in batches, and production rows are rare.
 OrderList MakeList(std::size_t rows) {
-    constexpr int kHighestMine = 20;
+    constexpr int kMaxMineLevel = 20;
     constexpr int kMaxLevel = 6;
     constexpr unsigned kProductionEvery = 40;
     constexpr int kBatch = 5;
@@ -47,11 +46,11 @@ OrderList MakeList(std::size_t rows) {
     while (list.Size() < rows) {
         const ItemRow& row = RowOf(static_cast<ItemId>(random() % kNumItems));
         // The first four items are the mines and the power plant.
-        const int highest = row.item < ItemId::Robo ? kHighestMine : kMaxLevel;
+        const int maxLevel = row.item < ItemId::Robo ? kMaxMineLevel : kMaxLevel;
         const bool unit = row.queue == Queue::Shipyard && row.item != ItemId::klSchK;
         if (random() % kProductionEvery == 0) {
             list.Append(Order::Of(MineFactors{{10, 10, 8}}));
-        } else if (!Refusal(row.item, list) && (unit || list.ListStufe(row.item) < highest)) {
+        } else if (!Refusal(row.item, list) && (unit || list.ListStufe(row.item) < maxLevel)) {
             for (int i = 0; i < (unit ? kBatch : 1) && list.Size() < rows; ++i) {
                 list.Append(Order::Of(row.item));
             }
@@ -60,7 +59,7 @@ OrderList MakeList(std::size_t rows) {
     return list;
 }
 
-/// With two nights of sleep.
+/// A plan with two nights of sleep.
 Plan MakePlan(std::size_t rows) {
     Plan plan;
     plan.parameters.UniStartZeitTag = "18";
@@ -84,15 +83,15 @@ std::size_t RowCount(const benchmark::State& state) {
 }
 
 void RecordAllocations(benchmark::State& state, std::size_t before) {
-    state.counters["Allokationen"] = benchmark::Counter(static_cast<double>(Allocations() - before),
-                                                        benchmark::Counter::kAvgIterations);
+    state.counters["allocations"] = benchmark::Counter(static_cast<double>(Allocations() - before),
+                                                       benchmark::Counter::kAvgIterations);
 }
 
-/// With the rows of its build times, as the window shows them.
+/// A run that records its schedule, as the window needs it.
 void Running(benchmark::State& state) {
     const OrderList list = MakeList(RowCount(state));
     const RunConditions conditions = Conditions();
-    QuietObserver messages;
+    NullSink messages;
     const std::size_t before = Allocations();
     for (auto _ : state) {
         LastRun run;
@@ -104,7 +103,7 @@ void Running(benchmark::State& state) {
 }
 BENCHMARK(Running)->Arg(60)->Arg(254);
 
-/// With an observer that only counts.
+/// A run with an observer that only counts.
 void Counting(benchmark::State& state) {
     const OrderList list = MakeList(RowCount(state));
     const RunConditions conditions = Conditions();
@@ -148,7 +147,7 @@ void Copying(benchmark::State& state) {
 }
 BENCHMARK(Copying);
 
-/// A list of orders, without a text.
+/// Makes the list of orders, without texts.
 void Building(benchmark::State& state) {
     const OrderList pattern = MakeList(RowCount(state));
     for (auto _ : state) {
@@ -165,7 +164,7 @@ void Loading(benchmark::State& state) {
     IniFile profile("");
     WritePlan(MakePlan(RowCount(state)), profile);
     const std::string bytes = profile.Bytes();
-    QuietObserver messages;
+    NullSink messages;
     for (auto _ : state) {
         Plan plan;
         benchmark::DoNotOptimize(ReadPlan(IniFile(bytes), plan, RunConditions(), messages));
@@ -193,7 +192,7 @@ void PowerOf(benchmark::State& state) {
 }
 BENCHMARK(PowerOf);
 
-/// Prints the table and keeps the times, in nanoseconds.
+/// Prints the results and keeps their times, in nanoseconds.
 class ResultCollector final : public benchmark::ConsoleReporter {
   public:
     void ReportRuns(const std::vector<Run>& runs) override {
@@ -220,19 +219,19 @@ int main(int argc, char** argv) {
     }
     ResultCollector collector;
     benchmark::RunSpecifiedBenchmarks(&collector);
-    const double power = collector.TimeOf("Potenz");
+    const double power = collector.TimeOf("PowerOf");
     if (power > 0) {
         for (const int rows : {60, 254}) {
-            const double run = collector.TimeOf("Laufen/" + std::to_string(rows));
-            std::printf("Ein Ereignis eines Laufs von %d Zeilen kostet %.2f Potenzen.\n", rows,
+            const double run = collector.TimeOf("Running/" + std::to_string(rows));
+            std::printf("An event of a run of %d rows costs %.2f powers.\n", rows,
                         run / (2 * rows) / power);
         }
     }
-    const double sixty = collector.TimeOf("Zaehlen/60");
+    const double sixty = collector.TimeOf("Counting/60");
     if (sixty > 0) {
-        for (const auto& [what, name] : {std::pair("Das letzte Drittel", "Fortsetzen/60"),
-                                         std::pair("Der Aufbau der Liste", "Bauen/60")}) {
-            std::printf("%s kostet %.1f %% eines Laufs von 60 Zeilen.\n", what,
+        for (const auto& [what, name] : {std::pair("The last third", "Resuming/60"),
+                                         std::pair("Making the list", "Building/60")}) {
+            std::printf("%s costs %.1f %% of a run of 60 rows.\n", what,
                         100 * collector.TimeOf(name) / sixty);
         }
     }

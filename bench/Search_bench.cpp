@@ -1,5 +1,5 @@
-// The search: tries a second, what the default settings make of kept plans, and how many small
-// plans they solve.
+// Measures the search: tries per second, how much faster the default settings make some plans, and
+// how many small plans they solve to optimality.
 #include <benchmark/benchmark.h>
 
 #include <string>
@@ -14,14 +14,14 @@ using namespace tarvelin;
 
 const std::atomic<bool> kGoOn{false};
 
-void Quiet(const SearchProgress& /*stand*/) {}
+void Quiet(const SearchProgress& /*progress*/) {}
 
 PlanTask Task(const std::string& file, const SearchRequest& request) {
     return std::get<PlanTask>(
         MakePlanTask(PlanRun(std::filesystem::path(TARVELIN_SOURCE_DIR) / file).plan, request));
 }
 
-/// The starter plan's own orders, on as many threads.
+/// Searches sequences of the starter plan's orders, with the given number of threads.
 void Tries(benchmark::State& state) {
     const PlanTask task = Task("data/saves/basic.tvf", {});
     const SearchBudget budget{.threads = static_cast<unsigned>(state.range(0))};
@@ -29,12 +29,12 @@ void Tries(benchmark::State& state) {
     for (auto _ : state) {
         tries += Search(task, budget, kGoOn, Quiet).tries;
     }
-    state.counters["Versuche/s"] =
+    state.counters["tries/s"] =
         benchmark::Counter(static_cast<double>(tries), benchmark::Counter::kIsRate);
 }
 BENCHMARK(Tries)->Arg(1)->Arg(2)->UseRealTime()->Unit(benchmark::kMillisecond);
 
-/// Seconds before and after a search by the default settings.
+/// The duration of a plan before and after a search with the default settings.
 void Quality(benchmark::State& state, const std::string& file, const SearchRequest& request) {
     const PlanTask task = Task(file, request);
     SearchResult result;
@@ -43,9 +43,9 @@ void Quality(benchmark::State& state, const std::string& file, const SearchReque
     }
     const auto before = static_cast<double>(task.before->score.duration);
     const auto after = static_cast<double>(result.best->score.duration);
-    state.counters["vorher_s"] = before;
-    state.counters["nachher_s"] = after;
-    state.counters["Gewinn_%"] = 100 * (1 - after / before);
+    state.counters["before_s"] = before;
+    state.counters["after_s"] = after;
+    state.counters["gain_%"] = 100 * (1 - after / before);
 }
 #define QUALITY(name, file, ...)                                       \
     BENCHMARK_CAPTURE(Quality, name, file, SearchRequest{__VA_ARGS__}) \
@@ -59,7 +59,7 @@ QUALITY(Research85, "tests/data/golden/regelgerecht-05.tvf");
 QUALITY(Short43, "tests/data/golden/regelgerecht-10.tvf");
 #undef QUALITY
 
-/// Plans of 8 to 10 orders against their proved optimum.
+/// Plans of 8 to 10 orders, compared with their proved optimum.
 void Proven(benchmark::State& state) {
     constexpr unsigned kPlans = 100;
     unsigned optimal = 0;
@@ -70,7 +70,7 @@ void Proven(benchmark::State& state) {
             optimal += best && best->score.duration == ProvenDuration(task) ? 1U : 0U;
         }
     }
-    state.counters["optimal_von_100"] = optimal;
+    state.counters["optimal_of_100"] = optimal;
 }
 BENCHMARK(Proven)->Iterations(1)->Unit(benchmark::kSecond);
 
