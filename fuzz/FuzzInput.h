@@ -1,4 +1,4 @@
-// What all targets of the fuzzer share: how bytes become inputs, and how a broken promise ends.
+// Shared by all fuzz targets: splits the bytes into parts, and reports what breaks a law.
 #pragma once
 
 #include <cstddef>
@@ -8,21 +8,21 @@
 #include <string>
 #include <string_view>
 
-/// Called with each input, by the fuzzer and by the replay of its finds.
+/// Called with each input, by the fuzzer or by ReplayMain.cpp.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t length);
 
 namespace tarvelin {
 
-/// Ends the program with a word on what didn't hold; the fuzzer keeps the input.
-inline void Require(bool keeps, std::string_view law, std::string_view actual = "") {
-    if (!keeps) {
+/// Aborts and names the law unless it holds; the fuzzer then keeps the input.
+inline void Require(bool holds, std::string_view law, std::string_view actual = "") {
+    if (!holds) {
         std::fprintf(stderr, "BROKEN: %.*s: \"%.*s\"\n", static_cast<int>(law.size()), law.data(),
                      static_cast<int>(actual.size()), actual.data());
         std::abort();
     }
 }
 
-/// Bytes of which the first parts end at a unit separator each, and the last one at their end.
+/// An input of several parts, separated by the unit separator (0x1F).
 class FuzzInput {
   public:
     FuzzInput(const std::uint8_t* data, std::size_t length)

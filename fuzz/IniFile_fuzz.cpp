@@ -1,4 +1,4 @@
-// Any bytes as a profile file: what a write may change, and what comes back from it.
+// Fuzzes profile files: what a write may change, and what a read gives back.
 #include <algorithm>
 #include <optional>
 #include <utility>
@@ -15,7 +15,7 @@ namespace {
 
 using Lines = std::vector<std::string_view>;
 
-/// The mark of a file's encoding; empty for a file without one.
+/// The byte order mark of a file, empty if it has none.
 std::string_view ByteOrderMark(std::string_view bytes) {
     for (const std::string_view mark : {"\xEF\xBB\xBF", "\xFF\xFE", "\xFE\xFF"}) {
         if (bytes.starts_with(mark)) {
@@ -33,14 +33,14 @@ std::optional<ByteOrder> Utf16Order(std::string_view bytes) {
     return mark.front() == '\xFF' ? ByteOrder::LittleEndian : ByteOrder::BigEndian;
 }
 
-/// What stands behind the mark of a file, in 8 bits.
+/// The content of a file after its byte order mark, in 8 bits.
 std::string Content(std::string_view bytes) {
     const auto byteOrder = Utf16Order(bytes);
     bytes.remove_prefix(ByteOrderMark(bytes).size());
     return byteOrder ? FromUtf16(bytes, *byteOrder) : std::string(bytes);
 }
 
-/// The lines of a text with their ends, LF, CR LF or CR.
+/// The lines of a text, including their ends (LF, CR LF or CR).
 Lines LinesOf(std::string_view bytes) {
     Lines lines;
     while (!bytes.empty()) {
@@ -53,13 +53,13 @@ Lines LinesOf(std::string_view bytes) {
     return lines;
 }
 
-/// Whether the new line is the old one, or the old one with the end that it lacked.
+/// Whether a line is unchanged, but for a line end that it may have lacked.
 bool HasStayed(std::string_view before, std::string_view after) {
     return after == before || (before.find_first_of("\r\n") == std::string_view::npos &&
                                after == std::string(before) + "\r\n");
 }
 
-/// One line has another text, or one line or a section with one line has come in.
+/// Whether one line has changed, or one line or a section with one line has been inserted.
 bool OnlyOnePlace(const Lines& before, const Lines& after) {
     std::size_t front = 0;
     while (front < before.size() && front < after.size() &&
@@ -76,7 +76,7 @@ bool OnlyOnePlace(const Lines& before, const Lines& after) {
     return removed == 0 ? inserted <= 2 : removed == 1 && inserted == 1;
 }
 
-/// Names of sections and keys that stand in a file, as near as a glance finds them.
+/// Sections and keys of a file, found by a rough parser of our own.
 std::vector<std::pair<std::string, std::string>> Names(const Lines& lines, bool utf16) {
     const auto name = [utf16](std::string_view text) {
         return From1252(utf16 ? To1252(text) : std::string(text));
@@ -108,7 +108,7 @@ bool HasMargin(std::string_view bytes) {
                               kBlanks.find(bytes.back()) != std::string_view::npos);
 }
 
-/// Names as the program has them: of one line, without blanks around and without marks.
+/// Whether it is a name as the program uses them: one line, no surrounding blanks, none of "[]=;".
 bool IsName(std::string_view bytes) {
     return !bytes.empty() && !HasMargin(bytes) &&
            bytes.find_first_of(std::string_view("[]=;\r\n\0", 7)) == std::string_view::npos;
@@ -140,7 +140,7 @@ void CheckWriting(const std::string& file, const std::string& section, const std
     Require(profile.Bytes() == after, "the same write again changes nothing", profile.Bytes());
 }
 
-/// The same file in 16 bits is changed and read alike.
+/// The same file in UTF-16 is read and written alike.
 void CheckUtf16(const std::string& file, const std::string& section, const std::string& key,
                 const std::string& value) {
     for (const auto byteOrder : {ByteOrder::LittleEndian, ByteOrder::BigEndian}) {

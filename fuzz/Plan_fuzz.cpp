@@ -1,4 +1,5 @@
-// Any bytes as a plan file: loaded, run and printed in every form, under the laws of every plan.
+// Fuzzes plan files: any bytes are loaded, run, printed in every form and checked against the laws
+// of every plan.
 #include <sstream>
 
 #include "FuzzInput.h"
@@ -10,7 +11,7 @@
 namespace tarvelin {
 namespace {
 
-/// The longest list that the laws are tried on; they build it anew after each row.
+/// The longest list that the laws are checked for, as they rebuild it after each row.
 constexpr std::size_t kMaxSize = 60;
 
 void Print(const PlanRun& document) {

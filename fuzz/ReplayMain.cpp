@@ -1,4 +1,4 @@
-// Plays inputs that were kept once more, without the fuzzer: each file of the named folders.
+// Replays kept inputs without the fuzzer: every file of the folders named as arguments.
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -19,7 +19,7 @@ int main(int count, char** arguments) {
     for (const auto& file : files) {
         std::ifstream stream(file, std::ios::binary);
         const std::vector<char> bytes{std::istreambuf_iterator<char>(stream), {}};
-        // Told before it is played: the last name in front of a crash is the culprit's.
+        // Printed first: if it crashes, the last name is the culprit's.
         std::cerr << file.filename().string() << '\n';
         LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
     }

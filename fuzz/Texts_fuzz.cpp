@@ -1,4 +1,4 @@
-// Any texts where numbers, dates, durations and lists of tokens are read.
+// Fuzzes the readers of numbers, dates, durations and token lists.
 #include <array>
 #include <cmath>
 #include <ctime>
@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::int64_t kSecondsTo1970 = 25569LL * 86400;
 
-/// A text with each digit as a 9.
+/// The text with each digit replaced by a 9.
 std::string FormOf(std::string_view text) {
     std::string form(text);
     for (char& character : form) {
@@ -31,7 +31,7 @@ std::string_view WithoutBlanks(std::string_view text) {
                : text.substr(begin, text.find_last_not_of(' ') - begin + 1);
 }
 
-/// What number a text is, by the C library: it reads a point, and more than we do.
+/// Compares with the C library, which wants a decimal point and accepts more than we do.
 void CheckNumber(const std::string& text) {
     std::string c(WithoutBlanks(text));
     const auto comma = c.find(',');
@@ -85,26 +85,26 @@ void CheckPadding(const std::string& text, int count) {
         Require(front == text && back == text, "what is no number stays", text);
         return;
     }
-    const auto decimals = static_cast<std::ptrdiff_t>(std::min(front.find(','), front.size()));
-    Require(zeros == 0 || decimals == count, "so many digits in front of the comma", front);
-    Require(decimals >= count, "not fewer digits in front of the comma", front);
-    const auto breach = static_cast<std::ptrdiff_t>(back.size() - 1 - back.find(','));
-    Require(count < 1 || breach >= count, "so many decimals", back);
+    const auto integers = static_cast<std::ptrdiff_t>(std::min(front.find(','), front.size()));
+    Require(zeros == 0 || integers == count, "so many digits in front of the comma", front);
+    Require(integers >= count, "not fewer digits in front of the comma", front);
+    const auto fraction = static_cast<std::ptrdiff_t>(back.size() - 1 - back.find(','));
+    Require(count < 1 || fraction >= count, "so many decimals", back);
 }
 
-/// The calendar of the C library agrees about which dates there are and when they are.
+/// The C library's calendar agrees about which dates exist and when they are.
 void CheckDate(const std::string& text) {
     std::tm tm{};
-    int character = 0;
+    int consumed = 0;
     int year = 0;
     const auto fields =
         std::sscanf(text.c_str(), "%2d.%2d.%4d %2d:%2d%n:%2d%n", &tm.tm_mday, &tm.tm_mon, &year,
-                    &tm.tm_hour, &tm.tm_min, &character, &tm.tm_sec, &character);
-    bool expected = fields >= 5 && static_cast<std::size_t>(character) == text.size() &&
+                    &tm.tm_hour, &tm.tm_min, &consumed, &tm.tm_sec, &consumed);
+    bool expected = fields >= 5 && static_cast<std::size_t>(consumed) == text.size() &&
                     text.find_first_not_of("0123456789.: ") == std::string::npos;
     const std::string form = FormOf(text);
     const auto blank = form.find(' ');
-    // The C library skips blanks where we don't, and takes any width up to the one that it is told.
+    // sscanf skips blanks where we don't, and takes fewer digits than the given width.
     expected =
         expected && form.find(' ', blank + 1) == std::string::npos &&
         (form.substr(0, blank).ends_with(".9999") || form.substr(0, blank).ends_with(".99")) &&
@@ -182,15 +182,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t leng
     CheckNumber(text);
     CheckDate(text);
     const auto number = ParseNumber(second);
-    const int smaller = number ? static_cast<int>(HalfEvenLong(*number) % 40) : 2;
-    CheckPadding(text, smaller);
+    const int count = number ? static_cast<int>(HalfEvenLong(*number) % 40) : 2;
+    CheckPadding(text, count);
     if (const auto value = ParseNumber(text)) {
-        CheckDecimalText(*value, std::abs(smaller) % 16);
+        CheckDecimalText(*value, std::abs(count) % 16);
         CheckDuration(HalfEvenLong(*value), second, third, third.substr(0, 1));
     }
-    CheckDuration(smaller, second, text, third);
+    CheckDuration(count, second, text, third);
     CheckToken(text, second.empty() || second.front() < 0 ? ':' : second.front());
-    static_cast<void>(GetToken(text, smaller, third));
+    static_cast<void>(GetToken(text, count, third));
     static_cast<void>(TextBefore(text, third));
     static_cast<void>(TextAfter(text, third));
     return 0;
