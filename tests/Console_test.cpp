@@ -1,4 +1,4 @@
-// The console program itself: its streams and exit codes.
+// Runs the console program itself and checks its streams and exit codes.
 #include <cstdlib>
 #include <nlohmann/json.hpp>
 #include <tuple>
@@ -45,7 +45,7 @@ TEST(Console, PrintsTheSchedule) {
 
 TEST(Console, WritesOneTableForAll) {
     const TempFolder folder;
-    // Marks can't stand in a name everywhere.
+    // Windows allows no quotation marks in a file name.
     const std::string name = kWindows ? "[a b]" : "[\"a;b\"]";
     WriteFile(folder / name, ReadFileToString(TARVELIN_GOLDEN "/fuenf-zeilen.tvf"));
     const CallResult call =
@@ -83,11 +83,11 @@ TEST(Console, ExplainsItselfAndWrongCalls) {
         EXPECT_EQ(Call(folder, kPlan + " >/dev/full").code, 1);
     }
     for (const char* help : {"--hilfe", "--help", "-h"}) {
-        const CallResult side = Call(folder, help);
-        EXPECT_EQ(side.code, 0);
-        EXPECT_NE(side.output.find("--threads ZAHL"), std::string::npos) << side.output;
-        EXPECT_NE(side.output.find("  WR    Raketenwerfer\n"), std::string::npos);
-        EXPECT_EQ(side.output.find("UINT"), std::string::npos);
+        const CallResult call = Call(folder, help);
+        EXPECT_EQ(call.code, 0);
+        EXPECT_NE(call.output.find("--threads ZAHL"), std::string::npos) << call.output;
+        EXPECT_NE(call.output.find("  WR    Raketenwerfer\n"), std::string::npos);
+        EXPECT_EQ(call.output.find("UINT"), std::string::npos);
     }
     const std::vector<std::pair<const char*, const char*>> wrong{
         {"", "es fehlt eine Plandatei"},
@@ -131,7 +131,7 @@ TEST(Console, ComparesPlans) {
     EXPECT_EQ(run["Verlauf"]["Punkte"].back()["Sekunde"], run["secsgone"]);
     json without = run;
     without.erase("Verlauf");
-    // Programs know the misspelt name, people read the other one.
+    // JSON keeps the game's misspelt name, as programs know it; people read the correct one.
     const auto has = [](const std::string& text, const char* name) {
         return text.find(name) != std::string::npos;
     };
@@ -139,7 +139,7 @@ TEST(Console, ComparesPlans) {
     const std::string forPeople = Call(folder, "--vergleich " + kPlan + " " + kStarterPlan).output;
     EXPECT_TRUE(has(forPeople, "Raketenwerfer 1") && !has(forPeople, "Rakentenwerfer"));
     EXPECT_EQ(without, json::parse(Call(folder, "--json " + kStarterPlan).output));
-    // What is the same isn't listed.
+    // Orders that start at the same time aren't listed.
     const std::string same =
         Call(folder, "--vergleich " + kStarterPlan + " " + kStarterPlan).output;
     EXPECT_NE(same.find("4 Tage 04:40:16"), std::string::npos) << same;
@@ -174,7 +174,7 @@ TEST(Console, SearchesAndWritesThePlan) {
         tags.push_back(row["Tag"]);
     }
     EXPECT_EQ(tags, report["Bauliste"]);
-    // The same call gives the same, whether it writes or not.
+    // The result depends neither on the threads nor on whether the plan is written.
     EXPECT_EQ(Call(folder, search + " --threads 2").output, call.output);
     const std::string fewer =
         Call(folder, "--suche " + kStarterPlan + " --ziel WLJ1 --versuche 1 --sitzungen 0,5")
@@ -212,7 +212,7 @@ TEST(Console, WritesNothingIfTheSearchCannotRun) {
 #ifdef __linux__
 TEST(Console, EndsOnASignalWithTheBestPlan) {
     const TempFolder folder;
-    // The signal comes as soon as it is caught, by the program and not by the shell before it.
+    // Sends the signal once the program itself, no longer the shell, has its handler installed.
     WriteFile(
         folder / "ruf",
         "\"$1\" --suche \"$2\" --nach neu.tvf --versuche 1000000000000 & p=$!\n"

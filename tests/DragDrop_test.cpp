@@ -1,4 +1,4 @@
-// One whole drag through the toolkit's own machinery; it needs a platform that can drag.
+// Drags pictures through the toolkit's own event handling, which takes a platform that can drag.
 #include <QTimer>
 
 #include "MainWindowFixture.h"
@@ -9,7 +9,7 @@ namespace {
 using DragDrop = MainWindow;
 
 TEST_F(DragDrop, DragsAPictureIntoTheList) {
-    // The screen of this platform is tiny.
+    // This platform's screen is smaller than the window.
     m_window.setFixedSize(frmMain::SizeOn({2000, 2000}));
     Find("Fra_Einstellungen").hide();
     const auto drag = [&](const char* picture, QPoint target) {

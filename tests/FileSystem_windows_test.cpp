@@ -1,4 +1,4 @@
-// Saves where other programs hold files open, and paths of any length.
+// Tests the file layer on Windows: files in use, hidden folders, long paths.
 #define WIN32_LEAN_AND_MEAN
 #define NOMINMAX
 #include <windows.h>
@@ -12,11 +12,12 @@
 namespace tarvelin {
 namespace {
 
-/// As a virus scanner or an editor holds a file: nobody may replace it, or even read it.
+/// Holds a file open as a virus scanner or an editor does: nobody else may replace it, or even read
+/// it.
 class FileHolder {
   public:
-    FileHolder(const std::filesystem::path& file, DWORD leave)
-        : m_handle(::CreateFileW(file.c_str(), GENERIC_READ, leave, nullptr, OPEN_EXISTING, 0,
+    FileHolder(const std::filesystem::path& file, DWORD share)
+        : m_handle(::CreateFileW(file.c_str(), GENERIC_READ, share, nullptr, OPEN_EXISTING, 0,
                                  nullptr)) {
         EXPECT_NE(m_handle, INVALID_HANDLE_VALUE);
     }
@@ -37,23 +38,23 @@ class FileHolder {
 TEST(WindowsFileSystem, WaitsForFilesInUse) {
     const TempFolder folder;
     const auto file = folder / "plan.tvf";
-    for (const DWORD leave : {DWORD{FILE_SHARE_READ}, DWORD{0}}) {
+    for (const DWORD share : {DWORD{FILE_SHARE_READ}, DWORD{0}}) {
         ASSERT_TRUE(SaveBauliste(file, PlanOf("GM")));
         const std::string before = ReadFileToString(file);
         {
-            const FileHolder always(file, leave);
+            const FileHolder always(file, share);
             EXPECT_FALSE(SaveBauliste(file, PlanOf("GM GS")));
         }
         EXPECT_EQ(ReadFileToString(file), before);
         EXPECT_EQ(folder.Entries(), 1U);
-        FileHolder shortPlan(file, leave);
-        std::thread same([&] {
-            constexpr DWORD kWhile = 20;
-            ::Sleep(kWhile);
-            shortPlan.Release();
+        FileHolder holder(file, share);
+        std::thread releasing([&] {
+            constexpr DWORD kMilliseconds = 20;
+            ::Sleep(kMilliseconds);
+            holder.Release();
         });
         EXPECT_TRUE(SaveBauliste(file, PlanOf("GM GS")));
-        same.join();
+        releasing.join();
         EXPECT_NE(ReadFileToString(file), before);
         EXPECT_EQ(folder.Entries(), 1U);
     }
@@ -76,7 +77,7 @@ TEST(WindowsFileSystem, ListsPlainFolders) {
     EXPECT_EQ(GetSubfolders(folder / ""), (std::vector<std::string>{"blau", "ohne Index"}));
 }
 
-/// Deletes a folder whose path may be long, which the library can't.
+/// Deletes a folder whose path may be too long for the standard library.
 void Clear(const std::filesystem::path& folder) {
     for (const auto& entry : NativeFileSystem().Entries(folder)) {
         if (NativeFileSystem().KindOf(entry) == FileSystem::Kind::TempFolder) {
@@ -85,26 +86,26 @@ void Clear(const std::filesystem::path& folder) {
             EXPECT_TRUE(NativeFileSystem().Remove(entry));
         }
     }
-    const auto position = NativeFileSystem().Resolve(folder);
-    EXPECT_NE(::RemoveDirectoryW(position->c_str()), 0) << ::GetLastError();
+    const auto path = NativeFileSystem().Resolve(folder);
+    EXPECT_NE(::RemoveDirectoryW(path->c_str()), 0) << ::GetLastError();
 }
 
 TEST(WindowsFileSystem, CopesWithLongPaths) {
     const TempFolder folder;
-    std::filesystem::path position = folder / "lang";
+    std::filesystem::path path = folder / "lang";
     for (int i = 0; i < 6; ++i) {
-        position /= L"Größe – 星のプラン " + std::wstring(50, L'x');
+        path /= L"Größe – 星のプラン " + std::wstring(50, L'x');
     }
-    const auto file = position / "saves" / "plan.tvf";
+    const auto file = path / "saves" / "plan.tvf";
     ASSERT_GT(file.native().size(), 300U);
-    // A folder of a program, with its files in it.
+    // An installed program, whose files are copied to the long path.
     ASSERT_TRUE(NativeFileSystem().CreateFolders(folder / "share/tarvelin/img/skins/blau"));
     WriteFile(folder / "share/tarvelin/img/icon.ico", "icon");
-    const auto chosen = ResolveProgramFolder(folder / "bin", position);
-    EXPECT_EQ(chosen.TempFolder, position);
+    const auto chosen = ResolveProgramFolder(folder / "bin", path);
+    EXPECT_EQ(chosen.TempFolder, path);
     EXPECT_TRUE(chosen.canKeep);
-    EXPECT_EQ(ReadFileToString(position / "img/icon.ico", 9, NativeFileSystem()), "icon");
-    EXPECT_EQ(GetSubfolders(position / "img/skins"), std::vector<std::string>{"blau"});
+    EXPECT_EQ(ReadFileToString(path / "img/icon.ico", 9, NativeFileSystem()), "icon");
+    EXPECT_EQ(GetSubfolders(path / "img/skins"), std::vector<std::string>{"blau"});
     for (const char* const codes : {"GM", "GM GS"}) {
         ASSERT_TRUE(SaveBauliste(file, PlanOf(codes)));
         const auto profile = IniFile::Load(file);
@@ -113,8 +114,8 @@ TEST(WindowsFileSystem, CopesWithLongPaths) {
                   codes == std::string("GM") ? "1" : "2");
     }
     EXPECT_TRUE(FileExists(file));
-    EXPECT_EQ(NativeFileSystem().KindOf(position / "fehlt.tvf"), FileSystem::Kind::Nothing);
-    EXPECT_FALSE(SaveBauliste(file, PlanOf("GM"), ProtectedFileSystem({position})));
+    EXPECT_EQ(NativeFileSystem().KindOf(path / "fehlt.tvf"), FileSystem::Kind::Nothing);
+    EXPECT_FALSE(SaveBauliste(file, PlanOf("GM"), ProtectedFileSystem({path})));
     Clear(folder / "lang");
 }
 

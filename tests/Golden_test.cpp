@@ -1,4 +1,4 @@
-// Plan files with their whole expected result, compared field by field.
+// Compares the results of the golden plans with the expected ones, field by field.
 #include <nlohmann/json.hpp>
 
 #include "TestSupport.h"

@@ -1,4 +1,4 @@
-// The real fetch against a real server on this machine, with all its whims.
+// Fetches from a local server that misbehaves in every way.
 #ifdef _WIN32
 #include <winsock2.h>
 using SocketHandle = SOCKET;
@@ -22,7 +22,7 @@ using SocketHandle = int;
 namespace tarvelin {
 namespace {
 
-/// Answers each request by its path: "/gut" with what stands under it in a table of whole answers.
+/// Answers each request with the response that `responses` has for its path.
 class Server {
   public:
     Server() {
@@ -44,7 +44,7 @@ class Server {
 
     std::map<std::string, std::string> responses;
     int requestLines = 0;
-    /// What comes behind an answer: a clean close, a reset, or nothing.
+    /// What follows a response: a close, a reset, or neither.
     bool close = true;
     bool reset = false;
 
@@ -108,7 +108,7 @@ TEST(HttpFetcher, FetchesOnlyCompleteFiles) {
         {"/206", "HTTP/1.1 206 Teil\r\nContent-Length: 3\r\n\r\nabc"},
         {"/unsinn", "das ist kein HTTP\r\n\r\n"},
     };
-    // A connection that stays open serves the next one too.
+    // With and without reuse of the connection.
     for (const bool close : {true, false}) {
         server.close = close;
         EXPECT_EQ(fetcher.Fetch(server.Address("/gut")), bytes);
@@ -130,14 +130,14 @@ TEST(HttpFetcher, FetchesOnlyCompleteFiles) {
     EXPECT_EQ(server.requestLines, previous);
 }
 
-// Whether a close or a reset follows, at each byte of it.
+// A response that ends after any of its bytes, by a close or a reset, is refused.
 TEST(HttpFetcher, RefusesWhatIsCutOff) {
     Server server;
     HttpFetcher fetcher;
     struct Case {
         const char* name;
         std::string response;
-        /// From where on a clean close ends it well: behind the last byte that means something.
+        /// The number of bytes from which on a close is a proper end.
         std::size_t whole;
     };
     const std::string length = Good("nur wenig");
@@ -146,13 +146,13 @@ TEST(HttpFetcher, RefusesWhatIsCutOff) {
     for (const auto& [name, answer, whole] :
          {Case{"length", length, length.size()}, Case{"chunks", pieces, pieces.size() - 1},
           Case{"neither", header + "Inhalt", header.size()}}) {
-        // Where the toolkit's sockets know no reset, they close.
-        for (const bool back : kWindows ? std::vector{false} : std::vector{false, true}) {
-            server.reset = back;
-            for (std::size_t n = 0; n < (back ? answer.size() : whole); ++n) {
+        // On Windows the toolkit's sockets close instead of resetting.
+        for (const bool reset : kWindows ? std::vector{false} : std::vector{false, true}) {
+            server.reset = reset;
+            for (std::size_t n = 0; n < (reset ? answer.size() : whole); ++n) {
                 server.responses["/"] = answer.substr(0, n);
                 EXPECT_EQ(fetcher.Fetch(server.Address("/")), std::nullopt)
-                    << name << ", " << n << " bytes, " << (back ? "reset" : "closed");
+                    << name << ", " << n << " bytes, " << (reset ? "reset" : "closed");
             }
         }
     }
@@ -185,7 +185,7 @@ TEST(HttpFetcher, KeepsLimitsOfTimeAndSize) {
     EXPECT_EQ(smallFetcher.Fetch(server.Address("/endlos")), std::nullopt);
     HttpFetcher shortFetcher({.duration = std::chrono::milliseconds(100)});
     EXPECT_EQ(shortFetcher.Fetch(server.Address("/stumm")), std::nullopt);
-    // Bytes that keep coming don't make it longer.
+    // A trickle of bytes doesn't extend the limit.
     EXPECT_EQ(shortFetcher.Fetch(server.Address("/tropfen")), std::nullopt);
 }
 

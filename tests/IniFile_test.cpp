@@ -1,4 +1,4 @@
-// Profile files: reading, writing, replacing.
+// Tests profile files: reading, writing, replacing.
 #include "TestSupport.h"
 #include "persistence/AtomicWrite.h"
 
@@ -77,7 +77,7 @@ TEST(IniFile, WritesAndKeepsEverythingElse) {
         profile.WriteINI("A", "K", "v");
         EXPECT_EQ(profile.Bytes(), testCase.after) << testCase.what;
         EXPECT_EQ(profile.ReadINI("a", "k", ""), "v") << testCase.what;
-        // The same key again changes no length, and what is written is what is read anew.
+        // Writing the key again reads back, with "?" for what the code page lacks.
         profile.WriteINI("A", "K", "ä漢");
         EXPECT_EQ(IniFile(profile.Bytes()).ReadINI("A", "K", ""), "ä?") << testCase.what;
     }
@@ -107,7 +107,7 @@ TEST(IniFile, KeepsUtf16WithEveryCharacter) {
         for (const bool highFirst : {false, true}) {
             SCOPED_TRACE(std::string(testCase.what) + (highFirst ? ", BE" : ", LE"));
             const std::string before = ToUtf16Bytes(testCase.before, highFirst);
-            IniFile profile(before + "x");  // half a unit, which goes
+            IniFile profile(before + "x");  // an incomplete code unit, which is dropped
             EXPECT_EQ(profile.Bytes(), before);
             EXPECT_EQ(profile.ReadINI("Ä漢", "kö", "Standard"), testCase.value);
             profile.WriteINI("Ä漢", "Kö", "ü漢");
@@ -138,7 +138,7 @@ TEST(AtomicWrite, ReplacesWhollyOrNotAtAll) {
     EXPECT_TRUE(std::filesystem::is_symlink(folder / "zeiger"));
     EXPECT_EQ(ReadFileToString(file), "neuer");
     std::filesystem::permissions(file, perms::owner_read);
-    // Nothing is forbidden to root.
+    // Root may write in spite of the permissions.
     const bool allowed = NativeFileSystem().IsWritable(file);
     EXPECT_EQ(WriteFileAtomically(file, "neu"), allowed);
     EXPECT_EQ(ReadFileToString(file), allowed ? "neu" : "neuer");

@@ -1,4 +1,4 @@
-// Saves of a process that dies, at each call of the platform.
+// Kills a process at each system call of a save, and checks what is left on the disk.
 #include <array>
 #include <cstdlib>
 #include <utility>
@@ -13,7 +13,7 @@ namespace {
 constexpr const char* kWhen = "TARVELIN_KILL_AT";
 constexpr int kDead = 99;
 
-/// Ends its process at the n-th call, on the spot: nothing of ours is done any more.
+/// Ends its process at the n-th call at once, without any clean-up.
 class KillingFileSystem final : public FaultyFileSystem {
   public:
     explicit KillingFileSystem(int n) : FaultyFileSystem(n, FaultKind::Once) {}
@@ -24,7 +24,7 @@ class KillingFileSystem final : public FaultyFileSystem {
 
 TEST(AtomicWrite, RemovesWhatKilledProcessesLeft) {
     const TempFolder folder;
-    // No process has the highest number; the one with the lowest always runs, on one platform.
+    // No process has the first id. On Linux process 1 always runs, on Windows it never does.
     for (const char* const name : {".tarvelin-4194999.tmp", ".tarvelin-1.tmp", ".tarvelin-x.tmp"}) {
         WriteFile(folder / name, "halb");
     }
@@ -34,28 +34,28 @@ TEST(AtomicWrite, RemovesWhatKilledProcessesLeft) {
     EXPECT_TRUE(NativeFileSystem().IsRunning(NativeFileSystem().ProcessId()));
 }
 
-/// Two plans in turn, and a key of the configuration, in a folder that a process of its own shares.
+/// Saves one of two plans and a configuration key in a folder, also from a process of its own.
 class KilledSave : public testing::Test {
   protected:
-    static void Save(const std::filesystem::path& position, std::size_t which,
+    static void Save(const std::filesystem::path& folder, std::size_t which,
                      const FileSystem& system) {
-        // Saved in turn over each other they give the same bytes each time.
+        // A save keeps foreign lines: the bytes depend on what was there, and repeat if saved in
+        // turn.
         const std::array plans{PlanOf("GM GS GM GS"), PlanOf("GK GX:8:10:5 GD GD")};
-        static_cast<void>(SaveBauliste(position / "plan.tvf", plans.at(which), system));
-        Configuration(position, system)
-            .Write({{Configuration::kFirststart, std::to_string(which)}});
+        static_cast<void>(SaveBauliste(folder / "plan.tvf", plans.at(which), system));
+        Configuration(folder, system).Write({{Configuration::kFirststart, std::to_string(which)}});
     }
 
     [[nodiscard]] std::pair<std::string, std::string> Bytes() const {
         return {ReadFileToString(m_folder / "plan.tvf"), ReadFileToString(m_folder / "config.cfg")};
     }
 
-    /// Runs the save of the second plan in a process of its own. Whether it died at the n-th call.
+    /// Saves the second plan in a process that is to die at the n-th call. Whether it got that far.
     [[nodiscard]] bool DiesAt(int n) const {
-        const std::string position = kWhen + ("=" + std::to_string(n));
+        const std::string variable = kWhen + ("=" + std::to_string(n));
         const int code = Execute(
             m_folder,
-            (kWindows ? "set " + position + "&& " : position + " ") + Quoted(TARVELIN_TESTS) +
+            (kWindows ? "set " + variable + "&& " : variable + " ") + Quoted(TARVELIN_TESTS) +
                 " --gtest_also_run_disabled_tests --gtest_filter=KilledSave.DISABLED_Victim" +
                 (kWindows ? " >NUL" : " >/dev/null"));
         EXPECT_TRUE(code == kDead || code == 0) << code;
@@ -65,7 +65,7 @@ class KilledSave : public testing::Test {
     const TempFolder m_folder;
 };
 
-// Run by the other one.
+// The process that dies, started by DiesAt.
 TEST_F(KilledSave, DISABLED_Victim) {
     const char* const when = std::getenv(kWhen);
     ASSERT_NE(when, nullptr);
@@ -84,7 +84,7 @@ TEST_F(KilledSave, AtEachCallLeavesTheOldOrTheNewPlan) {
         const auto [plan, configuration] = Bytes();
         EXPECT_TRUE(plan == bytes[0].first || plan == bytes[1].first) << plan;
         EXPECT_TRUE(configuration == bytes[0].second || configuration == bytes[1].second);
-        EXPECT_LE(m_folder.Entries(), 3U);  // one that was being written
+        EXPECT_LE(m_folder.Entries(), 3U);  // perhaps with a temporary file
         Save(m_folder / "", 0, NativeFileSystem());
         EXPECT_EQ(Bytes(), bytes[0]);
         EXPECT_EQ(m_folder.Entries(), 2U);

@@ -1,4 +1,4 @@
-// What the tests of the window share: a window in a scripted world.
+// The fixture of the window tests: a main window in a scripted environment.
 #pragma once
 
 #include <QAbstractButton>
@@ -19,7 +19,7 @@
 
 namespace tarvelin {
 
-/// Keeps messages and questions, and answers at once.
+/// Records messages and questions, and answers at once.
 class FakeDialogs final : public Dialogs {
   public:
     void Show(const Message& message) override {
@@ -48,27 +48,27 @@ class FakeDialogs final : public Dialogs {
         }
         return answer && !closedAll;
     }
-    std::filesystem::path AskForFile(Purpose /*zweck*/,
+    std::filesystem::path AskForFile(Purpose /*purpose*/,
                                      const std::filesystem::path& folder) override {
         return file.empty() || closedAll ? std::filesystem::path() : folder / file;
     }
     void CloseAll() override { closedAll = true; }
 
     std::vector<std::string> texts;
-    /// Title and icon of each.
+    /// Title and icon of each message and question.
     std::vector<std::pair<std::string, MessageIcon>> headers;
     std::function<void()> onMessage;
     std::function<void()> onQuestion;
     bool answer = false;
-    /// The how manieth box with a check box gets it checked.
+    /// From which suppressible message on, counted from 1, the player suppresses the rest.
     int suppress = std::numeric_limits<int>::max();
     int suppressible = 0;
-    /// What the file dialogs answer, from their folder on.
+    /// The answer of file dialogs, relative to their folder; empty to cancel.
     std::filesystem::path file;
     bool closedAll = false;
 };
 
-/// Has the files of a table and no others; keeps what was asked.
+/// Serves the files of a table, and records the addresses asked for.
 class FakeFetcher final : public Fetcher {
   public:
     std::optional<std::string> Fetch(const std::string& address) override {
@@ -96,7 +96,7 @@ class FakeSound final : public Sound {
     std::vector<std::filesystem::path> played;
 };
 
-/// A move of the pointer over a control, whatever the screen's own pointer does.
+/// Moves the pointer over a control, wherever the screen's own pointer is.
 inline void MoveMouse(QWidget& widget, const QPoint& position) {
     QMouseEvent movement(QEvent::MouseMove, position, widget.mapToGlobal(position), Qt::NoButton,
                          {}, {});
@@ -105,14 +105,14 @@ inline void MoveMouse(QWidget& widget, const QPoint& position) {
 
 inline void CreateData(const std::filesystem::path& folder) {
     namespace fs = std::filesystem;
-    // One platform's library copies nothing to a name that ends with a slash.
+    // Without the dot, one standard library copies nothing to a path that ends with a slash.
     fs::copy(fs::path(TARVELIN_SOURCE_DIR) / "data", folder / ".",
              fs::copy_options::recursive | fs::copy_options::overwrite_existing);
     fs::remove(folder / "saves" / "basic.tvf");
 }
 
-/// The window on Saturday, 18 November 2006, in a folder of its own with the data of the
-/// repository, but for the starter plan.
+/// The main window on Saturday, 18 November 2006, in a folder of its own with the data of the
+/// repository except the starter plan.
 class MainWindow : public testing::Test {
   protected:
     MainWindow() {
@@ -140,7 +140,7 @@ class MainWindow : public testing::Test {
         QTest::keyClick(&input, Qt::Key_Delete);
         QTest::keyClicks(&input, QString::fromUtf8(text));
     }
-    /// The pointer comes over a picture, or moves on it.
+    /// Moves the pointer over a picture.
     void Show(const char* picture) {
         auto& widget = Find(picture);
         QTest::mouseMove(&widget, QPoint(1, 1));
@@ -151,18 +151,18 @@ class MainWindow : public testing::Test {
         return model->index(row, column).data().toString().toStdString();
     }
     int RowCount(const char* list) { return Find<QTreeView>(list).model()->rowCount(); }
-    /// Clears the list and drops items, told by their codes.
+    /// Clears the list and drops the items with these codes, separated by blanks.
     void Load(std::string_view codes) {
         Press("Cmd_Clear");
-        for (std::size_t initial = 0; initial < codes.size();) {
-            const std::size_t end = std::min(codes.find(' ', initial), codes.size());
-            const auto item = ItemFromCode(codes.substr(initial, end - initial));
+        for (std::size_t begin = 0; begin < codes.size();) {
+            const std::size_t end = std::min(codes.find(' ', begin), codes.size());
+            const auto item = ItemFromCode(codes.substr(begin, end - begin));
             emit Find<BuildListView>("LV_Bauliste")
                 .DragDrop(ToQString(ItemDisplays()[*item].pictureName));
-            initial = end + 1;
+            begin = end + 1;
         }
     }
-    /// Loads a plan through its file, which runs it.
+    /// Loads a plan from a file, which also runs it.
     void Load(const Plan& plan) {
         ASSERT_TRUE(SaveBauliste(m_folder / "plan.tvf", plan));
         m_window.LoadBauliste(m_folder / "plan.tvf", true);

@@ -1,4 +1,4 @@
-// The window's controls: places, words, handlers, keys.
+// Tests the controls of the main window: layout, texts, handlers, keys.
 #include <QAbstractItemModelTester>
 #include <QAccessible>
 #include <QClipboard>
@@ -22,14 +22,14 @@ constexpr const char* kPanels[] = {"Fra_Einstellungen", "Fra_Special", "Fra_Skin
 TEST_F(MainWindow, GroupsStandSideBySideAndPanelsAboveThem) {
     int right = -1;
     for (const char* const group : {"Frame8", "Frame3", "Frame1", "Frame9", "Frame4", "Frame6"}) {
-        const QRect slot = Find(group).geometry();
-        EXPECT_GT(slot.left(), right) << group;
-        EXPECT_TRUE(Find("Fra_Rest").rect().contains(slot)) << group;
-        right = slot.right();
+        const QRect groupRect = Find(group).geometry();
+        EXPECT_GT(groupRect.left(), right) << group;
+        EXPECT_TRUE(Find("Fra_Rest").rect().contains(groupRect)) << group;
+        right = groupRect.right();
     }
-    // 160 and 2 fifteenths of a pixel.
-    for (const char* const field : {"Fra_Special", "Fra_Skin", "Fra_Sleep"}) {
-        EXPECT_EQ(Find(field).pos(), QPoint(11, 0)) << field;
+    // Left 160, top 2, in fifteenths of a pixel.
+    for (const char* const panel : {"Fra_Special", "Fra_Skin", "Fra_Sleep"}) {
+        EXPECT_EQ(Find(panel).pos(), QPoint(11, 0)) << panel;
     }
     EXPECT_EQ(m_window.minimumSize(), m_window.maximumSize());
     EXPECT_EQ(m_window.size(), QSize(858, 335));
@@ -57,12 +57,12 @@ TEST_F(MainWindow, SmallScreenScrollsTheSurface) {
         << "what has the focus is in sight";
 }
 
-// Every widget that shows words has room for them, panels and groups in each state.
+// Every visible widget with a text has room for it, with all panels open.
 TEST_F(MainWindow, NoWordIsCutOff) {
     Load("GD GS GR GR GW");
     m_window.RunSimulation(true);
-    for (const char* const field : kPanels) {
-        Find(field).show();
+    for (const char* const panel : kPanels) {
+        Find(panel).show();
     }
     QCoreApplication::processEvents();
     for (const auto* const widget : m_window.findChildren<QWidget*>()) {
@@ -73,7 +73,7 @@ TEST_F(MainWindow, NoWordIsCutOff) {
         const QFontMetrics font = widget->fontMetrics();
         const int beside =
             widget->inherits("QCheckBox") || widget->inherits("QRadioButton") ? 20 : 0;
-        // Platforms hint a letter or two another way; what is beside the text has that much room.
+        // Windows hints some letters a pixel wider, for which there is room beside the text.
         const int shrinkage = kWindows ? 1 : 0;
         EXPECT_LE(font.horizontalAdvance(text) + beside - shrinkage, widget->width())
             << text.toStdString();
@@ -88,13 +88,13 @@ TEST_F(MainWindow, NoWordIsCutOff) {
     }
 }
 
-// A platform's font engine can lose letters.
+// Font engines can lose letters at small sizes.
 TEST_F(MainWindow, NoLetterIsMissing) {
     for (const int pixel :
          {QApplication::font().pixelSize(), 2 * QApplication::font().pixelSize()}) {
         QFont font = QApplication::font();
         font.setPixelSize(pixel);
-        const QRawFont character = QRawFont::fromFont(font);
+        const QRawFont rawFont = QRawFont::fromFont(font);
         for (const QChar letter : QStringLiteral(
                  "!\"#$%&'()*+,-./"
                  "0123456789:;<=>?@ABCDEFGHIJKLMNOPQRSTUVWXYZ[\\]^_`abcdefghijklmnopqrstuvwxyz"
@@ -107,7 +107,7 @@ TEST_F(MainWindow, NoLetterIsMissing) {
             painter.drawText(picture.rect(), Qt::AlignCenter, letter);
             painter.end();
             EXPECT_NE(picture, empty) << pixel << QString(letter).toStdString();
-            EXPECT_TRUE(character.supportsCharacter(letter)) << QString(letter).toStdString();
+            EXPECT_TRUE(rawFont.supportsCharacter(letter)) << QString(letter).toStdString();
         }
     }
 }
@@ -132,19 +132,19 @@ TEST_F(MainWindow, ListsHoldTheirLongestTexts) {
             sum += list.columnWidth(column);
             for (int row = 0; row < list.model()->rowCount(); ++row) {
                 const QString text = list.model()->index(row, column).data().toString();
-                // The style keeps at least one pixel on either side.
+                // The style leaves at least one pixel on either side.
                 const int margin =
                     list.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &list) + 1;
-                // A number and the name behind it stay apart.
-                const int distance = column == 0 && list.isHeaderHidden() ? 3 : 0;
-                EXPECT_LE(list.fontMetrics().horizontalAdvance(text) + 2 * margin + distance,
+                // A gap between the number and the name after it.
+                const int gap = column == 0 && list.isHeaderHidden() ? 3 : 0;
+                EXPECT_LE(list.fontMetrics().horizontalAdvance(text) + 2 * margin + gap,
                           list.columnWidth(column))
                     << name << ": " << text.toStdString();
             }
         }
         EXPECT_EQ(sum, list.viewport()->width()) << name;
     }
-    // A head has one line; what it cuts stands in its hint.
+    // A header has one line; a text that is cut off is in its tooltip.
     auto& header = *Find<QTreeView>("LV_Bauzeiten").header();
     EXPECT_LT(header.height(), 2 * header.fontMetrics().height());
     for (const auto& [column, hint] : {std::pair(0, "Wochentag"), std::pair(1, "")}) {
@@ -160,9 +160,9 @@ TEST_F(MainWindow, ListsHoldTheirLongestTexts) {
 TEST_F(MainWindow, PanelsExcludeEachOther) {
     struct Step {
         const char* entry;
-        /// Which of the four panels stand open afterwards.
+        /// Which of the four panels are open afterwards.
         std::vector<bool> open;
-        /// What the pointer meets where all of them overlap.
+        /// The topmost where all of them overlap.
         const char* front;
     };
     const std::vector<Step> steps{
@@ -186,10 +186,10 @@ TEST_F(MainWindow, PanelsExcludeEachOther) {
         {"Cmd_HideFraSpecial", "Fra_Special"},
         {"Cmd_HideSchlafzeiten", "Fra_Skin"},
         {"Cmd_HideSleep", "Fra_Sleep"}};
-    for (const auto& [button, field] : buttons) {
-        Find(field).show();
+    for (const auto& [button, panel] : buttons) {
+        Find(panel).show();
         Press(button);
-        EXPECT_FALSE(Find(field).isVisible()) << button;
+        EXPECT_FALSE(Find(panel).isVisible()) << button;
     }
 }
 
@@ -200,7 +200,7 @@ TEST_F(MainWindow, SkinListIsReadAtEachOpening) {
     }
     Environment environment = m_environment;
     environment.programFolder = folder / ".";
-    // Without any picture the window opens all the same.
+    // The folder has no pictures at all; the window opens all the same.
     frmMain window(environment);
     auto* const skins = window.findChild<QComboBox*>(QStringLiteral("Comb_Skins"));
     window.findChild<QAction*>(QStringLiteral("mnuSkin"))->trigger();
@@ -330,7 +330,7 @@ TEST_F(MainWindow, InputsCanBeEditedInTheMiddle) {
     QTest::keyClick(&year, Qt::Key_Z, Qt::ControlModifier);
     QTest::keyClick(&year, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(TextOf("txt_UniStartZeitJahr"), "2006");
-    // As a screen reader sets it.
+    // The way a screen reader sets it.
     year.setText(QStringLiteral("2007"));
     EXPECT_EQ(m_window.CurrentPlan().parameters.UniStartZeitJahr, "2007");
     EXPECT_EQ(TextOf("LBL_Weekday"), "So.");
@@ -344,7 +344,7 @@ TEST_F(MainWindow, InputsLimitTypingAndPastingOnly) {
     year.selectAll();
     year.paste();
     EXPECT_EQ(TextOf("txt_UniStartZeitJahr"), "2006");
-    // A plan's text stands as it is, can be shortened, and then counts as typed.
+    // A text that was loaded isn't cut, can be shortened, and is then limited like typed text.
     Plan plan = PlanOf("GM");
     plan.parameters.UniStartZeitTag = "00018";
     Load(plan);
@@ -405,7 +405,7 @@ TEST_F(MainWindow, WeekdayFollowsTheDateAndNotTheTime) {
     Type("txt_UniStartZeitStunden", "");
     m_window.RunSimulation(false);
     EXPECT_EQ(TextOf("LBL_Weekday"), "Fr.") << "nothing that it follows has changed";
-    // A load sets day, month and year before the hour, and refreshes at each.
+    // A load sets day, month and year before the hour, so the bad hour comes too late to matter.
     Type("txt_UniStartZeitStunden", "12");
     Plan plan = PlanOf("GM");
     plan.parameters.UniStartZeitTag = "16";
@@ -414,7 +414,7 @@ TEST_F(MainWindow, WeekdayFollowsTheDateAndNotTheTime) {
     EXPECT_EQ(TextOf("LBL_Weekday"), "Do.");
 }
 
-// The day is padded before the message about the date comes up.
+// The day is padded before the message about the date is shown.
 TEST_F(MainWindow, DateMessageShowsThePaddedDay) {
     Load("GM");
     Type("txt_UniStartZeitMinuten", "x");
@@ -451,7 +451,7 @@ TEST_F(MainWindow, SleepWindowsAreAddedAndRemoved) {
     EXPECT_EQ(Cell("LV_Schlafzeiten", 0, 1), "18.11.2006 23:30");
     Press("Cmd_AddSchlafzeit");
     EXPECT_EQ(m_dialogs.texts.back(), "Kein überschneidenden Zeiträumen eingegeben...");
-    // Another page takes the selected day along.
+    // Turning the page keeps the selected day of the month.
     auto& calendar = Find<QCalendarWidget>("SchlafKalender");
     calendar.showNextMonth();
     EXPECT_EQ(TextOf("LBL_Schlafendzeit"), "Mo.  18.12.2006 23:30");
@@ -487,9 +487,9 @@ TEST_F(MainWindow, SleepWindowsAreAddedAndRemoved) {
     for (const char* const minutes : {"10", "15", "20", "25", "30", "35", "40", "45", "50", "55"}) {
         Type("txt_SchlafStartMinuten", minutes);
         Press("Cmd_AddSchlafzeit");
-        const QRect fresh = list.visualRect(list.currentIndex());
+        const QRect newRow = list.visualRect(list.currentIndex());
         EXPECT_EQ(list.currentIndex().data().toString().right(2), QLatin1String(minutes));
-        EXPECT_TRUE(list.viewport()->rect().contains(fresh)) << minutes;
+        EXPECT_TRUE(list.viewport()->rect().contains(newRow)) << minutes;
     }
     m_dialogs.answer = true;
     Press("Cmd_ClearSchlafzeiten");
@@ -504,7 +504,7 @@ TEST_F(MainWindow, LongNumbersEndInDotsAndStandWholeInTheHint) {
     auto& metal = Find<QLabel>("LBL_Met");
     EXPECT_EQ(metal.toolTip(), metal.text());
     EXPECT_EQ(Find("LBL_ENergie").toolTip(), QString());
-    // Cut at its right alone.
+    // The text is cut at its right end only, whatever the alignment.
     metal.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     metal.setFixedWidth(metal.fontMetrics().horizontalAdvance(metal.text()) + 1);
     EXPECT_EQ(metal.toolTip(), QString());
@@ -512,21 +512,21 @@ TEST_F(MainWindow, LongNumbersEndInDotsAndStandWholeInTheHint) {
     metal.setFixedWidth(whole.width() - 8);
     EXPECT_EQ(metal.toolTip(), metal.text());
     metal.setAlignment(Qt::AlignCenter);
-    const QRect initial(0, 0, metal.width() / 2, metal.height());
+    const QRect leftHalf(0, 0, metal.width() / 2, metal.height());
     const QImage elided = metal.grab().toImage();
-    EXPECT_EQ(elided.copy(initial), whole.copy(initial));
+    EXPECT_EQ(elided.copy(leftHalf), whole.copy(leftHalf));
     EXPECT_NE(elided, whole.copy(metal.rect())) << "no ellipsis";
 }
 
-// The figures themselves are held against the console's in the play on a virtual screen.
+// tests/e2e compares the figures themselves with the console's.
 TEST_F(MainWindow, SimulationClosesThePanelsAndEachRowNamesItsReason) {
     Load("GS GM GM GM GM");
-    for (const char* const field : kPanels) {
-        Find(field).show();
+    for (const char* const panel : kPanels) {
+        Find(panel).show();
     }
     Press("Cmd_Simulate");
-    for (const char* const field : kPanels) {
-        EXPECT_FALSE(Find(field).isVisible()) << field;
+    for (const char* const panel : kPanels) {
+        EXPECT_FALSE(Find(panel).isVisible()) << panel;
     }
     ASSERT_EQ(RowCount("LV_Bauzeiten"), 5);
     EXPECT_TRUE(Find("LBL_Punkte").toolTip().startsWith(QStringLiteral("Inkl. Res.: ")));
@@ -534,8 +534,8 @@ TEST_F(MainWindow, SimulationClosesThePanelsAndEachRowNamesItsReason) {
     const QRect third = list.visualRect(list.model()->index(2, 0));
     MoveMouse(*list.viewport(), third.center());
     EXPECT_EQ(list.toolTip().toStdString(), m_window.CurrentRun().LV_Bauzeiten[2].Tag());
-    QEvent removed(QEvent::Leave);
-    QCoreApplication::sendEvent(list.viewport(), &removed);
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(list.viewport(), &leave);
     EXPECT_EQ(list.toolTip(), QString()) << "over the head or the bar";
     MoveMouse(*list.viewport(), third.center() + QPoint(1, 0));
     EXPECT_NE(list.toolTip(), QString());
@@ -558,7 +558,7 @@ TEST_F(MainWindow, ClearAndInputErrorsLeaveTheRest) {
     EXPECT_EQ(RowCount("LV_Bauzeiten"), 1);
 }
 
-// A message in the middle of a run comes with the rows so far, and with what the reset wrote.
+// While a message of a run is open, the window shows the rows so far and the texts of the reset.
 TEST_F(MainWindow, MessageInARunShowsTheRunSoFar) {
     Load("GM");
     m_window.RunSimulation(true);
@@ -568,11 +568,11 @@ TEST_F(MainWindow, MessageInARunShowsTheRunSoFar) {
         EXPECT_EQ(TextOf("LBL_Punkte"), "0");
         EXPECT_EQ(TextOf("LBL_Timegone2"), "Dauer: dd:hh:mm:ss");
     };
-    // The lab costs deuterium, which nothing yields.
+    // The lab costs deuterium, and there is no deuterium mine.
     Load("GF GM");
     m_window.RunSimulation(true);
     EXPECT_EQ(messages, 2);
-    // From the second one on the player can do without the rest of this run.
+    // The second message and later ones let the player suppress the rest of the run's.
     m_dialogs.onMessage = nullptr;
     Load("GF GM GM GM GM");
     for (const int suppress : {1, 2}) {
@@ -602,9 +602,9 @@ TEST_F(MainWindow, NewRunBeginsWithAnEmptyList) {
 TEST_F(MainWindow, EnterPressesAButtonEverywhere) {
     int runs = 0;
     for (auto* const widget : m_window.findChildren<QWidget*>()) {
-        // A run closes the panels.
-        for (const char* const field : kPanels) {
-            Find(field).show();
+        // Each run closes the panels.
+        for (const char* const panel : kPanels) {
+            Find(panel).show();
         }
         const auto* const button = qobject_cast<QAbstractButton*>(widget);
         const bool pushButton = button != nullptr && button->inherits("QPushButton");
@@ -619,7 +619,7 @@ TEST_F(MainWindow, EnterPressesAButtonEverywhere) {
         ++runs;
     }
     EXPECT_GT(runs, 40);
-    // A button that has the focus takes the key itself.
+    // A focused button handles Enter itself.
     m_dialogs.texts.clear();
     Find("Fra_Special").show();
     QTest::keyClick(&Find("Cmd_AddProdaenderungsevent"), Qt::Key_Return);
@@ -627,7 +627,7 @@ TEST_F(MainWindow, EnterPressesAButtonEverywhere) {
     EXPECT_TRUE(m_dialogs.texts.empty());
 }
 
-// A button that was clicked keeps the focus, but not Enter.
+// A clicked button keeps the focus, but Enter goes to the default button.
 TEST_F(MainWindow, MousePressGivesEnterBack) {
     const auto enter = [&] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); };
     const auto tabTo = [&](const char* name) {
@@ -664,21 +664,21 @@ TEST_F(MainWindow, MousePressGivesEnterBack) {
 }
 
 TEST_F(MainWindow, TabReachesEverythingInOrderAndEverythingHasAName) {
-    for (const char* const field : kPanels) {
-        Find(field).show();
+    for (const char* const panel : kPanels) {
+        Find(panel).show();
     }
     QSet<QWidget*> reached;
-    std::vector<std::string> series;
+    std::vector<std::string> names;
     Find("LV_Bauliste").setFocus();
     while (!reached.contains(QApplication::focusWidget())) {
         reached.insert(QApplication::focusWidget());
-        series.push_back(QApplication::focusWidget()->objectName().toStdString());
+        names.push_back(QApplication::focusWidget()->objectName().toStdString());
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
     for (auto* const widget : m_window.findChildren<QWidget*>()) {
-        const bool chosen =
+        const bool tabStop =
             !widget->inherits("QRadioButton") || widget->property("checked").toBool();
-        if (!widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus) || !chosen ||
+        if (!widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus) || !tabStop ||
             !widget->isEnabled() || widget->focusProxy() != nullptr) {
             continue;
         }
@@ -690,7 +690,7 @@ TEST_F(MainWindow, TabReachesEverythingInOrderAndEverythingHasAName) {
                      !widget->parent()->inherits("QComboBox"))
             << widget->objectName().toStdString();
     }
-    const auto position = [&](const char* name) { return std::ranges::find(series, name); };
+    const auto position = [&](const char* name) { return std::ranges::find(names, name); };
     EXPECT_LT(position("Cmd_Simulate"), position("ImgMetMine"));
     EXPECT_LT(position("ImgMetMine"), position("imgSpios"));
     EXPECT_LT(position("imgSpios"), position("LV_Bauzeiten"));
@@ -716,7 +716,7 @@ TEST_F(MainWindow, SharedLettersCycleThroughTheMenu) {
     QTest::keyClick(menu, Qt::Key_Escape);
     EXPECT_EQ(QApplication::focusWidget(), &Find("LV_Bauliste"));
     EXPECT_FALSE(Find("Fra_Skin").isVisible());
-    // A click elsewhere ends the walk, and the focus never goes to what a panel took away.
+    // A click elsewhere leaves the menu, and the focus never goes to a hidden control.
     press(Qt::Key_S);
     QTest::mouseClick(&Find("Frame9"), Qt::LeftButton);
     EXPECT_EQ(menu->activeAction(), nullptr);

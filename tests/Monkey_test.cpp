@@ -1,5 +1,5 @@
-// A monkey at the window: it clicks, types and drops at random, with fixed seeds. Nothing may
-// crash, say what the program never says, or show another list than the plan has.
+// Lets a monkey click, type and drop at random in the window, with fixed seeds. Nothing may crash,
+// no unknown message may come up, and the list must show the plan.
 #include <QRegularExpression>
 #include <random>
 
@@ -9,8 +9,7 @@
 namespace tarvelin {
 namespace {
 
-/// Every text that a box can have; but not what a run says of orders that it doesn't know, which no
-/// player can give.
+/// All texts of message boxes, without those about unknown orders, which no player can give.
 const std::vector<const char*> kTexts{
     "Die Bauliste ist leer\\.\\.\\.",
     "Die Bauliste ist voll: mehr als 254 Einträge sind nicht möglich\\.\\.\\.",
@@ -38,7 +37,7 @@ class Monkey : public MainWindow {
     QWidget& AnyWidget() {
         QList<QWidget*> visible;
         for (auto* const widget : m_window.findChildren<QWidget*>()) {
-            // The calendar's menu of months waits for its answer.
+            // The calendar's menu of months would block until it is answered.
             if (widget->isVisible() && widget->isEnabled() && !widget->inherits("QToolButton")) {
                 visible.append(widget);
             }
@@ -64,8 +63,9 @@ class Monkey : public MainWindow {
             return;
         }
         if (Below(2) == 0) {
-            const Qt::KeyboardModifiers before = Below(6) == 0 ? Qt::AltModifier : Qt::NoModifier;
-            QTest::keyClick(target, kKeys[Below(kKeys.size())], before);
+            const Qt::KeyboardModifiers modifiers =
+                Below(6) == 0 ? Qt::AltModifier : Qt::NoModifier;
+            QTest::keyClick(target, kKeys[Below(kKeys.size())], modifiers);
         } else {
             constexpr std::string_view kCharacters = "0123456789+-,.x;=[";
             QTest::keyClick(target, kCharacters[Below(kCharacters.size())]);

@@ -1,4 +1,4 @@
-// All orders of a small plan, but for those that can't be the best.
+// Proves the optimum of a small plan by branch and bound.
 #include "OptimumProof.h"
 
 #include <algorithm>
@@ -14,14 +14,14 @@ namespace tarvelin {
 
 namespace {
 
-/// Whether an order started that can't be paid, or whose gate was shut.
+/// Notices an order that started without enough resources or behind a closed gate.
 class Referee final : public RunObserver {
   public:
     void OnStart(const StartEvent& event) override {
         started = event.row + 1;
         good = good && !event.gateClosed;
     }
-    void OnNegativeStock(const GameState& /*stand*/) override { good = false; }
+    void OnNegativeStock(const GameState& /*state*/) override { good = false; }
 
     std::size_t started = 0;
     bool good = true;
@@ -32,8 +32,8 @@ class BranchAndBound {
     explicit BranchAndBound(const SearchTask& task)
         : m_conditions(task.conditions),
           m_remaining(task.orders),
-          m_later(Simulation({}, task.conditions).State()) {
-        m_later.Stufe = FinalLevels(task.orders);
+          m_final(Simulation({}, task.conditions).State()) {
+        m_final.Stufe = FinalLevels(task.orders);
     }
 
     Long Run() {
@@ -56,13 +56,13 @@ class BranchAndBound {
             if (tried[order.item] || !IsAllowed(order.item, m_levels)) {
                 continue;
             }
-            // Equal orders are one.
+            // Equal orders needn't be tried twice at the same position.
             tried[order.item] = true;
             m_remaining.erase(m_remaining.begin() + static_cast<std::ptrdiff_t>(i));
             m_list.push_back(order);
             ++m_levels[order.item];
-            if (const auto further = Play(simulation, m_list.size())) {
-                Deepen(*further);
+            if (const auto next = Play(simulation, m_list.size())) {
+                Deepen(*next);
             }
             --m_levels[order.item];
             m_list.pop_back();
@@ -70,7 +70,8 @@ class BranchAndBound {
         }
     }
 
-    /// Goes on until so many orders have started, or to the end. Nothing if one can't.
+    /// Runs on until `starts` orders have started, or to the end. Nothing if one of them was
+    /// invalid.
     std::optional<Simulation> Play(Simulation simulation, std::size_t starts) {
         simulation.ReplaceOrders(m_list);
         Referee referee;
@@ -86,24 +87,24 @@ class BranchAndBound {
         return simulation;
     }
 
-    /// What each queue has still to do, one order after the other and each as quick as it gets with
-    /// all facilities.
+    /// A lower bound of the end: each queue works through its remaining orders without a wait, as
+    /// fast as with all facilities that the plan will ever have.
     [[nodiscard]] Long EarliestEnd(const GameState& state) const {
         PerQueue<double> end{};
         PerItem<Byte> levels = m_levels;
         for (const Order& order : m_remaining) {
             const ItemRow& row = RowOf(order.item);
             const Cost& cost = CostOf(order.item, levels[order.item]++);
-            end[order.queue] += row.upgradeTime(cost, m_later, m_conditions);
+            end[order.queue] += row.upgradeTime(cost, m_final, m_conditions);
         }
         double latest = 0;
         for (const Order& order : m_remaining) {
-            // Its queue's finish, before the buffer that keeps it busy.
+            // FertigZeit includes the click buffer after the finish.
             const auto free = static_cast<double>(state.FertigZeit[order.queue].Seconds()) - 1 -
                               static_cast<double>(m_conditions.KlickPuffer);
             latest = std::max(latest, end[order.queue] + std::max(0.0, free));
         }
-        // Durations are rounded.
+        // Each duration may have been rounded up.
         return static_cast<Long>(latest) - static_cast<Long>(m_remaining.size());
     }
 
@@ -111,40 +112,38 @@ class BranchAndBound {
     std::vector<Order> m_remaining;
     std::vector<Order> m_list;
     PerItem<Byte> m_levels{};
-    /// With all levels that the plan will ever have.
-    GameState m_later;
+    /// The state with all final levels of the plan.
+    GameState m_final;
     Long m_best = std::numeric_limits<Long>::max();
 };
 
 }  // namespace
 
 SearchTask SmallPlan(unsigned seed) {
-    constexpr std::array<ItemId, 12> kInitial{ItemId::MetMine,  ItemId::MetMine,  ItemId::KrisMine,
-                                              ItemId::KrisMine, ItemId::DeutMine, ItemId::SKW,
-                                              ItemId::SKW,      ItemId::Robo,     ItemId::Werft,
-                                              ItemId::Folab,    ItemId::Solsats,  ItemId::ENTech};
-    std::mt19937 source(seed);
-    const auto until = [&source](unsigned highest) {
-        return static_cast<Long>(source() % (highest + 1));
-    };
+    constexpr std::array<ItemId, 12> kEarlyItems{
+        ItemId::MetMine,  ItemId::MetMine, ItemId::KrisMine, ItemId::KrisMine,
+        ItemId::DeutMine, ItemId::SKW,     ItemId::SKW,      ItemId::Robo,
+        ItemId::Werft,    ItemId::Folab,   ItemId::Solsats,  ItemId::ENTech};
+    std::mt19937 random(seed);
+    const auto upTo = [&random](unsigned max) { return static_cast<Long>(random() % (max + 1)); };
     SearchTask task;
-    RunConditions& world = task.conditions;
-    world.Speedfaktor = 1 + until(1);
-    world.Temperatur = static_cast<Integer>(until(160) - 60);
-    world.KlickPuffer = until(1) * until(600);
-    world.StartDate = *ParseDateTime("18.11.2026 12:30:00");
+    RunConditions& conditions = task.conditions;
+    conditions.Speedfaktor = 1 + upTo(1);
+    conditions.Temperatur = static_cast<Integer>(upTo(160) - 60);
+    conditions.KlickPuffer = upTo(1) * upTo(600);
+    conditions.StartDate = *ParseDateTime("18.11.2026 12:30:00");
     constexpr Long kHour = 3600;
     constexpr Long kNights = 4;
-    const Long sleep = until(1) * (6 + until(3)) * kHour;
+    const Long sleep = upTo(1) * (6 + upTo(3)) * kHour;
     for (Long night = 0; sleep > 0 && night < kNights; ++night) {
-        const DateTime evening = world.StartDate + (9 + 24 * night) * kHour;
-        world.Schlafzeiten.emplace_back(evening, evening + sleep);
+        const DateTime evening = conditions.StartDate + (9 + 24 * night) * kHour;
+        conditions.Schlafzeiten.emplace_back(evening, evening + sleep);
     }
     OrderList list;
-    for (Long number = 8 + until(2); static_cast<Long>(list.Size()) < number;) {
-        const ItemId item = until(3) == 0
-                                ? static_cast<ItemId>(until(kNumItems - 1))
-                                : kInitial[static_cast<std::size_t>(until(kInitial.size() - 1))];
+    for (Long count = 8 + upTo(2); static_cast<Long>(list.Size()) < count;) {
+        const ItemId item =
+            upTo(3) == 0 ? static_cast<ItemId>(upTo(kNumItems - 1))
+                         : kEarlyItems[static_cast<std::size_t>(upTo(kEarlyItems.size() - 1))];
         if (!Refusal(item, list)) {
             list.Append(Order::Of(item));
         }

@@ -1,4 +1,4 @@
-// Small plans and their proved optimum, for the tests and benchmarks of the search.
+// Makes small plans and proves their optimum, for the tests and benchmarks of the search.
 #pragma once
 
 #include <optional>
@@ -7,12 +7,12 @@
 
 namespace tarvelin {
 
-/// A random plan of 8 to 10 orders that the rules of the list accept: hot and cold planets, quick
-/// and slow players, both speeds, with and without nights. One number, one plan.
+/// A random plan of 8 to 10 orders that keeps the rules of the list: hot and cold planets, short
+/// and long click buffers, both speeds, with and without nights. A seed always gives the same plan.
 [[nodiscard]] SearchTask SmallPlan(unsigned seed);
 
-/// The shortest duration of all orders of a task's orders, by depth-first branch and bound.
-/// Nothing if no order of them ends.
+/// The shortest duration among all sequences of a task's orders, by depth-first branch and bound.
+/// Nothing if none of them ends.
 [[nodiscard]] std::optional<Long> ProvenDuration(const SearchTask& task);
 
 }  // namespace tarvelin

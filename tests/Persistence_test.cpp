@@ -1,4 +1,4 @@
-// Configuration, alarms' clockwork and the choice of the program's folder.
+// Tests the configuration, due alarms, the program's folder and the autosave.
 #include <optional>
 
 #include "FaultyFileSystem.h"
@@ -16,7 +16,7 @@ TEST(Configuration, RecoversAsAnsweredBefore) {
     using enum Recovery;
     const TempFolder folder;
     const Configuration configuration(folder / "");
-    // By `AlwaysDoSo` from left to right; nothing stands for a key that is missing.
+    // The values of `AlwaysDoSo`, one for each column; nullptr is a missing key.
     const std::array<const char*, 5> always{nullptr, "0", "1", "ja", ""};
     const std::vector<std::pair<const char*, std::array<Recovery, 5>>> cases{
         {nullptr, {Ask, Ask, Always, Never, Never}},
@@ -50,7 +50,7 @@ TEST(Configuration, MissingKeysReadAsTheDefault) {
           std::pair(Configuration::kAlwaysDoSo, "0")}) {
         EXPECT_EQ(configuration.Read(key), fallback) << key.Key;
     }
-    // Another spelling leads to the same place.
+    // Upper and lower case are the same.
     WriteFile(folder / "config.cfg", "[skinsettings]\nwebpath=http://x\n");
     EXPECT_EQ(configuration.Read(Configuration::kWebPath), "http://x");
 }
@@ -74,7 +74,7 @@ TEST(Configuration, SoundIsInTheProgramFolderOrAtAnAbsolutePath) {
     EXPECT_EQ(configuration.Alertsound(), folder / "mfx/alert.wav");
     struct Case {
         const char* value;
-        /// From the program's folder; empty if the path stays.
+        /// Relative to the program's folder; empty if the path is absolute.
         const char* posix;
         const char* windows;
     };
@@ -102,7 +102,7 @@ TEST(Configuration, KeepsForeignLinesAndWorksWithoutAFolder) {
     ASSERT_TRUE(Configuration(folder / "").Write({{Configuration::kFirststart, "0"}}));
     EXPECT_EQ(ReadFileToString(folder / "config.cfg"),
               "; von Hand\r\n[Settings]\r\nEigenes=1\r\nFirststart=0\r\n");
-    // A folder can have such a name.
+    // A folder may have a line end in its name.
     ASSERT_TRUE(
         Configuration(folder / "").Write({{Configuration::kPath, "a\n[Settings]\nFirststart=1"}}));
     EXPECT_EQ(Configuration(folder / "").Read(Configuration::kPath), "a");
@@ -150,7 +150,7 @@ TEST(FileSystem, ListsSubfolders) {
     }
     WriteFile(folder / "datei", "x");
     if (kWindows) {
-        // A name hides nothing there.
+        // A leading dot hides nothing on Windows.
         std::filesystem::remove(folder / ".versteckt");
     } else {
         std::filesystem::create_directory_symlink(folder / "blau", folder / "zeiger");
@@ -161,10 +161,10 @@ TEST(FileSystem, ListsSubfolders) {
     EXPECT_FALSE(FileExists(folder / "fehlt"));
 }
 
-/// A folder with the data of a program, as small as it goes.
+/// Makes a folder with the least of a program's data.
 void CreateData(const std::filesystem::path& folder) {
-    for (const char* const under : {"img/skins/temp_webskin/images", "mfx", "saves"}) {
-        std::filesystem::create_directories(folder / under);
+    for (const char* const subfolder : {"img/skins/temp_webskin/images", "mfx", "saves"}) {
+        std::filesystem::create_directories(folder / subfolder);
     }
     WriteFile(folder / "img" / "icon.ico", "icon");
     WriteFile(folder / "mfx" / "alert.wav", "ton");
@@ -187,7 +187,7 @@ TEST(ProgramFolder, InstalledProgramCopiesItsFilesToTheUser) {
     EXPECT_EQ(ReadFileToString(user / "saves" / "basic.tvf"), "plan");
     EXPECT_TRUE(std::filesystem::is_directory(user / "img/skins/temp_webskin/images"));
 
-    // The user's own files stay, a lost one comes back, the starter plan doesn't.
+    // Files of the user's own stay and missing ones are restored, but for the starter plan.
     WriteFile(user / "mfx" / "alert.wav", "eigener Ton");
     WriteFile(user / "config.cfg", "[Settings]\r\nFirststart=0\r\n");
     std::filesystem::remove(user / "img" / "icon.ico");
@@ -206,13 +206,13 @@ TEST(ProgramFolder, ReadsItsOwnFilesWithoutAUserFolder) {
     WriteFile(folder / "datei", "");
     std::filesystem::create_directories(folder / "voll" / "img");
     WriteFile(folder / "voll" / "mfx", "");
-    // There is none, it can't be made, or has no room for all; nothing is thrown.
+    // The user's folder is missing, can't be made, or can't take all files; nothing is thrown.
     for (const auto& user : {std::filesystem::path(), folder / "datei" / "x", folder / "voll"}) {
         const ProgramFolder chosen = ResolveProgramFolder(folder / "bin", user);
         EXPECT_EQ(chosen.TempFolder, own) << user;
         EXPECT_FALSE(chosen.canKeep) << user;
     }
-    // Where plans lie the user keeps them in sight.
+    // If the user's folder has plans, it is used all the same, so that they stay in sight.
     for (const char* const file : {"basic.tvf", "meiner.tvf"}) {
         WriteFile(folder / "voll" / "saves" / file, "plan");
         const ProgramFolder chosen = ResolveProgramFolder(folder / "bin", folder / "voll");
@@ -267,13 +267,13 @@ TEST(Autosave, KeepsTheLastFiveReplacedPlans) {
     const TempFolder folder;
     const Autosave autosave(folder / "");
     const auto kept = [&] {
-        std::string figures;
+        std::string counts;
         for (const char* const n : {"1", "2", "3", "4", "5", "6"}) {
             const auto profile =
                 IniFile::Load(folder / "saves" / (std::string("ersetzt-") + n + ".tvf"));
-            figures += profile ? profile->ReadINI("Bauliste", "ItemCount", "?") : "-";
+            counts += profile ? profile->ReadINI("Bauliste", "ItemCount", "?") : "-";
         }
-        return figures;
+        return counts;
     };
     std::string codes;
     for (const char* const expected :
@@ -287,7 +287,7 @@ TEST(Autosave, KeepsTheLastFiveReplacedPlans) {
     std::filesystem::remove(folder / "saves" / "ersetzt-3.tvf");
     autosave.KeepReplaced(PlanOf("GM"));
     EXPECT_EQ(kept(), "16532-") << "a gap is filled before the oldest goes";
-    // Whichever call fails, all that was there is there, and mostly the new one as well.
+    // Whichever call fails, no plan that was there is lost.
     for (int n = 1;; ++n) {
         std::filesystem::remove_all(folder / "saves");
         for (const char* const plan : {"GM", "GM GM", "GM GM GM"}) {
@@ -308,7 +308,7 @@ TEST(Autosave, KeepsTheLastFiveReplacedPlans) {
     EXPECT_FALSE(autosave.IsOwnFile(folder / "saves" / "ersetzt-6.tvf"));
 }
 
-/// The steps of a session, and the plans that lie there after each; "" for none.
+/// Plans of several sessions, with the rows of both files after each write; "" for no file.
 TEST(Autosave, KeepsThePlanOfTheLastSession) {
     const TempFolder folder;
     std::filesystem::create_directory(folder / "saves");
@@ -335,14 +335,14 @@ TEST(Autosave, KeepsThePlanOfTheLastSession) {
         EXPECT_EQ(rows("autosave.tvf"), plan);
         EXPECT_EQ(rows("autosave-vorige.tvf"), previous);
     }
-    // What was tried in vain is tried again when it changes, and at the end.
+    // A failed write is repeated only when the plan changes, and at the end.
     const auto file = folder / "saves" / "autosave.tvf";
     const FaultyFileSystem broken(1, FaultKind::EverythingForever);
     Autosave disturbed(folder / "", broken);
     disturbed.WriteIfChanged(PlanOf("GM"));
-    EXPECT_EQ(broken.Faulty(), "LegeOrdnerAn");
-    // Where the last plan can't be kept under its name it gets another, and else stays until the
-    // end.
+    EXPECT_EQ(broken.Faulty(), "CreateFolders");
+    // If the previous plan can't be kept under its name, it gets another one. If that fails
+    // too, it isn't overwritten before the program ends.
     const auto block = [&](const char* name) {
         std::filesystem::remove(folder / "saves" / name);
         std::filesystem::create_directories(folder / "saves" / name / "x");

@@ -1,4 +1,4 @@
-// Save files: format, laws of saving and loading, hostile bytes.
+// Tests plan files: format, unusable values, saving, UTF-16.
 #include "PlanLaws.h"
 #include "TestSupport.h"
 
@@ -6,12 +6,12 @@ namespace tarvelin {
 namespace {
 
 struct LoadResult {
-    Plan loaded;
+    Plan plan;
     MessageRecorder messages;
-    bool plan;
+    bool succeeded;
 
     explicit LoadResult(std::string_view bytes)
-        : plan(ReadPlan(IniFile(bytes), loaded, RunConditions(), messages)) {}
+        : succeeded(ReadPlan(IniFile(bytes), plan, RunConditions(), messages)) {}
 };
 
 std::string Bytes(const Plan& plan, std::string_view before = "") {
@@ -34,7 +34,7 @@ const std::string kExample =
     "Item_003=GX:8:10:5\r\n[Schlafzeiten]\r\nItemCount=1\r\nItem_001=18.11.2006 22:00\r\n"
     "SubItem_001=19.11.2006 06:00\r\n";
 
-/// The example with one line changed, or taken out where `after` is empty.
+/// The example with one line replaced, or removed if `after` is empty.
 std::string With(const std::string& before, const std::string& after) {
     std::string bytes = kExample;
     const auto position = bytes.find(before);
@@ -49,7 +49,7 @@ TEST(PlanFile, HasTheDocumentedFormat) {
     const std::string above = Bytes(shortPlan, kExample);
     EXPECT_NE(above.find("ItemCount=2\r\nItem_001=GM\r\nItem_002=GS\r\nItem_003=GX:8:10:5"),
               std::string::npos);
-    EXPECT_EQ(LoadResult(above).loaded.LV_Bauliste.Rows().size(), 2U);
+    EXPECT_EQ(LoadResult(above).plan.LV_Bauliste.Rows().size(), 2U);
     EXPECT_EQ(WindowTitleFor("/ein/Ordner/x.y.tvf"),
               "Tarvelin  |  Kelva Aufbau-Simulator      ( x.y.tvf )");
 }
@@ -82,11 +82,11 @@ TEST(PlanFile, StopsAtTheFirstUnusableValue) {
     for (const Case& testCase : cases) {
         SCOPED_TRACE(std::string(testCase.before) + " " + testCase.after);
         const LoadResult loaded(With(testCase.before, testCase.after));
-        EXPECT_FALSE(loaded.plan);
+        EXPECT_FALSE(loaded.succeeded);
         EXPECT_EQ(loaded.messages.texts,
                   std::vector<std::string>{"Die Bauliste konnte nicht geladen werden..."});
-        EXPECT_EQ(loaded.loaded.LV_Bauliste.Rows().size(), testCase.rows);
-        EXPECT_EQ(loaded.loaded.LV_Schlafzeiten.size(), testCase.sleepRows);
+        EXPECT_EQ(loaded.plan.LV_Bauliste.Rows().size(), testCase.rows);
+        EXPECT_EQ(loaded.plan.LV_Schlafzeiten.size(), testCase.sleepRows);
         EXPECT_EQ(LoadObstacle(IniFile(With(testCase.before, testCase.after))), testCase.obstacle);
     }
     EXPECT_EQ(LoadObstacle(IniFile(kExample)), "");
@@ -95,22 +95,22 @@ TEST(PlanFile, StopsAtTheFirstUnusableValue) {
 }
 
 TEST(PlanFile, ReadsWhatIsUsable) {
-    EXPECT_FALSE(LoadResult(With("ShowDesc=1", "ShowDesc=0,0")).loaded.ShowDesc);
-    EXPECT_TRUE(LoadResult(With("ShowDesc=1", "ShowDesc=-7")).loaded.ShowDesc);
+    EXPECT_FALSE(LoadResult(With("ShowDesc=1", "ShowDesc=0,0")).plan.ShowDesc);
+    EXPECT_TRUE(LoadResult(With("ShowDesc=1", "ShowDesc=-7")).plan.ShowDesc);
     EXPECT_TRUE(
-        LoadResult(With("Speedfaktor_X2=0", "Speedfaktor_X2=1")).loaded.parameters.Speedfaktor_X2);
+        LoadResult(With("Speedfaktor_X2=0", "Speedfaktor_X2=1")).plan.parameters.Speedfaktor_X2);
     EXPECT_FALSE(
-        LoadResult(With("Speedfaktor_X2=0", "Speedfaktor_X2=01")).loaded.parameters.Speedfaktor_X2);
-    EXPECT_FALSE(LoadResult(With("Speedfaktor_X2=0", "")).loaded.parameters.Speedfaktor_X2);
+        LoadResult(With("Speedfaktor_X2=0", "Speedfaktor_X2=01")).plan.parameters.Speedfaktor_X2);
+    EXPECT_FALSE(LoadResult(With("Speedfaktor_X2=0", "")).plan.parameters.Speedfaktor_X2);
     const LoadResult cold(With("TempMax=11", "TempMax=-20,5"));
-    EXPECT_EQ(cold.loaded.parameters.tempMin, "-60,5");
+    EXPECT_EQ(cold.plan.parameters.tempMin, "-60,5");
     const LoadResult withoutDate(With("UniStartZeitTag=18", "UniStartZeitTag=31"));
-    EXPECT_TRUE(withoutDate.plan);
-    EXPECT_FALSE(TestRun(withoutDate.loaded).succeeded);
+    EXPECT_TRUE(withoutDate.succeeded);
+    EXPECT_FALSE(TestRun(withoutDate.plan).succeeded);
     const LoadResult sign(With("Item_003=GX:8:10:5", "Item_003=GX:+8:010: 5 :x"));
-    EXPECT_EQ(sign.loaded.LV_Bauliste.Rows()[2].Tag, "GX:+8:010: 5 :x");
-    EXPECT_EQ(sign.loaded.LV_Bauliste.Rows()[2].SubItems1, "M:80% K:100% D:50%");
-    EXPECT_EQ(TestRun(sign.loaded).run.LV_Bauzeiten[2].theText(), "80% 100% 50%");
+    EXPECT_EQ(sign.plan.LV_Bauliste.Rows()[2].Tag, "GX:+8:010: 5 :x");
+    EXPECT_EQ(sign.plan.LV_Bauliste.Rows()[2].SubItems1, "M:80% K:100% D:50%");
+    EXPECT_EQ(TestRun(sign.plan).run.LV_Bauzeiten[2].theText(), "80% 100% 50%");
 }
 
 TEST(PlanFile, WritesTheFileOrNothing) {
@@ -134,8 +134,8 @@ TEST(PlanFile, StaysUtf16) {
     for (const bool highFirst : {false, true}) {
         WriteFile(file, ToUtf16Bytes({golden.begin(), golden.end()}, highFirst));
         const LoadResult loaded(ReadFileToString(file));
-        EXPECT_TRUE(loaded.plan);
-        EXPECT_EQ(ResultText(loaded.loaded), ResultText(original.loaded));
+        EXPECT_TRUE(loaded.succeeded);
+        EXPECT_EQ(ResultText(loaded.plan), ResultText(original.plan));
         ASSERT_TRUE(SaveBauliste(file, Example()));
         EXPECT_EQ(ReadFileToString(file), ToUtf16Bytes({after.begin(), after.end()}, highFirst));
     }

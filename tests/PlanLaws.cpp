@@ -1,4 +1,4 @@
-// The laws, each on a run of its own.
+// Checks the laws, each on a run of its own.
 #include "PlanLaws.h"
 
 #include <algorithm>
@@ -33,24 +33,24 @@ constexpr SimTime kEndOfClock(std::numeric_limits<Long>::max());
 
 class NullSink final : public MessageSink {
   public:
-    void Show(const Message& /*meldung*/) override {}
+    void Show(const Message& /*message*/) override {}
     void Beep() override {}
 };
 
-/// All that a run tells, and the state behind each of its steps.
+/// Records all that a run reports, and the state after each of its steps.
 class EventLog final : public RunObserver {
   public:
     void OnStart(const StartEvent& event) override {
         starts.push_back(event);
         startEvents.push_back(states.size());
     }
-    void OnNegativeStock(const GameState& /*stand*/) override {
+    void OnNegativeStock(const GameState& /*state*/) override {
         negativeStockEvents.push_back(states.size());
     }
     void OnStepDone(const GameState& state) override { states.push_back(state); }
 
     std::vector<StartEvent> starts;
-    /// The step of each start, and of each debt that was told.
+    /// The step of each start, and of each report of a negative stock.
     std::vector<std::size_t> startEvents;
     std::vector<std::size_t> negativeStockEvents;
     std::vector<GameState> states;
@@ -79,14 +79,14 @@ bool IsSavable(const Plan& plan) {
                                [](const BuildListRow& row) { return ComesBack(row.Tag); });
 }
 
-/// The conditions of a plan's run, or some where it has none.
+/// The conditions of a plan's run, or default ones if its inputs are unusable.
 RunConditions ConditionsOf(const Plan& plan) {
     const auto conditions = ParseRunConditions(plan);
     const auto* const parsed = std::get_if<RunConditions>(&conditions);
     return parsed == nullptr ? RunConditions{.Speedfaktor = 1} : *parsed;
 }
 
-/// What goes on from a point of the history, less what the start of that step costs.
+/// The stock as the history predicts it, less the costs of the order that started in this step.
 PerResource<FixedPoint> StockAfterStep(const GameState& before, const GameState& after,
                                        const StartEvent* start) {
     const HistoryRecorder recorder(before);
@@ -119,7 +119,7 @@ Finding CheckStocks(const EventLog& log, const GameState& initial) {
     return {};
 }
 
-/// The code's first letter names the queue, whatever the run thinks.
+/// Takes the queue from the code's first letter, independently of the run.
 Finding CheckQueues(const EventLog& log) {
     std::map<char, SimTime> free;
     for (const StartEvent& start : log.starts) {
@@ -146,7 +146,7 @@ Finding CheckSums(const OrderList& list, const GameState& state) {
     return state.VerbauteRessourcen == HalfEvenLong(spent) ? "" : "the sum of costs is wrong";
 }
 
-/// Whether a run that goes on tells and does what the whole one did from step `step` on.
+/// Whether a resumed run reports and does the same as the whole one from step `step` on.
 bool GoesOnLike(const EventLog& whole, std::size_t step, const EventLog& rest) {
     const auto starts =
         std::ranges::lower_bound(whole.startEvents, step) - whole.startEvents.begin();
@@ -166,7 +166,7 @@ Simulation RunUntil(std::span<const Order> orders, std::size_t n, const RunCondi
     return simulation;
 }
 
-/// How many rows the rules wouldn't let be where they stand.
+/// How many rows break their rule.
 std::size_t RuleBreaches(const std::vector<std::string>& tags) {
     std::size_t breaches = 0;
     OrderList list;
@@ -180,7 +180,7 @@ std::size_t RuleBreaches(const std::vector<std::string>& tags) {
     return breaches;
 }
 
-/// Some edit of some rows.
+/// A random edit of random rows.
 ListEdit AnyRows(const BuildList& list, std::minstd_rand& random) {
     const std::size_t rows = list.Rows().size();
     std::vector<std::size_t> chosen;
@@ -216,8 +216,8 @@ ListEdit AnyRows(const BuildList& list, std::minstd_rand& random) {
     return edit;
 }
 
-/// What dropping rows one by one gives.
-BuildList InSequence(const std::vector<std::string>& tags, const RunConditions& conditions) {
+/// The list that dropping the rows one by one gives.
+BuildList DroppedOneByOne(const std::vector<std::string>& tags, const RunConditions& conditions) {
     BuildList list;
     for (const std::string& tag : tags) {
         const Order order = Order::FromTag(tag);
@@ -258,7 +258,7 @@ Finding CheckSaving(const Plan& plan) {
     if (!IsSavable(plan)) {
         return {};
     }
-    // Both lists are made on a planet of the same temperature.
+    // The factor texts depend on the temperature, so both lists are made with the same one.
     const RunConditions conditions;
     NullSink messages;
     Plan before;
@@ -375,7 +375,7 @@ Finding CheckTimeJump(const Plan& plan) {
     EventLog quiet;
     simulation.RunToEnd(quiet);
     GameState jumped = simulation.State();
-    GameState walked = simulation.State();
+    GameState stepped = simulation.State();
     std::int64_t divisor = kHour;
     for (const FixedPoint rate : jumped.ProStunde) {
         divisor = std::gcd(divisor, rate.Raw());
@@ -386,9 +386,9 @@ Finding CheckTimeJump(const Plan& plan) {
     const auto piece = static_cast<Long>(kHour / divisor);
     VergeheZeit(kPieces * piece, false, jumped, conditions);
     for (Long i = 0; i < kPieces; ++i) {
-        VergeheZeit(piece, false, walked, conditions);
+        VergeheZeit(piece, false, stepped, conditions);
     }
-    return jumped == walked || jumped.secsgone == kEndOfClock
+    return jumped == stepped || jumped.secsgone == kEndOfClock
                ? ""
                : "a jump is no walk of " + std::to_string(piece) + " s";
 }
@@ -423,7 +423,7 @@ Finding CheckCurve(const Plan& plan) {
     }
     for (std::size_t i = 0; i < log.states.size(); ++i) {
         const SimTime at = log.states[i].secsgone;
-        // The run goes on from the last state that isn't behind the moment: those after it are.
+        // A click buffer can set the clock back: the last record that isn't later counts.
         std::size_t last = i;
         for (std::size_t j = i + 1; j < log.states.size(); ++j) {
             last = log.states[j].secsgone <= at ? j : last;
@@ -444,7 +444,7 @@ Finding CheckEdits(const Plan& plan) {
     constexpr int kTrials = 25;
     const RunConditions conditions = ConditionsOf(plan);
     std::minstd_rand random(static_cast<unsigned>(plan.LV_Bauliste.Rows().size()) + 1);
-    BuildList list = InSequence(plan.LV_Bauliste.Tags(), conditions);
+    BuildList list = DroppedOneByOne(plan.LV_Bauliste.Tags(), conditions);
     EditHistory history;
     std::vector<std::vector<std::string>> states{list.Tags()};
     history.Begin({.tags = list.Tags()});
@@ -466,7 +466,7 @@ Finding CheckEdits(const Plan& plan) {
         history.Record({.tags = tags});
         list.SetTags(tags, conditions);
         states.push_back(tags);
-        if (StateText(list) != StateText(InSequence(tags, conditions))) {
+        if (StateText(list) != StateText(DroppedOneByOne(tags, conditions))) {
             return "an edited list isn't its rows dropped anew";
         }
     }
@@ -502,14 +502,14 @@ Finding CheckComparison(const Plan& plan) {
         forward.differences != backward.differences) {
         return "a comparison has no mirror";
     }
-    // Each start of either is in it, or the same in both.
-    std::size_t in_a = 0;
-    std::size_t in_b = 0;
+    // Every start is listed, or equal in both runs.
+    std::size_t inA = 0;
+    std::size_t inB = 0;
     for (const ComparisonRow& row : forward.differences) {
-        in_a += row.a ? 1U : 0U;
-        in_b += row.b ? 1U : 0U;
+        inA += row.a ? 1U : 0U;
+        inB += row.b ? 1U : 0U;
     }
-    return a.starts.size() - in_a == b.starts.size() - in_b ? "" : "a comparison loses orders";
+    return a.starts.size() - inA == b.starts.size() - inB ? "" : "a comparison loses orders";
 }
 
 Finding CheckLaws(const Plan& plan) {

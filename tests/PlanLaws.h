@@ -1,4 +1,4 @@
-// Laws that hold for every plan and its run, for the tests of random plans and for the fuzzer.
+// Laws that hold for every plan and its run, checked on random plans and by the fuzzer.
 #pragma once
 
 #include <string>
@@ -8,54 +8,52 @@
 
 namespace tarvelin {
 
-/// What breaks a law, in a few words; empty where it holds.
+/// How a law is broken, in a few words; empty if it holds.
 using Finding = std::string;
 
-/// All that a list shows and counts.
+/// All texts and counters of a list.
 [[nodiscard]] std::string StateText(const BuildList& list);
 
-/// The whole result of a plan's run on a fresh planet, in every form in which it is printed.
+/// The whole result of a plan's run, in every form in which it is printed.
 [[nodiscard]] std::string ResultText(const Plan& plan);
 
-/// A saved plan is loaded again with the same codes, inputs, texts and result. Says nothing about a
-/// plan with texts that a file can't hold.
+/// A saved plan loads with the same codes, inputs, texts and result. Holds trivially for a plan
+/// with texts that a file can't store.
 [[nodiscard]] Finding CheckSaving(const Plan& plan);
 
-/// After each row of the plan: another row, taken back, leaves the list as it was.
+/// After each row of the plan: adding another row and undoing it leaves the list as it was.
 [[nodiscard]] Finding CheckUndo(const Plan& plan);
 
-/// The books of a run: each order starts, and none within the one before it in its queue; each
-/// stock is what the history tells for that moment, less the costs; debts are told; at the end
-/// levels are the orders of the list, and what was spent is the sum of the costs.
+/// The books of a run balance: each order starts, and not before the previous one of its queue has
+/// finished; each stock is what its history predicts, less the costs; negative stocks are reported;
+/// the final levels are the counts of the list, and the spent resources the sum of the costs.
 [[nodiscard]] Finding CheckBooks(const Plan& plan);
 
-/// A run goes on from a copy at any step, or over a list with another end, as one from the
-/// beginning does; the run that was copied stays as it was.
+/// A run resumed from a copy at any step, or over a list with another tail, gives the same as one
+/// from the beginning; the run that was copied doesn't change.
 [[nodiscard]] Finding CheckResuming(const Plan& plan);
 
-/// A jump through time equals the same time in pieces in which no fraction is lost.
+/// Passing a time at once equals passing it in pieces, if these lose no fraction.
 [[nodiscard]] Finding CheckTimeJump(const Plan& plan);
 
-/// The same run once more, in the place of the first one, gives the same.
+/// Repeating a run in the same `LastRun` gives the same result.
 [[nodiscard]] Finding CheckRepetition(const Plan& plan);
 
-/// The curve of a run goes forward in time, and shows at each moment what the run recorded last for
-/// it.
+/// The curve of a run goes forward in time, and has for each moment what the run recorded last.
 [[nodiscard]] Finding CheckCurve(const Plan& plan);
 
-/// Edits anywhere in the list: one that is let be leaves no row that breaks its rule and hasn't
-/// done so before, one that is refused would; the list behind it is its rows dropped anew; taken
-/// back and done again it gives the same rows.
+/// Edits anywhere in the list: an accepted edit breaks no rule that held before, a refused one
+/// would; the list after it equals its rows dropped one by one; undo and redo give the same rows.
 [[nodiscard]] Finding CheckEdits(const Plan& plan);
 
-/// A plan's run is no different from itself, and another one differs from it as it does from that.
+/// Comparing a run with itself finds nothing, and comparing two is symmetric.
 [[nodiscard]] Finding CheckComparison(const Plan& plan);
 
-/// All of them.
+/// Checks all laws; the first finding.
 [[nodiscard]] Finding CheckLaws(const Plan& plan);
 
-/// Whether a profile gives this value back letter for letter: one line of at most 255 characters,
-/// without blanks or quotes around, all of them in the code page.
+/// Whether a profile gives a value back unchanged: one line of at most 255 characters of the code
+/// page, without surrounding blanks or quotes.
 [[nodiscard]] bool ComesBack(std::string_view value);
 
 }  // namespace tarvelin

@@ -1,4 +1,4 @@
-// The build list, its rules and hover texts, start parameters and sleep windows.
+// Tests the build list, its rules and hover texts, undo, start parameters and sleep windows.
 #include <set>
 
 #include "PlanLaws.h"
@@ -46,23 +46,23 @@ TEST(BuildList, RefusesUnknownCodesAndRow255) {
     EXPECT_EQ(list.AddProduction(kFullFactors, conditions), refusal);
     EXPECT_EQ(StateText(list), full);
     EXPECT_EQ(list.Rows().size(), 254U);
-    EXPECT_EQ(list.Rows().back().SubItems2, "0,00");  // a need beyond 32 bits
+    EXPECT_EQ(list.Rows().back().SubItems2, "0,00");  // an energy need beyond 32 bits
     list.Clear();
     EXPECT_EQ(StateText(list), StateText(BuildList()));
 }
 
 TEST(Order, UnderstandsOnlyWholeFactorsFromZeroToTen) {
-    for (const char* day : {"GX:8:10:5", "GX: 8 :+010:-0", "GXfoo:8:10:5:99", "GX8:1:2:3"}) {
-        EXPECT_EQ(Order::FromTag(day).kind, Order::Kind::Production) << day;
+    for (const char* tag : {"GX:8:10:5", "GX: 8 :+010:-0", "GXfoo:8:10:5:99", "GX8:1:2:3"}) {
+        EXPECT_EQ(Order::FromTag(tag).kind, Order::Kind::Production) << tag;
     }
-    for (const char* day : {"GX", "GX:8:10", "GX:8:10:11", "GX:8:10:-1", "GX:8:10:5,0",
+    for (const char* tag : {"GX", "GX:8:10", "GX:8:10:11", "GX:8:10:-1", "GX:8:10:5,0",
                             "GX::8:10:5", "gx:8:10:5", "GX:8:10:", "gm", "GM ", "", "G"}) {
-        EXPECT_EQ(Order::FromTag(day).kind, Order::Kind::Unknown) << day;
+        EXPECT_EQ(Order::FromTag(tag).kind, Order::Kind::Unknown) << tag;
     }
 }
 
-/// An item, the rows that it needs, and what is told as missing: all of it or, where there are
-/// words for that, each need alone. A text that begins with a blank is whole.
+/// An item, its requirements, and the names of what is missing: all of it, or each requirement
+/// alone where there are words for that. A text that begins with a blank is the whole message.
 struct RuleCase {
     const char* item;
     std::vector<std::pair<std::string, int>> requirements;
@@ -102,7 +102,7 @@ const std::vector<RuleCase> kRuleCases{
 };
 // clang-format on
 
-/// What an item says when one row of some of its needs isn't in the list.
+/// An item's refusal when the requirements in `tooFew` lack one row each.
 std::string RefusalWithout(const RuleCase& testCase, const std::set<std::size_t>& tooFew) {
     std::string codes;
     for (std::size_t i = 0; i < testCase.requirements.size(); ++i) {
@@ -268,7 +268,7 @@ TEST(SleepTable, TakesOnlyWhatDoesNotOverlap) {
     EXPECT_EQ(insert("09", "00", "1", "00"), hits);  // ends where the row begins
     EXPECT_EQ(insert("09", "00", "0", "59"), "3");
     EXPECT_EQ(insert("12", "00", "0", "00"), "4");   // begins where the row ends
-    EXPECT_EQ(insert("08", "00", "9", "00"), hits);  // around rows
+    EXPECT_EQ(insert("08", "00", "9", "00"), hits);  // encloses rows
     EXPECT_EQ(insert("23", "30", "1,5", "30"), "5");
     EXPECT_EQ(table.back(), (SleepRow{"18.11.2006 23:30", "19.11.2006 01:30"}));
     EXPECT_EQ(insert("24", "00", "x", "00"), "Keine gültige Dauer eingegeben...");

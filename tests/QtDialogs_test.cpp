@@ -1,4 +1,4 @@
-// The real message boxes, pressed by a timer.
+// Tests the real message boxes; a timer presses their buttons.
 #include "ui/services/QtDialogs.h"
 
 #include <QAbstractButton>
@@ -17,7 +17,7 @@
 namespace tarvelin {
 namespace {
 
-/// Presses a button of the box that comes up, and keeps what it showed.
+/// Presses a button of the box that comes up, and records what it showed.
 class ButtonPresser {
   public:
     explicit ButtonPresser(const QString& button) {
@@ -81,10 +81,10 @@ TEST(QtDialogs, AsksInGerman) {
 }
 
 TEST(QtDialogs, SuppressibleOnesHaveACheckBox) {
-    for (const bool from : {true, false}) {
+    for (const bool suppress : {true, false}) {
         ButtonPresser presser(QStringLiteral("OK"));
-        presser.checkBox = from;
-        EXPECT_EQ(QtDialogs().ShowSuppressible({.text = "Nochmal", .title = ""}), !from);
+        presser.checkBox = suppress;
+        EXPECT_EQ(QtDialogs().ShowSuppressible({.text = "Nochmal", .title = ""}), !suppress);
     }
 }
 
@@ -117,7 +117,7 @@ TEST(QtDialogs, CloseAllClosesWhatIsOpen) {
     QtDialogs dialogs;
     QTimer::singleShot(0, [&] { dialogs.CloseAll(); });
     EXPECT_FALSE(dialogs.Ask({.text = "Wirklich?", .title = ""}));
-    // None of them waits for anybody.
+    // Later boxes return at once.
     dialogs.Show({.text = "Noch eine", .title = ""});
     EXPECT_FALSE(dialogs.Ask({.text = "Und noch eine?", .title = ""}));
     EXPECT_TRUE(dialogs.AskForFile(Dialogs::Purpose::Load, ".").empty());

@@ -1,4 +1,4 @@
-// The run: its clock, its timetable, its messages and what it leaves behind.
+// Tests the run: its clock, event table, messages, delays and results.
 #include "TestSupport.h"
 #include "simulation/EventTable.h"
 #include "simulation/RunTexts.h"
@@ -60,7 +60,7 @@ TEST(Run, ReportsNegativeStockOfEachResource) {
     }
 }
 
-/// Counts what orders bring that no rule knows.
+/// Counts what unknown orders cause.
 class UnknownOrderCounter final : public RunObserver {
   public:
     void OnStart(const StartEvent& event) override { last = event; }
@@ -88,9 +88,9 @@ TEST(Run, DropsUnknownOrders) {
     const Order nonsense = Order::FromTag("Quatsch");
     EXPECT_EQ(nonsense.queue, Queue::None);
     EXPECT_EQ(Order::FromTag("WZZ").queue, Queue::Shipyard);
-    // The finishes of both are beeps. The mines follow each other in their queue.
+    // The finish of an unknown order is a beep. The mines follow each other in their queue.
     EXPECT_EQ(run({mine, nonsense, Order::FromTag("WZZ"), mine}, 0), (std::array{2, 2, 2, 109}));
-    // Timed at the moment of the order before: not before it, and not held back by any queue.
+    // An unknown order waits for no queue, but never starts before the previous order.
     EXPECT_EQ(run({nonsense, mine}, 7), (std::array{1, 0, 1, 14}));
 }
 

@@ -1,5 +1,4 @@
-// Saves under a platform that fails: each call once, each kind of call for good, all of them for
-// good.
+// Tests saves while system calls fail: one of them, all later ones of its kind, or all later ones.
 
 #include "FaultyFileSystem.h"
 #include "TestSupport.h"
@@ -11,30 +10,30 @@ namespace {
 
 constexpr std::string_view kBefore = "; von Hand\r\n[Einstellungen]\nTempMax=7\n[Eigenes]\nx=1";
 
-/// A save over a plan of somebody's own making.
+/// Saves over files that were edited by hand.
 class SaveFaults : public testing::TestWithParam<FaultKind> {
   protected:
-    /// Whether only what the call itself left can lie there: no deletion worked any more.
+    /// Whether a temporary file may remain, because it could not be removed either.
     static constexpr bool MayRemain(FaultKind kind) { return kind == FaultKind::EverythingForever; }
 
-    /// Lets the n-th call of `action` fail, for n from 1 until it has so many no more, and looks at
-    /// the folder after each. How often something failed.
-    template <class Action, class View>
-    int Try(Action action, View view) {
+    /// Runs `action` with its n-th call failing, for n from 1 until it has fewer calls, and `check`
+    /// after each. The number of faults.
+    template <class Action, class Check>
+    int Try(Action action, Check check) {
         int n = 1;
-        for (bool disturbed = true; disturbed; ++n) {
+        for (bool failed = true; failed; ++n) {
             SCOPED_TRACE("call " + std::to_string(n));
             WriteFile(m_folder / "plan.tvf", kBefore);
             WriteFile(m_folder / "config.cfg", kBefore);
             const FaultyFileSystem system(n, GetParam());
             action(system);
             m_calls += std::string(system.Faulty()) + " ";
-            disturbed = system.HasFailed();
-            view();
+            failed = system.HasFailed();
+            check();
             if (!MayRemain(GetParam())) {
                 EXPECT_EQ(m_folder.Entries(), 2U);
             }
-            // What a failed deletion left goes with the next save.
+            // The next save removes what a failed deletion left.
             EXPECT_TRUE(WriteFileAtomically(m_folder / "plan.tvf", kBefore));
             EXPECT_EQ(m_folder.Entries(), 2U);
         }
@@ -42,7 +41,7 @@ class SaveFaults : public testing::TestWithParam<FaultKind> {
     }
 
     const TempFolder m_folder;
-    /// Calls in their order.
+    /// The failed calls in their order.
     std::string m_calls;
     const Plan m_plan = PlanOf("GM GS GX:8:10:5 GK");
 };
@@ -61,10 +60,8 @@ TEST_P(SaveFaults, PlanIsTheOldOrTheNewOne) {
         });
     EXPECT_TRUE(saved);
     EXPECT_GE(faults, 14);
-    // The bytes lie on the disk before they get the name.
-    EXPECT_TRUE(
-        m_calls.ends_with(" Schreibe BringAufPlatte Schliesse BenenneUm BringOrdnerAufPlatte  "))
-        << m_calls;
+    // The bytes are on the disk before the file gets its name.
+    EXPECT_TRUE(m_calls.ends_with(" Write Sync Close Rename SyncFolder  ")) << m_calls;
 }
 
 TEST_P(SaveFaults, ConfigurationHasAllNewValuesOrNone) {

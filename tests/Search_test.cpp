@@ -1,4 +1,4 @@
-// The search: proved optima, and what every result keeps.
+// Tests the search: proved optima, and what holds for every result.
 #include "search/Search.h"
 
 #include <map>
@@ -14,11 +14,10 @@ namespace {
 
 const std::atomic<bool> kGoOn{false};
 
-void Quiet(const SearchProgress& /*stand*/) {}
+void Quiet(const SearchProgress& /*progress*/) {}
 
 constexpr SearchBudget kOneChain{.tries = SearchBudget::kChainLength};
 
-/// The starter plan.
 const PlanRun& StarterRun() {
     static const PlanRun document(std::filesystem::path(TARVELIN_SOURCE_DIR) /
                                   "data/saves/basic.tvf");
@@ -36,8 +35,8 @@ PlanTask MakeTask(const Plan& plan, const SearchRequest& request) {
     return refusal != nullptr ? PlanTask() : std::get<PlanTask>(task);
 }
 
-/// As a player finds the plan again: written to a file, loaded and run.
-PlanRun FoundAgain(const Plan& plan, const PlanTask& task, const Solution& solution) {
+/// The solution as the player gets it: written to a file, loaded and run.
+PlanRun Reloaded(const Plan& plan, const PlanTask& task, const Solution& solution) {
     IniFile profile("");
     WritePlan(WithOrders(plan, solution.orders, task.pause), profile);
     return {"gefunden", IniFile(profile.Bytes())};
@@ -46,21 +45,20 @@ PlanRun FoundAgain(const Plan& plan, const PlanTask& task, const Solution& solut
 bool KeepsRules(const std::vector<Order>& orders) {
     OrderList list;
     return std::ranges::all_of(orders, [&](const Order& order) {
-        const bool good = order.kind != Order::Kind::Item || !Refusal(order.item, list);
+        const bool allowed = order.kind != Order::Kind::Item || !Refusal(order.item, list);
         list.Append(order);
-        return good;
+        return allowed;
     });
 }
 
-std::map<std::string, int> Counted(const std::vector<Order>& orders) {
-    std::map<std::string, int> figures;
+std::map<std::string, int> CountsOf(const std::vector<Order>& orders) {
+    std::map<std::string, int> counts;
     for (const Order& order : orders) {
-        ++figures[order.Tag()];
+        ++counts[order.Tag()];
     }
-    return figures;
+    return counts;
 }
 
-/// The moments of the starts of a run.
 std::vector<DateTime> StartTimesOf(const PlanRun& document) {
     std::vector<DateTime> times;
     for (const ScheduleEntry& row : document.run.LV_Bauzeiten) {
@@ -69,7 +67,8 @@ std::vector<DateTime> StartTimesOf(const PlanRun& document) {
     return times;
 }
 
-/// What any result keeps: the rules, its duration in a file, and never less than the plan.
+/// What holds for any result: it keeps the rules and its duration when saved, and is never worse
+/// than the plan.
 void Check(const Plan& plan, const PlanTask& task, const SearchResult& result) {
     ASSERT_TRUE(result.best);
     const Solution& solution = *result.best;
@@ -77,12 +76,12 @@ void Check(const Plan& plan, const PlanTask& task, const SearchResult& result) {
     if (task.before) {
         EXPECT_LE(solution.score.duration, task.before->score.duration);
     }
-    const PlanRun document = FoundAgain(plan, task, solution);
+    const PlanRun document = Reloaded(plan, task, solution);
     ASSERT_TRUE(document.hasRun);
     EXPECT_EQ(document.run.state.secsgone.Seconds(), solution.score.duration);
     EXPECT_TRUE(document.messages.empty());
     if (task.task.kind == SearchTask::Kind::Sequence) {
-        EXPECT_EQ(Counted(solution.orders), Counted(task.task.orders));
+        EXPECT_EQ(CountsOf(solution.orders), CountsOf(task.task.orders));
         for (std::size_t i = 0; i < solution.orders.size(); ++i) {
             EXPECT_TRUE(!task.task.pinned[i] || solution.orders[i] == task.task.orders[i]);
         }
@@ -97,7 +96,7 @@ void Check(const Plan& plan, const PlanTask& task, const SearchResult& result) {
 TEST(Search, FindsTheOptimumOfSmallPlans) {
     for (unsigned seed = 1; seed <= 100; ++seed) {
         const SearchTask task = SmallPlan(seed);
-        // The whole search takes the sanitizers half an hour.
+        // Default budgets for all plans would take half an hour under the sanitizers.
         const bool whole = seed % 50 == 0;
         const auto result = Search(task, whole ? SearchBudget() : kOneChain, kGoOn, Quiet);
         ASSERT_TRUE(result.best) << seed;
@@ -153,7 +152,7 @@ TEST(Search, StopsAndKeepsTheBest) {
 }
 
 TEST(Search, FindsAnInitialListForAPlanThatNeverEnds) {
-    // The research comes behind the end of all deuterium.
+    // The research comes after the deuterium mine has been turned off.
     const Plan plan = PlanOf("GS GM GK GD GF GX:10:10:0 FE");
     const PlanTask task = MakeTask(plan, {});
     EXPECT_FALSE(task.before);
@@ -171,15 +170,15 @@ TEST(Search, LeavesWhatHasStarted) {
     EXPECT_EQ(task.task.headSize, 31U);
     const auto result = Search(task, kOneChain, kGoOn, Quiet);
     Check(plan, task, result);
-    const auto after = StartTimesOf(FoundAgain(plan, task, *result.best));
-    const auto header = static_cast<std::ptrdiff_t>(task.task.headSize);
-    EXPECT_TRUE(std::equal(before.begin(), before.begin() + header, after.begin()));
-    EXPECT_TRUE(std::all_of(after.begin() + header, after.end(),
+    const auto after = StartTimesOf(Reloaded(plan, task, *result.best));
+    const auto head = static_cast<std::ptrdiff_t>(task.task.headSize);
+    EXPECT_TRUE(std::equal(before.begin(), before.begin() + head, after.begin()));
+    EXPECT_TRUE(std::all_of(after.begin() + head, after.end(),
                             [&](const auto& time) { return time >= *request.notBefore; }));
     EXPECT_LT(result.best->score.duration, task.before->score.duration);
 }
 
-/// Pinned rows of a goal keep their sequence and the orders above them that are no economy.
+/// Pinned rows of a goal keep their sequence, and the orders above them that are no economy items.
 TEST(Search, KeepsPinnedRowsOfAGoal) {
     const Plan plan = PlanOf("GS GM GM GX:10:8:10 GK GD GF FE GX:10:10:10 GR GR GW FV WLJ WLJ");
     const PlanTask task = MakeTask(plan, {.goal = "plan", .pinnedRanges = {{13, 13}}});
@@ -208,8 +207,8 @@ TEST(Search, SaysWhyItCannotSearch) {
     const Plan economy = PlanOf("GM GM GK");
     Plan broken = PlanOf("GM");
     broken.LV_Bauliste.Clear();
-    for (const char* const day : {"GM", "GW", "GR"}) {
-        EXPECT_TRUE(broken.LV_Bauliste.Replay(day, RunConditions()));
+    for (const char* const tag : {"GM", "GW", "GR"}) {
+        EXPECT_TRUE(broken.LV_Bauliste.Replay(tag, RunConditions()));
     }
     Plan withoutTag = economy;
     withoutTag.parameters.UniStartZeitTag = "";

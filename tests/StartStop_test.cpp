@@ -1,4 +1,4 @@
-// The window from its start to its end: plan files, recovery, alarms, skins, menu "Info".
+// Tests the main window from start to end: plan files, recovery, alarms, skins, menu "Info".
 #include <QBuffer>
 #include <QCheckBox>
 #include <QComboBox>
@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 using StartStop = MainWindow;
 
-/// One more start of the program in the same folder.
+/// Starts the program once more in the same folder.
 class Restart {
   public:
     explicit Restart(const Environment& environment) : m_window(environment) {
@@ -69,7 +69,7 @@ TEST_F(StartStop, RecoversAfterEachAnswer) {
     }
 }
 
-// The end of the program is no answer, whichever question stands open.
+// Closing the program answers none of the questions.
 TEST_F(StartStop, ClosingDuringTheQuestionsChangesNothing) {
     Load("GM GM");
     m_window.close();
@@ -96,7 +96,7 @@ TEST_F(StartStop, ClosingDuringTheQuestionsChangesNothing) {
     }
 }
 
-// A double click on a plan brings that one; the last one is kept beside it.
+// A double click on a plan file opens it; the previous plan is kept beside the autosave.
 TEST_F(StartStop, OpensThePlanOfTheCommandLine) {
     Load("GM GM");
     m_window.close();
@@ -120,7 +120,7 @@ TEST_F(StartStop, OpensThePlanOfTheCommandLine) {
     EXPECT_TRUE(start->windowTitle().endsWith(QStringLiteral("( meiner.tvf )")));
     EXPECT_EQ(ReadFileToString(saves / "autosave-vorige.tvf"), last);
     start->close();
-    // Whoever looks at one plan after the other still has the one that lies nowhere else.
+    // Opening one plan after another keeps the one that is stored nowhere else.
     ASSERT_TRUE(SaveBauliste(saves / "anderer.tvf", PlanOf("GS")));
     m_environment.planArgument = saves / "anderer.tvf";
     {
@@ -135,9 +135,9 @@ TEST_F(StartStop, OpensThePlanOfTheCommandLine) {
     Restart again(m_environment);
     EXPECT_EQ(ReadFileToString(saves / "autosave-vorige.tvf"), changed);
     again->close();
-    // A file of the program's own is no place to lie in: it is written over.
+    // The program's own files are no safe place for a plan, as they get overwritten.
     m_environment.planArgument = saves / "autosave-vorige.tvf";
-    { Restart still(m_environment); }
+    { const Restart reopened(m_environment); }
     EXPECT_EQ(ReadFileToString(saves / "autosave.tvf").find("AusDatei=1"), std::string::npos);
 }
 
@@ -148,7 +148,7 @@ TEST_F(StartStop, FolderBelongsToTheFirstProgram) {
     EXPECT_FALSE(FolderLock(m_folder / "saves").HeldByOther());
     first->Release();
     EXPECT_FALSE(FolderLock(m_folder / "").HeldByOther());
-    // A dead holder: no process has this number, half a lock, another machine, our own number.
+    // Stale locks: no such process, an empty lock, another machine, our own process id.
     const std::string own = std::to_string(NativeFileSystem().ProcessId());
     const std::string name = QCoreApplication::applicationName().toStdString();
     for (const std::string& lock :
@@ -160,7 +160,7 @@ TEST_F(StartStop, FolderBelongsToTheFirstProgram) {
     EXPECT_FALSE(FolderLock(m_folder / "fehlt").HeldByOther());
 }
 
-// The end of a session is announced, and may still be called off.
+// The end of a desktop session is announced and may still be cancelled.
 TEST_F(StartStop, SavingLeavesTheWindowOpen) {
     Load("GM GM");
     m_window.SaveNow();
@@ -193,7 +193,7 @@ TEST_F(StartStop, ChangesReachTheDiskInAFewSeconds) {
         tick();
         EXPECT_NE(ReadFileToString(autosave).find(row), std::string::npos) << row;
     }
-    // What can't be written is tried again at the next change, and nobody is told.
+    // A failed write is silent and repeated at the next change.
     fs::remove(autosave);
     fs::create_directories(autosave / "x");
     Press("Cmd_Undo");
@@ -209,8 +209,8 @@ TEST_F(StartStop, ChangesReachTheDiskInAFewSeconds) {
     EXPECT_FALSE(timer.isActive());
 }
 
-// The starter plan is stored before its file goes, and the last plan isn't touched before the
-// player has answered for it.
+// The starter plan is saved before its file is deleted, and the last plan isn't touched before the
+// player has answered.
 TEST_F(StartStop, StarterPlanAndLastPlanAreNotLost) {
     m_window.close();
     const auto saves = m_folder / "saves";
@@ -290,7 +290,7 @@ TEST_F(StartStop, LoadsAndSavesThroughTheDialog) {
     EXPECT_EQ(m_dialogs.headers.back(), m_dialogs.headers.front());
     m_dialogs.texts.pop_back();
 
-    // What can't be read at all leaves the plan.
+    // A file that can't be read at all leaves the plan unchanged.
     for (const char* const file : {"fehlt.tvf", "../saves"}) {
         m_dialogs.file = file;
         Choose("mnu_DateiLaden");
@@ -317,7 +317,7 @@ TEST_F(StartStop, ReplacedPlansAreKeptIfTheyAreStoredNowhere) {
     Press("Cmd_Undo");
     Choose("mnu_DateiNeu");
     EXPECT_EQ(first(), "1");
-    // What is loaded from there has been moved on when it comes, and isn't safe there.
+    // Loading a replaced plan moves it to the next name first, so it isn't stored in its file.
     Load("GS GM GM");
     m_dialogs.file = "ersetzt-1.tvf";
     Choose("mnu_DateiLaden");
@@ -396,12 +396,12 @@ TEST_F(StartStop, AlarmsRingOnlyWhileTheyAreOn) {
               std::string::npos);
 }
 
-// What is no sound of ours is told by a beep, and the next one is heard.
+// A file that can't be played gives a beep, and the next one plays.
 TEST_F(StartStop, SoundPlaysOnlyCompleteWaveFiles) {
     const std::string good = ReadFileToString(m_folder / "mfx" / "alert.wav");
     std::string withoutFormat = good;
     withoutFormat.replace(withoutFormat.find("fmt "), 4, "xxx ");
-    // Format, rate, bits: as they stand in the head.
+    // Offsets in the header: 0 format, 4 sample rate, 14 bits per sample.
     const auto with = [&](std::size_t position, std::uint32_t value, std::size_t length) {
         std::string bytes = good;
         for (std::size_t i = 0; i < length; ++i) {
@@ -435,7 +435,7 @@ TEST_F(StartStop, SoundPlaysOnlyCompleteWaveFiles) {
     EXPECT_FALSE(ReadWave(m_folder / "fehlt.wav"));
 }
 
-// In the middle of the next second, whenever it was switched on or ticked.
+// The timer is due within the next second, 50 ms after it begins, whenever it was started.
 TEST_F(StartStop, TimerAimsAtTheNextSecond) {
     SecondTimer timer(QStringLiteral("takt"), nullptr);
     timer.SetRunning(true);
@@ -443,11 +443,11 @@ TEST_F(StartStop, TimerAimsAtTheNextSecond) {
         constexpr int kEarliest = 40;
         constexpr int kLatest = 800;
         constexpr qint64 kSecond = 1000;
-        // It falls due between two moments, however far a busy machine draws them apart.
+        // It is due between these two moments, however far apart they are on a busy machine.
         const qint64 before = QDateTime::currentMSecsSinceEpoch();
-        const int still = timer.remainingTime();
+        const int remaining = timer.remainingTime();
         const qint64 after = QDateTime::currentMSecsSinceEpoch();
-        const qint64 from = (before + still) % kSecond;
+        const qint64 from = (before + remaining) % kSecond;
         const qint64 until = from + after - before;
         EXPECT_TRUE((from < kLatest && until >= kEarliest) || until >= kSecond + kEarliest)
             << from << " " << until;
@@ -459,7 +459,7 @@ TEST_F(StartStop, TimerAimsAtTheNextSecond) {
     EXPECT_FALSE(timer.isActive());
 }
 
-/// The files of a skin in the order of a fetch, and the picture that each is for.
+/// The files of a skin in the order in which they are fetched, and their pictures.
 const std::vector<std::pair<const char*, const char*>> kSkinFiles{
     {"gebaeude/1", "ImgMetMine"},      {"gebaeude/2", "ImgKrisMine"},
     {"gebaeude/3", "ImgDeutMine"},     {"gebaeude/4", "ImgSKW"},
@@ -474,7 +474,7 @@ const std::vector<std::pair<const char*, const char*>> kSkinFiles{
     {"images/kristall", "Images(1)"},  {"images/metall", "Images(0)"},
     {"images/deuterium", "Images(2)"}, {"images/energie", "Images(3)"}};
 
-/// The picture on the screen, told by one pixel of it.
+/// Recognises pictures by the colour of one pixel.
 class Skins : public MainWindow {
   protected:
     static QColor ColorOf(const QLabel& picture) {
@@ -492,7 +492,7 @@ class Skins : public MainWindow {
     }
     void ChooseSource(const char* option) { Find<QRadioButton>(option).click(); }
     fs::path WebSkinFolder() { return m_folder / "img" / "skins" / "temp_webskin"; }
-    /// All pictures of a skin below an address, each in a colour of its own.
+    /// Puts a skin below an address, each picture in a colour of its own.
     void PutOnline(const std::string& address) {
         int red = 0;
         for (const auto& [file, picture] : kSkinFiles) {
@@ -568,7 +568,7 @@ TEST_F(Skins, WebSkinIsFetchedFileByFile) {
         << "what landed is shown";
 }
 
-// Nothing makes the landing folder.
+// The folder for web skins is missing, and isn't created.
 TEST_F(Skins, WebSkinAsksAtEachMissingFile) {
     PutOnline("http://a");
     fs::remove_all(WebSkinFolder());
@@ -583,7 +583,7 @@ TEST_F(Skins, WebSkinAsksAtEachMissingFile) {
               std::pair(std::string("Download-Fehler..."), MessageIcon::Warning));
 }
 
-// The close of the window ends a fetch, and nothing more is asked or shown.
+// Closing the window ends a fetch, and nothing more is asked or shown.
 TEST_F(Skins, ClosingEndsTheFetch) {
     ChooseSource("Opt_Web");
     m_fetcher.onFetch = [this] {
@@ -626,7 +626,7 @@ TEST_F(StartStop, VersionCheckComparesEveryCharacter) {
     }
     EXPECT_NE(VersionQuestion(longText).text.find("(v" + longText.substr(0, 128) + ")zu"),
               std::string::npos);
-    // Bytes that are no text count one by one.
+    // Bytes that are no valid UTF-8 count as one character each.
     EXPECT_LT(VersionQuestion(std::string(1000, '\x80')).text.size(), 300U);
     EXPECT_EQ(m_dialogs.headers.back(),
               std::pair(std::string("Version-Check..."), MessageIcon::Information));
@@ -687,7 +687,7 @@ TEST_F(StartStop, InfoWindowsOpenOnceAndLeadToThePages) {
     EXPECT_TRUE(has(5, "&no_shipping=1&no_note=1&cn=Optionales"));
     EXPECT_NE(m_pages[5].substr(0, m_pages[5].find("&item")),
               m_pages[4].substr(0, m_pages[4].find("&item")));
-    // They stand beside the main window, and outlive its closing.
+    // They stay open when the main window closes.
     bool written = false;
     QObject::connect(&m_window, &frmMain::Closed,
                      [&] { written = fs::exists(m_folder / "saves" / "autosave.tvf"); });

@@ -1,4 +1,5 @@
-// The rooms of the house: who may include whom, and that the build knows every source.
+// Tests the structure of the source tree: includes between rooms, cycles, picture files, build
+// lists.
 #include <map>
 #include <set>
 #include <sstream>
@@ -10,8 +11,7 @@ namespace {
 
 const std::filesystem::path kRoot = TARVELIN_SOURCE_DIR;
 
-/// The rooms of the house, and which others each may include. Whatever isn't told here is a
-/// mistake.
+/// The rooms, and which others each may include; docs/ARCHITECTURE.md has the same table.
 const std::map<std::string, std::set<std::string>> kRooms{
     {"util", {}},
     {"model", {"util"}},
@@ -29,9 +29,9 @@ const std::map<std::string, std::set<std::string>> kRooms{
       "ui/workbench"}},
     {"ui", {"persistence", "ui/widgets", "ui/services", "ui/mainwindow"}},
 };
-/// The only file of a room that another room knows.
+/// Rooms of which others may include one file only.
 const std::map<std::string, std::string> kDoors{{"ui/workbench", "ui/workbench/Workbench.h"}};
-/// What stands on C++ and the platform alone.
+/// Rooms without third-party libraries.
 const std::set<std::string> kCore{"util", "model", "plan", "simulation", "search", "persistence"};
 
 std::vector<std::filesystem::path> Sources() {
@@ -44,7 +44,7 @@ std::vector<std::filesystem::path> Sources() {
     return sources;
 }
 
-/// The files of ours that a source includes, and the others.
+/// The files that a source includes: our own, and others.
 std::pair<std::vector<std::string>, std::vector<std::string>> Includes(
     const std::filesystem::path& source) {
     std::pair<std::vector<std::string>, std::vector<std::string>> includes;
@@ -86,27 +86,27 @@ TEST(Structure, EveryIncludeIsAllowed) {
 }
 
 TEST(Structure, IncludesFormNoCycle) {
-    std::map<std::string, std::set<std::string>> arrows;
+    std::map<std::string, std::set<std::string>> includes;
     const auto stem = [](std::filesystem::path path) { return path.replace_extension().string(); };
     for (const auto& source : Sources()) {
         for (const std::string& target : Includes(source).first) {
             if (stem(target) != stem(source)) {
-                arrows[stem(source)].insert(stem(target));
+                includes[stem(source)].insert(stem(target));
             }
         }
     }
-    // Takes files away that include nothing any more; what remains is a circle.
+    // Removes files that include nothing any more; what remains is in a cycle or leads into one.
     for (bool fewer = true; fewer;) {
         std::set<std::string> open;
-        for (const auto& [source, targets] : arrows) {
+        for (const auto& [source, targets] : includes) {
             open.insert(source);
         }
-        fewer = std::erase_if(arrows, [&](const auto& pair) {
+        fewer = std::erase_if(includes, [&](const auto& pair) {
                     return std::ranges::none_of(
                         pair.second, [&](const auto& target) { return open.contains(target); });
                 }) > 0;
     }
-    for (const auto& [source, targets] : arrows) {
+    for (const auto& [source, targets] : includes) {
         ADD_FAILURE() << source << " stands in a circle of includes or leads into one";
     }
 }

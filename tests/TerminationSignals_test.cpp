@@ -1,4 +1,4 @@
-// Signals, on the platforms that have them.
+// Tests that termination signals reach the event loop.
 #include "ui/services/TerminationSignals.h"
 
 #include <gtest/gtest.h>

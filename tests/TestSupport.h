@@ -1,4 +1,4 @@
-// What several tests share.
+// Helpers that several tests share.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -25,7 +25,7 @@ inline constexpr bool kWindows = true;
 inline constexpr bool kWindows = false;
 #endif
 
-/// Keeps messages and counts beeps.
+/// Records messages and counts beeps.
 class MessageRecorder final : public MessageSink {
   public:
     void Show(const Message& message) override { texts.push_back(message.text); }
@@ -35,16 +35,17 @@ class MessageRecorder final : public MessageSink {
     int beeps = 0;
 };
 
-/// A new folder of its own, gone at the end of the test. Other runs of the tests share the place.
+/// A new folder that is deleted with the object. Its name has the process id, as tests run in
+/// parallel.
 class TempFolder {
   public:
     TempFolder() {
-        const std::filesystem::path position = testing::TempDir();
+        const std::filesystem::path parent = testing::TempDir();
         const std::string name =
             "tarvelin-test-" + std::to_string(NativeFileSystem().ProcessId()) + "-";
         int n = 0;
         do {
-            m_path = position / (name + std::to_string(++n));
+            m_path = parent / (name + std::to_string(++n));
         } while (!std::filesystem::create_directory(m_path));
     }
     TempFolder(const TempFolder&) = delete;
@@ -73,21 +74,21 @@ inline void WriteFile(const std::filesystem::path& file, std::string_view bytes)
     std::ofstream(file, std::ios::binary) << bytes;
 }
 
-/// As a word of a command.
+/// A path in quotes, as a word of a shell command.
 inline std::string Quoted(const std::filesystem::path& path) {
     return "\"" + path.string() + "\"";
 }
 
-/// Runs a command in a folder by the platform's shell. Its exit code.
+/// Runs a command in a folder by the platform's shell and returns its exit code.
 inline int Execute(const TempFolder& folder, const std::string& command) {
     const std::string whole =
         (kWindows ? "cd /d " : "cd ") + Quoted(folder / "") + " && " + command;
     const int status = std::system(whole.c_str());
-    // Where a shell speaks POSIX, the code stands in the second byte.
+    // POSIX has the exit code in the second byte.
     return kWindows ? status : status >> 8;
 }
 
-/// A file in 16-bit units behind its mark, the low byte of each first or the high one.
+/// A file in UTF-16 with its byte order mark, big-endian if `highFirst`.
 inline std::string ToUtf16Bytes(const std::u16string& text, bool highFirst) {
     std::string bytes;
     for (const char16_t unit : u'\xFEFF' + text) {
@@ -98,7 +99,8 @@ inline std::string ToUtf16Bytes(const std::u16string& text, bool highFirst) {
     return bytes;
 }
 
-/// A plan of 18.11.2006 12:30 without a click buffer, its rows by `Tag`s parted by blanks.
+/// A plan that starts on 18.11.2006 12:30 without a click buffer; its rows are `Tag`s separated by
+/// blanks.
 inline Plan PlanOf(std::string_view tags, const RunConditions& conditions = {}) {
     Plan plan;
     plan.parameters.UniStartZeitTag = "18";
@@ -113,7 +115,7 @@ inline Plan PlanOf(std::string_view tags, const RunConditions& conditions = {}) 
     return plan;
 }
 
-/// A plan that was run, unless its inputs can't be used.
+/// The run of a plan, unless its inputs are unusable.
 struct TestRun {
     LastRun run;
     MessageRecorder messages;

@@ -1,4 +1,4 @@
-// Number texts, fixed point, dates, small text helpers.
+// Tests roundings, fixed-point numbers, number texts, dates, text helpers and the code page.
 #include <cmath>
 #include <limits>
 
@@ -13,8 +13,8 @@ namespace tarvelin {
 namespace {
 
 constexpr auto kMax64 = std::numeric_limits<std::int64_t>::max();
-constexpr double kInfinite = std::numeric_limits<double>::infinity();
-constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr auto kMin64 = std::numeric_limits<std::int64_t>::min();
 
 TEST(Rounding, GoesAsNamedAndSaturates) {
@@ -26,7 +26,7 @@ TEST(Rounding, GoesAsNamedAndSaturates) {
          {Case{2.5, 2, 2, 2}, Case{3.5, 4, 3, 3}, Case{-2.5, -2, -2, -3}, Case{-0.1, 0, 0, -1},
           Case{7, 7, 7, 7}, Case{1e300, kMax64, kMax64, kMax64},
           Case{-9223372036854775808.0, kMin64, kMin64, kMin64},
-          Case{-kInfinite, kMin64, kMin64, kMin64}, Case{kNoNumber, 0, 0, 0}}) {
+          Case{-kInfinity, kMin64, kMin64, kMin64}, Case{kNaN, 0, 0, 0}}) {
         EXPECT_EQ(Rounding::HalfEven(testCase.value), testCase.half) << testCase.value;
         EXPECT_EQ(Rounding::Cut(testCase.value), testCase.cut) << testCase.value;
         EXPECT_EQ(Rounding::Floor(testCase.value), testCase.floor) << testCase.value;

@@ -1,4 +1,4 @@
-// Starts the tests of the window, without a screen unless a platform is named or is the only one.
+// Runs the tests of the windows, without a screen unless QT_QPA_PLATFORM is set.
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
@@ -11,13 +11,13 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM",
                 "offscreen:configfile=" TARVELIN_SOURCE_DIR "/tests/data/bildschirm.json");
     }
-    // The toolkit would make a folder that stays.
+    // Otherwise the toolkit would leave a folder behind.
     const QTemporaryDir runtimeFolder;
     qputenv("XDG_RUNTIME_DIR", runtimeFolder.path().toUtf8());
-    // What is fetched lies on this machine.
+    // The tests fetch from this machine only.
     qputenv("no_proxy", "*");
     testing::InitGoogleTest(&argc, argv);
-    // A test can press the toolkit's own dialogs only.
+    // Tests can control the toolkit's own dialogs only.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication program(argc, argv);
     tarvelin::ApplyAppearance(program);

@@ -1,4 +1,5 @@
-// The workbench: one plan in two windows, edits, the timeline.
+// Tests the workbench: edits, agreement with the main window, timeline, search, comparison,
+// exports.
 #include <QClipboard>
 #include <QComboBox>
 #include <QDragEnterEvent>
@@ -53,14 +54,14 @@ class WorkbenchWindow : public MainWindow {
     static int ColumnOf(const TimelineView& timeline, SimTime moment) {
         return timeline.mapFromScene(QPointF(moment.Seconds(), 0)).x();
     }
-    void Grab(const std::vector<std::size_t>& rows) {
+    void ChooseRows(const std::vector<std::size_t>& rows) {
         Page<OrderListView>("LV_Werkbank").Choose(rows);
     }
-    void Key(Qt::Key key, Qt::KeyboardModifiers added = Qt::NoModifier) {
-        QTest::keyClick(m_workbench, key, added);
+    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(m_workbench, key, modifiers);
     }
     void Insert(const char* picture) { Page<QAbstractButton>(picture).click(); }
-    /// A drag without a source in this program.
+    /// A drop from another program.
     void Drop(const QString& format, const QByteArray& data, int row) {
         auto& list = Page<QTreeView>("LV_Werkbank");
         QMimeData content;
@@ -80,7 +81,7 @@ class WorkbenchWindow : public MainWindow {
         }
         return text;
     }
-    /// Both windows show the plan, with the texts of dropping its rows anew.
+    /// Both windows show the plan, with the texts that dropping its rows anew would give.
     void ExpectAgreement() {
         BuildList replayed;
         replayed.SetTags(m_window.CurrentPlan().LV_Bauliste.Tags(),
@@ -103,7 +104,7 @@ class WorkbenchWindow : public MainWindow {
 TEST_F(WorkbenchWindow, EditsInTheMiddle) {
     Load("GS GM GD GR GR GW");
     const QPoint listPosition = Page("LV_Werkbank").mapTo(m_workbench, QPoint());
-    Grab({3, 4});
+    ChooseRows({3, 4});
     Key(Qt::Key_Down, Qt::AltModifier);
     EXPECT_EQ(Tags(), "GS GM GD GR GR GW");
     QCoreApplication::processEvents();
@@ -111,7 +112,7 @@ TEST_F(WorkbenchWindow, EditsInTheMiddle) {
     EXPECT_EQ(Says("LBL_Meldung"),
               "Zeile 6 (Raumschiffwerft Stufe: 1): Noch keine Roboterfabrik (Stufe:2) in der "
               "Bauliste, bauen wäre unmöglich!");
-    Grab({1});
+    ChooseRows({1});
     Key(Qt::Key_Up, Qt::AltModifier);
     EXPECT_EQ(Tags(), "GM GS GD GR GR GW");
     EXPECT_EQ(Page<OrderListView>("LV_Werkbank").ChosenRows(), (std::vector<std::size_t>{0}));
@@ -124,9 +125,9 @@ TEST_F(WorkbenchWindow, EditsInTheMiddle) {
               "Noch keine Deuteriummine oder kein Solarkraftwerk in der Bauliste, bauen wäre "
               "unmöglich!");
     EXPECT_EQ(Page("ImgRobo").toolTip().trimmed().toStdString(), Says("LBL_Meldung"));
-    Grab({7});
+    ChooseRows({7});
     Key(Qt::Key_D, Qt::ControlModifier);
-    Grab({1, 2});
+    ChooseRows({1, 2});
     Key(Qt::Key_Delete);
     EXPECT_EQ(Tags(), "GS GS GD GR GR GW GW");
     Page<QComboBox>("Comb_Kristallmine").setCurrentIndex(3);
@@ -153,7 +154,7 @@ TEST_F(WorkbenchWindow, RunsAfterEachEditInBothWindows) {
     EXPECT_EQ(Column(2), "Sa 18.11. 12:30:05|Sa 18.11. 12:32:04|Sa 18.11. 12:34:56");
     EXPECT_EQ(Column(4), "Klickpuffer: 5 s|Bauschleife bis 12:31:59|Bauschleife bis 12:34:51");
     Find("Fra_Einstellungen").show();
-    Grab({2});
+    ChooseRows({2});
     Key(Qt::Key_Up, Qt::AltModifier);
     EXPECT_EQ(Says("LBL_Dauer"), TextOf("LBL_Timegone"));
     EXPECT_EQ(Says("LBL_Aenderung"), "±00:00:00");
@@ -162,22 +163,22 @@ TEST_F(WorkbenchWindow, RunsAfterEachEditInBothWindows) {
     EXPECT_TRUE(Find("Fra_Einstellungen").isVisible());
     Insert("ImgMetMine");
     EXPECT_EQ(Says("LBL_Aenderung").front(), '+');
-    // Parameters count at once.
+    // A change of parameters takes effect at once.
     Type("txt_UniStartZeitStunden", "13");
     EXPECT_EQ(Column(2).substr(0, 18), "Sa 18.11. 13:30:05");
     Type("txt_UniStartZeitMonat", "13");
     EXPECT_EQ(Says("LBL_Meldung"), "Kein gültiges Datum eingegeben...");
     EXPECT_EQ(Column(2), "|||");
     Type("txt_UniStartZeitMonat", "11");
-    // Debts stand in the strip.
-    Grab({0, 1, 2, 3});
+    // Messages of the run are shown in the message line.
+    ChooseRows({0, 1, 2, 3});
     Key(Qt::Key_Delete);
     EXPECT_EQ(RowCount("LV_Bauzeiten"), 0);
     EXPECT_EQ(TextOf("LBL_Timegone"), "Dauer: dd:hh:mm:ss");
     for (const char* const picture : {"ImgDeutMine", "ImgSKW", "ImgRobo"}) {
         Insert(picture);
     }
-    Grab({2});
+    ChooseRows({2});
     Key(Qt::Key_Delete);
     EXPECT_EQ(Tags(), "GD GS");
     Plan negativeStock = PlanOf("GW");
@@ -185,7 +186,7 @@ TEST_F(WorkbenchWindow, RunsAfterEachEditInBothWindows) {
     EXPECT_NE(Says("LBL_Meldung").find("Negative Ressourcen"), std::string::npos);
     Key(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(Tags(), "GD GS") << "a load is a step";
-    // The end of the clock.
+    // The clock's range ends before the second order.
     Plan late = PlanOf("GS GS");
     late.LV_Schlafzeiten = {{"18.11.2006 12:30", "18.11.3006 23:30"}};
     Load(late);
@@ -209,7 +210,7 @@ TEST_F(WorkbenchWindow, UndoesEditsOfBothWindows) {
     EXPECT_FALSE(Page("Cmd_Vor").isEnabled()) << "an edit ends what was taken back";
     EXPECT_EQ(back(), "GS GD GF");
     ExpectAgreement();
-    // An edit is told whole, however many keys it takes, and only if it is one.
+    // Steps of a slider are one edit, and setting the same value is none.
     const std::string duration = Says("LBL_Dauer");
     Find<QSlider>("HSC_KlickPuffer").setValue(60);
     Find<QSlider>("HSC_KlickPuffer").setValue(65);
@@ -220,7 +221,7 @@ TEST_F(WorkbenchWindow, UndoesEditsOfBothWindows) {
     EXPECT_EQ(back(), "GS GD GF");
     EXPECT_EQ(Says("LBL_Dauer"), duration);
     EXPECT_EQ(Says("LBL_Aenderung"), "-" + change.substr(1));
-    // Parameters and sleep rows go the same way, and so does a new plan, which is one step.
+    // Parameters, sleep rows and a new plan are steps too.
     Type("txt_TempMax", "40");
     Press("Cmd_AddSchlafzeit");
     m_now = *ParseDateTime("05.03.2007 01:00:00");
@@ -238,21 +239,21 @@ TEST_F(WorkbenchWindow, UndoesEditsOfBothWindows) {
     ExpectAgreement();
 }
 
-// Whatever is done in whichever window; what is taken back is what was there.
+// Random edits in both windows; undo and redo give back what was there.
 TEST_F(WorkbenchWindow, AgreesWithTheMainWindow) {
     std::minstd_rand random(7);
-    const auto one = [&](unsigned from) { return random() % from == 0; };
+    const auto oneIn = [&](unsigned n) { return random() % n == 0; };
     const std::array pictures{"ImgMetMine", "ImgSKW",   "ImgDeutMine",
                               "ImgRobo",    "imgFolab", "ImgWerft"};
     for (int i = 0; i < 150; ++i) {
         const auto rows = m_window.CurrentPlan().LV_Bauliste.Rows().size();
         std::vector<std::size_t> chosen;
-        for (std::size_t z = 0; z < rows; ++z) {
-            if (one(6)) {
-                chosen.push_back(z);
+        for (std::size_t row = 0; row < rows; ++row) {
+            if (oneIn(6)) {
+                chosen.push_back(row);
             }
         }
-        Grab(chosen);
+        ChooseRows(chosen);
         const std::string before = Tags();
         const char* const picture = pictures.at(random() % pictures.size());
         switch (random() % 8) {
@@ -263,14 +264,14 @@ TEST_F(WorkbenchWindow, AgreesWithTheMainWindow) {
                 Key(Qt::Key_Down, Qt::AltModifier);
                 break;
             case 2:
-                Key(one(2) ? Qt::Key_Delete : Qt::Key_D, Qt::ControlModifier);
+                Key(oneIn(2) ? Qt::Key_Delete : Qt::Key_D, Qt::ControlModifier);
                 break;
             case 3:
-                Press(one(9) ? "Cmd_Clear" : "Cmd_Undo");
+                Press(oneIn(9) ? "Cmd_Clear" : "Cmd_Undo");
                 break;
             case 4:
                 Find<QSlider>("HSC_KlickPuffer").setValue(static_cast<int>(random() % 60));
-                Type("txt_TempMax", one(2) ? "20" : "90");
+                Type("txt_TempMax", oneIn(2) ? "20" : "90");
                 break;
             case 5:
                 emit Find<BuildListView>("LV_Bauliste").DragDrop(ToQString(picture));
@@ -305,12 +306,12 @@ TEST_F(WorkbenchWindow, ShowsThePlanAsAPicture) {
     const int buildLane = 2 * timeline.fontMetrics().height();
     EXPECT_EQ(click(180, buildLane), (std::vector<std::size_t>{1}));
     EXPECT_EQ(click(350, buildLane), (std::vector<std::size_t>{2}));
-    // Its colour tells the queue, the frame the choice.
+    // A bar has the colour of its queue.
     const QImage picture = timeline.viewport()->grab().toImage();
     const TimelineColors colors(m_workbench->palette());
     EXPECT_EQ(picture.pixelColor(ColumnOf(timeline, SimTime(60)), buildLane),
               colors.bars[Queue::Building]);
-    // The wheel keeps the moment below the pointer.
+    // Zooming keeps the moment below the pointer in place.
     const QPoint position(ColumnOf(timeline, SimTime(300)), 20);
     for (int i = 0; i < 8; ++i) {
         QWheelEvent wheel(position, timeline.viewport()->mapToGlobal(position), {}, {0, 120}, {},
@@ -323,13 +324,13 @@ TEST_F(WorkbenchWindow, ShowsThePlanAsAPicture) {
     MoveMouse(*timeline.viewport(), position);
     EXPECT_EQ(Says("LBL_Stand").substr(0, 18), "Sa 18.11. 12:35:00");
     EXPECT_NE(Says("LBL_Stand").find("Metallmine 2"), std::string::npos);
-    Grab({4});
+    ChooseRows({4});
     const int start = ColumnOf(timeline, SimTime(*ParseDateTime("18.11.2006 12:38:53") -
                                                  *ParseDateTime("18.11.2006 12:30:00")));
     EXPECT_TRUE(start >= 0 && start < timeline.viewport()->width()) << "brought to sight";
     QTest::mouseDClick(timeline.viewport(), Qt::LeftButton, {}, position);
     EXPECT_EQ(ColumnOf(timeline, SimTime()), 0);
-    // By keys: from start to start, and the row there.
+    // Ctrl+Left and Ctrl+Right go from start to start, Enter chooses the row.
     timeline.setFocus();
     for (const auto key :
          {Qt::Key_Left, Qt::Key_Left, Qt::Key_Left, Qt::Key_Right, Qt::Key_Right}) {
@@ -402,7 +403,7 @@ TEST_F(WorkbenchWindow, SearchesAndAcceptsAsOneStep) {
     Load(starter.plan);
     m_now = *ParseDateTime("03.12.2026 12:00:30");
     const auto bytes = [this] {
-        // A save keeps what else a file holds.
+        // A save would keep the old file's other lines.
         std::filesystem::remove(m_folder / "jetzt.tvf");
         EXPECT_TRUE(SaveBauliste(m_folder / "jetzt.tvf", m_window.CurrentPlan()));
         return ReadFileToString(m_folder / "jetzt.tvf");
@@ -416,8 +417,8 @@ TEST_F(WorkbenchWindow, SearchesAndAcceptsAsOneStep) {
         ASSERT_TRUE(QTest::qWaitFor([this] { return Page("Cmd_Suchen").isEnabled(); }, kLong));
     };
     const std::string before = bytes();
-    // Pinned rows stay, and what has begun: the pause that this takes goes with the undo as well.
-    Grab({40});
+    // Pinned rows and started orders stay; undo also removes the pause that the search added.
+    ChooseRows({40});
     Page<QAbstractButton>("Chk_Fest").click();
     Page<QAbstractButton>("Chk_AbJetzt").click();
     search(20'000);
@@ -441,7 +442,7 @@ TEST_F(WorkbenchWindow, SearchesAndAcceptsAsOneStep) {
     EXPECT_EQ(RowCount("LV_Schlafzeiten"), static_cast<int>(starter.plan.LV_Schlafzeiten.size()));
     Key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(bytes(), after);
-    // A plan that was edited meanwhile isn't overwritten unasked.
+    // A plan that was edited during the search isn't replaced without a question.
     Page<QAbstractButton>("Chk_AbJetzt").click();
     search(1'000'000'000);
     Insert("ImgMetMine");
@@ -452,7 +453,7 @@ TEST_F(WorkbenchWindow, SearchesAndAcceptsAsOneStep) {
     Page<QAbstractButton>("Cmd_Uebernehmen").click();
     ASSERT_EQ(m_dialogs.texts.size(), 1U);
     EXPECT_EQ(bytes(), edited);
-    // It ends with the window, and what it finds then is kept.
+    // Closing the window stops the search and keeps its result.
     search(1'000'000'000);
     m_workbench->close();
     wait();
@@ -484,13 +485,13 @@ TEST_F(WorkbenchWindow, ComparesWithARememberedRunAndWithFiles) {
     Page<QAbstractButton>("Cmd_Merken").click();
     EXPECT_EQ(columns("LV_Unterschiede"), "");
     EXPECT_TRUE(columns("LV_Kennzahlen").starts_with("Dauer|00:07:27|00:07:27|±00:00:00|Punkte|"));
-    Grab({1});
+    ChooseRows({1});
     Key(Qt::Key_Up, Qt::AltModifier);
     Insert("ImgKrisMine");
     EXPECT_EQ(columns("LV_Unterschiede"),
               "Kristallmine 1|fehlt|00:00:05||Solarkraftwerk 1|00:00:05|00:03:59|+00:03:54|"
               "Metallmine 1|00:02:47|00:02:00|-00:00:47|Metallmine 2|00:04:46|00:06:41|+00:01:55|");
-    // In another file, from another start: both are counted from their own.
+    // A plan with another start date: both runs are measured from their own start.
     Plan other = PlanOf("GM GM");
     other.parameters.UniStartZeitTag = "1";
     ASSERT_TRUE(SaveBauliste(m_folder / "saves" / "anderer.tvf", other));
@@ -519,7 +520,7 @@ TEST_F(WorkbenchWindow, ExportsTheTimetable) {
               "2\t100% 0% 100%\t18.11.2006 12:31:49\t18.11.2006 12:31:49\tBauschleife bis "
               "12:31:49\n");
     EXPECT_EQ(content.html().count(QStringLiteral("<tr>")), 3);
-    // The reminder is the alarm's.
+    // The reminder is as many seconds before as the alarm.
     Find<QComboBox>("Comb_Before").setCurrentText(QStringLiteral("25"));
     m_dialogs.file = "kalender.ics";
     Page<QAbstractButton>("Cmd_KalenderSpeichern").click();
