@@ -80,7 +80,7 @@ TEST(WindowsFileSystem, ListsPlainFolders) {
 /// Deletes a folder whose path may be too long for the standard library.
 void Clear(const std::filesystem::path& folder) {
     for (const auto& entry : NativeFileSystem().Entries(folder)) {
-        if (NativeFileSystem().KindOf(entry) == FileSystem::Kind::TempFolder) {
+        if (NativeFileSystem().KindOf(entry) == FileSystem::Kind::Folder) {
             Clear(entry);
         } else {
             EXPECT_TRUE(NativeFileSystem().Remove(entry));
@@ -102,7 +102,7 @@ TEST(WindowsFileSystem, CopesWithLongPaths) {
     ASSERT_TRUE(NativeFileSystem().CreateFolders(folder / "share/tarvelin/img/skins/blau"));
     WriteFile(folder / "share/tarvelin/img/icon.ico", "icon");
     const auto chosen = ResolveProgramFolder(folder / "bin", path);
-    EXPECT_EQ(chosen.TempFolder, path);
+    EXPECT_EQ(chosen.path, path);
     EXPECT_TRUE(chosen.canKeep);
     EXPECT_EQ(ReadFileToString(path / "img/icon.ico", 9, NativeFileSystem()), "icon");
     EXPECT_EQ(GetSubfolders(path / "img/skins"), std::vector<std::string>{"blau"});

@@ -174,7 +174,7 @@ void CreateData(const std::filesystem::path& folder) {
 TEST(ProgramFolder, IsBesideTheProgramIfItIsWritable) {
     const TempFolder folder;
     CreateData(folder / "bin");
-    EXPECT_EQ(ResolveProgramFolder(folder / "bin", folder / "nutzer").TempFolder, folder / "bin");
+    EXPECT_EQ(ResolveProgramFolder(folder / "bin", folder / "nutzer").path, folder / "bin");
     EXPECT_FALSE(std::filesystem::exists(folder / "nutzer"));
 }
 
@@ -183,7 +183,7 @@ TEST(ProgramFolder, InstalledProgramCopiesItsFilesToTheUser) {
     CreateData(folder / "share" / "tarvelin");
     std::filesystem::create_directories(folder / "bin");
     const auto user = folder / "nutzer" / "Tarvelin";
-    EXPECT_EQ(ResolveProgramFolder(folder / "bin", user).TempFolder, user);
+    EXPECT_EQ(ResolveProgramFolder(folder / "bin", user).path, user);
     EXPECT_EQ(ReadFileToString(user / "saves" / "basic.tvf"), "plan");
     EXPECT_TRUE(std::filesystem::is_directory(user / "img/skins/temp_webskin/images"));
 
@@ -192,7 +192,7 @@ TEST(ProgramFolder, InstalledProgramCopiesItsFilesToTheUser) {
     WriteFile(user / "config.cfg", "[Settings]\r\nFirststart=0\r\n");
     std::filesystem::remove(user / "img" / "icon.ico");
     std::filesystem::remove(user / "saves" / "basic.tvf");
-    EXPECT_EQ(ResolveProgramFolder(folder / "bin", user).TempFolder, user);
+    EXPECT_EQ(ResolveProgramFolder(folder / "bin", user).path, user);
     EXPECT_EQ(ReadFileToString(user / "mfx" / "alert.wav"), "eigener Ton");
     EXPECT_EQ(ReadFileToString(user / "img" / "icon.ico"), "icon");
     EXPECT_FALSE(std::filesystem::exists(user / "saves" / "basic.tvf"));
@@ -209,14 +209,14 @@ TEST(ProgramFolder, ReadsItsOwnFilesWithoutAUserFolder) {
     // The user's folder is missing, can't be made, or can't take all files; nothing is thrown.
     for (const auto& user : {std::filesystem::path(), folder / "datei" / "x", folder / "voll"}) {
         const ProgramFolder chosen = ResolveProgramFolder(folder / "bin", user);
-        EXPECT_EQ(chosen.TempFolder, own) << user;
+        EXPECT_EQ(chosen.path, own) << user;
         EXPECT_FALSE(chosen.canKeep) << user;
     }
     // If the user's folder has plans, it is used all the same, so that they stay in sight.
     for (const char* const file : {"basic.tvf", "meiner.tvf"}) {
         WriteFile(folder / "voll" / "saves" / file, "plan");
         const ProgramFolder chosen = ResolveProgramFolder(folder / "bin", folder / "voll");
-        EXPECT_EQ(chosen.TempFolder == folder / "voll", file == std::string("meiner.tvf"));
+        EXPECT_EQ(chosen.path == folder / "voll", file == std::string("meiner.tvf"));
         EXPECT_FALSE(chosen.canKeep) << "what is new there has no room";
     }
 }
@@ -251,7 +251,7 @@ TEST(ProgramFolder, FileDialogsBeginInAKnownFolder) {
 TEST(ProgramFolder, ProtectsWhatAnotherWindowKeeps) {
     const TempFolder folder;
     std::filesystem::create_directory(folder / "saves");
-    const ProgramFolder programFolder{.TempFolder = folder / ""};
+    const ProgramFolder programFolder{.path = folder / ""};
     const ProtectedFileSystem files(programFolder.ReadOnlyPaths(true));
     Autosave autosave(folder / "", files);
     autosave.WriteAtExit(PlanOf("GM"));

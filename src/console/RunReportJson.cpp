@@ -12,9 +12,9 @@ namespace {
 
 using nlohmann::json;
 
-json MessagesJson(const PlanRun& document) {
+json MessagesJson(const PlanRun& planRun) {
     json list = json::array();
-    for (const Message& message : document.messages) {
+    for (const Message& message : planRun.messages) {
         list.push_back({{"Text", message.text}, {"Titel", message.title}});
     }
     return list;
@@ -125,21 +125,21 @@ json HistoryOf(const RunTrace& trace) {
 
 }  // namespace
 
-std::string JsonText(const PlanRun& document, bool withHistory) {
-    const BuildList& list = document.plan.LV_Bauliste;
-    json object{{"Meldungen", MessagesJson(document)},
-                {"Geladen", document.loaded},
-                {"Gelaufen", document.hasRun},
+std::string JsonText(const PlanRun& planRun, bool withHistory) {
+    const BuildList& list = planRun.plan.LV_Bauliste;
+    json object{{"Meldungen", MessagesJson(planRun)},
+                {"Geladen", planRun.loaded},
+                {"Gelaufen", planRun.hasRun},
                 {"Bauliste", RowsJson(list)},
                 {"ListStufe", ByCode([&](ItemId item) { return list.Orders().ListStufe(item); })},
                 {"ListFaktor", list.Orders().ListFaktor()},
-                {"Schlafzeiten", SleepTableJson(document.plan.LV_Schlafzeiten)}};
-    if (document.hasRun) {
-        AppendState(object, document.run.state, document.run.conditions);
-        AppendTexts(object, document.texts);
-        object["LV_Bauzeiten"] = ScheduleJson(document.run.LV_Bauzeiten);
+                {"Schlafzeiten", SleepTableJson(planRun.plan.LV_Schlafzeiten)}};
+    if (planRun.hasRun) {
+        AppendState(object, planRun.run.state, planRun.run.conditions);
+        AppendTexts(object, planRun.texts);
+        object["LV_Bauzeiten"] = ScheduleJson(planRun.run.LV_Bauzeiten);
         if (withHistory) {
-            object["Verlauf"] = HistoryOf(document.Trace());
+            object["Verlauf"] = HistoryOf(planRun.Trace());
         }
     }
     return object.dump(1);

@@ -31,13 +31,13 @@ std::vector<TextRow> ScheduleRows(const Schedule& schedule,
 }
 
 /// Name and figure of what a run came to.
-std::vector<TextRow> ResultFigures(const PlanRun& document) {
-    const GameState& state = document.run.state;
+std::vector<TextRow> ResultFigures(const PlanRun& planRun) {
+    const GameState& state = planRun.run.state;
     return {{"Dauer:", DurationText(state)},
-            {"Metall:", document.texts.LBL_Met},
-            {"Kristall:", document.texts.LBL_Kris},
-            {"Deuterium:", document.texts.LBL_Deut},
-            {"Energie:", document.texts.LBL_ENergie},
+            {"Metall:", planRun.texts.LBL_Met},
+            {"Kristall:", planRun.texts.LBL_Kris},
+            {"Deuterium:", planRun.texts.LBL_Deut},
+            {"Energie:", planRun.texts.LBL_ENergie},
             {"Punkte:", PointsText(state)},
             {"Punkte inkl. Res.:", PointsWithStockText(state)}};
 }
@@ -66,15 +66,15 @@ void WriteCsvRow(std::ostream& stream, const std::string& plan, const TextRow& r
 
 }  // namespace
 
-void WriteText(std::ostream& stream, const PlanRun& document) {
-    stream << document.name << "\n\n";
-    const RunTrace trace = document.Trace();
-    auto rows = ScheduleRows(document.run.LV_Bauzeiten,
+void WriteText(std::ostream& stream, const PlanRun& planRun) {
+    stream << planRun.name << "\n\n";
+    const RunTrace trace = planRun.Trace();
+    auto rows = ScheduleRows(planRun.run.LV_Bauzeiten,
                              [&](std::size_t i) { return DelayText(trace, trace.starts[i].row); });
     rows.insert(rows.begin(), Header("Grund"));
     WriteTable(stream, rows, {0});
     stream << '\n';
-    WriteTable(stream, ResultFigures(document), {1});
+    WriteTable(stream, ResultFigures(planRun), {1});
 }
 
 void WriteCsvHeader(std::ostream& stream) {
@@ -82,11 +82,11 @@ void WriteCsvHeader(std::ostream& stream) {
     WriteCsvRow(stream, "Plan", Header("Verzögerung"));
 }
 
-void WriteCsvRows(std::ostream& stream, const PlanRun& document) {
-    const Schedule& schedule = document.run.LV_Bauzeiten;
+void WriteCsvRows(std::ostream& stream, const PlanRun& planRun) {
+    const Schedule& schedule = planRun.run.LV_Bauzeiten;
     for (const TextRow& row :
          ScheduleRows(schedule, [&](std::size_t i) { return schedule[i].VerzoegerungsGrund(); })) {
-        WriteCsvRow(stream, document.name, row);
+        WriteCsvRow(stream, planRun.name, row);
     }
 }
 

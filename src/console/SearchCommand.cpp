@@ -39,7 +39,7 @@ using RowRanges = std::vector<std::pair<std::size_t, std::size_t>>;
 std::variant<RowRanges, std::string> ParseRows(std::string_view text) {
     constexpr const char* kExpected = "--fest erwartet Zeilen wie 3,7-9";
     constexpr std::int64_t kHighest = 9999;
-    RowRanges pieces;
+    RowRanges ranges;
     while (!text.empty()) {
         const auto end = std::min(text.find(','), text.size());
         const auto piece = text.substr(0, end);
@@ -47,11 +47,11 @@ std::variant<RowRanges, std::string> ParseRows(std::string_view text) {
             return kExpected;
         }
         text.remove_prefix(std::min(end + 1, text.size()));
-        const auto tick = piece.find('-');
-        const auto first = ParseWholeNumber(piece.substr(0, tick), 1, kHighest);
-        const auto last = tick == std::string_view::npos
+        const auto dash = piece.find('-');
+        const auto first = ParseWholeNumber(piece.substr(0, dash), 1, kHighest);
+        const auto last = dash == std::string_view::npos
                               ? first
-                              : ParseWholeNumber(piece.substr(tick + 1), 1, kHighest);
+                              : ParseWholeNumber(piece.substr(dash + 1), 1, kHighest);
         if (!first || !last) {
             return kExpected;
         }
@@ -59,19 +59,19 @@ std::variant<RowRanges, std::string> ParseRows(std::string_view text) {
             return "--fest " + std::string(piece) + " läuft rückwärts: gemeint ist wohl " +
                    std::to_string(*last) + "-" + std::to_string(*first);
         }
-        pieces.emplace_back(*first, *last);
+        ranges.emplace_back(*first, *last);
     }
-    return pieces;
+    return ranges;
 }
 
 /// The wish, or what is wrong with the call.
 std::variant<SearchRequest, std::string> ParseRequest(const SearchCommand& command) {
     SearchRequest request{.goal = command.goal, .moveProduction = command.moveProduction};
-    const auto lines = ParseRows(command.pinned);
-    if (const auto* const error = std::get_if<std::string>(&lines)) {
+    const auto ranges = ParseRows(command.pinned);
+    if (const auto* const error = std::get_if<std::string>(&ranges)) {
         return *error;
     }
-    request.pinnedRanges = std::get<RowRanges>(lines);
+    request.pinnedRanges = std::get<RowRanges>(ranges);
     if (command.notBefore) {
         request.notBefore = ParseDateTime(*command.notBefore);
         if (!request.notBefore) {
@@ -105,35 +105,35 @@ int RunSearchCommand(const SearchCommand& command, const std::atomic<bool>& stop
     if (const auto* const error = std::get_if<std::string>(&request)) {
         return Say(*error, kWrongCall);
     }
-    const PlanRun plan(PathFromUtf8(command.planFile));
-    if (!plan.loaded) {
+    const PlanRun oldRun(PathFromUtf8(command.planFile));
+    if (!oldRun.loaded) {
         const int code = Say(LoadErrorMessage().text, kPlanFailed);
         std::cerr << command.planFile << ": " << LoadObstacle(PathFromUtf8(command.planFile))
                   << '\n';
         return code;
     }
-    if (plan.run.state.IsAtEndOfClock()) {
+    if (oldRun.run.state.IsAtEndOfClock()) {
         std::cerr << command.planFile << ": " << BeyondClockText() << '\n';
     }
-    const auto task = MakePlanTask(plan.plan, std::get<SearchRequest>(request));
+    const auto task = MakePlanTask(oldRun.plan, std::get<SearchRequest>(request));
     if (const auto* const refusal = std::get_if<SearchRefusal>(&task)) {
         return Say(refusal->text, refusal->wrongCall ? kWrongCall : kPlanFailed);
     }
-    const auto& posed = std::get<PlanTask>(task);
-    const SearchResult result = SearchWithProgress(posed, command, stop);
+    const auto& planTask = std::get<PlanTask>(task);
+    const SearchResult result = SearchWithProgress(planTask, command, stop);
     if (!result.best) {
         return Say("Es wurde keine Liste gefunden, die endet", kPlanFailed);
     }
-    const Plan after = WithOrders(plan.plan, result.best->orders, posed.pause);
+    const Plan after = WithOrders(oldRun.plan, result.best->orders, planTask.pause);
     IniFile profile("");
     WritePlan(after, profile);
-    const PlanRun document(
-        command.outputFile ? PathToUtf8(PathFromUtf8(*command.outputFile).filename()) : plan.name,
+    const PlanRun newRun(
+        command.outputFile ? PathToUtf8(PathFromUtf8(*command.outputFile).filename()) : oldRun.name,
         profile);
-    const SearchReport report{.before = plan,
-                              .task = posed,
-                              .ResultText = result,
-                              .after = document,
+    const SearchReport report{.before = oldRun,
+                              .task = planTask,
+                              .result = result,
+                              .after = newRun,
                               .seed = command.seed};
     if (command.outputFile && !SaveBauliste(PathFromUtf8(*command.outputFile), after)) {
         return Say(SaveErrorMessage().text, kPlanFailed);

@@ -56,7 +56,7 @@ std::string Percent(Long gain, Long from) {
 }  // namespace
 
 void WriteSearch(std::ostream& stream, const SearchReport& report) {
-    const Solution& after = *report.ResultText.best;
+    const Solution& after = *report.result.best;
     const auto& before = report.task.before;
     WriteRow(stream, "Vorher",
              before ? SolutionText(*before) : "der Plan endet nie oder verfehlt das Ziel");
@@ -82,7 +82,7 @@ void WriteSearch(std::ostream& stream, const SearchReport& report) {
         WriteRow(stream, "Pause", pause->Startzeit + " bis " + pause->Endzeit);
     }
     WriteRow(stream, "Versuche",
-             std::to_string(report.ResultText.tries) + "   Saat: " + std::to_string(report.seed));
+             std::to_string(report.result.tries) + "   Saat: " + std::to_string(report.seed));
     stream << '\n';
     WriteText(stream, report.after);
 }
@@ -90,14 +90,14 @@ void WriteSearch(std::ostream& stream, const SearchReport& report) {
 std::string SearchJson(const SearchReport& report) {
     const auto& before = report.task.before;
     json tags = json::array();
-    for (const Order& order : report.ResultText.best->orders) {
+    for (const Order& order : report.result.best->orders) {
         tags.push_back(order.Tag());
     }
     const OrderList& oldOrders = report.before.plan.LV_Bauliste.Orders();
     const OrderList& newOrders = report.after.plan.LV_Bauliste.Orders();
     json object{{"Vorher", before ? ToJson(*before, report.before.run.state) : json()},
-                {"Nachher", ToJson(*report.ResultText.best, report.after.run.state)},
-                {"Versuche", report.ResultText.tries},
+                {"Nachher", ToJson(*report.result.best, report.after.run.state)},
+                {"Versuche", report.result.tries},
                 {"Saat", report.seed},
                 {"Hinzu", SurplusText(newOrders, oldOrders)},
                 {"Weg", SurplusText(oldOrders, newOrders)},

@@ -15,7 +15,7 @@ struct SearchReport {
     /// The plan as it was loaded.
     const PlanRun& before;
     const PlanTask& task;
-    const SearchResult& ResultText;
+    const SearchResult& result;
     /// The new plan, loaded and run as a file would be.
     const PlanRun& after;
     std::uint64_t seed;

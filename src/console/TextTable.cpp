@@ -13,21 +13,21 @@ std::string Padded(const std::string& text, std::size_t width, bool right) {
     return right ? gap + text : text + gap;
 }
 
-void WriteTable(std::ostream& stream, const std::vector<std::vector<std::string>>& lines,
+void WriteTable(std::ostream& stream, const std::vector<std::vector<std::string>>& rows,
                 const std::vector<std::size_t>& right) {
-    std::vector<std::size_t> widths(lines.empty() ? 0 : lines.front().size());
-    for (const auto& line : lines) {
+    std::vector<std::size_t> widths(rows.empty() ? 0 : rows.front().size());
+    for (const auto& row : rows) {
         for (std::size_t i = 0; i < widths.size(); ++i) {
-            widths[i] = std::max(widths[i], CountCharacters(line[i]));
+            widths[i] = std::max(widths[i], CountCharacters(row[i]));
         }
     }
-    for (const auto& line : lines) {
-        std::string text;
+    for (const auto& row : rows) {
+        std::string line;
         for (std::size_t i = 0; i < widths.size(); ++i) {
-            const bool attachRight = std::ranges::find(right, i) != right.end();
-            text += Padded(line[i], widths[i], attachRight) + "  ";
+            const bool alignRight = std::ranges::find(right, i) != right.end();
+            line += Padded(row[i], widths[i], alignRight) + "  ";
         }
-        stream << text.substr(0, text.find_last_not_of(' ') + 1) << '\n';
+        stream << line.substr(0, line.find_last_not_of(' ') + 1) << '\n';
     }
 }
 

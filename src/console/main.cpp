@@ -50,7 +50,7 @@ struct CommandLine {
 std::atomic<bool> g_stop{false};
 static_assert(std::atomic<bool>::is_always_lock_free);
 
-int SearchCommandOf(tarvelin::SearchCommand command, bool json) {
+int RunSearch(tarvelin::SearchCommand command, bool json) {
     command.json = json;
     std::signal(SIGINT, [](int) { g_stop = true; });
     return tarvelin::RunSearchCommand(command, g_stop);
@@ -111,22 +111,22 @@ std::string ErrorText(const CLI::ParseError& error) {
 /// Each message as "Titel: Text", or the text alone without a title; then what is to be told of the
 /// file, under its name.
 tarvelin::PlanRun RunFile(const std::string& file) {
-    tarvelin::PlanRun document(tarvelin::PathFromUtf8(file));
-    for (const tarvelin::Message& message : document.messages) {
+    tarvelin::PlanRun planRun(tarvelin::PathFromUtf8(file));
+    for (const tarvelin::Message& message : planRun.messages) {
         std::cerr << message.title << (message.title.empty() ? "" : ": ") << message.text << '\n';
     }
-    const std::string text = !document.loaded ? tarvelin::LoadObstacle(tarvelin::PathFromUtf8(file))
-                             : !document.hasRun ? "dieser Plan kann nicht gespielt werden"
-                             : document.run.state.IsAtEndOfClock() ? tarvelin::BeyondClockText()
-                                                                   : "";
+    const std::string text = !planRun.loaded ? tarvelin::LoadObstacle(tarvelin::PathFromUtf8(file))
+                             : !planRun.hasRun ? "dieser Plan kann nicht gespielt werden"
+                             : planRun.run.state.IsAtEndOfClock() ? tarvelin::BeyondClockText()
+                                                                  : "";
     std::cerr << (text.empty() ? "" : file + ": " + text + "\n");
-    return document;
+    return planRun;
 }
 
-bool WriteCalendar(const tarvelin::PlanRun& document, const std::string& file) {
+bool WriteCalendar(const tarvelin::PlanRun& planRun, const std::string& file) {
     constexpr tarvelin::Long kReminder = 10;
     const auto now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
-    const std::string text = tarvelin::CalendarText(document.Trace(), kReminder, now);
+    const std::string text = tarvelin::CalendarText(planRun.Trace(), kReminder, now);
     if (tarvelin::WriteFileAtomically(tarvelin::PathFromUtf8(file), text,
                                       tarvelin::NativeFileSystem())) {
         return true;
@@ -159,19 +159,19 @@ bool Execute(const CommandLine& call) {
         tarvelin::WriteCsvHeader(std::cout);
     }
     for (const std::string& file : call.files) {
-        const tarvelin::PlanRun document = RunFile(file);
+        const tarvelin::PlanRun planRun = RunFile(file);
         if (call.json) {
-            std::cout << tarvelin::JsonText(document, call.history) << '\n';
+            std::cout << tarvelin::JsonText(planRun, call.history) << '\n';
         } else if (call.csv) {
-            tarvelin::WriteCsvRows(std::cout, document);
-        } else if (document.hasRun) {
+            tarvelin::WriteCsvRows(std::cout, planRun);
+        } else if (planRun.hasRun) {
             std::cout << (first ? "" : "\n");
-            tarvelin::WriteText(std::cout, document);
+            tarvelin::WriteText(std::cout, planRun);
             first = false;
         }
-        allGood = allGood && document.hasRun;
-        if (call.calendar && document.hasRun) {
-            allGood = WriteCalendar(document, *call.calendar) && allGood;
+        allGood = allGood && planRun.hasRun;
+        if (call.calendar && planRun.hasRun) {
+            allGood = WriteCalendar(planRun, *call.calendar) && allGood;
         }
     }
     return allGood;
@@ -303,7 +303,7 @@ int Run(const std::vector<std::string>& arguments) {
         std::cerr << "tarvelin-cli: " << error << " (siehe --hilfe)\n";
         return tarvelin::kWrongCall;
     }
-    const int code = searching       ? SearchCommandOf(call.search, call.json)
+    const int code = searching       ? RunSearch(call.search, call.json)
                      : Execute(call) ? tarvelin::kGood
                                      : tarvelin::kPlanFailed;
     if (!std::cout.flush()) {

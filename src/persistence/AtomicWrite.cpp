@@ -91,20 +91,20 @@ class TempFile {
 bool WriteFileAtomically(const std::filesystem::path& file, std::string_view bytes,
                          const FileSystem& system) {
     // A link keeps pointing to the file whose bytes change.
-    const auto destination = system.Resolve(file);
-    if (!destination) {
+    const auto resolved = system.Resolve(file);
+    if (!resolved) {
         return false;
     }
-    const auto kind = system.KindOf(*destination);
+    const auto kind = system.KindOf(*resolved);
     const bool present = kind == FileSystem::Kind::RegularFile;
-    if (present ? !system.IsWritable(*destination) : kind != FileSystem::Kind::Nothing) {
+    if (present ? !system.IsWritable(*resolved) : kind != FileSystem::Kind::Nothing) {
         return false;
     }
-    const auto folder = destination->parent_path();
+    const auto folder = resolved->parent_path();
     RemoveOrphans(folder, system);
-    TempFile fresh(folder, system);
-    if (!fresh.Exists() || (present && !fresh.CopyPermissions(*destination)) ||
-        !fresh.Fill(bytes) || !fresh.TakePlaceOf(*destination)) {
+    TempFile temp(folder, system);
+    if (!temp.Exists() || (present && !temp.CopyPermissions(*resolved)) || !temp.Fill(bytes) ||
+        !temp.TakePlaceOf(*resolved)) {
         return false;
     }
     // The rename itself reaches the disk with its folder.

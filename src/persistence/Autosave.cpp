@@ -41,10 +41,9 @@ std::vector<std::filesystem::path> Autosave::AllPaths() const {
 
 bool Autosave::IsOwnFile(const std::filesystem::path& File) const {
     // Many names lead to a file.
-    const auto destination = m_system.Resolve(File);
-    return std::ranges::any_of(AllPaths(), [&](const auto& own) {
-        return destination && destination == m_system.Resolve(own);
-    });
+    const auto resolved = m_system.Resolve(File);
+    return std::ranges::any_of(
+        AllPaths(), [&](const auto& own) { return resolved && resolved == m_system.Resolve(own); });
 }
 
 void Autosave::MarkStoredInFile(const Plan& plan) {

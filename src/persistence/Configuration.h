@@ -38,8 +38,8 @@ class Configuration {
     static constexpr ConfigKey kWorkbenchLeft     {"Werkbank",      "Links",              ""};
     static constexpr ConfigKey kWorkbenchTop      {"Werkbank",      "Oben",               ""};
     static constexpr ConfigKey kWorkbenchWidth    {"Werkbank",      "Breite",             ""};
-    static constexpr ConfigKey kWorkbenchHeight     {"Werkbank",      "Hoehe",              ""};
-    static constexpr ConfigKey kWorkbenchMaximized     {"Werkbank",      "Gross",              "0"};
+    static constexpr ConfigKey kWorkbenchHeight   {"Werkbank",      "Hoehe",              ""};
+    static constexpr ConfigKey kWorkbenchMaximized{"Werkbank",      "Gross",              "0"};
     // clang-format on
 
     using Values = std::vector<std::pair<ConfigKey, std::string>>;

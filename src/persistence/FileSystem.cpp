@@ -21,18 +21,18 @@ std::optional<std::string> ReadFileToString(const std::filesystem::path& file, s
     }
     std::string bytes;
     std::array<char, std::size_t{64} << 10U> block{};
-    std::ptrdiff_t parsed = 1;
-    while (parsed > 0 && bytes.size() <= max) {
-        parsed = system.Read(number, block);
-        bytes.append(block.data(), static_cast<std::size_t>(parsed < 0 ? 0 : parsed));
+    std::ptrdiff_t count = 1;
+    while (count > 0 && bytes.size() <= max) {
+        count = system.Read(number, block);
+        bytes.append(block.data(), static_cast<std::size_t>(count < 0 ? 0 : count));
     }
     system.Close(number);
-    return parsed == 0 ? std::optional(std::move(bytes)) : std::nullopt;
+    return count == 0 ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 bool FileExists(const std::filesystem::path& File, const FileSystem& system) {
     const auto kind = system.KindOf(File);
-    return kind && *kind != FileSystem::Kind::Nothing && *kind != FileSystem::Kind::TempFolder;
+    return kind && *kind != FileSystem::Kind::Nothing && *kind != FileSystem::Kind::Folder;
 }
 
 void DeleteFile(const std::filesystem::path& File, const FileSystem& files) {

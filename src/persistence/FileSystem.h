@@ -17,7 +17,7 @@ namespace tarvelin {
 /// number from 0; what can't be done answers -1, false or nothing.
 class FileSystem {
   public:
-    enum class Kind : std::uint8_t { Nothing, RegularFile, TempFolder, Other };
+    enum class Kind : std::uint8_t { Nothing, RegularFile, Folder, Other };
 
     FileSystem() = default;
     FileSystem(const FileSystem&) = delete;

@@ -35,16 +35,16 @@ class PosixFileSystem final : public FileSystem {
                                                        : std::nullopt;
         }
         return S_ISREG(status.st_mode)   ? Kind::RegularFile
-               : S_ISDIR(status.st_mode) ? Kind::TempFolder
+               : S_ISDIR(status.st_mode) ? Kind::Folder
                                          : Kind::Other;
     }
     [[nodiscard]] std::optional<fs::path> Resolve(const fs::path& path) const override {
         std::error_code error;
-        auto destination = fs::weakly_canonical(fs::absolute(path, error), error);
-        return error ? std::nullopt : std::optional(std::move(destination));
+        auto resolved = fs::weakly_canonical(fs::absolute(path, error), error);
+        return error ? std::nullopt : std::optional(std::move(resolved));
     }
     [[nodiscard]] bool IsWritable(const fs::path& path) const override {
-        const bool folder = KindOf(path) == Kind::TempFolder;
+        const bool folder = KindOf(path) == Kind::Folder;
         return ::access(path.c_str(), folder ? W_OK | X_OK : W_OK) == 0;
     }
     [[nodiscard]] std::vector<fs::path> Entries(const fs::path& folder) const override {
@@ -64,7 +64,7 @@ class PosixFileSystem final : public FileSystem {
     bool CreateFolders(const fs::path& path) const override {
         std::error_code error;
         fs::create_directories(path, error);
-        return KindOf(path) == Kind::TempFolder;
+        return KindOf(path) == Kind::Folder;
     }
 
     [[nodiscard]] int Open(const fs::path& file) const override {

@@ -18,26 +18,26 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t kSlice = std::size_t{1} << 20U;
+constexpr std::size_t kMaxCount = std::size_t{1} << 20U;
 
 /// A path as the system reads it whatever its length and letters: whole, behind a mark. The mark
 /// ends the system's own reading of ".", ".." and "/" in it. Empty if the path is none.
-std::wstring Readable(const fs::path& path) {
+std::wstring ExtendedPath(const fs::path& path) {
     std::wstring full(::GetFullPathNameW(path.c_str(), 0, nullptr, nullptr), L'\0');
     full.resize(
         ::GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
     if (full.empty() || full.starts_with(LR"(\\?\)") || full.starts_with(LR"(\\.\)")) {
         return full;
     }
-    const bool sharing = full.starts_with(LR"(\\)");
-    return sharing ? LR"(\\?\UNC\)" + full.substr(2) : LR"(\\?\)" + full;
+    const bool isShare = full.starts_with(LR"(\\)");
+    return isShare ? LR"(\\?\UNC\)" + full.substr(2) : LR"(\\?\)" + full;
 }
 
 /// A file, folder or device that is looked at, however others hold it.
 class PathHandle {
   public:
     explicit PathHandle(const fs::path& path)
-        : m_handle(::CreateFileW(Readable(path).c_str(), FILE_READ_ATTRIBUTES,
+        : m_handle(::CreateFileW(ExtendedPath(path).c_str(), FILE_READ_ATTRIBUTES,
                                  FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                                  OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr)),
           m_error(::GetLastError()) {}
@@ -55,19 +55,19 @@ class PathHandle {
         if (::GetFileType(m_handle) != FILE_TYPE_DISK) {
             return Kind::Other;
         }
-        BY_HANDLE_FILE_INFORMATION inputs;
-        if (::GetFileInformationByHandle(m_handle, &inputs) == 0) {
+        BY_HANDLE_FILE_INFORMATION info;
+        if (::GetFileInformationByHandle(m_handle, &info) == 0) {
             return std::nullopt;
         }
-        return (inputs.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? Kind::TempFolder
-                                                                         : Kind::RegularFile;
+        return (info.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? Kind::Folder
+                                                                       : Kind::RegularFile;
     }
     /// Behind all links; empty where the disk can't tell it.
     [[nodiscard]] std::wstring Location() const {
-        std::wstring position(::GetFinalPathNameByHandleW(m_handle, nullptr, 0, 0), L'\0');
-        position.resize(::GetFinalPathNameByHandleW(m_handle, position.data(),
-                                                    static_cast<DWORD>(position.size()), 0));
-        return position;
+        std::wstring location(::GetFinalPathNameByHandleW(m_handle, nullptr, 0, 0), L'\0');
+        location.resize(::GetFinalPathNameByHandleW(m_handle, location.data(),
+                                                    static_cast<DWORD>(location.size()), 0));
+        return location;
     }
 
     /// Whether it isn't there because nothing has this name.
@@ -90,10 +90,10 @@ bool IsHeld(DWORD error) {
 /// wins. `action` answers with the system's error; whether it came to its end.
 template <class Action>
 bool Patiently(Action action) {
-    constexpr int kTrials = 20;
+    constexpr int kAttempts = 20;
     constexpr DWORD kPause = 50;
     DWORD error = action();
-    for (int trial = 1; IsHeld(error) && trial < kTrials; ++trial) {
+    for (int attempt = 1; IsHeld(error) && attempt < kAttempts; ++attempt) {
         ::Sleep(kPause);
         error = action();
     }
@@ -103,34 +103,34 @@ bool Patiently(Action action) {
 class WindowsFileSystem final : public FileSystem {
   public:
     [[nodiscard]] std::optional<Kind> KindOf(const fs::path& path) const override {
-        const PathHandle view(path);
-        if (view.Exists()) {
-            return view.KindOf();
+        const PathHandle handle(path);
+        if (handle.Exists()) {
+            return handle.KindOf();
         }
-        return view.IsNothing() ? std::optional(Kind::Nothing) : std::nullopt;
+        return handle.IsNothing() ? std::optional(Kind::Nothing) : std::nullopt;
     }
     [[nodiscard]] std::optional<fs::path> Resolve(const fs::path& path) const override {
-        const fs::path full = Readable(path);
+        const fs::path full = ExtendedPath(path);
         if (full.empty()) {
             return std::nullopt;
         }
         // A new file has its folder's place.
         if (const PathHandle file(full); file.Exists()) {
-            const std::wstring position = file.Location();
-            return position.empty() ? full : fs::path(position);
+            const std::wstring location = file.Location();
+            return location.empty() ? full : fs::path(location);
         }
         const PathHandle folder(full.parent_path());
-        const std::wstring position = folder.Exists() ? folder.Location() : std::wstring();
-        return position.empty() ? full : fs::path(position) / full.filename();
+        const std::wstring location = folder.Exists() ? folder.Location() : std::wstring();
+        return location.empty() ? full : fs::path(location) / full.filename();
     }
     /// A folder tells only when a file is made in it. The system deletes it, whoever looks at it.
     [[nodiscard]] bool IsWritable(const fs::path& path) const override {
-        if (KindOf(path) != Kind::TempFolder) {
-            return ::_waccess(Readable(path).c_str(), 2) == 0;
+        if (KindOf(path) != Kind::Folder) {
+            return ::_waccess(ExtendedPath(path).c_str(), 2) == 0;
         }
-        const fs::path trial = path / (".tarvelin-" + std::to_string(ProcessId()) + ".tmp");
+        const fs::path probe = path / (".tarvelin-" + std::to_string(ProcessId()) + ".tmp");
         const HANDLE handle = ::CreateFileW(
-            Readable(trial).c_str(), GENERIC_WRITE | DELETE,
+            ExtendedPath(probe).c_str(), GENERIC_WRITE | DELETE,
             FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, CREATE_ALWAYS,
             FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
         return handle != INVALID_HANDLE_VALUE && ::CloseHandle(handle) != 0;
@@ -139,7 +139,7 @@ class WindowsFileSystem final : public FileSystem {
     [[nodiscard]] std::vector<fs::path> Entries(const fs::path& folder) const override {
         std::vector<fs::path> entries;
         WIN32_FIND_DATAW entry;
-        const HANDLE search = ::FindFirstFileW(Readable(folder / "*").c_str(), &entry);
+        const HANDLE search = ::FindFirstFileW(ExtendedPath(folder / "*").c_str(), &entry);
         if (search == INVALID_HANDLE_VALUE) {
             return entries;
         }
@@ -157,41 +157,41 @@ class WindowsFileSystem final : public FileSystem {
         constexpr DWORD kSpecial = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN |
                                    FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE |
                                    FILE_ATTRIBUTE_REPARSE_POINT;
-        const DWORD attribute = ::GetFileAttributesW(Readable(path).c_str());
-        return attribute != INVALID_FILE_ATTRIBUTES &&
-               (attribute & (FILE_ATTRIBUTE_DIRECTORY | kSpecial)) == FILE_ATTRIBUTE_DIRECTORY;
+        const DWORD attributes = ::GetFileAttributesW(ExtendedPath(path).c_str());
+        return attributes != INVALID_FILE_ATTRIBUTES &&
+               (attributes & (FILE_ATTRIBUTE_DIRECTORY | kSpecial)) == FILE_ATTRIBUTE_DIRECTORY;
     }
     bool CreateFolders(const fs::path& path) const override {
-        if (KindOf(path) != Kind::TempFolder && path.has_relative_path() &&
+        if (KindOf(path) != Kind::Folder && path.has_relative_path() &&
             CreateFolders(path.parent_path())) {
-            ::CreateDirectoryW(Readable(path).c_str(), nullptr);
+            ::CreateDirectoryW(ExtendedPath(path).c_str(), nullptr);
         }
-        return KindOf(path) == Kind::TempFolder;
+        return KindOf(path) == Kind::Folder;
     }
 
     [[nodiscard]] int Open(const fs::path& file) const override {
         int number = -1;
         Patiently([&] {
-            number = ::_wopen(Readable(file).c_str(), _O_RDONLY | _O_BINARY | _O_NOINHERIT);
+            number = ::_wopen(ExtendedPath(file).c_str(), _O_RDONLY | _O_BINARY | _O_NOINHERIT);
             return number >= 0 ? DWORD{ERROR_SUCCESS} : DWORD{_doserrno};
         });
         return number;
     }
     [[nodiscard]] int Create(const fs::path& file) const override {
-        return ::_wopen(Readable(file).c_str(),
+        return ::_wopen(ExtendedPath(file).c_str(),
                         _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY | _O_NOINHERIT,
                         _S_IREAD | _S_IWRITE);
     }
     [[nodiscard]] std::ptrdiff_t Read(int number, std::span<char> bytes) const override {
-        const auto count = static_cast<unsigned>(std::min(bytes.size(), kSlice));
+        const auto count = static_cast<unsigned>(std::min(bytes.size(), kMaxCount));
         return ::_read(number, bytes.data(), count);
     }
     [[nodiscard]] std::ptrdiff_t Write(int number, std::string_view bytes) const override {
-        const auto count = static_cast<unsigned>(std::min(bytes.size(), kSlice));
+        const auto count = static_cast<unsigned>(std::min(bytes.size(), kMaxCount));
         return ::_write(number, bytes.data(), count);
     }
     /// A new file takes the rights of its folder, as those of most programs do here.
-    [[nodiscard]] bool CopyPermissions(int /*nummer*/, const fs::path& /*von*/) const override {
+    [[nodiscard]] bool CopyPermissions(int /*number*/, const fs::path& /*from*/) const override {
         return true;
     }
     [[nodiscard]] bool Sync(int number) const override { return ::_commit(number) == 0; }
@@ -200,7 +200,7 @@ class WindowsFileSystem final : public FileSystem {
     [[nodiscard]] bool Rename(const fs::path& from, const fs::path& target) const override {
         return Patiently([&] {
             const bool moved =
-                ::MoveFileExW(Readable(from).c_str(), Readable(target).c_str(),
+                ::MoveFileExW(ExtendedPath(from).c_str(), ExtendedPath(target).c_str(),
                               MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
             const DWORD error = moved ? DWORD{ERROR_SUCCESS} : ::GetLastError();
             // Who may not be replaced at all answers the same.
@@ -208,9 +208,9 @@ class WindowsFileSystem final : public FileSystem {
         });
     }
     /// The move has written through.
-    bool SyncFolder(const fs::path& /*ordner*/) const override { return true; }
+    bool SyncFolder(const fs::path& /*folder*/) const override { return true; }
     bool Remove(const fs::path& file) const override {
-        return ::_wunlink(Readable(file).c_str()) == 0;
+        return ::_wunlink(ExtendedPath(file).c_str()) == 0;
     }
 
     [[nodiscard]] std::int64_t ProcessId() const override { return ::GetCurrentProcessId(); }

@@ -28,12 +28,12 @@ std::string Lowercase(std::string_view text) {
     return lowercase;
 }
 
-std::string_view Trimmed(std::string_view text, std::string_view margin = " \t\v\f") {
-    const auto begin = text.find_first_not_of(margin);
+std::string_view Trimmed(std::string_view text, std::string_view blanks = " \t\v\f") {
+    const auto begin = text.find_first_not_of(blanks);
     if (begin == std::string_view::npos) {
         return {};
     }
-    return text.substr(begin, text.find_last_not_of(margin) - begin + 1);
+    return text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
 }
 
 /// A line without its end and the blanks around it.

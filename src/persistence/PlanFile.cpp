@@ -26,8 +26,8 @@ constexpr std::int64_t kMaxSleepWindows = 9999;
 
 /// "Item_007".
 std::string RowKey(std::string_view name, std::size_t n) {
-    constexpr int kDecimals = 3;
-    return std::string(name) + PadIntegerDigits(std::to_string(n), kDecimals);
+    constexpr int kDigits = 3;
+    return std::string(name) + PadIntegerDigits(std::to_string(n), kDigits);
 }
 
 /// The keys of the section of settings that hold an input's text as typed, in the order in which
@@ -52,11 +52,10 @@ std::string Readable(std::string_view value) {
     for (std::size_t i = 0; i < text.size(); ++i) {
         const auto character = static_cast<unsigned char>(text[i]);
         // Also those of the second set, which UTF-8 has behind this byte.
-        const bool byteOrder =
-            i > 0 && text[i - 1] == '\xC2' && character >= 0x80 && character < 0xA0;
-        if (character < ' ' || character == 0x7F || byteOrder) {
+        const bool isC1 = i > 0 && text[i - 1] == '\xC2' && character >= 0x80 && character < 0xA0;
+        if (character < ' ' || character == 0x7F || isC1) {
             text[i] = '?';
-            text[i - (byteOrder ? 1 : 0)] = '?';
+            text[i - (isC1 ? 1 : 0)] = '?';
         }
     }
     if (text.size() > kMax) {
@@ -140,14 +139,14 @@ class PlanReader {
 
     /// Always false.
     bool Fail(std::string_view section, std::string_view key, const std::string& expected) {
-        const auto row = m_profile.LineNumber(section, key);
+        const auto line = m_profile.LineNumber(section, key);
         const std::string name(key);
-        if (!row) {
+        if (!line) {
             m_obstacle = "[" + std::string(section) + "], " + name + " fehlt";
             return false;
         }
         const std::string value = Readable(m_profile.ReadINI(section, key, ""));
-        m_obstacle = "Zeile " + std::to_string(*row) + ", " + name + ": " +
+        m_obstacle = "Zeile " + std::to_string(*line) + ", " + name + ": " +
                      (value.empty() ? "der Wert fehlt" : value + " " + expected);
         return false;
     }
@@ -230,7 +229,7 @@ std::string LoadObstacle(const std::filesystem::path& File, const FileSystem& sy
     switch (system.KindOf(File).value_or(FileSystem::Kind::RegularFile)) {
         case FileSystem::Kind::Nothing:
             return "diese Datei gibt es nicht";
-        case FileSystem::Kind::TempFolder:
+        case FileSystem::Kind::Folder:
             return "das ist ein Ordner, keine Datei";
         case FileSystem::Kind::Other:
             return "das ist keine Datei";

@@ -18,8 +18,8 @@ namespace tarvelin {
 struct PlanRun {
     /// The name of the file without its folders.
     std::string name;
-    tarvelin::Plan plan;
-    tarvelin::LastRun run;
+    Plan plan;
+    LastRun run;
     ResultTexts texts;
     /// The whole file was read, and the run was called.
     bool loaded = false;

@@ -24,7 +24,7 @@ bool CopyMissing(const fs::path& from, const fs::path& target) {
 }
 
 bool IsFolder(const fs::path& path) {
-    return NativeFileSystem().KindOf(path) == FileSystem::Kind::TempFolder;
+    return NativeFileSystem().KindOf(path) == FileSystem::Kind::Folder;
 }
 
 /// Whether the folder lies there afterwards, and had room for all that is in the other one.
@@ -60,20 +60,20 @@ bool HasPlans(const fs::path& folder) {
 
 std::vector<fs::path> ProgramFolder::ReadOnlyPaths(bool heldByOther) const {
     if (!canKeep) {
-        return {TempFolder};
+        return {path};
     }
     if (!heldByOther) {
         return {};
     }
-    auto readOnly = Autosave(TempFolder).AllPaths();
-    readOnly.push_back(TempFolder / "config.cfg");
+    auto readOnly = Autosave(path).AllPaths();
+    readOnly.push_back(path / "config.cfg");
     return readOnly;
 }
 
 fs::path PlanFolder(const fs::path& programFolder, const FileSystem& system) {
     fs::path folder = programFolder / "saves";
     system.CreateFolders(folder);
-    while (system.KindOf(folder) != FileSystem::Kind::TempFolder && folder.has_relative_path()) {
+    while (system.KindOf(folder) != FileSystem::Kind::Folder && folder.has_relative_path()) {
         folder = folder.parent_path();
     }
     return folder;
@@ -82,18 +82,18 @@ fs::path PlanFolder(const fs::path& programFolder, const FileSystem& system) {
 ProgramFolder ResolveProgramFolder(const fs::path& programFolder, const fs::path& userFolder) {
     const bool withData = IsFolder(programFolder / "img");
     if (withData && NativeFileSystem().IsWritable(programFolder)) {
-        return {.TempFolder = programFolder};
+        return {.path = programFolder};
     }
     const fs::path source =
         withData ? programFolder : programFolder.parent_path() / "share" / "tarvelin";
     if (userFolder.empty()) {
-        return {.TempFolder = source, .canKeep = false};
+        return {.path = source, .canKeep = false};
     }
     // Who has plans there keeps them in sight, whatever has no room beside them.
     const bool hasPlans = HasPlans(userFolder);
     const bool canKeep = SetUp(source, userFolder) && NativeFileSystem().IsWritable(userFolder) &&
                          NativeFileSystem().IsWritable(userFolder / "saves");
-    return {.TempFolder = canKeep || hasPlans ? userFolder : source, .canKeep = canKeep};
+    return {.path = canKeep || hasPlans ? userFolder : source, .canKeep = canKeep};
 }
 
 }  // namespace tarvelin

@@ -10,7 +10,7 @@ namespace tarvelin {
 
 /// The folder of `config.cfg`, `saves`, `img` and `mfx` for this start.
 struct ProgramFolder {
-    std::filesystem::path TempFolder;
+    std::filesystem::path path;
     /// Whether the user's plans and settings can be kept there. Where they can't, nothing of it
     /// must be changed.
     bool canKeep = true;

@@ -9,16 +9,16 @@ ProtectedFileSystem::ProtectedFileSystem(const std::vector<std::filesystem::path
                                          const FileSystem& system)
     : m_system(system) {
     for (const auto& path : protectedFiles) {
-        auto position = system.Resolve(path).value_or(path);
-        m_protected.push_back(position.has_filename() ? position : position.parent_path());
+        auto resolved = system.Resolve(path).value_or(path);
+        m_protected.push_back(resolved.has_filename() ? resolved : resolved.parent_path());
     }
 }
 
 bool ProtectedFileSystem::IsProtected(const std::filesystem::path& path) const {
-    const auto position = m_system.Resolve(path).value_or(path);
+    const auto resolved = m_system.Resolve(path).value_or(path);
     return std::ranges::any_of(m_protected, [&](const auto& protectedFile) {
-        return std::mismatch(protectedFile.begin(), protectedFile.end(), position.begin(),
-                             position.end())
+        return std::mismatch(protectedFile.begin(), protectedFile.end(), resolved.begin(),
+                             resolved.end())
                    .first == protectedFile.end();
     });
 }

@@ -22,7 +22,7 @@ class IncrementalEvaluator::StartGuard final : public RunObserver {
             sittings.sleepFreeStart = event.sleepFreeStart;
         }
     }
-    void OnNegativeStock(const GameState& /*stand*/) override { missed = true; }
+    void OnNegativeStock(const GameState& /*state*/) override { missed = true; }
 
     SittingState sittings;
     /// Orders that have started.
@@ -55,9 +55,9 @@ std::optional<Score> IncrementalEvaluator::Evaluate(std::span<const Order> order
         }
         if (guard.starts > m_started) {
             m_started = guard.starts;
-            Checkpoint& fresh = m_checkpoints[m_started][1 - m_valid[m_started]];
-            fresh.simulation = simulation;
-            fresh.sittings = guard.sittings;
+            Checkpoint& next = m_checkpoints[m_started][1 - m_valid[m_started]];
+            next.simulation = simulation;
+            next.sittings = guard.sittings;
         }
     }
     if (simulation.State().secsgone == SimTime(std::numeric_limits<Long>::max())) {

@@ -110,14 +110,14 @@ bool Neighborhood::Reposition(Random& random) {
     if (block >= n) {
         return false;
     }
-    const std::size_t extent = Reach(random, n - block);
-    const std::size_t from = random.Below(n - block - extent + 1);
+    const std::size_t distance = Reach(random, n - block);
+    const std::size_t from = random.Below(n - block - distance + 1);
     if (kind == 2) {
-        SwapRows(from, from + extent);
+        SwapRows(from, from + distance);
     } else if (random.OneIn(2)) {
-        Rotate(from, from + block, from + block + extent);
+        Rotate(from, from + block, from + block + distance);
     } else {
-        Rotate(from, from + extent, from + block + extent);
+        Rotate(from, from + distance, from + block + distance);
     }
     // Equal orders that change places change nothing.
     while (m_from < m_until && m_neighbor[m_from] == m_orders[m_from]) {

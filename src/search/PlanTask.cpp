@@ -15,7 +15,7 @@ namespace {
 
 using Levels = PerItem<Byte>;
 
-SearchRefusal Wrong(std::string text) {
+SearchRefusal WrongCall(std::string text) {
     return {.text = std::move(text), .wrongCall = true};
 }
 
@@ -24,15 +24,15 @@ std::variant<std::pair<ItemId, Byte>, SearchRefusal> ParseGoalWord(std::string_v
     const auto digit = std::min(word.find_first_of("0123456789"), word.size());
     const auto item = ItemFromCode(word.substr(0, digit));
     if (!item) {
-        return Wrong("\"" + std::string(word) +
-                     "\" nennt kein Item: erwartet wird etwa GW2 oder WKT1");
+        return WrongCall("\"" + std::string(word) +
+                         "\" nennt kein Item: erwartet wird etwa GW2 oder WKT1");
     }
     const auto highest =
         std::min(std::int64_t{RowOf(*item).traits.maxCount}, std::int64_t{OrderList::kMaxSize});
     const auto level = ParseWholeNumber(word.substr(digit), 1, highest);
     if (!level) {
-        return Wrong("\"" + std::string(word) + "\": die Stufe oder Anzahl muss von 1 bis " +
-                     std::to_string(highest) + " gehen");
+        return WrongCall("\"" + std::string(word) + "\": die Stufe oder Anzahl muss von 1 bis " +
+                         std::to_string(highest) + " gehen");
     }
     return std::pair(*item, static_cast<Byte>(*level));
 }
@@ -56,7 +56,7 @@ std::variant<Levels, SearchRefusal> ParseGoal(std::string_view text) {
         empty = false;
     }
     if (empty) {
-        return Wrong("Das Ziel ist leer: erwartet wird etwa \"GW2 FV2 WKT1\" oder plan");
+        return WrongCall("Das Ziel ist leer: erwartet wird etwa \"GW2 FV2 WKT1\" oder plan");
     }
     return goal;
 }
@@ -102,8 +102,8 @@ std::optional<SearchRefusal> SetPinned(const Plan& plan, const SearchRequest& re
     }
     for (const auto& [first, last] : request.pinnedRanges) {
         if (first < 1 || first > last || last > orders.size()) {
-            return Wrong("Feste Zeilen gehen von 1 bis " + std::to_string(orders.size()) +
-                         ", so lang ist die Bauliste");
+            return WrongCall("Feste Zeilen gehen von 1 bis " + std::to_string(orders.size()) +
+                             ", so lang ist die Bauliste");
         }
         std::fill(pinned.begin() + static_cast<std::ptrdiff_t>(first) - 1,
                   pinned.begin() + static_cast<std::ptrdiff_t>(last), true);
@@ -135,21 +135,21 @@ std::string ToTheMinute(DateTime time) {
 std::optional<SearchRefusal> SetHead(const Plan& plan, DateTime notBefore, PlanTask& task) {
     RunConditions& conditions = task.task.conditions;
     const auto starts = StartTimes::Of(plan, conditions);
-    const DateTime initial = conditions.StartDate;
-    const auto header = static_cast<std::size_t>(
+    const DateTime begin = conditions.StartDate;
+    const auto headSize = static_cast<std::size_t>(
         std::ranges::find_if(
             starts, [&](SimTime start) { return conditions.WallClock(start) >= notBefore; }) -
         starts.begin());
-    task.task.headSize = header;
-    task.task.notBefore = SimTime(std::max(Long{0}, notBefore - initial));
-    if (header == starts.size()) {
+    task.task.headSize = headSize;
+    task.task.notBefore = SimTime(std::max(Long{0}, notBefore - begin));
+    if (headSize == starts.size()) {
         return SearchRefusal{.text = "Alle Aufträge beginnen vor dem " + DateTimeText(notBefore) +
                                      ": es bleibt nichts umzustellen"};
     }
-    if (header == 0) {
+    if (headSize == 0) {
         return std::nullopt;
     }
-    const DateTime last = conditions.WallClock(starts[header - 1]);
+    const DateTime last = conditions.WallClock(starts[headSize - 1]);
     const DateTime from(last.Seconds() / kMinute * kMinute + kMinute);
     const DateTime until((notBefore.Seconds() + kMinute - 1) / kMinute * kMinute);
     if (from >= until) {
@@ -158,7 +158,7 @@ std::optional<SearchRefusal> SetHead(const Plan& plan, DateTime notBefore, PlanT
     task.pause = {.Startzeit = ToTheMinute(from), .Endzeit = ToTheMinute(until)};
     conditions.Schlafzeiten.insert(conditions.Schlafzeiten.begin(), {from, until});
     const auto withPause = StartTimes::Of(plan, conditions);
-    if (!std::equal(starts.begin(), starts.begin() + static_cast<std::ptrdiff_t>(header),
+    if (!std::equal(starts.begin(), starts.begin() + static_cast<std::ptrdiff_t>(headSize),
                     withPause.begin())) {
         return SearchRefusal{.text = "Mit der Pause vor dem " + DateTimeText(notBefore) +
                                      " begännen schon gespielte Aufträge zu anderer Zeit"};
@@ -224,7 +224,7 @@ std::optional<SearchRefusal> SetGoal(const Plan& plan, const std::string& text, 
         task.before.reset();
     }
     if (search.orders.size() > OrderList::kMaxSize) {
-        return Wrong("Das Ziel braucht mit seinen Voraussetzungen mehr als 254 Zeilen");
+        return WrongCall("Das Ziel braucht mit seinen Voraussetzungen mehr als 254 Zeilen");
     }
     return std::nullopt;
 }
@@ -274,16 +274,16 @@ SearchResult Search(const PlanTask& task, const SearchBudget& budget, const std:
 
 Plan WithOrders(const Plan& plan, const std::vector<Order>& orders,
                 const std::optional<SleepRow>& pause) {
-    Plan fresh = plan;
-    fresh.LV_Bauliste.Clear();
+    Plan changed = plan;
+    changed.LV_Bauliste.Clear();
     const RunConditions conditions{.Temperatur = ParseTemperature(plan.parameters).value_or(0)};
     for (const Order& order : orders) {
-        static_cast<void>(fresh.LV_Bauliste.Replay(order.Tag(), conditions));
+        static_cast<void>(changed.LV_Bauliste.Replay(order.Tag(), conditions));
     }
     if (pause) {
-        fresh.LV_Schlafzeiten.insert(fresh.LV_Schlafzeiten.begin(), *pause);
+        changed.LV_Schlafzeiten.insert(changed.LV_Schlafzeiten.begin(), *pause);
     }
-    return fresh;
+    return changed;
 }
 
 }  // namespace tarvelin

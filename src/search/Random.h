@@ -7,7 +7,7 @@
 
 namespace tarvelin {
 
-/// The distributions of the standard library may differ from one to the other; its engine doesn't.
+/// The distributions of the standard library may differ n one to the other; its engine doesn't.
 class Random {
   public:
     explicit Random(std::uint64_t seed) : m_source(seed) {}
@@ -16,11 +16,11 @@ class Random {
     std::size_t Below(std::size_t count) {
         return static_cast<std::size_t>(((m_source() >> 32U) * count) >> 32U);
     }
-    bool OneIn(std::size_t from) { return Below(from) == 0; }
+    bool OneIn(std::size_t n) { return Below(n) == 0; }
     /// Above 0, at most 1.
     double UnitInterval() {
-        constexpr double kPer = 1.0 / 9007199254740992.0;
-        return static_cast<double>((m_source() >> 11U) + 1) * kPer;
+        constexpr double kStep = 1.0 / 9007199254740992.0;
+        return static_cast<double>((m_source() >> 11U) + 1) * kStep;
     }
 
   private:

@@ -108,7 +108,7 @@ class SharedProgress {
 struct ChainSpec {
     const SearchTask* task;
     const Solution* initial;
-    Objective goal;
+    Objective objective;
     double heat;
     std::uint64_t seed;
     /// No list may take longer.
@@ -123,7 +123,7 @@ Solution RunChain(const ChainSpec& chain, SharedProgress& progress) {
     Solution best = *chain.initial;
     static_cast<void>(evaluator.Evaluate(neighborhood.Current(), 0, kNoLimit));
     evaluator.Accept();
-    double objectiveValue = ObjectiveValue(best.score, chain.goal);
+    double objectiveValue = ObjectiveValue(best.score, chain.objective);
     const double step =
         std::pow(kFinalHeat / chain.heat, 1.0 / static_cast<double>(SearchBudget::kChainLength));
     double heat = chain.heat;
@@ -139,13 +139,13 @@ Solution RunChain(const ChainSpec& chain, SharedProgress& progress) {
             objectiveValue - heat * objectiveValue * std::log(random.UnitInterval());
         const Long limit = limitValue < chain.limit ? static_cast<Long>(limitValue) : chain.limit;
         const auto score = evaluator.Evaluate(neighborhood.Neighbor(), *from, limit);
-        if (!score || ObjectiveValue(*score, chain.goal) > limitValue) {
+        if (!score || ObjectiveValue(*score, chain.objective) > limitValue) {
             continue;
         }
         neighborhood.Accept();
         evaluator.Accept();
-        objectiveValue = ObjectiveValue(*score, chain.goal);
-        if (IsBetter(*score, best.score, chain.goal)) {
+        objectiveValue = ObjectiveValue(*score, chain.objective);
+        if (IsBetter(*score, best.score, chain.objective)) {
             best = {
                 .orders = neighborhood.Current(), .pinned = neighborhood.Pinned(), .score = *score};
             progress.Report(score->duration);
@@ -158,7 +158,7 @@ Solution RunChain(const ChainSpec& chain, SharedProgress& progress) {
 struct ChainSeries {
     const SearchTask* task;
     Solution initial;
-    Objective goal;
+    Objective objective;
     std::span<const double> heats;
     /// So much of them is left.
     double reheat;
@@ -169,14 +169,14 @@ struct ChainSeries {
     std::uint64_t seed;
 
     /// With nights every other chain minds them.
-    [[nodiscard]] ChainSpec NumberOf(std::uint64_t i) const {
+    [[nodiscard]] ChainSpec ChainAt(std::uint64_t i) const {
         constexpr std::uint64_t kSeedDistance = 1'000'003;
         const std::uint64_t number = first + i;
-        const bool night = goal == Objective::Duration && number % 2 == 1 &&
+        const bool night = objective == Objective::Duration && number % 2 == 1 &&
                            !task->conditions.Schlafzeiten.empty();
         return {.task = task,
                 .initial = &initial,
-                .goal = night ? Objective::NightGap : goal,
+                .objective = night ? Objective::NightGap : objective,
                 .heat = reheat * heats[number / 2 % heats.size()],
                 .seed = seed * kSeedDistance + number,
                 .limit = limit};
@@ -200,13 +200,13 @@ class ChainPool {
     }
 
     /// Waits for the end; asks in between. The best list, of equals that of the first chain.
-    template <class Question>
-    Solution Wait(Question ask) {
+    template <class Callback>
+    Solution Wait(Callback poll) {
         constexpr std::chrono::milliseconds kInterval(100);
         std::unique_lock lock(m_mutex);
         while (!m_finished.wait_for(lock, kInterval, [this] { return m_running == 0; })) {
             lock.unlock();
-            ask();
+            poll();
             lock.lock();
         }
         lock.unlock();
@@ -217,7 +217,7 @@ class ChainPool {
   private:
     void Work() {
         for (std::uint64_t i = m_next++; i < m_series.count && !m_progress->Stops(); i = m_next++) {
-            Take(RunChain(m_series.NumberOf(i), *m_progress), i);
+            Take(RunChain(m_series.ChainAt(i), *m_progress), i);
         }
         const std::scoped_lock lock(m_mutex);
         --m_running;
@@ -226,8 +226,8 @@ class ChainPool {
 
     void Take(Solution solution, std::uint64_t chain) {
         const std::scoped_lock lock(m_mutex);
-        const bool worse = IsBetter(m_best.score, solution.score, m_series.goal);
-        const bool isBetter = IsBetter(solution.score, m_best.score, m_series.goal);
+        const bool worse = IsBetter(m_best.score, solution.score, m_series.objective);
+        const bool isBetter = IsBetter(solution.score, m_best.score, m_series.objective);
         if (isBetter || (!worse && m_from && chain < *m_from)) {
             m_best = std::move(solution);
             m_from = chain;
@@ -247,7 +247,7 @@ class ChainPool {
 };
 
 /// The list of the task, or one of the same orders that ends sooner, or at all.
-std::optional<Solution> InitialSolution(const SearchTask& task, const std::atomic<bool>& stop) {
+std::optional<Solution> ChooseInitial(const SearchTask& task, const std::atomic<bool>& stop) {
     std::optional<Solution> own = Evaluate(task, task.orders);
     // Another list could have other orders above the pinned rows.
     const bool hasPinned = std::ranges::find(task.pinned, true) != task.pinned.end();
@@ -278,13 +278,13 @@ class SearchDriver {
     }
 
     SearchResult Run(const std::function<void(const SearchProgress&)>& report) {
-        constexpr std::uint64_t kOfFour = 4;
+        constexpr std::uint64_t kFour = 4;
         constexpr double kHundred = 100;
-        const std::uint64_t forSittings = m_chains <= kOfFour          ? 0
+        const std::uint64_t forSittings = m_chains <= kFour            ? 0
                                           : m_budget.slackPercent == 0 ? 2
-                                                                       : m_chains / kOfFour;
+                                                                       : m_chains / kFour;
         const std::uint64_t forDuration = m_chains - forSittings;
-        const std::uint64_t later = forDuration / kOfFour;
+        const std::uint64_t later = forDuration / kFour;
         RunSeries(forDuration - later, Objective::Duration, 1, kNoLimit, report);
         RunSeries(later, Objective::Duration, kReheat, kNoLimit, report);
         const double limit = m_best.score.duration * (1 + m_budget.slackPercent / kHundred);
@@ -306,7 +306,7 @@ class SearchDriver {
                        m_task.pinned.end(), false));
         ChainPool pool({.task = &m_task,
                         .initial = m_best,
-                        .goal = objective,
+                        .objective = objective,
                         .heats = InitialHeats(m_task, freeCount),
                         .reheat = reheat,
                         .limit = limit,
@@ -353,7 +353,7 @@ std::optional<Solution> Evaluate(const SearchTask& task, const std::vector<Order
 SearchResult Search(const SearchTask& task, const SearchBudget& budget,
                     const std::atomic<bool>& stop,
                     const std::function<void(const SearchProgress&)>& report) {
-    const std::optional<Solution> initial = InitialSolution(task, stop);
+    const std::optional<Solution> initial = ChooseInitial(task, stop);
     if (!initial) {
         // There is nothing to try, unless the search was stopped before it had begun.
         return {.best = {}, .totalTries = stop ? budget.tries : 0};

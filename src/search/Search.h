@@ -30,7 +30,7 @@ struct Solution {
     std::vector<Order> orders;
     /// Which of them are pinned.
     std::vector<bool> pinned;
-    tarvelin::Score score;
+    Score score;
 };
 
 /// How far a search has come.

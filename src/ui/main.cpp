@@ -76,7 +76,7 @@ int main(int argc, char** argv) {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     const tarvelin::ProgramFolder folder = tarvelin::ResolveProgramFolder(
         tarvelin::ToPath(QApplication::applicationDirPath()), UserFolder());
-    tarvelin::FolderLock lock(folder.TempFolder);
+    tarvelin::FolderLock lock(folder.path);
     tarvelin::QtDialogs dialogs;
     if (lock.HeldByOther() && !dialogs.Ask(SecondWindow())) {
         return 0;
@@ -90,7 +90,7 @@ int main(int argc, char** argv) {
         .sound = sound,
         .now = LocalTime,
         .openPage = OpenPage,
-        .programFolder = folder.TempFolder,
+        .programFolder = folder.path,
         .files = files,
         .desktopPalette = [&desktop] { return desktop.CurrentPalette(); },
         .planArgument = tarvelin::PlanArgument(argc, argv),

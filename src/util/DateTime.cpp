@@ -41,7 +41,7 @@ class Parser {
         int value = 0;
         std::from_chars(m_rest.data(), m_rest.data() + n, value);
         m_good = m_good && n >= min;
-        m_parsed = n;
+        m_taken = n;
         m_rest.remove_prefix(n);
         return value;
     }
@@ -53,25 +53,25 @@ class Parser {
     [[nodiscard]] bool BeginsWith(char character) const {
         return !m_rest.empty() && m_rest.front() == character;
     }
-    [[nodiscard]] std::size_t Parsed() const { return m_parsed; }
+    [[nodiscard]] std::size_t Taken() const { return m_taken; }
     [[nodiscard]] bool AtEndAndGood() const { return m_good && m_rest.empty(); }
     void Spoil() { m_good = false; }
 
   private:
     std::string_view m_rest;
-    std::size_t m_parsed = 0;
+    std::size_t m_taken = 0;
     bool m_good = true;
 };
 
-int ParseYear(Parser& reader) {
+int ParseYear(Parser& parser) {
     constexpr int kFirstYear = 100;
     constexpr int kLastYearOf20xx = 29;
-    const int year = reader.Digits(2, 4);
-    if (reader.Parsed() == 2) {
+    const int year = parser.Digits(2, 4);
+    if (parser.Taken() == 2) {
         return year <= kLastYearOf20xx ? 2000 + year : 1900 + year;
     }
-    if (reader.Parsed() == 3 || year < kFirstYear) {
-        reader.Spoil();
+    if (parser.Taken() == 3 || year < kFirstYear) {
+        parser.Spoil();
     }
     return year;
 }
@@ -81,9 +81,9 @@ std::int64_t DayNumber(DateTime time) {
     return s >= 0 ? s / kSecondsPerDay : -((-s + kSecondsPerDay - 1) / kSecondsPerDay);
 }
 
-void AppendDigits(std::string& text, std::int64_t number, std::size_t decimals) {
+void AppendDigits(std::string& text, std::int64_t number, std::size_t minDigits) {
     const std::string digits = std::to_string(number);
-    text.append(digits.size() < decimals ? decimals - digits.size() : 0, '0');
+    text.append(digits.size() < minDigits ? minDigits - digits.size() : 0, '0');
     text += digits;
 }
 
@@ -108,24 +108,24 @@ void AppendTimeOfDay(std::string& text, DateTime time) {
 }  // namespace
 
 std::optional<DateTime> ParseDateTime(std::string_view text) {
-    Parser reader(text);
-    const auto day = static_cast<unsigned>(reader.Digits(1, 2));
-    reader.Character('.');
-    const auto month = static_cast<unsigned>(reader.Digits(1, 2));
-    reader.Character('.');
-    const int year = ParseYear(reader);
-    reader.Character(' ');
-    const int hour = reader.Digits(1, 2);
-    reader.Character(':');
-    const int minute = reader.Digits(1, 2);
+    Parser parser(text);
+    const auto day = static_cast<unsigned>(parser.Digits(1, 2));
+    parser.Character('.');
+    const auto month = static_cast<unsigned>(parser.Digits(1, 2));
+    parser.Character('.');
+    const int year = ParseYear(parser);
+    parser.Character(' ');
+    const int hour = parser.Digits(1, 2);
+    parser.Character(':');
+    const int minute = parser.Digits(1, 2);
     int second = 0;
-    if (reader.BeginsWith(':')) {
-        reader.Character(':');
-        second = reader.Digits(1, 2);
+    if (parser.BeginsWith(':')) {
+        parser.Character(':');
+        second = parser.Digits(1, 2);
     }
     const std::chrono::year_month_day date{std::chrono::year{year}, std::chrono::month{month},
                                            std::chrono::day{day}};
-    if (!reader.AtEndAndGood() || !date.ok() || hour > 23 || minute > 59 || second > 59) {
+    if (!parser.AtEndAndGood() || !date.ok() || hour > 23 || minute > 59 || second > 59) {
         return std::nullopt;
     }
     const std::int64_t days = (sys_days{date} - kDayZero).count();

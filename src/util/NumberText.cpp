@@ -40,9 +40,9 @@ std::optional<NumberForm> Split(std::string_view text) {
     const std::string_view whole = text.substr(0, comma);
     form.digits = text;
     form.hasComma = comma != std::string_view::npos;
-    const std::string_view breach = form.hasComma ? text.substr(comma + 1) : whole;
-    if (breach.empty() || !std::ranges::all_of(whole, IsDigit) ||
-        !std::ranges::all_of(breach, IsDigit)) {
+    const std::string_view lastPart = form.hasComma ? text.substr(comma + 1) : whole;
+    if (lastPart.empty() || !std::ranges::all_of(whole, IsDigit) ||
+        !std::ranges::all_of(lastPart, IsDigit)) {
         return std::nullopt;
     }
     return form;
@@ -59,7 +59,7 @@ std::string AllDigits(double value, int decimals) {
     return text;
 }
 
-double InDoubleLimits(double value) {
+double ClampedToDouble(double value) {
     constexpr double kMax = std::numeric_limits<double>::max();
     return std::isnan(value) ? 0.0 : std::clamp(value, -kMax, kMax);
 }
@@ -128,7 +128,7 @@ std::string DecimalText(double value, int decimals) {
 }
 
 std::string WholeText(double value) {
-    const double whole = std::trunc(InDoubleLimits(value));
+    const double whole = std::trunc(ClampedToDouble(value));
     return AllDigits(whole == 0 ? 0.0 : whole, 0);  // no "-0"
 }
 

@@ -24,19 +24,19 @@ std::int64_t Clamped(double value, Round round) {
 
 /// Nearest whole number, a half going to the even one (the platform's own conversion).
 inline std::int64_t HalfEven(double value) {
-    return Clamped(value, [](double w) { return static_cast<std::int64_t>(std::llrint(w)); });
+    return Clamped(value, [](double v) { return static_cast<std::int64_t>(std::llrint(v)); });
 }
 
 /// Towards zero.
 inline std::int64_t Cut(double value) {
-    return Clamped(value, [](double w) { return static_cast<std::int64_t>(w); });
+    return Clamped(value, [](double v) { return static_cast<std::int64_t>(v); });
 }
 
 /// Down to the next whole number.
 inline std::int64_t Floor(double value) {
-    return Clamped(value, [](double w) {
-        const auto whole = static_cast<std::int64_t>(w);
-        return whole - (static_cast<double>(whole) > w ? 1 : 0);
+    return Clamped(value, [](double v) {
+        const auto whole = static_cast<std::int64_t>(v);
+        return whole - (static_cast<double>(whole) > v ? 1 : 0);
     });
 }
 
