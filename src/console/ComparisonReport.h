@@ -1,4 +1,4 @@
-// Two plans beside each other, as text and as JSON.
+// The comparison of two plans as text and as JSON.
 #pragma once
 
 #include <ostream>
@@ -8,10 +8,9 @@
 
 namespace tarvelin {
 
-/// Both have been run.
+/// `hasRun` has to hold for both, here and below.
 void WriteComparison(std::ostream& stream, const PlanRun& a, const PlanRun& b);
 
-/// One object.
 [[nodiscard]] std::string ComparisonJson(const PlanRun& a, const PlanRun& b);
 
 }  // namespace tarvelin

@@ -6,8 +6,7 @@
 
 namespace tarvelin {
 
-/// Written for players: each option with the German word for its value, then the codes of the items
-/// and examples.
+/// For players: the options with German words for their values, the item codes, and examples.
 class HelpPage : public CLI::Formatter {
   public:
     HelpPage();

@@ -1,4 +1,4 @@
-// The three forms in which the console prints a plan that was run.
+// A plan and its result as text, CSV and JSON.
 #pragma once
 
 #include <ostream>
@@ -8,17 +8,17 @@
 
 namespace tarvelin {
 
-/// Aligned German text: the timetable with the run's own reasons, then duration, stocks, energy and
-/// points.
+/// The timetable with the reason of each delay, then duration, stocks, energy and points. Only if
+/// `hasRun`.
 void WriteText(std::ostream& stream, const PlanRun& planRun);
 
-/// The header row of the spreadsheet, with the byte-order mark that makes it UTF-8.
+/// With a byte-order mark, by which spreadsheets recognize UTF-8.
 void WriteCsvHeader(std::ostream& stream);
-/// The rows of the timetable, the plan's file name in front.
+/// The rows of the timetable; the first column is the plan's file name.
 void WriteCsvRows(std::ostream& stream, const PlanRun& planRun);
 
-/// One object with the whole plan and the whole result; on request with the history of the stocks
-/// and the orders with their reasons, under `HistoryRecorder`.
+/// One object with the plan and its result; with `withHistory` also the history of the stocks and
+/// the orders with the reasons of their delays, under "Verlauf".
 [[nodiscard]] std::string JsonText(const PlanRun& planRun, bool withHistory = false);
 
 }  // namespace tarvelin

@@ -1,4 +1,4 @@
-// The search as the console's user calls it.
+// The command `--suche`.
 #pragma once
 
 #include <atomic>
@@ -8,11 +8,12 @@
 
 namespace tarvelin {
 
-/// The options as they were given.
+/// The options as given.
 struct SearchCommand {
     std::string planFile;
     std::optional<std::string> goal;
     std::optional<std::string> outputFile;
+    /// 0: the default of the search.
     std::uint64_t tries = 0;
     unsigned threads = 1;
     std::uint64_t seed = 1;
@@ -23,8 +24,8 @@ struct SearchCommand {
     bool json = false;
 };
 
-/// Searches, prints, writes the new plan. Ends early with the best so far when `stop` is set. The
-/// exit code: 0, 1 for a plan that can't be searched or written, 2 for a wrong call.
+/// Searches, writes the new plan and prints the report. Setting `stop` ends it early with the best
+/// plan so far. Returns the exit code.
 int RunSearchCommand(const SearchCommand& command, const std::atomic<bool>& stop);
 
 }  // namespace tarvelin

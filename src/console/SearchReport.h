@@ -1,4 +1,4 @@
-// What a search came to, as text and as JSON.
+// The result of a search as text and as JSON.
 #pragma once
 
 #include <cstdint>
@@ -10,13 +10,12 @@
 
 namespace tarvelin {
 
-/// A search that is over: the plan before, the best list, and its run.
 struct SearchReport {
     /// The plan as it was loaded.
     const PlanRun& before;
     const PlanTask& task;
     const SearchResult& result;
-    /// The new plan, loaded and run as a file would be.
+    /// The new plan and its run.
     const PlanRun& after;
     std::uint64_t seed;
 };
@@ -24,10 +23,9 @@ struct SearchReport {
 /// Before, after, gain, sittings, what came and went, rates, and the new timetable.
 void WriteSearch(std::ostream& stream, const SearchReport& report);
 
-/// One object.
 [[nodiscard]] std::string SearchJson(const SearchReport& report);
 
-/// "1.234.000 von 2.000.000 ...": where a search stands, in one line without an end.
+/// One line without its end: "01 Tage 02:03:04  Gewinn 00 Tage 00:10:00  Versuch 1234 von ...".
 [[nodiscard]] std::string ProgressLine(const SearchProgress& progress);
 
 }  // namespace tarvelin

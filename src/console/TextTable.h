@@ -1,4 +1,4 @@
-// Aligned text.
+// Tables of aligned text.
 #pragma once
 
 #include <ostream>
@@ -7,12 +7,12 @@
 
 namespace tarvelin {
 
-/// Rows of texts below each other, two blanks between columns. Every row has as many as the first.
-/// The columns of `right`, from 0, stand at the right.
+/// All rows have as many columns as the first; two blanks separate them. `right`: the columns, from
+/// 0, that are aligned right.
 void WriteTable(std::ostream& stream, const std::vector<std::vector<std::string>>& rows,
                 const std::vector<std::size_t>& right);
 
-/// With blanks behind it, or in front of it, up to so many characters.
+/// Padded with blanks to `width` characters, aligned left or right.
 [[nodiscard]] std::string Padded(const std::string& text, std::size_t width, bool right);
 
 }  // namespace tarvelin

@@ -1,4 +1,4 @@
-// The one way in which the program writes a file: whole or not at all.
+// The only way the program writes a file: completely or not at all.
 #pragma once
 
 #include <filesystem>
@@ -8,11 +8,11 @@
 
 namespace tarvelin {
 
-/// Gives a file new bytes in one step: they are written beside it, flushed to disk and renamed over
-/// it, so that at any moment the old file or the new one stands there. A new file is made where
-/// none is. False, with nothing changed and nothing left behind, if that can't be done: the folder
-/// is missing, a folder stands in the file's place, file or folder can't be written. What a process
-/// that was killed meanwhile left beside the file goes with the next one that is written there.
+/// Replaces the content of a file, or makes it, in one step: the bytes go to a temporary file
+/// beside it, are flushed to disk, and the file is renamed, so that at any moment either the old or
+/// the new content is there. False, with nothing changed or left behind, if the folder is missing,
+/// a folder has the file's name, or file or folder can't be written. A temporary file left by a
+/// killed process is deleted by the next write in that folder.
 [[nodiscard]] bool WriteFileAtomically(const std::filesystem::path& file, std::string_view bytes,
                                        const FileSystem& system = NativeFileSystem());
 

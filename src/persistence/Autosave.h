@@ -1,4 +1,5 @@
-// The plan that outlasts a session, the one of the session before, and those that gave way.
+// Keeps the current plan between sessions, the previous session's plan, and plans that were
+// replaced.
 #pragma once
 
 #include <array>
@@ -11,12 +12,12 @@
 
 namespace tarvelin {
 
-/// Keeps the user's plan in `saves/autosave.tvf`, each time in one step. Before its first change in
-/// a session the plan of the last one, if it has a row, goes to `saves/autosave-vorige.tvf` beside
-/// it, or to `saves/autosave-vorige-2.tvf` if that can't be written. A plan that was opened by its
-/// file and never changed doesn't: it lies in that file, and would drive out one that lies nowhere
-/// else. A plan that gives way to another one within a session goes to `saves/ersetzt-1.tvf`, the
-/// former ones move on, up to `-5`.
+/// Keeps the user's plan in `saves/autosave.tvf`, each time in one step. Before the first change of
+/// a session the previous session's plan, unless empty, is copied to `saves/autosave-vorige.tvf`,
+/// or to `saves/autosave-vorige-2.tvf` if that can't be written. A plan that was opened from a file
+/// and never changed isn't: that file still holds it, and it would overwrite a plan that is nowhere
+/// else. A plan that is replaced during a session goes to `saves/ersetzt-1.tvf`; earlier ones move
+/// up, to `-5` at most.
 class Autosave {
   public:
     /// `system` must outlive it.
@@ -24,30 +25,30 @@ class Autosave {
                       const FileSystem& system = NativeFileSystem());
 
     [[nodiscard]] const std::filesystem::path& PlanPath() const { return m_file; }
-    /// All files that it writes.
+    /// All files that it may write.
     [[nodiscard]] std::vector<std::filesystem::path> AllPaths() const;
 
-    /// Whether it moves or writes the file by itself, so that a plan isn't safe in it.
+    /// Whether this is one of `AllPaths`, so that a plan saved there would be overwritten.
     [[nodiscard]] bool IsOwnFile(const std::filesystem::path& File) const;
 
-    /// Tells that this plan lies in a file of its own.
+    /// Notes that the user has this plan in a file of his own.
     void MarkStoredInFile(const Plan& plan);
 
-    /// Takes the plan for what is written.
+    /// Notes the plan as written.
     void MarkWritten(const Plan& plan);
 
-    /// Writes the plan if it isn't the one that was written, or tried in vain, last.
+    /// Writes the plan unless it is the one of the last attempt, successful or not.
     void WriteIfChanged(const Plan& plan);
 
-    /// Writes the plan. False if it can't be written; the file is then as it was.
+    /// False if the plan can't be written; the file is then unchanged.
     bool Write(const Plan& plan);
 
-    /// As `Write`, at the last chance: even if the former plan can't be kept.
+    /// As `Write`, but even if the previous session's plan can't be kept.
     void WriteAtExit(const Plan& plan);
 
-    /// Keeps a plan that is about to give way, unless it is empty or the one that gave way last.
-    /// One that can't be written moves no other; where one can't be moved on, it takes the place
-    /// that came free.
+    /// Keeps a plan that is about to be replaced, unless it is empty or equals the one kept last.
+    /// If it can't be written, none of the others moves; if one of those can't be moved, it takes
+    /// the number that became free.
     void KeepReplaced(const Plan& plan) const;
 
   private:
@@ -55,19 +56,19 @@ class Autosave {
 
     [[nodiscard]] bool KeepPrevious(const IniFile& previous);
     bool Write(const Plan& plan, bool evenWithoutPrevious);
-    /// From 1, the last one, to `kReplaced`; 0 is the one that is just written.
+    /// 1 is the latest, `kReplaced` the oldest; 0 is the one being written.
     [[nodiscard]] std::filesystem::path ReplacedPath(std::size_t number) const;
-    /// Makes room at the first place, or as near to it as can be. The place.
+    /// Frees the lowest number it can, by moving the others up, and returns it.
     [[nodiscard]] std::size_t ShiftReplaced() const;
 
     std::filesystem::path m_file;
-    /// The second takes the place of a first that can't be written.
+    /// The second is for when the first can't be written.
     std::array<std::filesystem::path, 2> m_previous;
     const FileSystem& m_system;
     bool m_previousKept = false;
-    /// The plan that was written or tried last, as a profile of its own.
+    /// The plan of the last attempt, as the bytes of a profile of its own.
     std::optional<std::string> m_lastWritten;
-    /// The plan that lies in a file of its own, as a profile.
+    /// The plan that the user has in a file of his own, likewise.
     std::optional<std::string> m_fromFile;
 };
 

@@ -9,13 +9,12 @@
 
 namespace tarvelin {
 
-/// The starts of a run as an iCalendar file (RFC 5545): an entry for each moment at which the
-/// player has to be there, in his local time without a zone; orders within a minute of an entry's
-/// first stand in it. An entry's name is made of its first order and the plan's start, so that
-/// reading another calendar of the plan replaces it.
+/// The starts of a run as an iCalendar file (RFC 5545) in local time without a zone. Orders that
+/// start within a minute of an entry's first share that entry. The UID consists of the first order
+/// and the plan's start, so that importing a newer calendar of the plan replaces the entry.
 ///
-/// `reminder`: seconds before the start at which the calendar reminds; nothing for never.
-/// `createdAt`: when the file is made, in universal time. Starts behind the year 9999 are left out.
+/// `reminder`: seconds before the start, or nothing for no alarm. `createdAt`: in UTC. Starts after
+/// the year 9999 are left out.
 [[nodiscard]] std::string CalendarText(const RunTrace& trace, std::optional<Long> reminder,
                                        std::chrono::sys_seconds createdAt);
 

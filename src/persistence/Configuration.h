@@ -1,4 +1,4 @@
-// What the program keeps between two starts beside plans: `config.cfg`.
+// The settings that outlast a session, in `config.cfg`.
 #pragma once
 
 #include <filesystem>
@@ -12,20 +12,20 @@
 
 namespace tarvelin {
 
-/// A key of the configuration; one that is missing reads as its default.
+/// A missing key reads as its default.
 struct ConfigKey {
     std::string_view Section;
     std::string_view Key;
     std::string_view Default;
 };
 
-/// Each read and each write goes to the file, so an edit by hand takes effect at the next read.
+/// Every read and write goes to the file, so an edit by hand takes effect at the next read.
 class Configuration {
   public:
     // clang-format off
     static constexpr ConfigKey kBaulistenwecker   {"Soundsettings", "Baulistenwecker",    "0"};
     static constexpr ConfigKey kSchlafzeitenwecker{"Soundsettings", "Schlafzeitenwecker", "0"};
-    /// No file has the name of the default, which stands for ours.
+    /// The default stands for our own sound.
     static constexpr ConfigKey kAlertsound        {"SoundSettings", "Alertsound",         "*"};
     static constexpr ConfigKey kMode              {"Skinsettings",  "Mode",               "1"};
     static constexpr ConfigKey kPath              {"Skinsettings",  "Path",               "~"};
@@ -34,7 +34,7 @@ class Configuration {
     static constexpr ConfigKey kRecover           {"StartSettings", "Recover",            "1"};
     static constexpr ConfigKey kAlwaysDoSo        {"StartSettings", "AlwaysDoSo",         "0"};
     static constexpr ConfigKey kItemCount         {"Bauliste",      "ItemCount",          ""};
-    /// Place of the frame and size of what is in it, in pixels; whether it fills the screen.
+    /// Position of the frame and size of the content, in pixels.
     static constexpr ConfigKey kWorkbenchLeft     {"Werkbank",      "Links",              ""};
     static constexpr ConfigKey kWorkbenchTop      {"Werkbank",      "Oben",               ""};
     static constexpr ConfigKey kWorkbenchWidth    {"Werkbank",      "Breite",             ""};
@@ -50,14 +50,13 @@ class Configuration {
     [[nodiscard]] std::string Read(const ConfigKey& key) const;
     /// "1" is on, any other text off.
     [[nodiscard]] bool IsOn(const ConfigKey& key) const;
-    /// The kind of skin, from 0 to 255: 1 standard, 2 local, 3 web. A text that is no such number
-    /// counts as 1.
+    /// 1 standard, 2 local, 3 web; other numbers up to 255 as they are. Anything else reads as 1.
     [[nodiscard]] Byte SkinMode() const;
-    /// The sound of the alarms; only the user enters another one than ours. A path that isn't an
-    /// absolute one of the platform is meant from the program's folder.
+    /// The sound of the alarms. A path that isn't absolute on this platform is relative to the
+    /// program's folder.
     [[nodiscard]] std::filesystem::path Alertsound() const;
 
-    /// Writes keys, all of them in one step. False, with nothing changed, if that fails.
+    /// Writes all keys in one step. False, with nothing changed, if that fails.
     bool Write(const Values& values) const;
 
   private:
@@ -66,9 +65,10 @@ class Configuration {
     const FileSystem& m_system;
 };
 
-/// What a start does about the last plan, from the user's former answers.
+/// What to do with the last plan at a start.
 enum class Recovery { Never, Ask, Always };
 
+/// From the user's earlier answers.
 [[nodiscard]] Recovery DecideRecovery(const Configuration& configuration);
 
 }  // namespace tarvelin

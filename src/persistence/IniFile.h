@@ -1,5 +1,4 @@
-// A profile file in memory: sections of keys, as the platform's profile functions read and write
-// them.
+// A profile file in memory, read and edited as the platform's profile functions do.
 #pragma once
 
 #include <cstddef>
@@ -15,55 +14,51 @@
 
 namespace tarvelin {
 
-/// The bytes of one file, understood line by line. Section and key names match whole, ASCII letters
-/// without regard to case; only the first section of a name and the first key of a name in it
-/// count. Texts go in and out as UTF-8; the bytes are Windows-1252, with or without a mark of
-/// UTF-8, or UTF-16 behind a mark of either byte order.
+/// Names of sections and keys match as a whole, without regard to the case of ASCII letters; only
+/// the first section of a name and the first key of a name in it count. The interface is UTF-8; the
+/// file is Windows-1252, even after a UTF-8 byte-order mark, or UTF-16 after one of either order.
 ///
-/// Whatever the bytes are, the platform hands out 8-bit text: what the code page doesn't have reads
-/// as "?", in names too. Lines that aren't written keep it all the same. Half a unit at the end of
-/// the file is dropped.
+/// As on the platform, reading goes through the code page: other characters, in names too, read as
+/// "?". Lines that aren't rewritten keep them. An odd byte at the end of UTF-16 is dropped.
 class IniFile {
   public:
-    /// A larger file is no profile: the longest plan has less than 12 MiB in UTF-16.
+    /// Larger files aren't loaded; the longest plan has less than 12 MiB in UTF-16.
     static constexpr std::size_t kMaxBytes = std::size_t{16} << 20U;
 
     explicit IniFile(std::string_view bytes);
 
-    /// Nothing if the file isn't one, can't be read or is too large.
+    /// Nothing if it isn't a regular file, can't be read or is too large.
     [[nodiscard]] static std::optional<IniFile> Load(const std::filesystem::path& file,
                                                      const FileSystem& system = NativeFileSystem());
 
-    /// The same, but a file that doesn't exist gives an empty profile.
+    /// The same, but an empty profile if the file doesn't exist.
     [[nodiscard]] static std::optional<IniFile> LoadOrEmpty(
         const std::filesystem::path& file, const FileSystem& system = NativeFileSystem());
 
-    /// The value of a key, at most 255 characters of it and nothing from its first NUL on; the
-    /// default, cut likewise, if the section or the key is missing. One pair of equal quotes around
-    /// the whole value goes.
+    /// The value of a key up to its first NUL and to 255 characters, without one pair of equal
+    /// quotes around it; the default, cut likewise, if the section or the key is missing.
     [[nodiscard]] std::string ReadINI(std::string_view Section, std::string_view Key,
                                       std::string_view Default) const;
 
-    /// The line of the file, from 1, in which `ReadINI` finds a key; nothing for one that is
-    /// missing.
+    /// The line, from 1, in which `ReadINI` finds a key; nothing if it is missing.
     [[nodiscard]] std::optional<std::size_t> LineNumber(std::string_view section,
                                                         std::string_view key) const;
 
-    /// Sets a key to what stands in front of the value's first line end or NUL. A known one keeps
-    /// its place and its spelling; a new one goes to the end of its section, a new section to the
-    /// end of the file. Every other line keeps its bytes, but for an unended one that gets a line
-    /// behind it.
+    /// Sets a key to the value up to its first line end or NUL. An existing key keeps its place and
+    /// spelling; a new one goes to the end of its section, a new section to the end of the file.
+    /// All other lines keep their bytes, except that a last line without an end gets one when
+    /// something is added after it.
     void WriteINI(std::string_view Section, std::string_view Key, std::string_view Value);
 
     [[nodiscard]] std::string Bytes() const;
 
   private:
-    /// A run of lines: the first section of a name, or lines that no read reaches.
+    /// Consecutive lines: the first section of a name, or lines that no read reaches.
     struct Block {
-        /// With their line ends, the section line first. As in the file, or as `FromUtf16` gives
-        /// it.
+        /// With their line ends, the section line first; in the bytes of the file, or as
+        /// `FromUtf16` gives them.
         std::vector<std::string> lines;
-        /// Where the first line of each key stands; the keys in small letters.
+        /// The index of the first line of each key, by its name in lower case.
         std::unordered_map<std::string, std::size_t> lineOfKey;
         bool reachable = false;
     };
@@ -73,16 +68,16 @@ class IniFile {
     [[nodiscard]] const Block* FindBlock(std::string_view section) const;
     Block& FindOrAddBlock(std::string_view section);
 
-    /// What the code page makes of a piece of a line.
+    /// Part of a line in the code page.
     [[nodiscard]] std::string ToCodepage(std::string_view text) const;
-    /// A piece of a line out of characters of the code page.
+    /// The reverse.
     [[nodiscard]] std::string ToLine(std::string_view in1252) const;
 
     std::string m_byteOrderMark;
     std::optional<ByteOrder> m_utf16;
     /// In the order of the file.
     std::vector<Block> m_blocks;
-    /// Which of them is the first of a name; the names in small letters.
+    /// The index of the first block of each section, by its name in lower case.
     std::unordered_map<std::string, std::size_t> m_blockOfName;
 };
 

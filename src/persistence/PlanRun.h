@@ -1,4 +1,4 @@
-// A plan file loaded and run, as a fresh program would.
+// A plan file loaded and run without a window.
 #pragma once
 
 #include <filesystem>
@@ -16,23 +16,22 @@
 namespace tarvelin {
 
 struct PlanRun {
-    /// The name of the file without its folders.
+    /// The file name without folders.
     std::string name;
     Plan plan;
     LastRun run;
     ResultTexts texts;
-    /// The whole file was read, and the run was called.
+    /// The whole file could be read.
     bool loaded = false;
-    /// The run got past its checks of the inputs.
+    /// The inputs were valid, so that there is a result.
     bool hasRun = false;
     std::vector<Message> messages;
 
-    /// The same run once more with all that charts and comparisons show; `hasRun` holds.
+    /// Runs the plan again and records what charts and comparisons need. Only if `hasRun`.
     [[nodiscard]] RunTrace Trace() const;
 
-    /// Loads and runs the plan of a file.
     explicit PlanRun(const std::filesystem::path& file);
-    /// The same with what a file of that name held: nothing, if it couldn't be read.
+    /// The same from the profile of a file; nothing if that couldn't be read.
     PlanRun(std::string fileName, const std::optional<IniFile>& profile);
 };
 

@@ -1,4 +1,4 @@
-// Where the program's files lie: beside it, or with the user.
+// Chooses the folder with the program's files: its own, or one of the user.
 #pragma once
 
 #include <filesystem>
@@ -11,26 +11,24 @@ namespace tarvelin {
 /// The folder of `config.cfg`, `saves`, `img` and `mfx` for this start.
 struct ProgramFolder {
     std::filesystem::path path;
-    /// Whether the user's plans and settings can be kept there. Where they can't, nothing of it
-    /// must be changed.
+    /// Whether plans and settings can be kept there. If not, nothing in it may be changed.
     bool canKeep = true;
 
-    /// What of it must not be written: all where nothing can be kept, the configuration and the
-    /// plan that outlasts a session where another program keeps them.
+    /// What must not be written: everything if nothing can be kept; configuration and autosave if
+    /// another instance uses them.
     [[nodiscard]] std::vector<std::filesystem::path> ReadOnlyPaths(bool heldByOther) const;
 };
 
-/// Where file dialogs begin: `saves` of the program's folder, made anew if it has gone; else the
-/// nearest folder above it that is there. Never the current directory.
+/// Where file dialogs start: `saves` in the program's folder, created if missing, else the nearest
+/// existing folder above it. Never the current directory.
 [[nodiscard]] std::filesystem::path PlanFolder(const std::filesystem::path& programFolder,
                                                const FileSystem& system);
 
-/// It is the folder of the running program if `img` lies there and it can be written. Else it is
-/// `userFolder` (empty where the user has none), to which the files of ours that are missing are
-/// added, from the program's folder or from `share/tarvelin` beside the program's `bin`; the
-/// starter plan only as long as no configuration lies there. If that folder can't be made or has no
-/// room for them, and no plan lies in it, the files of ours serve where they are. No other place is
-/// ever written.
+/// The folder of the running program if it contains `img` and is writable. Otherwise `userFolder`
+/// (empty if the user has none), after copying our missing files into it from the program's folder,
+/// or from `share/tarvelin` beside the program's `bin`; the starter plan only while there is no
+/// configuration. If that folder can't be made or has no room for them, and holds no plan, our
+/// files are used where they are. Nothing else is ever written.
 [[nodiscard]] ProgramFolder ResolveProgramFolder(const std::filesystem::path& programFolder,
                                                  const std::filesystem::path& userFolder);
 

@@ -1,4 +1,4 @@
-// A platform on which certain files and folders can't be written.
+// A file system that refuses to change certain files and folders.
 #pragma once
 
 #include <filesystem>
@@ -9,8 +9,8 @@
 
 namespace tarvelin {
 
-/// Does what another platform does, but changes none of the files and folders that it was given,
-/// and nothing below them.
+/// Forwards to another file system, but changes neither the given files and folders nor anything
+/// below them.
 class ProtectedFileSystem final : public FileSystem {
   public:
     /// `system` must outlive it.

@@ -1,4 +1,4 @@
-// A search that runs beside its caller.
+// A search in a thread of its own.
 #pragma once
 
 #include <atomic>
@@ -9,11 +9,11 @@
 
 namespace tarvelin {
 
-/// Begins with its construction; its end stops the search and waits the few milliseconds that this
-/// takes.
+/// Starts in the constructor. The destructor stops the search and waits for the thread, a few
+/// milliseconds.
 class BackgroundSearch {
   public:
-    /// Both are called from another thread than the caller's.
+    /// Both are called from the search's thread.
     struct Listener {
         std::function<void(const SearchProgress&)> onProgress;
         std::function<void(const SearchResult&)> onDone;
@@ -24,7 +24,7 @@ class BackgroundSearch {
     BackgroundSearch& operator=(const BackgroundSearch&) = delete;
     ~BackgroundSearch() { Stop(); }
 
-    /// Ends the search with the best so far.
+    /// Ends the search with the best list so far; doesn't wait.
     void Stop() { m_stop = true; }
 
   private:
@@ -32,7 +32,7 @@ class BackgroundSearch {
     PlanTask m_task;
     SearchBudget m_budget;
     Listener m_listener;
-    /// The last member: it ends before the others go.
+    /// Last, so that the thread is joined before the other members are destroyed.
     std::jthread m_thread;
 };
 

@@ -1,4 +1,4 @@
-// Plays lists that differ from the one before in a part only.
+// Evaluates a list from the first row in which it differs from the accepted one.
 #pragma once
 
 #include <array>
@@ -14,24 +14,22 @@
 
 namespace tarvelin {
 
-/// Keeps a copy of the run before each row of a list, so that another list that begins alike is
-/// played from its first other row on.
+/// Keeps a checkpoint of the run before each row of the accepted list.
 class IncrementalEvaluator {
   public:
     /// The task must outlive it.
     explicit IncrementalEvaluator(const SearchTask& task);
 
-    /// Plays a list of which the first `same` orders are those of the list that was taken over
-    /// last. Nothing if the list doesn't end: if an order starts in debt or on the value of a
-    /// closed gate, or one that isn't played yet before its time; nothing as well as soon as the
-    /// clock passes `limit`.
+    /// Plays a list whose first `same` orders are those of the accepted list. Nothing if it never
+    /// ends, if an order starts with a negative stock or though its gate is closed, if one after
+    /// the head starts before `notBefore`, or once the clock passes `limit`.
     [[nodiscard]] std::optional<Score> Evaluate(std::span<const Order> orders, std::size_t same,
                                                 Long limit);
 
-    /// The list that was played last is the one to begin with from now on. It has ended.
+    /// Makes the list that was played last the accepted one.
     void Accept();
 
-    /// How many orders of the list that was played last have started well.
+    /// How many orders of the list that was played last could start.
     [[nodiscard]] std::size_t StartedCount() const { return m_started; }
 
   private:
@@ -46,7 +44,7 @@ class IncrementalEvaluator {
     class StartGuard;
 
     const SearchTask* m_task;
-    /// Two for each row: that of the list that was taken over, and that of the last one.
+    /// Two per row: that of the accepted list, at index `m_valid[row]`, and that of the last one.
     std::vector<std::array<Checkpoint, 2>> m_checkpoints;
     std::vector<unsigned char> m_valid;
     std::size_t m_samePrefix = 0;

@@ -1,4 +1,4 @@
-// A list to begin with where the plan gives none.
+// Finds a list that ends, for a search to start from.
 #pragma once
 
 #include <atomic>
@@ -9,10 +9,10 @@
 
 namespace tarvelin {
 
-/// A list of exactly the task's orders by the rules that ends: put together row by row, each time
-/// by the order that lets it end soonest; if that gets stuck, by moves that let more and more of
-/// the task's list start. Head and pinned rows stay where they are. Nothing if none is found, or
-/// `stop` was set.
+/// A permutation of the task's orders that keeps the rules and ends. It is built greedily, each row
+/// being the order with which the list so far ends soonest; if that gets stuck, the task's own list
+/// is repaired by moves that let more of its orders start. Head and pinned rows stay in place.
+/// Nothing if none is found or `stop` is set.
 [[nodiscard]] std::optional<std::vector<Order>> FindInitialSolution(const SearchTask& task,
                                                                     const std::atomic<bool>& stop);
 

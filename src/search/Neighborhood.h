@@ -1,4 +1,4 @@
-// The moves of a search: lists that differ a little from the present one.
+// The moves of a search.
 #pragma once
 
 #include <cstddef>
@@ -11,22 +11,21 @@
 
 namespace tarvelin {
 
-/// The present list, and one move at a time away from it.
+/// The current list, and the neighbor that the last move made of it.
 class Neighborhood {
   public:
-    /// The task must outlive it. The list is by the rules.
+    /// The task must outlive it. The list has to keep the rules.
     Neighborhood(const SearchTask& task, std::vector<Order> orders, std::vector<bool> pinned);
 
-    /// Makes a move. The first row that differs from the present list; nothing if the move came to
-    /// nothing or breaks a rule.
+    /// Makes a random move from the current list. The first row that differs; nothing if the move
+    /// changes nothing or breaks a rule.
     [[nodiscard]] std::optional<std::size_t> Propose(Random& random);
 
-    /// The list after the last move.
     [[nodiscard]] std::span<const Order> Neighbor() const { return m_neighbor; }
     [[nodiscard]] const std::vector<Order>& Current() const { return m_orders; }
     [[nodiscard]] const std::vector<bool>& Pinned() const { return m_pinned; }
 
-    /// The list after the last move is the present one from now on.
+    /// Makes the neighbor the current list.
     void Accept();
 
   private:
@@ -44,13 +43,13 @@ class Neighborhood {
     std::vector<bool> m_pinned;
     std::vector<Order> m_neighbor;
     std::vector<bool> m_neighborPinned;
-    /// The rows that may move.
+    /// The rows that aren't pinned.
     std::vector<std::size_t> m_free;
-    /// The counters above each row, and behind the last.
+    /// Levels and numbers before each row, and after the last.
     std::vector<PerItem<Byte>> m_before;
-    /// What stood above each pinned row at the beginning.
+    /// The same before each pinned row of the initial list.
     std::vector<PerItem<Byte>> m_beforePinned;
-    /// From the first row that the last move changed to behind the last.
+    /// The rows that the last move changed, `m_until` excluded.
     std::size_t m_from = 0;
     std::size_t m_until = 0;
 };

@@ -1,4 +1,4 @@
-// From a plan and a player's wish to a task of the search, and back to a plan.
+// Makes a search task from a plan and a player's request, and a plan from the result.
 #pragma once
 
 #include <cstddef>
@@ -14,41 +14,41 @@
 namespace tarvelin {
 
 struct SearchRequest {
-    /// What has to stand at the end, "GW2 FV2 WKT1"; "plan" for the plan's own research, units and
-    /// defences. Nothing: the plan's orders in another order.
+    /// The levels and numbers to reach, "GW2 FV2 WKT1", or "plan" for the plan's own research,
+    /// units and defenses. Nothing: find a better sequence of the plan's orders.
     std::optional<std::string> goal{};
-    /// Rows that keep their place, from 1, first and last of each stretch.
+    /// First and last row, from 1, of each range that keeps its place.
     std::vector<std::pair<std::size_t, std::size_t>> pinnedRanges{};
-    /// Production rows may move too.
+    /// Whether production rows may move too.
     bool moveProduction = false;
-    /// Orders that start before are played already.
+    /// Orders that start before this moment count as played.
     std::optional<DateTime> notBefore{};
 };
 
-/// Why there is nothing to search.
+/// Why there is no search.
 struct SearchRefusal {
     std::string text;
-    /// The wish makes no sense for any plan, or not for a list of this length.
+    /// The request itself is wrong, not the plan.
     bool wrongCall = false;
 };
 
 struct PlanTask {
     SearchTask task;
-    /// What the plan itself is worth, if it ends and has what is wanted.
+    /// The plan itself, if it ends and reaches the goal.
     std::optional<Solution> before;
-    /// The sleep row that keeps the others from starting too early.
+    /// The sleep window that keeps orders after the head from starting before `notBefore`.
     std::optional<SleepRow> pause;
 };
 
 [[nodiscard]] std::variant<PlanTask, SearchRefusal> MakePlanTask(const Plan& plan,
                                                                  const SearchRequest& request);
 
-/// The search, and never less than the plan itself.
+/// Never returns a worse list than the plan itself.
 [[nodiscard]] SearchResult Search(const PlanTask& task, const SearchBudget& budget,
                                   const std::atomic<bool>& stop,
                                   const std::function<void(const SearchProgress&)>& report);
 
-/// The plan with another list, and with the pause in front of its sleep rows.
+/// The plan with these orders, and with the pause as its first sleep window.
 [[nodiscard]] Plan WithOrders(const Plan& plan, const std::vector<Order>& orders,
                               const std::optional<SleepRow>& pause);
 

@@ -1,4 +1,4 @@
-// Chance that is the same on every machine.
+// Random numbers that are the same on every platform.
 #pragma once
 
 #include <cstddef>
@@ -7,7 +7,7 @@
 
 namespace tarvelin {
 
-/// The distributions of the standard library may differ n one to the other; its engine doesn't.
+/// The standard library's engines are specified exactly; its distributions aren't.
 class Random {
   public:
     explicit Random(std::uint64_t seed) : m_source(seed) {}

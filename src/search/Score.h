@@ -1,4 +1,4 @@
-// What a plan is worth to a search.
+// The score of a list in a search.
 #pragma once
 
 #include <compare>
@@ -8,13 +8,13 @@
 
 namespace tarvelin {
 
-/// The fewer the better, the duration first.
+/// Less is better, the duration first.
 struct Score {
-    /// Seconds until the last finish, the clock of the run at its end.
+    /// Seconds on the run's clock at its end.
     Long duration = 0;
     int sittings = 0;
-    /// When the last order that a night held back could have started without: the closer to the
-    /// night's begin, the closer a plan is to gaining a night.
+    /// When the last order that a sleep window delayed could have started without it. The closer
+    /// to the window's start, the less is missing to start before the night.
     SimTime sleepFreeStart;
 
     friend auto operator<=>(const Score&, const Score&) = default;

@@ -1,4 +1,4 @@
-// What is searched for.
+// The task of a search: which orders, which goal, what must not move.
 #pragma once
 
 #include <cstddef>
@@ -11,35 +11,34 @@
 
 namespace tarvelin {
 
-/// A task of the search.
 struct SearchTask {
     enum class Kind : std::uint8_t {
-        /// The same orders in another order.
+        /// A better sequence of the same orders.
         Sequence,
-        /// What has to stand at the end, by whatever economy.
+        /// The fastest way to `minLevels`, with any number of economy items.
         Goal,
     };
 
     Kind kind = Kind::Sequence;
     RunConditions conditions;
-    /// The plan to begin with, by the rules of the list.
+    /// The initial list; it keeps the rules.
     std::vector<Order> orders;
-    /// Rows that keep their place: as many as orders. In a search for an order a place is the
-    /// number of a row; in one for a goal pinned rows keep their sequence and the orders before
-    /// them that are no economy.
+    /// For each order, whether it is pinned. For `Sequence` a pinned order keeps its row. For
+    /// `Goal` rows shift, so pinned orders keep their sequence and have the same orders before
+    /// them, not counting economy items.
     std::vector<bool> pinned;
-    /// So many rows at the head are played already.
+    /// The number of orders at the head that count as played and stay.
     std::size_t headSize = 0;
-    /// No other order may start before.
+    /// No order after the head may start earlier.
     SimTime notBefore;
-    /// Goal: levels and numbers that have to stand at the end; of what is no economy exactly these.
+    /// For `Goal`: levels and numbers to reach; of items outside the economy exactly these.
     PerItem<Byte> minLevels{};
 };
 
-/// The goal with all that the rules of the list ask for on the way.
+/// The goal with everything that the rules require on the way.
 [[nodiscard]] PerItem<Byte> WithPrerequisites(PerItem<Byte> goal);
 
-/// What a list brings to its end.
+/// Levels and numbers at the end of a list.
 [[nodiscard]] PerItem<Byte> FinalLevels(const std::vector<Order>& orders);
 
 }  // namespace tarvelin

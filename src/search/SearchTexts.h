@@ -1,4 +1,4 @@
-// What a search came to, in words.
+// Texts for the result of a search.
 #pragma once
 
 #include <cstddef>
@@ -9,16 +9,16 @@
 
 namespace tarvelin {
 
-/// Levels that one list has and the other lacks, "GM2 WS1"; empty for none.
+/// What `more` has beyond `fewer`, "GM2 WS1"; empty for nothing.
 [[nodiscard]] std::string SurplusText(const OrderList& more, const OrderList& fewer);
 
-/// The same for people: "4 x Metallmine, 1 x Raketenwerfer".
+/// The same with names: "4 x Metallmine, 1 x Raketenwerfer".
 [[nodiscard]] std::string SurplusInWords(const OrderList& more, const OrderList& fewer);
 
 /// "1 Sitzung", "2 Sitzungen".
 [[nodiscard]] std::string CountText(std::size_t number, const char* singular, const char* plural);
 
-/// "Metall 120, Kristall 60, Deuterium 20", whole units.
+/// "Metall 120, Kristall 60, Deuterium 20", in whole units per hour.
 [[nodiscard]] std::string RatesText(const GameState& state);
 
 }  // namespace tarvelin

@@ -1,4 +1,4 @@
-// The bytes of the profile files, Windows-1252, to and from the UTF-8 of the program's texts.
+// Conversion between Windows-1252, the encoding of profile files, and UTF-8.
 #pragma once
 
 #include <string>
@@ -6,11 +6,10 @@
 
 namespace tarvelin {
 
-/// Every byte has a character; the five that the code page leaves free keep their number.
+/// Every byte gives a character; the five that the code page leaves undefined keep their value.
 [[nodiscard]] std::string From1252(std::string_view bytes);
 
-/// A character that the code page doesn't have, and each byte of a text that isn't UTF-8, becomes
-/// "?".
+/// Characters outside the code page and malformed bytes become "?".
 [[nodiscard]] std::string To1252(std::string_view utf8);
 
 }  // namespace tarvelin

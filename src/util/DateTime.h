@@ -1,4 +1,4 @@
-// Wall-clock moments, their test and their German texts, whatever the system's settings.
+// Wall-clock moments, parsed from and printed as German text regardless of the locale.
 #pragma once
 
 #include <compare>
@@ -20,7 +20,7 @@ class DateTime {
     friend constexpr DateTime operator+(DateTime time, std::int64_t seconds) {
         return DateTime(time.m_seconds + seconds);
     }
-    /// Seconds from `b` to `a`, held within the range of Long.
+    /// Seconds from `b` to `a`, saturated to the range of Long.
     friend constexpr Long operator-(DateTime a, DateTime b) {
         return Saturate<Long>(a.m_seconds - b.m_seconds);
     }
@@ -32,10 +32,10 @@ class DateTime {
     std::int64_t m_seconds = 0;
 };
 
-/// The moment that a text names, day first: D or DD "." M or MM "." YY or YYYY, one blank, h or hh
-/// ":" m or mm and optionally ":" s or ss, with nothing around it. Two-digit years 00 to 29 are
-/// 20xx, 30 to 99 are 19xx; four-digit years run from 0100 to 9999. Nothing for any other text and
-/// for a day or time that doesn't exist.
+/// Parses "D.M.Y h:m" or "D.M.Y h:m:s". Day, month, hour, minute and second have one or two digits;
+/// one blank separates date and time, and nothing may surround them. Years have two digits (00 to
+/// 29 are 20xx, 30 to 99 are 19xx) or four (0100 to 9999). Nothing for any other text, or if the
+/// day or time doesn't exist.
 [[nodiscard]] std::optional<DateTime> ParseDateTime(std::string_view text);
 
 /// Weekday from 1, Sunday, to 7, Saturday.
@@ -45,7 +45,7 @@ class DateTime {
 /// "Sonntag", "Montag" ... "Samstag".
 [[nodiscard]] std::string_view WeekdayLong(DateTime time);
 
-/// "18.11.2006"; a year behind 9999 has five digits.
+/// "18.11.2006"; years after 9999 have five digits.
 [[nodiscard]] std::string DateText(DateTime time);
 /// "12:30:00".
 [[nodiscard]] std::string TimeOfDayText(DateTime time);

@@ -1,4 +1,4 @@
-// Tables with one value for each enumerator.
+// An array indexed by an enumeration.
 #pragma once
 
 #include <array>
@@ -6,13 +6,12 @@
 
 namespace tarvelin {
 
-/// Where the value of an enumerator stands.
 template <class Enumeration>
 constexpr std::size_t IndexOf(Enumeration value) {
     return static_cast<std::size_t>(value);
 }
 
-/// One value for each enumerator of an enumeration that `Size` closes.
+/// One value per enumerator; the last enumerator has to be `Size`.
 template <class Enumeration, class T>
 class EnumArray : public std::array<T, IndexOf(Enumeration::Size)> {
   public:

@@ -1,4 +1,4 @@
-// Fixed-point numbers with four decimals, as the stocks and rates of the game are kept.
+// Fixed-point numbers with four decimals, in which the game keeps stocks and rates.
 #pragma once
 
 #include <compare>
@@ -10,8 +10,7 @@
 
 namespace tarvelin {
 
-/// A 64-bit count of ten-thousandths. Sums, differences and products are exact and are held at the
-/// ends of the range.
+/// A 64-bit count of ten-thousandths. Sums, differences and products are exact and saturate.
 class FixedPoint {
   public:
     static constexpr int kDecimals = 4;
@@ -23,7 +22,7 @@ class FixedPoint {
     static constexpr FixedPoint FromWhole(std::int64_t whole) {
         return FixedPoint(Product(whole, kUnit));
     }
-    /// Half to even at the fourth decimal.
+    /// Rounded half to even at the fourth decimal.
     static FixedPoint FromDouble(double value) {
         return FixedPoint(Rounding::HalfEven(value * static_cast<double>(kUnit)));
     }
@@ -32,7 +31,7 @@ class FixedPoint {
     [[nodiscard]] constexpr double ToDouble() const {
         return static_cast<double>(m_raw) / static_cast<double>(kUnit);
     }
-    /// Cut towards zero.
+    /// Truncated towards zero.
     [[nodiscard]] constexpr std::int64_t WholePart() const { return m_raw / kUnit; }
 
     friend constexpr FixedPoint operator+(FixedPoint a, FixedPoint b) {
@@ -75,7 +74,7 @@ class FixedPoint {
 /// Plain decimal text with a decimal comma and up to four decimals: "440,6278", "500", "-0,5".
 [[nodiscard]] std::string DecimalText(FixedPoint value);
 
-/// All four decimals behind a decimal point, for machines: "440.6278".
+/// With a decimal point and all four decimals, for machines: "440.6278".
 [[nodiscard]] std::string FourDecimalsText(FixedPoint value);
 
 }  // namespace tarvelin

@@ -1,5 +1,4 @@
-// The whole-number kinds of the game model and their one rule for overflow: a value that leaves
-// its range is held at the end of that range.
+// The integer types of the game model. On overflow they saturate.
 #pragma once
 
 #include <cstdint>
@@ -13,14 +12,13 @@ using Long = std::int32_t;
 using Integer = std::int16_t;
 using Byte = std::uint8_t;
 
-/// The end of the range of T on the side of `value`. A function of its own, as it is hardly ever
-/// needed: the clock of a run waits for each sum.
+/// The limit of T that `value` exceeds. Out of line, so that the fast path of Saturate stays small.
 template <class T>
 [[gnu::cold, gnu::noinline]] constexpr T RangeLimit(std::int64_t value) {
     return value < 0 ? std::numeric_limits<T>::min() : std::numeric_limits<T>::max();
 }
 
-/// `value` held within the range of T.
+/// `value` clamped to the range of T.
 template <class T>
 constexpr T Saturate(std::int64_t value) {
     const auto narrow = static_cast<T>(value);
@@ -30,12 +28,12 @@ constexpr T Saturate(std::int64_t value) {
     return RangeLimit<T>(value);
 }
 
-/// Sum and difference of two whole numbers, held within the range of Long.
+/// The sum of two integers, saturated to the range of Long.
 constexpr Long LongSum(std::int64_t a, std::int64_t b) {
     return Saturate<Long>(a + b);
 }
 
-/// A floating value as a Long, half to even, held within the range.
+/// Rounded half to even and saturated to the range of Long.
 inline Long HalfEvenLong(double value) {
     return Saturate<Long>(Rounding::HalfEven(value));
 }

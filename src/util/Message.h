@@ -1,5 +1,4 @@
-// What a message box of the program shows. Messages are made where the facts are known and shown
-// at the edge.
+// Messages to the user: made where the facts are known, shown by the window or the console.
 #pragma once
 
 #include <cstdint>
@@ -14,17 +13,17 @@ enum class MessageIcon : std::uint8_t { None, Error, Question, Warning, Informat
 /// A modal message with one OK button.
 struct Message {
     std::string text;
-    /// Empty where a message has no title of its own.
+    /// May be empty.
     std::string title;
     MessageIcon icon = MessageIcon::Error;
 
     friend bool operator==(const Message&, const Message&) = default;
 };
 
-/// The title that tells bad input.
+/// The title of messages about bad input.
 inline constexpr const char* kBadInputTitle = "Schwerer Ausnahmefehler 1337 !";
 
-/// Who shows messages: the window by a box, the console on its error stream.
+/// Shows messages: the window in a box, the console on its error stream.
 class MessageSink {
   public:
     MessageSink() = default;
@@ -32,14 +31,14 @@ class MessageSink {
     MessageSink& operator=(const MessageSink&) = delete;
     virtual ~MessageSink() = default;
 
-    /// Returns when the user has seen the message.
+    /// Returns once the user has dismissed the message.
     virtual void Show(const Message& message) = 0;
 
-    /// One beep, for what needs no words.
+    /// A beep instead of a message.
     virtual void Beep() = 0;
 };
 
-/// Keeps messages for later, and never beeps.
+/// Collects messages for later and ignores beeps.
 class MessageCollector final : public MessageSink {
   public:
     /// `messages` must outlive it.

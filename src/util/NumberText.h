@@ -1,4 +1,4 @@
-// Numbers as the user reads and types them: German, with a decimal comma and nothing else.
+// German number texts: a decimal comma, no thousands separator, no exponent.
 #pragma once
 
 #include <cstdint>
@@ -8,23 +8,22 @@
 
 namespace tarvelin {
 
-/// The number that a text stands for: optional blanks around it, an optional sign, digits and at
-/// most one decimal comma with at least one digit behind it ("5", "-12,5", ",5"; not "5,", "1.5",
-/// "1e3"). Nothing for any other text. A number beyond the range of a double is held at its end.
+/// Parses an optional sign, digits, and optionally a comma with at least one digit after it; blanks
+/// may surround it ("5", "-12,5", ",5"; not "5,", "1.5", "1e3"). Nothing for any other text.
+/// Numbers beyond the range of a double saturate.
 [[nodiscard]] std::optional<double> ParseNumber(std::string_view text);
 
 [[nodiscard]] bool IsNumber(std::string_view text);
 
-/// The whole number of a number text without a comma, if it lies from `min` to `max`; digits
-/// beyond 64 bits count as the end of that range.
+/// Parses a number without a comma that lies from `min` to `max`; beyond 64 bits it saturates
+/// before the comparison.
 [[nodiscard]] std::optional<std::int64_t> ParseWholeNumber(std::string_view text, std::int64_t min,
                                                            std::int64_t max);
 
-/// Plain decimal text, rounded half to even to at most `decimals` (0 to 15) decimals, without
-/// trailing zeros.
+/// Rounded half to even to at most `decimals` (0 to 15) decimals, without trailing zeros.
 [[nodiscard]] std::string DecimalText(double value, int decimals);
 
-/// The whole part of `value` (cut towards zero) in full plain digits, however large.
+/// `value` truncated towards zero, in full without an exponent.
 [[nodiscard]] std::string WholeText(double value);
 
 }  // namespace tarvelin

@@ -1,5 +1,5 @@
-// The roundings of the game's formulas: every change from a floating value to a whole number
-// goes through one of these, so that which rounding a figure has can be read where it is made.
+// The roundings of the game's formulas. Every conversion from floating point to an integer goes
+// through one of them, so that the code shows how each figure is rounded.
 #pragma once
 
 #include <cmath>
@@ -8,7 +8,7 @@
 
 namespace tarvelin::Rounding {
 
-/// The whole number of `value`, which has no fraction; held at the ends of the range, 0 for NaN.
+/// Applies `round` to values that fit 64 bits; others saturate, NaN gives 0.
 template <class Round>
 std::int64_t Clamped(double value, Round round) {
     constexpr double kTwoToThe63 = 9223372036854775808.0;
@@ -22,7 +22,7 @@ std::int64_t Clamped(double value, Round round) {
                      : std::numeric_limits<std::int64_t>::max();
 }
 
-/// Nearest whole number, a half going to the even one (the platform's own conversion).
+/// To the nearest integer, halves to even, as the game's platform converts.
 inline std::int64_t HalfEven(double value) {
     return Clamped(value, [](double v) { return static_cast<std::int64_t>(std::llrint(v)); });
 }
@@ -32,7 +32,7 @@ inline std::int64_t Cut(double value) {
     return Clamped(value, [](double v) { return static_cast<std::int64_t>(v); });
 }
 
-/// Down to the next whole number.
+/// Towards minus infinity.
 inline std::int64_t Floor(double value) {
     return Clamped(value, [](double v) {
         const auto whole = static_cast<std::int64_t>(v);
