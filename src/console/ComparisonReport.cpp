@@ -1,4 +1,4 @@
-// The tables of a comparison.
+// Prints the comparison of two plans.
 #include "console/ComparisonReport.h"
 
 #include <nlohmann/json.hpp>

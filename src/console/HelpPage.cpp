@@ -1,4 +1,4 @@
-// What the library's page lacks.
+// What the help page has beyond the library's own.
 #include "console/HelpPage.h"
 
 #include "console/TextTable.h"

@@ -32,7 +32,7 @@ json RowsJson(const BuildList& buildList) {
     return list;
 }
 
-/// An object from the item codes to what `value` gives for each item.
+/// Maps each item code to `value(item)`.
 template <class Value>
 json ByCode(Value value) {
     json object = json::object();

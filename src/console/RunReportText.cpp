@@ -1,4 +1,4 @@
-// Timetable and figures as aligned text and as rows of a spreadsheet.
+// Timetable and figures as aligned text and as CSV.
 #include "console/RunReport.h"
 
 #include <functional>
@@ -17,7 +17,7 @@ TextRow Header(const char* last) {
     return {"Nr.", "Wochentag", "Uhrzeit", "theText", "Zeitpunkt", last};
 }
 
-/// The rows, with what `text` gives for each in the last column.
+/// `text(i)` gives the last column of row `i`.
 std::vector<TextRow> ScheduleRows(const Schedule& schedule,
                                   const std::function<std::string(std::size_t)>& text) {
     std::vector<TextRow> rows;
@@ -30,7 +30,6 @@ std::vector<TextRow> ScheduleRows(const Schedule& schedule,
     return rows;
 }
 
-/// Name and figure of what a run came to.
 std::vector<TextRow> ResultFigures(const PlanRun& planRun) {
     const GameState& state = planRun.run.state;
     return {{"Dauer:", DurationText(state)},

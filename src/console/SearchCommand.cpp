@@ -1,4 +1,4 @@
-// From options to a search and its report.
+// Runs a search from the options of the command line.
 #include "console/SearchCommand.h"
 
 #include <iostream>
@@ -35,7 +35,7 @@ bool ErrorStreamIsTerminal() {
 
 using RowRanges = std::vector<std::pair<std::size_t, std::size_t>>;
 
-/// "3,7-9", or what is wrong with another text.
+/// Parses "3,7-9"; for other texts the error message.
 std::variant<RowRanges, std::string> ParseRows(std::string_view text) {
     constexpr const char* kExpected = "--fest erwartet Zeilen wie 3,7-9";
     constexpr std::int64_t kHighest = 9999;
@@ -64,7 +64,7 @@ std::variant<RowRanges, std::string> ParseRows(std::string_view text) {
     return ranges;
 }
 
-/// The wish, or what is wrong with the call.
+/// The request, or the error message.
 std::variant<SearchRequest, std::string> ParseRequest(const SearchCommand& command) {
     SearchRequest request{.goal = command.goal, .moveProduction = command.moveProduction};
     const auto ranges = ParseRows(command.pinned);

@@ -1,4 +1,4 @@
-// The report of a search.
+// Prints the result of a search.
 #include "console/SearchReport.h"
 
 #include <cstdlib>
@@ -38,7 +38,7 @@ std::string SolutionText(const Solution& solution) {
            "   " + CountText(solution.orders.size(), "Zeile", "Zeilen");
 }
 
-/// A list for fewer sittings may take longer.
+/// May be negative: a list with fewer sittings may take longer.
 std::string GainText(Long gain) {
     return (gain < 0 ? "-" : "") + DurationText(std::abs(gain));
 }

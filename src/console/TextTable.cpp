@@ -1,4 +1,4 @@
-// Widths of columns.
+// Aligns the columns of a table.
 #include "console/TextTable.h"
 
 #include <algorithm>

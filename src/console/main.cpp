@@ -1,4 +1,4 @@
-// tarvelin-cli: runs plan files and prints their timetables.
+// tarvelin-cli: runs, compares and searches plan files.
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
@@ -46,7 +46,7 @@ struct CommandLine {
     tarvelin::SearchCommand search;
 };
 
-/// Set by Ctrl+C during a search. A handler reaches nothing else.
+/// Set by Ctrl+C during a search; global, as the signal handler has no argument to reach it by.
 std::atomic<bool> g_stop{false};
 static_assert(std::atomic<bool>::is_always_lock_free);
 
@@ -56,12 +56,12 @@ int RunSearch(tarvelin::SearchCommand command, bool json) {
     return tarvelin::RunSearchCommand(command, g_stop);
 }
 
-/// The library names two options, and a word between them.
+/// The first and the last word of the library's message are options.
 std::pair<std::string, std::string> TwoNames(const std::string& text) {
     return {text.substr(0, text.find(' ')), text.substr(text.rfind(' ') + 1)};
 }
 
-/// What an option's value has to be, and a flag's not.
+/// The message for a missing or wrong value, or for a flag that got one.
 std::string ValueError(const std::string& text) {
     constexpr std::array<std::pair<std::string_view, std::string_view>, 8> kExpected{
         {{"--versuche", "eine Zahl von 1 bis 1125899906842624"},
@@ -72,7 +72,7 @@ std::string ValueError(const std::string& text) {
          {"--ical", "eine Kalenderdatei"},
          {"--suche", "eine Plandatei"},
          {"--", "einen Wert"}}};
-    // The library's text begins with its name, in one case without the dashes.
+    // The library's message begins with the option, in one case without dashes.
     const std::string name = text.substr(0, text.find_first_of(" :"));
     const std::string option = name.starts_with("--") ? name : "--" + name;
     if (text.find("At Most 1") != std::string::npos) {
@@ -88,7 +88,7 @@ std::string ValueError(const std::string& text) {
     return option + " erwartet " + std::string(expected->second);
 }
 
-/// What is wrong with a call, in one line.
+/// The error message for a wrong call, in one line.
 std::string ErrorText(const CLI::ParseError& error) {
     if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) {
         return "es fehlt eine Plandatei";
@@ -101,15 +101,15 @@ std::string ErrorText(const CLI::ParseError& error) {
         return "diese Option gilt nur mit " + TwoNames(error.what()).second;
     }
     if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
-        // The library names the arguments behind a colon.
+        // The library lists the arguments after a colon.
         const std::string text = error.what();
         return "unbekannte Option:" + text.substr(text.rfind(':') + 1);
     }
     return ValueError(error.what());
 }
 
-/// Each message as "Titel: Text", or the text alone without a title; then what is to be told of the
-/// file, under its name.
+/// Loads and runs a plan. Prints its messages as "Titel: Text" to the error stream, then what is
+/// wrong with the file, after its name.
 tarvelin::PlanRun RunFile(const std::string& file) {
     tarvelin::PlanRun planRun(tarvelin::PathFromUtf8(file));
     for (const tarvelin::Message& message : planRun.messages) {
@@ -177,8 +177,8 @@ bool Execute(const CommandLine& call) {
     return allGood;
 }
 
-/// As the library wants them: without the program's name, from the last to the first. It takes a
-/// name in square brackets for a list; with its folder in front it is a name.
+/// As the library wants them: without the program's name and in reverse. It would take an argument
+/// that begins with "[" for a list; "./" before it prevents that.
 std::vector<std::string> ForLibrary(std::vector<std::string> arguments) {
     if (!arguments.empty()) {
         arguments.erase(arguments.begin());
@@ -190,7 +190,7 @@ std::vector<std::string> ForLibrary(std::vector<std::string> arguments) {
     return arguments;
 }
 
-/// `--suche` and what goes with it.
+/// Adds `--suche` and its options.
 CLI::Option* AddSearch(CLI::App& app, tarvelin::SearchCommand& command) {
     constexpr unsigned kMaxThreads = 256;
     const std::string group = "Suche";
@@ -239,7 +239,7 @@ CLI::Option* AddSearch(CLI::App& app, tarvelin::SearchCommand& command) {
     return search;
 }
 
-/// What is wrong with the number of plan files; empty for nothing.
+/// The error message for a wrong number of plan files; empty if it is right.
 std::string PlanFileError(std::size_t number, bool searching, bool compares, bool calendar) {
     if (searching || compares) {
         return number == 0 ? ""
@@ -258,7 +258,7 @@ int Run(const std::vector<std::string>& arguments) {
         "warum nicht früher.",
         "tarvelin-cli");
     app.formatter(std::make_shared<tarvelin::HelpPage>());
-    // "/" begins a path everywhere.
+    // "/" begins a path, on Windows too.
     app.allow_windows_style_options(false);
     CommandLine call;
     const std::string group = "Optionen";
@@ -283,7 +283,7 @@ int Run(const std::vector<std::string>& arguments) {
         ->excludes(csv)
         ->excludes(calendar)
         ->group(group);
-    // They stand in the line of the call.
+    // The usage line shows them already.
     auto* const files = app.add_option("PLAN", call.files);
     files->group("");
     auto* const search = AddSearch(app, call.search);
@@ -317,7 +317,7 @@ int Start(const std::vector<std::string>& arguments) {
     try {
         return Run(arguments);
     } catch (const std::exception& error) {
-        // The memory ran out, or the system failed in a way that nobody foresees.
+        // Such as a lack of memory.
         std::fprintf(stderr, "tarvelin-cli: %s\n", error.what());
         return tarvelin::kPlanFailed;
     }
@@ -327,7 +327,7 @@ int Start(const std::vector<std::string>& arguments) {
 
 #ifdef _WIN32
 int wmain(int argc, wchar_t** argv) {
-    // The output is UTF-8 with the line ends that we write.
+    // UTF-8, and no conversion of line ends.
     SetConsoleOutputCP(CP_UTF8);
     _setmode(_fileno(stdout), _O_BINARY);
     _setmode(_fileno(stderr), _O_BINARY);

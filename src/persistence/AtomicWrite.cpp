@@ -1,4 +1,4 @@
-// Replacing of files.
+// Temporary files that replace others.
 #include "persistence/AtomicWrite.h"
 
 #include <charconv>
@@ -15,7 +15,7 @@ namespace {
 constexpr std::string_view kPrefix = ".tarvelin-";
 constexpr std::string_view kSuffix = ".tmp";
 
-/// Whether a file is what a process of ours left that was killed in the middle of a save.
+/// Whether it is the temporary file of a process that was killed in the middle of a save.
 bool IsOrphaned(std::string_view name, const FileSystem& system) {
     if (!name.starts_with(kPrefix) || !name.ends_with(kSuffix)) {
         return false;
@@ -36,7 +36,7 @@ void RemoveOrphans(const std::filesystem::path& folder, const FileSystem& system
     }
 }
 
-/// A new file beside another one, deleted at the end unless it has taken that one's place.
+/// Deleted by the destructor unless it has replaced the target.
 class TempFile {
   public:
     TempFile(const std::filesystem::path& folder, const FileSystem& system)
@@ -90,7 +90,7 @@ class TempFile {
 
 bool WriteFileAtomically(const std::filesystem::path& file, std::string_view bytes,
                          const FileSystem& system) {
-    // A link keeps pointing to the file whose bytes change.
+    // If the file is a link, its target is replaced, not the link.
     const auto resolved = system.Resolve(file);
     if (!resolved) {
         return false;
@@ -107,7 +107,7 @@ bool WriteFileAtomically(const std::filesystem::path& file, std::string_view byt
         !temp.TakePlaceOf(*resolved)) {
         return false;
     }
-    // The rename itself reaches the disk with its folder.
+    // Only then is the rename on disk too.
     system.SyncFolder(folder);
     return true;
 }

@@ -1,4 +1,4 @@
-// When the plan is written, and what is kept first.
+// Writing of the autosave and of the plans kept beside it.
 #include "persistence/Autosave.h"
 
 #include <algorithm>
@@ -9,7 +9,7 @@ namespace tarvelin {
 
 namespace {
 
-/// "1" in an autosave whose plan lies in a file of its own.
+/// "1" if the user has the plan in a file of his own.
 constexpr const char* kSession = "Sitzung";
 constexpr const char* kFromFile = "AusDatei";
 
@@ -40,7 +40,7 @@ std::vector<std::filesystem::path> Autosave::AllPaths() const {
 }
 
 bool Autosave::IsOwnFile(const std::filesystem::path& File) const {
-    // Many names lead to a file.
+    // Links and relative paths name the same files.
     const auto resolved = m_system.Resolve(File);
     return std::ranges::any_of(
         AllPaths(), [&](const auto& own) { return resolved && resolved == m_system.Resolve(own); });
@@ -105,7 +105,7 @@ std::filesystem::path Autosave::ReplacedPath(std::size_t number) const {
     return m_file.parent_path() / ("ersetzt-" + std::to_string(number) + ".tvf");
 }
 
-// Up to the first gap, or over the oldest.
+// Moves up the plans before the first gap; without a gap the oldest is overwritten.
 std::size_t Autosave::ShiftReplaced() const {
     std::size_t free = 1;
     while (free < kReplaced && m_system.KindOf(ReplacedPath(free)) != FileSystem::Kind::Nothing) {

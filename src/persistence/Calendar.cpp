@@ -1,4 +1,4 @@
-// Lines of a calendar file.
+// Entries and lines of a calendar file.
 #include "persistence/Calendar.h"
 
 #include <algorithm>
@@ -17,8 +17,8 @@ namespace {
 
 constexpr Long kMinute = 60;
 
-/// Lines end by a carriage return and a line feed, and have at most 75 bytes; a longer one goes on
-/// behind a blank. No letter is parted.
+/// RFC 5545, 3.1: lines end with CR LF and have at most 75 bytes; longer ones continue after a
+/// blank. Never splits a character.
 std::string ContentLine(std::string_view text) {
     constexpr std::size_t kMax = 75;
     std::string folded;
@@ -58,12 +58,11 @@ std::string Stamp(DateTime at) {
 }
 
 std::string Stamp(std::chrono::sys_seconds createdAt) {
-    // Days between the two calendars' first ones.
+    // From 30 December 1899 to 1 January 1970.
     constexpr std::int64_t kOffset = 25569 * std::int64_t{86400};
     return Stamp(DateTime(createdAt.time_since_epoch().count() + kOffset)) + "Z";
 }
 
-/// Orders of one entry.
 using CalendarEntry = std::vector<const StartEvent*>;
 
 std::vector<CalendarEntry> Entries(const RunTrace& trace) {
@@ -74,7 +73,7 @@ std::vector<CalendarEntry> Entries(const RunTrace& trace) {
             starts.push_back(&start);
         }
     }
-    // A click buffer can put a row's start before that of the row above.
+    // With a click buffer a row can start before the row above it.
     std::ranges::stable_sort(starts, {}, [](const StartEvent* other) { return other->start; });
     std::vector<CalendarEntry> entries;
     for (const StartEvent* const start : starts) {
@@ -110,7 +109,7 @@ std::string Title(const CalendarEntry& entry) {
     return text;
 }
 
-/// A production row has no level: it is told by how manieth of them it is.
+/// Production rows have no level; they are numbered in the order of the list.
 std::string UniqueId(const RunTrace& trace, const StartEvent& start) {
     const bool item = start.order.kind == Order::Kind::Item;
     const auto production = std::ranges::count_if(trace.starts, [&](const StartEvent& other) {

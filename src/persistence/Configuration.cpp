@@ -1,4 +1,4 @@
-// Keys of the configuration file.
+// Reading and writing of the configuration file.
 #include "persistence/Configuration.h"
 
 #include <algorithm>
@@ -12,16 +12,16 @@ namespace tarvelin {
 
 namespace {
 
-/// Where a path leads that a user wrote, with either separator: never by the current directory.
+/// Resolves a path that the user wrote with either separator; never by the current directory.
 std::filesystem::path FromFolder(const std::filesystem::path& folder, std::string text) {
-    // Not every standard library knows that a name of a computer makes a path absolute.
-    const bool byMachine = std::filesystem::path::preferred_separator == '\\' &&
-                           (text.starts_with("\\\\") || text.starts_with("//"));
-    if (byMachine || PathFromUtf8(text).is_absolute()) {
+    // Not every standard library takes "\\host\share" for absolute.
+    const bool isUnc = std::filesystem::path::preferred_separator == '\\' &&
+                       (text.starts_with("\\\\") || text.starts_with("//"));
+    if (isUnc || PathFromUtf8(text).is_absolute()) {
         return PathFromUtf8(text);
     }
     std::ranges::replace(text, '\\', '/');
-    // A root that is left names no place of its own: a leading separator, or a drive alone.
+    // What root is left, a leading separator or a drive alone, isn't absolute: drop it.
     return folder / PathFromUtf8(text).relative_path();
 }
 
@@ -33,7 +33,7 @@ Configuration::Configuration(std::filesystem::path programFolder, const FileSyst
       m_system(system) {}
 
 std::string Configuration::Read(const ConfigKey& key) const {
-    // Each time as the file holds it then: the user may have edited it.
+    // Not cached: the user may have edited the file.
     return IniFile::Load(m_file, m_system)
         .value_or(IniFile(""))
         .ReadINI(key.Section, key.Key, key.Default);

@@ -1,4 +1,4 @@
-// What the file layer makes of the calls on any platform.
+// Helpers of the file layer that are the same on every platform.
 #include "persistence/FileSystem.h"
 
 #include <algorithm>
@@ -11,7 +11,7 @@ namespace tarvelin {
 
 std::optional<std::string> ReadFileToString(const std::filesystem::path& file, std::size_t max,
                                             const FileSystem& system) {
-    // What is no plain file might never come to an end.
+    // Reading a device or a pipe might never end.
     if (system.KindOf(file) != FileSystem::Kind::RegularFile) {
         return std::nullopt;
     }

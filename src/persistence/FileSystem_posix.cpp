@@ -1,4 +1,4 @@
-// The calls on POSIX.
+// The system calls on POSIX.
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -16,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A call that a signal interrupted is made again.
+/// Repeats a call that a signal has interrupted.
 template <class Call>
 auto Retry(Call call) {
     auto answer = call();

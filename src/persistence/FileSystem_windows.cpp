@@ -1,4 +1,4 @@
-// The calls on Windows.
+// The system calls on Windows.
 #define WIN32_LEAN_AND_MEAN
 #define NOMINMAX
 #include <fcntl.h>
@@ -20,8 +20,8 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kMaxCount = std::size_t{1} << 20U;
 
-/// A path as the system reads it whatever its length and letters: whole, behind a mark. The mark
-/// ends the system's own reading of ".", ".." and "/" in it. Empty if the path is none.
+/// The absolute path with the prefix `\\?\`, which lifts the limit on its length. As the system no
+/// longer interprets ".", ".." and "/" after the prefix, they are resolved first. Empty if invalid.
 std::wstring ExtendedPath(const fs::path& path) {
     std::wstring full(::GetFullPathNameW(path.c_str(), 0, nullptr, nullptr), L'\0');
     full.resize(
@@ -33,7 +33,7 @@ std::wstring ExtendedPath(const fs::path& path) {
     return isShare ? LR"(\\?\UNC\)" + full.substr(2) : LR"(\\?\)" + full;
 }
 
-/// A file, folder or device that is looked at, however others hold it.
+/// Opens a file, folder or device for its attributes only, even if others hold it.
 class PathHandle {
   public:
     explicit PathHandle(const fs::path& path)
@@ -62,7 +62,7 @@ class PathHandle {
         return (info.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? Kind::Folder
                                                                        : Kind::RegularFile;
     }
-    /// Behind all links; empty where the disk can't tell it.
+    /// With all links resolved; empty where the file system can't tell.
     [[nodiscard]] std::wstring Location() const {
         std::wstring location(::GetFinalPathNameByHandleW(m_handle, nullptr, 0, 0), L'\0');
         location.resize(::GetFinalPathNameByHandleW(m_handle, location.data(),
@@ -70,7 +70,7 @@ class PathHandle {
         return location;
     }
 
-    /// Whether it isn't there because nothing has this name.
+    /// Whether it couldn't be opened because nothing has this name.
     [[nodiscard]] bool IsNothing() const {
         return !Exists() && (m_error == ERROR_FILE_NOT_FOUND || m_error == ERROR_PATH_NOT_FOUND);
     }
@@ -80,14 +80,14 @@ class PathHandle {
     DWORD m_error;
 };
 
-/// Whether another program has the file open in a way that lets nobody else at it.
+/// Whether another program has opened the file without sharing it.
 bool IsHeld(DWORD error) {
     return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION ||
            error == ERROR_USER_MAPPED_FILE;
 }
 
-/// Virus scanners and indexes hold a file for a moment after it was written; who holds it longer
-/// wins. `action` answers with the system's error; whether it came to its end.
+/// Retries for a second, as virus scanners and indexers hold a file briefly after it was written.
+/// `action` returns the system's error code. Whether it succeeded.
 template <class Action>
 bool Patiently(Action action) {
     constexpr int kAttempts = 20;
@@ -114,7 +114,7 @@ class WindowsFileSystem final : public FileSystem {
         if (full.empty()) {
             return std::nullopt;
         }
-        // A new file has its folder's place.
+        // The file may not exist yet; its folder does.
         if (const PathHandle file(full); file.Exists()) {
             const std::wstring location = file.Location();
             return location.empty() ? full : fs::path(location);
@@ -123,7 +123,7 @@ class WindowsFileSystem final : public FileSystem {
         const std::wstring location = folder.Exists() ? folder.Location() : std::wstring();
         return location.empty() ? full : fs::path(location) / full.filename();
     }
-    /// A folder tells only when a file is made in it. The system deletes it, whoever looks at it.
+    /// For a folder only creating a file gives the answer. The system deletes it when it is closed.
     [[nodiscard]] bool IsWritable(const fs::path& path) const override {
         if (KindOf(path) != Kind::Folder) {
             return ::_waccess(ExtendedPath(path).c_str(), 2) == 0;
@@ -152,7 +152,7 @@ class WindowsFileSystem final : public FileSystem {
         ::FindClose(search);
         return entries;
     }
-    /// What the file system keeps for itself, as in its index or compressed, tells no folder apart.
+    /// Attributes that the file system sets for itself, such as compressed, don't matter.
     [[nodiscard]] bool IsPlainFolder(const fs::path& path) const override {
         constexpr DWORD kSpecial = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN |
                                    FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE |
@@ -190,7 +190,7 @@ class WindowsFileSystem final : public FileSystem {
         const auto count = static_cast<unsigned>(std::min(bytes.size(), kMaxCount));
         return ::_write(number, bytes.data(), count);
     }
-    /// A new file takes the rights of its folder, as those of most programs do here.
+    /// New files inherit the permissions of their folder, as usual on Windows.
     [[nodiscard]] bool CopyPermissions(int /*number*/, const fs::path& /*from*/) const override {
         return true;
     }
@@ -203,11 +203,11 @@ class WindowsFileSystem final : public FileSystem {
                 ::MoveFileExW(ExtendedPath(from).c_str(), ExtendedPath(target).c_str(),
                               MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
             const DWORD error = moved ? DWORD{ERROR_SUCCESS} : ::GetLastError();
-            // Who may not be replaced at all answers the same.
+            // A target that others hold may give this error too, so it counts as held.
             return error == ERROR_ACCESS_DENIED ? DWORD{ERROR_SHARING_VIOLATION} : error;
         });
     }
-    /// The move has written through.
+    /// `MOVEFILE_WRITE_THROUGH` has done it.
     bool SyncFolder(const fs::path& /*folder*/) const override { return true; }
     bool Remove(const fs::path& file) const override {
         return ::_wunlink(ExtendedPath(file).c_str()) == 0;

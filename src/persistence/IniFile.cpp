@@ -36,7 +36,7 @@ std::string_view Trimmed(std::string_view text, std::string_view blanks = " \t\v
     return text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
 }
 
-/// A line without its end and the blanks around it.
+/// A line without its end and without blanks around it.
 std::string_view Content(std::string_view line) {
     while (line.ends_with('\n') || line.ends_with('\r')) {
         line.remove_suffix(1);
@@ -54,7 +54,7 @@ void EndLine(std::string& line) {
     }
 }
 
-/// The name of a section line, or nothing for another line.
+/// Nothing if it isn't a section line.
 std::optional<std::string_view> SectionName(std::string_view content) {
     if (!content.starts_with('[')) {
         return std::nullopt;
@@ -63,7 +63,7 @@ std::optional<std::string_view> SectionName(std::string_view content) {
     return Trimmed(content.substr(0, content.find(']')));
 }
 
-/// Key and value of a key line, or nothing for another line.
+/// Key and value; nothing if it isn't a key line.
 std::optional<std::pair<std::string_view, std::string_view>> KeyLine(std::string_view content) {
     const auto equals = content.find('=');
     if (content.starts_with(';') || equals == std::string_view::npos) {
@@ -82,7 +82,7 @@ std::string_view UpToNul(std::string_view value) {
     return value.substr(0, value.find('\0'));
 }
 
-/// A default is cut by characters, as each would be one byte of the file.
+/// By characters, as each would be one byte in the file.
 std::string_view CutDefault(std::string_view utf8) {
     std::size_t characters = 0;
     for (std::size_t i = 0; i < utf8.size(); ++i) {
@@ -93,7 +93,7 @@ std::string_view CutDefault(std::string_view utf8) {
     return UpToNul(utf8);
 }
 
-/// Takes the first line, with its end, off the bytes: LF, CR LF or CR.
+/// Takes the first line with its end: LF, CR LF or CR.
 std::string_view TakeLine(std::string_view& bytes) {
     auto end = std::min(bytes.find_first_of(kLineEnd), bytes.size());
     if (bytes.substr(end).starts_with(kLineEnd)) {
@@ -168,7 +168,7 @@ void IniFile::WriteINI(std::string_view Section, std::string_view Key, std::stri
     Block& block = FindOrAddBlock(Section);
     auto& lines = block.lines;
     const std::string name = To1252(Key);
-    // A value that went on in another line would be one of its own there.
+    // The rest of a value with a line break would become a line of its own.
     const auto singleLine = Value.substr(0, Value.find_first_of(std::string_view("\r\n\0", 3)));
     const std::string rest = "=" + ToLine(To1252(singleLine)) + std::string(kLineEnd);
     const auto found = block.lineOfKey.find(Lowercase(name));
@@ -177,7 +177,7 @@ void IniFile::WriteINI(std::string_view Section, std::string_view Key, std::stri
         line = std::string(KeyLine(Content(line))->first) + rest;
         return;
     }
-    // Behind the last line that isn't blank; the section line itself never is.
+    // After the last line that isn't blank; the section line never is.
     std::size_t position = lines.size();
     while (Content(lines[position - 1]).empty()) {
         --position;
@@ -208,7 +208,7 @@ void IniFile::AddLine(std::string_view line) {
     m_blocks.back().lines.emplace_back(line);
 }
 
-/// A section of a known name is out of reach, and so are all that follow it in such a row.
+/// A repeated section is unreachable; consecutive unreachable sections share a block.
 void IniFile::BeginBlock(std::string_view name) {
     const bool isNew = m_blockOfName.emplace(name, m_blocks.size()).second;
     if (isNew || m_blocks.back().reachable) {

@@ -1,4 +1,4 @@
-// The save-file format.
+// The format of plan files.
 #include "persistence/PlanFile.h"
 
 #include <algorithm>
@@ -30,8 +30,8 @@ std::string RowKey(std::string_view name, std::size_t n) {
     return std::string(name) + PadIntegerDigits(std::to_string(n), kDigits);
 }
 
-/// The keys of the section of settings that hold an input's text as typed, in the order in which
-/// they are written and read. The highest temperature is no row, as the lowest follows from it.
+/// Settings that hold an input as typed, in the order in which they are written and read. TempMax
+/// isn't among them, as reading it sets TempMin too.
 struct TextKey {
     std::string_view Key;
     std::string StartParameters::*text;
@@ -45,13 +45,13 @@ constexpr std::array<TextKey, 5> kDateKeys{{
     {"UniStartZeitMinuten", &StartParameters::UniStartZeitMinuten},
 }};
 
-/// A value of any file as a person reads it: in one line, and not too long.
+/// A value from any file for a message: on one line and not too long.
 std::string Readable(std::string_view value) {
     constexpr std::size_t kMax = 60;
     std::string text(value.substr(0, value.find_first_of('\0')));
     for (std::size_t i = 0; i < text.size(); ++i) {
         const auto character = static_cast<unsigned char>(text[i]);
-        // Also those of the second set, which UTF-8 has behind this byte.
+        // C1 control characters are C2 80 to C2 9F in UTF-8.
         const bool isC1 = i > 0 && text[i - 1] == '\xC2' && character >= 0x80 && character < 0xA0;
         if (character < ' ' || character == 0x7F || isC1) {
             text[i] = '?';
@@ -59,7 +59,6 @@ std::string Readable(std::string_view value) {
         }
     }
     if (text.size() > kMax) {
-        // No letter is parted.
         std::size_t end = kMax;
         while (IsContinuation(text[end])) {
             --end;
@@ -70,7 +69,7 @@ std::string Readable(std::string_view value) {
     return text;
 }
 
-/// The steps of a load; each answers whether it found usable values.
+/// Each step returns whether all its values were usable.
 class PlanReader {
   public:
     PlanReader(const IniFile& profile, Plan& plan, const RunConditions& conditions)
@@ -78,7 +77,7 @@ class PlanReader {
 
     bool Read() { return ReadSettings() && ReadSleepTable() && ReadBuildList(); }
 
-    /// What the reading stopped at, for people.
+    /// Why the reading stopped, for the user.
     [[nodiscard]] const std::string& Obstacle() const { return m_obstacle; }
 
   private:
@@ -137,7 +136,7 @@ class PlanReader {
         return number;
     }
 
-    /// Always false.
+    /// Notes the obstacle and returns false.
     bool Fail(std::string_view section, std::string_view key, const std::string& expected) {
         const auto line = m_profile.LineNumber(section, key);
         const std::string name(key);

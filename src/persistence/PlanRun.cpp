@@ -1,4 +1,4 @@
-// Loading and running without a window.
+// Loading and running of a plan file.
 #include "persistence/PlanRun.h"
 
 #include <utility>

@@ -1,4 +1,4 @@
-// Choice of the folder and the copies for a user of an installed program.
+// Chooses the program's folder and fills that of a user.
 #include "persistence/ProgramFolder.h"
 
 #include <algorithm>
@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// False if there is no room for the file.
+/// False if the file can't be written.
 bool CopyMissing(const fs::path& from, const fs::path& target) {
     const auto kind = NativeFileSystem().KindOf(target);
     if (kind && *kind != FileSystem::Kind::Nothing) {
@@ -27,7 +27,7 @@ bool IsFolder(const fs::path& path) {
     return NativeFileSystem().KindOf(path) == FileSystem::Kind::Folder;
 }
 
-/// Whether the folder lies there afterwards, and had room for all that is in the other one.
+/// Copies missing files with their folders. False if anything can't be written.
 bool AddMissingFolder(const fs::path& from, const fs::path& target) {
     bool whole = NativeFileSystem().CreateFolders(target);
     for (const fs::path& entry : NativeFileSystem().Entries(from)) {
@@ -39,7 +39,7 @@ bool AddMissingFolder(const fs::path& from, const fs::path& target) {
     return whole;
 }
 
-/// Whether there was room for all that is ours.
+/// Copies our missing files. False if anything can't be written.
 bool SetUp(const fs::path& source, const fs::path& folder) {
     const bool pictures = AddMissingFolder(source / "img", folder / "img");
     const bool sounds = AddMissingFolder(source / "mfx", folder / "mfx");
@@ -51,7 +51,7 @@ bool SetUp(const fs::path& source, const fs::path& folder) {
 }
 
 bool HasPlans(const fs::path& folder) {
-    // The starter plan alone is ours.
+    // The starter plan is ours, not the user's.
     return std::ranges::any_of(NativeFileSystem().Entries(folder / "saves"),
                                [](const auto& file) { return file.filename() != "basic.tvf"; });
 }
@@ -89,7 +89,7 @@ ProgramFolder ResolveProgramFolder(const fs::path& programFolder, const fs::path
     if (userFolder.empty()) {
         return {.path = source, .canKeep = false};
     }
-    // Who has plans there keeps them in sight, whatever has no room beside them.
+    // A user with plans there keeps seeing them, even if our files don't fit.
     const bool hasPlans = HasPlans(userFolder);
     const bool canKeep = SetUp(source, userFolder) && NativeFileSystem().IsWritable(userFolder) &&
                          NativeFileSystem().IsWritable(userFolder / "saves");

@@ -1,4 +1,4 @@
-// What is protected.
+// Decides which paths are protected.
 #include "persistence/ProtectedFileSystem.h"
 
 #include <algorithm>

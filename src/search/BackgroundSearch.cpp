@@ -1,4 +1,4 @@
-// The thread of a search.
+// Runs a search in a thread.
 #include "search/BackgroundSearch.h"
 
 #include <utility>

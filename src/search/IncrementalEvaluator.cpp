@@ -1,4 +1,4 @@
-// Runs from the middle.
+// Resumes runs from checkpoints.
 #include "search/IncrementalEvaluator.h"
 
 #include <limits>
@@ -7,7 +7,7 @@
 
 namespace tarvelin {
 
-/// Looks at each start: whether it may be, and what it adds to the sittings.
+/// Notices starts that mustn't be, and counts sittings.
 class IncrementalEvaluator::StartGuard final : public RunObserver {
   public:
     StartGuard(const SearchTask& task, const SittingState& counter)
@@ -25,9 +25,9 @@ class IncrementalEvaluator::StartGuard final : public RunObserver {
     void OnNegativeStock(const GameState& /*state*/) override { missed = true; }
 
     SittingState sittings;
-    /// Orders that have started.
+    /// How many orders have started.
     std::size_t starts = 0;
-    /// An order has started that shouldn't have.
+    /// An order has started that mustn't.
     bool missed = false;
 
   private:

@@ -1,4 +1,4 @@
-// Row by row, the earliest start.
+// Builds a list greedily, or repairs the given one.
 #include "search/InitialSolution.h"
 
 #include <algorithm>
@@ -16,10 +16,10 @@ namespace {
 
 constexpr Long kNoLimit = std::numeric_limits<Long>::max();
 
-/// Which orders come first, before the soonest.
+/// Which orders are taken before others that would end sooner.
 enum class Preference : std::uint8_t {
     None,
-    /// Those that cost deuterium: a production row may shut its mine later on.
+    /// Those that cost deuterium, as a production row may stop its mine later.
     Deuterium,
 };
 
@@ -27,7 +27,7 @@ bool CostsDeuterium(const Order& order) {
     return order.kind == Order::Kind::Item && RowOf(order.item).baseCost[Resource::Deuterium] > 0;
 }
 
-/// The place of the order in `remaining` that ends the list soonest if it comes next.
+/// The index in `remaining` of the order with which the list ends soonest.
 std::optional<std::size_t> NextOrder(IncrementalEvaluator& evaluator, std::vector<Order>& list,
                                      const std::vector<Order>& remaining,
                                      const PerItem<Byte>& levels, Preference preference) {
@@ -92,7 +92,7 @@ std::optional<std::vector<Order>> GreedyList(const SearchTask& task, Preference 
     return list;
 }
 
-/// Moves that let no fewer orders start, until all do.
+/// Accepts moves that let no fewer orders start, until all do.
 std::optional<std::vector<Order>> RepairedList(const SearchTask& task,
                                                const std::atomic<bool>& stop) {
     constexpr int kTries = 40'000;
@@ -104,7 +104,7 @@ std::optional<std::vector<Order>> RepairedList(const SearchTask& task,
     std::size_t started = evaluator.StartedCount();
     for (int i = 0; i < kTries && !ends && !stop; ++i) {
         const auto from = neighborhood.Propose(random);
-        // What comes behind the order that fails isn't played.
+        // Orders after the failing one aren't played.
         if (!from || *from >= started) {
             continue;
         }

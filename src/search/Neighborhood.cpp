@@ -1,4 +1,4 @@
-// Moves and the rules that they keep.
+// Random moves, and the check that they keep the rules.
 #include "search/Neighborhood.h"
 
 #include <algorithm>
@@ -12,6 +12,7 @@ namespace tarvelin {
 
 namespace {
 
+/// The order decides which item a random number stands for.
 std::vector<ItemId> EconomyByRank() {
     std::vector<ItemId> items;
     for (const ItemRow& row : ItemTable()) {
@@ -28,7 +29,7 @@ Order RandomEconomyOrder(Random& random) {
     return Order::Of(items[random.Below(items.size())]);
 }
 
-/// How far a move goes: half of them at most eight rows, the others anywhere.
+/// How many rows a move spans: half of them at most eight.
 std::size_t Reach(Random& random, std::size_t highest) {
     constexpr std::size_t kNear = 8;
     return 1 + random.Below(random.OneIn(2) ? std::min(kNear, highest) : highest);
@@ -55,7 +56,7 @@ Neighborhood::Neighborhood(const SearchTask& task, std::vector<Order> orders,
     }
 }
 
-/// Counters and free rows from a row on.
+/// Updates `m_before` from a row on, and `m_free`.
 void Neighborhood::RecountFrom(std::size_t row) {
     m_before.resize(m_orders.size() + 1);
     for (std::size_t i = row; i < m_orders.size(); ++i) {
@@ -73,7 +74,7 @@ void Neighborhood::RecountFrom(std::size_t row) {
 }
 
 std::optional<std::size_t> Neighborhood::Propose(Random& random) {
-    // Takes the last move back, if it wasn't taken over.
+    // Undoes the last move unless it was accepted.
     if (m_neighbor.size() == m_orders.size()) {
         std::copy(m_orders.begin() + static_cast<std::ptrdiff_t>(m_from),
                   m_orders.begin() + static_cast<std::ptrdiff_t>(m_until),
@@ -96,7 +97,7 @@ std::optional<std::size_t> Neighborhood::Propose(Random& random) {
     return proposed && KeepsRules() ? std::optional(m_from) : std::nullopt;
 }
 
-/// Moves one order, or a block of two to five, or lets two change places.
+/// Moves one order or a block of two to five, or swaps two orders.
 bool Neighborhood::Reposition(Random& random) {
     constexpr std::size_t kBlock = 5;
     const std::size_t n = m_free.size();
@@ -119,7 +120,7 @@ bool Neighborhood::Reposition(Random& random) {
     } else {
         Rotate(from, from + distance, from + block + distance);
     }
-    // Equal orders that change places change nothing.
+    // Swapped equal orders are no change.
     while (m_from < m_until && m_neighbor[m_from] == m_orders[m_from]) {
         ++m_from;
     }
@@ -129,7 +130,7 @@ bool Neighborhood::Reposition(Random& random) {
     return m_from < m_until;
 }
 
-/// Of the free rows from `from` to before `until`: those from `middle` on come first.
+/// Rotates the free rows [from, until) so that those from `middle` on come first.
 void Neighborhood::Rotate(std::size_t from, std::size_t middle, std::size_t until) {
     m_from = m_free[from];
     m_until = m_free[until - 1] + 1;
@@ -146,7 +147,6 @@ void Neighborhood::SwapRows(std::size_t a, std::size_t b) {
     std::swap(m_neighbor[m_free[a]], m_neighbor[m_free[b]]);
 }
 
-/// Another mine, plant, satellite, factory, shipyard or lab.
 bool Neighborhood::InsertEconomy(Random& random) {
     if (m_orders.size() >= OrderList::kMaxSize) {
         return false;
@@ -161,7 +161,7 @@ bool Neighborhood::InsertEconomy(Random& random) {
     return true;
 }
 
-/// One of them less, where the goal doesn't ask for it.
+/// Only what the goal doesn't require.
 bool Neighborhood::RemoveEconomy(Random& random) {
     if (m_free.empty()) {
         return false;
@@ -180,7 +180,7 @@ bool Neighborhood::RemoveEconomy(Random& random) {
     return true;
 }
 
-/// One less here, another one there.
+/// Removes one and inserts another elsewhere.
 bool Neighborhood::ReplaceEconomy(Random& random) {
     if (!RemoveEconomy(random)) {
         return false;
@@ -195,7 +195,7 @@ bool Neighborhood::ReplaceEconomy(Random& random) {
     return true;
 }
 
-/// Rows that the move left alone need no look, unless something was struck above them.
+/// Checks the changed rows alone; after an insertion or a removal that is every row below.
 bool Neighborhood::KeepsRules() const {
     PerItem<Byte> levels = m_before[m_from];
     auto pinnedCount = static_cast<std::size_t>(

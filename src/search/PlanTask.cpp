@@ -1,4 +1,4 @@
-// Goals, pins and what is played already.
+// Turns goal, pins and played orders into a task.
 #include "search/PlanTask.h"
 
 #include <algorithm>
@@ -61,7 +61,7 @@ std::variant<Levels, SearchRefusal> ParseGoal(std::string_view text) {
     return goal;
 }
 
-/// The plan's own research, units and defences.
+/// The plan's own research, units and defenses.
 std::variant<Levels, SearchRefusal> GoalOfPlan(const Plan& plan) {
     Levels goal = plan.LV_Bauliste.Orders().ListStufe();
     for (const ItemRow& row : ItemTable()) {
@@ -111,7 +111,7 @@ std::optional<SearchRefusal> SetPinned(const Plan& plan, const SearchRequest& re
     return std::nullopt;
 }
 
-/// The moments of all starts.
+/// Records when each order starts.
 class StartTimes final : public RunObserver {
   public:
     static std::vector<SimTime> Of(const Plan& plan, const RunConditions& conditions) {
@@ -131,7 +131,7 @@ std::string ToTheMinute(DateTime time) {
     return DateText(time) + " " + TimeOfDayText(time).substr(0, 5);
 }
 
-/// What is played already, and the pause behind it.
+/// Fixes the orders that start before `notBefore`, and adds a pause until then.
 std::optional<SearchRefusal> SetHead(const Plan& plan, DateTime notBefore, PlanTask& task) {
     RunConditions& conditions = task.task.conditions;
     const auto starts = StartTimes::Of(plan, conditions);
@@ -166,7 +166,7 @@ std::optional<SearchRefusal> SetHead(const Plan& plan, DateTime notBefore, PlanT
     return std::nullopt;
 }
 
-/// Without what the goal doesn't ask for, and with what it misses at the end.
+/// Drops orders that the goal doesn't require and appends those that are missing.
 void AimAtGoal(SearchTask& task) {
     Levels levels{};
     std::vector<Order> orders;
@@ -203,7 +203,7 @@ bool Reached(const OrderList& list, const Levels& goal) {
     return std::ranges::equal(list.ListStufe(), goal, std::ranges::greater_equal());
 }
 
-/// Conditions for an empty list too.
+/// Also for an empty list, which `ParseRunConditions` refuses.
 std::variant<RunConditions, Message> ConditionsOf(Plan plan) {
     if (plan.LV_Bauliste.Orders().IsEmpty()) {
         static_cast<void>(plan.LV_Bauliste.AddItem(ItemId::MetMine, RunConditions()));

@@ -1,4 +1,4 @@
-// Chains of simulated annealing, and the threads that take them.
+// Chains of simulated annealing, run by several threads.
 #include "search/Search.h"
 
 #include <algorithm>
@@ -22,18 +22,17 @@ namespace {
 
 constexpr Long kNoLimit = std::numeric_limits<Long>::max();
 
-/// What a chain counts beside the duration.
+/// What a chain minimizes.
 enum class Objective : std::uint8_t {
     Duration,
-    /// A little for each second that the last order held back by a night could have started
-    /// earlier.
+    /// Duration, and a little of `Score::sleepFreeStart`.
     NightGap,
-    /// Sittings, within a limit of the duration.
+    /// Sittings above all, then duration.
     Sittings,
 };
 
-/// Share of the duration that a list may be worse at the first try of a chain. The chains take them
-/// in turn, two by two.
+/// The heat is the scale, as a share of the objective value, of the worsening that a chain accepts.
+/// These are its values at the first try; pairs of consecutive chains take them in turn.
 std::span<const double> InitialHeats(const SearchTask& task, std::size_t freeCount) {
     constexpr std::size_t kSmall = 12;
     static constexpr std::array kWithEconomy{0.02};
@@ -48,10 +47,10 @@ std::span<const double> InitialHeats(const SearchTask& task, std::size_t freeCou
     return kMany;
 }
 
-/// The same at the last try.
+/// The heat at the last try of a chain.
 constexpr double kFinalHeat = 0.00001;
 
-/// So much of it is left for the chains that set out from the best list of the others.
+/// Factor on the heat of chains that start from the best list of earlier ones.
 constexpr double kReheat = 0.1;
 
 double ObjectiveValue(const Score& score, Objective objective) {
@@ -68,7 +67,6 @@ double ObjectiveValue(const Score& score, Objective objective) {
     return score.duration;
 }
 
-/// Whether a list is better: the duration counts first, or the sittings.
 bool IsBetter(const Score& a, const Score& b, Objective objective) {
     if (objective == Objective::Sittings && a.sittings != b.sittings) {
         return a.sittings < b.sittings;
@@ -76,7 +74,8 @@ bool IsBetter(const Score& a, const Score& b, Objective objective) {
     return a.duration != b.duration ? a.duration < b.duration : a.sittings < b.sittings;
 }
 
-/// What all chains share: the best so far for the progress alone, as which it is depends on chance.
+/// Shared by all chains. The best duration is only for the progress, as it depends on the timing of
+/// the threads.
 class SharedProgress {
   public:
     explicit SharedProgress(const std::atomic<bool>& stop) : m_stop(&stop) {}
@@ -111,11 +110,11 @@ struct ChainSpec {
     Objective objective;
     double heat;
     std::uint64_t seed;
-    /// No list may take longer.
+    /// The longest duration allowed.
     Long limit = kNoLimit;
 };
 
-/// One chain. It depends on its task and seed alone.
+/// The result depends on `chain` alone, unless it is stopped.
 Solution RunChain(const ChainSpec& chain, SharedProgress& progress) {
     Random random(chain.seed);
     Neighborhood neighborhood(*chain.task, chain.initial->orders, chain.initial->pinned);
@@ -134,7 +133,7 @@ Solution RunChain(const ChainSpec& chain, SharedProgress& progress) {
         if (!from) {
             continue;
         }
-        // A list may be so much worse, whatever it turns out to be.
+        // The worsening to accept is drawn first, so that the evaluation can stop there.
         const double limitValue =
             objectiveValue - heat * objectiveValue * std::log(random.UnitInterval());
         const Long limit = limitValue < chain.limit ? static_cast<Long>(limitValue) : chain.limit;
@@ -154,21 +153,21 @@ Solution RunChain(const ChainSpec& chain, SharedProgress& progress) {
     return best;
 }
 
-/// Chains that differ in their numbers alone.
+/// Chains that differ only in their number.
 struct ChainSeries {
     const SearchTask* task;
     Solution initial;
     Objective objective;
     std::span<const double> heats;
-    /// So much of them is left.
+    /// Factor on `heats`.
     double reheat;
     Long limit;
-    /// The number of the first, and how many there are.
+    /// The number of the first chain, and how many there are.
     std::uint64_t first;
     std::uint64_t count;
     std::uint64_t seed;
 
-    /// With nights every other chain minds them.
+    /// If there are sleep windows, every other chain counts the night gap too.
     [[nodiscard]] ChainSpec ChainAt(std::uint64_t i) const {
         constexpr std::uint64_t kSeedDistance = 1'000'003;
         const std::uint64_t number = first + i;
@@ -183,7 +182,7 @@ struct ChainSeries {
     }
 };
 
-/// Lets threads take one chain after the other. The best of them doesn't depend on who was first.
+/// Threads that take the chains one by one. The result doesn't depend on their timing.
 class ChainPool {
   public:
     ChainPool(ChainSeries series, unsigned threads, SharedProgress& progress)
@@ -194,12 +193,12 @@ class ChainPool {
         }
     }
 
-    /// The chain that was taken last, from 1.
+    /// The number, from 1, of the chain that was taken last.
     [[nodiscard]] std::uint64_t Last() const {
         return m_series.first + std::min(m_next.load(), m_series.count);
     }
 
-    /// Waits for the end; asks in between. The best list, of equals that of the first chain.
+    /// Waits for all chains and calls `poll` meanwhile. The best list; of equals the first chain's.
     template <class Callback>
     Solution Wait(Callback poll) {
         constexpr std::chrono::milliseconds kInterval(100);
@@ -241,15 +240,15 @@ class ChainPool {
     std::condition_variable m_finished;
     std::uint64_t m_running = 0;
     Solution m_best;
-    /// The chain that found it; nothing while it is the list to begin with.
+    /// The chain that found it; nothing for the initial list.
     std::optional<std::uint64_t> m_from;
     std::vector<std::jthread> m_threads;
 };
 
-/// The list of the task, or one of the same orders that ends sooner, or at all.
+/// The task's list, or a greedy one if it is better or the task's list doesn't end.
 std::optional<Solution> ChooseInitial(const SearchTask& task, const std::atomic<bool>& stop) {
     std::optional<Solution> own = Evaluate(task, task.orders);
-    // Another list could have other orders above the pinned rows.
+    // A greedy list could have other orders before the pinned rows.
     const bool hasPinned = std::ranges::find(task.pinned, true) != task.pinned.end();
     if (own && (task.kind == SearchTask::Kind::Sequence || hasPinned)) {
         return own;
@@ -262,7 +261,7 @@ std::optional<Solution> ChooseInitial(const SearchTask& task, const std::atomic<
     return IsBetter(greedy->score, own->score, Objective::Duration) ? greedy : own;
 }
 
-/// A whole search: chains from the list to begin with, chains from the best of them, and chains for
+/// Runs three series: chains from the initial list, chains from the best of those, and chains for
 /// fewer sittings.
 class SearchDriver {
   public:
@@ -295,7 +294,7 @@ class SearchDriver {
     }
 
   private:
-    /// So many chains from the best list so far.
+    /// Runs `number` chains from the best list so far.
     void RunSeries(std::uint64_t number, Objective objective, double reheat, Long limit,
                    const std::function<void(const SearchProgress&)>& report) {
         if (number == 0 || m_progress.Stops()) {
@@ -355,7 +354,7 @@ SearchResult Search(const SearchTask& task, const SearchBudget& budget,
                     const std::function<void(const SearchProgress&)>& report) {
     const std::optional<Solution> initial = ChooseInitial(task, stop);
     if (!initial) {
-        // There is nothing to try, unless the search was stopped before it had begun.
+        // No tries at all, unless the search was stopped before it could start.
         return {.best = {}, .totalTries = stop ? budget.tries : 0};
     }
     return SearchDriver(task, budget, stop, *initial).Run(report);

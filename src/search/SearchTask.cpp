@@ -1,4 +1,4 @@
-// Goals and what they need.
+// Levels that a goal requires and that a list reaches.
 #include "search/SearchTask.h"
 
 #include <algorithm>
@@ -8,7 +8,7 @@
 namespace tarvelin {
 
 PerItem<Byte> WithPrerequisites(PerItem<Byte> goal) {
-    // What an item needs can need something itself.
+    // Prerequisites can have prerequisites.
     for (bool more = true; more;) {
         more = false;
         for (const ItemRow& row : ItemTable()) {

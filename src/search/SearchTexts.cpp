@@ -1,4 +1,4 @@
-// Levels and rates.
+// Texts for the result of a search.
 #include "search/SearchTexts.h"
 
 #include "model/ItemTable.h"
@@ -7,7 +7,7 @@ namespace tarvelin {
 
 namespace {
 
-/// What `text` makes of each item that one list has more of than the other.
+/// Joins `text` of each item that `more` has more of.
 template <class Text>
 std::string Joined(const OrderList& more, const OrderList& fewer, const char* between, Text text) {
     std::string all;

@@ -1,4 +1,4 @@
-// Windows-1252: Latin 1 with 27 characters of its own from 0x80 to 0x9F.
+// Windows-1252: Latin 1, except for 27 characters from 0x80 to 0x9F.
 #include "util/Codepage1252.h"
 
 #include <algorithm>

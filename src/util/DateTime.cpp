@@ -1,4 +1,4 @@
-// Calendar arithmetic and German date texts.
+// Parsing and printing of dates.
 #include "util/DateTime.h"
 
 #include <array>
@@ -27,12 +27,12 @@ constexpr std::array<WeekdayName, 7> kWeekdays{{{"So", "Sonntag"},
                                                 {"Fr", "Freitag"},
                                                 {"Sa", "Samstag"}}};
 
-/// Reads a text from left to right; a step that fails leaves it spoilt for good.
+/// Parses a text from left to right. A step that fails marks the whole text as bad.
 class Parser {
   public:
     explicit Parser(std::string_view text) : m_rest(text) {}
 
-    /// Takes `min` to `max` digits, as many as stand there.
+    /// Takes as many digits as there are, `min` to `max`.
     int Digits(std::size_t min, std::size_t max) {
         std::size_t n = 0;
         while (n < max && n < m_rest.size() && m_rest[n] >= '0' && m_rest[n] <= '9') {

@@ -5,10 +5,9 @@ namespace tarvelin {
 
 namespace {
 
-/// Sign, whole part, separator and all four decimals.
 std::string AllDecimals(FixedPoint value, char separatorChar) {
     const std::int64_t raw = value.Raw();
-    // The magnitude is taken without a sign, as the lowest number has no positive twin.
+    // Unsigned, as the lowest number has no positive counterpart.
     const std::uint64_t amount =
         raw < 0 ? 0U - static_cast<std::uint64_t>(raw) : static_cast<std::uint64_t>(raw);
     std::string digits = std::to_string(amount);

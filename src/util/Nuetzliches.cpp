@@ -1,4 +1,4 @@
-// Cutting and padding of texts, durations, and the look into folders.
+// Splitting and padding of texts, and texts for durations.
 #include "util/Nuetzliches.h"
 
 #include <algorithm>
@@ -24,7 +24,7 @@ std::string AtLeastTwoDigits(std::int64_t number) {
     return PadIntegerDigits(std::to_string(number), 2);
 }
 
-/// Seconds of one unit, 0 for an unknown one.
+/// 0 for an unknown unit.
 std::int64_t SecondsPer(std::string_view unit) {
     if (unit == "s") {
         return 1;
@@ -38,14 +38,14 @@ std::int64_t SecondsPer(std::string_view unit) {
     return unit == "d" ? 86400 : 0;
 }
 
-/// How many of days, hours and minutes take no part, as time above `unit` flows into it.
+/// How many of the units days, hours and minutes are larger than `unit`.
 int Rank(std::string_view unit) {
     constexpr std::string_view kUnits = "dhms";
     const auto position = unit.size() == 1 ? kUnits.find(unit) : std::string_view::npos;
     return position == std::string_view::npos ? 0 : static_cast<int>(position);
 }
 
-/// Takes the whole units out of `rest`.
+/// Takes as many whole units as possible from `rest` and returns their number.
 std::int64_t TakeWhole(std::int64_t& rest, std::int64_t secondsPerUnit) {
     const auto whole =
         Rounding::Floor(static_cast<double>(rest) / static_cast<double>(secondsPerUnit));

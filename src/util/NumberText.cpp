@@ -1,4 +1,4 @@
-// Reading and writing of German number texts.
+// Parsing and printing of German number texts.
 #include "util/NumberText.h"
 
 #include <algorithm>
@@ -13,10 +13,9 @@ namespace tarvelin {
 
 namespace {
 
-/// A number text taken apart: its sign and its digits, of which `hasComma` tells whether one of
-/// them is a comma.
 struct NumberForm {
     bool negative = false;
+    /// With the comma, if there is one.
     std::string_view digits;
     bool hasComma = false;
 };
@@ -48,7 +47,7 @@ std::optional<NumberForm> Split(std::string_view text) {
     return form;
 }
 
-/// All digits in front of the point, and `decimals` behind it.
+/// In full, with a decimal point and `decimals` decimals.
 std::string AllDigits(double value, int decimals) {
     constexpr auto kMaxDigits =
         static_cast<std::size_t>(std::numeric_limits<double>::max_exponent10) + 4;
@@ -78,7 +77,7 @@ std::optional<double> ParseNumber(std::string_view text) {
     const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value,
                                         std::chars_format::fixed);
     if (result.ec == std::errc::result_out_of_range) {
-        // Too large, or so small that it is 0.
+        // Too large, or so small that it rounds to 0.
         value = digits.find_first_not_of('0') < digits.find('.')
                     ? std::numeric_limits<double>::max()
                     : 0.0;
@@ -108,13 +107,13 @@ std::optional<std::int64_t> ParseWholeNumber(std::string_view text, std::int64_t
 }
 
 std::string DecimalText(double value, int decimals) {
-    constexpr double kNoFraction = 9007199254740992.0;  // from 2^53 on a double is whole
+    constexpr double kNoFraction = 9007199254740992.0;  // 2^53: larger doubles are integers
     if (!(std::abs(value) < kNoFraction)) {
         return WholeText(value);
     }
     const double powerOfTen = std::pow(10.0, decimals);
     const double product = value * powerOfTen;
-    // A product without a fraction needs no rounding, and the value as it is has fewer digits.
+    // Without a fraction there is nothing to round, and dividing again would lose digits.
     const double rounded = std::abs(product) < kNoFraction
                                ? static_cast<double>(Rounding::HalfEven(product)) / powerOfTen
                                : value;

@@ -1,4 +1,4 @@
-// 16-bit units of either byte order.
+// Encoding and decoding of UTF-16 in either byte order.
 #include "util/Utf16.h"
 
 #include <utility>
