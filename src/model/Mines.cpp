@@ -11,18 +11,19 @@ namespace tarvelin {
 
 namespace {
 
-/// The yield per hour at level L is A × L × 1.1^L and the base income B, the need C × L × 1.1^L.
+/// Per hour. At level L a mine yields `yield` × L × 1.1^L on top of the base income, and needs
+/// `energy` × L × 1.1^L.
 struct MineConstants {
-    double a = 0;
-    double b = 0;
-    float c = 0;
+    double yield = 0;
+    double baseIncome = 0;
+    float energy = 0;
 };
 
 // clang-format off
 constexpr PerResource<MineConstants> kMineConstants{{{
-    /* metal     */ {.a = 30, .b = 20, .c = 10},
-    /* crystal   */ {.a = 20, .b = 10, .c = 10},
-    /* deuterium */ {.a = 10, .b =  0, .c = 20},
+    /* metal     */ {.yield = 30, .baseIncome = 20, .energy = 10},
+    /* crystal   */ {.yield = 20, .baseIncome = 10, .energy = 10},
+    /* deuterium */ {.yield = 10, .baseIncome =  0, .energy = 20},
 }}};
 // clang-format on
 
@@ -48,14 +49,14 @@ Resource ResourceOf(ItemId mine) {
 double GetEnergieVerbrauch(Resource mine, const GameState& state) {
     const Byte level = state.GetStufe(kMines[mine]);
     // The first two products are rounded to single precision, the last one isn't.
-    const float need =
-        ToShare(state.MinenProdfaktor[mine]) * kMineConstants[mine].c * static_cast<float>(level);
+    const float need = ToShare(state.MinenProdfaktor[mine]) * kMineConstants[mine].energy *
+                       static_cast<float>(level);
     return std::trunc(static_cast<double>(need) * OnePointOneToThe(level));
 }
 
 double GetEnergieVerbrauch(Resource mine, Byte ExterneStufe, Byte externerProduktionsfaktor) {
     return std::trunc(static_cast<double>(ToShare(externerProduktionsfaktor)) *
-                      static_cast<double>(kMineConstants[mine].c) * ExterneStufe *
+                      static_cast<double>(kMineConstants[mine].energy) * ExterneStufe *
                       OnePointOneToThe(ExterneStufe));
 }
 
@@ -64,11 +65,11 @@ double GetEnergieVerbrauch(Resource mine, Byte ExterneStufe, Byte externerProduk
 // leaves.
 FixedPoint GetProduktion(Resource mine, const GameState& state, const RunConditions& conditions) {
     const Byte level = state.GetStufe(kMines[mine]);
-    const double production = ((kMineConstants[mine].a * level) * OnePointOneToThe(level) *
+    const double production = ((kMineConstants[mine].yield * level) * OnePointOneToThe(level) *
                                TemperatureFactor(mine, conditions.Temperatur)) *
                               state.ProdFaktor.ToDouble();
     const auto share = static_cast<double>(ToShare(state.MinenProdfaktor[mine]));
-    const auto perHour = Rounding::Floor(share * production + kMineConstants[mine].b);
+    const auto perHour = Rounding::Floor(share * production + kMineConstants[mine].baseIncome);
     return FixedPoint::FromWhole(perHour) * conditions.Speedfaktor;
 }
 

@@ -25,9 +25,9 @@ class SimTime {
     friend constexpr SimTime operator+(SimTime moment, std::int64_t seconds) {
         return SimTime(LongSum(moment.m_seconds, seconds));
     }
-    /// Seconds from `b` to `a`.
-    friend constexpr Long operator-(SimTime a, SimTime b) {
-        return LongSum(a.m_seconds, -std::int64_t{b.m_seconds});
+    /// Seconds from `begin` to `end`.
+    friend constexpr Long operator-(SimTime end, SimTime begin) {
+        return LongSum(end.m_seconds, -std::int64_t{begin.m_seconds});
     }
     friend constexpr auto operator<=>(SimTime, SimTime) = default;
 

@@ -19,11 +19,11 @@ FixedPoint MineYield(FixedPoint perHour, Long seconds) {
     const FixedPoint hourly = perHour * seconds;
     // The floating-point quotient is off by less than 3 parts in 2^53. Below `kSafe` that shows
     // only at a half, so whole numbers give the same result everywhere else, and faster.
-    const auto n = static_cast<std::uint64_t>(hourly.Raw());
-    const std::uint64_t half = 2 * n + kHour;
-    const std::uint64_t whole = half / (2 * kHour);
-    if (n < kSafe && half != whole * (2 * kHour)) [[likely]] {
-        return FixedPoint::FromRaw(static_cast<std::int64_t>(whole));
+    const auto raw = static_cast<std::uint64_t>(hourly.Raw());
+    const std::uint64_t doubled = 2 * raw + kHour;
+    const std::uint64_t rounded = doubled / (2 * kHour);
+    if (raw < kSafe && doubled != rounded * (2 * kHour)) [[likely]] {
+        return FixedPoint::FromRaw(static_cast<std::int64_t>(rounded));
     }
     return FixedPoint::FromDouble(hourly.ToDouble() / kSecondsPerHour);
 }

@@ -11,20 +11,20 @@ void EditHistory::Begin(PlanSnapshot snapshot) {
 }
 
 bool EditHistory::Record(PlanSnapshot snapshot, std::string_view input) {
-    if (snapshot == m_snapshots[m_now]) {
+    if (snapshot == m_snapshots[m_current]) {
         return false;
     }
-    m_snapshots.resize(m_now + 1);
+    m_snapshots.resize(m_current + 1);
     if (!input.empty() && input == m_input) {
         m_snapshots.pop_back();
         // Typed back to what it was.
         if (snapshot == m_snapshots.back()) {
             m_input.clear();
-            --m_now;
+            --m_current;
             return true;
         }
     } else {
-        ++m_now;
+        ++m_current;
     }
     m_snapshots.push_back(std::move(snapshot));
     m_input = input;
@@ -43,7 +43,7 @@ void EditHistory::RewriteDay(const StartParameters& before, const StartParameter
     for (std::size_t i = m_snapshots.size() - 1; i > 0; --i) {
         if (m_snapshots[i] == m_snapshots[i - 1]) {
             m_snapshots.erase(m_snapshots.begin() + static_cast<std::ptrdiff_t>(i));
-            m_now -= i <= m_now ? 1 : 0;
+            m_current -= i <= m_current ? 1 : 0;
             m_input.clear();
         }
     }
@@ -51,12 +51,12 @@ void EditHistory::RewriteDay(const StartParameters& before, const StartParameter
 
 const PlanSnapshot& EditHistory::Undo() {
     m_input.clear();
-    return m_snapshots[--m_now];
+    return m_snapshots[--m_current];
 }
 
 const PlanSnapshot& EditHistory::Redo() {
     m_input.clear();
-    return m_snapshots[++m_now];
+    return m_snapshots[++m_current];
 }
 
 }  // namespace tarvelin

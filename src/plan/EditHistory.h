@@ -26,10 +26,10 @@ class EditHistory {
     void RewriteDay(const StartParameters& before, const StartParameters& after);
 
     /// How many edits the plan as it stands has behind it.
-    [[nodiscard]] std::size_t StepCount() const { return m_now; }
+    [[nodiscard]] std::size_t StepCount() const { return m_current; }
 
-    [[nodiscard]] bool CanUndo() const { return m_now > 0; }
-    [[nodiscard]] bool CanRedo() const { return m_now + 1 < m_snapshots.size(); }
+    [[nodiscard]] bool CanUndo() const { return m_current > 0; }
+    [[nodiscard]] bool CanRedo() const { return m_current + 1 < m_snapshots.size(); }
 
     /// The plan before the last edit; there is one.
     [[nodiscard]] const PlanSnapshot& Undo();
@@ -39,7 +39,7 @@ class EditHistory {
   private:
     std::vector<PlanSnapshot> m_snapshots{PlanSnapshot()};
     /// Which of them is the plan as it stands.
-    std::size_t m_now = 0;
+    std::size_t m_current = 0;
     /// The input of the last edit; empty if none was typed into, or a step was taken since.
     std::string m_input;
 };

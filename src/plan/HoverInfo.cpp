@@ -14,13 +14,13 @@ namespace {
 
 /// What the step from `level` to the next level needs, at full production.
 std::string NeedText(Resource mine, Byte level) {
-    const auto needOf = [&](int s) {
-        return GetEnergieVerbrauch(mine, Saturate<Byte>(s), kFullFactor);
+    const auto needOf = [&](int reached) {
+        return GetEnergieVerbrauch(mine, Saturate<Byte>(reached), kFullFactor);
     };
     return "  |  Energie: -" + WholeText(needOf(level + 1) - needOf(level));
 }
 
-std::string YieldText(FixedPoint production) {
+std::string SupplyText(FixedPoint production) {
     return "  |  Energie: +" + DecimalText(production);
 }
 
@@ -34,9 +34,9 @@ std::string EnergySuffix(ItemId item, Byte level, const RunConditions& condition
         case EnergyRole::Mine:
             return NeedText(ResourceOf(item), level);
         case EnergyRole::PowerPlant:
-            return YieldText(production(Saturate<Byte>(level + 1)) - production(level));
+            return SupplyText(production(Saturate<Byte>(level + 1)) - production(level));
         case EnergyRole::Satellite:
-            return YieldText(production(1));
+            return SupplyText(production(1));
     }
     return "";
 }

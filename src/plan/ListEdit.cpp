@@ -114,8 +114,8 @@ std::optional<std::string> ListEdit::Objection() const {
             return std::string(*breach);
         }
         if (breach && keepsRules[*row.original]) {
-            const BuildListRow& name = m_list->Rows()[*row.original];
-            return "Zeile " + name.text + " (" + name.SubItems1 + "):" + std::string(*breach);
+            const BuildListRow& shown = m_list->Rows()[*row.original];
+            return "Zeile " + shown.text + " (" + shown.SubItems1 + "):" + std::string(*breach);
         }
         above.Append(order);
     }

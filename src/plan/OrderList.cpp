@@ -6,7 +6,7 @@
 namespace tarvelin {
 
 void OrderList::Append(const Order& order) {
-    m_orders[m_number++] = order;
+    m_orders[m_size++] = order;
     if (order.kind == Order::Kind::Item) {
         ++m_listStufe[order.item];
     } else if (order.kind == Order::Kind::Production) {
@@ -15,7 +15,7 @@ void OrderList::Append(const Order& order) {
 }
 
 void OrderList::RemoveLast() {
-    const Order last = m_orders[--m_number];
+    const Order last = m_orders[--m_size];
     if (last.kind == Order::Kind::Item) {
         --m_listStufe[last.item];
     } else if (last.kind == Order::Kind::Production) {

@@ -15,10 +15,10 @@ class OrderList {
   public:
     static constexpr std::size_t kMaxSize = 254;
 
-    [[nodiscard]] std::span<const Order> All() const { return {m_orders.data(), m_number}; }
-    [[nodiscard]] std::size_t Size() const { return m_number; }
-    [[nodiscard]] bool IsEmpty() const { return m_number == 0; }
-    [[nodiscard]] bool IsFull() const { return m_number == kMaxSize; }
+    [[nodiscard]] std::span<const Order> All() const { return {m_orders.data(), m_size}; }
+    [[nodiscard]] std::size_t Size() const { return m_size; }
+    [[nodiscard]] bool IsEmpty() const { return m_size == 0; }
+    [[nodiscard]] bool IsFull() const { return m_size == kMaxSize; }
 
     /// Orders of an item: the level, or the number, that its last one reaches.
     [[nodiscard]] Byte ListStufe(ItemId item) const { return m_listStufe[item]; }
@@ -35,7 +35,7 @@ class OrderList {
 
   private:
     std::array<Order, kMaxSize> m_orders{};
-    std::size_t m_number = 0;
+    std::size_t m_size = 0;
     PerItem<Byte> m_listStufe{};
     MineFactors m_listFaktor = kFullFactors;
 };

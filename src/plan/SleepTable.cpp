@@ -42,7 +42,9 @@ std::optional<Long> ParseDuration(const SleepInput& input) {
 }
 
 bool Overlap(const Period& oldPeriod, const Period& newPeriod) {
-    const auto notLater = [](DateTime a, DateTime b) { return !cSchlafzeit::IstSpaeter(b, a); };
+    const auto notLater = [](DateTime first, DateTime second) {
+        return !cSchlafzeit::IstSpaeter(second, first);
+    };
     const auto inOld = [&](DateTime time) {
         return notLater(oldPeriod.start, time) && cSchlafzeit::IstSpaeter(time, oldPeriod.end);
     };

@@ -16,13 +16,13 @@ namespace {
 /// What makes two orders the same: the code or the factors, and the number.
 using RowKey = std::pair<std::string, int>;
 
-void Enter(const RunTrace& trace, std::optional<SimTime> ComparisonRow::*side,
-           std::map<RowKey, ComparisonRow>& rows) {
-    std::map<std::string, int> productions;
+void AddStarts(const RunTrace& trace, std::optional<SimTime> ComparisonRow::*side,
+               std::map<RowKey, ComparisonRow>& rows) {
+    std::map<std::string, int> productionCounts;
     for (const StartEvent& start : trace.starts) {
         const std::string tag = start.order.Tag();
         const int number =
-            start.order.kind == Order::Kind::Item ? start.number : ++productions[tag];
+            start.order.kind == Order::Kind::Item ? start.number : ++productionCounts[tag];
         ComparisonRow& row = rows[{tag, number}];
         row.order = start.order;
         row.number = number;
@@ -32,15 +32,16 @@ void Enter(const RunTrace& trace, std::optional<SimTime> ComparisonRow::*side,
 
 /// The same whichever run is which.
 std::tuple<SimTime, SimTime, std::string, int> Rank(const ComparisonRow& row) {
-    const SimTime a = row.a ? *row.a : *row.b;
-    const SimTime b = row.b ? *row.b : *row.a;
-    return {std::min(a, b), std::max(a, b), row.order.Tag(), row.number};
+    const SimTime startInA = row.a ? *row.a : *row.b;
+    const SimTime startInB = row.b ? *row.b : *row.a;
+    return {std::min(startInA, startInB), std::max(startInA, startInB), row.order.Tag(),
+            row.number};
 }
 
 }  // namespace
 
 RunSummary RunSummary::Of(const RunTrace& trace) {
-    RunSummary figures{.duration = trace.Duration().Seconds(),
+    RunSummary summary{.duration = trace.Duration().Seconds(),
                        .VerbauteRessourcen = trace.end.VerbauteRessourcen,
                        .stock = trace.end.stock};
     SittingCounter counter;
@@ -49,21 +50,21 @@ RunSummary RunSummary::Of(const RunTrace& trace) {
         counter.Add(start.start);
         busySeconds[start.order.queue] += start.finish - start.start;
     }
-    figures.sittings = counter.count;
+    summary.sittings = counter.count;
     for (std::size_t i = 0; i < busySeconds.size(); ++i) {
-        figures.idle[i] = Saturate<Long>(figures.duration - busySeconds[i]);
+        summary.idle[i] = Saturate<Long>(summary.duration - busySeconds[i]);
     }
-    return figures;
+    return summary;
 }
 
 Comparison Compare(const RunTrace& a, const RunTrace& b) {
     std::map<RowKey, ComparisonRow> rows;
-    Enter(a, &ComparisonRow::a, rows);
-    Enter(b, &ComparisonRow::b, rows);
+    AddStarts(a, &ComparisonRow::a, rows);
+    AddStarts(b, &ComparisonRow::b, rows);
     Comparison comparison{.a = RunSummary::Of(a), .b = RunSummary::Of(b), .differences = {}};
-    for (const auto& [key, line] : rows) {
-        if (line.a != line.b) {
-            comparison.differences.push_back(line);
+    for (const auto& [key, row] : rows) {
+        if (row.a != row.b) {
+            comparison.differences.push_back(row);
         }
     }
     std::ranges::sort(comparison.differences, {}, Rank);

@@ -24,9 +24,9 @@ std::size_t DueStarts(const Schedule& schedule, DateTime now, std::string_view b
 
 std::size_t DueSleepEnds(const SleepTable& table, DateTime now) {
     constexpr std::int64_t kOneMinute = 60;
-    const std::string same = DateTimeText(now + kOneMinute);
+    const std::string end = DateTimeText(now + kOneMinute);
     return static_cast<std::size_t>(std::ranges::count_if(
-        table, [&](const SleepRow& row) { return row.Endzeit + ":00" == same; }));
+        table, [&](const SleepRow& row) { return row.Endzeit + ":00" == end; }));
 }
 
 }  // namespace tarvelin

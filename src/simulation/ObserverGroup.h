@@ -21,8 +21,8 @@ class ObserverGroup final : public RunObserver {
     void OnNegativeStock(const GameState& state) override {
         ForAll([&](auto& observer) { observer.OnNegativeStock(state); });
     }
-    void OnUnknownOrder(UnknownOrderAt what) override {
-        ForAll([&](auto& observer) { observer.OnUnknownOrder(what); });
+    void OnUnknownOrder(UnknownOrderAt where) override {
+        ForAll([&](auto& observer) { observer.OnUnknownOrder(where); });
     }
     void OnEmptyStep() override {
         ForAll([](auto& observer) { observer.OnEmptyStep(); });

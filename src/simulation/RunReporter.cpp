@@ -12,9 +12,9 @@ void RunReporter::OnNegativeStock(const GameState& state) {
                      .title = "Simulations-Fehler, bitte melden"});
 }
 
-void RunReporter::OnUnknownOrder(UnknownOrderAt what) {
-    m_messages.Show({.text = what == UnknownOrderAt::Start ? "STARTAUFTRAG NICHT ERKANNT"
-                                                           : "UpgrdingensSAUFTRAG NICHT ERKANNT",
+void RunReporter::OnUnknownOrder(UnknownOrderAt where) {
+    m_messages.Show({.text = where == UnknownOrderAt::Start ? "STARTAUFTRAG NICHT ERKANNT"
+                                                            : "UpgrdingensSAUFTRAG NICHT ERKANNT",
                      .title = ""});
 }
 

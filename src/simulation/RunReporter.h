@@ -13,7 +13,7 @@ class RunReporter final : public RunObserver {
     explicit RunReporter(MessageSink& messages) : m_messages(messages) {}
 
     void OnNegativeStock(const GameState& state) override;
-    void OnUnknownOrder(UnknownOrderAt what) override;
+    void OnUnknownOrder(UnknownOrderAt where) override;
     void OnEmptyStep() override { m_messages.Beep(); }
 
   private:

@@ -22,9 +22,9 @@ void LastRun::ResetSimulation(const StartParameters& parameters) {
 
 void RunSimulation(std::span<const Order> orders, LastRun& run, MessageSink& messages) {
     run.LV_Bauzeiten.reserve(orders.size());
-    ScheduleRecorder rows(run.conditions, run.LV_Bauzeiten);
-    RunReporter words(messages);
-    ObserverGroup observer(rows, words);
+    ScheduleRecorder recorder(run.conditions, run.LV_Bauzeiten);
+    RunReporter reporter(messages);
+    ObserverGroup observer(recorder, reporter);
     Simulation simulation(orders, run.conditions);
     simulation.RunToEnd(observer);
     run.state = simulation.State();

@@ -54,7 +54,7 @@ std::string ClickText(const RunTrace& trace, std::size_t row) {
                : "Klickpuffer: " + std::to_string(trace.conditions.KlickPuffer) + " s";
 }
 
-std::string Named(const Order& order, int number, std::string_view name) {
+std::string NamedOrder(const Order& order, int number, std::string_view name) {
     if (order.kind != Order::Kind::Item) {
         return ScheduleEntry{.order = order}.theText();
     }
@@ -101,11 +101,11 @@ std::string BeyondClockText() {
 }
 
 std::string OrderText(const Order& order, int number) {
-    return Named(order, number, RowOf(order.item).name);
+    return NamedOrder(order, number, RowOf(order.item).name);
 }
 
 std::string OrderKey(const Order& order, int number) {
-    return Named(order, number, RowOf(order.item).HoverName());
+    return NamedOrder(order, number, RowOf(order.item).HoverName());
 }
 
 std::string OrderText(const StartEvent& start) {

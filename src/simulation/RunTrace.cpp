@@ -33,14 +33,14 @@ RunTrace TraceRun(std::span<const Order> orders, const RunConditions& conditions
     trace.conditions = conditions;
     trace.starts.reserve(orders.size());
     Simulation simulation(orders, trace.conditions);
-    StartRecorder starts(trace.starts);
-    HistoryRecorder recorder(simulation.State());
-    MessageCollector list(trace.messages);
-    RunReporter words(list);
-    ObserverGroup observer(starts, recorder, words);
+    StartRecorder startRecorder(trace.starts);
+    HistoryRecorder historyRecorder(simulation.State());
+    MessageCollector collector(trace.messages);
+    RunReporter reporter(collector);
+    ObserverGroup observer(startRecorder, historyRecorder, reporter);
     simulation.RunToEnd(observer);
     trace.end = simulation.State();
-    trace.curve = CurveFrom(recorder.Recorded());
+    trace.curve = CurveFrom(historyRecorder.Recorded());
     return trace;
 }
 

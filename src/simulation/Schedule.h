@@ -41,16 +41,16 @@ void AddBauzeit(DateTime StartDate, const StartEvent& start, Schedule& LV_Bauzei
 class ScheduleRecorder final : public RunObserver {
   public:
     /// Both must outlive it.
-    ScheduleRecorder(const RunConditions& conditions, Schedule& rows)
-        : m_conditions(conditions), m_rows(rows) {}
+    ScheduleRecorder(const RunConditions& conditions, Schedule& schedule)
+        : m_conditions(conditions), m_schedule(schedule) {}
 
     void OnStart(const StartEvent& event) override {
-        AddBauzeit(m_conditions.StartDate, event, m_rows);
+        AddBauzeit(m_conditions.StartDate, event, m_schedule);
     }
 
   private:
     const RunConditions& m_conditions;
-    Schedule& m_rows;
+    Schedule& m_schedule;
 };
 
 }  // namespace tarvelin

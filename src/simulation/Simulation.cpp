@@ -95,20 +95,20 @@ void Simulation::RetimePending(RunObserver& observer) {
 /// Whether the order's queue is at work beyond the next finish. Then the order is timed again
 /// before it can start, and what it waits for by now is forgotten; but not where a gate could have
 /// shut until then, as nobody asks for the stocks behind a shut one.
-bool Simulation::WaitsForLaterFinish(const ItemRow& row, SimTime free) const {
+bool Simulation::WaitsForLaterFinish(const ItemRow& item, SimTime free) const {
     return m_LV_Eventhandler.HasFinishBefore(free) &&
-           row.traits.deuteriumGate == DeuteriumGate::PlantOrMine;
+           item.traits.deuteriumGate == DeuteriumGate::PlantOrMine;
 }
 
-Delay Simulation::RetimeItem(const ItemRow& row) {
-    const Wait wait = GetTimeUntilUpgradeIsPossible(row, m_state, *m_conditions);
+Delay Simulation::RetimeItem(const ItemRow& item) {
+    const Wait wait = GetTimeUntilUpgradeIsPossible(item, m_state, *m_conditions);
     m_readyAt = m_state.secsgone + wait.seconds;
     m_gateClosed = wait.GateClosed();
     if (wait.delay.cause == DelayCause::Sleep) {
         m_sleepFree = std::min(m_sleepFree, m_state.secsgone + wait.sleepFreeSeconds);
     }
     if (!m_gateClosed) {
-        m_state.VerzoegerungsGrund[row.item].Assign(wait.shortage);
+        m_state.VerzoegerungsGrund[item.item].Assign(wait.shortage);
     }
     return wait.delay;
 }

@@ -41,8 +41,8 @@ class Simulation {
   private:
     void EnqueueNext();
     void RetimePending(RunObserver& observer);
-    [[nodiscard]] bool WaitsForLaterFinish(const ItemRow& row, SimTime free) const;
-    Delay RetimeItem(const ItemRow& row);
+    [[nodiscard]] bool WaitsForLaterFinish(const ItemRow& item, SimTime free) const;
+    Delay RetimeItem(const ItemRow& item);
     void StartOrder(std::size_t row, RunObserver& observer);
     void StartItem(std::size_t row, RunObserver& observer);
     void StartProduction(std::size_t row, RunObserver& observer);
