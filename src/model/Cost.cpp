@@ -19,7 +19,7 @@ struct LevelCost {
     PerResource<FixedPoint> deduction{};
 };
 
-/// Worked out once, as each event of a run asks for some.
+/// Filled once: every event of a run asks for prices.
 using CostTable = PerItem<std::array<LevelCost, kLevels>>;
 
 CostTable AllCosts() noexcept {

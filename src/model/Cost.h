@@ -9,7 +9,7 @@
 
 namespace tarvelin {
 
-/// The price of the step from `level`, 0 or more, to the next one.
+/// The price of the step from `level` to the next.
 [[nodiscard]] const Cost& CostOf(ItemId item, Byte level);
 
 [[nodiscard]] inline double GetMetallKosten(ItemId item, Byte level) {
@@ -22,10 +22,10 @@ namespace tarvelin {
     return CostOf(item, level)[Resource::Deuterium];
 }
 
-/// The price as it is taken off the stocks.
+/// The same in fixed point, as it is deducted from the stocks.
 [[nodiscard]] const PerResource<FixedPoint>& StockDeduction(ItemId item, Byte level);
 
-/// "Kosten:  Met: 60  Kris: 15  Deut: 0": the price of the step from `extStufe` on.
+/// "Kosten:  Met: 60  Kris: 15  Deut: 0", the price of the step from `extStufe`.
 [[nodiscard]] std::string GetUpgradecostString(ItemId item, Byte extStufe);
 
 }  // namespace tarvelin

@@ -1,4 +1,4 @@
-// The laws by which costs grow.
+// The growth laws.
 #include "model/CostGrowth.h"
 
 #include <cmath>

@@ -1,4 +1,4 @@
-// Power plant and satellites.
+// Formulas of the power plant and the satellites.
 #include "model/Energy.h"
 
 #include <array>
@@ -28,7 +28,7 @@ FixedPoint PowerPlantProduction(Byte level) {
         Rounding::Floor(kEnergyPerLevel * level * OnePointOneToThe(level)));
 }
 
-// The floor acts on the product, so that fractions of the satellites add up before it.
+// Rounded down as a whole, not per satellite.
 FixedPoint SatelliteProduction(Byte count, Integer temperature) {
     constexpr double kDegreesPerEnergy = 4;
     constexpr double kEnergyAtZeroDegrees = 20;

@@ -1,4 +1,4 @@
-// Where the energy comes from, and how it grows with the level.
+// Energy sources, and the growth that they share with the mines.
 #pragma once
 
 #include "model/ItemId.h"
@@ -9,9 +9,9 @@ namespace tarvelin {
 /// 1.1^`level`: how yields and energy needs grow.
 [[nodiscard]] double OnePointOneToThe(Byte level);
 
-/// Energy that a source delivers at a level, or that many satellites deliver together, a whole
-/// number; 0 for an item that is no source. Satellites depend on the planet's temperature, in
-/// degrees, and are negative in great cold.
+/// Energy that a power plant of this level or this many satellites deliver, a whole number; 0 for
+/// any other item. Satellites depend on the planet's temperature, in degrees; in great cold they
+/// deliver a negative amount.
 [[nodiscard]] FixedPoint GetProduktion(ItemId source, Byte ExterneStufe, Integer Temperatur);
 
 }  // namespace tarvelin

@@ -13,26 +13,25 @@
 namespace tarvelin {
 
 /// A value: a copy is the whole game at that moment. Stocks are in units, rates in units per hour
-/// with the speed factor included, times in seconds; energy is a whole number without a unit of
-/// time.
+/// with the speed factor included; energy is a balance, not a stock.
 struct GameState {
     /// The clock of the run.
     SimTime secsgone;
-    /// When each order queue falls free; 0 if nothing has been in it.
+    /// When each order queue becomes free; 0 if it was never used.
     PerQueue<SimTime> FertigZeit{};
 
     PerResource<FixedPoint> stock{};
     PerResource<FixedPoint> ProStunde{};
-    /// The same rates in the form that waits are worked out from.
+    /// The same rates per second, kept because every wait divides by them.
     PerResource<double> perSecond{};
     MineFactors MinenProdfaktor = kFullFactors;
 
-    /// Share of the mines' energy need that is met, at most 1. Cold satellites can make it
-    /// negative.
+    /// Share of the mines' energy need that is met, at most 1; negative if satellites in the cold
+    /// deliver less than nothing.
     FixedPoint ProdFaktor;
     Long EnergieProduktion = 0;
     Long EnergieVerbrauch = 0;
-    /// Whether a level or factor has changed since that the energy balance depends on.
+    /// Whether a level or factor has changed that the energy balance depends on.
     bool balanceStale = true;
 
     /// Whether the facility that serves a queue is being upgraded.
@@ -44,7 +43,7 @@ struct GameState {
     /// Level reached by each building and research, number finished of each unit.
     PerItem<Byte> Stufe{};
 
-    /// What each item's stocks lacked when it was last timed with its gate open.
+    /// What the stocks lacked for each item when it was last timed with its gate open.
     PerItem<Shortage> VerzoegerungsGrund{};
 
     [[nodiscard]] FixedPoint Metall() const { return stock[Resource::Metall]; }
@@ -63,7 +62,7 @@ struct GameState {
     /// Whether the facility that serves this queue is being upgraded.
     [[nodiscard]] bool IsUpgrading(Queue served) const { return Upgrading[served]; }
 
-    /// Whether the run went beyond the clock's range; its last moments are then cut to that.
+    /// Whether the run outlasted the clock; all later moments then stand at its end.
     [[nodiscard]] bool IsAtEndOfClock() const { return secsgone == SimTime::Last(); }
 
     friend bool operator==(const GameState&, const GameState&) = default;

@@ -1,4 +1,4 @@
-// The twenty things that a player can put into the build list, and the queues that they wait in.
+// The twenty items of the build list, and the queues that they wait in.
 #pragma once
 
 #include <cstddef>
@@ -8,8 +8,8 @@
 
 namespace tarvelin {
 
-/// In the order of the pictures on the window. Every table of the items has its rows in this order,
-/// and none compiles while it lacks one.
+/// In the sequence of the pictures in the window. Every table of the items has one row for each in
+/// this sequence; a missing row doesn't compile.
 enum class ItemId : std::uint8_t {
     MetMine,
     KrisMine,
@@ -45,7 +45,7 @@ enum class Queue : std::uint8_t { Building, Shipyard, Research, None, Size };
 template <class T>
 using PerQueue = EnumArray<Queue, T>;
 
-/// Whether a table has the row of each item, in the order of the items.
+/// Whether a table has one row for each item, in the sequence of `ItemId`.
 template <class Table>
 constexpr bool CoversEveryItem(const Table& table) {
     for (std::size_t i = 0; i < kNumItems; ++i) {

@@ -39,7 +39,7 @@ constexpr PerItem<ItemRow> kItemTable{{{
 }}};
 // clang-format on
 
-static_assert(CoversEveryItem(kItemTable), "every item has its row, in the order of the items");
+static_assert(CoversEveryItem(kItemTable), "one row for each item, in the sequence of ItemId");
 
 constexpr Queue QueueOf(char letter) {
     return letter == 'G' ? kBuilding : letter == 'W' ? kShipyard : kResearch;

@@ -12,7 +12,7 @@
 
 namespace tarvelin {
 
-/// A level of another item that an item needs; level 0 asks for nothing.
+/// The least level of another item that an item needs; 0 asks for nothing.
 struct LevelRequirement {
     ItemId item{};
     Byte minLevel = 0;
@@ -20,55 +20,57 @@ struct LevelRequirement {
     friend bool operator==(const LevelRequirement&, const LevelRequirement&) = default;
 };
 
-/// All levels that an item needs.
 using LevelRequirements = std::array<LevelRequirement, 3>;
 
-/// What an item that costs deuterium needs of it beside its price.
+/// What an item that costs deuterium needs besides its price.
 enum class DeuteriumGate : std::uint8_t {
     /// A power plant or a deuterium mine.
     PlantOrMine,
-    /// A rate that isn't 0, whatever the stock; a lack of it counts as a missing level.
+    /// A production rate other than 0, whatever the stock; without it the item waits as for a
+    /// missing level.
     Production,
-    /// The same; a lack of it counts as a queue at work.
+    /// The same, with the shorter wait of `GateValue::ForNow`.
     ProductionForNow,
 };
 
-/// How an item stands in the energy balance.
+/// The part that an item plays in the energy balance.
 enum class EnergyRole : std::uint8_t { None, Mine, PowerPlant, Satellite };
 
-/// What few items have.
+/// What sets few items apart from the others.
 struct ItemTraits {
     EnergyRole energyRole = EnergyRole::None;
-    /// The queue that a facility serves. The facility can't be raised while that queue is at work,
-    /// nor can what waits in it start while the facility is raised.
+    /// The queue that this facility serves. The facility can't be upgraded while the queue is busy,
+    /// and the queue's orders can't start during the upgrade.
     Queue serves = Queue::None;
-    /// It can start while the facility of its queue is raised.
+    /// Exempt from that: starts even while the facility of its queue is being upgraded.
     bool startsDuringUpgrade = false;
     DeuteriumGate deuteriumGate = DeuteriumGate::PlantOrMine;
-    /// Its rows end with the level or number, and name the reason of a wait.
+    /// Whether its texts end with the level or number.
     bool showsNumber = true;
+    /// Whether its row in the schedule names the reason for a wait.
     bool showsReason = true;
-    /// Its place, from 1, among the items that bring resources, energy or speed; 0 for the others.
-    /// A search for a goal builds as many of them as pay off, and draws them by this number.
+    /// Its place, from 1, among the items that bring resources, energy or speed; 0 for all others.
+    /// A search for a goal builds as many of these as pay off, and numbers them like this when it
+    /// draws one at random.
     Byte economyRank = 0;
-    /// With so many in the build list no other one is allowed.
+    /// With exactly this many in the build list no other one is allowed.
     Byte maxCount = std::numeric_limits<Byte>::max();
-    /// Its name in the hint over its picture, where that isn't its `name`.
+    /// Its name in the tooltip of its picture, where that differs from `name`.
     std::string_view hoverName{};
 };
 
-/// The row of an item. The game has three sets of names, and so have we: in the build list, in the
-/// build times and everywhere else.
+/// All about one item. The game spells its name in three ways: in the build list, in the schedule
+/// and everywhere else.
 struct ItemRow {
     ItemId item;
-    /// `ItemCode`: the first letter is the order queue, G building, W shipyard, F research; the
-    /// rest tells the item in it.
+    /// The first letter names the order queue (G building, W shipyard, F research), the rest the
+    /// item.
     std::string_view ItemCode;
     std::string_view listText;
     std::string_view reportText;
     std::string_view name;
     Queue queue;
-    /// Of a unit, of the first level, or what the first level grows from.
+    /// The price of a unit, or what `growth` multiplies for each level.
     Cost baseCost;
     CostGrowth growth;
     UpgradeTimeFormula* upgradeTime;
@@ -87,8 +89,8 @@ struct ItemRow {
     return ItemTable()[item];
 }
 
-/// `Tag` of a production row: this, and the factors of metal, crystal and deuterium in tenths,
-/// each behind a colon.
+/// The `Tag` of a production row is this code and the factors of metal, crystal and deuterium in
+/// tenths, each after a colon.
 inline constexpr std::string_view kProductionCode = "GX";
 
 }  // namespace tarvelin

@@ -32,8 +32,8 @@ float ToShare(Byte factor) {
     return static_cast<float>(factor) / kTenth;
 }
 
-/// By which the temperature of the planet changes the yield, but not the base income. The colder,
-/// the more deuterium: 1.28 at 0 degrees, 0 at 640, negative above.
+/// The effect of the planet's temperature on the yield, which leaves the base income alone. The
+/// colder, the more deuterium: 1.28 at 0 degrees, 0 at 640, negative above.
 double TemperatureFactor(Resource mine, Integer temperature) {
     constexpr double kAtZeroDegrees = 1.28;
     constexpr double kPerDegree = -0.002;
@@ -60,9 +60,8 @@ double GetEnergieVerbrauch(Resource mine, Byte ExterneStufe, Byte externerProduk
                       OnePointOneToThe(ExterneStufe));
 }
 
-// The order of the operations is part of the result. The base income stands inside the floor,
-// untouched by the energy balance and the mine's factor; the speed factor doubles what the floor
-// leaves.
+// The sequence of the operations is part of the result. The base income is inside the floor, but
+// neither energy nor the mine's factor touch it; the speed factor multiplies what the floor leaves.
 FixedPoint GetProduktion(Resource mine, const GameState& state, const RunConditions& conditions) {
     const Byte level = state.GetStufe(kMines[mine]);
     const double production = ((kMineConstants[mine].yield * level) * OnePointOneToThe(level) *

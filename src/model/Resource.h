@@ -1,4 +1,4 @@
-// The three resources.
+// The three resources, and values that come one for each.
 #pragma once
 
 #include <array>
@@ -20,7 +20,7 @@ using PerResource = EnumArray<Resource, T>;
 /// What the player reads.
 inline constexpr PerResource<std::string_view> kResourceNames{{"Metall", "Kristall", "Deuterium"}};
 
-/// For each resource in its turn; without a loop, as each event of a run does this several times.
+/// Unrolled, as each event of a run does this several times.
 template <class Action>
 constexpr void ForEachResource(Action action) {
     action(Resource::Metall);
@@ -28,7 +28,7 @@ constexpr void ForEachResource(Action action) {
     action(Resource::Deuterium);
 }
 
-/// Whole amounts. They grow beyond 64 bits, so they are doubles.
+/// Whole amounts, as doubles because they outgrow 64 bits.
 using Cost = PerResource<double>;
 
 /// Production factors of the metal, crystal and deuterium mine in tenths, from 0 to 10.

@@ -1,4 +1,4 @@
-// What is given before a run and doesn't change in it.
+// What is given before a run and stays the same throughout.
 #pragma once
 
 #include <vector>
@@ -9,17 +9,16 @@
 
 namespace tarvelin {
 
-/// The world and the player of a run.
 struct RunConditions {
     /// Speed of the universe: 1 or 2; 0 before the first run.
     Long Speedfaktor = 0;
-    /// Degrees, of the start planet.
+    /// Of the start planet, in degrees.
     Integer Temperatur = 0;
-    /// Seconds that the player gives himself for each click.
+    /// Seconds that the player allows for each click.
     Long KlickPuffer = 0;
-    /// When the universe started: the moment 0 of the clock.
+    /// When the universe started: moment 0 of the run's clock.
     DateTime StartDate{};
-    /// The sleep windows, in the order of the table.
+    /// The sleep windows, in the sequence of the table.
     std::vector<cSchlafzeit> Schlafzeiten{};
 
     [[nodiscard]] DateTime WallClock(SimTime moment) const { return StartDate + moment.Seconds(); }

@@ -1,4 +1,4 @@
-// The words for a lack.
+// The text of a shortage.
 #include "model/Shortage.h"
 
 #include <cmath>

@@ -1,4 +1,4 @@
-// Why an order couldn't be given earlier.
+// What the stocks lacked for an order.
 #pragma once
 
 #include <cstdint>
@@ -6,20 +6,21 @@
 
 namespace tarvelin {
 
-/// What the stocks lacked, kept as figures; the text is made when it is read.
+/// Kept as figures; the text is made when it is asked for.
 struct Shortage {
+    /// `Unstated` where nobody looked at the stocks.
     enum class Kind : std::uint8_t { Unstated, None, Metall, Kristall, Deuterium };
 
     Kind kind = Kind::None;
-    /// What the stock lacked, plus 1.
+    /// The missing amount plus 1.
     double missingAmount = 0;
 
     /// "Keine Verzögerung wegen der Ressourcen!", or "Es fehlten: " with the amount and the
-    /// resource; empty without a statement.
+    /// resource; empty for `Unstated`.
     [[nodiscard]] std::string Text() const;
 
-    /// Takes over the figures one by one: right behind a change, a copy of the whole would have to
-    /// wait for it.
+    /// Copies field by field: copying a whole struct whose fields were just written stalls on store
+    /// forwarding.
     void Assign(const Shortage& other) {
         kind = other.kind;
         missingAmount = other.missingAmount;

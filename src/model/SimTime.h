@@ -9,13 +9,13 @@
 
 namespace tarvelin {
 
-/// Seconds of simulated time since the start of the universe; held within the range of Long.
+/// Seconds of simulated time since the start of the universe; saturates at the range of Long.
 class SimTime {
   public:
     constexpr SimTime() = default;
     constexpr explicit SimTime(Long seconds) : m_seconds(seconds) {}
 
-    /// The end of the clock, at which all that would be later stands.
+    /// The end of the clock, where all later moments end up.
     [[nodiscard]] static constexpr SimTime Last() {
         return SimTime(std::numeric_limits<Long>::max());
     }

@@ -1,4 +1,4 @@
-// Starts, finishes, balance and time.
+// The transitions of a run's state.
 #include "model/Transitions.h"
 
 #include <algorithm>
@@ -17,8 +17,8 @@ FixedPoint MineYield(FixedPoint perHour, Long seconds) {
     constexpr std::uint64_t kHour = 3600;
     constexpr std::uint64_t kSafe = kHour << 38U;
     const FixedPoint hourly = perHour * seconds;
-    // The floating-point quotient is off by less than 3 parts in 2^53. Below `kSafe` that shows
-    // only at a half, so whole numbers give the same result everywhere else, and faster.
+    // The floating-point quotient is off by less than 3 parts in 2^53. Below `kSafe` that matters
+    // only at an exact half; everywhere else whole numbers give the same result, and faster.
     const auto raw = static_cast<std::uint64_t>(hourly.Raw());
     const std::uint64_t doubled = 2 * raw + kHour;
     const std::uint64_t rounded = doubled / (2 * kHour);

@@ -1,4 +1,4 @@
-// The four formulas. The order of their operations is part of the result.
+// The four formulas. The sequence of their operations is part of the result.
 #include "model/UpgradeTime.h"
 
 namespace tarvelin {

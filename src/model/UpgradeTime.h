@@ -1,4 +1,4 @@
-// How long the steps of each family take.
+// How long the steps of each family of items take.
 #pragma once
 
 #include "model/GameState.h"
@@ -9,8 +9,8 @@ namespace tarvelin {
 
 inline constexpr double kSecondsPerHour = 3600;
 
-/// Seconds that a step of this price takes with the factories and labs as they stand. Deuterium
-/// costs no time.
+/// Seconds that a step of this price takes with the facilities as they stand. Deuterium costs no
+/// time.
 using UpgradeTimeFormula = double(const Cost& cost, const GameState& state,
                                   const RunConditions& conditions);
 

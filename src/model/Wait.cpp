@@ -1,4 +1,4 @@
-// Gates, resources, sleep windows.
+// Waits for gates, resources, queues and sleep windows.
 #include "model/Wait.h"
 
 #include <algorithm>
@@ -9,7 +9,7 @@ namespace tarvelin {
 
 namespace {
 
-/// The first gate that is closed, and how it holds the order back.
+/// The first gate that is closed, and the delay that it causes.
 struct GateCheck {
     GateValue value = GateValue::Open;
     Delay delay;
@@ -54,8 +54,8 @@ GateCheck CheckGates(const ItemRow& item, const Cost& cost, const GameState& sta
     return {gate, {.cause = DelayCause::Deuterium}};
 }
 
-/// What is short of a resource, and for how long. Separate scalars, not a `Shortage`: copying a
-/// struct that was just written field by field stalls on store forwarding.
+/// What is short, and for how long. Separate scalars, not a `Shortage`: copying a struct that was
+/// just written field by field stalls on store forwarding.
 struct ResourceWait {
     Long seconds = 0;
     Shortage::Kind kind = Shortage::Kind::None;
@@ -65,8 +65,8 @@ struct ResourceWait {
 constexpr PerResource<Shortage::Kind> kKinds{
     {Shortage::Kind::Metall, Shortage::Kind::Kristall, Shortage::Kind::Deuterium}};
 
-/// The wait for a resource whose stock is short. One that never comes waits so long that the order
-/// is timed again before.
+/// Seconds until a missing amount is produced. Without production a fixed long wait stands for
+/// "never"; the order is timed again at each event before it ends.
 Long SecondsUntil(double missing, double perSecond) {
     constexpr Long kEndless = 1'000'000'000;
     if (perSecond <= 0) {
@@ -75,14 +75,14 @@ Long SecondsUntil(double missing, double perSecond) {
     return Saturate<Long>(Rounding::Cut(1 + missing / perSecond));
 }
 
-/// Whether a stock is enough, by whole numbers alone; false where these can't be sure.
+/// A quick test in whole numbers; false where these can't be sure.
 bool IsSurelyEnough(FixedPoint stock, FixedPoint deduction) {
     constexpr FixedPoint kExact = FixedPoint::FromWhole(std::int64_t{1} << 38U);
     return deduction <= stock && deduction < kExact;
 }
 
-/// The longest wait for a resource; on a tie the earlier resource keeps the reason: metal before
-/// crystal before deuterium.
+/// The longest wait for a resource; on a tie metal goes before crystal and crystal before
+/// deuterium.
 ResourceWait LongestResourceWait(const ItemRow& item, const Cost& cost, const GameState& state) {
     const PerResource<FixedPoint>& deduction = StockDeduction(item.item, state.GetStufe(item.item));
     ResourceWait longest;
@@ -102,8 +102,8 @@ ResourceWait LongestResourceWait(const ItemRow& item, const Cost& cost, const Ga
     return longest;
 }
 
-/// Moves a wait that ends inside a sleep window to that window's end. Each window is asked once, in
-/// their order, with the wait as the windows before have left it.
+/// Extends a wait that ends in a sleep window to the window's end. Each window is checked once, in
+/// the sequence of the table, against the wait that the windows before it left.
 Long AfterSleep(Long waitSeconds, SimTime now, const RunConditions& conditions) {
     for (const cSchlafzeit& sleepWindow : conditions.Schlafzeiten) {
         if (sleepWindow.CheckifInside(conditions.WallClock(now + waitSeconds))) {

@@ -10,41 +10,42 @@
 
 namespace tarvelin {
 
-/// Why an item can't be started at all at present. The values are the seconds that it then seems to
-/// wait; the run adds them to the clock like any wait.
+/// Whether an item's gate is open, or why not. The values are seconds, which the run adds to the
+/// clock like any wait.
 enum class GateValue : Long {
     Open = 0,
-    /// Costs deuterium, and neither a power plant nor a deuterium mine stands.
+    /// Costs deuterium, and there is neither a power plant nor a deuterium mine.
     NoDeuteriumSource = -1,
     /// The lab lacks deuterium production.
     ForNow = 100'000'000,
-    /// A level is missing, or the facility that serves the item is being raised.
+    /// A level or the production of deuterium is missing, or the facility that serves the item is
+    /// being upgraded.
     Prerequisite = 1'000'000'000,
 };
 
-/// What an order waits for; where several things hold it back, the one that lets go last.
+/// What an order waits for; of several causes, the one that lasts longest.
 enum class DelayCause : std::uint8_t {
     None,
-    /// A level that isn't reached yet.
+    /// A level that hasn't been reached.
     Level,
-    /// The facility that serves its queue is being raised.
+    /// The facility that serves its queue is being upgraded.
     FacilityUpgrade,
     /// There is no source of deuterium, or no production of it.
     Deuterium,
     /// The stock of a resource.
     Resource,
-    /// A queue at work: its own, or that which a facility serves.
+    /// A busy queue: its own, or the one that a facility serves.
     Queue,
     /// The player sleeps.
     Sleep,
 };
 
-/// What holds an order back.
+/// What holds an order back. Each of the other fields goes with one cause.
 struct Delay {
     DelayCause cause = DelayCause::None;
     /// The level that is missing.
     LevelRequirement missing{};
-    /// The queue at work.
+    /// The queue that is busy, or whose facility is being upgraded.
     Queue queue = Queue::None;
     /// What the stocks lacked.
     Shortage shortage{};
@@ -52,21 +53,21 @@ struct Delay {
     friend bool operator==(const Delay&, const Delay&) = default;
 };
 
-/// A wait from the moment of the clock on.
+/// A wait, from the present moment of the clock.
 struct Wait {
-    /// Or the value of a `GateValue`.
+    /// At least the value of the `GateValue` where a gate is closed.
     Long seconds = 0;
-    /// What the stocks lack; `Unstated` where a gate is closed, as the stocks aren't asked then.
+    /// What the stocks lack; `Unstated` where a gate is closed, as nobody looks at them then.
     Shortage shortage;
     Delay delay;
-    /// The seconds without any sleep window.
+    /// What `seconds` would be without sleep windows; 0 where a gate is closed.
     Long sleepFreeSeconds = 0;
 
     [[nodiscard]] bool GateClosed() const { return shortage.kind == Shortage::Kind::Unstated; }
 };
 
 /// Seconds until the next step of an item can start: the gates, then the wait for resources, then
-/// the sleep windows. A facility is never raised before the queue that it serves falls free.
+/// the sleep windows. A facility isn't upgraded before the queue that it serves is free.
 [[nodiscard]] Wait GetTimeUntilUpgradeIsPossible(const ItemRow& item, const GameState& state,
                                                  const RunConditions& conditions);
 

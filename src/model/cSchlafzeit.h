@@ -1,11 +1,11 @@
-// One stretch of wall-clock time in which the player can't give an order.
+// A span of wall-clock time in which the player can't give an order.
 #pragma once
 
 #include "util/DateTime.h"
 
 namespace tarvelin {
 
-/// Contains its end and doesn't contain its begin.
+/// Excludes its start and includes its end.
 class cSchlafzeit {
   public:
     cSchlafzeit() = default;
@@ -17,7 +17,7 @@ class cSchlafzeit {
         return IstSpaeter(m_Startzeit, theCheckzeit) && !IstSpaeter(m_Endzeit, theCheckzeit);
     }
 
-    /// Seconds from a moment to the window's end; negative behind the end.
+    /// Seconds from a moment to the window's end; negative after it.
     [[nodiscard]] Long SecondsFrom_Insert_ToEnd(DateTime theInsertedDate) const {
         return m_Endzeit - theInsertedDate;
     }
@@ -25,7 +25,7 @@ class cSchlafzeit {
     [[nodiscard]] DateTime Startzeit() const { return m_Startzeit; }
     [[nodiscard]] DateTime Endzeit() const { return m_Endzeit; }
 
-    /// Whether `second` lies at least one second behind `first`.
+    /// Whether `second` is later than `first`.
     [[nodiscard]] static bool IstSpaeter(DateTime first, DateTime second) { return second > first; }
 
   private:

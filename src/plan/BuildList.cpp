@@ -1,4 +1,4 @@
-// Adding and removing rows, and their texts.
+// Adding and removing rows, and making their texts.
 #include "plan/BuildList.h"
 
 #include <algorithm>
@@ -53,7 +53,7 @@ bool BuildList::Replay(std::string_view tag, const RunConditions& conditions) {
     return order.kind != Order::Kind::Unknown && !Append(order, tag, conditions);
 }
 
-// The factor text counts the new row in.
+// The order comes first, as the factor text includes it.
 std::optional<Message> BuildList::Append(const Order& order, std::string_view tag,
                                          const RunConditions& conditions) {
     if (m_orders.IsFull()) {

@@ -1,4 +1,4 @@
-// Plans behind each other.
+// Snapshots of the plan, one after each edit.
 #include "plan/EditHistory.h"
 
 #include <utility>

@@ -1,4 +1,4 @@
-// The way back over edits of the plan.
+// Undo and redo of edits of the plan.
 #pragma once
 
 #include <cstddef>
@@ -10,37 +10,37 @@
 
 namespace tarvelin {
 
-/// Keeps the plan as it was behind each edit, so that there can be as many as the user likes.
+/// Keeps a snapshot after each edit, without a limit.
 class EditHistory {
   public:
-    /// Begins anew with a plan that has no edits behind it.
+    /// Starts over from a plan, with nothing to undo.
     void Begin(PlanSnapshot snapshot);
 
-    /// Takes note of the plan behind an edit. What was taken back before it can't be done again
-    /// then. An edit that changed nothing isn't one. `input` names the input that was typed into:
-    /// as long as it stays the same, its edits are one. Whether there was an edit.
+    /// Records the plan after an edit, and drops what could be redone. `input` names the field that
+    /// was typed into, if any: edits in a row to the same field are one. False, and no change, if
+    /// the plan is the same as before.
     bool Record(PlanSnapshot snapshot, std::string_view input = {});
 
-    /// Writes the day of a date in another way, wherever it stands. Edits that differed in that
-    /// alone are none.
+    /// Spells a start day differently in all snapshots that have it, as a run pads it. Edits that
+    /// changed nothing else are dropped.
     void RewriteDay(const StartParameters& before, const StartParameters& after);
 
-    /// How many edits the plan as it stands has behind it.
+    /// How many edits can be undone.
     [[nodiscard]] std::size_t StepCount() const { return m_current; }
 
     [[nodiscard]] bool CanUndo() const { return m_current > 0; }
     [[nodiscard]] bool CanRedo() const { return m_current + 1 < m_snapshots.size(); }
 
-    /// The plan before the last edit; there is one.
+    /// The plan before the last edit; only if `CanUndo`.
     [[nodiscard]] const PlanSnapshot& Undo();
-    /// The plan behind the edit that was taken back last; there is one.
+    /// The plan after the edit that was undone last; only if `CanRedo`.
     [[nodiscard]] const PlanSnapshot& Redo();
 
   private:
     std::vector<PlanSnapshot> m_snapshots{PlanSnapshot()};
-    /// Which of them is the plan as it stands.
+    /// The snapshot of the plan as it stands.
     std::size_t m_current = 0;
-    /// The input of the last edit; empty if none was typed into, or a step was taken since.
+    /// The field of the last edit; empty if none was typed into, or after an undo or redo.
     std::string m_input;
 };
 

@@ -12,7 +12,7 @@ namespace tarvelin {
 
 namespace {
 
-/// What the step from `level` to the next level needs, at full production.
+/// The energy that the step from `level` needs in addition, at full production.
 std::string NeedText(Resource mine, Byte level) {
     const auto needOf = [&](int reached) {
         return GetEnergieVerbrauch(mine, Saturate<Byte>(reached), kFullFactor);

@@ -1,4 +1,4 @@
-// What the pointer over an item's picture brings: whether it can be dragged, and the tooltip.
+// What an item's picture offers under the pointer: whether it can be dragged, and the tooltip.
 #pragma once
 
 #include <string>
@@ -12,11 +12,11 @@ namespace tarvelin {
 struct HoverInfo {
     /// Whether a press on the picture starts a drag.
     bool dragEnabled = true;
-    /// What the next row of the item would cost, or why it can't be had.
+    /// What the next row of the item would cost, or why it can't be added.
     std::string tooltip;
 };
 
-/// `conditions` are those of the last run or reset: the satellites' figure follows the
+/// `conditions` are those of the last run or reset, as the satellites' energy depends on the
 /// temperature.
 [[nodiscard]] HoverInfo HoverInfoFor(ItemId item, const OrderList& list,
                                      const RunConditions& conditions);

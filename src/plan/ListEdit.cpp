@@ -1,4 +1,4 @@
-// Moves of rows, and whether the rules let them be.
+// Moves rows, and checks the result against the rules.
 #include "plan/ListEdit.h"
 
 #include <algorithm>
@@ -11,12 +11,12 @@ namespace tarvelin {
 
 namespace {
 
-/// The words of the rule that an order would break behind these orders.
+/// The refusal of an order that would break its rule after the orders above it.
 std::optional<std::string_view> RuleBreach(const Order& order, const OrderList& above) {
     return order.kind == Order::Kind::Item ? Refusal(order.item, above) : std::nullopt;
 }
 
-/// Each marked row changes places with an unmarked one before it.
+/// Swaps each affected row with an unaffected one before it.
 template <class Begin, class End>
 void ShiftForward(Begin begin, End end) {
     for (auto row = std::next(begin); row != end; ++row) {

@@ -1,4 +1,4 @@
-// Edits anywhere in the build list: its rows in another order, some gone, some new.
+// Edits anywhere in the build list: rows moved, removed and added.
 #pragma once
 
 #include <cstddef>
@@ -12,37 +12,37 @@
 
 namespace tarvelin {
 
-/// A list that is being edited. Nothing is changed in the list it was made from; `Tags` are what
-/// that would have to hold. Rows count from 0; those that an edit is given are rows of the list as
-/// it stands, in their order, none twice.
+/// A draft of an edit: the list that it was made from stays as it is, `Tags` are those of the list
+/// after the edit. Row numbers count from 0 in the draft as it stands; a set of them is given in
+/// ascending sequence, without duplicates.
 class ListEdit {
   public:
     /// `list` must outlive it.
     explicit ListEdit(const BuildList& list);
 
-    /// Moves each row up or down by one place; rows at the end of the list stay.
+    /// Moves each row up or down by one place; rows already at that end of the list stay.
     void MoveUp(std::span<const std::size_t> rows);
     void MoveDown(std::span<const std::size_t> rows);
-    /// Puts the rows beside each other in front of a row, or at the end.
+    /// Gathers the rows in front of row `target`, or at the end of the list.
     void MoveBefore(std::size_t target, std::span<const std::size_t> rows);
     void Remove(std::span<const std::size_t> rows);
-    /// Adds a new row in front of a row, or at the end.
+    /// Adds a new row in front of row `before`, or at the end of the list.
     void Insert(std::size_t before, std::string_view tag);
-    /// Adds copies of the rows behind the last of them.
+    /// Adds copies of the rows after the last of them.
     void Duplicate(std::span<const std::size_t> rows);
 
-    /// Why the edit can't be: the list would be too long, a new row isn't allowed at its place, or
-    /// a row would break its rule that has kept it so far. A loaded list may hold rows that never
-    /// kept theirs. Nothing if it can be.
+    /// Why the edit is refused: the list would be too long, a new row isn't allowed at its place,
+    /// or a row that kept its rule would break it (rows of a loaded list may have broken theirs
+    /// already). Nothing if the edit is allowed.
     [[nodiscard]] std::optional<std::string> Objection() const;
 
     [[nodiscard]] std::vector<std::string> Tags() const;
-    /// Where the rows that were moved stand now, or the copies, or the row behind those that went.
+    /// Where the moved rows or the copies are now, or the row after the removed ones.
     [[nodiscard]] std::vector<std::size_t> Affected() const;
 
   private:
     struct DraftRow {
-        /// The row of the list as it stood; nothing for a new one.
+        /// The row in the list before the edit; nothing for a new one.
         std::optional<std::size_t> original;
         std::string Tag;
         bool affected = false;

@@ -12,7 +12,6 @@
 
 namespace tarvelin {
 
-/// An order, without a text.
 struct Order {
     enum class Kind : std::uint8_t { Unknown, Item, Production };
 
@@ -23,8 +22,8 @@ struct Order {
 
     static Order Of(ItemId id);
     static Order Of(const MineFactors& tenths);
-    /// Of a `Tag`: an item code, or a production row with three whole factors from 0 to 10; any
-    /// other text gives an unknown order of the queue that its first letter names.
+    /// Parses a `Tag`: an item code, or a production row with three whole factors from 0 to 10. Any
+    /// other text gives an unknown order in the queue that its first letter names.
     static Order FromTag(std::string_view tag);
 
     /// The `Tag`: the item code, or "GX:8:10:5"; empty for an unknown order.
@@ -36,11 +35,11 @@ struct Order {
 inline constexpr std::size_t kOrderSize = 6;
 static_assert(sizeof(Order) <= kOrderSize);
 
-/// Exact compare, with regard to case; nothing for any other text.
+/// Case-sensitive; nothing for an unknown code.
 [[nodiscard]] std::optional<ItemId> ItemFromCode(std::string_view code);
 
-/// The factors of a `Tag` that begins with "GX": its tokens 2, 3 and 4. Nothing if one of them is
-/// no whole number from 0 to 10.
+/// The factors of a `Tag` that begins with "GX": its tokens 2, 3 and 4. Nothing unless each is a
+/// whole number from 0 to 10.
 [[nodiscard]] std::optional<MineFactors> ParseMineFactors(std::string_view tag);
 
 }  // namespace tarvelin

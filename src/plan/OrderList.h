@@ -1,4 +1,4 @@
-// The orders of a plan with the counters beside them, without a text.
+// The orders of a plan and the counters of its items.
 #pragma once
 
 #include <array>
@@ -9,8 +9,8 @@
 
 namespace tarvelin {
 
-/// Orders are only ever added at the end and only ever taken from the end, or all at once. So each
-/// order's number is the count of its item down to it, and what an order needed stands above it.
+/// Orders are added and taken out at the end only, or all at once: an order's number is the count
+/// of its item up to it, and what it needs stands above it.
 class OrderList {
   public:
     static constexpr std::size_t kMaxSize = 254;
@@ -20,17 +20,17 @@ class OrderList {
     [[nodiscard]] bool IsEmpty() const { return m_size == 0; }
     [[nodiscard]] bool IsFull() const { return m_size == kMaxSize; }
 
-    /// Orders of an item: the level, or the number, that its last one reaches.
+    /// Orders of an item in the list: the level or number that the last one reaches.
     [[nodiscard]] Byte ListStufe(ItemId item) const { return m_listStufe[item]; }
-    /// The same of all items.
+    /// The same for all items.
     [[nodiscard]] const PerItem<Byte>& ListStufe() const { return m_listStufe; }
-    /// The factors that hold at the end of the list.
+    /// The mines' factors at the end of the list.
     [[nodiscard]] const MineFactors& ListFaktor() const { return m_listFaktor; }
 
-    /// The list isn't full.
+    /// Only if the list isn't full.
     void Append(const Order& order);
 
-    /// Takes the last order out and puts back what it had changed. The list isn't empty.
+    /// Takes the last order out. Only if the list isn't empty.
     void RemoveLast();
 
   private:

@@ -1,4 +1,4 @@
-// The checks before a run.
+// Snapshots, and the checks before a run.
 #include "plan/Plan.h"
 
 namespace tarvelin {

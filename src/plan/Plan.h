@@ -20,7 +20,7 @@ struct Plan {
     bool ShowDesc = true;
 };
 
-/// What edits change of a plan, as a value that can be kept and compared.
+/// The part of a plan that edits change, to keep and to compare.
 struct PlanSnapshot {
     StartParameters parameters{};
     /// The `Tag`s of the rows.
@@ -32,8 +32,8 @@ struct PlanSnapshot {
 
 [[nodiscard]] PlanSnapshot SnapshotOf(const Plan& plan);
 
-/// The conditions of the plan's run, or what keeps it from running: an empty list, then a
-/// temperature, then a date that can't be used.
+/// The conditions for a run of the plan, or the first error: an empty list, an invalid temperature,
+/// an invalid date.
 [[nodiscard]] std::variant<RunConditions, Message> ParseRunConditions(const Plan& plan);
 
 }  // namespace tarvelin

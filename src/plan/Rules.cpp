@@ -9,11 +9,11 @@ namespace tarvelin {
 
 namespace {
 
-/// What an item needs, and the words for what is missing. Where two needs have words of their
-/// own, `missingText` is for both; elsewhere it is for any that is missing.
+/// What an item needs, and the refusals. Where two requirements have texts of their own,
+/// `missingText` stands for both missing, elsewhere for any.
 struct Rule {
     ItemId item;
-    /// Rows that have to stand in the list.
+    /// Levels that the list has to contain.
     LevelRequirements requirements;
     std::string_view missingText;
     std::string_view firstMissingText = {};
@@ -77,7 +77,7 @@ constexpr PerItem<Rule> kRules{{{
 }}};
 // clang-format on
 
-static_assert(CoversEveryItem(kRules), "every item has its rule, in the order of the items");
+static_assert(CoversEveryItem(kRules), "one rule for each item, in the sequence of ItemId");
 
 constexpr std::string_view kDomePresent =
     " Bereits eine kleine Schildkuppel in der Bauliste vorhanden! ";
@@ -89,7 +89,7 @@ const LevelRequirements& ListRequirements(ItemId item) {
 }
 
 bool IsAllowed(ItemId item, const PerItem<Byte>& listStufen) {
-    // Exactly as many: a loaded list with two domes opens the third.
+    // Equal, not at least: a loaded list with two domes allows a third.
     if (listStufen[item] == RowOf(item).traits.maxCount) {
         return false;
     }

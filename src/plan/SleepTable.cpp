@@ -1,4 +1,4 @@
-// Entering and reading of sleep windows.
+// Entering and parsing sleep windows.
 #include "plan/SleepTable.h"
 
 #include <algorithm>

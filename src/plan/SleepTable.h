@@ -1,4 +1,4 @@
-// The sleep windows that go with a plan, as texts, and what the panel for them checks.
+// The sleep windows of a plan as texts, and the checks of the panel that enters them.
 #pragma once
 
 #include <cstddef>
@@ -12,8 +12,8 @@
 
 namespace tarvelin {
 
-/// A row of `LV_Schlafzeiten`: "dd.mm.yyyy hh:mm" in both columns where the user entered it. A
-/// loaded row can hold any texts.
+/// A row of `LV_Schlafzeiten`: "dd.mm.yyyy hh:mm" in both columns if the user entered it, any
+/// texts if it was loaded.
 struct SleepRow {
     std::string Startzeit;
     std::string Endzeit;
@@ -21,7 +21,7 @@ struct SleepRow {
     friend bool operator==(const SleepRow&, const SleepRow&) = default;
 };
 
-/// `LV_Schlafzeiten`, in the order of adding.
+/// `LV_Schlafzeiten`, the last added at the end.
 using SleepTable = std::vector<SleepRow>;
 
 /// What the panel's inputs hold: the date of the calendar, "dd.mm.yyyy", and four texts.
@@ -33,16 +33,15 @@ struct SleepInput {
     std::string durationMinutes = "00";
 };
 
-/// Adds the window that the inputs name at the end of the table. A message if the duration is no
-/// number, if the start is no date, or if the window meets one of the table; nothing is added then.
-/// Rows that are no dates meet nothing.
+/// Adds the window that the inputs name. A message, and no change, if the duration isn't a number,
+/// the start isn't a date, or the window overlaps one of the table; rows that aren't dates overlap
+/// nothing.
 [[nodiscard]] std::optional<Message> AddSleepRow(const SleepInput& input, SleepTable& table);
 
-/// The end that `AddSleepRow` would enter, as "Sa.  18.11.2006 23:30"; "Error" for inputs that
-/// name none.
+/// The end that `AddSleepRow` would enter, as "Sa.  18.11.2006 23:30"; "Error" for invalid inputs.
 [[nodiscard]] std::string SleepEndText(const SleepInput& input);
 
-/// The windows of a run. Rows that are no dates take no part.
+/// The windows of a run, without rows that aren't dates.
 [[nodiscard]] std::vector<cSchlafzeit> ParseSleepTable(const SleepTable& table);
 
 }  // namespace tarvelin

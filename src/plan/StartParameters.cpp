@@ -1,4 +1,4 @@
-// Checks and links of the start parameters.
+// Parsing the start parameters, and the link between the temperatures.
 #include "plan/StartParameters.h"
 
 #include <limits>
@@ -12,7 +12,7 @@ namespace {
 
 constexpr double kTemperatureSpan = 40;
 
-/// Writes a number text moved by `distance` into the other input of the link. Whether it did.
+/// Writes `from` plus `distance` to `target`. False, and no change, if `from` isn't a number.
 bool SetShifted(const std::string& from, double distance, std::string& target) {
     constexpr int kDecimals = 10;
     const auto number = ParseNumber(from);

@@ -1,5 +1,5 @@
-// The parameters of a plan that are no rows: when and where the universe started, and how fast the
-// player and the universe are. All of it as the inputs hold it.
+// The parameters of a plan besides its rows, as the inputs hold them: start date, temperatures,
+// click buffer and speed.
 #pragma once
 
 #include <optional>
@@ -22,11 +22,11 @@ struct StartParameters {
     std::string UniStartZeitJahr;
     std::string UniStartZeitStunden = "12";
     std::string UniStartZeitMinuten = "30";
-    /// Seconds that the player gives himself for each click, 0 to `kMaxKlickPuffer`.
+    /// Seconds that the player allows for each click, 0 to `kMaxKlickPuffer`.
     int KlickPuffer = 5;
     bool Speedfaktor_X2 = false;
 
-    /// "18.11.2006 12:30:00", whatever the inputs hold.
+    /// "18.11.2006 12:30:00": the inputs put together, without a check.
     [[nodiscard]] std::string StartDateText() const;
 
     [[nodiscard]] Long Speedfaktor() const { return Speedfaktor_X2 ? 2 : 1; }
@@ -34,7 +34,7 @@ struct StartParameters {
     friend bool operator==(const StartParameters&, const StartParameters&) = default;
 };
 
-/// Day and month in two digits, and the year; the time of day stays.
+/// Sets day and month, in two digits, and the year; the time of day stays.
 void SetStartDate(StartParameters& parameters, DateTime day);
 
 /// What the label of the weekday shows.
@@ -46,23 +46,21 @@ struct WeekdayLabel {
 /// "Mo." with the hint "Montag".
 [[nodiscard]] WeekdayLabel WeekdayOf(DateTime day);
 
-/// "Mo." with the hint "Montag", or "Err." without one when the inputs are no date.
+/// The same for the start date; "Err." without a hint if the inputs aren't a date.
 [[nodiscard]] WeekdayLabel RefreshWeekday(const StartParameters& parameters);
 
-/// The start date; nothing if the inputs are none.
+/// The start date; nothing if the inputs aren't a date.
 [[nodiscard]] std::optional<DateTime> ReadUniStartZeit(const StartParameters& parameters);
 
-/// Pads day and month to two digits, as a run leaves them; one without a temperature doesn't come
-/// as far as the date.
+/// Pads day and month to two digits, as a run does once it has a valid temperature.
 void PadStartDate(StartParameters& parameters);
 
-/// The temperature of a run: the highest one, a whole number half to even. Nothing if its text is
-/// no number, or one beyond the range of an Integer.
+/// The temperature of a run: `TempMax`, rounded half to even. Nothing if it isn't a number or is
+/// beyond the range of an Integer.
 [[nodiscard]] std::optional<Integer> ParseTemperature(const StartParameters& parameters);
 
-/// The two temperatures are one value with a span of 40 between them: after a change of one the
-/// other follows, and both stand in their plainest form, with at most ten decimals. A text that is
-/// no number changes nothing on the other side.
+/// The two temperatures are always 40 degrees apart. A change of one moves the other and formats
+/// both, with at most ten decimals; a text that isn't a number leaves the other alone.
 void ChangeTempMax(StartParameters& parameters, std::string_view text);
 void ChangeTempMin(StartParameters& parameters, std::string_view text);
 

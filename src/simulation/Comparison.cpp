@@ -1,4 +1,4 @@
-// Matching of orders.
+// Matches the orders of two runs.
 #include "simulation/Comparison.h"
 
 #include <algorithm>
@@ -13,7 +13,7 @@ namespace tarvelin {
 
 namespace {
 
-/// What makes two orders the same: the code or the factors, and the number.
+/// Orders with the same tag and number match.
 using RowKey = std::pair<std::string, int>;
 
 void AddStarts(const RunTrace& trace, std::optional<SimTime> ComparisonRow::*side,
@@ -30,7 +30,7 @@ void AddStarts(const RunTrace& trace, std::optional<SimTime> ComparisonRow::*sid
     }
 }
 
-/// The same whichever run is which.
+/// Symmetric in A and B, so that exchanging the runs doesn't change the sequence.
 std::tuple<SimTime, SimTime, std::string, int> Rank(const ComparisonRow& row) {
     const SimTime startInA = row.a ? *row.a : *row.b;
     const SimTime startInB = row.b ? *row.b : *row.a;

@@ -1,4 +1,4 @@
-// Rows of four texts.
+// A comparison as rows of four texts.
 #include "simulation/ComparisonTexts.h"
 
 #include "simulation/RunTexts.h"

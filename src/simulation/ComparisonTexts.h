@@ -9,13 +9,13 @@
 
 namespace tarvelin {
 
-/// A name, what stands in A and in B, and by how much B has more. Empty where there is nothing.
+/// A name, the values in A and B, and B minus A; empty where there is no value.
 using ComparisonText = std::array<std::string, 4>;
 
 /// Duration, points, stocks, sittings, the idle times of the queues.
 [[nodiscard]] std::vector<ComparisonText> SummaryTexts(const Comparison& comparison);
 
-/// The orders that don't start at the same moment.
+/// The orders that start at different moments, or in one run only.
 [[nodiscard]] std::vector<ComparisonText> OrderDifferences(const Comparison& comparison);
 
 }  // namespace tarvelin

@@ -1,4 +1,4 @@
-// The clock against the tables.
+// Compares the clock with the tables.
 #include "simulation/DueAlarms.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// When an alarm rings.
+// Which alarms ring at a given moment.
 #pragma once
 
 #include <cstddef>
@@ -10,17 +10,16 @@
 
 namespace tarvelin {
 
-/// How many seconds before a start the alarm rings; nothing for a text that is no whole number from
+/// How many seconds before a start the alarm rings; nothing unless the text is a whole number from
 /// 0 to 86400.
 [[nodiscard]] std::optional<Long> ParseLeadTime(std::string_view before);
 
-/// How many build times are due `before` seconds after `now`, to the second. None
-/// without a number of seconds.
+/// How many orders start exactly `before` seconds after `now`; 0 if `before` is no lead time.
 [[nodiscard]] std::size_t DueStarts(const Schedule& schedule, DateTime now,
                                     std::string_view before);
 
-/// How many sleep windows end in the minute that begins one minute after `now`. The texts of the
-/// table are compared as they stand.
+/// How many sleep windows end exactly one minute after `now`. The texts of the table are compared,
+/// so a row in another format never rings.
 [[nodiscard]] std::size_t DueSleepEnds(const SleepTable& table, DateTime now);
 
 }  // namespace tarvelin

@@ -1,4 +1,4 @@
-// Entering and taking out rows of the event table.
+// Enters and takes out rows of the event table.
 #include "simulation/EventTable.h"
 
 namespace tarvelin {

@@ -10,9 +10,8 @@
 
 namespace tarvelin {
 
-/// Rows are in the sequence of their moments. At one moment finish rows come before the start row,
-/// and finish rows in the sequence in which they were entered. A row names its order by its index
-/// in the list.
+/// Rows are sorted by moment. At the same moment finish rows come before the start row, and finish
+/// rows in the sequence in which they were entered. A row names its order by its index in the list.
 class EventTable {
   public:
     struct Event {
@@ -21,11 +20,11 @@ class EventTable {
         bool StartFlag = false;
     };
 
-    /// Enters the start row of an order, of which there is one at a time, or a finish row.
+    /// Enters a finish row, or the start row, of which there is one at a time.
     void SetEvent(SimTime Zeit, std::size_t order, bool StartFlag);
 
     [[nodiscard]] bool NoStartPending() const { return !m_isPending; }
-    /// Which order waits for its start.
+    /// The order that waits for its start.
     [[nodiscard]] std::size_t PendingOrder() const { return m_pendingOrder; }
     /// Moves the start row to another moment.
     void RetimeStart(SimTime time) { m_startTime = time; }
@@ -40,17 +39,17 @@ class EventTable {
     Event ClearEvent();
 
   private:
-    /// As many as a run ever needs: one finish for each queue, whose next order can't start before
-    /// it, and those of production rows. A production row finishes with the next event, unless an
-    /// order without a source of deuterium starts a second earlier, of which each queue can have
-    /// one.
+    /// The most that a run ever has at once: one for each queue, as its next order can't start
+    /// before, and those of production rows. A production row finishes with the next event, unless
+    /// an order without a source of deuterium starts a second earlier, which happens at most once
+    /// for each queue.
     static constexpr std::size_t kFinishEvents = 8;
 
     SimTime m_startTime;
     std::uint16_t m_pendingOrder = 0;
     bool m_isPending = false;
     std::size_t m_finishCount = 0;
-    /// The earliest stands at the end.
+    /// The earliest comes last.
     std::array<Event, kFinishEvents> m_finishes{};
 };
 

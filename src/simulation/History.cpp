@@ -1,4 +1,4 @@
-// Points of the history.
+// Recording and reading points of the history.
 #include "simulation/History.h"
 
 #include "model/Transitions.h"

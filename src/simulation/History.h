@@ -9,7 +9,7 @@
 
 namespace tarvelin {
 
-/// The state behind an event. Until the next one the stocks go on by the rates, in a straight line.
+/// The state after an event. Until the next one the stocks change linearly at these rates.
 struct HistoryPoint {
     SimTime time;
     PerResource<FixedPoint> stock{};
@@ -19,7 +19,8 @@ struct HistoryPoint {
     PerItem<Byte> Stufe{};
 };
 
-/// Keeps a point of each step, in the order of the run: the clock can step back by a click buffer.
+/// Keeps a point for each step, in the sequence of the run. Their times aren't always ascending:
+/// the clock can step back by a click buffer.
 class HistoryRecorder final : public RunObserver {
   public:
     /// `initial` is the state before the first step.
@@ -33,7 +34,7 @@ class HistoryRecorder final : public RunObserver {
     std::vector<HistoryPoint> m_points;
 };
 
-/// The stocks `seconds` behind a point, as the run rounds them if nothing happens meanwhile.
+/// The stocks `seconds` after a point if nothing happens meanwhile, rounded as in the run.
 [[nodiscard]] PerResource<FixedPoint> StockAfter(const HistoryPoint& point, Long seconds);
 
 }  // namespace tarvelin

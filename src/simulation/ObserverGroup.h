@@ -7,8 +7,8 @@
 
 namespace tarvelin {
 
-/// Tells each event to all of them, one after the other. Their types are known at compile time, so
-/// a hook that none of them overrides costs nothing.
+/// Passes each event on to all of them in turn. Their types are known at compile time, so a hook
+/// that none of them overrides costs nothing.
 template <class... Observer>
 class ObserverGroup final : public RunObserver {
   public:

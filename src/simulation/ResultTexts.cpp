@@ -1,4 +1,4 @@
-// Result labels.
+// Texts of the result labels.
 #include "simulation/ResultTexts.h"
 
 #include "util/Nuetzliches.h"

@@ -1,4 +1,4 @@
-// The texts of the labels that show what a run came to.
+// The texts of the labels that show the result of a run.
 #pragma once
 
 #include <string>
@@ -11,11 +11,11 @@ namespace tarvelin {
 [[nodiscard]] std::string DurationText(const GameState& state);
 /// "75,3": a point is a thousand units of resources spent.
 [[nodiscard]] std::string PointsText(const GameState& state);
-/// The same with what lies unspent.
+/// The same with the unspent stocks.
 [[nodiscard]] std::string PointsWithStockText(const GameState& state);
 
-/// The captions, as the window starts with them. Each of the functions below writes the labels
-/// that its event touches and leaves the others.
+/// The captions, at first as the window opens with them. Each function sets the labels that its
+/// event changes and leaves the others.
 struct ResultTexts {
     std::string LBL_Timegone = "Dauer: dd:hh:mm:ss";
     std::string LBL_Timegone2 = "Dauer: dd:hh:mm:ss";

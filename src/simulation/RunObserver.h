@@ -1,4 +1,4 @@
-// Who watches a run.
+// What a run reports, and to whom.
 #pragma once
 
 #include <cstddef>
@@ -11,9 +11,9 @@
 
 namespace tarvelin {
 
-/// An order is given.
+/// The start of an order.
 struct StartEvent {
-    /// Of the list, from 0.
+    /// In the build list, from 0.
     std::size_t row = 0;
     Order order;
     /// The level or number that an item reaches; 0 for a production row.
@@ -23,22 +23,21 @@ struct StartEvent {
     SimTime finish;
     /// What the stocks lacked when the start was last timed.
     Shortage shortage;
-    /// What held it back last; `None` if it waited for nothing but the row before it.
+    /// What held it back last; `None` if it waited only for the row before it.
     Delay delay;
-    /// It starts on the value of a closed gate, as nothing was left that could open it.
+    /// Whether it starts through a closed gate, as nothing was left that could open it.
     bool gateClosed = false;
-    /// When it could have started without the sleep windows; the last moment there is if none held
-    /// it back.
+    /// When it could have started without the sleep windows; the last moment of the clock if none
+    /// held it back.
     SimTime sleepFreeStart{};
 
     friend bool operator==(const StartEvent&, const StartEvent&) = default;
 };
 
-/// Where the run met an order of unknown code.
+/// What the run was about to do with an order of unknown code.
 enum class UnknownOrderAt : std::uint8_t { Start, Wait };
 
-/// Hears of a run in figures. The state is the one after the event, before the next balance. Each
-/// hook does nothing unless it is overridden.
+/// Is told of a run in figures. A hook does nothing unless it is overridden.
 class RunObserver {
   public:
     RunObserver() = default;
@@ -47,12 +46,12 @@ class RunObserver {
     virtual ~RunObserver() = default;
 
     virtual void OnStart(const StartEvent& /*event*/) {}
-    /// A start has left a stock below 0.
+    /// A start has left a stock below 0. The energy balance hasn't followed yet.
     virtual void OnNegativeStock(const GameState& /*state*/) {}
     virtual void OnUnknownOrder(UnknownOrderAt /*where*/) {}
     /// A step found nothing to do.
     virtual void OnEmptyStep() {}
-    /// A step is over, and the balance struck.
+    /// A step is over, the energy balance included.
     virtual void OnStepDone(const GameState& /*state*/) {}
 };
 

@@ -1,4 +1,4 @@
-// The words of a run.
+// Texts of a run's messages.
 #include "simulation/RunReporter.h"
 
 #include "util/FixedPoint.h"

@@ -1,4 +1,4 @@
-// What a run tells its player.
+// Tells the player of trouble in a run.
 #pragma once
 
 #include "simulation/RunObserver.h"
@@ -6,7 +6,7 @@
 
 namespace tarvelin {
 
-/// Hands out messages and beeps as they come.
+/// Shows messages and beeps as the run goes on.
 class RunReporter final : public RunObserver {
   public:
     /// `messages` must outlive it.

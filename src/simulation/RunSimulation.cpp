@@ -1,4 +1,4 @@
-// Rows and messages of a run.
+// Runs orders for their schedule and messages.
 #include "simulation/RunSimulation.h"
 
 #include "model/Transitions.h"

@@ -1,4 +1,4 @@
-// A run with what a player sees of it.
+// A run with what the player sees of it: schedule, final state, messages.
 #pragma once
 
 #include <span>
@@ -11,21 +11,21 @@
 
 namespace tarvelin {
 
-/// What a run leaves behind until the next run or reset.
+/// The outcome of a run, kept until the next run or reset.
 struct LastRun {
     RunConditions conditions;
     GameState state;
     Schedule LV_Bauzeiten;
 
-    /// The state before the first event of a run.
+    /// Goes to the state before the first event of a run under these conditions.
     void ResetSimulation(const RunConditions& given);
 
-    /// The same without a run: a temperature that can't be used leaves the former one, all other
-    /// conditions stay.
+    /// The same without a run: takes the temperature alone, if it is valid, and keeps all other
+    /// conditions.
     void ResetSimulation(const StartParameters& parameters);
 };
 
-/// Plays the orders from the first to the last; `run` has begun.
+/// Runs all orders; `run` must have been reset to its conditions.
 void RunSimulation(std::span<const Order> orders, LastRun& run, MessageSink& messages);
 
 }  // namespace tarvelin

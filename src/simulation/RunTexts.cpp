@@ -1,4 +1,4 @@
-// Words for what an order waited for.
+// Texts for delays, orders and time spans.
 #include "simulation/RunTexts.h"
 
 #include <algorithm>
@@ -12,7 +12,7 @@ namespace tarvelin {
 
 namespace {
 
-/// When the wait was over: the click comes behind it.
+/// When the wait was over; the click buffer comes after it.
 DateTime ReadyAt(const RunTrace& trace, const StartEvent& start) {
     return trace.conditions.WallClock(start.start + -std::int64_t{trace.conditions.KlickPuffer});
 }
@@ -21,7 +21,7 @@ std::string LevelText(const LevelRequirement& missing) {
     return std::string(RowOf(missing.item).name) + " " + std::to_string(missing.minLevel);
 }
 
-/// The window whose end the order waited for, or that which began to hold it back.
+/// The window whose end the order waited for, or else the one that held it back first.
 std::string SleepText(const RunTrace& trace, const StartEvent& start) {
     const auto& sleepWindows = trace.conditions.Schlafzeiten;
     auto wanted = std::ranges::find(sleepWindows, ReadyAt(trace, start), &cSchlafzeit::Endzeit);

@@ -1,4 +1,4 @@
-// What is told of the orders of a run, in words.
+// Texts about the orders of a run.
 #pragma once
 
 #include <cstddef>
@@ -9,22 +9,22 @@
 
 namespace tarvelin {
 
-/// What held back the order of a row: the resource with the amount that was short, a queue and
-/// until when, a level that was missing, the sleep window that moved it, or the row before it; the
-/// click buffer, as long as nothing but clicks lay before it. Empty for the first order of a player
-/// without a click buffer, and for a row that never started.
+/// What held back the order of a row: the resource and the amount that was short, a queue and until
+/// when, the missing level, the sleep window, or the row before it; the click buffer if nothing but
+/// clicks came before. Empty for a row that never started, and for the first order if there is no
+/// click buffer.
 [[nodiscard]] std::string DelayText(const RunTrace& trace, std::size_t row);
 
-/// What is told of a plan that goes beyond the clock.
+/// The warning about a plan that outlasts the clock.
 [[nodiscard]] std::string BeyondClockText();
 
-/// "Metallmine 3", "Kleine Schildkuppel", or "80% 100% 50%". `number` is that of an item.
+/// "Metallmine 3", "Kleine Schildkuppel", or "80% 100% 50%", which has no number.
 [[nodiscard]] std::string OrderText(const Order& order, int number);
 [[nodiscard]] std::string OrderText(const StartEvent& start);
-/// The same as other programs read it, with the name that the hint over the picture has.
+/// The same for other programs to read, with the name of the tooltip.
 [[nodiscard]] std::string OrderKey(const Order& order, int number);
 
-/// "02:13:05", with days in front from one on: "1 Tag 00:01:01", "3 Tage 00:00:00".
+/// "02:13:05", from one day on with the days: "1 Tag 00:01:01", "3 Tage 00:00:00".
 [[nodiscard]] std::string TimeSpanText(Long seconds);
 /// The same with a sign: "-02:13:05", "±00:00:00".
 [[nodiscard]] std::string SignedTimeSpanText(Long seconds);

@@ -1,4 +1,4 @@
-// A run with all that a picture of it shows.
+// A recorded run: what charts and comparisons need of it.
 #pragma once
 
 #include <cstddef>
@@ -14,9 +14,9 @@ namespace tarvelin {
 
 struct RunTrace {
     RunConditions conditions;
-    /// The starts in the order of the rows. A row without a rule of its own has none.
+    /// The starts in the sequence of the rows. A row of unknown code has none.
     std::vector<StartEvent> starts;
-    /// The history, at each moment with the last state that the run recorded for it.
+    /// The history as `CurveFrom` makes it.
     std::vector<HistoryPoint> curve;
     GameState end;
     std::vector<Message> messages;
@@ -27,14 +27,14 @@ struct RunTrace {
     [[nodiscard]] const StartEvent* StartOf(std::size_t row) const;
 };
 
-/// Plays orders to the end.
+/// Runs orders to the end and records the run.
 [[nodiscard]] RunTrace TraceRun(std::span<const Order> orders, const RunConditions& conditions);
 
-/// The points of a history in the order of time. Where the clock stepped back, by a click buffer,
-/// what was recorded before for the moments behind it is gone.
+/// The points of a history in ascending time. Where the clock stepped back by a click buffer, the
+/// later point replaces those recorded for its moment and after.
 [[nodiscard]] std::vector<HistoryPoint> CurveFrom(std::span<const HistoryPoint> history);
 
-/// The last point not behind a moment, or the first. The curve isn't empty.
+/// The last point at or before a moment, else the first. The curve must not be empty.
 [[nodiscard]] const HistoryPoint& PointAt(std::span<const HistoryPoint> curve, SimTime moment);
 
 }  // namespace tarvelin

@@ -1,4 +1,4 @@
-// Texts of the table of build times.
+// Texts of the schedule.
 #include "simulation/Schedule.h"
 
 #include "model/ItemTable.h"

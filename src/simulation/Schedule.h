@@ -1,4 +1,4 @@
-// The table of build times: when each order has to be given, and why not earlier.
+// The schedule: when each order has to be given, and why not earlier.
 #pragma once
 
 #include <string>
@@ -10,7 +10,7 @@
 
 namespace tarvelin {
 
-/// A row of `LV_Bauzeiten`: figures, of which the texts of its cells are made when they are read.
+/// A row of `LV_Bauzeiten`, kept as figures; the texts of its cells are made when they are read.
 struct ScheduleEntry {
     Order order{};
     /// The level or number that an item reaches; 0 for a production row.
@@ -25,13 +25,13 @@ struct ScheduleEntry {
     [[nodiscard]] std::string TimeOfDay() const { return TimeOfDayText(start); }
     /// "Metallmine: 1", or "80% 100% 50%".
     [[nodiscard]] std::string theText() const;
-    /// Full weekday, date and time; behind them " | " and the reason, if it has one.
+    /// Full weekday, date and time, then " | " and the reason if there is one.
     [[nodiscard]] std::string Tag() const;
     /// The reason in words. Rows of the research lab and production rows have none.
     [[nodiscard]] std::string VerzoegerungsGrund() const;
 };
 
-/// `LV_Bauzeiten`: rows in the sequence of the starts, never sorted.
+/// `LV_Bauzeiten`, in the sequence of the starts.
 using Schedule = std::vector<ScheduleEntry>;
 
 /// Adds the row of a start to the schedule of a run that began at `StartDate`.

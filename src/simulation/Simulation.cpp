@@ -92,9 +92,9 @@ void Simulation::RetimePending(RunObserver& observer) {
     }
 }
 
-/// Whether the order's queue is at work beyond the next finish. Then the order is timed again
-/// before it can start, and what it waits for by now is forgotten; but not where a gate could have
-/// shut until then, as nobody asks for the stocks behind a shut one.
+/// Whether the order's queue stays busy beyond the next finish: the order is then timed again
+/// before it can start, so its wait doesn't matter yet. Not if its gate could close before that, as
+/// the shortage seen with the gate still open is then the one that is kept.
 bool Simulation::WaitsForLaterFinish(const ItemRow& item, SimTime free) const {
     return m_LV_Eventhandler.HasFinishBefore(free) &&
            item.traits.deuteriumGate == DeuteriumGate::PlantOrMine;
@@ -126,13 +126,13 @@ void Simulation::StartOrder(std::size_t row, RunObserver& observer) {
             break;
     }
     // The first order starts even if it costs more than the start stocks, and so does one without
-    // a source of deuterium. Each start tells it until the stocks have recovered.
+    // a source of deuterium. Each start reports it until the stocks have recovered.
     if (std::ranges::min(m_state.stock) < FixedPoint()) {
         observer.OnNegativeStock(m_state);
     }
 }
 
-// The click buffer counts twice: before the start, and after the finish until the queue falls free.
+// The click buffer counts twice: before the start, and after the finish until the queue is free.
 void Simulation::StartItem(std::size_t row, RunObserver& observer) {
     const Order& order = m_orders[row];
     const ItemRow& item = RowOf(order.item);
@@ -156,7 +156,7 @@ void Simulation::StartItem(std::size_t row, RunObserver& observer) {
     observer.OnStart(event);
 }
 
-/// It occupies no queue: the next building need not wait for it.
+/// Occupies no queue: the next building need not wait for it.
 void Simulation::StartProduction(std::size_t row, RunObserver& observer) {
     const Order& order = m_orders[row];
     ForEachResource([&](Resource mine) { SetProdfaktor(mine, order.factors[mine], m_state); });

@@ -20,19 +20,18 @@ class Simulation {
   public:
     Simulation(std::span<const Order> orders, const RunConditions& conditions);
 
-    /// Goes on over other orders, of which the first `NextListRow()` are those of the former.
+    /// Continues with other orders, the first `NextListRow()` of which must be the same as before.
     void ReplaceOrders(std::span<const Order> orders) { m_orders = orders; }
 
-    /// How many orders have entered the event table; the others don't matter yet.
+    /// How many orders have entered the event table; the others have no effect yet.
     [[nodiscard]] std::size_t NextListRow() const { return m_NextListRow; }
 
     /// Whether the run is over: each order goes through two steps, a start and a finish.
     [[nodiscard]] bool IsFinished() const { return m_steps >= 2 * m_orders.size(); }
 
-    /// Carries out the earliest event; the run isn't over.
+    /// Carries out the earliest event. Only if the run isn't over.
     void Step(RunObserver& observer);
 
-    /// Goes to the end.
     void RunToEnd(RunObserver& observer);
 
     /// The state after the last step.
@@ -55,11 +54,11 @@ class Simulation {
     /// The next order to enter the event table.
     std::size_t m_NextListRow = 0;
     std::size_t m_steps = 0;
-    /// When the waiting order's wait ends; an unknown order takes that of the order before it.
+    /// When the waiting order's wait ends; an unknown order keeps that of the order before it.
     SimTime m_readyAt;
-    /// What the waiting order was held back by when it was last timed.
+    /// What held the waiting order back when it was last timed.
     Delay m_delay;
-    /// Whether a gate was shut when it was last timed.
+    /// Whether a gate was closed when it was last timed.
     bool m_gateClosed = false;
     /// The earliest moment from which only a sleep window has held it back.
     SimTime m_sleepFree;

@@ -5,10 +5,10 @@
 
 namespace tarvelin {
 
-/// How long a player sits at a stretch: all starts within so many seconds of the first one.
+/// In seconds. Starts no later than this after the first one belong to the same sitting.
 inline constexpr Long kSittingLength = 600;
 
-/// Counts the sittings of starts that come in their order.
+/// Counts the sittings of starts that are added in ascending sequence.
 struct SittingCounter {
     int count = 0;
     /// Of the last sitting.
