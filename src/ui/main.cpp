@@ -25,11 +25,11 @@ namespace {
 /// The machine's clock, in its local time.
 tarvelin::DateTime LocalTime() {
     const QDateTime now = QDateTime::currentDateTime();
-    const QDate initial(1899, 12, 30);
+    const QDate epoch(1899, 12, 30);
     constexpr qint64 kSecondsPerDay = 86400;
-    constexpr qint64 kPerSecond = 1000;
-    return tarvelin::DateTime(initial.daysTo(now.date()) * kSecondsPerDay +
-                              now.time().msecsSinceStartOfDay() / kPerSecond);
+    constexpr qint64 kMillisecondsPerSecond = 1000;
+    return tarvelin::DateTime(epoch.daysTo(now.date()) * kSecondsPerDay +
+                              now.time().msecsSinceStartOfDay() / kMillisecondsPerSecond);
 }
 
 void OpenPage(const std::string& address) {
@@ -104,7 +104,7 @@ int main(int argc, char** argv) {
         QApplication::closeAllWindows();
         QApplication::exit();
     };
-    const tarvelin::TerminationSignals signalHandlers(finish);
+    const tarvelin::TerminationSignals terminationSignals(finish);
     // The session may go on after it; its end closes the windows.
     QObject::connect(&program, &QGuiApplication::commitDataRequest, &window,
                      &tarvelin::frmMain::SaveNow, Qt::DirectConnection);

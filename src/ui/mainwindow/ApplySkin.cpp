@@ -29,8 +29,7 @@ void ApplySkin(Byte Mode, const std::string& Path, const QWidget& surface,
     auto folder = pictures / "skins";
     folder += "/" + (Mode == kStandardSkin ? "standard" : Path);
     for (const SkinPicture& picture : SkinPictures()) {
-        load(picture.pictureName,
-             folder / picture.TempFolder / (std::string(picture.name) + ".gif"));
+        load(picture.pictureName, folder / picture.folder / (std::string(picture.name) + ".gif"));
     }
 }
 

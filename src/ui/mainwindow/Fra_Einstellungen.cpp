@@ -60,7 +60,7 @@ QWidget* Fra_Einstellungen::NewTemperatures() {
         group, NewHoverInfo(QStringLiteral("Label7"),
                             QStringLiteral("  Minimal und Maximal-Temperatur des Startplaneten  "),
                             group));
-    const auto fresh = [&](const char* name, const char* accessibleName, auto change) {
+    const auto newInput = [&](const char* name, const char* accessibleName, auto change) {
         auto* const input =
             new TextInput(QString::fromLatin1(name), QString::fromLatin1(accessibleName),
                           TextInput::kUnlimited, group);
@@ -71,8 +71,8 @@ QWidget* Fra_Einstellungen::NewTemperatures() {
         });
         return input;
     };
-    m_txt_TempMin = fresh("txt_TempMin", "Minimaltemperatur", ChangeTempMin);
-    m_txt_TempMax = fresh("txt_TempMax", "Maximaltemperatur", ChangeTempMax);
+    m_txt_TempMin = newInput("txt_TempMin", "Minimaltemperatur", ChangeTempMin);
+    m_txt_TempMax = newInput("txt_TempMax", "Maximaltemperatur", ChangeTempMax);
     row->addWidget(NewLabel({}, QStringLiteral("Min:"), group));
     row->addWidget(m_txt_TempMin);
     row->addWidget(NewLabel({}, QStringLiteral("Max:"), group));

@@ -75,15 +75,15 @@ void Fra_Rest::SetCursors(const DragCursors& cursors) {
 
 std::vector<ItemTile> Fra_Rest::AddItemGroups() {
     std::vector<ItemTile> tiles;
-    for (const GroupPlace& slot : kItemGroups) {
-        auto* const group = new ItemGroup(QString::fromUtf8(slot.name),
-                                          QString::fromUtf8(slot.title), slot.group, this);
+    for (const GroupPlace& place : kItemGroups) {
+        auto* const group = new ItemGroup(QString::fromUtf8(place.name),
+                                          QString::fromUtf8(place.title), place.group, this);
         if (tiles.empty()) {
             group->SetCornerLabel(NewHoverInfo(QStringLiteral("Label8"),
                                                QStringLiteral(" Drag'n'Drop in die linke Liste "),
                                                group));
         }
-        PlaceGroup(*group, slot.left, slot.width);
+        PlaceGroup(*group, place.left, place.width);
         tiles.insert(tiles.end(), group->Tiles().begin(), group->Tiles().end());
     }
     return tiles;

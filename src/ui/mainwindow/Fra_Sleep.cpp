@@ -84,12 +84,12 @@ Fra_Sleep::Fra_Sleep(SleepTable& table, const Environment& environment, QWidget*
 }
 
 void Fra_Sleep::AddInputs() {
-    for (const TimeInput& field : kTimeInputs) {
-        auto* const input = new TextInput(QString::fromLatin1(field.name),
-                                          QString::fromLatin1(field.accessibleName), 2, this);
+    for (const TimeInput& time : kTimeInputs) {
+        auto* const input = new TextInput(QString::fromLatin1(time.name),
+                                          QString::fromLatin1(time.accessibleName), 2, this);
         constexpr int kWidth = 22;
         input->setFixedWidth(kWidth);
-        input->Assign(SleepInput().*field.value);
+        input->Assign(SleepInput().*time.value);
         connect(input, &QLineEdit::textChanged, this, &Fra_Sleep::RefreshSchlafEnde);
         m_times.push_back(input);
     }
@@ -186,9 +186,9 @@ void Fra_Sleep::Cmd_AddSchlafzeit_Click() {
         return;
     }
     Refresh();
-    const QModelIndex fresh = m_model->index(m_model->rowCount() - 1, 0);
-    LV_Schlafzeiten->scrollTo(fresh);
-    LV_Schlafzeiten->setCurrentIndex(fresh);
+    const QModelIndex added = m_model->index(m_model->rowCount() - 1, 0);
+    LV_Schlafzeiten->scrollTo(added);
+    LV_Schlafzeiten->setCurrentIndex(added);
     emit Edited();
 }
 

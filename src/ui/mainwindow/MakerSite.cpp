@@ -21,7 +21,7 @@ namespace {
 constexpr const char* kLineEnd = "\r\n";
 
 /// The first characters of a text that should be UTF-8; a byte that isn't counts as one.
-std::string_view BeginOf(std::string_view text, std::size_t character) {
+std::string_view FirstCharacters(std::string_view text, std::size_t count) {
     std::size_t end = 0;
     int following = 0;
     for (; end < text.size(); ++end) {
@@ -30,7 +30,7 @@ std::string_view BeginOf(std::string_view text, std::size_t character) {
             --following;
             continue;
         }
-        if (character-- == 0) {
+        if (count-- == 0) {
             break;
         }
         following = ones >= 2 && ones <= 4 ? ones - 1 : 0;
@@ -69,7 +69,7 @@ Question VersionQuestion(std::string_view loaded) {
     const std::string verdict =
         loaded == kVersion
             ? "die aktuelle zu sein!"
-            : "NICHT die aktuelle (v" + std::string(BeginOf(loaded, kShown)) + ")zu sein!";
+            : "NICHT die aktuelle (v" + std::string(FirstCharacters(loaded, kShown)) + ")zu sein!";
     return {.text = version + verdict + kLineEnd +
                     "Möglicherweise habe ich aber auch nur vergessen die Versions-Datei auf dem "
                     "Server zu ändern..." +

@@ -34,7 +34,7 @@ bool MenuBar::event(QEvent* event) {
         const QList<QAction*> hits = WithLetter(actions(), key->key());
         if (hits.size() > 1) {
             if (!hasFocus()) {
-                m_before = window()->focusWidget();
+                m_focusBefore = window()->focusWidget();
             }
             setFocus(Qt::MenuBarFocusReason);
             setActiveAction(hits[(hits.indexOf(activeAction()) + 1) % hits.size()]);
@@ -60,8 +60,8 @@ bool MenuBar::eventFilter(QObject* target, QEvent* event) {
 }
 
 void MenuBar::RestoreFocus() {
-    if (hasFocus() && m_before != nullptr && m_before->isVisible()) {
-        m_before->setFocus(Qt::MenuBarFocusReason);
+    if (hasFocus() && m_focusBefore != nullptr && m_focusBefore->isVisible()) {
+        m_focusBefore->setFocus(Qt::MenuBarFocusReason);
     } else if (hasFocus()) {
         clearFocus();
     }

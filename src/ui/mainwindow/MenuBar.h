@@ -23,7 +23,7 @@ class MenuBar : public QMenuBar {
     void RestoreFocus();
 
     /// What had the focus before the bar took it.
-    QPointer<QWidget> m_before;
+    QPointer<QWidget> m_focusBefore;
 };
 
 }  // namespace tarvelin

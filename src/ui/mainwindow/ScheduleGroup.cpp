@@ -116,8 +116,8 @@ void ScheduleGroup::ShowResult(const ResultTexts& texts) {
 
 void ScheduleGroup::LV_Bauzeiten_MouseMove(const QModelIndex& row) {
     const auto number = static_cast<std::size_t>(row.row());
-    const bool stands = row.isValid() && number < m_schedule.size();
-    SetHint(*LV_Bauzeiten, stands ? ToQString(m_schedule[number].Tag()) : QString());
+    const bool exists = row.isValid() && number < m_schedule.size();
+    SetHint(*LV_Bauzeiten, exists ? ToQString(m_schedule[number].Tag()) : QString());
 }
 
 }  // namespace tarvelin

@@ -93,8 +93,8 @@ bool FetchFile(const std::string& address, const std::filesystem::path& file,
     return FileExists(file, environment.files);
 }
 
-Question AfterError(const std::string& position) {
-    return {.text = "\"" + position +
+Question AbortQuestion(const std::string& path) {
+    return {.text = "\"" + path +
                     "\" konnte nicht von der angegebenen URL geladen werden...\r\n\r\n"
                     "Vorgang abbrechen ?",
             .title = "Download-Fehler...",
@@ -110,15 +110,15 @@ WebSkinOutcome FetchWebSkin(const std::string& address, const std::filesystem::p
                               .title = "Fortsetzen...",
                               .icon = MessageIcon::Information});
     for (const SkinPicture& picture : SkinPictures()) {
-        const std::string position =
-            "/" + std::string(picture.TempFolder) + "/" + std::string(picture.name) + ".gif";
+        const std::string path =
+            "/" + std::string(picture.folder) + "/" + std::string(picture.name) + ".gif";
         environment.fetcher.ProcessEvents();
         const bool fetched =
-            open() && FetchFile(address + position, destination / position.substr(1), environment);
+            open() && FetchFile(address + path, destination / path.substr(1), environment);
         if (!open()) {
             return WebSkinOutcome::Aborted;
         }
-        if (!fetched && environment.dialogs.Ask(AfterError(position))) {
+        if (!fetched && environment.dialogs.Ask(AbortQuestion(path))) {
             return WebSkinOutcome::Aborted;
         }
     }

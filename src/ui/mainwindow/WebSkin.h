@@ -14,7 +14,7 @@ namespace tarvelin {
 /// One of the pictures of a skin.
 struct SkinPicture {
     /// The folder in a skin, and the file there without its ".gif".
-    std::string_view TempFolder;
+    std::string_view folder;
     std::string_view name;
     /// The label that shows it.
     std::string_view pictureName;

@@ -30,9 +30,10 @@ frmAbout::frmAbout(const Environment& environment) {
     setWindowTitle(QStringLiteral("About Tarvelin"));
     const auto icon = LoadIconFile(environment.programFolder / "img" / "icon.ico");
     setWindowIcon(icon);
-    constexpr int kPage = 64;
-    QLabel* const picture = NewPicture(QStringLiteral("Img_About"), {kPage, kPage}, {}, this);
-    picture->setPixmap(icon.pixmap({kPage, kPage}, devicePixelRatioF()));
+    constexpr int kIconSide = 64;
+    QLabel* const picture =
+        NewPicture(QStringLiteral("Img_About"), {kIconSide, kIconSide}, {}, this);
+    picture->setPixmap(icon.pixmap({kIconSide, kIconSide}, devicePixelRatioF()));
     QLabel* const title = NewLabel(QStringLiteral("lblTitle"), QStringLiteral("Tarvelin"), this);
     QFont large = title->font();
     large.setPixelSize(2 * large.pixelSize());

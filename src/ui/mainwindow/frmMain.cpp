@@ -265,7 +265,7 @@ void frmMain::mnuWorkbench_Click() {
             [this] { return m_Fra_Rest->SecondsBefore()->currentText().toStdString(); },
             m_environment);
         m_workbench->SetPictures(m_Fra_Rest->ItemPictures());
-        connect(m_workbench.get(), &Workbench::ListEdited, this, &frmMain::TakeOver);
+        connect(m_workbench.get(), &Workbench::ListEdited, this, &frmMain::AdoptRows);
         connect(m_workbench.get(), &Workbench::UndoRequested, this, &frmMain::Undo);
         connect(m_workbench.get(), &Workbench::RedoRequested, this, &frmMain::Redo);
     }
@@ -302,7 +302,7 @@ void frmMain::BringToFront(QWidget& panel) {
     m_TopLine->raise();
 }
 
-void frmMain::Flip(Panel& panel) {
+void frmMain::Toggle(Panel& panel) {
     panel.setVisible(panel.isHidden());
     BringToFront(panel);
     if (panel.isVisible()) {
@@ -311,25 +311,25 @@ void frmMain::Flip(Panel& panel) {
 }
 
 void frmMain::mnuEinstellungen_Click() {
-    Flip(*m_Fra_Einstellungen);
+    Toggle(*m_Fra_Einstellungen);
 }
 
 void frmMain::mnu_SpecialEvents_Click() {
-    Flip(*m_Fra_Special);
+    Toggle(*m_Fra_Special);
     m_Fra_Skin->hide();
     m_Fra_Skin->FillSkinList();
     m_Fra_Sleep->hide();
 }
 
 void frmMain::mnuSkin_Click() {
-    Flip(*m_Fra_Skin);
+    Toggle(*m_Fra_Skin);
     m_Fra_Special->hide();
     m_Fra_Skin->FillSkinList();
     m_Fra_Sleep->hide();
 }
 
 void frmMain::mnuSleep_Click() {
-    Flip(*m_Fra_Sleep);
+    Toggle(*m_Fra_Sleep);
     m_Fra_Special->hide();
     m_Fra_Skin->hide();
     m_Fra_Sleep->RefreshSchlafEnde();
@@ -357,7 +357,8 @@ void frmMain::Redo() {
     }
 }
 
-void frmMain::TakeOver(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause) {
+void frmMain::AdoptRows(const std::vector<std::string>& tags,
+                        const std::optional<SleepRow>& pause) {
     PlanSnapshot snapshot = SnapshotOf(m_plan);
     snapshot.tags = tags;
     if (pause) {
@@ -387,12 +388,12 @@ void frmMain::SetPlan(const PlanSnapshot& snapshot) {
 void frmMain::RunQuietly() {
     Chk_Speedfaktor_Click();
     const auto conditions = ParseRunConditions(m_plan);
-    if (const auto* const good = std::get_if<RunConditions>(&conditions)) {
-        m_run.ResetSimulation(*good);
+    if (const auto* const parsed = std::get_if<RunConditions>(&conditions)) {
+        m_run.ResetSimulation(*parsed);
         m_texts.AfterReset();
         std::vector<Message> messages;
-        MessageCollector list(messages);
-        tarvelin::RunSimulation(m_plan.LV_Bauliste.Orders().All(), m_run, list);
+        MessageCollector collector(messages);
+        tarvelin::RunSimulation(m_plan.LV_Bauliste.Orders().All(), m_run, collector);
         m_texts.AfterRun(m_run.state);
     } else if (m_plan.LV_Bauliste.Orders().IsEmpty()) {
         m_run.ResetSimulation(m_plan.parameters);

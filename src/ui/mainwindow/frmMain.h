@@ -90,7 +90,7 @@ class frmMain : public QMainWindow {
     /// Whether the last plan was loaded.
     bool RecoverPlan(const std::optional<IniFile>& last);
     void LoadLastPlan(const std::optional<IniFile>& last);
-    bool LoadBauliste(const std::optional<IniFile>& profile, const std::filesystem::path& File,
+    bool LoadBauliste(const std::optional<IniFile>& iniFile, const std::filesystem::path& File,
                       bool Silent);
     /// How far the window has come. The plan is the user's own when the start is over.
     enum class Phase { Before, Starting, Working, Closed };
@@ -108,7 +108,7 @@ class frmMain : public QMainWindow {
     void Cmd_ApplySkin_Click();
 
     void BringToFront(QWidget& panel);
-    void Flip(Panel& panel);
+    void Toggle(Panel& panel);
     void mnuEinstellungen_Click();
     void mnu_SpecialEvents_Click();
     void mnuSkin_Click();
@@ -127,7 +127,7 @@ class frmMain : public QMainWindow {
     void Undo();
     void Redo();
     /// Takes rows that the workbench made, and a pause in front of the sleep rows.
-    void TakeOver(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause);
+    void AdoptRows(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause);
     /// Makes the plan what it is to be, and runs it without a box.
     void SetPlan(const PlanSnapshot& snapshot);
     void RunQuietly();

@@ -63,11 +63,11 @@ void frmMain::OpenFirstPlan() {
     const auto starterPlan = m_environment.programFolder / "saves" / "basic.tvf";
     const bool loaded = firstStart && FileExists(starterPlan, m_environment.files) &&
                         LoadBauliste(starterPlan, false);
-    const bool again = wasPresent && RecoverPlan(last);
+    const bool recovered = wasPresent && RecoverPlan(last);
     if (IsClosed()) {
         return;
     }
-    const bool kept = !loaded || again || m_autosave.Write(m_plan);
+    const bool kept = !loaded || recovered || m_autosave.Write(m_plan);
     m_autosave.MarkWritten(m_plan);
     if (firstStart && kept) {
         DeleteFile(starterPlan, m_environment.files);
@@ -78,9 +78,9 @@ void frmMain::OpenFirstPlan() {
 
 // A box that comes up before the window has its place would lie beside it.
 void frmMain::WaitUntilExposed() {
-    constexpr int kLongest = 500;
+    constexpr int kLongestWait = 500;
     constexpr int kSlice = 10;
-    QDeadlineTimer deadline(kLongest);
+    QDeadlineTimer deadline(kLongestWait);
     while (!windowHandle()->isExposed() && !deadline.hasExpired()) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kSlice);
     }
@@ -234,9 +234,9 @@ bool frmMain::LoadBauliste(const std::filesystem::path& File, bool Silent) {
     return LoadBauliste(IniFile::Load(File, m_environment.files), File, Silent);
 }
 
-bool frmMain::LoadBauliste(const std::optional<IniFile>& profile, const std::filesystem::path& File,
+bool frmMain::LoadBauliste(const std::optional<IniFile>& iniFile, const std::filesystem::path& File,
                            bool Silent) {
-    if (!profile) {
+    if (!iniFile) {
         m_environment.dialogs.Show(LoadErrorMessage());
         return false;
     }
@@ -248,7 +248,7 @@ bool frmMain::LoadBauliste(const std::optional<IniFile>& profile, const std::fil
             RefreshWorkbench();
         },
         m_environment.dialogs);
-    const bool loaded = ReadPlan(*profile, m_plan, m_run.conditions, messages);
+    const bool loaded = ReadPlan(*iniFile, m_plan, m_run.conditions, messages);
     if (loaded) {
         ShowPlan();
         RememberSaved(File);

@@ -3,6 +3,6 @@
 
 namespace tarvelin {
 
-void WatchColorScheme(QObject* /*kontext*/, std::function<void(bool dark)> /*melde*/) {}
+void WatchColorScheme(QObject* /*context*/, std::function<void(bool dark)> /*report*/) {}
 
 }  // namespace tarvelin

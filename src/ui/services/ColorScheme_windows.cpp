@@ -19,19 +19,19 @@ class RegistryColorScheme : public QObject {
         : QObject(context),
           m_report(std::move(report)),
           m_event(::CreateEventW(nullptr, FALSE, FALSE, nullptr)),
-          m_guard(m_event) {
-        constexpr const wchar_t* kPlace =
+          m_notifier(m_event) {
+        constexpr const wchar_t* kKeyPath =
             LR"(Software\Microsoft\Windows\CurrentVersion\Themes\Personalize)";
-        if (::RegOpenKeyExW(HKEY_CURRENT_USER, kPlace, 0, KEY_READ, &m_key) != ERROR_SUCCESS) {
+        if (::RegOpenKeyExW(HKEY_CURRENT_USER, kKeyPath, 0, KEY_READ, &m_key) != ERROR_SUCCESS) {
             return;
         }
-        connect(&m_guard, &QWinEventNotifier::activated, this, [this] { Read(); });
+        connect(&m_notifier, &QWinEventNotifier::activated, this, [this] { Read(); });
         Read();
     }
     RegistryColorScheme(const RegistryColorScheme&) = delete;
     RegistryColorScheme& operator=(const RegistryColorScheme&) = delete;
     ~RegistryColorScheme() override {
-        m_guard.setEnabled(false);
+        m_notifier.setEnabled(false);
         if (m_key != nullptr) {
             ::RegCloseKey(m_key);
         }
@@ -51,7 +51,7 @@ class RegistryColorScheme : public QObject {
 
     std::function<void(bool)> m_report;
     HANDLE m_event;
-    QWinEventNotifier m_guard;
+    QWinEventNotifier m_notifier;
     HKEY m_key = nullptr;
 };
 

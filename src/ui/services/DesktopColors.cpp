@@ -38,12 +38,12 @@ bool IsDark(const QPalette& palette) {
            palette.color(QPalette::WindowText).lightness();
 }
 
-DesktopColors::DesktopColors(QPalette ofTheme) : m_ofTheme(std::move(ofTheme)) {
+DesktopColors::DesktopColors(QPalette themePalette) : m_themePalette(std::move(themePalette)) {
     WatchColorScheme(this, [this](bool dark) { Prefer(dark); });
 }
 
 QPalette DesktopColors::CurrentPalette() const {
-    return m_darkPreferred && !IsDark(m_ofTheme) ? DarkPalette() : m_ofTheme;
+    return m_darkPreferred && !IsDark(m_themePalette) ? DarkPalette() : m_themePalette;
 }
 
 void DesktopColors::Prefer(bool dark) {

@@ -16,15 +16,15 @@ class DesktopColors : public QObject {
     Q_OBJECT
 
   public:
-    /// `ofTheme`: the toolkit's palette before the program set one of its own.
-    explicit DesktopColors(QPalette ofTheme);
+    /// `themePalette`: the toolkit's palette before the program set one of its own.
+    explicit DesktopColors(QPalette themePalette);
 
     [[nodiscard]] QPalette CurrentPalette() const;
 
   private:
     void Prefer(bool dark);
 
-    QPalette m_ofTheme;
+    QPalette m_themePalette;
     bool m_darkPreferred = false;
 };
 

@@ -17,7 +17,7 @@ namespace tarvelin {
 namespace {
 
 /// While it lives, clicks and keys go nowhere and the pointer tells that the program is busy.
-/// Painting, timers and the close of a window go on, and a box that comes up takes its answer.
+/// Painting, timers and closing a window go on, and a modal box still gets its answer.
 class InputLock : public QObject {
   public:
     InputLock() {
@@ -33,7 +33,7 @@ class InputLock : public QObject {
     }
 
   protected:
-    bool eventFilter(QObject* /*ziel*/, QEvent* event) override {
+    bool eventFilter(QObject* /*target*/, QEvent* event) override {
         if (QApplication::activeModalWidget() != nullptr) {
             return false;
         }
@@ -72,47 +72,48 @@ std::string WebAddress(const std::string& address) {
     return good ? url.toEncoded().toStdString() : std::string();
 }
 
-/// What has come of an answer.
+/// What has arrived of a response.
 struct Response {
     std::size_t maxBytes = 0;
     std::string bytes;
-    /// The head came to its end, a blank line. A connection that closes before it leaves an answer
-    /// that looks like an empty one.
+    /// The blank line after the headers has come. Without it, a connection that closed among the
+    /// headers would look like an empty response.
     bool headerComplete = false;
 };
 
 // What is taken is fewer than what came when it is too much, which ends the fetch.
-std::size_t TakeBytes(const char* bytes, std::size_t /*eins*/, std::size_t count, void* target) {
-    auto& answer = *static_cast<Response*>(target);
-    if (count > answer.maxBytes - answer.bytes.size()) {
+std::size_t TakeBytes(const char* bytes, std::size_t /*one*/, std::size_t count, void* target) {
+    auto& response = *static_cast<Response*>(target);
+    if (count > response.maxBytes - response.bytes.size()) {
         return 0;
     }
-    answer.bytes.append(bytes, count);
+    response.bytes.append(bytes, count);
     return count;
 }
 
-// Redirects and proxies have heads of their own before that of the answer; a body in chunks can
-// have further lines behind it.
-std::size_t TakeHeaderLine(const char* bytes, std::size_t /*eins*/, std::size_t count,
+// Redirects and proxies send headers of their own before those of the response, and a chunked body
+// can be followed by trailers.
+std::size_t TakeHeaderLine(const char* bytes, std::size_t /*one*/, std::size_t count,
                            void* target) {
-    auto& answer = *static_cast<Response*>(target);
+    auto& response = *static_cast<Response*>(target);
     const std::string_view line(bytes, count);
     if (line.starts_with("HTTP/")) {
-        answer.headerComplete = false;
-        answer.bytes.clear();
+        response.headerComplete = false;
+        response.bytes.clear();
     } else if (line == "\r\n" || line == "\n") {
-        answer.headerComplete = true;
+        response.headerComplete = true;
     }
     return count;
 }
 
-using Query = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
+using Request = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
 
-Query NewQuery(const std::string& address, std::chrono::milliseconds duration, Response& answer) {
+Request NewRequest(const std::string& address, std::chrono::milliseconds duration,
+                   Response& response) {
     constexpr long kMaxRedirects = 5;
-    Query query(curl_easy_init(), &curl_easy_cleanup);
-    const auto set = [&query](CURLoption option, auto value) {
-        curl_easy_setopt(query.get(), option, value);
+    Request request(curl_easy_init(), &curl_easy_cleanup);
+    const auto set = [&request](CURLoption option, auto value) {
+        curl_easy_setopt(request.get(), option, value);
     };
     set(CURLOPT_URL, address.c_str());
     set(CURLOPT_PROTOCOLS_STR, "http,https");
@@ -123,22 +124,22 @@ Query NewQuery(const std::string& address, std::chrono::milliseconds duration, R
     set(CURLOPT_USERAGENT, "Tarvelin");
     set(CURLOPT_ACCEPT_ENCODING, "identity");
     set(CURLOPT_WRITEFUNCTION, &TakeBytes);
-    set(CURLOPT_WRITEDATA, static_cast<void*>(&answer));
+    set(CURLOPT_WRITEDATA, static_cast<void*>(&response));
     set(CURLOPT_HEADERFUNCTION, &TakeHeaderLine);
-    set(CURLOPT_HEADERDATA, static_cast<void*>(&answer));
+    set(CURLOPT_HEADERDATA, static_cast<void*>(&response));
     set(CURLOPT_NOSIGNAL, 1L);
     // Where the platform checks certificates, a revocation list out of reach ends no fetch: as in
     // browsers.
     set(CURLOPT_SSL_OPTIONS, static_cast<long>(CURLSSLOPT_REVOKE_BEST_EFFORT));
     // A name server that never answers doesn't hold up the end of the program.
     set(CURLOPT_QUICK_EXIT, 1L);
-    return query;
+    return request;
 }
 
-bool IsOk(CURL* query) {
+bool IsOk(CURL* request) {
     constexpr long kOk = 200;
     long status = 0;
-    return curl_easy_getinfo(query, CURLINFO_RESPONSE_CODE, &status) == CURLE_OK && status == kOk;
+    return curl_easy_getinfo(request, CURLINFO_RESPONSE_CODE, &status) == CURLE_OK && status == kOk;
 }
 
 }  // namespace
@@ -154,26 +155,26 @@ class NetworkLibrary {
 
 class HttpFetcher::Connections {
   public:
-    /// The result of the fetch, or nothing if `further` ended it. The screen lives on meanwhile.
-    template <class Further>
-    std::optional<CURLcode> Perform(CURL* query, Further further) {
+    /// The result of the fetch; nothing if `keepGoing` ended it. Events are processed meanwhile.
+    template <class KeepGoing>
+    std::optional<CURLcode> Perform(CURL* request, KeepGoing keepGoing) {
         constexpr int kSlice = 10;
-        curl_multi_add_handle(m_all.get(), query);
+        curl_multi_add_handle(m_all.get(), request);
         std::optional<CURLcode> result;
         int running = 0;
         while (curl_multi_perform(m_all.get(), &running) == CURLM_OK && running > 0) {
             QCoreApplication::processEvents();
-            if (!further()) {
+            if (!keepGoing()) {
                 break;
             }
             curl_multi_poll(m_all.get(), nullptr, 0, kSlice, nullptr);
         }
         int remaining = 0;
         const CURLMsg* const message = curl_multi_info_read(m_all.get(), &remaining);
-        if (message != nullptr && message->easy_handle == query) {
+        if (message != nullptr && message->easy_handle == request) {
             result = message->data.result;
         }
-        curl_multi_remove_handle(m_all.get(), query);
+        curl_multi_remove_handle(m_all.get(), request);
         return result;
     }
 
@@ -195,12 +196,12 @@ std::optional<std::string> HttpFetcher::Fetch(const std::string& address) {
     }
     const QScopedValueRollback running(m_running, true);
     const InputLock inputLock;
-    Response answer{.maxBytes = m_limits.bytes, .bytes = {}};
-    const Query query = NewQuery(url, m_limits.duration, answer);
+    Response response{.maxBytes = m_limits.bytes, .bytes = {}};
+    const Request request = NewRequest(url, m_limits.duration, response);
     m_aborted = false;
-    const auto result = m_connections->Perform(query.get(), [this] { return !m_aborted; });
-    const bool whole = result == CURLE_OK && answer.headerComplete && IsOk(query.get());
-    return whole ? std::optional(std::move(answer.bytes)) : std::nullopt;
+    const auto result = m_connections->Perform(request.get(), [this] { return !m_aborted; });
+    const bool whole = result == CURLE_OK && response.headerComplete && IsOk(request.get());
+    return whole ? std::optional(std::move(response.bytes)) : std::nullopt;
 }
 
 void HttpFetcher::ProcessEvents() {

@@ -20,7 +20,7 @@ const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString kInterface = QStringLiteral("org.freedesktop.portal.Settings");
 
-/// 1 asks for dark windows; an answer may stand within another.
+/// 1 asks for dark windows. The value may be wrapped in variants, even twice.
 bool AsksForDark(QVariant value) {
     while (value.canConvert<QDBusVariant>()) {
         value = value.value<QDBusVariant>().variant();
@@ -35,16 +35,16 @@ PortalColorScheme::PortalColorScheme(QObject* context, std::function<void(bool)>
     QDBusConnection bus = QDBusConnection::sessionBus();
     bus.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
                 SLOT(SettingChanged(QString, QString, QDBusVariant)));
-    QDBusMessage question =
+    QDBusMessage request =
         QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("Read"));
-    question << kNamespace << kKey;
-    auto* const answer = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-        const QDBusPendingReply<QDBusVariant> value = *answer;
+    request << kNamespace << kKey;
+    auto* const watcher = new QDBusPendingCallWatcher(bus.asyncCall(request), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        const QDBusPendingReply<QDBusVariant> value = *watcher;
         if (!value.isError()) {
             m_report(AsksForDark(value.value().variant()));
         }
-        answer->deleteLater();
+        watcher->deleteLater();
     });
 }
 

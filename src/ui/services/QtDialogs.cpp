@@ -120,7 +120,7 @@ void FollowFormats(QFileDialog& dialog, const QStringList& formats) {
 }  // namespace
 
 int QtDialogs::Exec(QDialog& dialog) {
-    if (m_finished) {
+    if (m_closed) {
         return QDialog::Rejected;
     }
     m_open.push_back(&dialog);
@@ -130,7 +130,7 @@ int QtDialogs::Exec(QDialog& dialog) {
 }
 
 void QtDialogs::CloseAll() {
-    m_finished = true;
+    m_closed = true;
     for (QDialog* const dialog : m_open) {
         dialog->reject();
     }

@@ -25,7 +25,7 @@ class QtDialogs final : public Dialogs {
 
     /// The innermost last.
     std::vector<QDialog*> m_open;
-    bool m_finished = false;
+    bool m_closed = false;
 };
 
 }  // namespace tarvelin

@@ -10,7 +10,7 @@ namespace tarvelin {
 SoundPlayer::SoundPlayer() = default;
 SoundPlayer::~SoundPlayer() = default;
 
-void SoundPlayer::Play(const std::filesystem::path& /*datei*/) {
+void SoundPlayer::Play(const std::filesystem::path& /*file*/) {
     QApplication::beep();
 }
 

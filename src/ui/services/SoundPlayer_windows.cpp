@@ -20,11 +20,11 @@ namespace {
 Wave Playable(Wave wave) {
     constexpr int kLong = 32;
     if (wave.bits == kLong) {
-        std::string shortName;
+        std::string shortened;
         for (std::size_t i = 0; i < wave.samples.size(); i += 4) {
-            shortName.append(wave.samples, i + 2, 2);
+            shortened.append(wave.samples, i + 2, 2);
         }
-        wave.samples = std::move(shortName);
+        wave.samples = std::move(shortened);
         wave.bits = kLong / 2;
     }
     return wave;

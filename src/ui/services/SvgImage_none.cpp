@@ -7,7 +7,7 @@ bool HasSvg() {
     return false;
 }
 
-QByteArray ToSvg(const QSize& /*groesse*/, const std::function<void(QPainter&)>& /*male*/) {
+QByteArray ToSvg(const QSize& /*size*/, const std::function<void(QPainter&)>& /*draw*/) {
     return {};
 }
 

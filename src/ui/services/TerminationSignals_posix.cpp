@@ -33,10 +33,10 @@ void Handle(int signal) {
         previous.sa_handler == SIG_IGN) {
         return;
     }
-    struct sigaction fresh {};
-    fresh.sa_handler = Report;
-    fresh.sa_flags = SA_RESTART;
-    ::sigaction(signal, &fresh, nullptr);
+    struct sigaction action {};
+    action.sa_handler = Report;
+    action.sa_flags = SA_RESTART;
+    ::sigaction(signal, &action, nullptr);
 }
 
 }  // namespace

@@ -92,11 +92,11 @@ TextInput::TextInput(const QString& name, const QString& accessibleName, int lim
     setFixedHeight(kHeight);
     setMaxLength(limit);
     connect(this, &QLineEdit::textChanged, this,
-            [this](const QString& fresh) { LimitTo(fresh.size()); });
+            [this](const QString& changed) { LimitTo(changed.size()); });
 }
 
-bool TextInput::Assign(const std::string& after) {
-    const QString text = ToQString(after);
+bool TextInput::Assign(const std::string& value) {
+    const QString text = ToQString(value);
     if (text == this->text()) {
         return false;
     }
@@ -107,8 +107,8 @@ bool TextInput::Assign(const std::string& after) {
 }
 
 // A new limit sends the cursor to the end, so it is set only when it differs.
-void TextInput::LimitTo(qsizetype standing) {
-    const int limit = std::max(m_limit, static_cast<int>(standing));
+void TextInput::LimitTo(qsizetype length) {
+    const int limit = std::max(m_limit, static_cast<int>(length));
     if (limit != maxLength()) {
         const int position = cursorPosition();
         setMaxLength(limit);
@@ -129,17 +129,17 @@ void NumberLabel::Assign(const QString& number) {
     RefreshHint();
 }
 
-QString NumberLabel::ElidedAt() const {
+QString NumberLabel::Elided() const {
     return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
 }
 
 void NumberLabel::RefreshHint() {
-    SetHint(*this, ElidedAt() == text() ? QString() : text());
+    SetHint(*this, Elided() == text() ? QString() : text());
 }
 
 void NumberLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    const QString elided = ElidedAt();
+    const QString elided = Elided();
     const Qt::Alignment position =
         elided == text() ? alignment() : Qt::AlignLeft | Qt::AlignVCenter;
     style()->drawItemText(&painter, contentsRect(), static_cast<int>(position), palette(),

@@ -62,11 +62,11 @@ class TextInput : public QLineEdit {
     TextInput(const QString& name, const QString& accessibleName, int limit, QWidget* parent);
 
     /// Sets a text of any length. Whether it differs from the one before.
-    bool Assign(const std::string& after);
+    bool Assign(const std::string& value);
     [[nodiscard]] std::string Utf8() const { return text().toStdString(); }
 
   private:
-    void LimitTo(qsizetype standing);
+    void LimitTo(qsizetype length);
 
     int m_limit;
 };
@@ -86,7 +86,7 @@ class NumberLabel : public QLabel {
 
   private:
     /// The text as far as it fits.
-    [[nodiscard]] QString ElidedAt() const;
+    [[nodiscard]] QString Elided() const;
     void RefreshHint();
 };
 

@@ -79,9 +79,9 @@ void ItemPicture::paintEvent(QPaintEvent* event) {
         QPainter(this).drawRect(rect().adjusted(0, 0, -1, -1));
     }
     if (hasFocus()) {
-        constexpr int kTick = 3;
+        constexpr int kPenWidth = 3;
         QPainter painter(this);
-        painter.setPen(QPen(palette().highlight(), kTick));
+        painter.setPen(QPen(palette().highlight(), kPenWidth));
         painter.drawRect(rect().adjusted(1, 1, -2, -2));
     }
 }

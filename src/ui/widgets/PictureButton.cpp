@@ -22,8 +22,8 @@ void PictureButton::SetPicture(const QPixmap& picture) {
     }
 }
 
-void PictureButton::SetDimmed(bool pale) {
-    m_pale = pale;
+void PictureButton::SetDimmed(bool dimmed) {
+    m_dimmed = dimmed;
     update();
 }
 
@@ -31,7 +31,7 @@ void PictureButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     constexpr qreal kPale = 0.3;
-    painter.setOpacity(m_pale ? kPale : 1);
+    painter.setOpacity(m_dimmed ? kPale : 1);
     painter.drawPixmap(rect(), m_picture);
     painter.setOpacity(1);
     if (hasFocus()) {

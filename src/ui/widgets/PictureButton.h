@@ -16,14 +16,14 @@ class PictureButton : public QAbstractButton {
     void SetPicture(const QPixmap& picture);
 
     /// Shows that a press would be refused.
-    void SetDimmed(bool pale);
+    void SetDimmed(bool dimmed);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
     QPixmap m_picture;
-    bool m_pale = false;
+    bool m_dimmed = false;
 };
 
 }  // namespace tarvelin

@@ -9,8 +9,8 @@ namespace {
 
 /// A pointer picture of 32 pixels, drawn for the screen's scale.
 QPixmap LoadCursor(const std::filesystem::path& file, qreal scaling) {
-    constexpr int kPage = 32;
-    return LoadIconFile(file).pixmap(QSize(kPage, kPage), scaling);
+    constexpr int kSide = 32;
+    return LoadIconFile(file).pixmap(QSize(kSide, kSide), scaling);
 }
 
 }  // namespace

@@ -6,11 +6,11 @@
 
 namespace tarvelin {
 
-TableModel::TableModel(QStringList headers, Provider source, QObject* parent)
-    : QAbstractTableModel(parent), m_headers(std::move(headers)), m_source(std::move(source)) {}
+TableModel::TableModel(QStringList headers, Provider provider, QObject* parent)
+    : QAbstractTableModel(parent), m_headers(std::move(headers)), m_provider(std::move(provider)) {}
 
 void TableModel::Refresh() {
-    const auto rows = static_cast<int>(m_source.rows());
+    const auto rows = static_cast<int>(m_provider.rows());
     if (rows > m_rows) {
         beginInsertRows({}, m_rows, rows - 1);
         m_rows = rows;
@@ -36,18 +36,18 @@ int TableModel::columnCount(const QModelIndex& parent) const {
 QVariant TableModel::data(const QModelIndex& index, int role) const {
     const auto row = static_cast<std::size_t>(index.row());
     // A view may ask while rows are going.
-    if (!index.isValid() || row >= m_source.rows()) {
+    if (!index.isValid() || row >= m_provider.rows()) {
         return {};
     }
     if (role == Qt::DisplayRole) {
-        return m_source.text(row, index.column());
+        return m_provider.text(row, index.column());
     }
-    if (role == Qt::ForegroundRole && m_source.color) {
-        return m_source.color(row, index.column());
+    if (role == Qt::ForegroundRole && m_provider.color) {
+        return m_provider.color(row, index.column());
     }
     if ((role == Qt::AccessibleDescriptionRole || role == Qt::ToolTipRole) &&
-        m_source.description) {
-        return m_source.description(row);
+        m_provider.description) {
+        return m_provider.description(row);
     }
     return {};
 }

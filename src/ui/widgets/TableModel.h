@@ -23,7 +23,7 @@ class TableModel : public QAbstractTableModel {
         std::function<QString(std::size_t)> description = {};
     };
 
-    TableModel(QStringList headers, Provider source, QObject* parent);
+    TableModel(QStringList headers, Provider provider, QObject* parent);
 
     void Refresh();
 
@@ -35,7 +35,7 @@ class TableModel : public QAbstractTableModel {
 
   private:
     QStringList m_headers;
-    Provider m_source;
+    Provider m_provider;
     int m_rows = 0;
 };
 

@@ -15,21 +15,21 @@ ComparisonPage::ComparisonPage(const Environment& environment, QWidget* parent)
     : QWidget(parent),
       m_environment(environment),
       m_rememberButton(new QPushButton(QStringLiteral("&Merken"), this)),
-      m_file(new QPushButton(QStringLiteral("Mit &Datei..."), this)),
+      m_fileButton(new QPushButton(QStringLiteral("Mit &Datei..."), this)),
       m_clearButton(new QPushButton(QStringLiteral("&Ohne"), this)),
-      m_name(NewLabel(QStringLiteral("LBL_Vergleich"), {}, this)),
+      m_nameLabel(NewLabel(QStringLiteral("LBL_Vergleich"), {}, this)),
       m_summaryList(
           NewTable("LV_Kennzahlen", "Kennzahlen im Vergleich", "", m_summaries, &m_summaryModel)),
       m_orderList(NewTable("LV_Unterschiede", "Aufträge zu anderer Zeit", "Auftrag", m_orders,
                            &m_orderModel)) {
     setObjectName(QStringLiteral("Vergleichsfeld"));
     m_rememberButton->setObjectName(QStringLiteral("Cmd_Merken"));
-    m_file->setObjectName(QStringLiteral("Cmd_MitDatei"));
+    m_fileButton->setObjectName(QStringLiteral("Cmd_MitDatei"));
     m_clearButton->setObjectName(QStringLiteral("Cmd_OhneVergleich"));
     m_rememberButton->setToolTip(
         QStringLiteral("Der Plan, wie er jetzt ist, wird zum Vergleich behalten"));
     connect(m_rememberButton, &QPushButton::clicked, this, &ComparisonPage::Remember);
-    connect(m_file, &QPushButton::clicked, this, &ComparisonPage::LoadOther);
+    connect(m_fileButton, &QPushButton::clicked, this, &ComparisonPage::LoadOther);
     connect(m_clearButton, &QPushButton::clicked, this, &ComparisonPage::ClearOther);
     Arrange();
     Recompare();
@@ -61,12 +61,12 @@ ListView* ComparisonPage::NewTable(const char* name, const char* accessibleName,
 
 void ComparisonPage::Arrange() {
     auto* const buttons = new QHBoxLayout;
-    for (QPushButton* const button : {m_rememberButton, m_file, m_clearButton}) {
+    for (QPushButton* const button : {m_rememberButton, m_fileButton, m_clearButton}) {
         buttons->addWidget(button);
     }
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(buttons);
-    layout->addWidget(m_name);
+    layout->addWidget(m_nameLabel);
     layout->addWidget(m_summaryList, 2);
     layout->addWidget(m_orderList, 3);
 }
@@ -92,14 +92,14 @@ void ComparisonPage::LoadOther() {
     if (file.empty()) {
         return;
     }
-    const PlanRun document(PathToQString(file.filename()).toStdString(),
-                           IniFile::Load(file, m_environment.files));
-    if (!document.hasRun) {
-        emit Notice(document.messages.empty() ? "" : document.messages.back().text);
+    const PlanRun other(PathToQString(file.filename()).toStdString(),
+                        IniFile::Load(file, m_environment.files));
+    if (!other.hasRun) {
+        emit Notice(other.messages.empty() ? "" : other.messages.back().text);
         return;
     }
-    emit Notice(document.run.state.IsAtEndOfClock() ? BeyondClockText() : "");
-    SetOther(document.Trace(), QStringLiteral("Verglichen mit ") + ToQString(document.name));
+    emit Notice(other.run.state.IsAtEndOfClock() ? BeyondClockText() : "");
+    SetOther(other.Trace(), QStringLiteral("Verglichen mit ") + ToQString(other.name));
 }
 
 void ComparisonPage::ClearOther() {
@@ -108,7 +108,7 @@ void ComparisonPage::ClearOther() {
 
 void ComparisonPage::SetOther(std::optional<RunTrace> other, const QString& name) {
     m_other = std::move(other);
-    m_name->setText(name);
+    m_nameLabel->setText(name);
     Recompare();
     emit OtherRunChanged();
 }

@@ -53,9 +53,9 @@ class ComparisonPage : public QWidget {
     std::vector<ComparisonText> m_summaries;
     std::vector<ComparisonText> m_orders;
     QPushButton* m_rememberButton;
-    QPushButton* m_file;
+    QPushButton* m_fileButton;
     QPushButton* m_clearButton;
-    QLabel* m_name;
+    QLabel* m_nameLabel;
     TableModel* m_summaryModel = nullptr;
     TableModel* m_orderModel = nullptr;
     ListView* m_summaryList;

@@ -29,16 +29,16 @@ ItemPalette::ItemPalette(QWidget* parent) : QWidget(parent), m_layout(new QGridL
 }
 
 void ItemPalette::AddPictures() {
-    int slot = 0;
+    int index = 0;
     for (const ItemDisplay& display : ItemDisplays()) {
         auto* const picture =
             new PalettePicture(ToQString(display.pictureName), QSize(0, 0), {}, this);
         picture->setAccessibleName(ToQString(RowOf(display.item).name));
-        m_layout->addWidget(picture, slot / kPerRow, slot % kPerRow);
+        m_layout->addWidget(picture, index / kPerRow, index % kPerRow);
         connect(picture, &QAbstractButton::clicked, this,
                 [this, item = display.item] { emit ItemChosen(item); });
         m_pictures[display.item] = picture;
-        ++slot;
+        ++index;
     }
 }
 
@@ -81,11 +81,11 @@ void ItemPalette::SetPictures(const PerItem<QPixmap>& pictures) {
 void ItemPalette::SetObjections(
     const std::function<std::optional<std::string>(ItemId)>& objection) {
     for (const ItemDisplay& display : ItemDisplays()) {
-        const auto word = objection(display.item);
+        const auto refusal = objection(display.item);
         PalettePicture& picture = *m_pictures[display.item];
-        picture.SetDimmed(word.has_value());
-        const QString reason = ToQString(word.value_or(""));
-        SetHint(picture, word ? reason : ToQString(RowOf(display.item).name));
+        picture.SetDimmed(refusal.has_value());
+        const QString reason = ToQString(refusal.value_or(""));
+        SetHint(picture, refusal ? reason : ToQString(RowOf(display.item).name));
         picture.setAccessibleDescription(reason);
     }
 }

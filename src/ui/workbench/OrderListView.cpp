@@ -42,12 +42,12 @@ class DraggableRows : public TableModel {
 
 }  // namespace
 
-OrderListView::OrderListView(const TableModel::Provider& source, QWidget* parent)
+OrderListView::OrderListView(const TableModel::Provider& provider, QWidget* parent)
     : ListView(QStringLiteral("LV_Werkbank"), QStringLiteral("Aufträge"), ColumnWidths(), parent),
       m_model(new DraggableRows(
           {QStringLiteral("Nr."), QStringLiteral("Auftrag"), QStringLiteral("Start"),
            QStringLiteral("Fertig"), QStringLiteral("Grund"), QStringLiteral("Prod %")},
-          source, this)) {
+          provider, this)) {
     setModel(m_model);
     setSelectionMode(ExtendedSelection);
     setTextElideMode(Qt::ElideRight);

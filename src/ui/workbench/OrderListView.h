@@ -13,7 +13,7 @@ class OrderListView : public ListView {
     Q_OBJECT
 
   public:
-    explicit OrderListView(const TableModel::Provider& source, QWidget* parent);
+    explicit OrderListView(const TableModel::Provider& provider, QWidget* parent);
 
     /// Tells that the rows have changed; these are chosen then, the first of them in sight.
     void Refresh(const std::vector<std::size_t>& chosen);

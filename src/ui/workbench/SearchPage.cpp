@@ -1,4 +1,4 @@
-// From the inputs to a search, and from its news to the screen.
+// Turns the inputs into a search and shows what it reports.
 #include "ui/workbench/SearchPage.h"
 
 #include <QHBoxLayout>
@@ -17,7 +17,7 @@ namespace tarvelin {
 namespace {
 
 template <class T>
-T* Added(const char* name, const char* accessibleName, QWidget* parent) {
+T* NewInput(const char* name, const char* accessibleName, QWidget* parent) {
     auto* const input = new T(parent);
     input->setObjectName(QString::fromLatin1(name));
     input->setAccessibleName(QString::fromUtf8(accessibleName));
@@ -45,8 +45,8 @@ OrderList ListFrom(const std::vector<Order>& orders) {
 }
 
 /// How much of a search is done, from 0 to 1.
-double UnitInterval(std::uint64_t tries, std::uint64_t from) {
-    return from == 0 ? 1 : static_cast<double>(tries) / static_cast<double>(from);
+double ShareDone(std::uint64_t tries, std::uint64_t total) {
+    return total == 0 ? 1 : static_cast<double>(tries) / static_cast<double>(total);
 }
 
 int ToPercent(double share) {
@@ -68,24 +68,24 @@ SearchPage::SearchPage(const Plan& plan, const Environment& environment,
       m_plan(plan),
       m_environment(environment),
       m_chosen(std::move(chosen)),
-      m_task(Added<QComboBox>("Comb_Suchaufgabe", "Aufgabe der Suche", this)),
-      m_goal(Added<QLineEdit>("txt_Suchziel", "Ziel der Suche", this)),
+      m_task(NewInput<QComboBox>("Comb_Suchaufgabe", "Aufgabe der Suche", this)),
+      m_goal(NewInput<QLineEdit>("txt_Suchziel", "Ziel der Suche", this)),
       m_pinned(NewCheckBox("Chk_Fest", "Gewählte Zeilen bleiben &fest", this)),
       m_free(NewCheckBox("Chk_Frei", "Produktionszeilen wandern &mit", this)),
-      m_from(NewCheckBox("Chk_AbJetzt", "Ab &jetzt: was begonnen hat, bleibt", this)),
+      m_fromNow(NewCheckBox("Chk_AbJetzt", "Ab &jetzt: was begonnen hat, bleibt", this)),
       m_sittings(NewCheckBox("Chk_Sitzungen", "Weniger Sit&zungen, länger um", this)),
-      m_slack(Added<QDoubleSpinBox>("Spin_Nachlass", "Prozent länger", this)),
-      m_tries(Added<QSpinBox>("Spin_Versuche", "Zahl der Versuche", this)),
+      m_slack(NewInput<QDoubleSpinBox>("Spin_Nachlass", "Prozent länger", this)),
+      m_tries(NewInput<QSpinBox>("Spin_Versuche", "Zahl der Versuche", this)),
       m_searchButton(NewSearchButton("Cmd_Suchen", "&Suchen", this)),
       m_stopButton(NewSearchButton("Cmd_Anhalten", "Anhal&ten", this)),
       m_acceptButton(NewSearchButton("Cmd_Uebernehmen", "Über&nehmen", this)),
-      m_bar(Added<QProgressBar>("Suchbalken", "Fortschritt der Suche", this)),
-      m_curve(new ConvergencePlot(this)),
-      m_state(NewLabel(QStringLiteral("LBL_Suche"), {}, this)) {
+      m_progressBar(NewInput<QProgressBar>("Suchbalken", "Fortschritt der Suche", this)),
+      m_plot(new ConvergencePlot(this)),
+      m_reportLabel(NewLabel(QStringLiteral("LBL_Suche"), {}, this)) {
     setObjectName(QStringLiteral("Suchfeld"));
-    m_state->setWordWrap(true);
-    m_state->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    m_state->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_reportLabel->setWordWrap(true);
+    m_reportLabel->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_reportLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* const form = new QFormLayout;
     AddInputs(*form);
     auto* const buttons = new QHBoxLayout;
@@ -95,9 +95,9 @@ SearchPage::SearchPage(const Plan& plan, const Environment& environment,
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(form);
     layout->addLayout(buttons);
-    layout->addWidget(m_bar);
-    layout->addWidget(m_curve);
-    layout->addWidget(m_state, 1);
+    layout->addWidget(m_progressBar);
+    layout->addWidget(m_plot);
+    layout->addWidget(m_reportLabel, 1);
     ConnectSignals();
     EnableControls();
 }
@@ -126,7 +126,7 @@ void SearchPage::AddInputs(QFormLayout& form) {
     form.addRow(QStringLiteral("Ziel:"), m_goal);
     form.addRow(m_pinned);
     form.addRow(m_free);
-    form.addRow(m_from);
+    form.addRow(m_fromNow);
     form.addRow(sittings);
     form.addRow(QStringLiteral("Versuche:"), m_tries);
 }
@@ -137,8 +137,7 @@ void SearchPage::ConnectSignals() {
     connect(m_searchButton, &QPushButton::clicked, this, &SearchPage::StartSearch);
     connect(m_stopButton, &QPushButton::clicked, this, &SearchPage::StopSearch);
     connect(m_acceptButton, &QPushButton::clicked, this, &SearchPage::AcceptResult);
-    // They come from another thread. News of a search that was followed by another one come to
-    // nothing.
+    // Emitted on the search's thread. Reports of an earlier search are dropped.
     connect(
         this, &SearchPage::ProgressReceived, this,
         [this](int number, const SearchProgress& progress) {
@@ -162,7 +161,7 @@ void SearchPage::EnableControls() {
     m_slack->setEnabled(m_sittings->isChecked());
     m_searchButton->setEnabled(!m_running);
     m_stopButton->setEnabled(m_running);
-    m_acceptButton->setEnabled(!m_running && m_wanted && m_wanted->best);
+    m_acceptButton->setEnabled(!m_running && m_searched && m_searched->best);
 }
 
 SearchRequest SearchPage::MakeRequest() const {
@@ -175,7 +174,7 @@ SearchRequest SearchPage::MakeRequest() const {
             request.pinnedRanges.emplace_back(row + 1, row + 1);
         }
     }
-    if (m_from->isChecked()) {
+    if (m_fromNow->isChecked()) {
         request.notBefore = m_environment.now();
     }
     return request;
@@ -196,15 +195,15 @@ void SearchPage::StartSearch() {
         return;
     }
     emit Notice("");
-    m_wanted = {.before = m_plan, .task = std::get<PlanTask>(task), .best = {}};
-    m_curve->Clear();
-    m_bar->setValue(0);
-    m_state->clear();
+    m_searched = {.plan = m_plan, .task = std::get<PlanTask>(task), .best = {}};
+    m_plot->Clear();
+    m_progressBar->setValue(0);
+    m_reportLabel->clear();
     m_running = true;
     EnableControls();
     const int number = ++m_number;
     m_search = std::make_unique<BackgroundSearch>(
-        m_wanted->task, MakeBudget(),
+        m_searched->task, MakeBudget(),
         BackgroundSearch::Listener{
             .onProgress =
                 [this, number](const SearchProgress& progress) {
@@ -221,10 +220,10 @@ void SearchPage::StopSearch() {
 }
 
 void SearchPage::ShowProgress(const SearchProgress& progress) {
-    const double share = UnitInterval(progress.tries, progress.totalTries);
-    m_bar->setValue(ToPercent(share));
-    m_curve->AddPoint(share, progress.bestDuration);
-    m_state->setText(
+    const double share = ShareDone(progress.tries, progress.totalTries);
+    m_progressBar->setValue(ToPercent(share));
+    m_plot->AddPoint(share, progress.bestDuration);
+    m_reportLabel->setText(
         ToQString("Bisher: " + TimeSpanText(progress.bestDuration) + " (" +
                   SignedTimeSpanText(-progress.gain) + ")\n" + std::to_string(progress.tries) +
                   " von " + std::to_string(progress.totalTries) + " Versuchen, " +
@@ -234,17 +233,17 @@ void SearchPage::ShowProgress(const SearchProgress& progress) {
 void SearchPage::ShowSearchResult(const SearchResult& result) {
     m_search.reset();
     m_running = false;
-    m_wanted->best = result.best;
-    m_bar->setValue(ToPercent(UnitInterval(result.tries, result.totalTries)));
-    m_state->setText(result.best
-                         ? ToQString(ReportText() + "\nVersuche: " + std::to_string(result.tries))
-                         : QStringLiteral("Es wurde keine Liste gefunden, die endet."));
+    m_searched->best = result.best;
+    m_progressBar->setValue(ToPercent(ShareDone(result.tries, result.totalTries)));
+    m_reportLabel->setText(
+        result.best ? ToQString(ReportText() + "\nVersuche: " + std::to_string(result.tries))
+                    : QStringLiteral("Es wurde keine Liste gefunden, die endet."));
     EnableControls();
 }
 
 std::string SearchPage::ReportText() const {
-    const Solution& after = *m_wanted->best;
-    const auto& before = m_wanted->task.before;
+    const Solution& after = *m_searched->best;
+    const auto& before = m_searched->task.before;
     std::string text =
         "Vorher: " +
         (before ? SolutionText(*before) : "der Plan endet nie oder verfehlt das Ziel") +
@@ -253,14 +252,14 @@ std::string SearchPage::ReportText() const {
         text +=
             "\nUnterschied: " + SignedTimeSpanText(after.score.duration - before->score.duration);
     }
-    const OrderList& oldOrders = m_wanted->before.LV_Bauliste.Orders();
+    const OrderList& oldOrders = m_searched->plan.LV_Bauliste.Orders();
     const OrderList newOrders = ListFrom(after.orders);
-    for (const auto& [name, included] :
+    for (const auto& [name, surplus] :
          {std::pair("\nKommt dazu: ", SurplusInWords(newOrders, oldOrders)),
           std::pair("\nEntfällt: ", SurplusInWords(oldOrders, newOrders))}) {
-        text += included.empty() ? "" : name + included;
+        text += surplus.empty() ? "" : name + surplus;
     }
-    const RunConditions& conditions = m_wanted->task.task.conditions;
+    const RunConditions& conditions = m_searched->task.task.conditions;
     if (!oldOrders.IsEmpty()) {
         text += "\nJe Stunde vorher: " + RatesText(TraceRun(oldOrders.All(), conditions).end);
     }
@@ -268,7 +267,7 @@ std::string SearchPage::ReportText() const {
 }
 
 void SearchPage::AcceptResult() {
-    if (SnapshotOf(m_plan) != SnapshotOf(m_wanted->before) &&
+    if (SnapshotOf(m_plan) != SnapshotOf(m_searched->plan) &&
         !m_environment.dialogs.Ask({.text =
                                         "Der Plan wurde seit dem Beginn der Suche geändert. Soll "
                                         "der gefundene trotzdem an seine Stelle treten?",
@@ -277,11 +276,11 @@ void SearchPage::AcceptResult() {
         return;
     }
     std::vector<std::string> tags;
-    for (const Order& order : m_wanted->best->orders) {
+    for (const Order& order : m_searched->best->orders) {
         tags.push_back(order.Tag());
     }
-    const auto pause = m_wanted->task.pause;
-    m_wanted.reset();
+    const auto pause = m_searched->task.pause;
+    m_searched.reset();
     EnableControls();
     emit ResultAccepted(tags, pause);
 }

@@ -58,7 +58,7 @@ class SearchPage : public QWidget {
 
     /// What was searched, and what came of it.
     struct Searched {
-        Plan before;
+        Plan plan;
         PlanTask task;
         std::optional<Solution> best;
     };
@@ -71,17 +71,17 @@ class SearchPage : public QWidget {
     QLineEdit* m_goal;
     QCheckBox* m_pinned;
     QCheckBox* m_free;
-    QCheckBox* m_from;
+    QCheckBox* m_fromNow;
     QCheckBox* m_sittings;
     QDoubleSpinBox* m_slack;
     QSpinBox* m_tries;
     QPushButton* m_searchButton;
     QPushButton* m_stopButton;
     QPushButton* m_acceptButton;
-    QProgressBar* m_bar;
-    ConvergencePlot* m_curve;
-    QLabel* m_state;
-    std::optional<Searched> m_wanted;
+    QProgressBar* m_progressBar;
+    ConvergencePlot* m_plot;
+    QLabel* m_reportLabel;
+    std::optional<Searched> m_searched;
     /// Which search the news are of.
     int m_number = 0;
     bool m_running = false;

@@ -20,8 +20,8 @@ std::string StockText(const RunTrace& trace, SimTime moment) {
                 std::to_string(stock[resource].WholePart()) + " (" +
                 DecimalText(point.ProStunde[resource]) + "/h)";
     }
-    const Long free = LongSum(point.EnergieProduktion, -std::int64_t{point.EnergieVerbrauch});
-    return text + "   Energie: " + std::to_string(free) + " / " +
+    const Long balance = LongSum(point.EnergieProduktion, -std::int64_t{point.EnergieVerbrauch});
+    return text + "   Energie: " + std::to_string(balance) + " / " +
            std::to_string(point.EnergieProduktion);
 }
 

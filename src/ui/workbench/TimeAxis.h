@@ -51,14 +51,14 @@ class TimeAxis {
 
     [[nodiscard]] std::string TickText(DateTime at) const {
         const std::string date = DateText(at);
-        std::string tag = std::string(WeekdayShort(at)) + " " +
+        std::string day = std::string(WeekdayShort(at)) + " " +
                           (m_step > kDay ? date : date.substr(0, date.rfind('.') + 1));
         if (m_step >= kDay) {
-            return tag;
+            return day;
         }
         const std::string timeOfDay = TimeOfDayText(at);
         const bool withSeconds = m_step < kMinute;
-        return tag + " " + (withSeconds ? timeOfDay : timeOfDay.substr(0, timeOfDay.rfind(':')));
+        return day + " " + (withSeconds ? timeOfDay : timeOfDay.substr(0, timeOfDay.rfind(':')));
     }
 
     std::int64_t m_step = 1;

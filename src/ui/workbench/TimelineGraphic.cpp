@@ -16,7 +16,7 @@ namespace tarvelin {
 
 namespace {
 
-/// How much of a lane its bars take; the waits lie below them.
+/// The part of a lane's height that bars take; waits are drawn below them.
 constexpr qreal kBarShare = 0.7;
 constexpr qreal kMargin = 3;
 
@@ -96,7 +96,7 @@ class TimelineGraphic::Renderer {
   private:
     [[nodiscard]] qreal X(qreal second) const { return second * m_perSecond; }
     [[nodiscard]] qreal X(SimTime moment) const { return X(static_cast<qreal>(moment.Seconds())); }
-    [[nodiscard]] QRectF Width(const QRectF& surface) const {
+    [[nodiscard]] QRectF AcrossView(const QRectF& surface) const {
         return {m_left, surface.top(), m_right - m_left, surface.height()};
     }
     [[nodiscard]] bool InView(qreal from, qreal until) const {
@@ -105,21 +105,21 @@ class TimelineGraphic::Renderer {
 
     /// Words at the left of what is in sight, on a ground that keeps them apart from what lies
     /// below. Where they end.
-    qreal DrawWord(qreal x, qreal top, const QString& word, const QColor& color) {
+    qreal DrawLabel(qreal x, qreal top, const QString& text, const QColor& color) {
         const QFontMetricsF metrics(m_graphic.m_font);
-        const QRectF slot(x, top, metrics.horizontalAdvance(word), metrics.height());
+        const QRectF box(x, top, metrics.horizontalAdvance(text), metrics.height());
         QColor background = m_graphic.m_colors.background;
         constexpr int kOpacity = 190;
         background.setAlpha(kOpacity);
-        m_painter.fillRect(slot, background);
+        m_painter.fillRect(box, background);
         m_painter.setPen(color);
-        m_painter.drawText(QPointF(x, top + metrics.ascent()), word);
-        return slot.right();
+        m_painter.drawText(QPointF(x, top + metrics.ascent()), text);
+        return box.right();
     }
 
     void DrawLanes() {
         for (const Lane& lane : kLanes) {
-            m_painter.fillRect(Width(m_graphic.LaneRect(lane.queue)), m_graphic.m_colors.lane);
+            m_painter.fillRect(AcrossView(m_graphic.LaneRect(lane.queue)), m_graphic.m_colors.lane);
         }
     }
 
@@ -159,9 +159,9 @@ class TimelineGraphic::Renderer {
         }
     }
 
-    void DrawWaits(std::size_t number) {
-        const StartEvent& start = m_trace.starts[number];
-        const qreal from = X(m_graphic.WaitsSince(number));
+    void DrawWaits(std::size_t index) {
+        const StartEvent& start = m_trace.starts[index];
+        const qreal from = X(m_graphic.WaitsSince(index));
         const qreal until = X(start.start);
         if (start.delay.cause == DelayCause::None || !InView(from, until) || until <= from) {
             return;
@@ -195,22 +195,22 @@ class TimelineGraphic::Renderer {
                                .adjusted(kMargin, 0, -kMargin, 0));
     }
 
-    void DrawContent(const StartEvent& start, QRectF slot) {
+    void DrawContent(const StartEvent& start, QRectF box) {
         const QPixmap& picture = m_graphic.m_pictures[start.order.item];
-        const qreal side = slot.height() - 2;
-        if (!picture.isNull() && slot.width() >= side) {
-            m_painter.drawPixmap(QRectF(slot.left(), slot.top() + 1, side, side), picture,
+        const qreal side = box.height() - 2;
+        if (!picture.isNull() && box.width() >= side) {
+            m_painter.drawPixmap(QRectF(box.left(), box.top() + 1, side, side), picture,
                                  QRectF(picture.rect()));
-            slot.setLeft(slot.left() + side + kMargin);
+            box.setLeft(box.left() + side + kMargin);
         }
         const QFontMetricsF metrics(m_graphic.m_font);
-        if (slot.width() < metrics.horizontalAdvance(QStringLiteral("Met..."))) {
+        if (box.width() < metrics.horizontalAdvance(QStringLiteral("Met..."))) {
             return;
         }
         m_painter.setPen(m_graphic.m_colors.text);
         m_painter.drawText(
-            slot, static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter),
-            metrics.elidedText(ToQString(OrderText(start)), Qt::ElideRight, slot.width()));
+            box, static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter),
+            metrics.elidedText(ToQString(OrderText(start)), Qt::ElideRight, box.width()));
     }
 
     void DrawProductions() {
@@ -246,28 +246,28 @@ class TimelineGraphic::Renderer {
                      << QPointF(X(until), range.Y(value(point, until), rect));
             }
         });
-        constexpr qreal kTick = 1.5;
-        m_painter.setPen(QPen(color, kTick));
+        constexpr qreal kLineWidth = 1.5;
+        m_painter.setPen(QPen(color, kLineWidth));
         m_painter.drawPolyline(line);
     }
 
     /// The line of nothing, and the words of a field; where they end.
-    qreal DrawField(const QRectF& rect, const Range& range, const QString& name) {
+    qreal DrawScale(const QRectF& rect, const Range& range, const QString& name) {
         m_painter.setPen(m_graphic.m_colors.line);
         const qreal zero = range.Y(0, rect);
         m_painter.drawLine(QPointF(m_left, zero), QPointF(m_right, zero));
         const QString from = range.from < 0
                                  ? QStringLiteral(" von %1").arg(std::ceil(range.from), 0, 'f', 0)
                                  : QString();
-        const QString word =
+        const QString text =
             name + from + QStringLiteral(" bis %1 ").arg(std::floor(range.to), 0, 'f', 0);
-        return DrawWord(m_left + kMargin, rect.top(), word, m_graphic.m_colors.text);
+        return DrawLabel(m_left + kMargin, rect.top(), text, m_graphic.m_colors.text);
     }
 
     void DrawStocks() {
         const QRectF rect = m_graphic.StockRect();
         Range range;
-        const auto take = [&](const RunTrace& trace) {
+        const auto include = [&](const RunTrace& trace) {
             ForEachPiece(trace, [&](const HistoryPoint& point, SimTime until) {
                 for (const Resource resource : kResources) {
                     range.Include(StockNumber(point, point.time, resource));
@@ -275,9 +275,9 @@ class TimelineGraphic::Renderer {
                 }
             });
         };
-        take(m_trace);
+        include(m_trace);
         if (m_graphic.m_other) {
-            take(*m_graphic.m_other);
+            include(*m_graphic.m_other);
         }
         m_painter.setRenderHint(QPainter::Antialiasing);
         for (const Resource resource : kResources) {
@@ -294,12 +294,12 @@ class TimelineGraphic::Renderer {
             DrawCurve(m_trace, rect, range, color, stock);
         }
         m_painter.setRenderHint(QPainter::Antialiasing, false);
-        qreal x = DrawField(rect, range, QStringLiteral("Vorräte"));
+        qreal x = DrawScale(rect, range, QStringLiteral("Vorräte"));
         for (const Resource resource : kResources) {
             const QString end(resource == kResources.back() ? 1 : 0, QLatin1Char(' '));
-            x = DrawWord(x, rect.top(),
-                         QStringLiteral("  ") + ToQString(kResourceNames[resource]) + end,
-                         m_graphic.m_colors.stock[resource]);
+            x = DrawLabel(x, rect.top(),
+                          QStringLiteral("  ") + ToQString(kResourceNames[resource]) + end,
+                          m_graphic.m_colors.stock[resource]);
         }
     }
 
@@ -320,15 +320,15 @@ class TimelineGraphic::Renderer {
                        std::abs(zero - y)),
                 balance < 0 ? m_graphic.m_colors.energyDeficit : m_graphic.m_colors.energy);
         });
-        DrawField(rect, range, QStringLiteral("Energie"));
+        DrawScale(rect, range, QStringLiteral("Energie"));
     }
 
     void DrawNames() {
         const qreal height = QFontMetricsF(m_graphic.m_font).height();
         for (const Lane& lane : kLanes) {
             const qreal bottom = m_graphic.LaneRect(lane.queue).bottom();
-            DrawWord(m_left + kMargin, bottom - height, QString::fromUtf8(lane.name),
-                     m_graphic.m_colors.line);
+            DrawLabel(m_left + kMargin, bottom - height, QString::fromUtf8(lane.name),
+                      m_graphic.m_colors.line);
         }
     }
 
@@ -405,8 +405,8 @@ qreal TimelineGraphic::EndSecond() const {
 
 QRectF TimelineGraphic::LaneRect(Queue queue) const {
     const auto* const lane = std::ranges::find(kLanes, queue, &Lane::queue);
-    const auto number = static_cast<qreal>(lane == kLanes.end() ? 0 : lane - kLanes.begin());
-    return {0, AxisHeight() + number * (LaneHeight() + kMargin), EndSecond(), LaneHeight()};
+    const auto index = static_cast<qreal>(lane == kLanes.end() ? 0 : lane - kLanes.begin());
+    return {0, AxisHeight() + index * (LaneHeight() + kMargin), EndSecond(), LaneHeight()};
 }
 
 QRectF TimelineGraphic::StockRect() const {
@@ -420,8 +420,8 @@ QRectF TimelineGraphic::EnergyRect() const {
     return {0, top, EndSecond(), m_height - top - kMargin};
 }
 
-SimTime TimelineGraphic::WaitsSince(std::size_t number) const {
-    return number == 0 ? SimTime() : m_trace->starts[number - 1].start;
+SimTime TimelineGraphic::WaitsSince(std::size_t index) const {
+    return index == 0 ? SimTime() : m_trace->starts[index - 1].start;
 }
 
 std::optional<QRectF> TimelineGraphic::BarOf(std::size_t row) const {

@@ -57,7 +57,7 @@ class TimelineGraphic : public QGraphicsItem {
     [[nodiscard]] QRectF StockRect() const;
     [[nodiscard]] QRectF EnergyRect() const;
     /// When the order of a start began to wait.
-    [[nodiscard]] SimTime WaitsSince(std::size_t number) const;
+    [[nodiscard]] SimTime WaitsSince(std::size_t index) const;
 
     std::optional<RunTrace> m_trace;
     std::optional<RunTrace> m_other;

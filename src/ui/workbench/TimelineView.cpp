@@ -121,12 +121,12 @@ void TimelineView::Zoom(qreal factor, int column) {
 
 void TimelineView::wheelEvent(QWheelEvent* event) {
     constexpr qreal kNotch = 120;
-    const QPoint extent = event->angleDelta();
-    if (extent.y() == 0) {
+    const QPoint delta = event->angleDelta();
+    if (delta.y() == 0) {
         QGraphicsView::wheelEvent(event);
         return;
     }
-    Zoom(std::pow(kZoomStep, extent.y() / kNotch), event->position().toPoint().x());
+    Zoom(std::pow(kZoomStep, delta.y() / kNotch), event->position().toPoint().x());
     event->accept();
 }
 

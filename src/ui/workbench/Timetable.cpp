@@ -25,8 +25,8 @@ std::vector<TextRow> Rows(const RunTrace& trace) {
 }
 
 /// Rows between marks; none of the texts has a letter that needs another form.
-std::string Escaped(const std::vector<TextRow>& rows, const char* beforeRow, const char* beforeCell,
-                    const char* between, const char* afterRow) {
+std::string Joined(const std::vector<TextRow>& rows, const char* beforeRow, const char* beforeCell,
+                   const char* between, const char* afterRow) {
     std::string text;
     for (const TextRow& row : rows) {
         text += beforeRow;
@@ -41,11 +41,11 @@ std::string Escaped(const std::vector<TextRow>& rows, const char* beforeRow, con
 }  // namespace
 
 std::string TimetableTsv(const RunTrace& trace) {
-    return Escaped(Rows(trace), "", "", "\t", "\n");
+    return Joined(Rows(trace), "", "", "\t", "\n");
 }
 
 std::string TimetableHtml(const RunTrace& trace) {
-    return "<table>" + Escaped(Rows(trace), "<tr>", "<td>", "</td>", "</td></tr>") + "</table>";
+    return "<table>" + Joined(Rows(trace), "<tr>", "<td>", "</td>", "</td></tr>") + "</table>";
 }
 
 }  // namespace tarvelin

@@ -41,7 +41,7 @@ namespace {
 enum Column { kNumber, kOrder, kStart, kFinish, kDelay, kFactor };
 
 /// Of the window at first, in heights of a line.
-constexpr QSize kRows(96, 54);
+constexpr QSize kInitialLines(96, 54);
 
 /// A palette whose every colour counts, whatever the program's own says.
 QPalette AsOwn(const QPalette& colors) {
@@ -57,7 +57,7 @@ QPalette AsOwn(const QPalette& colors) {
     return own;
 }
 
-QLabel* NewRow(const char* name, const char* accessibleName, QWidget* parent) {
+QLabel* NewTextLabel(const char* name, const char* accessibleName, QWidget* parent) {
     QLabel* const label = NewLabel(QString::fromLatin1(name), {}, parent);
     label->setAccessibleDescription(QString::fromUtf8(accessibleName));
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -67,12 +67,12 @@ QLabel* NewRow(const char* name, const char* accessibleName, QWidget* parent) {
 }  // namespace
 
 Workbench::Workbench(const Plan& plan, const EditHistory& history,
-                     std::function<std::string()> before, const Environment& environment)
+                     std::function<std::string()> leadTime, const Environment& environment)
     : m_plan(plan),
       m_history(history),
-      m_before(std::move(before)),
+      m_leadTime(std::move(leadTime)),
       m_environment(environment),
-      m_messageLabel(NewRow("LBL_Meldung", "Meldung", this)),
+      m_messageLabel(NewTextLabel("LBL_Meldung", "Meldung", this)),
       m_list(new OrderListView(ListProvider(), this)),
       m_pages(new QTabWidget(this)),
       m_palette(new ItemPalette(this)),
@@ -80,10 +80,10 @@ Workbench::Workbench(const Plan& plan, const EditHistory& history,
           plan, environment, [this] { return m_list->ChosenRows(); }, this)),
       m_comparisonPage(new ComparisonPage(environment, this)),
       m_timeline(new TimelineView(this)),
-      m_statusLabel(NewRow("LBL_Stand", "Stand am Zeiger", this)),
-      m_durationLabel(NewRow("LBL_Dauer", "Dauer des Plans", this)),
-      m_changeLabel(NewRow("LBL_Aenderung", "Änderung der Dauer", this)),
-      m_nextOrderLabel(NewRow("LBL_Naechster", "Nächster Auftrag", this)) {
+      m_statusLabel(NewTextLabel("LBL_Stand", "Stand am Zeiger", this)),
+      m_durationLabel(NewTextLabel("LBL_Dauer", "Dauer des Plans", this)),
+      m_changeLabel(NewTextLabel("LBL_Aenderung", "Änderung der Dauer", this)),
+      m_nextOrderLabel(NewTextLabel("LBL_Naechster", "Nächster Auftrag", this)) {
     setObjectName(QStringLiteral("frmWerkbank"));
     setWindowTitle(QStringLiteral("Tarvelin  |  Werkbank"));
     setWindowIcon(LoadIconFile(environment.programFolder / "img" / "icon.ico"));
@@ -113,25 +113,25 @@ QPushButton* Workbench::NewCommandButton(const char* name, const char* text,
 
 /// What is done with the plan, in panels behind each other.
 void Workbench::AddPages() {
-    for (QWidget* const field :
+    for (QWidget* const page :
          {static_cast<QWidget*>(m_palette), static_cast<QWidget*>(m_searchPage)}) {
         // A small screen has no room for all of it.
         auto* const scrollArea = new QScrollArea(this);
-        scrollArea->setWidget(field);
+        scrollArea->setWidget(page);
         scrollArea->setWidgetResizable(true);
         scrollArea->setFrameShape(QFrame::NoFrame);
         scrollArea->setFocusPolicy(Qt::NoFocus);
-        m_pages->addTab(scrollArea, field == m_palette ? QStringLiteral("&Einfügen")
-                                                       : QStringLiteral("Su&che"));
+        m_pages->addTab(scrollArea,
+                        page == m_palette ? QStringLiteral("&Einfügen") : QStringLiteral("Su&che"));
     }
     m_pages->addTab(m_comparisonPage, QStringLiteral("Ver&gleich"));
 }
 
 void Workbench::Arrange() {
     auto* const commands = new QHBoxLayout;
-    m_back = NewCommandButton("Cmd_Zurueck", "&Rückgängig", QKeySequence(Qt::CTRL | Qt::Key_Z),
-                              &Workbench::UndoRequested);
-    m_forward =
+    m_undoButton = NewCommandButton("Cmd_Zurueck", "&Rückgängig",
+                                    QKeySequence(Qt::CTRL | Qt::Key_Z), &Workbench::UndoRequested);
+    m_redoButton =
         NewCommandButton("Cmd_Vor", "&Wiederholen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
                          &Workbench::RedoRequested);
     NewCommandButton("Cmd_Hoch", "&Hoch", QKeySequence(Qt::ALT | Qt::Key_Up), &Workbench::MoveUp);
@@ -269,11 +269,11 @@ void Workbench::Open(const Configuration& configuration) {
             return number ? std::optional(static_cast<int>(*number)) : std::nullopt;
         };
         constexpr QSize kFrame(8, 36);
-        const QSize space = QGuiApplication::primaryScreen()->availableSize() - kFrame;
-        const QSize firstSize = kRows * fontMetrics().height();
+        const QSize room = QGuiApplication::primaryScreen()->availableSize() - kFrame;
+        const QSize firstSize = kInitialLines * fontMetrics().height();
         resize(QSize(read(Configuration::kWorkbenchWidth).value_or(firstSize.width()),
                      read(Configuration::kWorkbenchHeight).value_or(firstSize.height()))
-                   .boundedTo(space)
+                   .boundedTo(room)
                    .expandedTo(QSize(1, 1)));
         const auto left = read(Configuration::kWorkbenchLeft);
         const auto top = read(Configuration::kWorkbenchTop);
@@ -337,18 +337,19 @@ void Workbench::PlayPlan() {
         ShowNotice(MessagesText(*m_trace));
     }
     const bool edited = m_history.CanUndo() || m_history.CanRedo();
-    m_change = edited && m_durationBefore && m_trace
-                   ? std::optional(m_trace->Duration().Seconds() - *m_durationBefore)
-                   : std::nullopt;
+    m_durationChange = edited && m_durationBefore && m_trace
+                           ? std::optional(m_trace->Duration().Seconds() - *m_durationBefore)
+                           : std::nullopt;
 }
 
 void Workbench::ShowFooter() {
     m_durationLabel->setText(m_trace
                                  ? QStringLiteral("Dauer: ") + ToQString(DurationText(m_trace->end))
                                  : QStringLiteral("Dauer: -"));
-    m_changeLabel->setText(m_change ? ToQString(SignedTimeSpanText(*m_change)) : QString());
-    m_back->setEnabled(m_history.CanUndo());
-    m_forward->setEnabled(m_history.CanRedo());
+    m_changeLabel->setText(m_durationChange ? ToQString(SignedTimeSpanText(*m_durationChange))
+                                            : QString());
+    m_undoButton->setEnabled(m_history.CanUndo());
+    m_redoButton->setEnabled(m_history.CanRedo());
 }
 
 void Workbench::ShowChoice() {
@@ -394,8 +395,8 @@ void Workbench::ShowNotice(const std::string& text) {
     m_messageLabel->setToolTip(m_messageLabel->text());
     if (!text.empty()) {
         // Read out at once, wherever the keyboard is.
-        QAccessibleEvent call(m_messageLabel, QAccessible::Alert);
-        QAccessible::updateAccessibility(&call);
+        QAccessibleEvent alert(m_messageLabel, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
     }
 }
 
@@ -470,9 +471,9 @@ void Workbench::CopyTimetable() {
 void Workbench::SaveCalendar() {
     const auto file = m_environment.AskForFile(Dialogs::Purpose::Calendar);
     if (!file.empty()) {
-        const auto state =
+        const auto createdAt =
             std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
-        SaveBytes(file, CalendarText(*m_trace, ParseLeadTime(m_before()), state));
+        SaveBytes(file, CalendarText(*m_trace, ParseLeadTime(m_leadTime()), createdAt));
     }
 }
 

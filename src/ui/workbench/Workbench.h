@@ -34,7 +34,7 @@ class Workbench : public QWidget {
   public:
     /// All of them must outlive it.
     /// `before` tells how many seconds before a start the alarm rings, as its input has it.
-    Workbench(const Plan& plan, const EditHistory& history, std::function<std::string()> before,
+    Workbench(const Plan& plan, const EditHistory& history, std::function<std::string()> leadTime,
               const Environment& environment);
     Workbench(const Workbench&) = delete;
     Workbench& operator=(const Workbench&) = delete;
@@ -97,7 +97,7 @@ class Workbench : public QWidget {
 
     const Plan& m_plan;
     const EditHistory& m_history;
-    std::function<std::string()> m_before;
+    std::function<std::string()> m_leadTime;
     const Environment& m_environment;
     /// Nothing, with the reason in the strip, if the plan can't be run.
     std::optional<RunTrace> m_trace;
@@ -105,7 +105,7 @@ class Workbench : public QWidget {
     /// plan then.
     std::optional<Long> m_durationBefore;
     std::size_t m_steps = 0;
-    std::optional<Long> m_change;
+    std::optional<Long> m_durationChange;
     /// Which rows are to be chosen when the plan comes back from an edit.
     std::optional<std::vector<std::size_t>> m_nextChosen;
 
@@ -120,8 +120,8 @@ class Workbench : public QWidget {
     QLabel* m_durationLabel;
     QLabel* m_changeLabel;
     QLabel* m_nextOrderLabel;
-    QPushButton* m_back = nullptr;
-    QPushButton* m_forward = nullptr;
+    QPushButton* m_undoButton = nullptr;
+    QPushButton* m_redoButton = nullptr;
     std::vector<QPushButton*> m_commands;
     SecondTimer m_timer{QStringLiteral("Tmr_Werkbank"), this};
     bool m_wasOpen = false;
