@@ -1,4 +1,4 @@
-// What the user has asked all programs of his desktop for: light or dark windows.
+// The desktop's setting for light or dark windows.
 #pragma once
 
 #include <QObject>
@@ -6,8 +6,8 @@
 
 namespace tarvelin {
 
-/// Tells whether the desktop asks for dark windows, some time after the call, and again whenever
-/// that changes, as long as `context` lives. Where no desktop answers nothing is told.
+/// Reports whether the desktop asks for dark windows: once, at or after the call, and whenever that
+/// changes, while `context` lives. Reports nothing where the desktop has no such setting.
 void WatchColorScheme(QObject* context, std::function<void(bool dark)> report);
 
 }  // namespace tarvelin

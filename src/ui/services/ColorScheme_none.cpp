@@ -1,4 +1,4 @@
-// For platforms whose theme alone tells the colours.
+// For platforms without such a setting: the theme alone decides.
 #include "ui/services/ColorScheme.h"
 
 namespace tarvelin {

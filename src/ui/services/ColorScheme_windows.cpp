@@ -1,4 +1,4 @@
-// The user's setting for programs, in the registry.
+// Reads the user's setting from the registry.
 #define WIN32_LEAN_AND_MEAN
 #define NOMINMAX
 #include <windows.h>
@@ -12,7 +12,7 @@ namespace tarvelin {
 
 namespace {
 
-/// Reads the setting at once and whenever something changes beside it.
+/// Reads the setting at once and whenever its key changes.
 class RegistryColorScheme : public QObject {
   public:
     RegistryColorScheme(QObject* context, std::function<void(bool)> report)
@@ -39,7 +39,7 @@ class RegistryColorScheme : public QObject {
     }
 
   private:
-    // A notice comes once; what changes behind it comes with the next.
+    // A notification is for one change only, so ask for the next one before reading.
     void Read() {
         ::RegNotifyChangeKeyValue(m_key, FALSE, REG_NOTIFY_CHANGE_LAST_SET, m_event, TRUE);
         DWORD light = 1;

@@ -1,4 +1,4 @@
-// Light or dark.
+// Chooses the palette and reports changes.
 #include "ui/services/DesktopColors.h"
 
 #include <QApplication>
@@ -11,7 +11,7 @@ namespace tarvelin {
 
 namespace {
 
-/// For a desktop that asks for dark windows and has no theme for the toolkit.
+/// For a desktop that asks for dark windows but gives the toolkit no dark theme.
 QPalette DarkPalette() {
     const QColor background(53, 53, 53);
     const QColor field(35, 35, 35);

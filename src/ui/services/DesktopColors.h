@@ -1,4 +1,4 @@
-// Whether the desktop is light or dark.
+// The desktop's colors, light or dark.
 #pragma once
 
 #include <QObject>
@@ -9,14 +9,13 @@ namespace tarvelin {
 /// Whether windows in these colors are darker than the text on them.
 [[nodiscard]] bool IsDark(const QPalette& palette);
 
-/// Follows what the desktop's theme gives the program at its start, and what the user has asked all
-/// programs for in the settings of his desktop. At a change every window gets a
-/// `QEvent::ThemeChange`.
+/// Combines the theme's palette at the program's start with the desktop's setting for light or dark
+/// windows. When the setting changes every window gets a `QEvent::ThemeChange`.
 class DesktopColors : public QObject {
     Q_OBJECT
 
   public:
-    /// `themePalette`: the toolkit's palette before the program set one of its own.
+    /// `themePalette` is the toolkit's palette before the program sets its own.
     explicit DesktopColors(QPalette themePalette);
 
     [[nodiscard]] QPalette CurrentPalette() const;

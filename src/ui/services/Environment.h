@@ -1,4 +1,4 @@
-// What the window reaches outside: handed in, so that a test can take the place of the world.
+// Everything outside the program that the windows use, as interfaces that tests can replace.
 #pragma once
 
 #include <QGuiApplication>
@@ -15,31 +15,31 @@
 
 namespace tarvelin {
 
-/// A modal question with the buttons "Ja" and "Nein".
+/// Answered by "Ja" or "Nein".
 struct Question {
     std::string text;
-    /// Empty where a question has no title of its own.
+    /// If empty, the program's name.
     std::string title;
     MessageIcon icon = MessageIcon::None;
 };
 
-/// The modal boxes of the window.
+/// Modal boxes.
 class Dialogs : public MessageSink {
   public:
-    /// As `Zeige`, with a check box by which the user wants no more of this kind. Whether he still
+    /// As `Show`, with a check box to turn off further messages. Returns whether the user still
     /// wants them.
     [[nodiscard]] virtual bool ShowSuppressible(const Message& message) = 0;
-    /// Whether the user answered "Ja". Closing the box is a "Nein".
+    /// Whether the answer is "Ja". Closing the box means "Nein".
     [[nodiscard]] virtual bool Ask(const Question& question) = 0;
 
     enum class Purpose { Load, Save, Picture, Calendar };
-    /// A file of the user's choice, from `folder` on; empty if he chose none. Nothing is added to
-    /// the name of a plan, and nothing is asked about one that is there already. Pictures and
-    /// calendars get the ending of the chosen format.
+    /// Lets the user choose a file, starting in `folder`; empty if he cancels. For plans no suffix
+    /// is added and an existing file isn't asked about. Pictures and calendars without a suffix get
+    /// that of the chosen format.
     [[nodiscard]] virtual std::filesystem::path AskForFile(Purpose purpose,
                                                            const std::filesystem::path& folder) = 0;
 
-    /// Closes what is open, which answers as its close button does, and opens nothing any more.
+    /// Closes all open boxes as their close buttons do. None opens after that.
     virtual void CloseAll() = 0;
 };
 
@@ -51,18 +51,17 @@ class Fetcher {
     Fetcher& operator=(const Fetcher&) = delete;
     virtual ~Fetcher() = default;
 
-    /// The bytes behind an address, or nothing if they didn't come whole and well. Returns at the
-    /// end of the fetch; meanwhile the screen lives on, and clicks and keys go nowhere.
+    /// The bytes at an address; nothing if the fetch fails or is incomplete. Blocks until the end;
+    /// meanwhile events are processed, but clicks and keys are ignored.
     [[nodiscard]] virtual std::optional<std::string> Fetch(const std::string& address) = 0;
 
-    /// Lets the screen live between two fetches.
+    /// The same between two fetches.
     virtual void ProcessEvents() = 0;
 
-    /// Ends a fetch under way; it brings nothing.
+    /// Makes a running fetch fail.
     virtual void Abort() = 0;
 };
 
-/// Plays sounds.
 class Sound {
   public:
     Sound() = default;
@@ -70,8 +69,7 @@ class Sound {
     Sound& operator=(const Sound&) = delete;
     virtual ~Sound() = default;
 
-    /// Returns at once and cuts off a sound that still plays. A file that can't be played is
-    /// answered with a beep.
+    /// Returns at once. Cuts off a sound that is still playing. Beeps if the file can't be played.
     virtual void Play(const std::filesystem::path& file) = 0;
 };
 
@@ -79,23 +77,22 @@ struct Environment {
     Dialogs& dialogs;
     Fetcher& fetcher;
     Sound& sound;
-    /// The wall clock of the machine, in its local time.
+    /// The wall clock, in local time.
     std::function<DateTime()> now;
-    /// Opens an address in the user's web browser.
+    /// Opens an address in the browser.
     std::function<void(const std::string&)> openPage;
     /// Where `img`, `mfx`, `saves` and `config.cfg` lie.
     std::filesystem::path programFolder;
-    /// Through which plans and configuration are read and written.
+    /// For plans and configuration.
     const FileSystem& files = NativeFileSystem();
-    /// The colours of the desktop, light or dark. When they change, every window gets a
-    /// `QEvent::ThemeChange`.
+    /// When it changes every window gets a `QEvent::ThemeChange`.
     std::function<QPalette()> desktopPalette = [] { return QGuiApplication::palette(); };
-    /// The plan to open at the start in the place of the last one; empty for none.
+    /// The plan to open at the start instead of the last one; may be empty.
     std::filesystem::path planArgument = {};
-    /// What the user has to know from the start on.
+    /// Shown at the start.
     std::optional<Message> startNotice = std::nullopt;
 
-    /// As that of the boxes, from where plans lie.
+    /// Starts in the folder of the plans.
     [[nodiscard]] std::filesystem::path AskForFile(Dialogs::Purpose purpose) const {
         return dialogs.AskForFile(purpose, PlanFolder(programFolder, files));
     }

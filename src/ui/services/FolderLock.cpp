@@ -1,4 +1,4 @@
-// Who holds the lock.
+// Tells a lock that is held from one that a dead program left.
 #include "ui/services/FolderLock.h"
 
 #include <QFile>
@@ -9,9 +9,9 @@ namespace tarvelin {
 
 namespace {
 
-/// Whether a lock that can't be taken is held by somebody. What a dead holder left can be deleted,
-/// whatever stands in it: half a lock, another machine's, one with a number that this process has
-/// now. A lock that can't be made isn't there.
+/// Why the lock couldn't be taken: another program has it, or it can't be created at all. A dead
+/// holder's file is removed, whatever it contains: half a lock, another machine's, one with the
+/// process id that we have now.
 bool IsHeldByOther(QLockFile& lock) {
     if (lock.error() != QLockFile::LockFailedError || !QFile::exists(lock.fileName())) {
         return false;
@@ -23,7 +23,7 @@ bool IsHeldByOther(QLockFile& lock) {
 
 FolderLock::FolderLock(const std::filesystem::path& programFolder)
     : m_file(PathToQString(programFolder / "tarvelin.lock")) {
-    // A window may stay open for weeks; only its death frees the folder.
+    // A lock never expires: a window may stay open for weeks.
     m_file.setStaleLockTime(0);
     m_heldByOther = !m_file.tryLock(0) && IsHeldByOther(m_file);
 }

@@ -1,4 +1,4 @@
-// The lock of the program's folder.
+// Tells whether another program already uses the folder.
 #pragma once
 
 #include <QLockFile>
@@ -6,16 +6,14 @@
 
 namespace tarvelin {
 
-/// Held by the first window of a folder until it gives it back. A lock whose holder has died is
-/// taken over. In a folder that can't be written nobody holds one, and nobody needs it.
+/// Taken by the first program that uses a folder, until it releases it or dies. In a read-only
+/// folder nobody can take it, and nobody needs to.
 class FolderLock {
   public:
     explicit FolderLock(const std::filesystem::path& programFolder);
 
-    /// Whether another program holds it.
     [[nodiscard]] bool HeldByOther() const { return m_heldByOther; }
 
-    /// For the next program that starts.
     void Release() { m_file.unlock(); }
 
   private:

@@ -1,4 +1,4 @@
-// Fetches that wait without letting the screen freeze.
+// Fetches that keep processing events while they wait.
 #include "ui/services/HttpFetcher.h"
 
 #include <curl/curl.h>
@@ -16,7 +16,7 @@ namespace tarvelin {
 
 namespace {
 
-/// While it lives, clicks and keys go nowhere and the pointer tells that the program is busy.
+/// While it exists, clicks and keys are ignored and the cursor shows that the program is busy.
 /// Painting, timers and closing a window go on, and a modal box still gets its answer.
 class InputLock : public QObject {
   public:
@@ -27,7 +27,7 @@ class InputLock : public QObject {
     InputLock(const InputLock&) = delete;
     InputLock& operator=(const InputLock&) = delete;
     ~InputLock() override {
-        // What was clicked meanwhile must not come through afterwards.
+        // Drops the clicks that are still queued.
         QCoreApplication::processEvents();
         QApplication::restoreOverrideCursor();
     }
@@ -63,7 +63,7 @@ class InputLock : public QObject {
     }
 };
 
-/// The address as it goes over the line; empty if it is none of the web.
+/// The encoded address; empty if it is no http or https address.
 std::string WebAddress(const std::string& address) {
     const QUrl url(ToQString(address));
     const bool good =
@@ -81,7 +81,7 @@ struct Response {
     bool headerComplete = false;
 };
 
-// What is taken is fewer than what came when it is too much, which ends the fetch.
+// Returning fewer bytes than came ends the fetch.
 std::size_t TakeBytes(const char* bytes, std::size_t /*one*/, std::size_t count, void* target) {
     auto& response = *static_cast<Response*>(target);
     if (count > response.maxBytes - response.bytes.size()) {
@@ -128,10 +128,9 @@ Request NewRequest(const std::string& address, std::chrono::milliseconds duratio
     set(CURLOPT_HEADERFUNCTION, &TakeHeaderLine);
     set(CURLOPT_HEADERDATA, static_cast<void*>(&response));
     set(CURLOPT_NOSIGNAL, 1L);
-    // Where the platform checks certificates, a revocation list out of reach ends no fetch: as in
-    // browsers.
+    // As browsers do, go on if a revocation list is out of reach.
     set(CURLOPT_SSL_OPTIONS, static_cast<long>(CURLSSLOPT_REVOKE_BEST_EFFORT));
-    // A name server that never answers doesn't hold up the end of the program.
+    // A name server that never answers must not delay the end of the program.
     set(CURLOPT_QUICK_EXIT, 1L);
     return request;
 }
@@ -144,7 +143,7 @@ bool IsOk(CURL* request) {
 
 }  // namespace
 
-/// The library's own set-up.
+/// Global set-up of libcurl.
 class NetworkLibrary {
   public:
     NetworkLibrary() { curl_global_init(CURL_GLOBAL_DEFAULT); }

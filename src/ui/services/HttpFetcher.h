@@ -1,4 +1,4 @@
-// The real fetch of files by HTTP.
+// Fetches files by HTTP with libcurl.
 #pragma once
 
 #include <chrono>
@@ -9,10 +9,9 @@
 
 namespace tarvelin {
 
-/// Only http and https are asked, at most five redirects followed, to these two only. An answer
-/// counts with the status 200 alone, within the limits, and whole: with its head to the last line
-/// and its body as long as it was announced, or to the end of its last chunk; a body that announces
-/// neither, to a clean close of the connection. One at a time: nothing is fetched during a fetch.
+/// Only http and https, with at most five redirects. A response counts only with status 200, within
+/// the limits, and if it is complete: all headers, and a body of the announced length, or up to the
+/// last chunk, or, if neither is announced, up to a clean close. A fetch during another one fails.
 class HttpFetcher final : public Fetcher {
   public:
     struct Limits {
@@ -30,7 +29,7 @@ class HttpFetcher final : public Fetcher {
     void Abort() override { m_aborted = true; }
 
   private:
-    /// Holds the connections that servers keep open between two fetches.
+    /// Keeps connections alive between two fetches.
     class Connections;
 
     Limits m_limits;

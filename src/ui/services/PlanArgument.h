@@ -1,4 +1,4 @@
-// The plan with which the program is called, as a double click on its file does.
+// The plan given on the command line, as by a double click on its file.
 #pragma once
 
 #include <filesystem>

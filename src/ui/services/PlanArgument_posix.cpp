@@ -1,4 +1,4 @@
-// Arguments are the bytes of the path.
+// The argument is the path.
 #include "ui/services/PlanArgument.h"
 
 namespace tarvelin {

@@ -1,8 +1,8 @@
-// The narrow arguments have lost letters that the system's code page lacks.
+// Asks for the wide arguments, as `argv` loses letters that the system's code page lacks.
 #define WIN32_LEAN_AND_MEAN
 #define NOMINMAX
 #include <windows.h>
-// Needs the one above.
+// Needs windows.h first.
 #include <shellapi.h>
 
 #include <string>
@@ -16,7 +16,7 @@ std::filesystem::path PlanArgument(int /*argc*/, char** /*argv*/) {
     wchar_t** const words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
     std::filesystem::path plan;
     if (words != nullptr && count > 1) {
-        // The library's own answer takes a share for a folder of this disk.
+        // `std::filesystem::absolute` would take a network share for a folder on this disk.
         std::wstring full(::GetFullPathNameW(words[1], 0, nullptr, nullptr), L'\0');
         full.resize(
             ::GetFullPathNameW(words[1], static_cast<DWORD>(full.size()), full.data(), nullptr));

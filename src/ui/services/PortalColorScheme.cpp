@@ -1,4 +1,4 @@
-// The setting that desktops keep for programs on the bus of the session.
+// Asks the desktop's settings portal.
 #include "ui/services/PortalColorScheme.h"
 
 #include <QDBusConnection>
@@ -56,7 +56,7 @@ void PortalColorScheme::SettingChanged(const QString& range, const QString& key,
 }
 
 void WatchColorScheme(QObject* context, std::function<void(bool dark)> report) {
-    // Without a bus the toolkit would start one.
+    // Without this the toolkit would start a bus where there is none.
     if (qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")) {
         // `context` owns it.
         new PortalColorScheme(context, std::move(report));

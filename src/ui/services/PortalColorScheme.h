@@ -1,4 +1,4 @@
-// Who listens on the bus of the session for the desktop's colours.
+// Follows the desktop's setting for light or dark windows on the session bus.
 #pragma once
 
 #include <QDBusVariant>
@@ -11,13 +11,13 @@ class PortalColorScheme : public QObject {
     Q_OBJECT
 
   public:
-    /// Asks at once. `context` becomes its owner.
+    /// Asks at once. `context` becomes the owner.
     PortalColorScheme(QObject* context, std::function<void(bool)> report);
 
   private slots:
     void SettingChanged(const QString& range, const QString& key, const QDBusVariant& value);
 
-    // NOLINTNEXTLINE(readability-redundant-access-specifiers): what was above were slots
+    // NOLINTNEXTLINE(readability-redundant-access-specifiers): ends the slots
   private:
     std::function<void(bool)> m_report;
 };

@@ -1,4 +1,4 @@
-// QMessageBox for messages and questions.
+// Looks and texts of the boxes.
 #include "ui/services/QtDialogs.h"
 
 #include <QAbstractButton>
@@ -35,7 +35,7 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
     return QMessageBox::NoIcon;
 }
 
-/// Between two boxes no window is active for a moment.
+/// Between two boxes no window is active for a moment: then the main window.
 QWidget* ParentWindow() {
     if (QWidget* const active = QApplication::activeWindow()) {
         return active;
@@ -48,7 +48,7 @@ QWidget* ParentWindow() {
     return nullptr;
 }
 
-/// A box is as wide as its title, which the frame draws larger than our font, beside its buttons.
+/// Makes a box wide enough for its title, which the window manager draws larger than our font.
 void MakeRoomForTitle(QMessageBox& box, const QString& title) {
     if (auto* const grid = qobject_cast<QGridLayout*>(box.layout())) {
         constexpr int kButtons = 120;
@@ -57,7 +57,6 @@ void MakeRoomForTitle(QMessageBox& box, const QString& title) {
     }
 }
 
-/// A message box as ours look.
 class ModalBox : public QMessageBox {
   public:
     ModalBox(const std::string& text, const std::string& title, MessageIcon icon,
@@ -82,7 +81,7 @@ class ModalBox : public QMessageBox {
         : ModalBox(message.text, message.title, message.icon, QMessageBox::Ok) {}
 };
 
-/// Files with sizes and dates in German: the toolkit's model takes the system's language for them.
+/// Shows sizes and dates in German, where the toolkit would use the system's language.
 class GermanFileModel : public QIdentityProxyModel {
   public:
     using QIdentityProxyModel::QIdentityProxyModel;
@@ -102,12 +101,13 @@ class GermanFileModel : public QIdentityProxyModel {
     }
 
   private:
-    /// Columns of the toolkit's model.
+    /// Columns of `QFileSystemModel`.
     static constexpr int kSize = 1;
     static constexpr int kDateColumn = 3;
 };
 
-/// Formats, the first of them to begin with; the chosen one ends a name without an ending.
+/// Offers the formats, the first one chosen; a name without a suffix gets that of the chosen
+/// format.
 void FollowFormats(QFileDialog& dialog, const QStringList& formats) {
     const auto choose = [&dialog](const QString& format) {
         dialog.setDefaultSuffix(format.mid(format.indexOf(QLatin1Char('.')) + 1).chopped(1));
@@ -163,7 +163,7 @@ std::filesystem::path QtDialogs::AskForFile(Purpose purpose, const std::filesyst
     QFileDialog dialog(ParentWindow());
     const bool load = purpose == Purpose::Load;
     dialog.setAcceptMode(load ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
-    // A name that isn't there is answered by the load itself.
+    // Loading reports a file that doesn't exist.
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setProxyModel(new GermanFileModel(&dialog));

@@ -1,4 +1,4 @@
-// The real message boxes.
+// Message boxes and file dialogs of Qt.
 #pragma once
 
 #include <QDialog>
@@ -8,7 +8,7 @@
 
 namespace tarvelin {
 
-/// Boxes stand over the window that is active. Texts are shown as they are, never read as markup.
+/// Boxes belong to the active window. Texts are never read as markup.
 class QtDialogs final : public Dialogs {
   public:
     void Show(const Message& message) override;
@@ -20,10 +20,10 @@ class QtDialogs final : public Dialogs {
     void CloseAll() override;
 
   private:
-    /// The answer of a modal dialog; that of its close button when nothing is opened any more.
+    /// The result of a modal dialog; `Rejected` after `CloseAll`.
     int Exec(QDialog& dialog);
 
-    /// The innermost last.
+    /// The topmost last.
     std::vector<QDialog*> m_open;
     bool m_closed = false;
 };

@@ -1,4 +1,4 @@
-// Aiming at the seconds.
+// Aims at the beginning of the next second.
 #include "ui/services/SecondTimer.h"
 
 #include <QTime>

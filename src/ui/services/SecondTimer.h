@@ -5,8 +5,8 @@
 
 namespace tarvelin {
 
-/// Its signal is `timeout`. It aims at a moment shortly behind the change of the second, anew after
-/// every tick, so it drifts past none; a tick that is held up isn't made up later.
+/// Emits `timeout` shortly after each second begins. It aims anew after every tick, so it never
+/// drifts; ticks missed while the program was busy are not made up.
 class SecondTimer : public QTimer {
     Q_OBJECT
 

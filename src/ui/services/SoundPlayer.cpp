@@ -1,4 +1,4 @@
-// One sound at a time.
+// Plays by Qt Multimedia, one sound at a time.
 #include "ui/services/SoundPlayer.h"
 
 #include <QApplication>
@@ -32,14 +32,14 @@ SoundPlayer::SoundPlayer() {
 
 SoundPlayer::~SoundPlayer() = default;
 
-// Of many that are asked for at once only the last is opened.
+// Of several sounds at once only the last is read.
 void SoundPlayer::Play(const std::filesystem::path& file) {
     m_file = file;
     m_soon.start(0);
 }
 
-// The toolkit's own player of files hangs at some, divides by nothing at others, and keeps what it
-// once read under a name. The file is read here, and the sound card gets samples.
+// The toolkit's own player hangs on some files, divides by zero on others, and caches files by
+// name. So we read the file and give it samples.
 void SoundPlayer::Begin() {
     m_sink.reset();
     m_samples.close();

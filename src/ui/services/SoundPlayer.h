@@ -1,5 +1,4 @@
-// The real sound: by the platform's own player or Qt Multimedia where one is built in, else the
-// system's beep.
+// Plays sounds by Qt Multimedia or the platform's own player; a build without either beeps.
 #pragma once
 
 #include <QBuffer>
@@ -25,7 +24,7 @@ class SoundPlayer final : public Sound {
 
     std::filesystem::path m_file;
     QTimer m_soon;
-    /// The samples of the sound that plays.
+    /// Of the sound that is playing.
     QBuffer m_samples;
     std::unique_ptr<QAudioSink> m_sink;
 };

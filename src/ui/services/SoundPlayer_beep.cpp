@@ -1,4 +1,4 @@
-// The beep in the place of all sounds, for builds without Qt Multimedia.
+// Beeps instead of playing, for builds without a player.
 #include <QApplication>
 
 #include "ui/services/SoundPlayer.h"

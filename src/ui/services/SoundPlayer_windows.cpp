@@ -1,6 +1,6 @@
-// One sound at a time, by the platform's own player.
+// Plays by the platform's own player, one sound at a time.
 #include <windows.h>
-// After what it needs.
+// Needs windows.h first.
 #include <mmsystem.h>
 
 #include <QApplication>
@@ -16,7 +16,7 @@ namespace tarvelin {
 
 namespace {
 
-/// The platform's player takes samples of 8 and 16 bits: of longer ones the upper half.
+/// The player takes samples of 8 and 16 bits only: keeps the upper half of longer ones.
 Wave Playable(Wave wave) {
     constexpr int kLong = 32;
     if (wave.bits == kLong) {
@@ -30,7 +30,7 @@ Wave Playable(Wave wave) {
     return wave;
 }
 
-/// A wave file that has its format and its samples and nothing else.
+/// A wave file in memory, with format and samples only.
 QByteArray ToFile(const Wave& wave) {
     constexpr quint32 kHeader = 36;
     constexpr quint32 kFormatLength = 16;
@@ -59,19 +59,19 @@ SoundPlayer::SoundPlayer() {
     m_soon.callOnTimeout([this] { Begin(); });
 }
 
-// The player ends before its bytes do.
+// Stops the player, which reads from `m_samples`.
 SoundPlayer::~SoundPlayer() {
     ::PlaySoundW(nullptr, nullptr, 0);
 }
 
-// Of many that are asked for at once only the last is opened.
+// Of several sounds at once only the last is read.
 void SoundPlayer::Play(const std::filesystem::path& file) {
     m_file = file;
     m_soon.start(0);
 }
 
-// The player would say nothing of a file that it can't play, and keep everybody else from writing
-// one that it plays. The file is read here, and the player gets bytes.
+// The player doesn't report files that it can't play, and locks those that it plays. So we read the
+// file and give it bytes.
 void SoundPlayer::Begin() {
     ::PlaySoundW(nullptr, nullptr, 0);
     const auto wave = ReadWave(m_file);

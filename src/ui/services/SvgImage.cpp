@@ -1,4 +1,4 @@
-// By the toolkit's module.
+// SVG by the toolkit's module.
 #include "ui/services/SvgImage.h"
 
 #include <QBuffer>

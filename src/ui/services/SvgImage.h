@@ -1,4 +1,4 @@
-// Pictures as SVG, where the toolkit's module for it is built in.
+// Pictures as SVG, if the toolkit's SVG module is built in.
 #pragma once
 
 #include <QByteArray>
@@ -10,7 +10,7 @@ namespace tarvelin {
 
 [[nodiscard]] bool HasSvg();
 
-/// The bytes of what `draw` paints on this many dots; none where it can't be done.
+/// The file of what `draw` paints on a picture of this many pixels; empty without the module.
 [[nodiscard]] QByteArray ToSvg(const QSize& size, const std::function<void(QPainter&)>& draw);
 
 }  // namespace tarvelin

@@ -1,4 +1,4 @@
-// Not on this platform.
+// For builds without the SVG module.
 #include "ui/services/SvgImage.h"
 
 namespace tarvelin {

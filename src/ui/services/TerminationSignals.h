@@ -1,4 +1,4 @@
-// The signals by which the system asks the program to end.
+// Ends the program on signals of the system.
 #pragma once
 
 #include <QObject>
@@ -6,9 +6,9 @@
 
 namespace tarvelin {
 
-/// Calls `finish` on the thread of the window, each time when SIGTERM, SIGHUP or SIGINT has come;
-/// on a platform without signals never. A SIGHUP that the program was started to ignore stays
-/// ignored. There can be one at a time.
+/// Calls `finish` from the event loop after each SIGTERM, SIGHUP or SIGINT; never on a platform
+/// without signals. A SIGHUP that was ignored at the start stays ignored, as under nohup. Only one
+/// object may exist at a time.
 class TerminationSignals : public QObject {
   public:
     explicit TerminationSignals(std::function<void()> finish);

@@ -1,4 +1,4 @@
-// Signals that reach the event loop through a pipe.
+// Takes signals to the event loop through a pipe.
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -16,13 +16,12 @@ namespace {
 
 constexpr std::array<int, 3> kSignals{SIGTERM, SIGHUP, SIGINT};
 
-/// The ends for reading and writing. A handler gets nothing but its signal, so this can't be a
-/// member.
+/// For reading and writing. Global, as a signal handler gets nothing but its signal.
 std::array<int, 2> pipeEnds{-1, -1};
 
 void Report(int /*signal*/) {
     const int error = errno;
-    // A pipe that is full has told it already.
+    // If the pipe is full, an earlier signal is still unread.
     [[maybe_unused]] const ssize_t written = ::write(pipeEnds[1], "", 1);
     errno = error;
 }

@@ -1,4 +1,4 @@
-// This platform tells the end of a session by the window's own messages.
+// Nothing to do: this platform ends a session by window messages.
 #include <utility>
 
 #include "ui/services/TerminationSignals.h"

@@ -1,4 +1,4 @@
-// The chunks of a wave file.
+// Parses the chunks of a wave file.
 #include "ui/services/WaveFile.h"
 
 #include <algorithm>
@@ -22,7 +22,7 @@ std::uint32_t NumberAt(std::string_view bytes, std::size_t position, std::size_t
     return value;
 }
 
-/// The format of a wave without its samples, as far as it is one of ours.
+/// A wave without samples; nothing for formats that we don't play.
 std::optional<Wave> ReadFormat(std::string_view chunk) {
     constexpr std::size_t kFormatLength = 16;
     constexpr std::uint32_t kSlowest = 8000;
@@ -44,7 +44,7 @@ std::optional<Wave> ReadFormat(std::string_view chunk) {
                 .samples = {}};
 }
 
-/// With the whole frames among the bytes.
+/// Drops a partial frame at the end.
 std::optional<Wave> WithSamples(std::optional<Wave> wave, std::string_view bytes) {
     constexpr int kByte = 8;
     if (wave) {
@@ -73,7 +73,7 @@ std::optional<Wave> FromBytes(std::string_view bytes) {
         if (name == "fmt ") {
             wave = ReadFormat(bytes.substr(0, length));
         }
-        // Chunks begin at even places.
+        // Chunks are padded to an even length.
         bytes.remove_prefix(std::min(length + length % 2, bytes.size()));
     }
     return std::nullopt;

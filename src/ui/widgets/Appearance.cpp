@@ -1,4 +1,4 @@
-// Settings of the toolkit.
+// Applies them to the toolkit.
 #include "ui/widgets/Appearance.h"
 
 #include <QDir>
@@ -12,8 +12,8 @@ namespace tarvelin {
 
 namespace {
 
-/// The colours of the style on a light desktop. What it names its own is dark on a dark one, which
-/// panels and pictures of ours aren't made for.
+/// The style's colors on a light desktop. Its standard palette turns dark on a dark desktop, and
+/// our panels and pictures aren't made for that.
 QPalette LightPalette() {
     const QColor background(239, 239, 239);
     const QColor half = background.darker(130);
@@ -49,7 +49,7 @@ void ApplyAppearance(QApplication& program) {
     }
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setPalette(LightPalette());
-    // Those that the program itself brings along, for a system that has them not.
+    // Fonts built into the program, for systems without them.
     for (const QFileInfo& file : QDir(QStringLiteral(":/fonts")).entryInfoList()) {
         QFontDatabase::addApplicationFont(file.filePath());
     }

@@ -1,4 +1,4 @@
-// Language, style and font: the same on every machine.
+// Language, style and font of the program, the same on every machine.
 #pragma once
 
 #include <QApplication>
@@ -6,10 +6,10 @@
 
 namespace tarvelin {
 
-/// German words in the toolkit's own boxes, one style with light colours, one small font.
+/// Sets German for the toolkit's own dialogs, a light style and a small font.
 void ApplyAppearance(QApplication& program);
 
-/// The desktop's own font; that of the program where the desktop names one that nobody has
+/// The desktop's font. Falls back to the program's where the desktop names one that isn't
 /// installed.
 QFont DesktopFont();
 

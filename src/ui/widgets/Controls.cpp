@@ -1,4 +1,4 @@
-// Groups, inputs and labels with the habits that all of ours share.
+// Layout, painting and limits of the basic controls.
 #include "ui/widgets/Controls.h"
 
 #include <QCursor>
@@ -52,13 +52,13 @@ void GroupBox::SetCornerLabel(QLabel* label) {
     m_corner = label;
 }
 
-// The style's own frame takes more room than the surface has.
+// QGroupBox would add the style's frame, for which the surface has no room.
 QSize GroupBox::sizeHint() const {
     return QWidget::sizeHint();
 }
 
 QSize GroupBox::minimumSizeHint() const {
-    return QWidget::minimumSizeHint();  // NOLINT(bugprone-parent-virtual-call): passed on purpose
+    return QWidget::minimumSizeHint();  // NOLINT(bugprone-parent-virtual-call): skips QGroupBox
 }
 
 void GroupBox::resizeEvent(QResizeEvent* event) {
@@ -106,7 +106,7 @@ bool TextInput::Assign(const std::string& value) {
     return true;
 }
 
-// A new limit sends the cursor to the end, so it is set only when it differs.
+// Setting a limit moves the cursor to the end.
 void TextInput::LimitTo(qsizetype length) {
     const int limit = std::max(m_limit, static_cast<int>(length));
     if (limit != maxLength()) {
@@ -120,7 +120,7 @@ NumberLabel::NumberLabel(const QString& name, QWidget* parent) : QLabel(parent) 
     setObjectName(name);
     setAlignment(Qt::AlignCenter);
     setTextFormat(Qt::PlainText);
-    // However long a figure, what it stands in keeps its form.
+    // A long number must not widen the group.
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 

@@ -1,4 +1,4 @@
-// What the panels and groups of the window are put together from.
+// Basic controls and helpers that all windows are built from.
 #pragma once
 
 #include <QGroupBox>
@@ -13,31 +13,31 @@
 
 namespace tarvelin {
 
-/// Twips are fifteenths of a pixel; the nearest whole one.
+/// A twip is a fifteenth of a pixel. Rounds to the nearest pixel.
 constexpr int TwipsToPixels(int twips) {
     constexpr int kTwipsPerPixel = 15;
     return (2 * twips + kTwipsPerPixel) / (2 * kTwipsPerPixel);
 }
 
-/// The text of the core, UTF-8, as the toolkit has it.
+/// From UTF-8.
 [[nodiscard]] QString ToQString(std::string_view text);
 
-/// Paths go to the toolkit and back by their UTF-8, on every platform.
+/// Paths are converted by way of UTF-8 on every platform.
 [[nodiscard]] QString PathToQString(const std::filesystem::path& path);
 [[nodiscard]] std::filesystem::path ToPath(const QString& path);
 
-/// Gives a widget its hint. A hint that stands on the screen while the pointer is over the widget
-/// changes at once, where the toolkit alone would wait until the pointer rests.
+/// Sets a widget's tooltip. If it is on the screen it changes at once; the toolkit alone would wait
+/// until the pointer rests again.
 void SetHint(QWidget& widget, const QString& text);
 
-/// A group with its caption above the frame and room for a second label at that line's end.
+/// A group box with its caption above the frame and room for a second label at the right of it.
 class GroupBox : public QGroupBox {
     Q_OBJECT
 
   public:
     GroupBox(const QString& name, const QString& title, QWidget* parent);
 
-    /// Puts a label of this group to the right end of the caption's line.
+    /// Places a child label at the right end of the caption's line.
     void SetCornerLabel(QLabel* label);
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -51,8 +51,8 @@ class GroupBox : public QGroupBox {
     QLabel* m_corner = nullptr;
 };
 
-/// A text input that limits what is typed or pasted, and takes any text from the program. Its
-/// signal `textChanged` tells the user's changes alone.
+/// A line edit that limits the length of what is typed or pasted, but not of what the program sets.
+/// `textChanged` is emitted for the user's changes only.
 class TextInput : public QLineEdit {
     Q_OBJECT
 
@@ -61,7 +61,7 @@ class TextInput : public QLineEdit {
 
     TextInput(const QString& name, const QString& accessibleName, int limit, QWidget* parent);
 
-    /// Sets a text of any length. Whether it differs from the one before.
+    /// Sets a text of any length, without a signal. Returns whether the text has changed.
     bool Assign(const std::string& value);
     [[nodiscard]] std::string Utf8() const { return text().toStdString(); }
 
@@ -71,7 +71,8 @@ class TextInput : public QLineEdit {
     int m_limit;
 };
 
-/// A label for figures: what doesn't fit ends in an ellipsis, and the hint has the whole text.
+/// A label for a number. If it doesn't fit it ends in an ellipsis and its tooltip has the whole
+/// text.
 class NumberLabel : public QLabel {
     Q_OBJECT
 
@@ -85,23 +86,22 @@ class NumberLabel : public QLabel {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    /// The text as far as it fits.
     [[nodiscard]] QString Elided() const;
     void RefreshHint();
 };
 
-/// The order in which Tab goes through controls.
+/// Makes Tab go through the controls in this order.
 void ChainTabOrder(const std::vector<QWidget*>& controls);
 
 [[nodiscard]] QLabel* NewLabel(const QString& name, const QString& text, QWidget* parent);
-/// A picture of a fixed size, whatever the size of its file.
+/// A label of fixed size that scales its picture.
 [[nodiscard]] QLabel* NewPicture(const QString& name, const QSize& size, const QString& hint,
                                  QWidget* parent);
-/// The small label that explains its group by its hint alone.
+/// The small label "HoverInfo" whose tooltip explains its group.
 [[nodiscard]] QLabel* NewHoverInfo(const QString& name, const QString& hint, QWidget* parent);
-/// Enter presses the button that has the focus.
+/// A button that Enter presses while it has the focus.
 [[nodiscard]] QPushButton* NewButton(const QString& name, const QString& text, QWidget* parent);
-/// A horizontal slider with small steps of 1.
+/// A horizontal slider from 0 to `max`.
 [[nodiscard]] QSlider* NewSlider(const QString& name, const QString& accessibleName, int max,
                                  QWidget* parent);
 

@@ -1,4 +1,4 @@
-// Mouse, focus and Enter, seen before the controls see them.
+// Watches mouse, focus and Enter ahead of the controls.
 #include "ui/widgets/EnterKeyFilter.h"
 
 #include <QCoreApplication>
@@ -36,7 +36,7 @@ bool EnterKeyFilter::eventFilter(QObject* target, QEvent* event) {
             m_belongsToButton = m_belongsToButton && !(IsInWindow(target) && CameByTab(*event));
             break;
         case QEvent::KeyPress:
-            // Other controls hand the key on to the window, which knows its default button.
+            // Other controls pass the key on to the window, which handles it.
             if (m_belongsToButton && IsEnter(*event) && IsInWindow(target) &&
                 qobject_cast<QPushButton*>(target) != nullptr) {
                 m_button->click();

@@ -1,17 +1,17 @@
-// Which button Enter presses: the window's default one, or the one that Tab walked to.
+// Decides which button Enter presses: the window's default button or the one Tab has moved to.
 #pragma once
 
 #include <QAbstractButton>
 
 namespace tarvelin {
 
-/// Any press of the mouse in the window gives Enter to its default button, wherever the focus is,
-/// until the focus moves by Tab.
+/// After a mouse press in the window Enter presses the default button, wherever the focus is, until
+/// the focus moves by Tab.
 class EnterKeyFilter : public QObject {
     Q_OBJECT
 
   public:
-    /// For the window that `button` stands in.
+    /// `button` is its window's default button, and becomes the owner.
     explicit EnterKeyFilter(QAbstractButton* button);
 
   protected:

@@ -1,4 +1,4 @@
-// Names of the screen.
+// The table of pictures, level labels and captions.
 #include "ui/widgets/ItemDisplay.h"
 
 #include <algorithm>

@@ -9,23 +9,22 @@
 
 namespace tarvelin {
 
-/// The groups of pictures, from left to right.
+/// From left to right.
 enum class PictureGroup : std::uint8_t { Buildings, Research, Defense, Ships };
 
 struct ItemDisplay {
     ItemId item;
-    /// Name of the picture; a drag carries it.
+    /// Object name of the picture; a drag carries it.
     std::string_view pictureName;
-    /// Name of the label that shows the level.
+    /// Object name of the label that shows the level.
     std::string_view levelLabelName;
     std::string_view caption;
     PictureGroup group;
 };
 
-/// The twenty items.
 [[nodiscard]] const PerItem<ItemDisplay>& ItemDisplays();
 
-/// Exact compare; nothing for any other text.
+/// Case counts. Nothing for any other name.
 [[nodiscard]] std::optional<ItemId> ItemFromPicture(std::string_view picture);
 
 }  // namespace tarvelin

@@ -1,4 +1,4 @@
-// The gate of a picture and its drag.
+// Gate, drag and keyboard of an item picture.
 #include "ui/widgets/ItemPicture.h"
 
 #include <QDrag>
@@ -68,7 +68,7 @@ void ItemPicture::keyPressEvent(QKeyEvent* event) {
     emit MouseMove();
     if (m_dragEnabled && !event->isAutoRepeat()) {
         emit Chosen();
-        // The hint names what the next row costs.
+        // The tooltip names the cost of the next row, which has changed now.
         emit MouseMove();
     }
 }
@@ -90,14 +90,14 @@ void ItemPicture::BeginDrag() {
     QToolTip::hideText();
     auto* const mimeData = new QMimeData;
     mimeData->setData(kItemMimeType, objectName().toUtf8());
-    // The toolkit deletes the drag when it is over.
+    // The toolkit deletes it after the drop.
     auto* const drag = new QDrag(this);
     drag->setMimeData(mimeData);
     if (m_cursors.dragged.isNull()) {
         drag->setPixmap(grab());
         drag->setHotSpot(rect().center());
     } else {
-        // Nothing beside the pointer.
+        // Only the cursor is to be seen.
         QPixmap empty(1, 1);
         empty.fill(Qt::transparent);
         drag->setPixmap(empty);

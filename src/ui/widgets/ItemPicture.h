@@ -1,4 +1,4 @@
-// One of the twenty item pictures: a source of drags, as long as its gate is open.
+// One of the twenty item pictures. It can be dragged while its gate is open.
 #pragma once
 
 #include <QLabel>
@@ -7,13 +7,13 @@
 
 namespace tarvelin {
 
-/// What a dragged picture carries: its name, of use to no other program.
+/// The data of a drag is the picture's object name; private to this program.
 inline const QString kItemMimeType = QStringLiteral("application/x-tarvelin-item");
 
-/// Pointer over an open picture, and what the pointer shows while a picture is dragged.
 struct DragCursors {
+    /// Over a picture that can be dragged.
     QCursor openHand;
-    /// Null: the dragged picture itself is shown.
+    /// Shown during a drag. If null, the picture itself is shown.
     QPixmap dragged;
 };
 
@@ -25,13 +25,13 @@ class ItemPicture : public QLabel {
 
     void SetCursors(const DragCursors& cursors);
 
-    /// Opens or closes the gate: drag, pointer and hint go together.
+    /// Sets tooltip and cursor, and whether the picture can be dragged.
     void SetGate(const HoverInfo& info);
 
   signals:
-    /// The pointer moved over the picture, or the keyboard reached it.
+    /// The pointer has moved over the picture, or the picture got the focus.
     void MouseMove();
-    /// The space bar took the picture's place in a drag onto the list. Only while the gate is open.
+    /// The space bar was pressed while the gate is open: the same as a drop on the list.
     void Chosen();
 
   protected:

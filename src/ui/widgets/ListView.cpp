@@ -1,4 +1,4 @@
-// Proportional columns and their head.
+// Column widths, header and pointer events of a list.
 #include "ui/widgets/ListView.h"
 
 #include <QMouseEvent>
@@ -16,12 +16,12 @@ namespace {
 
 constexpr int kHeaderMargin = 2;
 
-/// Cells without the style's margins, which the narrow columns have no room for.
+/// Removes the style's margins from cells, as narrow columns have no room for them.
 class CellStyle : public QProxyStyle {
   public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option,
                     const QWidget* widget) const override {
-        // A cell's text keeps one pixel more than this on either side.
+        // The style adds a pixel on either side.
         return metric == PM_FocusFrameHMargin ? 0
                                               : QProxyStyle::pixelMetric(metric, option, widget);
     }
@@ -94,7 +94,7 @@ ListView::ListView(const QString& name, const QString& accessibleName, std::vect
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     setMouseTracking(true);
-    // Tab leaves a list; the arrow keys walk in it.
+    // Tab leaves the list; the arrow keys move within it.
     setTabKeyNavigation(false);
 }
 
@@ -120,7 +120,7 @@ void ListView::resizeEvent(QResizeEvent* event) {
     DistributeColumns();
 }
 
-// The row that takes the place of a current one that goes isn't brought to sight.
+// When the current row is removed another becomes current, and the view would scroll to it.
 void ListView::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) {
     setAutoScroll(false);
     QTreeView::rowsAboutToBeRemoved(parent, start, end);

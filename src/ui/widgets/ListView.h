@@ -1,4 +1,4 @@
-// The list views of the window: rows of texts, columns that share the width.
+// A list of rows whose columns share its width.
 #pragma once
 
 #include <QHeaderView>
@@ -7,8 +7,8 @@
 
 namespace tarvelin {
 
-/// The head of a list, a line high. A caption that is wider than its column is shortened, and whole
-/// in a hint.
+/// A header one line high. A caption that doesn't fit is elided, and its tooltip has the whole
+/// text.
 class ListHeader : public QHeaderView {
     Q_OBJECT
 
@@ -27,21 +27,20 @@ class ListHeader : public QHeaderView {
     [[nodiscard]] QString ElidedAt(int column) const;
 };
 
-/// A table of rows. The columns divide the width of the list in fixed proportions; there is never
-/// a horizontal bar.
+/// The columns divide the width of the list in fixed proportions, so it never scrolls sideways.
 class ListView : public QTreeView {
     Q_OBJECT
 
   public:
-    /// `shares`: one figure for each column of the model.
+    /// `shares` are the relative widths of the columns.
     ListView(const QString& name, const QString& accessibleName, std::vector<int> shares,
              QWidget* parent);
 
     void setModel(QAbstractItemModel* model) override;
 
   signals:
-    /// The pointer moved over the list, at this row; over none, or when it leaves the rows, the
-    /// index isn't valid.
+    /// The pointer has moved over this row. The index is invalid beside the rows and when the
+    /// pointer leaves the list.
     void MouseMove(const QModelIndex& row);
 
   protected:

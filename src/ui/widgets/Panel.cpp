@@ -1,4 +1,4 @@
-// Colour, place and closing of a panel.
+// Color, frame and button of a panel.
 #include "ui/widgets/Panel.h"
 
 #include <QPainter>
@@ -25,7 +25,7 @@ Panel::Panel(const QString& name, const QString& title, const QRect& twips, QWid
 
 void Panel::paintEvent(QPaintEvent* event) {
     GroupBox::paintEvent(event);
-    // Where panels lie over each other, this tells them apart.
+    // Sets overlapping panels apart.
     QPainter painter(this);
     painter.setPen(Qt::black);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
@@ -35,7 +35,7 @@ void Panel::paintEvent(QPaintEvent* event) {
 
 QPushButton* Panel::NewHideButton(const QString& name) {
     QPushButton* const button = NewButton(name, QStringLiteral("Hide"), this);
-    // The style alone would make the red paler.
+    // The style would lighten the red.
     button->setStyleSheet(
         QStringLiteral("QPushButton { background: rgb(255, 0, 0); border: 1px solid rgb(110, 0, 0);"
                        " border-radius: 3px; }"

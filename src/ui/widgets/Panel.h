@@ -1,19 +1,18 @@
-// What the four red panels over the working surface have in common.
+// Base of the four red panels over the working surface.
 #pragma once
 
 #include "ui/widgets/Controls.h"
 
 namespace tarvelin {
 
-/// A red panel that hides what lies under it.
 class Panel : public GroupBox {
     Q_OBJECT
 
   public:
-    /// Place and size in twips.
+    /// `twips`: place and size.
     Panel(const QString& name, const QString& title, const QRect& twips, QWidget* parent);
 
-    /// The keyboard goes to the panel's first control.
+    /// Gives the keyboard focus to the first control.
     void TakeFocus() { m_first->setFocus(Qt::OtherFocusReason); }
 
   protected:

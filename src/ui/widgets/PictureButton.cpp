@@ -1,4 +1,4 @@
-// Painting of a picture button.
+// Painting and properties of a picture button.
 #include "ui/widgets/PictureButton.h"
 
 #include <QPainter>

@@ -1,4 +1,4 @@
-// A picture that can be clicked, or pressed by the space bar.
+// A button that shows nothing but a picture.
 #pragma once
 
 #include <QAbstractButton>
@@ -12,10 +12,10 @@ class PictureButton : public QAbstractButton {
   public:
     PictureButton(const QString& name, const QSize& size, const QString& hint, QWidget* parent);
 
-    /// Scaled to the size of the button. A null picture leaves the one before.
+    /// Scales it to the size of the button. A null picture is ignored.
     void SetPicture(const QPixmap& picture);
 
-    /// Shows that a press would be refused.
+    /// A dimmed button can still be pressed.
     void SetDimmed(bool dimmed);
 
   protected:

@@ -1,4 +1,4 @@
-// Loading of pictures.
+// Pixmaps, icons and cursors from files.
 #include "ui/widgets/Pictures.h"
 
 #include "ui/widgets/Controls.h"
@@ -7,7 +7,7 @@ namespace tarvelin {
 
 namespace {
 
-/// A pointer picture of 32 pixels, drawn for the screen's scale.
+/// 32 pixels on a screen of scale 1.
 QPixmap LoadCursor(const std::filesystem::path& file, qreal scaling) {
     constexpr int kSide = 32;
     return LoadIconFile(file).pixmap(QSize(kSide, kSide), scaling);

@@ -1,4 +1,4 @@
-// The pictures of the windows, as they lie in files.
+// Loads pictures from files.
 #pragma once
 
 #include <QIcon>
@@ -9,14 +9,14 @@
 
 namespace tarvelin {
 
-/// The picture of a file, null if it can't be loaded.
+/// Null if it can't be loaded.
 [[nodiscard]] QPixmap LoadPixmap(const std::filesystem::path& file);
 
-/// An icon file with all its sizes; null if it can't be loaded.
+/// With all sizes in the file. Null if it can't be loaded.
 [[nodiscard]] QIcon LoadIconFile(const std::filesystem::path& file);
 
-/// The two hands of `pictures`, in pixels for a screen of this scale. A missing file leaves the
-/// system's open hand, or the dragged picture itself.
+/// The two hands in the folder `pictures`, for a screen of this scale. Where a file is missing, the
+/// system's open hand and no dragged picture.
 [[nodiscard]] DragCursors LoadDragCursors(const std::filesystem::path& pictures, qreal scaling);
 
 }  // namespace tarvelin

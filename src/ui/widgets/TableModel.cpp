@@ -1,4 +1,4 @@
-// Rows told to a view as added at the end or gone from it.
+// Reports changes to the view as rows added or removed at the end.
 #include "ui/widgets/TableModel.h"
 
 #include <QColor>
@@ -35,7 +35,7 @@ int TableModel::columnCount(const QModelIndex& parent) const {
 
 QVariant TableModel::data(const QModelIndex& index, int role) const {
     const auto row = static_cast<std::size_t>(index.row());
-    // A view may ask while rows are going.
+    // A view may ask while rows are being removed.
     if (!index.isValid() || row >= m_provider.rows()) {
         return {};
     }

@@ -1,4 +1,4 @@
-// What a list view shows of rows that live elsewhere.
+// A table model over rows that live elsewhere.
 #pragma once
 
 #include <QAbstractTableModel>
@@ -7,19 +7,18 @@
 
 namespace tarvelin {
 
-/// Reads its rows when the view asks, and keeps no copy. Rows may come or go at the end; after any
-/// change `Refresh` tells the view.
+/// Reads the rows when the view asks and keeps no copy. Call `Refresh` after any change.
 class TableModel : public QAbstractTableModel {
     Q_OBJECT
 
   public:
     struct Provider {
         std::function<std::size_t()> rows;
-        /// The text of a cell; row and column count from 0.
+        /// Of a cell; row and column count from 0.
         std::function<QString(std::size_t, int)> text;
-        /// Beside the text, where a list has them: colour of a cell, and the hint of a row, which a
-        /// screen reader adds.
+        /// Of a cell. Optional.
         std::function<QColor(std::size_t, int)> color = {};
+        /// Of a row: its tooltip and accessible description. Optional.
         std::function<QString(std::size_t)> description = {};
     };
 
