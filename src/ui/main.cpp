@@ -1,4 +1,4 @@
-// Starts the window.
+// Starts the desktop program.
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
@@ -22,7 +22,7 @@
 
 namespace {
 
-/// The machine's clock, in its local time.
+/// The wall clock, in local time.
 tarvelin::DateTime LocalTime() {
     const QDateTime now = QDateTime::currentDateTime();
     const QDate epoch(1899, 12, 30);
@@ -36,7 +36,7 @@ void OpenPage(const std::string& address) {
     QDesktopServices::openUrl(QUrl::fromEncoded(QByteArray::fromStdString(address)));
 }
 
-/// Empty for a user without a home.
+/// Empty for a user without a home folder.
 std::filesystem::path UserFolder() {
     if (QDir::homePath() == QDir::rootPath() &&
         !qEnvironmentVariable("XDG_DATA_HOME").startsWith(QLatin1Char('/'))) {
@@ -66,13 +66,13 @@ tarvelin::Question SecondWindow() {
 }  // namespace
 
 int main(int argc, char** argv) {
-    // The toolkit would take arguments of its own.
+    // The toolkit gets no arguments, or it would interpret some.
     int count = 1;
     QApplication program(count, argv);
     const tarvelin::DesktopColors desktop(QApplication::palette());
     tarvelin::ApplyAppearance(program);
-    // The toolkit's file dialog would keep a history of folders in the user's settings. Where these
-    // are no file, it is built without that.
+    // Keeps the toolkit's file dialog from writing its history to the user's settings. Where
+    // settings are no file, the toolkit is built without that.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     const tarvelin::ProgramFolder folder = tarvelin::ResolveProgramFolder(
         tarvelin::ToPath(QApplication::applicationDirPath()), UserFolder());
@@ -96,19 +96,19 @@ int main(int argc, char** argv) {
         .planArgument = tarvelin::PlanArgument(argc, argv),
         .startNotice = folder.canKeep ? std::nullopt : std::optional(WithoutUserFolder())};
     tarvelin::frmMain window(environment);
-    // Small windows may stay open; they keep nothing.
+    // Other windows may stay open, but save nothing.
     QObject::connect(&window, &tarvelin::frmMain::Closed, [&lock] { lock.Release(); });
-    // Whatever is open closes with the window, and every event loop ends.
+    // Closes all windows and ends every event loop.
     const auto finish = [&window] {
         window.close();
         QApplication::closeAllWindows();
         QApplication::exit();
     };
     const tarvelin::TerminationSignals terminationSignals(finish);
-    // The session may go on after it; its end closes the windows.
+    // Save only: the session may yet go on. If it ends, the windows are closed.
     QObject::connect(&program, &QGuiApplication::commitDataRequest, &window,
                      &tarvelin::frmMain::SaveNow, Qt::DirectConnection);
-    // Within the event loop, which a signal can end.
+    // Within the event loop, so that a signal can end it.
     QTimer::singleShot(0, &window, &tarvelin::frmMain::Form_Load);
     return QApplication::exec();
 }

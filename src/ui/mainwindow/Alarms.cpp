@@ -1,4 +1,4 @@
-// Boxes, ticks and sounds of the alarms.
+// Timers and sounds of the alarms.
 #include "ui/mainwindow/Alarms.h"
 
 #include "simulation/DueAlarms.h"
@@ -41,7 +41,7 @@ void Alarms::Tmr_Schlafweckfunktion_Tick() {
     PlayAlert(DueSleepEnds(m_inputs.LV_Schlafzeiten, m_environment.now()));
 }
 
-// Once for each row that rings; the last one is heard to its end.
+// Plays once per due row. Each sound cuts off the one before.
 void Alarms::PlayAlert(std::size_t times) {
     for (std::size_t i = 0; i < times; ++i) {
         m_environment.sound.Play(m_configuration.Alertsound());

@@ -12,7 +12,7 @@
 
 namespace tarvelin {
 
-/// Each alarm runs as long as its box is checked, and compares what stands in its table at a tick.
+/// An alarm runs while its check box is set. It reads its table at each tick.
 class Alarms : public QObject {
     Q_OBJECT
 
@@ -25,12 +25,11 @@ class Alarms : public QObject {
         const QComboBox& Comb_Before;
     };
 
-    /// What it is given must outlive it.
+    /// All arguments must outlive it.
     Alarms(const Inputs& inputs, const Environment& environment, QObject* parent);
 
-    /// Sets the boxes as the configuration has them.
+    /// Sets the check boxes from the configuration.
     void ReadConfiguration();
-    /// No tick comes any more.
     void Silence();
 
   private:

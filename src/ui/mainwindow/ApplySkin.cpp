@@ -1,4 +1,4 @@
-// Pictures of a skin and their labels.
+// Loads the pictures of a skin into their labels.
 #include "ui/mainwindow/ApplySkin.h"
 
 #include <QLabel>
@@ -25,7 +25,7 @@ void ApplySkin(Byte Mode, const std::string& Path, const QWidget& surface,
     if (Mode != kStandardSkin && Mode != kLocalSkin) {
         return;
     }
-    // Whatever the name, the folder lies among the skins.
+    // Appended as text, as `/` would let an absolute path replace the folder.
     auto folder = pictures / "skins";
     folder += "/" + (Mode == kStandardSkin ? "standard" : Path);
     for (const SkinPicture& picture : SkinPictures()) {

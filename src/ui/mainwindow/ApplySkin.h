@@ -1,4 +1,4 @@
-// The skin on the screen.
+// Shows the pictures of a skin.
 #pragma once
 
 #include <QWidget>
@@ -9,9 +9,9 @@
 
 namespace tarvelin {
 
-/// Shows the skin of a source: the standard skin, or the local one in the folder `Path`; any other
-/// mode shows none. The symbol of the points belongs to all of them. A picture that is missing
-/// leaves the one before. The labels lie below `surface`.
+/// `Mode` is the source: the standard skin, or the local skin in the folder `Path`. With any other
+/// mode only the symbol of the points is loaded, which all skins share. A missing picture leaves
+/// the old one. The labels are children of `surface`.
 void ApplySkin(Byte Mode, const std::string& Path, const QWidget& surface,
                const std::filesystem::path& programFolder);
 

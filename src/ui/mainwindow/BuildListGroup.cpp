@@ -1,4 +1,4 @@
-// Layout of the build list's group.
+// Layout of the group, and what its labels show.
 #include "ui/mainwindow/BuildListGroup.h"
 
 #include <QColor>

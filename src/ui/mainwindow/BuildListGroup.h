@@ -1,4 +1,4 @@
-// The group "Bauliste:": the plan, the buttons below it and the stocks at its end.
+// The group "Bauliste:": the build list, its buttons, and the stocks after the last run.
 #pragma once
 
 #include <QGridLayout>

@@ -1,4 +1,4 @@
-// What the build list lets be dropped on it.
+// Accepts drops of item pictures.
 #include "ui/mainwindow/BuildListView.h"
 
 #include <QDragEnterEvent>
@@ -9,7 +9,7 @@ namespace tarvelin {
 
 namespace {
 
-/// A drag from another program has no source here.
+/// Null for a drag from another program.
 const ItemPicture* DraggedPicture(const QDropEvent& event) {
     return qobject_cast<const ItemPicture*>(event.source());
 }
@@ -28,13 +28,13 @@ BuildListView::BuildListView(QWidget* parent)
     setAcceptDrops(true);
 }
 
-// The bar at the side belongs to the list as much as the rows do.
+// Drops count anywhere on the list, the scroll bar and the frame included.
 bool BuildListView::event(QEvent* event) {
     switch (event->type()) {
         case QEvent::DragEnter:
         case QEvent::DragMove:
         case QEvent::Drop:
-            // NOLINTNEXTLINE(bugprone-parent-virtual-call): the rows' own road is passed by
+            // NOLINTNEXTLINE(bugprone-parent-virtual-call): skips the viewport's handling
             return QWidget::event(event);
         default:
             return ListView::event(event);

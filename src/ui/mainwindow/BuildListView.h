@@ -1,11 +1,11 @@
-// `LV_Bauliste` on the screen: rows come in by a drop.
+// `LV_Bauliste` on the screen, which takes drops.
 #pragma once
 
 #include "ui/widgets/ListView.h"
 
 namespace tarvelin {
 
-/// Takes drags of this window's item pictures and no others.
+/// Accepts drags of this window's item pictures only.
 class BuildListView : public ListView {
     Q_OBJECT
 
@@ -13,7 +13,7 @@ class BuildListView : public ListView {
     explicit BuildListView(QWidget* parent);
 
   signals:
-    /// An item picture was dropped, told by its name.
+    /// `Source` is the object name of the dropped item picture.
     void DragDrop(const QString& Source);
 
   protected:

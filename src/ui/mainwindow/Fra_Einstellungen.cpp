@@ -1,4 +1,4 @@
-// Inputs of the start parameters: each change goes into the plan at once.
+// Layout of the panel. Each input writes to the plan at once.
 #include "ui/mainwindow/Fra_Einstellungen.h"
 
 #include <QHBoxLayout>
@@ -11,7 +11,7 @@ namespace {
 constexpr int kTwoDigits = 20;
 constexpr int kFourDigits = 32;
 
-/// An inner group with its explaining label, and a row for its controls.
+/// The row of controls in an inner group, which gets its explaining label.
 QHBoxLayout* NewRow(GroupBox* group, QLabel* hoverInfo) {
     group->SetCornerLabel(hoverInfo);
     auto* const row = new QHBoxLayout(group);
@@ -118,7 +118,7 @@ QLayout* Fra_Einstellungen::NewDateRow(QWidget* group) {
          NewStartTimeInput("txt_UniStartZeitMonat", "Monat", 2, kTwoDigits, &P::UniStartZeitMonat),
          NewLabel({}, QStringLiteral("."), group),
          NewStartTimeInput("txt_UniStartZeitJahr", "Jahr", 4, kFourDigits, &P::UniStartZeitJahr)});
-    // Hour and minute leave the weekday as it is.
+    // Hour and minute aren't in the list yet: they don't change the weekday.
     for (const DatePart& part : m_startTime) {
         connect(part.input, &QLineEdit::textChanged, this, &Fra_Einstellungen::RefreshWeekday);
     }
@@ -214,7 +214,8 @@ void Fra_Einstellungen::Refresh() {
     RefreshShowDesc();
 }
 
-// Of what the inputs show: a part of the date that comes next doesn't count yet.
+// From the inputs, not the plan: while `Refresh` sets them one by one, the rest still shows the old
+// date.
 void Fra_Einstellungen::RefreshWeekday() {
     StartParameters shown;
     for (const DatePart& part : m_startTime) {
@@ -234,7 +235,7 @@ void Fra_Einstellungen::ShowTemperatures() {
 }
 
 void Fra_Einstellungen::RefreshShowDesc() {
-    // The capitals mark the state that holds.
+    // Capitals mark the current state.
     m_cmd_ShowDesc->setText(m_plan.ShowDesc ? QStringLiteral("EIN/aus")
                                             : QStringLiteral("ein/AUS"));
 }

@@ -1,4 +1,4 @@
-// The panel "Einstellungen:": the parameters of a plan that are no rows.
+// The panel "Einstellungen:": temperatures, start time, click buffer, captions, speed.
 #pragma once
 
 #include <QCheckBox>
@@ -12,16 +12,16 @@ class Fra_Einstellungen : public Panel {
     Q_OBJECT
 
   public:
-    /// Edits the parameters of `plan` and its `ShowDesc`; it must outlive the panel.
+    /// Edits the parameters and `ShowDesc` of `plan`, which must outlive the panel.
     Fra_Einstellungen(Plan& plan, QWidget* parent);
 
-    /// After the program changed the parameters.
+    /// Call it after the program has changed the parameters.
     void Refresh();
     void RefreshWeekday();
     void Refresh(const WeekdayLabel& weekday);
 
   signals:
-    /// The user has changed a parameter of a run in the input of this name.
+    /// The user has changed a parameter; `input` is the name of the control.
     void Edited(const QString& input);
     void Chk_Speedfaktor_Click();
     void cmd_ShowDesc_Click();

@@ -1,4 +1,4 @@
-// The six groups at their places.
+// Places and connects the six groups.
 #include "ui/mainwindow/Fra_Rest.h"
 
 #include <array>

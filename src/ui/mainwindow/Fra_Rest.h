@@ -1,4 +1,4 @@
-// The working surface: the plan, the item pictures and the result, in six groups.
+// The working surface: build list, item pictures and results in six groups.
 #pragma once
 
 #include <QWidget>
@@ -19,30 +19,29 @@ class Fra_Rest : public QWidget {
     /// Shows `list` and `run`, which must outlive the surface.
     Fra_Rest(const BuildList& list, const LastRun& run, QWidget* parent);
 
-    /// After a change of the list: its rows, and the levels over the pictures.
+    /// Call it after a change of the list. Refreshes the rows, and the levels over the pictures.
     void ShowList();
     void ScrollToLast() { m_Frame8->ScrollToLast(); }
     void ShowSchedule() { m_Frame6->ShowSchedule(); }
     void ScrollScheduleToTop() { m_Frame6->LV_Bauzeiten->scrollToTop(); }
     void ShowResult(const ResultTexts& texts);
-    /// The names under the pictures.
     void ShowNames(bool show);
 
-    /// What the pictures show.
     [[nodiscard]] PerItem<QPixmap> ItemPictures() const;
 
     void SetCursors(const DragCursors& cursors);
     void SetDonationPicture(const QPixmap& picture) { m_Frame6->ImgDonate_1->SetPicture(picture); }
 
-    /// What Enter presses.
+    /// The default button.
     [[nodiscard]] QPushButton* StartButton() const { return m_Frame8->Cmd_Simulate; }
-    /// The switch of the alarm before each start, and its seconds of warning.
+    /// The switch of the alarm before each start, and how many seconds before.
     [[nodiscard]] QCheckBox* BuildAlarmSwitch() const { return m_Frame6->Chk_BauWeckfunktion; }
     [[nodiscard]] const QComboBox* SecondsBefore() const { return m_Frame6->Comb_Before; }
 
   signals:
     void Img_MouseMove(const ItemTile& tile);
-    /// An item picture was dropped on the list, told by its name.
+    /// `Source` is the object name of an item picture that was dropped on the list, or chosen by
+    /// the space bar.
     void DragDrop(const QString& Source);
     void Cmd_Undo_Click();
     void Cmd_Clear_Click();

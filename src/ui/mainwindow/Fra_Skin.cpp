@@ -44,7 +44,7 @@ Fra_Skin::Fra_Skin(std::filesystem::path skins, QWidget* parent)
 }
 
 void Fra_Skin::Arrange() {
-    // The lowest panel has room for three low lines.
+    // The panel is only three lines high.
     constexpr int kLineHeight = 16;
     QPushButton* const close = NewHideButton(QStringLiteral("Cmd_HideSchlafzeiten"));
     connect(close, &QPushButton::clicked, this, &QWidget::hide);

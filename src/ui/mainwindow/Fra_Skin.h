@@ -1,4 +1,4 @@
-// The panel "Skinpfad:": where the pictures come from.
+// The panel "Skinpfad:": the source of the pictures.
 #pragma once
 
 #include <QComboBox>
@@ -11,25 +11,25 @@
 
 namespace tarvelin {
 
-/// Where a skin comes from, as the configuration keeps it.
+/// Sources of a skin; the configuration stores these numbers.
 inline constexpr Byte kStandardSkin = 1;
 inline constexpr Byte kLocalSkin = 2;
 inline constexpr Byte kWebSkin = 3;
 
-/// The folder in which a web skin lands.
+/// The folder of a fetched web skin.
 inline constexpr const char* kWebSkinFolder = "temp_webskin";
 
 class Fra_Skin : public Panel {
     Q_OBJECT
 
   public:
-    /// `skins` is the folder in which each skin has one of its own.
+    /// `skins` is the folder that holds the folders of the skins.
     Fra_Skin(std::filesystem::path skins, QWidget* parent);
 
-    /// Offers the local skins anew, as they lie on disk, and selects the first.
+    /// Reads the local skins from disk again and selects the first.
     void FillSkinList();
 
-    /// Selects the source of this kind; any other value leaves the selection.
+    /// An unknown source is ignored.
     void ChooseSource(Byte mode);
     [[nodiscard]] Byte ChosenSource() const;
 

@@ -1,4 +1,4 @@
-// Calendar, times and table of the sleep windows.
+// Layout of the panel and its handlers.
 #include "ui/mainwindow/Fra_Sleep.h"
 
 #include <QGridLayout>
@@ -19,7 +19,6 @@ TableModel::Provider ProviderOf(const SleepTable& table) {
                 }};
 }
 
-/// Hours and minutes, first of the start, then of the duration.
 struct TimeInput {
     const char* name;
     const char* accessibleName;
@@ -42,7 +41,7 @@ QCalendarWidget* NewCalendar(const QDate& day, QWidget* parent) {
     calendar->setObjectName(QStringLiteral("SchlafKalender"));
     calendar->setAccessibleName(QStringLiteral("Tag der Startzeit"));
     calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    // Digits typed into the page would go to another month.
+    // Typed digits would change the date.
     calendar->setDateEditEnabled(false);
     calendar->setSelectedDate(day);
     for (const auto& [part, accessibleName] : {std::pair("qt_calendar_prevmonth", "Voriger Monat"),
@@ -153,7 +152,7 @@ void Fra_Sleep::Arrange() {
 
 void Fra_Sleep::Refresh() {
     m_model->Refresh();
-    // The row at its place would be another one.
+    // Otherwise another row would be selected in the place of a removed one.
     LV_Schlafzeiten->setCurrentIndex({});
 }
 
@@ -167,7 +166,7 @@ SleepInput Fra_Sleep::ReadInput() const {
     return input;
 }
 
-// The selected day goes along, so that what is shown is what counts.
+// Selects the same day of the month shown, so that the date that counts is in sight.
 void Fra_Sleep::TurnPage(int year, int month) {
     const QDate day = m_SchlafKalender->selectedDate();
     if (day.year() != year || day.month() != month) {

@@ -1,4 +1,4 @@
-// The panel "Schlaf/Pausen-zeiten:": when the player can't give orders.
+// The panel "Schlaf/Pausen-zeiten:": the times when the player gives no orders.
 #pragma once
 
 #include <QCalendarWidget>
@@ -19,7 +19,7 @@ class Fra_Sleep : public Panel {
     /// Edits `table`, which must outlive the panel, as must `environment`.
     Fra_Sleep(SleepTable& table, const Environment& environment, QWidget* parent);
 
-    /// After the table changed. No row is selected then.
+    /// Call it after the program has changed the table. Deselects all rows.
     void Refresh();
     void RefreshSchlafEnde();
 

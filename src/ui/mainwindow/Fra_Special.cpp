@@ -1,4 +1,4 @@
-// Sliders of the production factors.
+// Layout of the panel and its handlers.
 #include "ui/mainwindow/Fra_Special.h"
 
 #include <QGridLayout>

@@ -1,4 +1,4 @@
-// The panel "Special-Events:": rows that turn the mines up or down.
+// The panel "Special-Events:": factors for rows that change the production of the mines.
 #pragma once
 
 #include "plan/Order.h"
@@ -12,7 +12,7 @@ class Fra_Special : public Panel {
   public:
     explicit Fra_Special(QWidget* parent);
 
-    /// The positions of the three sliders. Only the user moves them.
+    /// The positions of the sliders, in tenths.
     [[nodiscard]] MineFactors Factors() const;
 
     QPushButton* const Cmd_AddProdaenderungsevent;

@@ -1,4 +1,4 @@
-// Pictures lie behind their labels; labels let the pointer through.
+// Layout of the pictures, with labels on top of them that let the mouse through.
 #include "ui/mainwindow/ItemGroup.h"
 
 #include "model/ItemTable.h"

@@ -9,17 +9,16 @@
 
 namespace tarvelin {
 
-/// What stands for an item on the screen.
 struct ItemTile {
     ItemId item;
     ItemPicture* picture;
-    /// The level, or the number, that the list reaches.
+    /// The level or number of units at the end of the list.
     QLabel* level;
-    /// The name under the picture, shown on demand.
+    /// The name; can be hidden.
     QLabel* desc;
 };
 
-/// Pictures in columns of four, from top to bottom and then to the right.
+/// Columns of four, filled from top to bottom.
 class ItemGroup : public GroupBox {
     Q_OBJECT
 

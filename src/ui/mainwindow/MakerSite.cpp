@@ -1,4 +1,4 @@
-// Addresses, and the comparison of versions.
+// Builds the addresses and compares versions.
 #include "ui/mainwindow/MakerSite.h"
 
 #include <bit>
@@ -20,7 +20,7 @@ namespace {
 
 constexpr const char* kLineEnd = "\r\n";
 
-/// The first characters of a text that should be UTF-8; a byte that isn't counts as one.
+/// The text should be UTF-8; an invalid byte counts as a character.
 std::string_view FirstCharacters(std::string_view text, std::size_t count) {
     std::size_t end = 0;
     int following = 0;

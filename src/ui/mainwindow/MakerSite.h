@@ -1,4 +1,4 @@
-// Version, pages and donations: what the menu "Info" leads to.
+// Addresses on the maker's site, donations, and the check for a new version.
 #pragma once
 
 #include <array>
@@ -10,12 +10,12 @@
 
 namespace tarvelin {
 
-/// Three numbers with points, as the program is built with.
+/// Three numbers with dots.
 inline constexpr const char* kVersion = TARVELIN_VERSION;
 
 [[nodiscard]] std::string HomePage();
 [[nodiscard]] std::string DownloadsPage();
-/// A text file with the current version and nothing else.
+/// A text file that contains the current version and nothing else.
 [[nodiscard]] std::string VersionFile();
 
 /// A button of the donation dialog.
@@ -31,11 +31,11 @@ extern const std::array<DonationButton, 6> kDonationButtons;
 
 [[nodiscard]] std::string DonationPage(const DonationButton& button);
 
-/// What to ask the user after the fetch of the version file, whose every character counts. At most
-/// 64 characters of it are shown.
+/// Compares the content of the version file with this version, character by character. Shows at
+/// most 64 characters of it.
 [[nodiscard]] Question VersionQuestion(std::string_view loaded);
 
-/// The message when the version file can't be fetched.
+/// For a version file that can't be fetched.
 [[nodiscard]] Message VersionErrorMessage();
 
 }  // namespace tarvelin

@@ -1,4 +1,4 @@
-// Letters that entries of the menu bar share.
+// Handles shared letters and gives the focus back.
 #include "ui/mainwindow/MenuBar.h"
 
 #include <QAction>
@@ -22,9 +22,9 @@ QList<QAction*> WithLetter(const QList<QAction*>& entries, const QKeySequence& k
 }  // namespace
 
 MenuBar::MenuBar(QWidget* parent) : QMenuBar(parent) {
-    // A bar of the desktop would know nothing of entries without a menu.
+    // The desktop's menu bar wouldn't show entries without a menu.
     setNativeMenuBar(false);
-    // A click anywhere else ends the walk by keys.
+    // A click anywhere else ends keyboard selection.
     QCoreApplication::instance()->installEventFilter(this);
 }
 

@@ -1,4 +1,4 @@
-// The menu bar, in which two entries may share a letter.
+// A menu bar whose entries may share a letter.
 #pragma once
 
 #include <QMenuBar>
@@ -6,8 +6,8 @@
 
 namespace tarvelin {
 
-/// Alt and a letter that several entries share walks from one to the next; Enter then takes the one
-/// that is marked. The toolkit alone would carry an entry out at once, which of them being chance.
+/// With a shared letter, Alt and the letter marks the next of its entries, and Enter activates it.
+/// The toolkit alone would activate one of them at once, and which one isn't defined.
 class MenuBar : public QMenuBar {
     Q_OBJECT
 
@@ -22,7 +22,6 @@ class MenuBar : public QMenuBar {
   private:
     void RestoreFocus();
 
-    /// What had the focus before the bar took it.
     QPointer<QWidget> m_focusBefore;
 };
 

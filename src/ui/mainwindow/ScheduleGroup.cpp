@@ -1,4 +1,4 @@
-// Layout of the build times' group, and the hint over its rows.
+// Layout of the group, and the tooltip of its rows.
 #include "ui/mainwindow/ScheduleGroup.h"
 
 #include <QGridLayout>
@@ -23,7 +23,7 @@ TableModel::Provider ProviderOf(const Schedule& schedule) {
             .description = [&schedule](std::size_t row) { return ToQString(schedule[row].Tag()); }};
 }
 
-/// Takes what is typed and nothing that is pasted.
+/// Takes typed text but nothing pasted.
 class SecondsInput : public QLineEdit {
   public:
     explicit SecondsInput(QWidget* parent) : QLineEdit(parent) {
@@ -75,7 +75,7 @@ void ScheduleGroup::FillSeconds() {
     Comb_Before->setObjectName(QStringLiteral("Comb_Before"));
     Comb_Before->setLineEdit(new SecondsInput(Comb_Before));
     Comb_Before->setInsertPolicy(QComboBox::NoInsert);
-    // What is typed stays as it is.
+    // Typed text isn't completed.
     Comb_Before->setCompleter(nullptr);
     constexpr int kWidth = 46;
     Comb_Before->setFixedWidth(kWidth);
@@ -85,8 +85,8 @@ void ScheduleGroup::FillSeconds() {
     Comb_Before->setCurrentText(QStringLiteral("10"));
     Comb_Before->setValidator(
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), Comb_Before));
-    // The screen reader takes a drop-down list's name from its label; on the screen the words of
-    // the check box stand for it.
+    // Screen readers take the name of a combo box from its buddy. On the screen the check box's
+    // text is enough.
     QLabel* const name = NewLabel({}, QStringLiteral("Sekunden vorher"), this);
     name->setBuddy(Comb_Before);
     name->hide();

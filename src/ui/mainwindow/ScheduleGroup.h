@@ -1,4 +1,4 @@
-// The group "Optimale Bauzeiten:": what the last run came to, and the alarm before each start.
+// The group "Optimale Bauzeiten:": schedule and points of the last run, and its alarm.
 #pragma once
 
 #include <QCheckBox>
@@ -20,13 +20,13 @@ class ScheduleGroup : public GroupBox {
     /// Shows the rows of `schedule`, which must outlive the group.
     ScheduleGroup(const Schedule& schedule, QWidget* parent);
 
-    /// After a run or a reset.
+    /// Call it after a run or a reset.
     void ShowSchedule() { m_model->Refresh(); }
     void ShowResult(const ResultTexts& texts);
 
     ListView* const LV_Bauzeiten;
     QCheckBox* const Chk_BauWeckfunktion;
-    /// Seconds of warning; can be typed into.
+    /// How many seconds before a start the alarm sounds. Editable.
     QComboBox* const Comb_Before;
     PictureButton* const ImgDonate_1;
 

@@ -1,4 +1,4 @@
-// Order, addresses and questions of a fetch.
+// Files, order and questions of a fetch.
 #include "ui/mainwindow/WebSkin.h"
 
 #include <algorithm>
@@ -13,7 +13,7 @@ namespace {
 
 struct ItemSkinFile {
     ItemId item;
-    /// The file in the folder of the buildings.
+    /// Of the file in the folder "gebaeude".
     std::string_view name;
 };
 
@@ -81,7 +81,7 @@ const std::vector<SkinPicture>& SkinPictures() {
 
 namespace {
 
-/// Whether the file lies there afterwards.
+/// Whether the file exists afterwards.
 bool FetchFile(const std::string& address, const std::filesystem::path& file,
                const Environment& environment) {
     if (FileExists(file, environment.files)) {

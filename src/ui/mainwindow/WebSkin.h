@@ -1,4 +1,4 @@
-// The fetch of a web skin, file by file.
+// Fetches a web skin, file by file.
 #pragma once
 
 #include <filesystem>
@@ -11,24 +11,23 @@
 
 namespace tarvelin {
 
-/// One of the pictures of a skin.
 struct SkinPicture {
-    /// The folder in a skin, and the file there without its ".gif".
+    /// The folder within a skin, and the file without its ".gif".
     std::string_view folder;
     std::string_view name;
-    /// The label that shows it.
+    /// Object name of the label that shows it.
     std::string_view pictureName;
 };
 
-/// The pictures of the items and four stock symbols, in the order of a fetch.
+/// The item pictures and four stock symbols, in the order in which they are fetched.
 [[nodiscard]] const std::vector<SkinPicture>& SkinPictures();
 
-/// Whether a fetch went through to its end, whatever files it brought.
+/// A fetch is complete even if files were missing.
 enum class WebSkinOutcome { Completed, Aborted };
 
-/// Fetches every picture from below `address` into the folder `destination`. A former file goes
-/// before its fetch. For each one that doesn't come the user is asked whether to stop. `open` tells
-/// whether the window still stands; the fetch ends without a word when it doesn't.
+/// Fetches every picture below `address` into the folder `destination`, deleting the old file
+/// first. Asks the user whether to stop after each failure. Stops silently once `open` says that
+/// the window has closed.
 [[nodiscard]] WebSkinOutcome FetchWebSkin(const std::string& address,
                                           const std::filesystem::path& destination,
                                           const Environment& environment,

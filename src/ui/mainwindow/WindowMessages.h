@@ -1,4 +1,4 @@
-// Messages of a load or a run, over the window as they left it.
+// Shows messages of a load or a run over the main window.
 #pragma once
 
 #include <functional>
@@ -8,8 +8,8 @@
 
 namespace tarvelin {
 
-/// Messages come up with what a load or a run has changed so far on the screen. From the second one
-/// on the user can do without the rest.
+/// Before each message the window shows what has changed so far. From the second message on the
+/// user can turn off the rest.
 class WindowMessages final : public MessageSink {
   public:
     WindowMessages(std::function<void()> showProgress, Dialogs& dialogs)

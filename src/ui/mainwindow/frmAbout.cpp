@@ -42,7 +42,7 @@ frmAbout::frmAbout(const Environment& environment) {
     QPushButton* const homepage =
         NewButton(QStringLiteral("Label1"), QStringLiteral("Homepage"), this);
     homepage->setFlat(true);
-    // Enter belongs to the other one, wherever the focus is.
+    // Enter presses OK, wherever the focus is.
     homepage->setAutoDefault(false);
     homepage->setCursor(Qt::PointingHandCursor);
     homepage->setStyleSheet(QStringLiteral("color: rgb(255, 0, 0);"));
@@ -62,7 +62,7 @@ frmAbout::frmAbout(const Environment& environment) {
     layout->addWidget(NewLabel(QStringLiteral("lblDescription"), Description(), this), 2, 0, 1, 2);
     layout->addWidget(homepage, 3, 0);
     layout->addWidget(ok, 3, 1);
-    // Wide enough for the title in the frame.
+    // Room for the window title.
     constexpr int kTextWidth = 170;
     layout->setColumnMinimumWidth(1, kTextWidth);
     layout->setSizeConstraint(QLayout::SetFixedSize);

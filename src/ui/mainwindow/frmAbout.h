@@ -1,4 +1,4 @@
-// The about box: a small window of its own beside the main window.
+// The about box, a window of its own.
 #pragma once
 
 #include <QWidget>
@@ -15,7 +15,7 @@ class frmAbout : public QWidget {
     explicit frmAbout(const Environment& environment);
 
   protected:
-    /// Enter and Escape press the button.
+    /// Enter and Escape close the box.
     void keyPressEvent(QKeyEvent* event) override;
 };
 

@@ -1,4 +1,4 @@
-// Layout of the window and its handlers.
+// Layout and handlers of the main window.
 #include "ui/mainwindow/frmMain.h"
 
 #include <QCoreApplication>
@@ -24,11 +24,11 @@ namespace tarvelin {
 
 namespace {
 
-/// Of the window, in twips.
+/// Size of the window, in twips.
 constexpr int kWidth = 12870;
 constexpr int kHeight = 5030;
 
-/// Brings up a window of its own, or the one that is open already.
+/// Opens the window or brings it to the front.
 template <class F>
 void ShowSingle(std::unique_ptr<F>& window, const Environment& environment) {
     if (!window) {
@@ -75,7 +75,7 @@ frmMain::frmMain(const Environment& environment)
     connect(&m_Tmr_Autosave, &QTimer::timeout, this, [this] { m_autosave.WriteIfChanged(m_plan); });
 }
 
-// What the lists show must outlive them.
+// The lists show members, which are destroyed before child widgets.
 frmMain::~frmMain() {
     delete m_surface;
 }
@@ -100,7 +100,7 @@ void frmMain::Arrange() {
     // The button owns it.
     new EnterKeyFilter(m_Fra_Rest->StartButton());
     m_Fra_Einstellungen->TakeFocus();
-    // No control takes what is dragged in from elsewhere.
+    // Inputs take no drops.
     for (QLineEdit* const input : findChildren<QLineEdit*>()) {
         input->setAcceptDrops(false);
     }
@@ -131,7 +131,7 @@ void frmMain::FitToScreen() {
 void frmMain::LoadPictures() {
     const auto pictures = m_environment.programFolder / "img";
     setWindowIcon(LoadIconFile(pictures / "icon.ico"));
-    // What another skin lacks stays as it is in this one.
+    // A picture that another skin lacks is that of the standard skin.
     ShowSkin(kStandardSkin, {});
     m_Fra_Rest->SetCursors(LoadDragCursors(pictures, devicePixelRatioF()));
     m_Fra_Rest->SetDonationPicture(LoadPixmap(pictures / "spende.png"));
@@ -163,7 +163,7 @@ QAction* frmMain::NewMenuEntry(QWidget* menu, const char* name, const char* text
     return entry;
 }
 
-// The style would draw a separator's caption.
+// Without a text, as the style would draw it.
 void frmMain::NewSeparator(QMenu* menu, const char* name) {
     menu->addSeparator()->setObjectName(QString::fromLatin1(name));
 }
@@ -222,7 +222,7 @@ void frmMain::keyPressEvent(QKeyEvent* event) {
 }
 
 bool frmMain::eventFilter(QObject* target, QEvent* event) {
-    // The page of the calendar would keep Enter for itself.
+    // A calendar's page would swallow Enter.
     if (event->type() == QEvent::KeyPress) {
         auto* const key = static_cast<QKeyEvent*>(event);
         if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
@@ -237,7 +237,7 @@ void frmMain::SetToday() {
     const DateTime today = m_environment.now();
     SetStartDate(m_plan.parameters, today);
     m_Fra_Einstellungen->Refresh();
-    // Whatever the hour says.
+    // Not from the inputs, as an invalid hour would show an error.
     m_Fra_Einstellungen->Refresh(WeekdayOf(today));
 }
 
@@ -375,7 +375,7 @@ void frmMain::SetPlan(const PlanSnapshot& snapshot) {
         m_plan.LV_Schlafzeiten = snapshot.Schlafzeiten;
         m_Fra_Sleep->Refresh();
     }
-    // The factor texts are those of the run that follows.
+    // The factor texts depend on the temperature, and have to fit the run that follows.
     m_run.conditions.Temperatur =
         ParseTemperature(m_plan.parameters).value_or(m_run.conditions.Temperatur);
     m_plan.LV_Bauliste.SetTags(snapshot.tags, m_run.conditions);
@@ -384,7 +384,7 @@ void frmMain::SetPlan(const PlanSnapshot& snapshot) {
     RefreshWorkbench();
 }
 
-// What a run would tell in boxes stands in the workbench.
+// The workbench shows the messages instead.
 void frmMain::RunQuietly() {
     Chk_Speedfaktor_Click();
     const auto conditions = ParseRunConditions(m_plan);
@@ -419,7 +419,7 @@ void frmMain::LV_Bauliste_DragDrop(const QString& Source) {
         message = Message{.text = "KA", .title = "", .icon = MessageIcon::None};
     }
     if (message) {
-        // A box would come up inside the drag; it waits until the pointer is free.
+        // Not within the drag, which still holds the mouse.
         QTimer::singleShot(0, this, [this, text = *message] { m_environment.dialogs.Show(text); });
         return;
     }
@@ -517,7 +517,7 @@ std::optional<RunConditions> frmMain::CheckInputs(bool Silent) {
     return std::nullopt;
 }
 
-// Not an edit: the plan lies where it lay, and there is nothing to take back.
+// Not an edit: nothing to undo, and a saved plan still counts as saved.
 void frmMain::FillStartDate() {
     const bool isInFile = m_saved == SnapshotOf(m_plan);
     const StartParameters before = m_plan.parameters;

@@ -1,5 +1,4 @@
-// The main window of Tarvelin: it owns the plan and its last run, and hands what the user does to
-// the logic.
+// The main window: owns the plan and its last run, and passes the user's actions to the logic.
 #pragma once
 
 #include <QAction>
@@ -44,26 +43,26 @@ class frmMain : public QMainWindow {
     [[nodiscard]] const Plan& CurrentPlan() const { return m_plan; }
     [[nodiscard]] const LastRun& CurrentRun() const { return m_run; }
 
-    /// The window's size on a screen with this much room, in pixels: its own, or what there is.
+    /// The window's size in pixels, limited to the available size of the screen.
     [[nodiscard]] static QSize SizeOn(const QSize& screen);
 
-    /// Reads the configuration, shows the window, and brings the starter plan or the last plan
-    /// back.
+    /// Reads the configuration, shows the window, and opens the plan given as argument, the starter
+    /// plan or the last plan.
     void Form_Load();
-    /// Takes the plan of a file and runs it. `Silent` keeps quiet about an empty list. False, with
-    /// a message, if the file holds no plan.
+    /// Loads a plan and runs it. `Silent` omits the message about an empty list. False, with a
+    /// message, if the file holds no plan.
     bool LoadBauliste(const std::filesystem::path& File, bool Silent);
-    /// Runs the plan and shows what it came to. `Silent` keeps quiet about an empty list.
+    /// Runs the plan and shows the results. `Silent` omits the message about an empty list.
     void RunSimulation(bool Silent);
-    /// Keeps what the end of the program would keep, and goes on.
+    /// Saves configuration and plan as at exit.
     void SaveNow();
 
   signals:
-    /// The window has closed, and nothing more is written for it.
+    /// The window has closed; nothing more is written.
     void Closed();
 
   protected:
-    /// Enter presses the default button, unless what has the focus takes it.
+    /// Enter presses the default button, unless the focused control handles it.
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* target, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -84,15 +83,15 @@ class frmMain : public QMainWindow {
     void WaitUntilExposed();
     void SetToday();
     void ReadSkin();
-    /// False if there is none, or it can't be loaded.
+    /// False if there is no argument or it can't be loaded.
     bool OpenPlanArgument();
     void OpenFirstPlan();
-    /// Whether the last plan was loaded.
+    /// Whether the last plan was recovered.
     bool RecoverPlan(const std::optional<IniFile>& last);
     void LoadLastPlan(const std::optional<IniFile>& last);
     bool LoadBauliste(const std::optional<IniFile>& iniFile, const std::filesystem::path& File,
                       bool Silent);
-    /// How far the window has come. The plan is the user's own when the start is over.
+    /// The plan is the user's, and saved at exit, from `Working` on.
     enum class Phase { Before, Starting, Working, Closed };
     void Form_Unload(Phase previous);
     void Persist(Phase phase);
@@ -122,13 +121,15 @@ class frmMain : public QMainWindow {
     void Cmd_Simulate_Click();
     void Chk_Speedfaktor_Click();
     void ClearList();
-    /// Ends an edit by hand, which can then be taken back. `input` is the input typed into.
+    /// Records an edit made in this window for undo. `input` names the control that
+    /// was typed into, if any.
     void FinishEdit(std::string_view input = {});
     void Undo();
     void Redo();
-    /// Takes rows that the workbench made, and a pause in front of the sleep rows.
+    /// Makes these the rows of the list and runs the plan, as one edit. `pause` becomes the first
+    /// sleep row.
     void AdoptRows(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause);
-    /// Makes the plan what it is to be, and runs it without a box.
+    /// Replaces parameters, rows and sleep rows, and runs the plan without message boxes.
     void SetPlan(const PlanSnapshot& snapshot);
     void RunQuietly();
     void KeepReplaced() const;
@@ -136,7 +137,7 @@ class frmMain : public QMainWindow {
     void FillStartDate();
     void RefreshWorkbench();
     void ShowSkin(Byte mode, const std::string& path);
-    /// What a run can begin with; nothing, with a message, if it can't.
+    /// The conditions of a run; nothing, with a message, if the inputs don't allow one.
     std::optional<RunConditions> CheckInputs(bool Silent);
     void ShowNewRow();
     void ShowPlan();
@@ -148,16 +149,16 @@ class frmMain : public QMainWindow {
     QTimer m_Tmr_Autosave{this};
     Plan m_plan;
     EditHistory m_history;
-    /// The plan as it was last loaded from a file of the user's, or saved into one.
+    /// The plan as last loaded from or saved to a file of the user's.
     std::optional<PlanSnapshot> m_saved;
     LastRun m_run;
     ResultTexts m_texts;
 
-    /// Moves the surface on a screen that has no room for it.
+    /// Scrolls the surface on a screen that is too small.
     QScrollArea* m_scrollArea;
     QMetaObject::Connection m_screen;
     QWidget* m_surface;
-    // In the order in which Tab goes through them: what lies above comes first.
+    // In tab order: the panels before the surface that they cover.
     Fra_Einstellungen* m_Fra_Einstellungen;
     Fra_Special* m_Fra_Special;
     Fra_Skin* m_Fra_Skin;
@@ -166,7 +167,7 @@ class frmMain : public QMainWindow {
     QFrame* m_TopLine;
     MenuBar* m_menu;
     Alarms* m_alarms;
-    /// Windows of their own, made at their first use.
+    /// Windows of their own, created at first use.
     std::unique_ptr<frmAbout> m_frmAbout;
     std::unique_ptr<frmDonate> m_frmDonate;
     std::unique_ptr<Workbench> m_workbench;

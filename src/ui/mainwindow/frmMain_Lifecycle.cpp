@@ -1,4 +1,4 @@
-// The life of the window: start, plan files, stop.
+// Start and end of the main window, and its plan files.
 #include "ui/mainwindow/frmMain.h"
 
 #include <QCloseEvent>
@@ -42,7 +42,7 @@ void frmMain::Form_Load() {
     }
 }
 
-// The plan of the last session is kept beside it.
+// `Write` keeps a copy of the last session's plan.
 bool frmMain::OpenPlanArgument() {
     const std::filesystem::path& file = m_environment.planArgument;
     if (file.empty() || !LoadBauliste(file, false) || IsClosed()) {
@@ -55,7 +55,7 @@ bool frmMain::OpenPlanArgument() {
     return true;
 }
 
-// The last plan stays untouched until the player has answered for it.
+// The file of the last plan is left alone until the user has said whether he wants it.
 void frmMain::OpenFirstPlan() {
     const bool firstStart = m_configuration.IsOn(Configuration::kFirststart);
     const bool wasPresent = FileExists(m_autosave.PlanPath(), m_environment.files);
@@ -76,7 +76,7 @@ void frmMain::OpenFirstPlan() {
     }
 }
 
-// A box that comes up before the window has its place would lie beside it.
+// A box shown before the window has its place would appear beside it.
 void frmMain::WaitUntilExposed() {
     constexpr int kLongestWait = 500;
     constexpr int kSlice = 10;
@@ -87,7 +87,7 @@ void frmMain::WaitUntilExposed() {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
-// A web skin is shown as it landed; nothing is fetched at a start.
+// A web skin is loaded from disk; nothing is fetched at the start.
 void frmMain::ReadSkin() {
     const Byte mode = m_configuration.SkinMode();
     m_Fra_Skin->txt_Pfad->setText(ToQString(m_configuration.Read(Configuration::kWebPath)));
@@ -111,7 +111,7 @@ bool frmMain::RecoverPlan(const std::optional<IniFile>& last) {
     const bool yes = ask("Möchtest du die letzte Bauliste wiederherstellen?");
     const bool always = ask("Bei jedem Start so verfahren?");
     if (IsClosed()) {
-        // The end of the program is no answer.
+        // The program was closed: that is no answer.
         return false;
     }
     if (always) {
@@ -158,7 +158,7 @@ void frmMain::SaveNow() {
 }
 
 void frmMain::Persist(Phase phase) {
-    // Until the start is over the plan isn't the user's.
+    // Before, the plan isn't the user's.
     const bool withPlan = phase == Phase::Working;
     const Byte source = m_Fra_Skin->ChosenSource();
     const std::string path = source == kStandardSkin ? "~"
@@ -219,7 +219,7 @@ void frmMain::mnu_Datei_Speichern_Click() {
     }
 }
 
-// What the program moves on by itself is no place to lie in.
+// Files that the program itself overwrites don't count.
 void frmMain::RememberSaved(const std::filesystem::path& file) {
     m_saved = m_autosave.IsOwnFile(file) ? std::nullopt : std::optional(SnapshotOf(m_plan));
 }
@@ -253,12 +253,12 @@ bool frmMain::LoadBauliste(const std::optional<IniFile>& iniFile, const std::fil
         ShowPlan();
         RememberSaved(File);
     }
-    // What was there can be had back.
+    // The former plan can be restored by undo, even if the load failed.
     FinishEdit();
     if (!loaded) {
         return false;
     }
-    // The toolkit takes the lone sign for a place of its own.
+    // In a window title "[*]" is a placeholder of the toolkit; doubled, it is shown.
     setWindowTitle(
         ToQString(WindowTitleFor(File)).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
     RunSimulation(Silent);
