@@ -1,4 +1,4 @@
-// Two tables.
+// Layout, and the two tables of differences.
 #include "ui/workbench/ComparisonPage.h"
 
 #include <QHBoxLayout>
@@ -35,7 +35,7 @@ ComparisonPage::ComparisonPage(const Environment& environment, QWidget* parent)
     Recompare();
 }
 
-// The tables ask this panel for their rows to its end.
+// The tables read members, which are destroyed before child widgets.
 ComparisonPage::~ComparisonPage() {
     delete m_summaryList;
     delete m_orderList;
@@ -72,7 +72,7 @@ void ComparisonPage::Arrange() {
 }
 
 QSize ComparisonPage::minimumSizeHint() const {
-    // An order and three spans, with the days of a long plan.
+    // Room for an order and three time spans of many days.
     constexpr int kCharacters = 86;
     return QWidget::minimumSizeHint().expandedTo(
         QSize(kCharacters * fontMetrics().averageCharWidth(), 0));

@@ -1,4 +1,4 @@
-// The panel of the comparison: this plan against a file, or against how it was.
+// The page that compares the plan with a file or with a remembered state.
 #pragma once
 
 #include <QLabel>
@@ -20,15 +20,15 @@ class ComparisonPage : public QWidget {
     Q_OBJECT
 
   public:
-    /// `environment` must outlive it.
+    /// `environment` must outlive the page.
     ComparisonPage(const Environment& environment, QWidget* parent);
     ComparisonPage(const ComparisonPage&) = delete;
     ComparisonPage& operator=(const ComparisonPage&) = delete;
     ~ComparisonPage() override;
 
-    /// The run of the plan as it is now; nothing if it can't be run.
+    /// The plan's current run; nothing if it can't be run.
     void SetOwnRun(const std::optional<RunTrace>& own);
-    /// What it is held against, if anything.
+    /// What the plan is compared with, if anything.
     [[nodiscard]] const std::optional<RunTrace>& OtherRun() const { return m_other; }
 
     [[nodiscard]] QSize minimumSizeHint() const override;

@@ -1,4 +1,4 @@
-// A falling line.
+// Draws the plot as steps.
 #include "ui/workbench/ConvergencePlot.h"
 
 #include <QPainter>

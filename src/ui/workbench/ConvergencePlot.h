@@ -1,4 +1,4 @@
-// How the best duration of a search went down.
+// A plot of the best duration over the course of a search.
 #pragma once
 
 #include <QWidget>
@@ -13,7 +13,7 @@ class ConvergencePlot : public QWidget {
     explicit ConvergencePlot(QWidget* parent);
 
     void Clear();
-    /// `share`: how much of the search is done, from 0 to 1.
+    /// `share` is how much of the search is done, from 0 to 1; `duration` is in seconds.
     void AddPoint(qreal share, qreal duration);
 
     [[nodiscard]] QSize sizeHint() const override;

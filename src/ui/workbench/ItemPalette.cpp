@@ -1,4 +1,4 @@
-// Pictures in rows, the factors below them.
+// Layout: rows of pictures, with the factors below.
 #include "ui/workbench/ItemPalette.h"
 
 #include <QEvent>

@@ -1,4 +1,4 @@
-// The palette of the workbench: the twenty pictures, and a change of the mines' production.
+// The page from which orders are inserted: the item pictures and the production factors.
 #pragma once
 
 #include <QComboBox>
@@ -24,7 +24,7 @@ class ItemPalette : public QWidget {
     explicit ItemPalette(QWidget* parent);
 
     void SetPictures(const PerItem<QPixmap>& pictures);
-    /// What the place where a row would go in says against each item.
+    /// `objection` tells why an item can't be inserted now. Dims the picture and explains it.
     void SetObjections(const std::function<std::optional<std::string>(ItemId)>& objection);
 
   signals:

@@ -1,4 +1,4 @@
-// Choice and drags of rows.
+// Choosing, dragging and dropping rows.
 #include "ui/workbench/OrderListView.h"
 
 #include <QDrag>
@@ -17,7 +17,7 @@ namespace {
 
 const QString kRows = QStringLiteral("application/x-tarvelin-zeilen");
 
-/// As wide as what usually stands in the columns.
+/// Fits the usual texts of the columns.
 std::vector<int> ColumnWidths() {
     std::vector<int> widths;
     const QFontMetrics metrics{QFont()};
@@ -29,7 +29,6 @@ std::vector<int> ColumnWidths() {
     return widths;
 }
 
-/// Rows that can be dragged.
 class DraggableRows : public TableModel {
   public:
     using TableModel::TableModel;
@@ -92,7 +91,7 @@ std::vector<std::size_t> OrderListView::ChosenRows() const {
 void OrderListView::startDrag(Qt::DropActions /*actions*/) {
     auto* const mimeData = new QMimeData;
     mimeData->setData(kRows, {});
-    // The toolkit deletes the drag when it is over.
+    // The toolkit deletes it after the drop.
     auto* const drag = new QDrag(this);
     drag->setMimeData(mimeData);
     drag->exec(Qt::MoveAction);
@@ -122,7 +121,7 @@ void OrderListView::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void OrderListView::dragMoveEvent(QDragMoveEvent* event) {
-    // A list that is longer than its sight moves on at its edges.
+    // Scrolls a long list at its edges.
     if (const QModelIndex index = indexAt(event->position().toPoint()); index.isValid()) {
         scrollTo(index.siblingAtRow(std::max(0, index.row() - 1)));
         scrollTo(index.siblingAtRow(std::min(m_model->rowCount() - 1, index.row() + 1)));

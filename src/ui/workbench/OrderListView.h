@@ -1,4 +1,4 @@
-// The workbench's list of orders: several can be chosen, and moved by the mouse.
+// The workbench's list of orders, in which several rows can be chosen and dragged.
 #pragma once
 
 #include <vector>
@@ -8,24 +8,24 @@
 
 namespace tarvelin {
 
-/// Rows can be dragged within the list; pictures of the palette can be dropped between them.
+/// Takes drops of its own rows and of pictures of the palette.
 class OrderListView : public ListView {
     Q_OBJECT
 
   public:
     explicit OrderListView(const TableModel::Provider& provider, QWidget* parent);
 
-    /// Tells that the rows have changed; these are chosen then, the first of them in sight.
+    /// Call it when the rows have changed. Chooses these rows and scrolls to the first.
     void Refresh(const std::vector<std::size_t>& chosen);
     void Choose(const std::vector<std::size_t>& rows);
-    /// In the order of the list.
+    /// In ascending order.
     [[nodiscard]] std::vector<std::size_t> ChosenRows() const;
 
   signals:
     void ChoiceChanged();
-    /// The chosen rows were dropped in front of a row, or behind the last.
+    /// The chosen rows were dropped in front of row `before`; the row count means the end.
     void RowsDropped(std::size_t before);
-    /// A picture of this name was dropped there.
+    /// A picture with this object name was dropped there.
     void PictureDropped(const QString& picture, std::size_t before);
 
   protected:
@@ -41,7 +41,7 @@ class OrderListView : public ListView {
     [[nodiscard]] int DropRowAt(const QPoint& position) const;
 
     TableModel* m_model;
-    /// Where a drag would drop, while it lasts.
+    /// The row in front of which a drop would go; -1 without a drag.
     int m_target = -1;
 };
 

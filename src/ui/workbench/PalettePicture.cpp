@@ -1,4 +1,4 @@
-// Drags of a picture.
+// Starts the drag.
 #include "ui/workbench/PalettePicture.h"
 
 #include <QApplication>
@@ -24,7 +24,7 @@ void PalettePicture::mouseMoveEvent(QMouseEvent* event) {
     setDown(false);
     auto* const mimeData = new QMimeData;
     mimeData->setData(kItemMimeType, objectName().toUtf8());
-    // The toolkit deletes the drag when it is over.
+    // The toolkit deletes it after the drop.
     auto* const drag = new QDrag(this);
     drag->setMimeData(mimeData);
     drag->setPixmap(grab());

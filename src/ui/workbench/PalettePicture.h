@@ -1,4 +1,4 @@
-// A picture of the palette: pressed or dragged into the list.
+// A picture of the palette, which can be clicked or dragged to the list.
 #pragma once
 
 #include "ui/widgets/PictureButton.h"

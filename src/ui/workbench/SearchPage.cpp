@@ -181,7 +181,7 @@ SearchRequest SearchPage::MakeRequest() const {
 }
 
 SearchBudget SearchPage::MakeBudget() const {
-    // One core is left for the windows.
+    // Leave one core for the windows.
     const unsigned cores = std::thread::hardware_concurrency();
     return {.tries = static_cast<std::uint64_t>(m_tries->value()),
             .threads = std::max(2U, cores) - 1,

@@ -1,4 +1,4 @@
-// The panel of the search.
+// The page that searches for better plans.
 #pragma once
 
 #include <QCheckBox>
@@ -24,23 +24,24 @@
 
 namespace tarvelin {
 
-/// Searches for a faster plan while the window lives on.
+/// The search runs in the background; the plan can be edited meanwhile.
 class SearchPage : public QWidget {
     Q_OBJECT
 
   public:
-    /// `plan` and `environment` must outlive it; `chosen` gives the rows that are chosen, from 0.
+    /// `plan` and `environment` must outlive the page. `chosen` gives the chosen rows, counted from
+    /// 0.
     SearchPage(const Plan& plan, const Environment& environment,
                std::function<std::vector<std::size_t>()> chosen, QWidget* parent);
 
-    /// Ends a search under way; what it has found stays.
+    /// Ends a running search; its best solution so far stays.
     void StopSearch();
 
   signals:
-    /// The player wants what was found: its rows, and the pause in front of the sleep rows.
+    /// The user accepts the solution: its rows, and a sleep row to put in front of the others.
     void ResultAccepted(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause);
     void Notice(const std::string& text);
-    /// Of the search's own, by its number.
+    /// From the search's thread; `number` is that of the search.
     void ProgressReceived(int number, const SearchProgress& progress);
     void ResultReceived(int number, const SearchResult& result);
 
@@ -56,7 +57,7 @@ class SearchPage : public QWidget {
     [[nodiscard]] std::string ReportText() const;
     void EnableControls();
 
-    /// What was searched, and what came of it.
+    /// The plan and task of the last search, and the solution to accept.
     struct Searched {
         Plan plan;
         PlanTask task;
@@ -82,10 +83,10 @@ class SearchPage : public QWidget {
     ConvergencePlot* m_plot;
     QLabel* m_reportLabel;
     std::optional<Searched> m_searched;
-    /// Which search the news are of.
+    /// The number of the last search.
     int m_number = 0;
     bool m_running = false;
-    /// Ends before what it tells.
+    /// Last, so that its thread ends before the members that it reports to.
     std::unique_ptr<BackgroundSearch> m_search;
 };
 

@@ -1,4 +1,4 @@
-// Words for moments and states.
+// Puts together the texts.
 #include "ui/workbench/StatusTexts.h"
 
 #include <algorithm>

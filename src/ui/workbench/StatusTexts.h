@@ -1,4 +1,4 @@
-// What the workbench tells of a run, in words.
+// Texts of the workbench about a run.
 #pragma once
 
 #include <cstddef>
@@ -12,14 +12,14 @@ namespace tarvelin {
 /// "Mo 20.11. 12:30:05".
 [[nodiscard]] std::string ShortDateTimeText(DateTime time);
 
-/// All there is at a moment: stocks, rates, energy, levels.
+/// Stocks, rates and energy at a moment, and the levels on a second line.
 [[nodiscard]] std::string StatusText(const RunTrace& trace, SimTime moment);
 
-/// The first order that is still to be given, as long as the plan covers the moment: its name, when
-/// and in how long. Nothing before the plan's start and behind its end.
+/// The next order: its name, its time and how long until then, or that all orders are given.
+/// Nothing before the plan's start and after its end.
 [[nodiscard]] std::optional<std::string> NextOrderText(const RunTrace& trace, DateTime now);
 
-/// What a run has to tell, in two lines at most: of many messages the first one, and how many more.
+/// The messages of a run in at most two texts: of more than two the first, and how many more.
 [[nodiscard]] std::string MessagesText(const RunTrace& trace);
 
 }  // namespace tarvelin

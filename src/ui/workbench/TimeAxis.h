@@ -1,4 +1,4 @@
-// Where the marks of a time axis stand, and what they say.
+// Positions and labels of the ticks on the time axis.
 #pragma once
 
 #include <array>
@@ -10,10 +10,10 @@
 
 namespace tarvelin {
 
-/// Marks stand at round moments of the wall clock, as many as there is room for their words.
+/// Ticks are at round times of the wall clock, as close as their labels allow.
 class TimeAxis {
   public:
-    /// `perSecond` and `width` in the same unit: how long a second is, and a mark's words.
+    /// The width of a second and of a label, in the same unit.
     TimeAxis(double perSecond, double width) {
         for (const std::int64_t step : kSteps) {
             m_step = step;
@@ -26,7 +26,8 @@ class TimeAxis {
         }
     }
 
-    /// Tells the marks from `from` to `until`, in seconds since `begin`: the second and the words.
+    /// Calls `tick` with second and label of each tick from `from` to `until`, and perhaps one
+    /// before. Seconds count from `begin`.
     template <class Tick>
     void ForEachTick(DateTime begin, double from, double until, Tick tick) const {
         const auto first = begin + static_cast<std::int64_t>(std::floor(from));

@@ -1,4 +1,4 @@
-// The two sets of colours.
+// The two sets of colors, and the color of each kind of wait.
 #include "ui/workbench/TimelineColors.h"
 
 #include "ui/services/DesktopColors.h"
@@ -7,7 +7,6 @@ namespace tarvelin {
 
 namespace {
 
-/// Half of both.
 QColor Mix(const QColor& a, const QColor& b) {
     return QColor::fromRgb((a.red() + b.red()) / 2, (a.green() + b.green()) / 2,
                            (a.blue() + b.blue()) / 2);
@@ -32,14 +31,14 @@ TimelineColors::TimelineColors(const QPalette& palette)
     };
     constexpr int kBand = 60;
     // clang-format off
-    sleep        = Translucent(color(0x7a5cc8, 0x9a84e0), kBand);
-    now         = color(0xc81e1e, 0xff6a5a);
-    production    = color(0x8a5a00, 0xe0b050);
-    energy       = color(0xa07800, 0xe8d040);
-    energyDeficit = color(0xd02020, 0xff5040);
-    bars[Queue::Building]  = color(0xf0c070, 0x8a6220);
-    bars[Queue::Shipyard]     = color(0x9ccf9c, 0x3c703c);
-    bars[Queue::Research] = color(0x9cc4f0, 0x35608f);
+    sleep                      = Translucent(color(0x7a5cc8, 0x9a84e0), kBand);
+    now                        = color(0xc81e1e, 0xff6a5a);
+    production                 = color(0x8a5a00, 0xe0b050);
+    energy                     = color(0xa07800, 0xe8d040);
+    energyDeficit              = color(0xd02020, 0xff5040);
+    bars[Queue::Building]      = color(0xf0c070, 0x8a6220);
+    bars[Queue::Shipyard]      = color(0x9ccf9c, 0x3c703c);
+    bars[Queue::Research]      = color(0x9cc4f0, 0x35608f);
     stock[Resource::Metall]    = color(0x606060, 0xb8b8b8);
     stock[Resource::Kristall]  = color(0x1060c8, 0x60a8ff);
     stock[Resource::Deuterium] = color(0x008878, 0x40d0b8);

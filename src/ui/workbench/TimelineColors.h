@@ -1,4 +1,4 @@
-// Colours of the timeline, on a light or a dark desktop.
+// Colors of the timeline on a light or dark desktop.
 #pragma once
 
 #include <QColor>
@@ -10,7 +10,6 @@
 
 namespace tarvelin {
 
-/// What the timeline is drawn with.
 struct TimelineColors {
     QColor background;
     QColor lane;
@@ -27,7 +26,7 @@ struct TimelineColors {
 
     explicit TimelineColors(const QPalette& palette);
 
-    /// Of a wait, after its reason.
+    /// The color of a wait.
     [[nodiscard]] QColor ForDelay(const Delay& delay) const;
 };
 

@@ -1,4 +1,4 @@
-// Painting of a run.
+// Layout and painting of the picture.
 #include "ui/workbench/TimelineGraphic.h"
 
 #include <QFontMetricsF>
@@ -20,7 +20,7 @@ namespace {
 constexpr qreal kBarShare = 0.7;
 constexpr qreal kMargin = 3;
 
-/// What a curve is drawn through: its value at each point, and where it goes until the next.
+/// Calls `value` with each point of a run and the time of the next one.
 template <class Value>
 void ForEachPiece(const RunTrace& trace, Value value) {
     for (std::size_t i = 0; i < trace.curve.size(); ++i) {
@@ -47,7 +47,7 @@ struct Range {
         from = std::min(from, value);
         to = std::max(to, value);
     }
-    /// The height of a value in a field.
+    /// Where a value is drawn in `rect`.
     [[nodiscard]] qreal Y(qreal value, const QRectF& rect) const {
         return rect.bottom() - (value - from) / std::max(1.0, to - from) * rect.height();
     }
@@ -61,7 +61,7 @@ const std::array<TimelineGraphic::Lane, 3> TimelineGraphic::kLanes{{
     {Queue::Shipyard, "Werft"},
 }};
 
-/// Paints in pixels, whatever the stretch of the scene.
+/// Paints in pixels, so that nothing is stretched with the scene.
 class TimelineGraphic::Renderer {
   public:
     Renderer(const TimelineGraphic& graphic, QPainter& painter, const QRectF& view)
@@ -103,8 +103,7 @@ class TimelineGraphic::Renderer {
         return until >= m_left && from <= m_right;
     }
 
-    /// Words at the left of what is in sight, on a ground that keeps them apart from what lies
-    /// below. Where they end.
+    /// A text on a translucent background. Returns its right end.
     qreal DrawLabel(qreal x, qreal top, const QString& text, const QColor& color) {
         const QFontMetricsF metrics(m_graphic.m_font);
         const QRectF box(x, top, metrics.horizontalAdvance(text), metrics.height());
@@ -190,7 +189,7 @@ class TimelineGraphic::Renderer {
         if (chosen || bar.width() > kNarrow) {
             m_painter.drawRect(bar);
         }
-        // What is cut off at the left begins where the sight begins.
+        // The text of a bar that begins left of the view begins at the edge.
         DrawContent(start, bar.intersected(QRectF(m_left, 0, m_right - m_left, bar.bottom()))
                                .adjusted(kMargin, 0, -kMargin, 0));
     }
@@ -235,7 +234,6 @@ class TimelineGraphic::Renderer {
         }
     }
 
-    /// A line through the values of all pieces in sight.
     template <class Value>
     void DrawCurve(const RunTrace& trace, const QRectF& rect, const Range& range,
                    const QColor& color, Value value) {
@@ -251,7 +249,7 @@ class TimelineGraphic::Renderer {
         m_painter.drawPolyline(line);
     }
 
-    /// The line of nothing, and the words of a field; where they end.
+    /// The zero line, and the name with the range of values. Returns the right end of the text.
     qreal DrawScale(const QRectF& rect, const Range& range, const QString& name) {
         m_painter.setPen(m_graphic.m_colors.line);
         const qreal zero = range.Y(0, rect);
@@ -336,13 +334,13 @@ class TimelineGraphic::Renderer {
     const RunTrace& m_trace;
     QPainter& m_painter;
     qreal m_perSecond = 1;
-    /// What is in sight, in pixels.
+    /// The ends of the visible part, in pixels.
     qreal m_left = 0;
     qreal m_right = 0;
 };
 
 TimelineGraphic::TimelineGraphic() {
-    // What is in sight is told to `paint`.
+    // Gives `paint` the visible part.
     setFlag(ItemUsesExtendedStyleOption);
 }
 

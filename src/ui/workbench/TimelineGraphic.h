@@ -1,4 +1,4 @@
-// The picture of a run: lanes with orders and waits, sleep windows, curves of stocks and energy.
+// Draws a run: lanes with orders and waits, sleep windows, stocks and energy.
 #pragma once
 
 #include <QFont>
@@ -13,30 +13,31 @@
 
 namespace tarvelin {
 
-/// Lies in a scene whose horizontal unit is the second since the plan's start. It is stretched in
-/// that direction alone; words and pictures keep their form.
+/// The scene's x is in seconds since the plan's start. A view may scale it in that direction only;
+/// texts and pictures aren't distorted.
 class TimelineGraphic : public QGraphicsItem {
   public:
     TimelineGraphic();
 
-    /// Nothing for a plan that can't be run.
+    /// None if the plan can't be run.
     void SetRun(const std::optional<RunTrace>& trace);
-    /// A run whose curves are drawn pale behind the others.
+    /// A second run, whose stocks are drawn pale behind those of the first.
     void SetOtherRun(const std::optional<RunTrace>& other);
     void SetPictures(const PerItem<QPixmap>& pictures);
     void SetAppearance(const TimelineColors& colors, const QFont& font);
     void SetHeight(qreal height);
     void SetChosenRows(std::set<std::size_t> rows);
 
-    /// What it needs to be read.
+    /// The least height at which it can be read.
     [[nodiscard]] qreal MinHeight() const;
     [[nodiscard]] const std::optional<RunTrace>& Run() const { return m_trace; }
     [[nodiscard]] const TimelineColors& Colors() const { return m_colors; }
-    /// From where to where it shows the run, in seconds.
+    /// Where the picture ends, in seconds since the plan's start: the end of the longer run, at
+    /// least 1.
     [[nodiscard]] qreal EndSecond() const;
-    /// The row whose bar, wait or mark lies at a point, that far off at most in seconds.
+    /// The row whose bar, wait or mark is at a point, or at most `beside` seconds away.
     [[nodiscard]] std::optional<std::size_t> RowAt(const QPointF& position, qreal beside) const;
-    /// Of a row's bar, in the scene; nothing for a row that never started.
+    /// In the scene. Nothing for a row that never started.
     [[nodiscard]] std::optional<QRectF> BarOf(std::size_t row) const;
 
     [[nodiscard]] QRectF boundingRect() const override;
@@ -56,7 +57,7 @@ class TimelineGraphic : public QGraphicsItem {
     [[nodiscard]] QRectF LaneRect(Queue queue) const;
     [[nodiscard]] QRectF StockRect() const;
     [[nodiscard]] QRectF EnergyRect() const;
-    /// When the order of a start began to wait.
+    /// When the order of start `index` became the next one to give.
     [[nodiscard]] SimTime WaitsSince(std::size_t index) const;
 
     std::optional<RunTrace> m_trace;

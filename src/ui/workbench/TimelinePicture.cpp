@@ -1,4 +1,4 @@
-// The three formats.
+// Renders PNG, PDF and SVG.
 #include "ui/workbench/TimelinePicture.h"
 
 #include <QBuffer>
@@ -14,7 +14,7 @@ namespace tarvelin {
 namespace {
 
 QByteArray ToPng(TimelineView& timeline, const QSize& size) {
-    // Sharp on a screen of twice the density, too.
+    // Sharp on screens of scale 2, too.
     constexpr int kSharpness = 2;
     QImage picture(size * kSharpness, QImage::Format_RGB32);
     QPainter painter(&picture);
@@ -35,7 +35,7 @@ QByteArray ToPdf(TimelineView& timeline, const QSize& size) {
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
     writer.setTitle(QStringLiteral("Tarvelin"));
-    // A point of the page for each pixel.
+    // One point per pixel.
     constexpr int kDotsPerInch = 72;
     writer.setResolution(kDotsPerInch);
     writer.setPageMargins(QMarginsF());

@@ -1,4 +1,4 @@
-// The timeline as a picture in a file.
+// Saves the timeline as a picture.
 #pragma once
 
 #include <QByteArray>
@@ -9,8 +9,8 @@
 
 namespace tarvelin {
 
-/// The bytes of a picture of what the timeline shows, in the format that the name's ending tells:
-/// PNG, PDF or, where that can be had, SVG. Nothing for any other ending.
+/// The file of a picture of the visible part. `suffix` is the format, in any case: png, pdf or, if
+/// it is built in, svg. Nothing for any other.
 [[nodiscard]] std::optional<QByteArray> RenderTimeline(TimelineView& timeline,
                                                        const QString& suffix);
 

@@ -1,4 +1,4 @@
-// Zoom, moves, cursor.
+// Zoom, scrolling, cursor and keys of the timeline.
 #include "ui/workbench/TimelineView.h"
 
 #include <QApplication>
@@ -17,14 +17,15 @@ namespace tarvelin {
 
 namespace {
 
-/// Pixels of a second at the strongest zoom, and how far a scroll bar can count.
-constexpr qreal kLargest = 20;
-constexpr qreal kLongest = 1e9;
+/// Pixels per second at the strongest zoom.
+constexpr qreal kMaxScale = 20;
+/// Keeps the whole width within the range of a scroll bar.
+constexpr qreal kMaxWidth = 1e9;
 constexpr qreal kZoomStep = 1.25;
 
 }  // namespace
 
-/// Changes what is shown. What is in sight stays, unless all was.
+/// Keeps the visible part, unless all was visible.
 template <class Action>
 void TimelineView::ChangeKeepingView(Action action) {
     const bool everything = ShowsAll();
@@ -49,7 +50,7 @@ TimelineView::TimelineView(QWidget* parent)
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setTransformationAnchor(NoAnchor);
     setResizeAnchor(NoAnchor);
-    // Names stand at the left of what is in sight.
+    // The names of the lanes move with the view.
     setViewportUpdateMode(FullViewportUpdate);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -108,7 +109,7 @@ void TimelineView::ShowAll() {
 
 void TimelineView::SetPixelsPerSecond(qreal perSecond) {
     const qreal largest =
-        std::max(MinScale(), std::min(kLargest, kLongest / m_graphic->EndSecond()));
+        std::max(MinScale(), std::min(kMaxScale, kMaxWidth / m_graphic->EndSecond()));
     setTransform(QTransform::fromScale(std::clamp(perSecond, MinScale(), largest), 1));
 }
 
@@ -160,7 +161,7 @@ void TimelineView::mouseReleaseEvent(QMouseEvent* event) {
 
 void TimelineView::mouseDoubleClickEvent(QMouseEvent* /*event*/) {
     ShowAll();
-    // The release behind it chooses nothing.
+    // The release that follows must not choose a row.
     m_dragging = true;
 }
 
@@ -253,7 +254,7 @@ void TimelineView::FitHeight() {
 }
 
 void TimelineView::resizeEvent(QResizeEvent* event) {
-    // As it was before the change.
+    // Whether all was visible before the change.
     const bool everything =
         event->oldSize().width() <= 0 ||
         PixelsPerSecond() * m_graphic->EndSecond() <= static_cast<qreal>(event->oldSize().width());

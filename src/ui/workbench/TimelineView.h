@@ -1,4 +1,4 @@
-// The timeline: the picture of a run that can be zoomed, moved and asked.
+// The timeline: zooms and scrolls the picture of a run and moves a cursor over it.
 #pragma once
 
 #include <QGraphicsScene>
@@ -9,36 +9,36 @@
 
 namespace tarvelin {
 
-/// The wheel zooms at the pointer, a drag moves, a double click shows all, a click tells the row
-/// below it. By keys: the arrows move the cursor, with Ctrl from start to start; plus and minus
-/// zoom at it, Pos1 shows all, Enter tells its row.
+/// The wheel zooms at the pointer, dragging scrolls, a double click shows all, a click chooses the
+/// row below it. By keys: the arrows move the cursor, with Ctrl from start to start; plus and minus
+/// zoom at the cursor, Home shows all, Enter chooses the row that starts at the cursor or next.
 class TimelineView : public QGraphicsView {
     Q_OBJECT
 
   public:
     explicit TimelineView(QWidget* parent);
 
-    /// Shows a run, or none. What is in sight stays, unless all was.
+    /// Keeps the visible part, unless all was visible.
     void SetRun(const std::optional<RunTrace>& trace);
-    /// Another run, whose curves stand pale behind those of the first; or none.
+    /// A second run, whose stocks are drawn pale behind those of the first.
     void SetOtherRun(const std::optional<RunTrace>& other);
     void SetPictures(const PerItem<QPixmap>& pictures) { m_graphic->SetPictures(pictures); }
     void SetAppearance(const QPalette& palette, const QFont& font);
     void SetChosenRows(const std::set<std::size_t>& rows) { m_graphic->SetChosenRows(rows); }
-    /// Brings a row's bar to sight.
+    /// Scrolls to a row's bar.
     void BringIntoView(std::size_t row);
-    /// The wall clock.
+    /// The time of the wall clock, which is marked.
     void SetNow(DateTime now);
 
     /// Shows the whole plan.
     void ShowAll();
-    /// What is in sight, as it is seen, on any painter's field.
+    /// Paints the visible part into `rect`.
     void PaintOn(QPainter& painter, const QRectF& rect);
-    /// What a lack is written in.
+    /// For texts about a lack of energy.
     [[nodiscard]] const QColor& DeficitColor() const { return m_graphic->Colors().energyDeficit; }
 
   signals:
-    /// The moment below the cursor; none when the pointer has left.
+    /// Nothing when the pointer has left, or there is no run.
     void CursorMoved(std::optional<SimTime> moment);
     void RowChosen(std::size_t row);
 

@@ -1,4 +1,4 @@
-// Rows and their two forms.
+// The rows and their two formats.
 #include "ui/workbench/Timetable.h"
 
 #include <array>
@@ -24,7 +24,7 @@ std::vector<TextRow> Rows(const RunTrace& trace) {
     return rows;
 }
 
-/// Rows between marks; none of the texts has a letter that needs another form.
+/// None of the texts contains a character that needs escaping.
 std::string Joined(const std::vector<TextRow>& rows, const char* beforeRow, const char* beforeCell,
                    const char* between, const char* afterRow) {
     std::string text;

@@ -1,4 +1,4 @@
-// The timetable for other programs: chats, spreadsheets.
+// The timetable as text for other programs, such as chats and spreadsheets.
 #pragma once
 
 #include <string>
@@ -7,10 +7,10 @@
 
 namespace tarvelin {
 
-/// A line for each order, columns parted by tabs, the captions first.
+/// A header and a line for each order, with tabs between columns.
 [[nodiscard]] std::string TimetableTsv(const RunTrace& trace);
 
-/// The same as a table of a web page.
+/// The same as an HTML table.
 [[nodiscard]] std::string TimetableHtml(const RunTrace& trace);
 
 }  // namespace tarvelin

@@ -1,4 +1,4 @@
-// Layout of the workbench and its handlers.
+// Layout and handlers of the workbench.
 #include "ui/workbench/Workbench.h"
 
 #include <QAccessible>
@@ -37,13 +37,13 @@ namespace tarvelin {
 
 namespace {
 
-/// Of the list, from the left.
+/// Columns of the list.
 enum Column { kNumber, kOrder, kStart, kFinish, kDelay, kFactor };
 
-/// Of the window at first, in heights of a line.
+/// Initial size of the window, in line heights.
 constexpr QSize kInitialLines(96, 54);
 
-/// A palette whose every colour counts, whatever the program's own says.
+/// Sets every color explicitly, so that none comes from the program's palette.
 QPalette AsOwn(const QPalette& colors) {
     QPalette own;
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
@@ -93,7 +93,7 @@ Workbench::Workbench(const Plan& plan, const EditHistory& history,
     FollowDesktop();
 }
 
-// The list asks this window for its rows to its end.
+// The list reads members, which are destroyed before child widgets.
 Workbench::~Workbench() {
     delete m_list;
 }
@@ -111,11 +111,10 @@ QPushButton* Workbench::NewCommandButton(const char* name, const char* text,
     return button;
 }
 
-/// What is done with the plan, in panels behind each other.
 void Workbench::AddPages() {
     for (QWidget* const page :
          {static_cast<QWidget*>(m_palette), static_cast<QWidget*>(m_searchPage)}) {
-        // A small screen has no room for all of it.
+        // A small screen has no room for the whole page.
         auto* const scrollArea = new QScrollArea(this);
         scrollArea->setWidget(page);
         scrollArea->setWidgetResizable(true);
@@ -217,7 +216,7 @@ void Workbench::ConnectSignals() {
     connect(&m_timer, &QTimer::timeout, this, &Workbench::Tick);
 }
 
-// Nothing moves when a message comes or goes.
+// A fixed height, so that nothing moves when a message comes or goes.
 void Workbench::SetMessageHeight() {
     constexpr int kLineCount = 2;
     m_messageLabel->setFixedHeight(kLineCount * m_messageLabel->fontMetrics().lineSpacing() +
@@ -230,7 +229,7 @@ void Workbench::FollowDesktop() {
     setFont(DesktopFont());
     SetMessageHeight();
     m_timeline->SetAppearance(colors, font());
-    // Scrolled up and down only.
+    // Wide enough never to scroll sideways.
     for (auto* const scrollArea : m_pages->findChildren<QScrollArea*>()) {
         scrollArea->setMinimumWidth(scrollArea->widget()->minimumSizeHint().width() +
                                     style()->pixelMetric(QStyle::PM_ScrollBarExtent));
@@ -252,7 +251,7 @@ void Workbench::showEvent(QShowEvent* event) {
 }
 
 void Workbench::hideEvent(QHideEvent* event) {
-    // A window that is only made small goes on.
+    // Not when the window is minimized.
     if (!event->spontaneous()) {
         m_timer.SetRunning(false);
         m_searchPage->StopSearch();
@@ -277,7 +276,7 @@ void Workbench::Open(const Configuration& configuration) {
                    .expandedTo(QSize(1, 1)));
         const auto left = read(Configuration::kWorkbenchLeft);
         const auto top = read(Configuration::kWorkbenchTop);
-        // A screen that is gone would keep the window out of sight.
+        // The screen may be gone.
         if (left && top && QGuiApplication::screenAt({*left, *top}) != nullptr) {
             move(*left, *top);
         }
@@ -391,10 +390,10 @@ void Workbench::Tick() {
 
 void Workbench::ShowNotice(const std::string& text) {
     m_messageLabel->setText(ToQString(text).trimmed());
-    // Its place has no room for more than two lines.
+    // The label shows only two lines.
     m_messageLabel->setToolTip(m_messageLabel->text());
     if (!text.empty()) {
-        // Read out at once, wherever the keyboard is.
+        // Screen readers read it at once, wherever the focus is.
         QAccessibleEvent alert(m_messageLabel, QAccessible::Alert);
         QAccessible::updateAccessibility(&alert);
     }
@@ -429,7 +428,7 @@ void Workbench::DuplicateChosen() {
     EditChosen([](ListEdit& edit, const auto& rows) { edit.Duplicate(rows); });
 }
 
-// What was chosen stays so: the next row goes in behind this one.
+// The chosen rows stay chosen, so the next row is inserted behind this one.
 void Workbench::InsertRow(std::string_view tag, std::size_t before) {
     ListEdit edit(m_plan.LV_Bauliste);
     edit.Insert(before, tag);
@@ -499,7 +498,7 @@ TableModel::Provider Workbench::ListProvider() const {
             },
         .description =
             [this](std::size_t row) {
-                // Narrow columns cut their texts.
+                // Narrow columns elide their texts.
                 std::string text = CellText(row, kOrder);
                 for (const int column : {kStart, kFinish, kDelay}) {
                     text += "\n" + CellText(row, column);

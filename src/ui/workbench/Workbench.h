@@ -1,4 +1,4 @@
-// The workbench: the plan as a picture and as a list that can be edited in the middle.
+// The workbench: a timeline of the plan and a list that can be edited anywhere.
 #pragma once
 
 #include <QLabel>
@@ -26,31 +26,32 @@
 
 namespace tarvelin {
 
-/// Shows a plan that another window owns, and a run of it that it plays for itself. It changes
-/// nothing of the plan: it tells what it is to be.
+/// Shows a plan that another window owns, and a run of its own. Never edits the plan: it emits the
+/// rows it wants.
 class Workbench : public QWidget {
     Q_OBJECT
 
   public:
-    /// All of them must outlive it.
-    /// `before` tells how many seconds before a start the alarm rings, as its input has it.
+    /// The arguments must outlive the window. `leadTime` gives the text that says how many seconds
+    /// before a start the alarm sounds.
     Workbench(const Plan& plan, const EditHistory& history, std::function<std::string()> leadTime,
               const Environment& environment);
     Workbench(const Workbench&) = delete;
     Workbench& operator=(const Workbench&) = delete;
     ~Workbench() override;
 
-    /// The plan has changed; plays it anew, if the window is open.
+    /// Call it when the plan has changed. Runs the plan again if the window is visible.
     void RefreshPlan();
     void SetPictures(const PerItem<QPixmap>& pictures);
 
-    /// Opens the window where `configuration` says, the first time, or brings it to the front.
+    /// Opens the window or brings it to the front. The first time it takes size and place from
+    /// `configuration`.
     void Open(const Configuration& configuration);
-    /// Size and place for the next start.
+    /// Size and place for the next start; none if the window was never open.
     [[nodiscard]] Configuration::Values GeometryValues() const;
 
   signals:
-    /// The rows that the plan is to have, and what is to stand in front of its sleep rows.
+    /// The rows that the plan should have, and a sleep row to put in front of the others.
     void ListEdited(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause);
     void UndoRequested();
     void RedoRequested();
@@ -76,9 +77,9 @@ class Workbench : public QWidget {
     void Tick();
     void ShowNotice(const std::string& text);
 
-    /// Carries an edit out, after which these rows are chosen, or tells why it can't be.
+    /// Emits the edited rows and chooses `chosen` afterwards, or shows why the edit isn't allowed.
     void ApplyEdit(const ListEdit& edit, std::vector<std::size_t> chosen);
-    /// Makes one of an edit of the chosen rows, which stay so.
+    /// Applies `step` to the chosen rows, which stay chosen.
     template <class Step>
     void EditChosen(Step step);
     void MoveUp();
@@ -90,7 +91,7 @@ class Workbench : public QWidget {
     void CopyTimetable();
     void SaveCalendar();
     void SaveBytes(const std::filesystem::path& file, const std::string& bytes);
-    /// In front of which row a new one goes: the first that is chosen, or behind the last.
+    /// New rows go in front of the first chosen row, or to the end.
     [[nodiscard]] std::size_t InsertPosition() const;
     [[nodiscard]] TableModel::Provider ListProvider() const;
     [[nodiscard]] std::string CellText(std::size_t row, int column) const;
@@ -99,14 +100,14 @@ class Workbench : public QWidget {
     const EditHistory& m_history;
     std::function<std::string()> m_leadTime;
     const Environment& m_environment;
-    /// Nothing, with the reason in the strip, if the plan can't be run.
+    /// Nothing if the plan can't be run.
     std::optional<RunTrace> m_trace;
-    /// The duration before the last step that was done or taken back, and how many lay behind the
-    /// plan then.
+    /// In seconds, before the last edit, undo or redo.
     std::optional<Long> m_durationBefore;
+    /// The history's step count at the last run, by which an edit, undo or redo is noticed.
     std::size_t m_steps = 0;
     std::optional<Long> m_durationChange;
-    /// Which rows are to be chosen when the plan comes back from an edit.
+    /// The rows to choose once the plan has taken over an edit.
     std::optional<std::vector<std::size_t>> m_nextChosen;
 
     QLabel* m_messageLabel;
