@@ -1,7 +1,7 @@
 // Builds the addresses and compares versions.
 #include "ui/mainwindow/MakerSite.h"
 
-#include <bit>
+#include "util/Utf8.h"
 
 namespace tarvelin {
 
@@ -22,20 +22,11 @@ constexpr const char* kLineEnd = "\r\n";
 
 /// The text should be UTF-8; an invalid byte counts as a character.
 std::string_view FirstCharacters(std::string_view text, std::size_t count) {
-    std::size_t end = 0;
-    int following = 0;
-    for (; end < text.size(); ++end) {
-        const int ones = std::countl_one(static_cast<unsigned char>(text[end]));
-        if (ones == 1 && following > 0) {
-            --following;
-            continue;
-        }
-        if (count-- == 0) {
-            break;
-        }
-        following = ones >= 2 && ones <= 4 ? ones - 1 : 0;
+    std::string_view rest = text;
+    for (std::size_t i = 0; i < count && !rest.empty(); ++i) {
+        static_cast<void>(TakeCodePoint(rest));
     }
-    return text.substr(0, end);
+    return text.substr(0, text.size() - rest.size());
 }
 
 }  // namespace
