@@ -14,11 +14,11 @@ namespace tarvelin {
 
 namespace {
 
-const QString kNamespace = QStringLiteral("org.freedesktop.appearance");
-const QString kKey = QStringLiteral("color-scheme");
-const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString kInterface = QStringLiteral("org.freedesktop.portal.Settings");
+constexpr QLatin1String kNamespace("org.freedesktop.appearance");
+constexpr QLatin1String kKey("color-scheme");
+constexpr QLatin1String kService("org.freedesktop.portal.Desktop");
+constexpr QLatin1String kPath("/org/freedesktop/portal/desktop");
+constexpr QLatin1String kInterface("org.freedesktop.portal.Settings");
 
 /// 1 asks for dark windows. The value may be wrapped in variants, even twice.
 bool AsksForDark(QVariant value) {
@@ -37,7 +37,7 @@ PortalColorScheme::PortalColorScheme(QObject* context, std::function<void(bool)>
                 SLOT(SettingChanged(QString, QString, QDBusVariant)));
     QDBusMessage request =
         QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("Read"));
-    request << kNamespace << kKey;
+    request << QString(kNamespace) << QString(kKey);
     auto* const watcher = new QDBusPendingCallWatcher(bus.asyncCall(request), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         const QDBusPendingReply<QDBusVariant> value = *watcher;

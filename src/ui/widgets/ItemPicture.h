@@ -8,7 +8,7 @@
 namespace tarvelin {
 
 /// The data of a drag is the picture's object name; private to this program.
-inline const QString kItemMimeType = QStringLiteral("application/x-tarvelin-item");
+inline constexpr QLatin1String kItemMimeType("application/x-tarvelin-item");
 
 struct DragCursors {
     /// Over a picture that can be dragged.

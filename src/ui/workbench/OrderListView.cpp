@@ -15,7 +15,7 @@ namespace tarvelin {
 
 namespace {
 
-const QString kRows = QStringLiteral("application/x-tarvelin-zeilen");
+constexpr QLatin1String kRowsMimeType("application/x-tarvelin-zeilen");
 
 /// Fits the usual texts of the columns.
 std::vector<int> ColumnWidths() {
@@ -90,7 +90,7 @@ std::vector<std::size_t> OrderListView::ChosenRows() const {
 
 void OrderListView::startDrag(Qt::DropActions /*actions*/) {
     auto* const mimeData = new QMimeData;
-    mimeData->setData(kRows, {});
+    mimeData->setData(kRowsMimeType, {});
     // The toolkit deletes it after the drop.
     auto* const drag = new QDrag(this);
     drag->setMimeData(mimeData);
@@ -108,7 +108,7 @@ int OrderListView::DropRowAt(const QPoint& position) const {
 }
 
 void OrderListView::OfferDrop(QDropEvent& event) {
-    const bool rows = event.source() == this && event.mimeData()->hasFormat(kRows);
+    const bool rows = event.source() == this && event.mimeData()->hasFormat(kRowsMimeType);
     const bool picture = event.mimeData()->hasFormat(kItemMimeType) && event.source() != nullptr;
     event.setDropAction(rows ? Qt::MoveAction : Qt::CopyAction);
     event.setAccepted(rows || picture);
