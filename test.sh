@@ -2,7 +2,7 @@
 # Installs what is needed, runs all tests under the sanitizers, then builds the release and tests its
 # package. With an argument it does something else instead:
 #   --tools     clang-tidy, cppcheck and a build by clang++, none of which may complain
-#   --coverage  tells which lines below the window the tests run
+#   --coverage  shows which lines below the window the tests run
 #   --monkey [SEED [ACTIONS]]
 #               lets a monkey play the real program on a virtual screen: seed 1, 400 actions
 #   --windows   builds everything for Windows, its libraries included, runs the tests under Wine, packs

@@ -2,7 +2,7 @@
 # Runs clang's fuzzer on each target, one after the other, or on those that are named:
 #   fuzz/run.sh SECONDS [Plan|IniFile|Texts]...
 # It begins with the kept inputs and the plans of the tests, and adds to build/fuzz/corpus what reaches
-# further. An input that breaks a promise is written to build/fuzz, its name is told, and the run fails.
+# further. An input that breaks a law is written to build/fuzz and named, and the run fails.
 # To keep the fewest inputs that reach all that was reached:
 #   fuzz/run.sh --merge
 set -euo pipefail

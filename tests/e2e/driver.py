@@ -269,7 +269,7 @@ class Hands:
                                         stdout=subprocess.PIPE, text=True)
 
     def do(self, words):
-        """Returns when it is done: the answer to a query behind it tells."""
+        """Returns when it is done, which the answer to a query sent after it shows."""
         self.process.stdin.write(f"{words}\ngetdisplaygeometry\n")
         self.process.stdin.flush()
         if not select.select([self.process.stdout], [], [], 30)[0]:
