@@ -28,6 +28,8 @@ def starts(program, plan):
         return None
     orders = result["Verlauf"]["Auftraege"]
     for order in orders:
+        # JSON keeps a misspelt name, as programs know it; calendars are for people.
+        order["Auftrag"] = order["Auftrag"].replace("Rakentenwerfer", "Raketenwerfer")
         day, time_of_day = order["Startzeit"].split()
         day, month, year = map(int, day.split("."))
         order["at"] = datetime.datetime.combine(datetime.date(year, month, day),
