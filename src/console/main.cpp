@@ -228,7 +228,8 @@ CLI::Option* AddSearch(CLI::App& app, tarvelin::SearchCommand& command) {
             ->transform(CLI::Validator(
                 [](std::string& number) {
                     std::ranges::replace(number, ',', '.');
-                    const bool isNumber = number.find_first_not_of("0123456789.") == number.npos;
+                    const bool isNumber =
+                        number.find_first_not_of("0123456789.") == std::string::npos;
                     return std::string(isNumber ? "" : "keine Zahl");
                 },
                 ""))

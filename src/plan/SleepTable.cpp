@@ -42,8 +42,8 @@ std::optional<Long> ParseDuration(const SleepInput& input) {
 }
 
 bool Overlap(const Period& oldPeriod, const Period& newPeriod) {
-    const auto notLater = [](DateTime first, DateTime second) {
-        return !cSchlafzeit::IstSpaeter(second, first);
+    const auto notLater = [](DateTime time, DateTime other) {
+        return !cSchlafzeit::IstSpaeter(other, time);
     };
     const auto inOld = [&](DateTime time) {
         return notLater(oldPeriod.start, time) && cSchlafzeit::IstSpaeter(time, oldPeriod.end);
