@@ -245,7 +245,7 @@ TEST(ProgramFolder, FileDialogsBeginInAKnownFolder) {
     EXPECT_TRUE(std::filesystem::is_directory(folder / "saves"));
     std::filesystem::remove(folder / "saves");
     WriteFile(folder / "saves", "");
-    EXPECT_EQ(PlanFolder(folder / "", NativeFileSystem()).string() + "/", (folder / "").string());
+    EXPECT_EQ(PlanFolder(folder / "", NativeFileSystem()) / "", folder / "");
 }
 
 TEST(ProgramFolder, ProtectsWhatAnotherWindowKeeps) {
