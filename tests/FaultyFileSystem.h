@@ -52,28 +52,28 @@ class FaultyFileSystem : public FileSystem {
     [[nodiscard]] int Create(const std::filesystem::path& file) const override {
         return Fails("Create") ? -1 : NativeFileSystem().Create(file);
     }
-    [[nodiscard]] std::ptrdiff_t Read(int number, std::span<char> bytes) const override {
-        return Fails("Read") ? -1 : NativeFileSystem().Read(number, bytes);
+    [[nodiscard]] std::ptrdiff_t Read(int handle, std::span<char> bytes) const override {
+        return Fails("Read") ? -1 : NativeFileSystem().Read(handle, bytes);
     }
-    [[nodiscard]] std::ptrdiff_t Write(int number, std::string_view bytes) const override {
+    [[nodiscard]] std::ptrdiff_t Write(int handle, std::string_view bytes) const override {
         // Writes at most half, so that a later call can fail in between.
         const auto half = bytes.substr(0, (bytes.size() + 1) / 2);
         if (Fails("Write")) {
-            static_cast<void>(NativeFileSystem().Write(number, half));
+            static_cast<void>(NativeFileSystem().Write(handle, half));
             return -1;
         }
-        return NativeFileSystem().Write(number, half);
+        return NativeFileSystem().Write(handle, half);
     }
-    [[nodiscard]] bool CopyPermissions(int number,
+    [[nodiscard]] bool CopyPermissions(int handle,
                                        const std::filesystem::path& from) const override {
-        return !Fails("CopyPermissions") && NativeFileSystem().CopyPermissions(number, from);
+        return !Fails("CopyPermissions") && NativeFileSystem().CopyPermissions(handle, from);
     }
-    [[nodiscard]] bool Sync(int number) const override {
-        return !Fails("Sync") && NativeFileSystem().Sync(number);
+    [[nodiscard]] bool Sync(int handle) const override {
+        return !Fails("Sync") && NativeFileSystem().Sync(handle);
     }
-    bool Close(int number) const override {
+    bool Close(int handle) const override {
         const bool failed = Fails("Close");
-        return NativeFileSystem().Close(number) && !failed;
+        return NativeFileSystem().Close(handle) && !failed;
     }
     [[nodiscard]] bool Rename(const std::filesystem::path& from,
                               const std::filesystem::path& target) const override {

@@ -78,8 +78,8 @@ std::string ValueError(const std::string& text) {
     if (text.find("At Most 1") != std::string::npos) {
         return option + " steht mehrmals da";
     }
-    for (const std::string_view checkBox : {"--json", "--csv", "--verlauf", "--frei"}) {
-        if (option == checkBox) {
+    for (const std::string_view flag : {"--json", "--csv", "--verlauf", "--frei"}) {
+        if (option == flag) {
             return option + " nimmt keinen Wert";
         }
     }

@@ -43,8 +43,8 @@ class TempFile {
         : m_system(system),
           m_path(folder / (std::string(kPrefix) + std::to_string(system.ProcessId()) +
                            std::string(kSuffix))),
-          m_number(system.Create(m_path)),
-          m_exists(m_number >= 0) {}
+          m_handle(system.Create(m_path)),
+          m_exists(m_handle >= 0) {}
     TempFile(const TempFile&) = delete;
     TempFile& operator=(const TempFile&) = delete;
     ~TempFile() {
@@ -56,17 +56,17 @@ class TempFile {
 
     [[nodiscard]] bool Exists() const { return m_exists; }
     bool CopyPermissions(const std::filesystem::path& from) {
-        return m_system.CopyPermissions(m_number, from);
+        return m_system.CopyPermissions(m_handle, from);
     }
     bool Fill(std::string_view bytes) {
         while (!bytes.empty()) {
-            const std::ptrdiff_t n = m_system.Write(m_number, bytes);
+            const std::ptrdiff_t n = m_system.Write(m_handle, bytes);
             if (n <= 0) {
                 return false;
             }
             bytes.remove_prefix(static_cast<std::size_t>(n));
         }
-        return m_system.Sync(m_number) && Close();
+        return m_system.Sync(m_handle) && Close();
     }
     bool TakePlaceOf(const std::filesystem::path& file) {
         const bool succeeded = m_system.Rename(m_path, file);
@@ -76,13 +76,13 @@ class TempFile {
 
   private:
     bool Close() {
-        const int number = std::exchange(m_number, -1);
-        return number < 0 || m_system.Close(number);
+        const int handle = std::exchange(m_handle, -1);
+        return handle < 0 || m_system.Close(handle);
     }
 
     const FileSystem& m_system;
     std::filesystem::path m_path;
-    int m_number;
+    int m_handle;
     bool m_exists;
 };
 

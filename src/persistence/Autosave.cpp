@@ -9,8 +9,8 @@ namespace tarvelin {
 
 namespace {
 
-/// "1" if the user has the plan in a file of his own.
 constexpr const char* kSession = "Sitzung";
+/// "1" if the user has the plan in a file of his own.
 constexpr const char* kFromFile = "AusDatei";
 
 bool IsFromFile(const IniFile& profile) {

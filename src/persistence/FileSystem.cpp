@@ -15,18 +15,18 @@ std::optional<std::string> ReadFileToString(const std::filesystem::path& file, s
     if (system.KindOf(file) != FileSystem::Kind::RegularFile) {
         return std::nullopt;
     }
-    const int number = system.Open(file);
-    if (number < 0) {
+    const int handle = system.Open(file);
+    if (handle < 0) {
         return std::nullopt;
     }
     std::string bytes;
     std::array<char, std::size_t{64} << 10U> block{};
     std::ptrdiff_t count = 1;
     while (count > 0 && bytes.size() <= max) {
-        count = system.Read(number, block);
+        count = system.Read(handle, block);
         bytes.append(block.data(), static_cast<std::size_t>(count < 0 ? 0 : count));
     }
-    system.Close(number);
+    system.Close(handle);
     return count == 0 ? std::optional(std::move(bytes)) : std::nullopt;
 }
 

@@ -12,7 +12,7 @@
 
 namespace tarvelin {
 
-/// Stateless. An open file is a number from 0; a call that fails returns -1, false or nothing.
+/// Stateless. An open file is a handle from 0; a call that fails returns -1, false or nothing.
 class FileSystem {
   public:
     enum class Kind : std::uint8_t { Nothing, RegularFile, Folder, Other };
@@ -43,16 +43,16 @@ class FileSystem {
     /// Creates a file for writing; fails if it exists.
     [[nodiscard]] virtual int Create(const std::filesystem::path& file) const = 0;
     /// The number of bytes read; 0 at the end of the file.
-    [[nodiscard]] virtual std::ptrdiff_t Read(int number, std::span<char> bytes) const = 0;
+    [[nodiscard]] virtual std::ptrdiff_t Read(int handle, std::span<char> bytes) const = 0;
     /// The number of bytes written.
-    [[nodiscard]] virtual std::ptrdiff_t Write(int number, std::string_view bytes) const = 0;
+    [[nodiscard]] virtual std::ptrdiff_t Write(int handle, std::string_view bytes) const = 0;
     /// Gives an open file the permissions of another.
-    [[nodiscard]] virtual bool CopyPermissions(int number,
+    [[nodiscard]] virtual bool CopyPermissions(int handle,
                                                const std::filesystem::path& from) const = 0;
     /// Returns once the bytes are on the disk.
-    [[nodiscard]] virtual bool Sync(int number) const = 0;
-    /// The number is invalid afterwards in any case.
-    virtual bool Close(int number) const = 0;
+    [[nodiscard]] virtual bool Sync(int handle) const = 0;
+    /// The handle is invalid afterwards in any case.
+    virtual bool Close(int handle) const = 0;
 
     /// Atomic; replaces a file of the new name.
     [[nodiscard]] virtual bool Rename(const std::filesystem::path& from,

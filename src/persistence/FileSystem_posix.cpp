@@ -76,30 +76,30 @@ class PosixFileSystem final : public FileSystem {
             return ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kNewPermissions);
         });
     }
-    [[nodiscard]] std::ptrdiff_t Read(int number, std::span<char> bytes) const override {
-        return Retry([&] { return ::read(number, bytes.data(), bytes.size()); });
+    [[nodiscard]] std::ptrdiff_t Read(int handle, std::span<char> bytes) const override {
+        return Retry([&] { return ::read(handle, bytes.data(), bytes.size()); });
     }
-    [[nodiscard]] std::ptrdiff_t Write(int number, std::string_view bytes) const override {
-        return Retry([&] { return ::write(number, bytes.data(), bytes.size()); });
+    [[nodiscard]] std::ptrdiff_t Write(int handle, std::string_view bytes) const override {
+        return Retry([&] { return ::write(handle, bytes.data(), bytes.size()); });
     }
-    [[nodiscard]] bool CopyPermissions(int number, const fs::path& from) const override {
+    [[nodiscard]] bool CopyPermissions(int handle, const fs::path& from) const override {
         constexpr mode_t kPermissionBits = 07777;
         struct stat status {};
         return ::stat(from.c_str(), &status) == 0 &&
-               ::fchmod(number, status.st_mode & kPermissionBits) == 0;
+               ::fchmod(handle, status.st_mode & kPermissionBits) == 0;
     }
-    [[nodiscard]] bool Sync(int number) const override {
-        return Retry([&] { return ::fsync(number); }) == 0;
+    [[nodiscard]] bool Sync(int handle) const override {
+        return Retry([&] { return ::fsync(handle); }) == 0;
     }
-    bool Close(int number) const override { return ::close(number) == 0; }
+    bool Close(int handle) const override { return ::close(handle) == 0; }
 
     [[nodiscard]] bool Rename(const fs::path& from, const fs::path& target) const override {
         return ::rename(from.c_str(), target.c_str()) == 0;
     }
     bool SyncFolder(const fs::path& folder) const override {
-        const int number = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-        const bool succeeded = number >= 0 && Sync(number);
-        return number >= 0 && Close(number) && succeeded;
+        const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        const bool succeeded = handle >= 0 && Sync(handle);
+        return handle >= 0 && Close(handle) && succeeded;
     }
     bool Remove(const fs::path& file) const override { return ::unlink(file.c_str()) == 0; }
 

@@ -170,32 +170,32 @@ class WindowsFileSystem final : public FileSystem {
     }
 
     [[nodiscard]] int Open(const fs::path& file) const override {
-        int number = -1;
+        int handle = -1;
         Patiently([&] {
-            number = ::_wopen(ExtendedPath(file).c_str(), _O_RDONLY | _O_BINARY | _O_NOINHERIT);
-            return number >= 0 ? DWORD{ERROR_SUCCESS} : DWORD{_doserrno};
+            handle = ::_wopen(ExtendedPath(file).c_str(), _O_RDONLY | _O_BINARY | _O_NOINHERIT);
+            return handle >= 0 ? DWORD{ERROR_SUCCESS} : DWORD{_doserrno};
         });
-        return number;
+        return handle;
     }
     [[nodiscard]] int Create(const fs::path& file) const override {
         return ::_wopen(ExtendedPath(file).c_str(),
                         _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY | _O_NOINHERIT,
                         _S_IREAD | _S_IWRITE);
     }
-    [[nodiscard]] std::ptrdiff_t Read(int number, std::span<char> bytes) const override {
+    [[nodiscard]] std::ptrdiff_t Read(int handle, std::span<char> bytes) const override {
         const auto count = static_cast<unsigned>(std::min(bytes.size(), kMaxCount));
-        return ::_read(number, bytes.data(), count);
+        return ::_read(handle, bytes.data(), count);
     }
-    [[nodiscard]] std::ptrdiff_t Write(int number, std::string_view bytes) const override {
+    [[nodiscard]] std::ptrdiff_t Write(int handle, std::string_view bytes) const override {
         const auto count = static_cast<unsigned>(std::min(bytes.size(), kMaxCount));
-        return ::_write(number, bytes.data(), count);
+        return ::_write(handle, bytes.data(), count);
     }
     /// New files inherit the permissions of their folder, as usual on Windows.
-    [[nodiscard]] bool CopyPermissions(int /*number*/, const fs::path& /*from*/) const override {
+    [[nodiscard]] bool CopyPermissions(int /*handle*/, const fs::path& /*from*/) const override {
         return true;
     }
-    [[nodiscard]] bool Sync(int number) const override { return ::_commit(number) == 0; }
-    bool Close(int number) const override { return ::_close(number) == 0; }
+    [[nodiscard]] bool Sync(int handle) const override { return ::_commit(handle) == 0; }
+    bool Close(int handle) const override { return ::_close(handle) == 0; }
 
     [[nodiscard]] bool Rename(const fs::path& from, const fs::path& target) const override {
         return Patiently([&] {

@@ -51,18 +51,18 @@ class ProtectedFileSystem final : public FileSystem {
     [[nodiscard]] int Open(const std::filesystem::path& file) const override {
         return m_system.Open(file);
     }
-    [[nodiscard]] std::ptrdiff_t Read(int number, std::span<char> bytes) const override {
-        return m_system.Read(number, bytes);
+    [[nodiscard]] std::ptrdiff_t Read(int handle, std::span<char> bytes) const override {
+        return m_system.Read(handle, bytes);
     }
-    [[nodiscard]] std::ptrdiff_t Write(int number, std::string_view bytes) const override {
-        return m_system.Write(number, bytes);
+    [[nodiscard]] std::ptrdiff_t Write(int handle, std::string_view bytes) const override {
+        return m_system.Write(handle, bytes);
     }
-    [[nodiscard]] bool CopyPermissions(int number,
+    [[nodiscard]] bool CopyPermissions(int handle,
                                        const std::filesystem::path& from) const override {
-        return m_system.CopyPermissions(number, from);
+        return m_system.CopyPermissions(handle, from);
     }
-    [[nodiscard]] bool Sync(int number) const override { return m_system.Sync(number); }
-    bool Close(int number) const override { return m_system.Close(number); }
+    [[nodiscard]] bool Sync(int handle) const override { return m_system.Sync(handle); }
+    bool Close(int handle) const override { return m_system.Close(handle); }
     bool SyncFolder(const std::filesystem::path& folder) const override {
         return m_system.SyncFolder(folder);
     }

@@ -140,16 +140,16 @@ void SearchPage::ConnectSignals() {
     // Emitted on the search's thread. Reports of an earlier search are dropped.
     connect(
         this, &SearchPage::ProgressReceived, this,
-        [this](int number, const SearchProgress& progress) {
-            if (number == m_number) {
+        [this](int id, const SearchProgress& progress) {
+            if (id == m_id) {
                 ShowProgress(progress);
             }
         },
         Qt::QueuedConnection);
     connect(
         this, &SearchPage::ResultReceived, this,
-        [this](int number, const SearchResult& result) {
-            if (number == m_number) {
+        [this](int id, const SearchResult& result) {
+            if (id == m_id) {
                 ShowSearchResult(result);
             }
         },
@@ -201,16 +201,13 @@ void SearchPage::StartSearch() {
     m_reportLabel->clear();
     m_running = true;
     EnableControls();
-    const int number = ++m_number;
+    const int id = ++m_id;
     m_search = std::make_unique<BackgroundSearch>(
         m_searched->task, MakeBudget(),
         BackgroundSearch::Listener{
             .onProgress =
-                [this, number](const SearchProgress& progress) {
-                    emit ProgressReceived(number, progress);
-                },
-            .onDone = [this, number](
-                          const SearchResult& result) { emit ResultReceived(number, result); }});
+                [this, id](const SearchProgress& progress) { emit ProgressReceived(id, progress); },
+            .onDone = [this, id](const SearchResult& result) { emit ResultReceived(id, result); }});
 }
 
 void SearchPage::StopSearch() {

@@ -41,9 +41,9 @@ class SearchPage : public QWidget {
     /// The user accepts the solution: its rows, and a sleep row to put in front of the others.
     void ResultAccepted(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause);
     void Notice(const std::string& text);
-    /// From the search's thread; `number` is that of the search.
-    void ProgressReceived(int number, const SearchProgress& progress);
-    void ResultReceived(int number, const SearchResult& result);
+    /// From the search's thread; `id` is that of the search.
+    void ProgressReceived(int id, const SearchProgress& progress);
+    void ResultReceived(int id, const SearchResult& result);
 
   private:
     void AddInputs(QFormLayout& form);
@@ -83,8 +83,8 @@ class SearchPage : public QWidget {
     ConvergencePlot* m_plot;
     QLabel* m_reportLabel;
     std::optional<Searched> m_searched;
-    /// The number of the last search.
-    int m_number = 0;
+    /// The id of the last search.
+    int m_id = 0;
     bool m_running = false;
     /// Last, so that its thread ends before the members that it reports to.
     std::unique_ptr<BackgroundSearch> m_search;
