@@ -7,8 +7,8 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "ui/ProgramWindows.h"
 #include "ui/mainwindow/BuildListView.h"
-#include "ui/mainwindow/frmMain.h"
 #include "ui/widgets/Appearance.h"
 #include "ui/widgets/Controls.h"
 #include "ui/widgets/ItemDisplay.h"
@@ -74,15 +74,16 @@ void Fill(const frmMain& window) {
 void ProgramStart(benchmark::State& state) {
     const FakeWorld world;
     for (auto _ : state) {
-        frmMain window(world.environment);
-        ShowFully(window);
+        ProgramWindows program(world.environment);
+        ShowFully(program.MainWindow());
     }
 }
 BENCHMARK(ProgramStart)->Unit(benchmark::kMillisecond);
 
 void LongPlanRowByRow(benchmark::State& state) {
     const FakeWorld world;
-    frmMain window(world.environment);
+    ProgramWindows program(world.environment);
+    frmMain& window = program.MainWindow();
     ShowFully(window);
     auto* const clear = window.findChild<QPushButton*>(QStringLiteral("Cmd_Clear"));
     for (auto _ : state) {
@@ -95,11 +96,12 @@ BENCHMARK(LongPlanRowByRow)->Unit(benchmark::kMillisecond);
 
 void LongPlanSimulatedAndShown(benchmark::State& state) {
     const FakeWorld world;
-    frmMain window(world.environment);
+    ProgramWindows program(world.environment);
+    frmMain& window = program.MainWindow();
     ShowFully(window);
     Fill(window);
     for (auto _ : state) {
-        window.RunSimulation(true);
+        program.PlanDocument().RunSimulation(true);
         window.grab();
     }
 }
@@ -107,7 +109,8 @@ BENCHMARK(LongPlanSimulatedAndShown)->Unit(benchmark::kMillisecond);
 
 void OneMoveOverAPicture(benchmark::State& state) {
     const FakeWorld world;
-    frmMain window(world.environment);
+    ProgramWindows program(world.environment);
+    frmMain& window = program.MainWindow();
     ShowFully(window);
     Fill(window);
     auto* const picture = window.findChild<ItemPicture*>(QStringLiteral("ImgMetMine"));
@@ -130,7 +133,8 @@ QWidget& WorkbenchOf(frmMain& window) {
 /// Paints the timeline: the whole plan, and zoomed in by the given number of wheel steps.
 void TimelinePainted(benchmark::State& state) {
     const FakeWorld world;
-    frmMain window(world.environment);
+    ProgramWindows program(world.environment);
+    frmMain& window = program.MainWindow();
     ShowFully(window);
     Fill(window);
     auto& timeline = *WorkbenchOf(window).findChild<TimelineView*>();
@@ -152,7 +156,8 @@ BENCHMARK(TimelinePainted)->Arg(0)->Arg(5)->Arg(20)->Unit(benchmark::kMillisecon
 /// Moves a row of 254 up and down; both windows run the plan and show it.
 void RowMoved(benchmark::State& state) {
     const FakeWorld world;
-    frmMain window(world.environment);
+    ProgramWindows program(world.environment);
+    frmMain& window = program.MainWindow();
     ShowFully(window);
     Fill(window);
     QWidget& workbench = WorkbenchOf(window);

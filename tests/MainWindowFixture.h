@@ -12,8 +12,8 @@
 #include <map>
 
 #include "TestSupport.h"
+#include "ui/ProgramWindows.h"
 #include "ui/mainwindow/BuildListView.h"
-#include "ui/mainwindow/frmMain.h"
 #include "ui/widgets/Controls.h"
 #include "ui/widgets/ItemDisplay.h"
 
@@ -165,7 +165,7 @@ class MainWindow : public testing::Test {
     /// Loads a plan from a file, which also runs it.
     void Load(const Plan& plan) {
         ASSERT_TRUE(SaveBauliste(m_folder / "plan.tvf", plan));
-        m_window.LoadBauliste(m_folder / "plan.tvf", true);
+        m_document.LoadBauliste(m_folder / "plan.tvf", true);
     }
 
     TempFolder m_folder;
@@ -180,7 +180,9 @@ class MainWindow : public testing::Test {
                               .now = [this] { return m_now; },
                               .openPage = [this](const std::string& s) { m_pages.push_back(s); },
                               .programFolder = m_folder / ""};
-    frmMain m_window{m_environment};
+    ProgramWindows m_program{m_environment};
+    Document& m_document = m_program.PlanDocument();
+    frmMain& m_window = m_program.MainWindow();
 };
 
 }  // namespace tarvelin

@@ -60,7 +60,7 @@ TEST_F(MainWindow, SmallScreenScrollsTheSurface) {
 // Every visible widget with a text has room for it, with all panels open.
 TEST_F(MainWindow, NoWordIsCutOff) {
     Load("GD GS GR GR GW");
-    m_window.RunSimulation(true);
+    m_document.RunSimulation(true);
     for (const char* const panel : kPanels) {
         Find(panel).show();
     }
@@ -116,13 +116,13 @@ TEST_F(MainWindow, ListsHoldTheirLongestTexts) {
     Plan plan = PlanOf("GX:10:10:10");
     for (const ItemRow& item : ItemTable()) {
         for (int i = 0; i < 12; ++i) {
-            ASSERT_FALSE(plan.LV_Bauliste.AddItem(item.item, m_window.CurrentRun().conditions));
+            ASSERT_FALSE(plan.LV_Bauliste.AddItem(item.item, m_document.CurrentRun().conditions));
         }
     }
     plan.LV_Schlafzeiten.assign(30,
                                 {.Startzeit = "28.12.2006 22:30", .Endzeit = "28.12.2006 23:30"});
     Load(plan);
-    m_window.RunSimulation(true);
+    m_document.RunSimulation(true);
     Find("Fra_Sleep").show();
     QCoreApplication::processEvents();
     for (const char* const name : {"LV_Bauliste", "LV_Bauzeiten", "LV_Schlafzeiten"}) {
@@ -201,7 +201,8 @@ TEST_F(MainWindow, SkinListIsReadAtEachOpening) {
     Environment environment = m_environment;
     environment.programFolder = folder / ".";
     // The folder has no pictures at all; the window opens all the same.
-    frmMain window(environment);
+    ProgramWindows program(environment);
+    frmMain& window = program.MainWindow();
     auto* const skins = window.findChild<QComboBox*>(QStringLiteral("Comb_Skins"));
     window.findChild<QAction*>(QStringLiteral("mnuSkin"))->trigger();
     EXPECT_EQ(skins->count(), 1);
@@ -332,7 +333,7 @@ TEST_F(MainWindow, InputsCanBeEditedInTheMiddle) {
     EXPECT_EQ(TextOf("txt_UniStartZeitJahr"), "2006");
     // The way a screen reader sets it.
     year.setText(QStringLiteral("2007"));
-    EXPECT_EQ(m_window.CurrentPlan().parameters.UniStartZeitJahr, "2007");
+    EXPECT_EQ(m_document.CurrentPlan().parameters.UniStartZeitJahr, "2007");
     EXPECT_EQ(TextOf("LBL_Weekday"), "So.");
 }
 
@@ -381,7 +382,7 @@ TEST_F(MainWindow, TemperaturesAreLinked) {
     EXPECT_EQ(TextOf("txt_TempMin"), "11");
     Load("GM");
     Type("txt_TempMax", "");
-    m_window.RunSimulation(false);
+    m_document.RunSimulation(false);
     EXPECT_EQ(m_dialogs.texts.back(), "Keine gültige Temperatur eingegeben...");
 }
 
@@ -393,17 +394,17 @@ TEST_F(MainWindow, WeekdayFollowsTheDateAndNotTheTime) {
     EXPECT_EQ(Find("LBL_Weekday").toolTip(), QStringLiteral("Freitag"));
     Type("txt_UniStartZeitStunden", "25");
     EXPECT_EQ(TextOf("LBL_Weekday"), "Fr.");
-    m_window.RunSimulation(false);
+    m_document.RunSimulation(false);
     EXPECT_EQ(m_dialogs.texts.back(), "Kein gültiges Datum eingegeben...");
     EXPECT_EQ(TextOf("txt_UniStartZeitTag"), "03") << "padded although refused";
     EXPECT_EQ(TextOf("LBL_Weekday"), "Err.") << "as the day's text changed";
     Type("txt_UniStartZeitStunden", "12");
     EXPECT_EQ(TextOf("LBL_Weekday"), "Err.");
-    m_window.RunSimulation(false);
+    m_document.RunSimulation(false);
     EXPECT_EQ(TextOf("LBL_Weekday"), "Fr.");
     EXPECT_EQ(m_dialogs.texts.size(), 1U);
     Type("txt_UniStartZeitStunden", "");
-    m_window.RunSimulation(false);
+    m_document.RunSimulation(false);
     EXPECT_EQ(TextOf("LBL_Weekday"), "Fr.") << "nothing that it follows has changed";
     // A load sets day, month and year before the hour, so the bad hour comes too late to matter.
     Type("txt_UniStartZeitStunden", "12");
@@ -420,7 +421,7 @@ TEST_F(MainWindow, DateMessageShowsThePaddedDay) {
     Type("txt_UniStartZeitMinuten", "x");
     Type("txt_UniStartZeitTag", "5");
     m_dialogs.onMessage = [this] { EXPECT_EQ(TextOf("txt_UniStartZeitTag"), "05"); };
-    m_window.RunSimulation(false);
+    m_document.RunSimulation(false);
     EXPECT_EQ(m_dialogs.texts.size(), 1U);
 }
 
@@ -432,9 +433,9 @@ TEST_F(MainWindow, KlickPufferSpeedfaktorAndDescriptionsTakeEffect) {
     EXPECT_EQ(TextOf("LBL_KlickPuffer"), "00:00");
     QTest::keyClick(&buffer, Qt::Key_End);
     EXPECT_EQ(TextOf("LBL_KlickPuffer"), "10:00");
-    EXPECT_EQ(m_window.CurrentPlan().parameters.KlickPuffer, 600);
+    EXPECT_EQ(m_document.CurrentPlan().parameters.KlickPuffer, 600);
     Press("Chk_Speedfaktor");
-    EXPECT_EQ(m_window.CurrentRun().conditions.Speedfaktor, 2);
+    EXPECT_EQ(m_document.CurrentRun().conditions.Speedfaktor, 2);
     Press("cmd_ShowDesc");
     EXPECT_EQ(TextOf("cmd_ShowDesc"), "ein/AUS");
     EXPECT_FALSE(Find("LBLDesc(0)").isVisible() || Find("LBLDesc(19)").isVisible());
@@ -536,7 +537,7 @@ TEST_F(MainWindow, SimulationClosesThePanelsAndEachRowNamesItsReason) {
     auto& list = Find<QTreeView>("LV_Bauzeiten");
     const QRect third = list.visualRect(list.model()->index(2, 0));
     MoveMouse(*list.viewport(), third.center());
-    EXPECT_EQ(list.toolTip().toStdString(), m_window.CurrentRun().LV_Bauzeiten[2].Tag());
+    EXPECT_EQ(list.toolTip().toStdString(), m_document.CurrentRun().LV_Bauzeiten[2].Tag());
     QEvent leave(QEvent::Leave);
     QCoreApplication::sendEvent(list.viewport(), &leave);
     EXPECT_EQ(list.toolTip(), QString()) << "over the head or the bar";
@@ -548,7 +549,7 @@ TEST_F(MainWindow, SimulationClosesThePanelsAndEachRowNamesItsReason) {
 
 TEST_F(MainWindow, ClearAndInputErrorsLeaveTheRest) {
     Load("GM");
-    m_window.RunSimulation(true);
+    m_document.RunSimulation(true);
     const std::string points = TextOf("LBL_Punkte");
     Press("Cmd_Clear");
     EXPECT_EQ(TextOf("LBL_Timegone"), "Dauer: dd:hh:mm:ss");
@@ -564,7 +565,7 @@ TEST_F(MainWindow, ClearAndInputErrorsLeaveTheRest) {
 // While a message of a run is open, the window shows the rows so far and the texts of the reset.
 TEST_F(MainWindow, MessageInARunShowsTheRunSoFar) {
     Load("GM");
-    m_window.RunSimulation(true);
+    m_document.RunSimulation(true);
     int messages = 0;
     m_dialogs.onMessage = [&] {
         EXPECT_EQ(RowCount("LV_Bauzeiten"), ++messages);
@@ -573,7 +574,7 @@ TEST_F(MainWindow, MessageInARunShowsTheRunSoFar) {
     };
     // The lab costs deuterium, and there is no deuterium mine.
     Load("GF GM");
-    m_window.RunSimulation(true);
+    m_document.RunSimulation(true);
     EXPECT_EQ(messages, 2);
     // The second message and later ones let the player suppress the rest of the run's.
     m_dialogs.onMessage = nullptr;
@@ -582,7 +583,7 @@ TEST_F(MainWindow, MessageInARunShowsTheRunSoFar) {
         m_dialogs.texts.clear();
         m_dialogs.suppressible = 0;
         m_dialogs.suppress = suppress;
-        m_window.RunSimulation(true);
+        m_document.RunSimulation(true);
         EXPECT_EQ(m_dialogs.texts.size(), 1U + static_cast<std::size_t>(suppress));
     }
 }
@@ -590,14 +591,14 @@ TEST_F(MainWindow, MessageInARunShowsTheRunSoFar) {
 TEST_F(MainWindow, NewRunBeginsWithAnEmptyList) {
     Plan plan;
     for (int i = 0; i < 60; ++i) {
-        ASSERT_FALSE(plan.LV_Bauliste.AddItem(ItemId::SKW, m_window.CurrentRun().conditions));
+        ASSERT_FALSE(plan.LV_Bauliste.AddItem(ItemId::SKW, m_document.CurrentRun().conditions));
     }
-    plan.parameters = m_window.CurrentPlan().parameters;
+    plan.parameters = m_document.CurrentPlan().parameters;
     Load(plan);
-    m_window.RunSimulation(true);
+    m_document.RunSimulation(true);
     auto& list = Find<QTreeView>("LV_Bauzeiten");
     list.setCurrentIndex(list.model()->index(59, 0));
-    m_window.RunSimulation(true);
+    m_document.RunSimulation(true);
     EXPECT_FALSE(list.currentIndex().isValid());
     EXPECT_TRUE(list.viewport()->rect().contains(list.visualRect(list.model()->index(0, 0))));
 }

@@ -105,7 +105,7 @@ class Monkey : public MainWindow {
             })) << text;
         }
         m_dialogs.texts.clear();
-        const auto& rows = m_window.CurrentPlan().LV_Bauliste.Rows();
+        const auto& rows = m_document.CurrentPlan().LV_Bauliste.Rows();
         ASSERT_EQ(RowCount("LV_Bauliste"), static_cast<int>(rows.size()));
         for (std::size_t i = 0; i < rows.size(); ++i) {
             EXPECT_EQ(Cell("LV_Bauliste", static_cast<int>(i), 1), rows[i].SubItems1);

@@ -167,11 +167,10 @@ Simulation RunUntil(std::span<const Order> orders, std::size_t n, const RunCondi
 }
 
 /// How many rows break their rule.
-std::size_t RuleBreaches(const std::vector<std::string>& tags) {
+std::size_t RuleBreaches(std::span<const Order> orders) {
     std::size_t breaches = 0;
     OrderList list;
-    for (const std::string& tag : tags) {
-        const Order order = Order::FromTag(tag);
+    for (const Order& order : orders) {
         if (order.kind == Order::Kind::Item && Refusal(order.item, list)) {
             ++breaches;
         }
@@ -208,19 +207,18 @@ ListEdit AnyRows(const BuildList& list, std::minstd_rand& random) {
             edit.Duplicate(chosen);
             break;
         case 5:
-            edit.Insert(position, "GX:1:2:3");
+            edit.Insert(position, Order::Of(MineFactors{{{1, 2, 3}}}));
             break;
         default:
-            edit.Insert(position, ItemTable()[random() % kNumItems].ItemCode);
+            edit.Insert(position, Order::Of(ItemTable()[random() % kNumItems].item));
     }
     return edit;
 }
 
 /// The list that dropping the rows one by one gives.
-BuildList DroppedOneByOne(const std::vector<std::string>& tags, const RunConditions& conditions) {
+BuildList DroppedOneByOne(std::span<const Order> orders, const RunConditions& conditions) {
     BuildList list;
-    for (const std::string& tag : tags) {
-        const Order order = Order::FromTag(tag);
+    for (const Order& order : orders) {
         static_cast<void>(order.kind == Order::Kind::Item
                               ? list.AddItem(order.item, conditions)
                               : list.AddProduction(order.factors, conditions));
@@ -444,35 +442,35 @@ Finding CheckEdits(const Plan& plan) {
     constexpr int kTrials = 25;
     const RunConditions conditions = ConditionsOf(plan);
     std::minstd_rand random(static_cast<unsigned>(plan.LV_Bauliste.Rows().size()) + 1);
-    BuildList list = DroppedOneByOne(plan.LV_Bauliste.Tags(), conditions);
+    std::vector<std::vector<Order>> states{SnapshotOf(plan).orders};
+    BuildList list = DroppedOneByOne(states.front(), conditions);
     EditHistory history;
-    std::vector<std::vector<std::string>> states{list.Tags()};
-    history.Begin({.tags = list.Tags()});
+    history.Begin({.orders = states.front()});
     for (int i = 0; i < kTrials; ++i) {
         const ListEdit edit = AnyRows(list, random);
-        const auto tags = edit.Tags();
-        const bool tooLong = tags.size() > OrderList::kMaxSize;
-        const std::size_t breaches = RuleBreaches(list.Tags());
+        const auto orders = edit.Orders();
+        const bool tooLong = orders.size() > OrderList::kMaxSize;
+        const std::size_t breaches = RuleBreaches(states.back());
         const auto objection = edit.Objection();
-        if (!objection && (tooLong || RuleBreaches(tags) > breaches)) {
+        if (!objection && (tooLong || RuleBreaches(orders) > breaches)) {
             return "an edit is let be that breaks a rule";
         }
-        if (objection && !tooLong && breaches == 0 && RuleBreaches(tags) == 0) {
+        if (objection && !tooLong && breaches == 0 && RuleBreaches(orders) == 0) {
             return "an edit is refused: " + *objection;
         }
-        if (objection || tags == states.back()) {
+        if (objection || orders == states.back()) {
             continue;
         }
-        history.Record({.tags = tags});
-        list.SetTags(tags, conditions);
-        states.push_back(tags);
-        if (StateText(list) != StateText(DroppedOneByOne(tags, conditions))) {
+        history.Record({.orders = orders});
+        list.SetOrders(orders, conditions);
+        states.push_back(orders);
+        if (StateText(list) != StateText(DroppedOneByOne(orders, conditions))) {
             return "an edited list isn't its rows dropped anew";
         }
     }
     for (std::size_t i = states.size() - 1; i > 0; --i) {
-        if (history.Undo().tags != states[i - 1] || history.Redo().tags != states[i] ||
-            history.Undo().tags != states[i - 1]) {
+        if (history.Undo().orders != states[i - 1] || history.Redo().orders != states[i] ||
+            history.Undo().orders != states[i - 1]) {
             return "an edit can't be taken back and done again";
         }
     }

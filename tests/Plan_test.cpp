@@ -200,7 +200,7 @@ TEST(EditHistory, RewritingADayIsNoStep) {
     };
     history.Begin(day("05"));
     EXPECT_TRUE(history.Record(day("5"), "Tag"));
-    snapshot.tags = {"GM"};
+    snapshot.orders = {Order::Of(ItemId::MetMine)};
     EXPECT_TRUE(history.Record(snapshot));
     const StartParameters before = snapshot.parameters;
     history.RewriteDay(before, day("05").parameters);

@@ -21,17 +21,19 @@ using StartStop = MainWindow;
 /// Starts the program once more in the same folder.
 class Restart {
   public:
-    explicit Restart(const Environment& environment) : m_window(environment) {
+    explicit Restart(const Environment& environment) : m_program(environment) {
         static_cast<FakeDialogs&>(environment.dialogs).closedAll = false;
-        m_window.Form_Load();
+        m_program.Start();
     }
-    ~Restart() { m_window.close(); }
+    ~Restart() { m_program.Close(); }
 
-    frmMain* operator->() { return &m_window; }
-    std::size_t RowCount() { return m_window.CurrentPlan().LV_Bauliste.Rows().size(); }
+    frmMain* operator->() { return &m_program.MainWindow(); }
+    std::size_t RowCount() {
+        return m_program.PlanDocument().CurrentPlan().LV_Bauliste.Rows().size();
+    }
 
   private:
-    frmMain m_window;
+    ProgramWindows m_program;
 };
 
 TEST_F(StartStop, RecoversAfterEachAnswer) {
@@ -80,7 +82,8 @@ TEST_F(StartStop, ClosingDuringTheQuestionsChangesNothing) {
         m_dialogs.answer = true;
         fs::remove(m_folder / "config.cfg");
         EXPECT_TRUE(SaveBauliste(m_folder / "saves" / "basic.tvf", PlanOf("GM")));
-        frmMain window(m_environment);
+        ProgramWindows program(m_environment);
+        frmMain& window = program.MainWindow();
         m_dialogs.onQuestion = [&] {
             if (m_dialogs.texts.size() == question) {
                 window.close();
@@ -163,7 +166,7 @@ TEST_F(StartStop, FolderBelongsToTheFirstProgram) {
 // The end of a desktop session is announced and may still be cancelled.
 TEST_F(StartStop, SavingLeavesTheWindowOpen) {
     Load("GM GM");
-    m_window.SaveNow();
+    m_program.SaveNow();
     EXPECT_NE(ReadFileToString(m_folder / "saves" / "autosave.tvf").find("ItemCount=2"),
               std::string::npos);
     EXPECT_NE(ReadFileToString(m_folder / "config.cfg").find("ItemCount=2"), std::string::npos);
@@ -359,8 +362,8 @@ TEST_F(StartStop, NewBeginsTodayAndLeavesTheRest) {
 TEST_F(StartStop, AlarmsRingOnlyWhileTheyAreOn) {
     Load("GS GM");
     Type("txt_UniStartZeitStunden", "12");
-    m_window.RunSimulation(true);
-    m_now = m_window.CurrentRun().LV_Bauzeiten[1].start + -10;
+    m_document.RunSimulation(true);
+    m_now = m_document.CurrentRun().LV_Bauzeiten[1].start + -10;
     auto& timer = Find<QTimer>("Tmr_BauWeckfunktion");
     const auto tick = [&] { QMetaObject::invokeMethod(&timer, "timeout"); };
     EXPECT_FALSE(timer.isActive());

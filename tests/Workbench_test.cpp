@@ -17,7 +17,6 @@
 #include "ui/services/SvgImage.h"
 #include "ui/widgets/ItemPicture.h"
 #include "ui/workbench/StatusTexts.h"
-#include "ui/workbench/Workbench.h"
 
 namespace tarvelin {
 namespace {
@@ -76,16 +75,16 @@ class WorkbenchWindow : public MainWindow {
     }
     [[nodiscard]] std::string Tags() const {
         std::string text;
-        for (const std::string& tag : m_window.CurrentPlan().LV_Bauliste.Tags()) {
-            text += (text.empty() ? "" : " ") + tag;
+        for (const BuildListRow& row : m_document.CurrentPlan().LV_Bauliste.Rows()) {
+            text += (text.empty() ? "" : " ") + row.Tag;
         }
         return text;
     }
     /// Both windows show the plan, with the texts that dropping its rows anew would give.
     void ExpectAgreement() {
         BuildList replayed;
-        replayed.SetTags(m_window.CurrentPlan().LV_Bauliste.Tags(),
-                         m_window.CurrentRun().conditions);
+        replayed.SetOrders(m_document.CurrentPlan().LV_Bauliste.Orders().All(),
+                           m_document.CurrentRun().conditions);
         ASSERT_EQ(RowCount("LV_Bauliste"), static_cast<int>(replayed.Rows().size()));
         ASSERT_EQ(Page<QTreeView>("LV_Werkbank").model()->rowCount(), RowCount("LV_Bauliste"));
         for (int i = 0; i < RowCount("LV_Bauliste"); ++i) {
@@ -246,7 +245,7 @@ TEST_F(WorkbenchWindow, AgreesWithTheMainWindow) {
     const std::array pictures{"ImgMetMine", "ImgSKW",   "ImgDeutMine",
                               "ImgRobo",    "imgFolab", "ImgWerft"};
     for (int i = 0; i < 150; ++i) {
-        const auto rows = m_window.CurrentPlan().LV_Bauliste.Rows().size();
+        const auto rows = m_document.CurrentPlan().LV_Bauliste.Rows().size();
         std::vector<std::size_t> chosen;
         for (std::size_t row = 0; row < rows; ++row) {
             if (oneIn(6)) {
@@ -405,7 +404,7 @@ TEST_F(WorkbenchWindow, SearchesAndAcceptsAsOneStep) {
     const auto bytes = [this] {
         // A save would keep the old file's other lines.
         std::filesystem::remove(m_folder / "jetzt.tvf");
-        EXPECT_TRUE(SaveBauliste(m_folder / "jetzt.tvf", m_window.CurrentPlan()));
+        EXPECT_TRUE(SaveBauliste(m_folder / "jetzt.tvf", m_document.CurrentPlan()));
         return ReadFileToString(m_folder / "jetzt.tvf");
     };
     const auto search = [this](int tries) {
@@ -429,10 +428,11 @@ TEST_F(WorkbenchWindow, SearchesAndAcceptsAsOneStep) {
     Page<QAbstractButton>("Cmd_Uebernehmen").click();
     const std::string after = bytes();
     EXPECT_NE(after, before);
-    EXPECT_EQ(m_window.CurrentPlan().LV_Bauliste.Tags()[40], starter.plan.LV_Bauliste.Tags()[40]);
-    EXPECT_EQ(m_window.CurrentPlan().LV_Schlafzeiten.front().Startzeit, "03.12.2026 10:30");
+    EXPECT_EQ(m_document.CurrentPlan().LV_Bauliste.Rows()[40].Tag,
+              starter.plan.LV_Bauliste.Rows()[40].Tag);
+    EXPECT_EQ(m_document.CurrentPlan().LV_Schlafzeiten.front().Startzeit, "03.12.2026 10:30");
     EXPECT_EQ(Says("LBL_Dauer"), TextOf("LBL_Timegone"));
-    const auto duration = TimeSpanText(m_window.CurrentRun().state.secsgone.Seconds());
+    const auto duration = TimeSpanText(m_document.CurrentRun().state.secsgone.Seconds());
     EXPECT_NE(report.find("Nachher: " + duration + ","), std::string::npos) << report << duration;
     EXPECT_TRUE(m_dialogs.texts.empty());
     const std::string change = Says("LBL_Aenderung");

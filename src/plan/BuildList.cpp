@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <iterator>
 
 #include "model/Energy.h"
 #include "model/ItemTable.h"
@@ -85,17 +84,10 @@ void BuildList::Clear() {
     *this = BuildList();
 }
 
-std::vector<std::string> BuildList::Tags() const {
-    std::vector<std::string> tags;
-    tags.reserve(m_rows.size());
-    std::ranges::transform(m_rows, std::back_inserter(tags), &BuildListRow::Tag);
-    return tags;
-}
-
-void BuildList::SetTags(const std::vector<std::string>& tags, const RunConditions& conditions) {
+void BuildList::SetOrders(std::span<const Order> orders, const RunConditions& conditions) {
     Clear();
-    for (const std::string& tag : tags) {
-        static_cast<void>(Replay(tag, conditions));
+    for (const Order& order : orders) {
+        static_cast<void>(Append(order, order.Tag(), conditions));
     }
 }
 

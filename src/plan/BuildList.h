@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -52,10 +53,9 @@ class BuildList {
 
     void Clear();
 
-    [[nodiscard]] std::vector<std::string> Tags() const;
-    /// Replaces all rows, as if these were added one by one: at most 254, each one that `Replay`
-    /// takes.
-    void SetTags(const std::vector<std::string>& tags, const RunConditions& conditions);
+    /// Replaces all rows, as if these orders were added one by one: at most 254, each an item or a
+    /// production row.
+    void SetOrders(std::span<const Order> orders, const RunConditions& conditions);
 
   private:
     std::optional<Message> Append(const Order& order, std::string_view tag,

@@ -29,9 +29,10 @@ void ShiftForward(Begin begin, End end) {
 }  // namespace
 
 ListEdit::ListEdit(const BuildList& list) : m_list(&list) {
-    m_rows.reserve(list.Rows().size() + 1);
-    for (std::size_t i = 0; i < list.Rows().size(); ++i) {
-        m_rows.push_back({.original = i, .Tag = list.Rows()[i].Tag});
+    const auto orders = list.Orders().All();
+    m_rows.reserve(orders.size() + 1);
+    for (std::size_t i = 0; i < orders.size(); ++i) {
+        m_rows.push_back({.original = i, .order = orders[i]});
     }
 }
 
@@ -75,15 +76,15 @@ void ListEdit::Remove(std::span<const std::size_t> rows) {
     }
 }
 
-void ListEdit::Insert(std::size_t before, std::string_view tag) {
+void ListEdit::Insert(std::size_t before, const Order& order) {
     m_rows.insert(m_rows.begin() + static_cast<std::ptrdiff_t>(before),
-                  {.original = std::nullopt, .Tag = std::string(tag)});
+                  {.original = std::nullopt, .order = order});
 }
 
 void ListEdit::Duplicate(std::span<const std::size_t> rows) {
     std::vector<DraftRow> copies;
     for (const std::size_t row : rows) {
-        copies.push_back({.original = std::nullopt, .Tag = m_rows[row].Tag, .affected = true});
+        copies.push_back({.original = std::nullopt, .order = m_rows[row].order, .affected = true});
     }
     if (!rows.empty()) {
         m_rows.insert(m_rows.begin() + static_cast<std::ptrdiff_t>(rows.back()) + 1, copies.begin(),
@@ -108,8 +109,7 @@ std::optional<std::string> ListEdit::Objection() const {
         if (above.IsFull()) {
             return ListFullMessage().text;
         }
-        const Order order = Order::FromTag(row.Tag);
-        const auto breach = RuleBreach(order, above);
+        const auto breach = RuleBreach(row.order, above);
         if (breach && !row.original) {
             return std::string(*breach);
         }
@@ -117,16 +117,16 @@ std::optional<std::string> ListEdit::Objection() const {
             const BuildListRow& shown = m_list->Rows()[*row.original];
             return "Zeile " + shown.text + " (" + shown.SubItems1 + "):" + std::string(*breach);
         }
-        above.Append(order);
+        above.Append(row.order);
     }
     return std::nullopt;
 }
 
-std::vector<std::string> ListEdit::Tags() const {
-    std::vector<std::string> tags;
-    tags.reserve(m_rows.size());
-    std::ranges::transform(m_rows, std::back_inserter(tags), &DraftRow::Tag);
-    return tags;
+std::vector<Order> ListEdit::Orders() const {
+    std::vector<Order> orders;
+    orders.reserve(m_rows.size());
+    std::ranges::transform(m_rows, std::back_inserter(orders), &DraftRow::order);
+    return orders;
 }
 
 std::vector<std::size_t> ListEdit::Affected() const {

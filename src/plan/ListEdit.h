@@ -5,16 +5,15 @@
 #include <optional>
 #include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "plan/BuildList.h"
 
 namespace tarvelin {
 
-/// A draft of an edit: the list that it was made from stays as it is, `Tags` are those of the list
-/// after the edit. Row numbers count from 0 in the draft as it stands; a set of them is given in
-/// ascending sequence, without duplicates.
+/// A draft of an edit: the list that it was made from stays as it is, `Orders` are those of the
+/// list after the edit. Row numbers count from 0 in the draft as it stands; a set of them is given
+/// in ascending sequence, without duplicates.
 class ListEdit {
   public:
     /// `list` must outlive it.
@@ -27,7 +26,7 @@ class ListEdit {
     void MoveBefore(std::size_t target, std::span<const std::size_t> rows);
     void Remove(std::span<const std::size_t> rows);
     /// Adds a new row in front of row `before`, or at the end of the list.
-    void Insert(std::size_t before, std::string_view tag);
+    void Insert(std::size_t before, const Order& order);
     /// Adds copies of the rows after the last of them.
     void Duplicate(std::span<const std::size_t> rows);
 
@@ -36,7 +35,7 @@ class ListEdit {
     /// already). Nothing if the edit is allowed.
     [[nodiscard]] std::optional<std::string> Objection() const;
 
-    [[nodiscard]] std::vector<std::string> Tags() const;
+    [[nodiscard]] std::vector<Order> Orders() const;
     /// Where the moved rows or the copies are now, or the row after the removed ones.
     [[nodiscard]] std::vector<std::size_t> Affected() const;
 
@@ -44,7 +43,7 @@ class ListEdit {
     struct DraftRow {
         /// The row in the list before the edit; nothing for a new one.
         std::optional<std::size_t> original;
-        std::string Tag;
+        Order order;
         bool affected = false;
     };
 

@@ -4,8 +4,9 @@
 namespace tarvelin {
 
 PlanSnapshot SnapshotOf(const Plan& plan) {
+    const auto orders = plan.LV_Bauliste.Orders().All();
     return {.parameters = plan.parameters,
-            .tags = plan.LV_Bauliste.Tags(),
+            .orders = {orders.begin(), orders.end()},
             .Schlafzeiten = plan.LV_Schlafzeiten};
 }
 

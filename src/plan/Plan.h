@@ -1,7 +1,6 @@
 // All that belongs to a plan: what the user edits and a save file keeps.
 #pragma once
 
-#include <string>
 #include <variant>
 #include <vector>
 
@@ -23,8 +22,7 @@ struct Plan {
 /// The part of a plan that edits change, to keep and to compare.
 struct PlanSnapshot {
     StartParameters parameters{};
-    /// The `Tag`s of the rows.
-    std::vector<std::string> tags{};
+    std::vector<Order> orders{};
     SleepTable Schlafzeiten{};
 
     friend bool operator==(const PlanSnapshot&, const PlanSnapshot&) = default;

@@ -275,11 +275,8 @@ SearchResult Search(const PlanTask& task, const SearchBudget& budget, const std:
 Plan WithOrders(const Plan& plan, const std::vector<Order>& orders,
                 const std::optional<SleepRow>& pause) {
     Plan changed = plan;
-    changed.LV_Bauliste.Clear();
-    const RunConditions conditions{.Temperatur = ParseTemperature(plan.parameters).value_or(0)};
-    for (const Order& order : orders) {
-        static_cast<void>(changed.LV_Bauliste.Replay(order.Tag(), conditions));
-    }
+    changed.LV_Bauliste.SetOrders(orders,
+                                  {.Temperatur = ParseTemperature(plan.parameters).value_or(0)});
     if (pause) {
         changed.LV_Schlafzeiten.insert(changed.LV_Schlafzeiten.begin(), *pause);
     }

@@ -20,6 +20,14 @@ void LastRun::ResetSimulation(const StartParameters& parameters) {
     LV_Bauzeiten.clear();
 }
 
+void LastRun::Assign(const RunTrace& trace) {
+    ResetSimulation(trace.conditions);
+    state = trace.end;
+    for (const StartEvent& start : trace.starts) {
+        AddBauzeit(conditions.StartDate, start, LV_Bauzeiten);
+    }
+}
+
 void RunSimulation(std::span<const Order> orders, LastRun& run, MessageSink& messages) {
     run.LV_Bauzeiten.reserve(orders.size());
     ScheduleRecorder recorder(run.conditions, run.LV_Bauzeiten);

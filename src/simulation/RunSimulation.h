@@ -6,6 +6,7 @@
 #include "model/GameState.h"
 #include "model/RunConditions.h"
 #include "plan/Plan.h"
+#include "simulation/RunTrace.h"
 #include "simulation/Schedule.h"
 #include "util/Message.h"
 
@@ -23,6 +24,9 @@ struct LastRun {
     /// The same without a run: takes the temperature alone, if it is valid, and keeps all other
     /// conditions.
     void ResetSimulation(const StartParameters& parameters);
+
+    /// Takes a recorded run.
+    void Assign(const RunTrace& trace);
 };
 
 /// Runs all orders; `run` must have been reset to its conditions.

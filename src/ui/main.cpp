@@ -9,7 +9,7 @@
 
 #include "persistence/ProgramFolder.h"
 #include "persistence/ProtectedFileSystem.h"
-#include "ui/mainwindow/frmMain.h"
+#include "ui/ProgramWindows.h"
 #include "ui/services/DesktopColors.h"
 #include "ui/services/FolderLock.h"
 #include "ui/services/HttpFetcher.h"
@@ -95,20 +95,20 @@ int main(int argc, char** argv) {
         .desktopPalette = [&desktop] { return desktop.CurrentPalette(); },
         .planArgument = tarvelin::PlanArgument(argc, argv),
         .startNotice = folder.canKeep ? std::nullopt : std::optional(WithoutUserFolder())};
-    tarvelin::frmMain window(environment);
+    tarvelin::ProgramWindows windows(environment);
     // Other windows may stay open, but save nothing.
-    QObject::connect(&window, &tarvelin::frmMain::Closed, [&lock] { lock.Release(); });
+    QObject::connect(&windows, &tarvelin::ProgramWindows::Closed, [&lock] { lock.Release(); });
     // Closes all windows and ends every event loop.
-    const auto finish = [&window] {
-        window.close();
+    const auto finish = [&windows] {
+        windows.Close();
         QApplication::closeAllWindows();
         QApplication::exit();
     };
     const tarvelin::TerminationSignals terminationSignals(finish);
     // Save only: the session may yet go on. If it ends, the windows are closed.
-    QObject::connect(&program, &QGuiApplication::commitDataRequest, &window,
-                     &tarvelin::frmMain::SaveNow, Qt::DirectConnection);
+    QObject::connect(&program, &QGuiApplication::commitDataRequest, &windows,
+                     &tarvelin::ProgramWindows::SaveNow, Qt::DirectConnection);
     // Within the event loop, so that a signal can end it.
-    QTimer::singleShot(0, &window, &tarvelin::frmMain::Form_Load);
+    QTimer::singleShot(0, &windows, &tarvelin::ProgramWindows::Start);
     return QApplication::exec();
 }

@@ -1,7 +1,6 @@
 // Loads the pictures of a skin into their labels.
 #include "ui/mainwindow/ApplySkin.h"
 
-#include <QLabel>
 #include <QPixmap>
 #include <string>
 
@@ -12,12 +11,12 @@
 
 namespace tarvelin {
 
-void ApplySkin(Byte Mode, const std::string& Path, const QWidget& surface,
+void ApplySkin(Byte Mode, const std::string& Path, const Fra_Rest& surface,
                const std::filesystem::path& programFolder) {
     const auto load = [&surface](std::string_view name, const std::filesystem::path& file) {
         const QPixmap picture = LoadPixmap(file);
         if (!picture.isNull()) {
-            surface.findChild<QLabel*>(ToQString(name))->setPixmap(picture);
+            surface.Picture(name)->setPixmap(picture);
         }
     };
     const auto pictures = programFolder / "img";

@@ -28,10 +28,10 @@ TableModel::Provider ProviderOf(const BuildList& list) {
 
 BuildListGroup::BuildListGroup(const BuildList& list, QWidget* parent)
     : GroupBox(QStringLiteral("Frame8"), QStringLiteral("Bauliste:"), parent),
-      LV_Bauliste(new BuildListView(this)),
-      Cmd_Undo(NewButton(QStringLiteral("Cmd_Undo"), QStringLiteral("Undo"), this)),
-      Cmd_Clear(NewButton(QStringLiteral("Cmd_Clear"), QStringLiteral("Clear"), this)),
-      Cmd_Simulate(
+      m_LV_Bauliste(new BuildListView(this)),
+      m_Cmd_Undo(NewButton(QStringLiteral("Cmd_Undo"), QStringLiteral("Undo"), this)),
+      m_Cmd_Clear(NewButton(QStringLiteral("Cmd_Clear"), QStringLiteral("Clear"), this)),
+      m_Cmd_Simulate(
           NewButton(QStringLiteral("Cmd_Simulate"), QStringLiteral("Simulation starten"), this)),
       m_model(new TableModel({{}, {}, {}}, ProviderOf(list), this)),
       m_stocks(new QGridLayout),
@@ -40,7 +40,11 @@ BuildListGroup::BuildListGroup(const BuildList& list, QWidget* parent)
       m_LBL_Deut(NewStock(2, 5, QStringLiteral(" Deuterium "), QStringLiteral("LBL_Deut"))),
       m_LBL_ENergie(NewStock(3, 7, QStringLiteral(" Energie "), QStringLiteral("LBL_ENergie"))),
       m_LBL_Timegone(NewLabel(QStringLiteral("LBL_Timegone"), {}, this)) {
-    LV_Bauliste->setModel(m_model);
+    m_LV_Bauliste->setModel(m_model);
+    connect(m_LV_Bauliste, &BuildListView::DragDrop, this, &BuildListGroup::DragDrop);
+    connect(m_Cmd_Undo, &QPushButton::clicked, this, &BuildListGroup::Cmd_Undo_Click);
+    connect(m_Cmd_Clear, &QPushButton::clicked, this, &BuildListGroup::Cmd_Clear_Click);
+    connect(m_Cmd_Simulate, &QPushButton::clicked, this, &BuildListGroup::Cmd_Simulate_Click);
     QLabel* const prod =
         NewLabel(QStringLiteral("LBL_ProdProzent"), QStringLiteral("Prod %"), this);
     prod->setToolTip(QStringLiteral(
@@ -51,12 +55,12 @@ BuildListGroup::BuildListGroup(const BuildList& list, QWidget* parent)
     auto* const layout = new QGridLayout(this);
     layout->setContentsMargins(3, 2, 3, 3);
     layout->setSpacing(3);
-    layout->addWidget(LV_Bauliste, 0, 0, 1, 3);
+    layout->addWidget(m_LV_Bauliste, 0, 0, 1, 3);
     layout->addLayout(m_stocks, 1, 0, 1, 3);
     layout->addWidget(m_LBL_Timegone, 2, 0, 1, 3);
-    layout->addWidget(Cmd_Undo, 3, 0);
-    layout->addWidget(Cmd_Clear, 3, 1);
-    layout->addWidget(Cmd_Simulate, 3, 2);
+    layout->addWidget(m_Cmd_Undo, 3, 0);
+    layout->addWidget(m_Cmd_Clear, 3, 1);
+    layout->addWidget(m_Cmd_Simulate, 3, 2);
     layout->setRowStretch(0, 1);
     layout->setColumnStretch(0, 2);
     layout->setColumnStretch(1, 2);
@@ -69,12 +73,23 @@ NumberLabel* BuildListGroup::NewStock(int number, int width, const QString& hint
         NewPicture(QStringLiteral("Images(%1)").arg(number), {26, 26}, hint, this);
     auto* const label = new NumberLabel(name, this);
     label->setAccessibleDescription(hint.trimmed());
+    m_stockPictures.push_back(picture);
     m_stocks->setHorizontalSpacing(2);
     m_stocks->setVerticalSpacing(1);
     m_stocks->addWidget(picture, 0, number, Qt::AlignCenter);
     m_stocks->addWidget(label, 1, number);
     m_stocks->setColumnStretch(number, width);
     return label;
+}
+
+void BuildListGroup::ShowRows(DocumentChange::Rows change) {
+    m_model->Refresh();
+    if (change == DocumentChange::Rows::Replaced) {
+        m_LV_Bauliste->setCurrentIndex({});
+    }
+    if (change >= DocumentChange::Rows::Appended) {
+        m_LV_Bauliste->scrollToBottom();
+    }
 }
 
 void BuildListGroup::ShowResult(const ResultTexts& texts) {

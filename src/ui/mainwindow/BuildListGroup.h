@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QGridLayout>
+#include <vector>
 
+#include "document/DocumentChange.h"
 #include "plan/BuildList.h"
 #include "simulation/ResultTexts.h"
 #include "ui/mainwindow/BuildListView.h"
@@ -18,21 +20,30 @@ class BuildListGroup : public GroupBox {
     /// Shows the rows of `list`, which must outlive the group.
     BuildListGroup(const BuildList& list, QWidget* parent);
 
-    /// After a change of the list.
-    void ShowList() { m_model->Refresh(); }
-    void ScrollToLast() { LV_Bauliste->scrollToBottom(); }
+    void ShowRows(DocumentChange::Rows change);
     void ShowResult(const ResultTexts& texts);
 
-    BuildListView* const LV_Bauliste;
-    QPushButton* const Cmd_Undo;
-    QPushButton* const Cmd_Clear;
-    QPushButton* const Cmd_Simulate;
+    [[nodiscard]] QPushButton* StartButton() const { return m_Cmd_Simulate; }
+    /// The symbols of the stocks and of the energy.
+    [[nodiscard]] const std::vector<QLabel*>& StockPictures() const { return m_stockPictures; }
+
+  signals:
+    /// `Source` is the object name of an item picture that was dropped on the list.
+    void DragDrop(const QString& Source);
+    void Cmd_Undo_Click();
+    void Cmd_Clear_Click();
+    void Cmd_Simulate_Click();
 
   private:
     NumberLabel* NewStock(int number, int width, const QString& hint, const QString& name);
 
+    BuildListView* m_LV_Bauliste;
+    QPushButton* m_Cmd_Undo;
+    QPushButton* m_Cmd_Clear;
+    QPushButton* m_Cmd_Simulate;
     TableModel* m_model;
     QGridLayout* m_stocks;
+    std::vector<QLabel*> m_stockPictures;
     NumberLabel* m_LBL_Met;
     NumberLabel* m_LBL_Kris;
     NumberLabel* m_LBL_Deut;

@@ -1,4 +1,4 @@
-// Layout of the panel. Each input writes to the plan at once.
+// Layout of the panel. Each input changes the document at once.
 #include "ui/mainwindow/Fra_Einstellungen.h"
 
 #include <QHBoxLayout>
@@ -33,10 +33,10 @@ QHBoxLayout* NewCenterRow(const std::vector<QWidget*>& parts) {
 
 }  // namespace
 
-Fra_Einstellungen::Fra_Einstellungen(Plan& plan, QWidget* parent)
+Fra_Einstellungen::Fra_Einstellungen(Document& document, QWidget* parent)
     : Panel(QStringLiteral("Fra_Einstellungen"), QStringLiteral("Einstellungen:"),
             {0, 2, 2295, 3975}, parent),
-      m_plan(plan) {
+      m_document(document) {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(3, 1, 3, 3);
     layout->setSpacing(2);
@@ -54,6 +54,13 @@ Fra_Einstellungen::Fra_Einstellungen(Plan& plan, QWidget* parent)
     RefreshWeekday();
 }
 
+template <class Change>
+void Fra_Einstellungen::Edit(const QWidget& control, Change change) {
+    StartParameters parameters = Parameters();
+    change(parameters);
+    m_document.SetParameters(parameters, control.objectName().toStdString());
+}
+
 QWidget* Fra_Einstellungen::NewTemperatures() {
     auto* const group = new GroupBox({}, QStringLiteral("Min/Max-Temp:"), this);
     QHBoxLayout* const row = NewRow(
@@ -65,9 +72,8 @@ QWidget* Fra_Einstellungen::NewTemperatures() {
             new TextInput(QString::fromLatin1(name), QString::fromLatin1(accessibleName),
                           TextInput::kUnlimited, group);
         connect(input, &QLineEdit::textChanged, this, [this, input, change](const QString& text) {
-            change(m_plan.parameters, text.toStdString());
-            ShowTemperatures();
-            emit Edited(input->objectName());
+            Edit(*input,
+                 [&](StartParameters& parameters) { change(parameters, text.toStdString()); });
         });
         return input;
     };
@@ -87,8 +93,7 @@ TextInput* Fra_Einstellungen::NewStartTimeInput(const char* name, const char* ac
         new TextInput(QString::fromLatin1(name), QString::fromLatin1(accessibleName), limit, this);
     input->setFixedWidth(width);
     connect(input, &QLineEdit::textChanged, this, [this, input, value](const QString& text) {
-        m_plan.parameters.*value = text.toStdString();
-        emit Edited(input->objectName());
+        Edit(*input, [&](StartParameters& parameters) { parameters.*value = text.toStdString(); });
     });
     m_startTime.push_back({input, value});
     return input;
@@ -158,9 +163,9 @@ QWidget* Fra_Einstellungen::NewKlickPuffer() {
 void Fra_Einstellungen::HSC_KlickPuffer_Change(int position) {
     m_LBL_KlickPuffer->setText(ToQString(KlickPufferText(position)));
     // `Refresh` moves the slider to what the plan already has: no edit.
-    if (m_plan.parameters.KlickPuffer != position) {
-        m_plan.parameters.KlickPuffer = position;
-        emit Edited(m_HSC_KlickPuffer->objectName());
+    if (Parameters().KlickPuffer != position) {
+        Edit(*m_HSC_KlickPuffer,
+             [&](StartParameters& parameters) { parameters.KlickPuffer = position; });
     }
 }
 
@@ -172,13 +177,13 @@ QWidget* Fra_Einstellungen::NewDescriptions() {
                      QStringLiteral("  Blendet die Namen der Gebäude/Forschungen/Raumschiffe ein "),
                      group));
     m_cmd_ShowDesc = NewButton(QStringLiteral("cmd_ShowDesc"), {}, group);
-    connect(m_cmd_ShowDesc, &QPushButton::clicked, this, [this] {
-        m_plan.ShowDesc = !m_plan.ShowDesc;
-        RefreshShowDesc();
-        emit cmd_ShowDesc_Click();
-    });
+    connect(m_cmd_ShowDesc, &QPushButton::clicked, this, &Fra_Einstellungen::cmd_ShowDesc_Click);
     row->addWidget(m_cmd_ShowDesc);
     return group;
+}
+
+void Fra_Einstellungen::cmd_ShowDesc_Click() {
+    m_document.SetShowDesc(!m_document.CurrentPlan().ShowDesc);
 }
 
 QWidget* Fra_Einstellungen::NewSpeedfaktor() {
@@ -190,27 +195,28 @@ QWidget* Fra_Einstellungen::NewSpeedfaktor() {
                             group));
     m_Chk_Speedfaktor = new QCheckBox(QStringLiteral("Speedfaktor x2 !"), group);
     m_Chk_Speedfaktor->setObjectName(QStringLiteral("Chk_Speedfaktor"));
-    connect(m_Chk_Speedfaktor, &QCheckBox::clicked, this, [this](bool set) {
-        m_plan.parameters.Speedfaktor_X2 = set;
-        emit Chk_Speedfaktor_Click();
-        emit Edited(m_Chk_Speedfaktor->objectName());
-    });
+    connect(m_Chk_Speedfaktor, &QCheckBox::clicked, this,
+            &Fra_Einstellungen::Chk_Speedfaktor_Click);
     row->addWidget(m_Chk_Speedfaktor);
     return group;
+}
+
+void Fra_Einstellungen::Chk_Speedfaktor_Click(bool set) {
+    Edit(*m_Chk_Speedfaktor, [&](StartParameters& parameters) { parameters.Speedfaktor_X2 = set; });
 }
 
 void Fra_Einstellungen::Refresh() {
     constexpr std::size_t kDateParts = 3;
     for (std::size_t i = 0; i < m_startTime.size(); ++i) {
-        const bool changed = m_startTime[i].input->Assign(m_plan.parameters.*m_startTime[i].value);
+        const bool changed = m_startTime[i].input->Assign(Parameters().*m_startTime[i].value);
         if (changed && i < kDateParts) {
             RefreshWeekday();
         }
     }
     ShowTemperatures();
-    m_HSC_KlickPuffer->setValue(m_plan.parameters.KlickPuffer);
-    m_LBL_KlickPuffer->setText(ToQString(KlickPufferText(m_plan.parameters.KlickPuffer)));
-    m_Chk_Speedfaktor->setChecked(m_plan.parameters.Speedfaktor_X2);
+    m_HSC_KlickPuffer->setValue(Parameters().KlickPuffer);
+    m_LBL_KlickPuffer->setText(ToQString(KlickPufferText(Parameters().KlickPuffer)));
+    m_Chk_Speedfaktor->setChecked(Parameters().Speedfaktor_X2);
     RefreshShowDesc();
 }
 
@@ -230,14 +236,14 @@ void Fra_Einstellungen::Refresh(const WeekdayLabel& weekday) {
 }
 
 void Fra_Einstellungen::ShowTemperatures() {
-    m_txt_TempMin->Assign(m_plan.parameters.tempMin);
-    m_txt_TempMax->Assign(m_plan.parameters.TempMax);
+    m_txt_TempMin->Assign(Parameters().tempMin);
+    m_txt_TempMax->Assign(Parameters().TempMax);
 }
 
 void Fra_Einstellungen::RefreshShowDesc() {
     // Capitals mark the current state.
-    m_cmd_ShowDesc->setText(m_plan.ShowDesc ? QStringLiteral("EIN/aus")
-                                            : QStringLiteral("ein/AUS"));
+    m_cmd_ShowDesc->setText(m_document.CurrentPlan().ShowDesc ? QStringLiteral("EIN/aus")
+                                                              : QStringLiteral("ein/AUS"));
 }
 
 }  // namespace tarvelin

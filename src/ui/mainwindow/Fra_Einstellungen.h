@@ -3,7 +3,7 @@
 
 #include <QCheckBox>
 
-#include "plan/Plan.h"
+#include "document/Document.h"
 #include "ui/widgets/Panel.h"
 
 namespace tarvelin {
@@ -12,19 +12,13 @@ class Fra_Einstellungen : public Panel {
     Q_OBJECT
 
   public:
-    /// Edits the parameters and `ShowDesc` of `plan`, which must outlive the panel.
-    Fra_Einstellungen(Plan& plan, QWidget* parent);
+    /// `document` must outlive the panel.
+    Fra_Einstellungen(Document& document, QWidget* parent);
 
-    /// Call it after the program has changed the parameters.
+    /// Call it after a change of the parameters or of `ShowDesc`.
     void Refresh();
     void RefreshWeekday();
     void Refresh(const WeekdayLabel& weekday);
-
-  signals:
-    /// The user has changed a parameter; `input` is the name of the control.
-    void Edited(const QString& input);
-    void Chk_Speedfaktor_Click();
-    void cmd_ShowDesc_Click();
 
   private:
     QWidget* NewTemperatures();
@@ -37,12 +31,20 @@ class Fra_Einstellungen : public Panel {
     TextInput* NewStartTimeInput(const char* name, const char* accessibleName, int limit, int width,
                                  std::string StartParameters::*value);
 
+    [[nodiscard]] const StartParameters& Parameters() const {
+        return m_document.CurrentPlan().parameters;
+    }
+    /// Lets `change` change the parameters, as the user has by this control.
+    template <class Change>
+    void Edit(const QWidget& control, Change change);
     /// `position` in seconds.
     void HSC_KlickPuffer_Change(int position);
+    void cmd_ShowDesc_Click();
+    void Chk_Speedfaktor_Click(bool set);
     void ShowTemperatures();
     void RefreshShowDesc();
 
-    Plan& m_plan;
+    Document& m_document;
 
     struct DatePart {
         TextInput* input;

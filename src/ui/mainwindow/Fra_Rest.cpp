@@ -1,6 +1,7 @@
 // Places and connects the six groups.
 #include "ui/mainwindow/Fra_Rest.h"
 
+#include <algorithm>
 #include <array>
 
 namespace tarvelin {
@@ -33,24 +34,29 @@ void PlaceGroup(QWidget& group, int left, int width) {
 
 }  // namespace
 
-Fra_Rest::Fra_Rest(const BuildList& list, const LastRun& run, QWidget* parent)
+Fra_Rest::Fra_Rest(const Document& document, QWidget* parent)
     : QWidget(parent),
-      m_list(list),
-      m_Frame8(new BuildListGroup(list, this)),
-      m_Frame6(new ScheduleGroup(run.LV_Bauzeiten, this)),
+      m_document(document),
+      m_Frame8(new BuildListGroup(document.CurrentPlan().LV_Bauliste, this)),
+      m_Frame6(new ScheduleGroup(document.CurrentRun().LV_Bauzeiten, this)),
       m_tiles(AddItemGroups()) {
     setObjectName(QStringLiteral("Fra_Rest"));
     resize(TwipsToPixels(12735), TwipsToPixels(4335));
     PlaceGroup(*m_Frame8, 0, 3375);
     PlaceGroup(*m_Frame6, 9360, 3375);
-    ChainTabOrder({m_tiles.back().picture, m_Frame6->LV_Bauzeiten, m_Frame6->Chk_BauWeckfunktion,
-                   m_Frame6->Comb_Before});
-    connect(m_Frame8->LV_Bauliste, &BuildListView::DragDrop, this, &Fra_Rest::DragDrop);
-    connect(m_Frame8->Cmd_Undo, &QPushButton::clicked, this, &Fra_Rest::Cmd_Undo_Click);
-    connect(m_Frame8->Cmd_Clear, &QPushButton::clicked, this, &Fra_Rest::Cmd_Clear_Click);
-    connect(m_Frame8->Cmd_Simulate, &QPushButton::clicked, this, &Fra_Rest::Cmd_Simulate_Click);
-    connect(m_Frame6->ImgDonate_1, &QAbstractButton::clicked, this, &Fra_Rest::ImgDonate_Click);
+    std::vector<QWidget*> tabOrder = m_Frame6->TabOrder();
+    tabOrder.insert(tabOrder.begin(), m_tiles.back().picture);
+    ChainTabOrder(tabOrder);
+    connect(m_Frame8, &BuildListGroup::DragDrop, this, &Fra_Rest::DragDrop);
+    connect(m_Frame8, &BuildListGroup::Cmd_Undo_Click, this, &Fra_Rest::Cmd_Undo_Click);
+    connect(m_Frame8, &BuildListGroup::Cmd_Clear_Click, this, &Fra_Rest::Cmd_Clear_Click);
+    connect(m_Frame8, &BuildListGroup::Cmd_Simulate_Click, this, &Fra_Rest::Cmd_Simulate_Click);
+    connect(m_Frame6->DonationButton(), &QAbstractButton::clicked, this,
+            &Fra_Rest::ImgDonate_Click);
+    m_pictures = m_Frame8->StockPictures();
+    m_pictures.push_back(m_Frame6->PointsPicture());
     for (const ItemTile& tile : m_tiles) {
+        m_pictures.push_back(tile.picture);
         connect(tile.picture, &ItemPicture::MouseMove, this,
                 [this, tile] { emit Img_MouseMove(tile); });
         connect(tile.picture, &ItemPicture::Chosen, this,
@@ -66,11 +72,15 @@ PerItem<QPixmap> Fra_Rest::ItemPictures() const {
     return pictures;
 }
 
+QLabel* Fra_Rest::Picture(std::string_view name) const {
+    return *std::ranges::find(m_pictures, ToQString(name), &QObject::objectName);
+}
+
 void Fra_Rest::SetCursors(const DragCursors& cursors) {
     for (const ItemTile& tile : m_tiles) {
         tile.picture->SetCursors(cursors);
     }
-    m_Frame6->ImgDonate_1->setCursor(cursors.openHand);
+    m_Frame6->DonationButton()->setCursor(cursors.openHand);
 }
 
 std::vector<ItemTile> Fra_Rest::AddItemGroups() {
@@ -89,25 +99,34 @@ std::vector<ItemTile> Fra_Rest::AddItemGroups() {
     return tiles;
 }
 
-void Fra_Rest::ShowList() {
-    m_Frame8->ShowList();
-    RefreshStufenLabels();
+void Fra_Rest::SetDonationPicture(const QPixmap& picture) {
+    m_Frame6->DonationButton()->SetPicture(picture);
+}
+
+void Fra_Rest::ShowChange(const DocumentChange& change) {
+    if (change.rows != DocumentChange::Rows::Kept) {
+        m_Frame8->ShowRows(change.rows);
+        RefreshStufenLabels();
+    }
+    if (change.results != DocumentChange::Results::Kept) {
+        m_Frame8->ShowResult(m_document.Texts());
+        m_Frame6->ShowResult(m_document.Texts());
+        m_Frame6->ShowSchedule(change.results);
+    }
+    if (change.showDesc) {
+        ShowNames();
+    }
 }
 
 void Fra_Rest::RefreshStufenLabels() {
     for (const ItemTile& tile : m_tiles) {
-        tile.level->setNum(m_list.Orders().ListStufe(tile.item));
+        tile.level->setNum(m_document.CurrentPlan().LV_Bauliste.Orders().ListStufe(tile.item));
     }
 }
 
-void Fra_Rest::ShowResult(const ResultTexts& texts) {
-    m_Frame8->ShowResult(texts);
-    m_Frame6->ShowResult(texts);
-}
-
-void Fra_Rest::ShowNames(bool show) {
+void Fra_Rest::ShowNames() {
     for (const ItemTile& tile : m_tiles) {
-        tile.desc->setVisible(show);
+        tile.desc->setVisible(m_document.CurrentPlan().ShowDesc);
     }
 }
 

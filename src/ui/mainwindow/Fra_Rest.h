@@ -2,10 +2,10 @@
 #pragma once
 
 #include <QWidget>
+#include <string_view>
 #include <vector>
 
-#include "plan/Plan.h"
-#include "simulation/RunSimulation.h"
+#include "document/Document.h"
 #include "ui/mainwindow/BuildListGroup.h"
 #include "ui/mainwindow/ItemGroup.h"
 #include "ui/mainwindow/ScheduleGroup.h"
@@ -16,27 +16,24 @@ class Fra_Rest : public QWidget {
     Q_OBJECT
 
   public:
-    /// Shows `list` and `run`, which must outlive the surface.
-    Fra_Rest(const BuildList& list, const LastRun& run, QWidget* parent);
+    /// `document` must outlive the surface.
+    Fra_Rest(const Document& document, QWidget* parent);
 
-    /// Call it after a change of the list. Refreshes the rows, and the levels over the pictures.
-    void ShowList();
-    void ScrollToLast() { m_Frame8->ScrollToLast(); }
-    void ShowSchedule() { m_Frame6->ShowSchedule(); }
-    void ScrollScheduleToTop() { m_Frame6->LV_Bauzeiten->scrollToTop(); }
-    void ShowResult(const ResultTexts& texts);
-    void ShowNames(bool show);
+    void ShowChange(const DocumentChange& change);
 
     [[nodiscard]] PerItem<QPixmap> ItemPictures() const;
+    /// The label with this object name: the picture of an item, or "Images(0)" to "Images(4)" for
+    /// the stocks, energy and points.
+    [[nodiscard]] QLabel* Picture(std::string_view name) const;
 
     void SetCursors(const DragCursors& cursors);
-    void SetDonationPicture(const QPixmap& picture) { m_Frame6->ImgDonate_1->SetPicture(picture); }
+    void SetDonationPicture(const QPixmap& picture);
 
     /// The default button.
-    [[nodiscard]] QPushButton* StartButton() const { return m_Frame8->Cmd_Simulate; }
+    [[nodiscard]] QPushButton* StartButton() const { return m_Frame8->StartButton(); }
     /// The switch of the alarm before each start, and how many seconds before.
-    [[nodiscard]] QCheckBox* BuildAlarmSwitch() const { return m_Frame6->Chk_BauWeckfunktion; }
-    [[nodiscard]] const QComboBox* SecondsBefore() const { return m_Frame6->Comb_Before; }
+    [[nodiscard]] QCheckBox* BuildAlarmSwitch() const { return m_Frame6->AlarmSwitch(); }
+    [[nodiscard]] const QComboBox* SecondsBefore() const { return m_Frame6->SecondsBefore(); }
 
   signals:
     void Img_MouseMove(const ItemTile& tile);
@@ -51,11 +48,14 @@ class Fra_Rest : public QWidget {
   private:
     std::vector<ItemTile> AddItemGroups();
     void RefreshStufenLabels();
+    void ShowNames();
 
-    const BuildList& m_list;
+    const Document& m_document;
     BuildListGroup* m_Frame8;
     ScheduleGroup* m_Frame6;
     std::vector<ItemTile> m_tiles;
+    /// All that a skin may change.
+    std::vector<QLabel*> m_pictures;
 };
 
 }  // namespace tarvelin

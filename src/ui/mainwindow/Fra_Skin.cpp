@@ -20,9 +20,9 @@ QRadioButton* NewOption(const char* name, const char* text, QWidget* parent) {
 
 Fra_Skin::Fra_Skin(std::filesystem::path skins, QWidget* parent)
     : Panel(QStringLiteral("Fra_Skin"), QStringLiteral("Skinpfad:"), {160, 2, 3615, 975}, parent),
-      Comb_Skins(new QComboBox(this)),
-      txt_Pfad(new QLineEdit(QStringLiteral("http://"), this)),
-      Cmd_ApplySkin(NewButton(QStringLiteral("Cmd_ApplySkin"), QStringLiteral("OK"), this)),
+      m_Comb_Skins(new QComboBox(this)),
+      m_txt_Pfad(new QLineEdit(QStringLiteral("http://"), this)),
+      m_Cmd_ApplySkin(NewButton(QStringLiteral("Cmd_ApplySkin"), QStringLiteral("OK"), this)),
       m_Opt_Standard(NewOption("Opt_Standard", "Standard", this)),
       m_Opt_Lokal(NewOption("Opt_Lokal", "Lokal", this)),
       m_Opt_Web(NewOption("Opt_Web", "Web", this)),
@@ -32,11 +32,12 @@ Fra_Skin::Fra_Skin(std::filesystem::path skins, QWidget* parent)
     for (QRadioButton* const option : {m_Opt_Standard, m_Opt_Lokal, m_Opt_Web}) {
         connect(option, &QRadioButton::toggled, this, &Fra_Skin::ShowSource);
     }
+    connect(m_Cmd_ApplySkin, &QPushButton::clicked, this, &Fra_Skin::Cmd_ApplySkin_Click);
     m_Opt_Standard->setChecked(true);
-    Comb_Skins->setObjectName(QStringLiteral("Comb_Skins"));
-    Comb_Skins->setAccessibleName(QStringLiteral("Lokaler Skin"));
-    txt_Pfad->setObjectName(QStringLiteral("txt_Pfad"));
-    txt_Pfad->setAccessibleName(QStringLiteral("Web-Verzeichnis"));
+    m_Comb_Skins->setObjectName(QStringLiteral("Comb_Skins"));
+    m_Comb_Skins->setAccessibleName(QStringLiteral("Lokaler Skin"));
+    m_txt_Pfad->setObjectName(QStringLiteral("txt_Pfad"));
+    m_txt_Pfad->setAccessibleName(QStringLiteral("Web-Verzeichnis"));
 
     Arrange();
     SetFirstControl(m_Opt_Standard);
@@ -50,7 +51,7 @@ void Fra_Skin::Arrange() {
     connect(close, &QPushButton::clicked, this, &QWidget::hide);
     for (QWidget* const part :
          std::initializer_list<QWidget*>{m_Opt_Standard, m_Opt_Lokal, m_Opt_Web, m_LBL_Skin,
-                                         Comb_Skins, txt_Pfad, Cmd_ApplySkin, close}) {
+                                         m_Comb_Skins, m_txt_Pfad, m_Cmd_ApplySkin, close}) {
         part->setFixedHeight(kLineHeight);
     }
     auto* const layout = new QGridLayout(this);
@@ -61,9 +62,9 @@ void Fra_Skin::Arrange() {
     layout->addWidget(m_Opt_Lokal, 1, 0);
     layout->addWidget(m_Opt_Web, 2, 0);
     layout->addWidget(m_LBL_Skin, 0, 1, 1, 2);
-    layout->addWidget(Comb_Skins, 1, 1, 1, 2);
-    layout->addWidget(txt_Pfad, 1, 1, 1, 2);
-    layout->addWidget(Cmd_ApplySkin, 2, 1);
+    layout->addWidget(m_Comb_Skins, 1, 1, 1, 2);
+    layout->addWidget(m_txt_Pfad, 1, 1, 1, 2);
+    layout->addWidget(m_Cmd_ApplySkin, 2, 1);
     layout->addWidget(close, 2, 2);
     layout->setColumnStretch(1, 1);
     layout->setColumnStretch(2, 1);
@@ -75,9 +76,9 @@ void Fra_Skin::ShowSource() {
     m_LBL_Skin->setText(local ? QStringLiteral(" Skin-Unterordner wählen: ")
                         : web ? QStringLiteral(" Web-Verzeichnis: ")
                               : QStringLiteral(" Standard-Skin benutzen. "));
-    txt_Pfad->setEnabled(local || web);
-    txt_Pfad->setVisible(web);
-    Comb_Skins->setVisible(local);
+    m_txt_Pfad->setEnabled(local || web);
+    m_txt_Pfad->setVisible(web);
+    m_Comb_Skins->setVisible(local);
 }
 
 void Fra_Skin::ChooseSource(Byte mode) {
@@ -96,11 +97,33 @@ Byte Fra_Skin::ChosenSource() const {
                                     : kStandardSkin;
 }
 
+std::string Fra_Skin::SkinFolder() const {
+    return m_Comb_Skins->currentText().toStdString();
+}
+
+Configuration::Values Fra_Skin::Settings() const {
+    const Byte source = ChosenSource();
+    const std::string path = source == kStandardSkin ? "~"
+                             : source == kWebSkin    ? kWebSkinFolder
+                                                     : SkinFolder();
+    return {{Configuration::kMode, std::to_string(source)},
+            {Configuration::kPath, path},
+            {Configuration::kWebPath, WebPath()}};
+}
+
+std::string Fra_Skin::WebPath() const {
+    return m_txt_Pfad->text().toStdString();
+}
+
+void Fra_Skin::SetWebPath(const std::string& address) {
+    m_txt_Pfad->setText(ToQString(address));
+}
+
 void Fra_Skin::FillSkinList() {
-    Comb_Skins->clear();
+    m_Comb_Skins->clear();
     for (const std::string& name : GetSubfolders(m_skins)) {
         if (!name.empty() && name != "standard" && name != kWebSkinFolder) {
-            Comb_Skins->addItem(ToQString(name));
+            m_Comb_Skins->addItem(ToQString(name));
         }
     }
 }

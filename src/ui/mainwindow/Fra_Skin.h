@@ -5,9 +5,10 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <filesystem>
+#include <string>
 
+#include "persistence/Configuration.h"
 #include "ui/widgets/Panel.h"
-#include "util/Integers.h"
 
 namespace tarvelin {
 
@@ -33,14 +34,24 @@ class Fra_Skin : public Panel {
     void ChooseSource(Byte mode);
     [[nodiscard]] Byte ChosenSource() const;
 
-    QComboBox* const Comb_Skins;
-    QLineEdit* const txt_Pfad;
-    QPushButton* const Cmd_ApplySkin;
+    /// The folder chosen from the list; empty if there is none.
+    [[nodiscard]] std::string SkinFolder() const;
+    /// The choice, as the configuration keeps it.
+    [[nodiscard]] Configuration::Values Settings() const;
+    /// The address of a web skin.
+    [[nodiscard]] std::string WebPath() const;
+    void SetWebPath(const std::string& address);
+
+  signals:
+    void Cmd_ApplySkin_Click();
 
   private:
     void ShowSource();
     void Arrange();
 
+    QComboBox* m_Comb_Skins;
+    QLineEdit* m_txt_Pfad;
+    QPushButton* m_Cmd_ApplySkin;
     QRadioButton* m_Opt_Standard;
     QRadioButton* m_Opt_Lokal;
     QRadioButton* m_Opt_Web;

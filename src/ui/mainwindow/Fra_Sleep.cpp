@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace tarvelin {
 
@@ -56,21 +57,21 @@ QCalendarWidget* NewCalendar(const QDate& day, QWidget* parent) {
 
 }  // namespace
 
-Fra_Sleep::Fra_Sleep(SleepTable& table, const Environment& environment, QWidget* parent)
+Fra_Sleep::Fra_Sleep(Document& document, const Environment& environment, QWidget* parent)
     : Panel(QStringLiteral("Fra_Sleep"), QStringLiteral("Schlaf/Pausen-zeiten:"),
             {160, 2, 6855, 3615}, parent),
-      LV_Schlafzeiten(new ListView(QStringLiteral("LV_Schlafzeiten"),
-                                   QStringLiteral("Schlafzeiten"), {2646, 2646}, this)),
-      Chk_Schlafzeitenwecker(new QCheckBox(QStringLiteral("Wecker-Funktion"), this)),
-      m_table(table),
+      m_document(document),
       m_environment(environment),
+      m_LV_Schlafzeiten(new ListView(QStringLiteral("LV_Schlafzeiten"),
+                                     QStringLiteral("Schlafzeiten"), {2646, 2646}, this)),
+      m_Chk_Schlafzeitenwecker(new QCheckBox(QStringLiteral("Wecker-Funktion"), this)),
       m_model(new TableModel({QStringLiteral("Startzeit"), QStringLiteral("Endzeit")},
-                             ProviderOf(table), this)),
+                             ProviderOf(Table()), this)),
       m_SchlafKalender(NewCalendar(ToDate(environment.now()), this)),
       m_LBL_Schlafendzeit(NewLabel(QStringLiteral("LBL_Schlafendzeit"), {}, this)) {
-    LV_Schlafzeiten->setModel(m_model);
-    Chk_Schlafzeitenwecker->setObjectName(QStringLiteral("Chk_Schlafzeitenwecker"));
-    Chk_Schlafzeitenwecker->setToolTip(
+    m_LV_Schlafzeiten->setModel(m_model);
+    m_Chk_Schlafzeitenwecker->setObjectName(QStringLiteral("Chk_Schlafzeitenwecker"));
+    m_Chk_Schlafzeitenwecker->setToolTip(
         QStringLiteral(" Eine Minute vor jeder Endzeit ertönt ein Alarmton "));
     connect(m_SchlafKalender, &QCalendarWidget::selectionChanged, this,
             &Fra_Sleep::RefreshSchlafEnde);
@@ -141,19 +142,19 @@ void Fra_Sleep::Arrange() {
     layout->setSpacing(4);
     layout->addWidget(m_SchlafKalender, 0, 0);
     layout->addLayout(NewTimes(add), 1, 0, 2, 1);
-    layout->addWidget(LV_Schlafzeiten, 0, 1);
-    layout->addWidget(Chk_Schlafzeitenwecker, 1, 1);
+    layout->addWidget(m_LV_Schlafzeiten, 0, 1);
+    layout->addWidget(m_Chk_Schlafzeitenwecker, 1, 1);
     layout->addLayout(buttons, 2, 1);
     layout->setColumnStretch(0, 1);
     layout->setColumnStretch(1, 1);
     ChainTabOrder({m_SchlafKalender, m_times[0], m_times[1], m_times[2], m_times[3], add,
-                   LV_Schlafzeiten, Chk_Schlafzeitenwecker, remove, clear, close});
+                   m_LV_Schlafzeiten, m_Chk_Schlafzeitenwecker, remove, clear, close});
 }
 
 void Fra_Sleep::Refresh() {
     m_model->Refresh();
     // Otherwise another row would be selected in the place of a removed one.
-    LV_Schlafzeiten->setCurrentIndex({});
+    m_LV_Schlafzeiten->setCurrentIndex({});
 }
 
 SleepInput Fra_Sleep::ReadInput() const {
@@ -180,31 +181,29 @@ void Fra_Sleep::RefreshSchlafEnde() {
 }
 
 void Fra_Sleep::Cmd_AddSchlafzeit_Click() {
-    if (const auto message = AddSleepRow(ReadInput(), m_table)) {
+    SleepTable table = Table();
+    if (const auto message = AddSleepRow(ReadInput(), table)) {
         m_environment.dialogs.Show(*message);
         return;
     }
-    Refresh();
+    m_document.SetSleepTable(std::move(table));
     const QModelIndex added = m_model->index(m_model->rowCount() - 1, 0);
-    LV_Schlafzeiten->scrollTo(added);
-    LV_Schlafzeiten->setCurrentIndex(added);
-    emit Edited();
+    m_LV_Schlafzeiten->scrollTo(added);
+    m_LV_Schlafzeiten->setCurrentIndex(added);
 }
 
 void Fra_Sleep::Cmd_RemoveSchlafzeit_Click() {
-    const QModelIndexList chosen = LV_Schlafzeiten->selectionModel()->selectedRows();
+    const QModelIndexList chosen = m_LV_Schlafzeiten->selectionModel()->selectedRows();
     if (!chosen.isEmpty()) {
-        m_table.erase(m_table.begin() + chosen.first().row());
-        Refresh();
-        emit Edited();
+        SleepTable table = Table();
+        table.erase(table.begin() + chosen.first().row());
+        m_document.SetSleepTable(std::move(table));
     }
 }
 
 void Fra_Sleep::Cmd_ClearSchlafzeiten_Click() {
     if (m_environment.dialogs.Ask({.text = "Wirklich alle löschen ?", .title = ""})) {
-        m_table.clear();
-        Refresh();
-        emit Edited();
+        m_document.SetSleepTable({});
     }
 }
 

@@ -4,7 +4,7 @@
 #include <QCalendarWidget>
 #include <QCheckBox>
 
-#include "plan/SleepTable.h"
+#include "document/Document.h"
 #include "ui/services/Environment.h"
 #include "ui/widgets/ListView.h"
 #include "ui/widgets/Panel.h"
@@ -16,19 +16,15 @@ class Fra_Sleep : public Panel {
     Q_OBJECT
 
   public:
-    /// Edits `table`, which must outlive the panel, as must `environment`.
-    Fra_Sleep(SleepTable& table, const Environment& environment, QWidget* parent);
+    /// Both must outlive the panel.
+    Fra_Sleep(Document& document, const Environment& environment, QWidget* parent);
 
-    /// Call it after the program has changed the table. Deselects all rows.
+    /// Call it after a change of the table. Deselects all rows.
     void Refresh();
     void RefreshSchlafEnde();
 
-    ListView* const LV_Schlafzeiten;
-    QCheckBox* const Chk_Schlafzeitenwecker;
-
-  signals:
-    /// The user has changed the table.
-    void Edited();
+    /// The switch of the alarm before the end of each window.
+    [[nodiscard]] QCheckBox* AlarmSwitch() const { return m_Chk_Schlafzeitenwecker; }
 
   private:
     void AddInputs();
@@ -36,14 +32,19 @@ class Fra_Sleep : public Panel {
     QLayout* NewTimes(QPushButton* add);
     QPushButton* NewTableButton(const char* name, const char* text, void (Fra_Sleep::*handler)());
     void TurnPage(int year, int month);
+    [[nodiscard]] const SleepTable& Table() const {
+        return m_document.CurrentPlan().LV_Schlafzeiten;
+    }
     [[nodiscard]] SleepInput ReadInput() const;
     void Cmd_AddSchlafzeit_Click();
     void Cmd_RemoveSchlafzeit_Click();
     void Cmd_ClearSchlafzeiten_Click();
     void Cmd_HideSleep_Click();
 
-    SleepTable& m_table;
+    Document& m_document;
     const Environment& m_environment;
+    ListView* m_LV_Schlafzeiten;
+    QCheckBox* m_Chk_Schlafzeitenwecker;
     TableModel* m_model;
     QCalendarWidget* m_SchlafKalender;
     /// Hours and minutes of the start, then of the duration.

@@ -21,22 +21,25 @@ constexpr PerResource<FactorSlider> kSliders{{{
 
 }  // namespace
 
-Fra_Special::Fra_Special(QWidget* parent)
+Fra_Special::Fra_Special(Document& document, Prompts& prompts, QWidget* parent)
     : Panel(QStringLiteral("Fra_Special"), QStringLiteral("Special-Events:"), {160, 2, 3255, 1635},
             parent),
-      Cmd_AddProdaenderungsevent(NewButton(QStringLiteral("Cmd_AddProdaenderungsevent"),
-                                           QStringLiteral("Add Event"), this)) {
+      m_document(document),
+      m_prompts(prompts) {
     QWidget* const sliders = NewFactorSliders();
+    QPushButton* const add =
+        NewButton(QStringLiteral("Cmd_AddProdaenderungsevent"), QStringLiteral("Add Event"), this);
+    connect(add, &QPushButton::clicked, this, &Fra_Special::Cmd_AddProdaenderungsevent_Click);
     QPushButton* const close = NewHideButton(QStringLiteral("Cmd_HideFraSpecial"));
     connect(close, &QPushButton::clicked, this, &Fra_Special::Cmd_HideFraSpecial_Click);
     auto* const layout = new QGridLayout(this);
     layout->setContentsMargins(4, 1, 4, 3);
     layout->setSpacing(3);
     layout->addWidget(sliders, 0, 0, 1, 2);
-    layout->addWidget(Cmd_AddProdaenderungsevent, 1, 0);
+    layout->addWidget(add, 1, 0);
     layout->addWidget(close, 1, 1);
     ChainTabOrder({m_sliders[Resource::Metall], m_sliders[Resource::Kristall],
-                   m_sliders[Resource::Deuterium], Cmd_AddProdaenderungsevent, close});
+                   m_sliders[Resource::Deuterium], add, close});
     SetFirstControl(m_sliders[Resource::Metall]);
     hide();
 }
@@ -94,6 +97,12 @@ void Fra_Special::HSC_Deutfaktor_Change(int position) {
 void Fra_Special::ShowFactor(Resource mine, int position) {
     m_labels[mine]->setText(
         QStringLiteral("%1: %2%").arg(QString::fromLatin1(kSliders[mine].mine)).arg(10 * position));
+}
+
+void Fra_Special::Cmd_AddProdaenderungsevent_Click() {
+    if (const auto message = m_document.AddProduction(Factors())) {
+        m_prompts.Show(*message);
+    }
 }
 
 void Fra_Special::Cmd_HideFraSpecial_Click() {

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 
+#include "document/DocumentChange.h"
 #include "simulation/ResultTexts.h"
 #include "simulation/Schedule.h"
 #include "ui/widgets/Controls.h"
@@ -20,15 +21,19 @@ class ScheduleGroup : public GroupBox {
     /// Shows the rows of `schedule`, which must outlive the group.
     ScheduleGroup(const Schedule& schedule, QWidget* parent);
 
-    /// Call it after a run or a reset.
-    void ShowSchedule() { m_model->Refresh(); }
+    void ShowSchedule(DocumentChange::Results change);
     void ShowResult(const ResultTexts& texts);
 
-    ListView* const LV_Bauzeiten;
-    QCheckBox* const Chk_BauWeckfunktion;
-    /// How many seconds before a start the alarm sounds. Editable.
-    QComboBox* const Comb_Before;
-    PictureButton* const ImgDonate_1;
+    /// The switch of the alarm before each start, and how many seconds before it sounds.
+    [[nodiscard]] QCheckBox* AlarmSwitch() const { return m_Chk_BauWeckfunktion; }
+    [[nodiscard]] const QComboBox* SecondsBefore() const { return m_Comb_Before; }
+    /// The list, from which Tab goes on through the group.
+    [[nodiscard]] std::vector<QWidget*> TabOrder() const {
+        return {m_LV_Bauzeiten, m_Chk_BauWeckfunktion, m_Comb_Before};
+    }
+    [[nodiscard]] PictureButton* DonationButton() const { return m_ImgDonate_1; }
+    /// The symbol of the points.
+    [[nodiscard]] QLabel* PointsPicture() const { return m_pointsPicture; }
 
   private:
     void FillSeconds();
@@ -36,7 +41,12 @@ class ScheduleGroup : public GroupBox {
     void LV_Bauzeiten_MouseMove(const QModelIndex& row);
 
     const Schedule& m_schedule;
+    ListView* m_LV_Bauzeiten;
+    QCheckBox* m_Chk_BauWeckfunktion;
+    QComboBox* m_Comb_Before;
+    PictureButton* m_ImgDonate_1;
     TableModel* m_model;
+    QLabel* m_pointsPicture;
     QLabel* m_LBL_Punkte;
     QLabel* m_LBL_Timegone2;
 };

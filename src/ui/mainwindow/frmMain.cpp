@@ -1,21 +1,23 @@
-// Layout and handlers of the main window.
+// Layout and handlers of the classic window.
 #include "ui/mainwindow/frmMain.h"
 
+#include <QCloseEvent>
 #include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QScreen>
 #include <QTableView>
-#include <QTimer>
+#include <QWindow>
 #include <algorithm>
-#include <utility>
+#include <chrono>
 
 #include "plan/HoverInfo.h"
 #include "ui/mainwindow/ApplySkin.h"
 #include "ui/mainwindow/MakerSite.h"
 #include "ui/mainwindow/WebSkin.h"
-#include "ui/mainwindow/WindowMessages.h"
 #include "ui/widgets/EnterKeyFilter.h"
 #include "ui/widgets/ItemDisplay.h"
 #include "ui/widgets/Pictures.h"
@@ -42,42 +44,55 @@ void ShowSingle(std::unique_ptr<F>& window, const Environment& environment) {
 
 }  // namespace
 
-frmMain::frmMain(const Environment& environment)
-    : m_environment(environment),
+frmMain::frmMain(Document& document, const Environment& environment)
+    : m_document(document),
+      m_environment(environment),
       m_configuration(environment.programFolder, environment.files),
-      m_autosave(environment.programFolder, environment.files),
       m_scrollArea(new QScrollArea(this)),
       m_surface(new QWidget(this)),
-      m_Fra_Einstellungen(new Fra_Einstellungen(m_plan, m_surface)),
-      m_Fra_Special(new Fra_Special(m_surface)),
+      m_Fra_Einstellungen(new Fra_Einstellungen(document, m_surface)),
+      m_Fra_Special(new Fra_Special(document, environment.dialogs, m_surface)),
       m_Fra_Skin(new Fra_Skin(environment.programFolder / "img" / "skins", m_surface)),
-      m_Fra_Sleep(new Fra_Sleep(m_plan.LV_Schlafzeiten, environment, m_surface)),
-      m_Fra_Rest(new Fra_Rest(m_plan.LV_Bauliste, m_run, m_surface)),
+      m_Fra_Sleep(new Fra_Sleep(document, environment, m_surface)),
+      m_Fra_Rest(new Fra_Rest(document, m_surface)),
       m_TopLine(new QFrame(m_surface)),
       m_menu(new MenuBar(this)),
-      m_alarms(new Alarms({.LV_Bauzeiten = m_run.LV_Bauzeiten,
-                           .LV_Schlafzeiten = m_plan.LV_Schlafzeiten,
+      m_alarms(new Alarms({.LV_Bauzeiten = document.CurrentRun().LV_Bauzeiten,
+                           .LV_Schlafzeiten = document.CurrentPlan().LV_Schlafzeiten,
                            .Chk_BauWeckfunktion = *m_Fra_Rest->BuildAlarmSwitch(),
-                           .Chk_Schlafzeitenwecker = *m_Fra_Sleep->Chk_Schlafzeitenwecker,
+                           .Chk_Schlafzeitenwecker = *m_Fra_Sleep->AlarmSwitch(),
                            .Comb_Before = *m_Fra_Rest->SecondsBefore()},
                           environment, m_surface)) {
     setObjectName(QStringLiteral("frmMain"));
-    setWindowTitle(QStringLiteral("Tarvelin  |  Kelva Aufbau-Simulator"));
     Arrange();
     AddMenus();
     ConnectSignals();
     LoadPictures();
-    SetToday();
-    m_history.Begin(SnapshotOf(m_plan));
-    m_Fra_Rest->ShowResult(m_texts);
-    m_Fra_Rest->ShowNames(m_plan.ShowDesc);
-    m_Tmr_Autosave.setObjectName(QStringLiteral("Tmr_Autosave"));
-    connect(&m_Tmr_Autosave, &QTimer::timeout, this, [this] { m_autosave.WriteIfChanged(m_plan); });
+    ShowChange({.rows = DocumentChange::Rows::Changed,
+                .conditions = true,
+                .sleepTable = true,
+                .showDesc = true,
+                .results = DocumentChange::Results::Changed,
+                .title = true});
+    ShowToday();
 }
 
-// The lists show members, which are destroyed before child widgets.
-frmMain::~frmMain() {
-    delete m_surface;
+void frmMain::ShowChange(const DocumentChange& change) {
+    if (change.conditions || change.showDesc) {
+        m_Fra_Einstellungen->Refresh();
+    }
+    if (change.sleepTable) {
+        m_Fra_Sleep->Refresh();
+    }
+    m_Fra_Rest->ShowChange(change);
+    if (change.results == DocumentChange::Results::NewRun) {
+        m_Fra_Einstellungen->RefreshWeekday();
+    }
+    if (change.title) {
+        // In a window title "[*]" is a placeholder of the toolkit; doubled, it is shown.
+        setWindowTitle(
+            ToQString(m_document.Title()).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+    }
 }
 
 void frmMain::Arrange() {
@@ -138,22 +153,16 @@ void frmMain::LoadPictures() {
 }
 
 void frmMain::ConnectSignals() {
+    m_document.Observe([this](const DocumentChange& change) { ShowChange(change); });
     connect(m_Fra_Rest, &Fra_Rest::DragDrop, this, &frmMain::LV_Bauliste_DragDrop);
     connect(m_Fra_Rest, &Fra_Rest::Cmd_Undo_Click, this, &frmMain::Cmd_Undo_Click);
     connect(m_Fra_Rest, &Fra_Rest::Cmd_Clear_Click, this, &frmMain::Cmd_Clear_Click);
     connect(m_Fra_Rest, &Fra_Rest::Cmd_Simulate_Click, this, &frmMain::Cmd_Simulate_Click);
     connect(m_Fra_Rest, &Fra_Rest::ImgDonate_Click, this, &frmMain::mnu_DOnate_Click);
     connect(m_Fra_Rest, &Fra_Rest::Img_MouseMove, this, &frmMain::Img_MouseMove);
-    connect(m_Fra_Special->Cmd_AddProdaenderungsevent, &QPushButton::clicked, this,
-            &frmMain::Cmd_AddProdaenderungsevent_Click);
-    connect(m_Fra_Einstellungen, &Fra_Einstellungen::Chk_Speedfaktor_Click, this,
-            &frmMain::Chk_Speedfaktor_Click);
-    connect(m_Fra_Einstellungen, &Fra_Einstellungen::Edited, this,
-            [this](const QString& input) { FinishEdit(input.toStdString()); });
-    connect(m_Fra_Sleep, &Fra_Sleep::Edited, this, [this] { FinishEdit(); });
-    connect(m_Fra_Einstellungen, &Fra_Einstellungen::cmd_ShowDesc_Click, this,
-            [this] { m_Fra_Rest->ShowNames(m_plan.ShowDesc); });
-    connect(m_Fra_Skin->Cmd_ApplySkin, &QPushButton::clicked, this, &frmMain::Cmd_ApplySkin_Click);
+    connect(m_Fra_Skin, &Fra_Skin::Cmd_ApplySkin_Click, this, &frmMain::Cmd_ApplySkin_Click);
+    m_Tmr_Autosave.setObjectName(QStringLiteral("Tmr_Autosave"));
+    connect(&m_Tmr_Autosave, &QTimer::timeout, this, [this] { m_document.WriteAutosave(); });
 }
 
 QAction* frmMain::NewMenuEntry(QWidget* menu, const char* name, const char* text) {
@@ -161,11 +170,6 @@ QAction* frmMain::NewMenuEntry(QWidget* menu, const char* name, const char* text
     entry->setObjectName(QString::fromLatin1(name));
     menu->addAction(entry);
     return entry;
-}
-
-// Without a text, as the style would draw it.
-void frmMain::NewSeparator(QMenu* menu, const char* name) {
-    menu->addSeparator()->setObjectName(QString::fromLatin1(name));
 }
 
 void frmMain::AddMenus() {
@@ -196,7 +200,7 @@ void frmMain::AddFileMenu() {
         entry->setShortcut(Qt::CTRL | key);
         connect(entry, &QAction::triggered, this, handler);
     }
-    NewSeparator(file, "mnu_Datei_Strich01");
+    file->addSeparator()->setObjectName(QStringLiteral("mnu_Datei_Strich01"));
     connect(NewMenuEntry(file, "mnu_Datei_Beenden", "&Beenden"), &QAction::triggered, this,
             &QWidget::close);
 }
@@ -208,7 +212,7 @@ void frmMain::AddInfoMenu() {
             &frmMain::mnu_DOnate_Click);
     connect(NewMenuEntry(info, "mnu_UpdateCheck", "&Update-Check"), &QAction::triggered, this,
             &frmMain::mnu_UpdateCheck_Click);
-    NewSeparator(info, "strich_02");
+    info->addSeparator()->setObjectName(QStringLiteral("strich_02"));
     connect(NewMenuEntry(info, "mnuAbout_TV", "&About Tarvelin"), &QAction::triggered, this,
             &frmMain::mnuAbout_TV_Click);
 }
@@ -233,12 +237,9 @@ bool frmMain::eventFilter(QObject* target, QEvent* event) {
     return QMainWindow::eventFilter(target, event);
 }
 
-void frmMain::SetToday() {
-    const DateTime today = m_environment.now();
-    SetStartDate(m_plan.parameters, today);
-    m_Fra_Einstellungen->Refresh();
-    // Not from the inputs, as an invalid hour would show an error.
-    m_Fra_Einstellungen->Refresh(WeekdayOf(today));
+// Not from the inputs, as an invalid hour would show an error.
+void frmMain::ShowToday() {
+    m_Fra_Einstellungen->Refresh(WeekdayOf(m_environment.now()));
 }
 
 void frmMain::mnu_UpdateCheck_Click() {
@@ -258,41 +259,25 @@ void frmMain::mnu_DOnate_Click() {
     ShowSingle(m_frmDonate, m_environment);
 }
 
-void frmMain::mnuWorkbench_Click() {
-    if (!m_workbench) {
-        m_workbench = std::make_unique<Workbench>(
-            m_plan, m_history,
-            [this] { return m_Fra_Rest->SecondsBefore()->currentText().toStdString(); },
-            m_environment);
-        m_workbench->SetPictures(m_Fra_Rest->ItemPictures());
-        connect(m_workbench.get(), &Workbench::ListEdited, this, &frmMain::AdoptRows);
-        connect(m_workbench.get(), &Workbench::UndoRequested, this, &frmMain::Undo);
-        connect(m_workbench.get(), &Workbench::RedoRequested, this, &frmMain::Redo);
-    }
-    m_workbench->Open(m_configuration);
-}
-
 void frmMain::ShowSkin(Byte mode, const std::string& path) {
     ApplySkin(mode, path, *m_Fra_Rest, m_environment.programFolder);
-    if (m_workbench) {
-        m_workbench->SetPictures(m_Fra_Rest->ItemPictures());
-    }
+    emit SkinChanged();
 }
 
 void frmMain::Cmd_ApplySkin_Click() {
     const Byte source = m_Fra_Skin->ChosenSource();
-    QLineEdit& path = *m_Fra_Skin->txt_Pfad;
     if (source == kWebSkin) {
         const auto folder = m_environment.programFolder / "img" / "skins" / kWebSkinFolder;
         ShowSkin(kWebSkin, {});
-        const auto outcome = FetchWebSkin(path.text().toStdString(), folder, m_environment,
-                                          [this] { return !IsClosed(); });
+        const std::string address = m_Fra_Skin->WebPath();
+        const auto outcome =
+            FetchWebSkin(address, folder, m_environment, [this] { return !m_document.IsClosed(); });
         ShowSkin(outcome == WebSkinOutcome::Completed ? kLocalSkin : kStandardSkin, kWebSkinFolder);
-        if (path.text().endsWith(QLatin1Char('/'))) {
-            path.setText(path.text().chopped(1));
+        if (address.ends_with('/')) {
+            m_Fra_Skin->SetWebPath(address.substr(0, address.size() - 1));
         }
     } else {
-        ShowSkin(source, m_Fra_Skin->Comb_Skins->currentText().toStdString());
+        ShowSkin(source, m_Fra_Skin->SkinFolder());
     }
     m_Fra_Skin->hide();
 }
@@ -336,129 +321,27 @@ void frmMain::mnuSleep_Click() {
 }
 
 void frmMain::Img_MouseMove(const ItemTile& tile) {
-    tile.picture->SetGate(HoverInfoFor(tile.item, m_plan.LV_Bauliste.Orders(), m_run.conditions));
-}
-
-void frmMain::FinishEdit(std::string_view input) {
-    if (m_history.Record(SnapshotOf(m_plan), input)) {
-        RefreshWorkbench();
-    }
-}
-
-void frmMain::Undo() {
-    if (m_history.CanUndo()) {
-        SetPlan(m_history.Undo());
-    }
-}
-
-void frmMain::Redo() {
-    if (m_history.CanRedo()) {
-        SetPlan(m_history.Redo());
-    }
-}
-
-void frmMain::AdoptRows(const std::vector<std::string>& tags,
-                        const std::optional<SleepRow>& pause) {
-    PlanSnapshot snapshot = SnapshotOf(m_plan);
-    snapshot.tags = tags;
-    if (pause) {
-        snapshot.Schlafzeiten.insert(snapshot.Schlafzeiten.begin(), *pause);
-    }
-    static_cast<void>(m_history.Record(snapshot));
-    SetPlan(snapshot);
-}
-
-void frmMain::SetPlan(const PlanSnapshot& snapshot) {
-    m_plan.parameters = snapshot.parameters;
-    m_Fra_Einstellungen->Refresh();
-    if (m_plan.LV_Schlafzeiten != snapshot.Schlafzeiten) {
-        m_plan.LV_Schlafzeiten = snapshot.Schlafzeiten;
-        m_Fra_Sleep->Refresh();
-    }
-    // The factor texts depend on the temperature, and have to fit the run that follows.
-    m_run.conditions.Temperatur =
-        ParseTemperature(m_plan.parameters).value_or(m_run.conditions.Temperatur);
-    m_plan.LV_Bauliste.SetTags(snapshot.tags, m_run.conditions);
-    m_Fra_Rest->ShowList();
-    RunQuietly();
-    RefreshWorkbench();
-}
-
-// The workbench shows the messages instead.
-void frmMain::RunQuietly() {
-    Chk_Speedfaktor_Click();
-    const auto conditions = ParseRunConditions(m_plan);
-    if (const auto* const parsed = std::get_if<RunConditions>(&conditions)) {
-        m_run.ResetSimulation(*parsed);
-        m_texts.AfterReset();
-        std::vector<Message> messages;
-        MessageCollector collector(messages);
-        tarvelin::RunSimulation(m_plan.LV_Bauliste.Orders().All(), m_run, collector);
-        m_texts.AfterRun(m_run.state);
-    } else if (m_plan.LV_Bauliste.Orders().IsEmpty()) {
-        m_run.ResetSimulation(m_plan.parameters);
-        m_texts.AfterReset();
-        m_texts.AfterClear();
-    }
-    m_Fra_Rest->ShowResult(m_texts);
-    m_Fra_Rest->ShowSchedule();
-}
-
-void frmMain::RefreshWorkbench() {
-    if (m_workbench) {
-        m_workbench->RefreshPlan();
-    }
+    tile.picture->SetGate(HoverInfoFor(tile.item, m_document.CurrentPlan().LV_Bauliste.Orders(),
+                                       m_document.CurrentRun().conditions));
 }
 
 void frmMain::LV_Bauliste_DragDrop(const QString& Source) {
     const auto item = ItemFromPicture(Source.toStdString());
-    std::optional<Message> message;
-    if (item) {
-        message = m_plan.LV_Bauliste.AddItem(*item, m_run.conditions);
-    } else {
-        message = Message{.text = "KA", .title = "", .icon = MessageIcon::None};
-    }
+    const auto message =
+        item ? m_document.AddItem(*item)
+             : std::optional(Message{.text = "KA", .title = "", .icon = MessageIcon::None});
     if (message) {
         // Not within the drag, which still holds the mouse.
         QTimer::singleShot(0, this, [this, text = *message] { m_environment.dialogs.Show(text); });
-        return;
     }
-    ShowNewRow();
-    FinishEdit();
-}
-
-void frmMain::Cmd_AddProdaenderungsevent_Click() {
-    const auto message =
-        m_plan.LV_Bauliste.AddProduction(m_Fra_Special->Factors(), m_run.conditions);
-    if (message) {
-        m_environment.dialogs.Show(*message);
-        return;
-    }
-    ShowNewRow();
-    FinishEdit();
-}
-
-void frmMain::ShowNewRow() {
-    m_Fra_Rest->ShowList();
-    m_Fra_Rest->ScrollToLast();
 }
 
 void frmMain::Cmd_Undo_Click() {
-    m_plan.LV_Bauliste.RemoveLast();
-    m_Fra_Rest->ShowList();
-    FinishEdit();
+    m_document.RemoveLast();
 }
 
 void frmMain::Cmd_Clear_Click() {
-    ClearList();
-    FinishEdit();
-}
-
-void frmMain::ClearList() {
-    m_plan.LV_Bauliste.Clear();
-    m_texts.AfterClear();
-    m_Fra_Rest->ShowList();
-    m_Fra_Rest->ShowResult(m_texts);
+    m_document.Clear();
 }
 
 void frmMain::Cmd_Simulate_Click() {
@@ -466,72 +349,95 @@ void frmMain::Cmd_Simulate_Click() {
     m_Fra_Special->hide();
     m_Fra_Skin->hide();
     m_Fra_Sleep->hide();
-    RunSimulation(false);
+    m_document.RunSimulation(false);
 }
 
-void frmMain::Chk_Speedfaktor_Click() {
-    m_run.conditions.Speedfaktor = m_plan.parameters.Speedfaktor();
+void frmMain::mnu_DateiNeu_Click() {
+    m_document.New();
+    m_Fra_Einstellungen->show();
+    m_Fra_Skin->hide();
+    m_Fra_Sleep->hide();
+    ShowToday();
+    m_alarms->ReadConfiguration();
 }
 
-void frmMain::ShowPlan() {
-    m_Fra_Einstellungen->Refresh();
-    Chk_Speedfaktor_Click();
-    m_Fra_Sleep->Refresh();
-    m_Fra_Rest->ShowNames(m_plan.ShowDesc);
-    ShowNewRow();
+void frmMain::mnu_DateiLaden_Click() {
+    const auto file = m_environment.AskForFile(Dialogs::Purpose::Load);
+    if (!file.empty()) {
+        m_document.LoadBauliste(file, false);
+    }
 }
 
-void frmMain::RunSimulation(bool Silent) {
-    Chk_Speedfaktor_Click();
-    const auto conditions = CheckInputs(Silent);
-    if (!conditions) {
+void frmMain::mnu_Datei_Speichern_Click() {
+    const auto file = m_environment.AskForFile(Dialogs::Purpose::Save);
+    if (!file.empty()) {
+        m_document.SaveBauliste(file);
+    }
+}
+
+void frmMain::Form_Load() {
+    if (m_document.IsClosed()) {
         return;
     }
-    m_run.ResetSimulation(*conditions);
-    m_texts.AfterReset();
-    m_Fra_Rest->ShowResult(m_texts);
-    ShowRunSoFar();
-    m_Fra_Rest->ScrollScheduleToTop();
-    m_Fra_Einstellungen->RefreshWeekday();
-    WindowMessages messages([this] { ShowRunSoFar(); }, m_environment.dialogs);
-    tarvelin::RunSimulation(m_plan.LV_Bauliste.Orders().All(), m_run, messages);
-    m_texts.AfterRun(m_run.state);
-    m_Fra_Rest->ShowResult(m_texts);
-    m_Fra_Rest->ShowSchedule();
-}
-
-std::optional<RunConditions> frmMain::CheckInputs(bool Silent) {
-    const bool empty = m_plan.LV_Bauliste.Orders().IsEmpty();
-    if (!empty) {
-        FillStartDate();
+    m_Fra_Skin->FillSkinList();
+    m_alarms->ReadConfiguration();
+    ReadSkin();
+    show();
+    connect(windowHandle(), &QWindow::screenChanged, this, &frmMain::FollowScreen);
+    FollowScreen();
+    WaitUntilExposed();
+    if (m_document.Start(m_environment.startNotice, m_environment.planArgument)) {
+        m_Fra_Einstellungen->hide();
     }
-    const auto conditions = ParseRunConditions(m_plan);
-    const auto* const refusal = std::get_if<Message>(&conditions);
-    if (refusal == nullptr) {
-        return std::get<RunConditions>(conditions);
-    }
-    if (!Silent || !empty) {
-        ShowRunSoFar();
-        m_environment.dialogs.Show(*refusal);
-    }
-    return std::nullopt;
-}
-
-// Not an edit: nothing to undo, and a saved plan still counts as saved.
-void frmMain::FillStartDate() {
-    const bool isInFile = m_saved == SnapshotOf(m_plan);
-    const StartParameters before = m_plan.parameters;
-    PadStartDate(m_plan.parameters);
-    m_history.RewriteDay(before, m_plan.parameters);
-    if (isInFile) {
-        m_saved = SnapshotOf(m_plan);
+    if (m_document.IsWorking()) {
+        constexpr std::chrono::seconds kInterval(4);
+        m_Tmr_Autosave.start(kInterval);
     }
 }
 
-void frmMain::ShowRunSoFar() {
-    // Day and month may have been padded.
-    m_Fra_Einstellungen->Refresh();
-    m_Fra_Rest->ShowSchedule();
+// A box shown before the window has its place would appear beside it.
+void frmMain::WaitUntilExposed() {
+    constexpr int kLongestWait = 500;
+    constexpr int kSlice = 10;
+    QDeadlineTimer deadline(kLongestWait);
+    while (!windowHandle()->isExposed() && !deadline.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kSlice);
+    }
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+// A web skin is loaded from disk; nothing is fetched at the start.
+void frmMain::ReadSkin() {
+    const Byte mode = m_configuration.SkinMode();
+    m_Fra_Skin->SetWebPath(m_configuration.Read(Configuration::kWebPath));
+    m_Fra_Skin->ChooseSource(mode);
+    ShowSkin(mode == kWebSkin ? kLocalSkin : mode, m_configuration.Read(Configuration::kPath));
+}
+
+Configuration::Values frmMain::Settings() const {
+    Configuration::Values settings = m_Fra_Skin->Settings();
+    const auto add = [&](const ConfigKey& key, const QCheckBox& box) {
+        settings.emplace_back(key, box.isChecked() ? "1" : "0");
+    };
+    add(Configuration::kBaulistenwecker, *m_Fra_Rest->BuildAlarmSwitch());
+    add(Configuration::kSchlafzeitenwecker, *m_Fra_Sleep->AlarmSwitch());
+    return settings;
+}
+
+std::string frmMain::SecondsBefore() const {
+    return m_Fra_Rest->SecondsBefore()->currentText().toStdString();
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    if (!m_document.IsClosed()) {
+        m_Tmr_Autosave.stop();
+        m_alarms->Silence();
+        emit Closing();
+        m_environment.dialogs.CloseAll();
+        m_environment.fetcher.Abort();
+    }
+    QMainWindow::closeEvent(event);
+    emit Closed();
 }
 
 }  // namespace tarvelin

@@ -1,4 +1,4 @@
-// The main window: owns the plan and its last run, and passes the user's actions to the logic.
+// The classic window: shows the document, and passes the user's actions to it.
 #pragma once
 
 #include <QAction>
@@ -6,15 +6,9 @@
 #include <QMainWindow>
 #include <QScrollArea>
 #include <QTimer>
-#include <filesystem>
 #include <memory>
 
-#include "persistence/Autosave.h"
-#include "persistence/Configuration.h"
-#include "plan/EditHistory.h"
-#include "plan/Plan.h"
-#include "simulation/ResultTexts.h"
-#include "simulation/RunSimulation.h"
+#include "document/Document.h"
 #include "ui/mainwindow/Alarms.h"
 #include "ui/mainwindow/Fra_Einstellungen.h"
 #include "ui/mainwindow/Fra_Rest.h"
@@ -25,7 +19,6 @@
 #include "ui/mainwindow/frmAbout.h"
 #include "ui/mainwindow/frmDonate.h"
 #include "ui/services/Environment.h"
-#include "ui/workbench/Workbench.h"
 
 namespace tarvelin {
 
@@ -33,31 +26,28 @@ class frmMain : public QMainWindow {
     Q_OBJECT
 
   public:
-    /// `environment` must outlive the window, as must what it refers to.
-    explicit frmMain(const Environment& environment);
-    frmMain(const frmMain&) = delete;
-    frmMain& operator=(const frmMain&) = delete;
-    ~frmMain() override;
-
-    /// The plan and the state of the last run or reset.
-    [[nodiscard]] const Plan& CurrentPlan() const { return m_plan; }
-    [[nodiscard]] const LastRun& CurrentRun() const { return m_run; }
+    /// Both must outlive the window, as must what they refer to.
+    frmMain(Document& document, const Environment& environment);
 
     /// The window's size in pixels, limited to the available size of the screen.
     [[nodiscard]] static QSize SizeOn(const QSize& screen);
 
-    /// Reads the configuration, shows the window, and opens the plan given as argument, the starter
-    /// plan or the last plan.
+    /// Reads the configuration, shows the window and starts the document's session.
     void Form_Load();
-    /// Loads a plan and runs it. `Silent` omits the message about an empty list. False, with a
-    /// message, if the file holds no plan.
-    bool LoadBauliste(const std::filesystem::path& File, bool Silent);
-    /// Runs the plan and shows the results. `Silent` omits the message about an empty list.
-    void RunSimulation(bool Silent);
-    /// Saves configuration and plan as at exit.
-    void SaveNow();
+
+    /// Skin and alarms, as the configuration keeps them.
+    [[nodiscard]] Configuration::Values Settings() const;
+    [[nodiscard]] PerItem<QPixmap> ItemPictures() const { return m_Fra_Rest->ItemPictures(); }
+    /// How many seconds before a start the alarm sounds, as typed.
+    [[nodiscard]] std::string SecondsBefore() const;
 
   signals:
+    /// The user wants the workbench.
+    void mnuWorkbench_Click();
+    /// Another skin is shown.
+    void SkinChanged();
+    /// The window is about to close: the session is to be kept and ended.
+    void Closing();
     /// The window has closed; nothing more is written.
     void Closed();
 
@@ -74,28 +64,15 @@ class frmMain : public QMainWindow {
     void LoadPictures();
     void ConnectSignals();
     void AddMenus();
-    QAction* NewMenuEntry(QWidget* menu, const char* name, const char* text);
-    static void NewSeparator(QMenu* menu, const char* name);
-
     void AddFileMenu();
     void AddInfoMenu();
+    QAction* NewMenuEntry(QWidget* menu, const char* name, const char* text);
 
+    void ShowChange(const DocumentChange& change);
     void WaitUntilExposed();
-    void SetToday();
     void ReadSkin();
-    /// False if there is no argument or it can't be loaded.
-    bool OpenPlanArgument();
-    void OpenFirstPlan();
-    /// Whether the last plan was recovered.
-    bool RecoverPlan(const std::optional<IniFile>& last);
-    void LoadLastPlan(const std::optional<IniFile>& last);
-    bool LoadBauliste(const std::optional<IniFile>& iniFile, const std::filesystem::path& File,
-                      bool Silent);
-    /// The plan is the user's, and saved at exit, from `Working` on.
-    enum class Phase { Before, Starting, Working, Closed };
-    void Form_Unload(Phase previous);
-    void Persist(Phase phase);
-    [[nodiscard]] bool IsClosed() const { return m_phase == Phase::Closed; }
+    void ShowSkin(Byte mode, const std::string& path);
+    void ShowToday();
 
     void mnu_DateiNeu_Click();
     void mnu_DateiLaden_Click();
@@ -103,7 +80,6 @@ class frmMain : public QMainWindow {
     void mnu_UpdateCheck_Click();
     void mnuAbout_TV_Click();
     void mnu_DOnate_Click();
-    void mnuWorkbench_Click();
     void Cmd_ApplySkin_Click();
 
     void BringToFront(QWidget& panel);
@@ -115,44 +91,14 @@ class frmMain : public QMainWindow {
 
     void Img_MouseMove(const ItemTile& tile);
     void LV_Bauliste_DragDrop(const QString& Source);
-    void Cmd_AddProdaenderungsevent_Click();
     void Cmd_Undo_Click();
     void Cmd_Clear_Click();
     void Cmd_Simulate_Click();
-    void Chk_Speedfaktor_Click();
-    void ClearList();
-    /// Records an edit made in this window for undo. `input` names the control that
-    /// was typed into, if any.
-    void FinishEdit(std::string_view input = {});
-    void Undo();
-    void Redo();
-    /// Makes these the rows of the list and runs the plan, as one edit. `pause` becomes the first
-    /// sleep row.
-    void AdoptRows(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause);
-    /// Replaces parameters, rows and sleep rows, and runs the plan without message boxes.
-    void SetPlan(const PlanSnapshot& snapshot);
-    void RunQuietly();
-    void KeepReplaced() const;
-    void RememberSaved(const std::filesystem::path& file);
-    void FillStartDate();
-    void RefreshWorkbench();
-    void ShowSkin(Byte mode, const std::string& path);
-    /// The conditions of a run; nothing, with a message, if the inputs don't allow one.
-    std::optional<RunConditions> CheckInputs(bool Silent);
-    void ShowNewRow();
-    void ShowPlan();
-    void ShowRunSoFar();
 
+    Document& m_document;
     const Environment& m_environment;
     Configuration m_configuration;
-    Autosave m_autosave;
     QTimer m_Tmr_Autosave{this};
-    Plan m_plan;
-    EditHistory m_history;
-    /// The plan as last loaded from or saved to a file of the user's.
-    std::optional<PlanSnapshot> m_saved;
-    LastRun m_run;
-    ResultTexts m_texts;
 
     /// Scrolls the surface on a screen that is too small.
     QScrollArea* m_scrollArea;
@@ -170,8 +116,6 @@ class frmMain : public QMainWindow {
     /// Windows of their own, created at first use.
     std::unique_ptr<frmAbout> m_frmAbout;
     std::unique_ptr<frmDonate> m_frmDonate;
-    std::unique_ptr<Workbench> m_workbench;
-    Phase m_phase = Phase::Before;
 };
 
 }  // namespace tarvelin

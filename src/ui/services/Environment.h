@@ -8,30 +8,16 @@
 #include <optional>
 #include <string>
 
+#include "document/Prompts.h"
 #include "persistence/FileSystem.h"
 #include "persistence/ProgramFolder.h"
 #include "util/DateTime.h"
-#include "util/Message.h"
 
 namespace tarvelin {
 
-/// Answered by "Ja" or "Nein".
-struct Question {
-    std::string text;
-    /// If empty, the program's name.
-    std::string title;
-    MessageIcon icon = MessageIcon::None;
-};
-
-/// Modal boxes.
-class Dialogs : public MessageSink {
+/// Modal boxes, and dialogs that ask for files.
+class Dialogs : public Prompts {
   public:
-    /// As `Show`, with a check box to turn off further messages. Returns whether the user still
-    /// wants them.
-    [[nodiscard]] virtual bool ShowSuppressible(const Message& message) = 0;
-    /// Whether the answer is "Ja". Closing the box means "Nein".
-    [[nodiscard]] virtual bool Ask(const Question& question) = 0;
-
     enum class Purpose { Load, Save, Picture, Calendar };
     /// Lets the user choose a file, starting in `folder`; empty if he cancels. For plans no suffix
     /// is added and an existing file isn't asked about. Pictures and calendars without a suffix get

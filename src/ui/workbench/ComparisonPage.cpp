@@ -11,17 +11,20 @@
 
 namespace tarvelin {
 
-ComparisonPage::ComparisonPage(const Environment& environment, QWidget* parent)
+ComparisonPage::ComparisonPage(const Document& document, const Environment& environment,
+                               QWidget* parent)
     : QWidget(parent),
+      m_document(document),
       m_environment(environment),
       m_rememberButton(new QPushButton(QStringLiteral("&Merken"), this)),
       m_fileButton(new QPushButton(QStringLiteral("Mit &Datei..."), this)),
       m_clearButton(new QPushButton(QStringLiteral("&Ohne"), this)),
       m_nameLabel(NewLabel(QStringLiteral("LBL_Vergleich"), {}, this)),
-      m_summaryList(
-          NewTable("LV_Kennzahlen", "Kennzahlen im Vergleich", "", m_summaries, &m_summaryModel)),
-      m_orderList(NewTable("LV_Unterschiede", "Aufträge zu anderer Zeit", "Auftrag", m_orders,
-                           &m_orderModel)) {
+      m_summaryTable(new ComparisonTable(QStringLiteral("LV_Kennzahlen"),
+                                         QStringLiteral("Kennzahlen im Vergleich"), {}, this)),
+      m_orderTable(new ComparisonTable(QStringLiteral("LV_Unterschiede"),
+                                       QStringLiteral("Aufträge zu anderer Zeit"),
+                                       QStringLiteral("Auftrag"), this)) {
     setObjectName(QStringLiteral("Vergleichsfeld"));
     m_rememberButton->setObjectName(QStringLiteral("Cmd_Merken"));
     m_fileButton->setObjectName(QStringLiteral("Cmd_MitDatei"));
@@ -32,31 +35,7 @@ ComparisonPage::ComparisonPage(const Environment& environment, QWidget* parent)
     connect(m_fileButton, &QPushButton::clicked, this, &ComparisonPage::LoadOther);
     connect(m_clearButton, &QPushButton::clicked, this, &ComparisonPage::ClearOther);
     Arrange();
-    Recompare();
-}
-
-// The tables read members, which are destroyed before child widgets.
-ComparisonPage::~ComparisonPage() {
-    delete m_summaryList;
-    delete m_orderList;
-}
-
-ListView* ComparisonPage::NewTable(const char* name, const char* accessibleName, const char* first,
-                                   const std::vector<ComparisonText>& rows, TableModel** model) {
-    *model =
-        new TableModel({QString::fromUtf8(first), QStringLiteral("dort"), QStringLiteral("hier"),
-                        QStringLiteral("Unterschied")},
-                       {.rows = [&rows] { return rows.size(); },
-                        .text =
-                            [&rows](std::size_t row, int column) {
-                                return ToQString(rows[row].at(static_cast<std::size_t>(column)));
-                            }},
-                       this);
-    auto* const table = new ListView(QString::fromLatin1(name), QString::fromUtf8(accessibleName),
-                                     {12, 9, 9, 8}, this);
-    table->setModel(*model);
-    table->setTextElideMode(Qt::ElideRight);
-    return table;
+    ShowOwnRun();
 }
 
 void ComparisonPage::Arrange() {
@@ -67,8 +46,8 @@ void ComparisonPage::Arrange() {
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(buttons);
     layout->addWidget(m_nameLabel);
-    layout->addWidget(m_summaryList, 2);
-    layout->addWidget(m_orderList, 3);
+    layout->addWidget(m_summaryTable, 2);
+    layout->addWidget(m_orderTable, 3);
 }
 
 QSize ComparisonPage::minimumSizeHint() const {
@@ -78,13 +57,8 @@ QSize ComparisonPage::minimumSizeHint() const {
         QSize(kCharacters * fontMetrics().averageCharWidth(), 0));
 }
 
-void ComparisonPage::SetOwnRun(const std::optional<RunTrace>& own) {
-    m_own = own;
-    Recompare();
-}
-
 void ComparisonPage::Remember() {
-    SetOther(m_own, QStringLiteral("Verglichen mit dem gemerkten Plan"));
+    SetOther(m_document.Trace(), QStringLiteral("Verglichen mit dem gemerkten Plan"));
 }
 
 void ComparisonPage::LoadOther() {
@@ -109,21 +83,22 @@ void ComparisonPage::ClearOther() {
 void ComparisonPage::SetOther(std::optional<RunTrace> other, const QString& name) {
     m_other = std::move(other);
     m_nameLabel->setText(name);
-    Recompare();
+    ShowOwnRun();
     emit OtherRunChanged();
 }
 
-void ComparisonPage::Recompare() {
-    m_summaries.clear();
-    m_orders.clear();
-    if (m_own && m_other) {
-        const Comparison comparison = tarvelin::Compare(*m_other, *m_own);
-        m_summaries = SummaryTexts(comparison);
-        m_orders = OrderDifferences(comparison);
+void ComparisonPage::ShowOwnRun() {
+    const auto& own = m_document.Trace();
+    std::vector<ComparisonText> summaries;
+    std::vector<ComparisonText> orders;
+    if (own && m_other) {
+        const Comparison comparison = tarvelin::Compare(*m_other, *own);
+        summaries = SummaryTexts(comparison);
+        orders = OrderDifferences(comparison);
     }
-    m_summaryModel->Refresh();
-    m_orderModel->Refresh();
-    m_rememberButton->setEnabled(m_own.has_value());
+    m_summaryTable->ShowRows(std::move(summaries));
+    m_orderTable->ShowRows(std::move(orders));
+    m_rememberButton->setEnabled(own.has_value());
     m_clearButton->setEnabled(m_other.has_value());
 }
 

@@ -6,13 +6,10 @@
 #include <QWidget>
 #include <optional>
 #include <string>
-#include <vector>
 
-#include "simulation/ComparisonTexts.h"
-#include "simulation/RunTrace.h"
+#include "document/Document.h"
 #include "ui/services/Environment.h"
-#include "ui/widgets/ListView.h"
-#include "ui/widgets/TableModel.h"
+#include "ui/workbench/ComparisonTable.h"
 
 namespace tarvelin {
 
@@ -20,14 +17,11 @@ class ComparisonPage : public QWidget {
     Q_OBJECT
 
   public:
-    /// `environment` must outlive the page.
-    ComparisonPage(const Environment& environment, QWidget* parent);
-    ComparisonPage(const ComparisonPage&) = delete;
-    ComparisonPage& operator=(const ComparisonPage&) = delete;
-    ~ComparisonPage() override;
+    /// Both must outlive the page.
+    ComparisonPage(const Document& document, const Environment& environment, QWidget* parent);
 
-    /// The plan's current run; nothing if it can't be run.
-    void SetOwnRun(const std::optional<RunTrace>& own);
+    /// Call it when the document has played another run.
+    void ShowOwnRun();
     /// What the plan is compared with, if anything.
     [[nodiscard]] const std::optional<RunTrace>& OtherRun() const { return m_other; }
 
@@ -39,27 +33,20 @@ class ComparisonPage : public QWidget {
 
   private:
     void Arrange();
-    ListView* NewTable(const char* name, const char* accessibleName, const char* first,
-                       const std::vector<ComparisonText>& rows, TableModel** model);
     void Remember();
     void LoadOther();
     void ClearOther();
     void SetOther(std::optional<RunTrace> other, const QString& name);
-    void Recompare();
 
+    const Document& m_document;
     const Environment& m_environment;
-    std::optional<RunTrace> m_own;
     std::optional<RunTrace> m_other;
-    std::vector<ComparisonText> m_summaries;
-    std::vector<ComparisonText> m_orders;
     QPushButton* m_rememberButton;
     QPushButton* m_fileButton;
     QPushButton* m_clearButton;
     QLabel* m_nameLabel;
-    TableModel* m_summaryModel = nullptr;
-    TableModel* m_orderModel = nullptr;
-    ListView* m_summaryList;
-    ListView* m_orderList;
+    ComparisonTable* m_summaryTable;
+    ComparisonTable* m_orderTable;
 };
 
 }  // namespace tarvelin

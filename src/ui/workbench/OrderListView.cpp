@@ -9,13 +9,41 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "simulation/RunTexts.h"
+#include "ui/widgets/Controls.h"
 #include "ui/widgets/ItemPicture.h"
+#include "ui/workbench/StatusTexts.h"
 
 namespace tarvelin {
 
 namespace {
 
 constexpr QLatin1String kRowsMimeType("application/x-tarvelin-zeilen");
+
+enum Column { kNumber, kOrder, kStart, kFinish, kDelay, kFactor };
+
+std::string CellText(const Document& document, std::size_t row, int column) {
+    const BuildListRow& texts = document.CurrentPlan().LV_Bauliste.Rows()[row];
+    const auto& trace = document.Trace();
+    const StartEvent* const start = trace ? trace->StartOf(row) : nullptr;
+    const auto moment = [&](SimTime StartEvent::*time) {
+        return start != nullptr ? ShortDateTimeText(trace->conditions.WallClock(start->*time)) : "";
+    };
+    switch (column) {
+        case kNumber:
+            return texts.text;
+        case kOrder:
+            return texts.SubItems1;
+        case kStart:
+            return moment(&StartEvent::start);
+        case kFinish:
+            return moment(&StartEvent::finish);
+        case kDelay:
+            return trace ? DelayText(*trace, row) : "";
+        default:
+            return texts.SubItems2;
+    }
+}
 
 /// Fits the usual texts of the columns.
 std::vector<int> ColumnWidths() {
@@ -41,12 +69,13 @@ class DraggableRows : public TableModel {
 
 }  // namespace
 
-OrderListView::OrderListView(const TableModel::Provider& provider, QWidget* parent)
+OrderListView::OrderListView(const Document& document, QWidget* parent)
     : ListView(QStringLiteral("LV_Werkbank"), QStringLiteral("Aufträge"), ColumnWidths(), parent),
+      m_document(document),
       m_model(new DraggableRows(
           {QStringLiteral("Nr."), QStringLiteral("Auftrag"), QStringLiteral("Start"),
            QStringLiteral("Fertig"), QStringLiteral("Grund"), QStringLiteral("Prod %")},
-          provider, this)) {
+          Provider(), this)) {
     setModel(m_model);
     setSelectionMode(ExtendedSelection);
     setTextElideMode(Qt::ElideRight);
@@ -54,6 +83,29 @@ OrderListView::OrderListView(const TableModel::Provider& provider, QWidget* pare
     setAcceptDrops(true);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &OrderListView::ChoiceChanged);
+}
+
+TableModel::Provider OrderListView::Provider() const {
+    const Document& document = m_document;
+    return {.rows = [&document] { return document.CurrentPlan().LV_Bauliste.Rows().size(); },
+            .text = [&document](std::size_t row,
+                                int column) { return ToQString(CellText(document, row, column)); },
+            .color =
+                [this](std::size_t row, int column) {
+                    const auto& rows = m_document.CurrentPlan().LV_Bauliste.Rows();
+                    const bool red =
+                        column == kFactor && rows[row].SubItems2Color == TextColor::Red;
+                    return red ? m_deficitColor : palette().color(QPalette::Text);
+                },
+            .description =
+                [&document](std::size_t row) {
+                    // Narrow columns elide their texts.
+                    std::string text = CellText(document, row, kOrder);
+                    for (const int column : {kStart, kFinish, kDelay}) {
+                        text += "\n" + CellText(document, row, column);
+                    }
+                    return ToQString(text).trimmed();
+                }};
 }
 
 void OrderListView::Refresh(const std::vector<std::size_t>& chosen) {

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "document/Document.h"
 #include "ui/widgets/ListView.h"
 #include "ui/widgets/TableModel.h"
 
@@ -13,7 +14,11 @@ class OrderListView : public ListView {
     Q_OBJECT
 
   public:
-    explicit OrderListView(const TableModel::Provider& provider, QWidget* parent);
+    /// Shows the rows of `document`, which must outlive the list, and its trace.
+    OrderListView(const Document& document, QWidget* parent);
+
+    /// For factors of mines that lack energy.
+    void SetDeficitColor(const QColor& color) { m_deficitColor = color; }
 
     /// Call it when the rows have changed. Chooses these rows and scrolls to the first.
     void Refresh(const std::vector<std::size_t>& chosen);
@@ -40,6 +45,10 @@ class OrderListView : public ListView {
     void OfferDrop(QDropEvent& event);
     [[nodiscard]] int DropRowAt(const QPoint& position) const;
 
+    [[nodiscard]] TableModel::Provider Provider() const;
+
+    const Document& m_document;
+    QColor m_deficitColor;
     TableModel* m_model;
     /// The row in front of which a drop would go; -1 without a drag.
     int m_target = -1;

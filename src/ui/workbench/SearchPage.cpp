@@ -62,10 +62,10 @@ std::string SolutionText(const Solution& solution) {
 
 }  // namespace
 
-SearchPage::SearchPage(const Plan& plan, const Environment& environment,
+SearchPage::SearchPage(Document& document, const Environment& environment,
                        std::function<std::vector<std::size_t>()> chosen, QWidget* parent)
     : QWidget(parent),
-      m_plan(plan),
+      m_document(document),
       m_environment(environment),
       m_chosen(std::move(chosen)),
       m_task(NewInput<QComboBox>("Comb_Suchaufgabe", "Aufgabe der Suche", this)),
@@ -189,13 +189,13 @@ SearchBudget SearchPage::MakeBudget() const {
 }
 
 void SearchPage::StartSearch() {
-    const auto task = MakePlanTask(m_plan, MakeRequest());
+    const auto task = MakePlanTask(m_document.CurrentPlan(), MakeRequest());
     if (const auto* const refusal = std::get_if<SearchRefusal>(&task)) {
         emit Notice(refusal->text);
         return;
     }
     emit Notice("");
-    m_searched = {.plan = m_plan, .task = std::get<PlanTask>(task), .best = {}};
+    m_searched = {.plan = m_document.CurrentPlan(), .task = std::get<PlanTask>(task), .best = {}};
     m_plot->Clear();
     m_progressBar->setValue(0);
     m_reportLabel->clear();
@@ -264,22 +264,11 @@ std::string SearchPage::ReportText() const {
 }
 
 void SearchPage::AcceptResult() {
-    if (SnapshotOf(m_plan) != SnapshotOf(m_searched->plan) &&
-        !m_environment.dialogs.Ask({.text =
-                                        "Der Plan wurde seit dem Beginn der Suche geändert. Soll "
-                                        "der gefundene trotzdem an seine Stelle treten?",
-                                    .title = "Übernehmen...",
-                                    .icon = MessageIcon::Question})) {
-        return;
+    if (m_document.Adopt(m_searched->best->orders, m_searched->task.pause,
+                         SnapshotOf(m_searched->plan))) {
+        m_searched.reset();
+        EnableControls();
     }
-    std::vector<std::string> tags;
-    for (const Order& order : m_searched->best->orders) {
-        tags.push_back(order.Tag());
-    }
-    const auto pause = m_searched->task.pause;
-    m_searched.reset();
-    EnableControls();
-    emit ResultAccepted(tags, pause);
 }
 
 }  // namespace tarvelin

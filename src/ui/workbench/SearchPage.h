@@ -17,7 +17,7 @@
 #include <string>
 #include <vector>
 
-#include "plan/Plan.h"
+#include "document/Document.h"
 #include "search/BackgroundSearch.h"
 #include "ui/services/Environment.h"
 #include "ui/workbench/ConvergencePlot.h"
@@ -29,17 +29,15 @@ class SearchPage : public QWidget {
     Q_OBJECT
 
   public:
-    /// `plan` and `environment` must outlive the page. `chosen` gives the chosen rows, counted from
-    /// 0.
-    SearchPage(const Plan& plan, const Environment& environment,
+    /// `document` and `environment` must outlive the page. `chosen` gives the chosen rows, counted
+    /// from 0.
+    SearchPage(Document& document, const Environment& environment,
                std::function<std::vector<std::size_t>()> chosen, QWidget* parent);
 
     /// Ends a running search; its best solution so far stays.
     void StopSearch();
 
   signals:
-    /// The user accepts the solution: its rows, and a sleep row to put in front of the others.
-    void ResultAccepted(const std::vector<std::string>& tags, const std::optional<SleepRow>& pause);
     void Notice(const std::string& text);
     /// From the search's thread; `id` is that of the search.
     void ProgressReceived(int id, const SearchProgress& progress);
@@ -64,7 +62,7 @@ class SearchPage : public QWidget {
         std::optional<Solution> best;
     };
 
-    const Plan& m_plan;
+    Document& m_document;
     const Environment& m_environment;
     std::function<std::vector<std::size_t>()> m_chosen;
 
