@@ -8,9 +8,9 @@
 #include <QSlider>
 #include <QTest>
 #include <QTreeView>
-#include <limits>
 #include <map>
 
+#include "ScriptedPrompts.h"
 #include "TestSupport.h"
 #include "ui/ProgramWindows.h"
 #include "ui/mainwindow/BuildListView.h"
@@ -19,53 +19,16 @@
 
 namespace tarvelin {
 
-/// Records messages and questions, and answers at once.
-class FakeDialogs final : public Dialogs {
+class FakeDialogs final : public Scripted<Dialogs> {
   public:
-    void Show(const Message& message) override {
-        if (closedAll) {
-            return;
-        }
-        texts.push_back(message.text);
-        headers.emplace_back(message.title, message.icon);
-        if (onMessage) {
-            onMessage();
-        }
-    }
-    bool ShowSuppressible(const Message& message) override {
-        Show(message);
-        return ++suppressible < suppress;
-    }
-    void Beep() override {}
-    bool Ask(const Question& question) override {
-        if (closedAll) {
-            return false;
-        }
-        texts.push_back(question.text);
-        headers.emplace_back(question.title, question.icon);
-        if (onQuestion) {
-            onQuestion();
-        }
-        return answer && !closedAll;
-    }
     std::filesystem::path AskForFile(Purpose /*purpose*/,
                                      const std::filesystem::path& folder) override {
         return file.empty() || closedAll ? std::filesystem::path() : folder / file;
     }
     void CloseAll() override { closedAll = true; }
 
-    std::vector<std::string> texts;
-    /// Title and icon of each message and question.
-    std::vector<std::pair<std::string, MessageIcon>> headers;
-    std::function<void()> onMessage;
-    std::function<void()> onQuestion;
-    bool answer = false;
-    /// From which suppressible message on, counted from 1, the player suppresses the rest.
-    int suppress = std::numeric_limits<int>::max();
-    int suppressible = 0;
     /// The answer of file dialogs, relative to their folder; empty to cancel.
     std::filesystem::path file;
-    bool closedAll = false;
 };
 
 /// Serves the files of a table, and records the addresses asked for.

@@ -415,16 +415,6 @@ TEST_F(MainWindow, WeekdayFollowsTheDateAndNotTheTime) {
     EXPECT_EQ(TextOf("LBL_Weekday"), "Do.");
 }
 
-// The day is padded before the message about the date is shown.
-TEST_F(MainWindow, DateMessageShowsThePaddedDay) {
-    Load("GM");
-    Type("txt_UniStartZeitMinuten", "x");
-    Type("txt_UniStartZeitTag", "5");
-    m_dialogs.onMessage = [this] { EXPECT_EQ(TextOf("txt_UniStartZeitTag"), "05"); };
-    m_document.RunSimulation(false);
-    EXPECT_EQ(m_dialogs.texts.size(), 1U);
-}
-
 TEST_F(MainWindow, KlickPufferSpeedfaktorAndDescriptionsTakeEffect) {
     auto& buffer = Find<QSlider>("HSC_KlickPuffer");
     QTest::keyClick(&buffer, Qt::Key_PageUp);
@@ -566,26 +556,17 @@ TEST_F(MainWindow, ClearAndInputErrorsLeaveTheRest) {
 TEST_F(MainWindow, MessageInARunShowsTheRunSoFar) {
     Load("GM");
     m_document.RunSimulation(true);
+    // The lab costs deuterium, and there is no deuterium mine.
+    Load("GF GM");
+    Type("txt_UniStartZeitTag", "5");
     int messages = 0;
     m_dialogs.onMessage = [&] {
         EXPECT_EQ(RowCount("LV_Bauzeiten"), ++messages);
         EXPECT_EQ(TextOf("LBL_Punkte"), "0");
-        EXPECT_EQ(TextOf("LBL_Timegone2"), "Dauer: dd:hh:mm:ss");
+        EXPECT_EQ(TextOf("txt_UniStartZeitTag"), "05");
     };
-    // The lab costs deuterium, and there is no deuterium mine.
-    Load("GF GM");
     m_document.RunSimulation(true);
     EXPECT_EQ(messages, 2);
-    // The second message and later ones let the player suppress the rest of the run's.
-    m_dialogs.onMessage = nullptr;
-    Load("GF GM GM GM GM");
-    for (const int suppress : {1, 2}) {
-        m_dialogs.texts.clear();
-        m_dialogs.suppressible = 0;
-        m_dialogs.suppress = suppress;
-        m_document.RunSimulation(true);
-        EXPECT_EQ(m_dialogs.texts.size(), 1U + static_cast<std::size_t>(suppress));
-    }
 }
 
 TEST_F(MainWindow, NewRunBeginsWithAnEmptyList) {
