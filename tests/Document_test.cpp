@@ -12,8 +12,6 @@ namespace tarvelin {
 namespace {
 
 namespace fs = std::filesystem;
-using Rows = DocumentChange::Rows;
-using Results = DocumentChange::Results;
 
 /// A document on Saturday, 18 November 2006, in a folder of its own.
 class DocumentTest : public testing::Test {
@@ -43,9 +41,10 @@ class DocumentTest : public testing::Test {
                                                          : document.AddProduction(order.factors));
         }
     }
-    static std::string Codes(const Document& document) {
+    static std::string Codes(const Document& document) { return Codes(document.CurrentPlan()); }
+    static std::string Codes(const Plan& plan) {
         std::string text;
-        for (const BuildListRow& row : document.CurrentPlan().LV_Bauliste.Rows()) {
+        for (const BuildListRow& row : plan.LV_Bauliste.Rows()) {
             text += (text.empty() ? "" : " ") + row.Tag;
         }
         return text;
@@ -54,16 +53,8 @@ class DocumentTest : public testing::Test {
     std::string Stored(const char* name) {
         const auto profile = IniFile::Load(m_saves / name);
         Plan plan;
-        std::vector<Message> messages;
-        MessageCollector collector(messages);
-        if (!profile || !ReadPlan(*profile, plan, {}, collector)) {
-            return "-";
-        }
-        std::string text;
-        for (const BuildListRow& row : plan.LV_Bauliste.Rows()) {
-            text += (text.empty() ? "" : " ") + row.Tag;
-        }
-        return text;
+        MessageRecorder messages;
+        return profile && ReadPlan(*profile, plan, {}, messages) ? Codes(plan) : "-";
     }
     void Store(const char* name, const Plan& plan) {
         ASSERT_TRUE(SaveBauliste(m_saves / name, plan));
@@ -240,80 +231,52 @@ TEST_F(DocumentTest, KeepsThePlanThroughAnyOperations) {
     EXPECT_GT(stored.size(), 1U);
 }
 
+/// "rows:3 plan": the parts in the order of their declaration.
+std::string TextOf(const DocumentChange& change) {
+    std::string text = "rows:" + std::to_string(static_cast<int>(change.rows)) +
+                       " results:" + std::to_string(static_cast<int>(change.results));
+    for (const auto& [part, name] :
+         {std::pair(change.conditions, " conditions"), std::pair(change.sleepTable, " sleep"),
+          std::pair(change.showDesc, " names"), std::pair(change.plan, " plan"),
+          std::pair(change.title, " title"), std::pair(change.file, " file")}) {
+        text += part ? name : "";
+    }
+    return text;
+}
+
 TEST_F(DocumentTest, TellsOncePerOperationWhatHasChanged) {
     const auto document = Start();
     Store("plan.tvf", PlanOf("GM GS"));
     std::vector<DocumentChange> told;
     document->Observe([&](const DocumentChange& change) { told.push_back(change); });
     StartParameters parameters = document->CurrentPlan().parameters;
-    const std::vector<Order> twoMines(2, Order::Of(ItemId::MetMine));
-    const auto& found = twoMines;
-    struct Case {
-        const char* name;
-        std::function<void()> operation;
-        DocumentChange change;
+    parameters.KlickPuffer = 7;
+    const SleepTable night{{"20.11.2006 22:30", "20.11.2006 23:30"}};
+    const auto found = OrdersOf({"GM", "GM"});
+    const auto adopt = [&] {
+        document->Adopt(found, night.front(), SnapshotOf(document->CurrentPlan()));
     };
-    const std::vector<Case> cases{
-        {"add",
-         [&] { EXPECT_FALSE(document->AddItem(ItemId::SKW)); },
-         {.rows = Rows::Appended, .plan = true}},
-        {"parameters",
-         [&] {
-             parameters.KlickPuffer = 7;
-             document->SetParameters(parameters, {});
-         },
-         {.conditions = true, .plan = true}},
-        {"same parameters", [&] { document->SetParameters(parameters, {}); }, {.conditions = true}},
-        {"names", [&] { document->SetShowDesc(false); }, {.showDesc = true}},
-        {"sleep",
-         [&] {
-             document->SetSleepTable({{"20.11.2006 22:30", "20.11.2006 23:30"}});
-         },
-         {.sleepTable = true, .plan = true}},
-        {"run",
-         [&] { document->RunSimulation(false); },
-         {.conditions = true, .results = Results::NewRun}},
-        {"edit",
-         [&] { document->Edit(twoMines); },
-         {.rows = Rows::Changed, .conditions = true, .results = Results::Changed, .plan = true}},
-        {"undo",
-         [&] { document->Undo(); },
-         {.rows = Rows::Changed, .conditions = true, .results = Results::Changed, .plan = true}},
-        {"adopt",
-         [&] {
-             document->Adopt(found, SleepRow{"19.11.2006 01:00", "19.11.2006 02:00"},
-                             SnapshotOf(document->CurrentPlan()));
-         },
-         {.rows = Rows::Changed,
-          .conditions = true,
-          .sleepTable = true,
-          .results = Results::Changed,
-          .plan = true}},
-        {"save", [&] { document->SaveBauliste(m_saves / "x.tvf"); }, {.file = true}},
-        {"load",
-         [&] { EXPECT_TRUE(document->LoadBauliste(m_saves / "plan.tvf", false)); },
-         {.rows = Rows::Replaced,
-          .conditions = true,
-          .sleepTable = true,
-          .showDesc = true,
-          .results = Results::NewRun,
-          .plan = true,
-          .title = true,
-          .file = true}},
-        {"remove", [&] { document->RemoveLast(); }, {.rows = Rows::Changed, .plan = true}},
-        {"clear",
-         [&] { document->Clear(); },
-         {.rows = Rows::Changed, .results = Results::Changed, .plan = true}},
-        {"new",
-         [&] { document->New(); },
-         {.rows = Rows::Changed, .conditions = true, .results = Results::Changed}},
-    };
-    for (const Case& testCase : cases) {
-        SCOPED_TRACE(testCase.name);
+    const std::vector<std::pair<const char*, std::function<void()>>> operations{
+        {"rows:2 results:0 plan", [&] { EXPECT_FALSE(document->AddItem(ItemId::SKW)); }},
+        {"rows:0 results:0 conditions plan", [&] { document->SetParameters(parameters, {}); }},
+        {"rows:0 results:0 conditions", [&] { document->SetParameters(parameters, {}); }},
+        {"rows:0 results:0 names", [&] { document->SetShowDesc(false); }},
+        {"rows:0 results:0 sleep plan", [&] { document->SetSleepTable(night); }},
+        {"rows:0 results:2 conditions", [&] { document->RunSimulation(false); }},
+        {"rows:1 results:1 conditions plan", [&] { document->Edit(found); }},
+        {"rows:1 results:1 conditions plan", [&] { document->Undo(); }},
+        {"rows:1 results:1 conditions sleep plan", adopt},
+        {"rows:0 results:0 file", [&] { document->SaveBauliste(m_saves / "x.tvf"); }},
+        {"rows:3 results:2 conditions sleep names plan title file",
+         [&] { EXPECT_TRUE(document->LoadBauliste(m_saves / "plan.tvf", false)); }},
+        {"rows:1 results:0 plan", [&] { document->RemoveLast(); }},
+        {"rows:1 results:1 plan", [&] { document->Clear(); }},
+        {"rows:1 results:1 conditions", [&] { document->New(); }}};
+    for (const auto& [change, operation] : operations) {
         told.clear();
-        testCase.operation();
-        ASSERT_EQ(told.size(), 1U);
-        EXPECT_EQ(told.front(), testCase.change);
+        operation();
+        ASSERT_EQ(told.size(), 1U) << change;
+        EXPECT_EQ(TextOf(told.front()), change);
     }
     EXPECT_TRUE(m_prompts.texts.empty());
     EXPECT_EQ(document->Title(), "Tarvelin  |  Kelva Aufbau-Simulator      ( plan.tvf )");
