@@ -5,7 +5,7 @@
 #include <string>
 
 #include "OptimumProof.h"
-#include "persistence/PlanRun.h"
+#include "document/PlanRun.h"
 #include "search/PlanTask.h"
 
 namespace {

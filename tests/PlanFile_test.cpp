@@ -1,6 +1,7 @@
 // Tests plan files: format, unusable values, saving, UTF-16.
 #include "PlanLaws.h"
 #include "TestSupport.h"
+#include "document/WindowTitle.h"
 
 namespace tarvelin {
 namespace {

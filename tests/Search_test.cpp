@@ -5,7 +5,7 @@
 
 #include "OptimumProof.h"
 #include "TestSupport.h"
-#include "persistence/PlanRun.h"
+#include "document/PlanRun.h"
 #include "plan/Rules.h"
 #include "search/PlanTask.h"
 

@@ -19,20 +19,23 @@ const std::map<std::string, std::set<std::string>> kRooms{
     {"simulation", {"util", "model", "plan"}},
     {"search", {"util", "model", "plan", "simulation"}},
     {"persistence", {"util", "model", "plan", "simulation"}},
-    {"console", {"util", "model", "plan", "simulation", "search", "persistence"}},
+    {"document", {"util", "model", "plan", "simulation", "persistence"}},
+    {"console", {"util", "model", "plan", "simulation", "search", "persistence", "document"}},
     {"ui/widgets", {"model", "plan"}},
     {"ui/services", {"util", "persistence", "ui/widgets"}},
     {"ui/workbench",
-     {"util", "model", "plan", "simulation", "search", "persistence", "ui/widgets", "ui/services"}},
+     {"util", "model", "plan", "simulation", "search", "persistence", "document", "ui/widgets",
+      "ui/services"}},
     {"ui/mainwindow",
-     {"util", "model", "plan", "simulation", "persistence", "ui/widgets", "ui/services",
+     {"util", "model", "plan", "simulation", "persistence", "document", "ui/widgets", "ui/services",
       "ui/workbench"}},
     {"ui", {"persistence", "ui/widgets", "ui/services", "ui/mainwindow"}},
 };
 /// Rooms of which others may include one file only.
 const std::map<std::string, std::string> kDoors{{"ui/workbench", "ui/workbench/Workbench.h"}};
 /// Rooms without third-party libraries.
-const std::set<std::string> kCore{"util", "model", "plan", "simulation", "search", "persistence"};
+const std::set<std::string> kCore{"util",   "model",       "plan",    "simulation",
+                                  "search", "persistence", "document"};
 
 std::vector<std::filesystem::path> Sources() {
     std::vector<std::filesystem::path> sources;

@@ -12,7 +12,7 @@
 #include <random>
 
 #include "MainWindowFixture.h"
-#include "persistence/PlanRun.h"
+#include "document/PlanRun.h"
 #include "simulation/RunTexts.h"
 #include "ui/services/SvgImage.h"
 #include "ui/widgets/ItemPicture.h"

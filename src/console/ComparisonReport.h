@@ -4,7 +4,7 @@
 #include <ostream>
 #include <string>
 
-#include "persistence/PlanRun.h"
+#include "document/PlanRun.h"
 
 namespace tarvelin {
 

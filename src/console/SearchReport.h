@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-#include "persistence/PlanRun.h"
+#include "document/PlanRun.h"
 #include "search/PlanTask.h"
 
 namespace tarvelin {

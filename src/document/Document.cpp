@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "document/WindowTitle.h"
 #include "persistence/PlanFile.h"
 
 namespace tarvelin {

@@ -238,8 +238,4 @@ std::string LoadObstacle(const std::filesystem::path& File, const FileSystem& sy
     return "diese Datei ist größer als 16 MiB, oder du darfst sie nicht lesen";
 }
 
-std::string WindowTitleFor(const std::filesystem::path& File) {
-    return "Tarvelin  |  Kelva Aufbau-Simulator      ( " + PathToUtf8(File.filename()) + " )";
-}
-
 }  // namespace tarvelin

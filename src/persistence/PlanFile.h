@@ -39,7 +39,4 @@ void WritePlan(const Plan& plan, IniFile& profile);
 [[nodiscard]] bool ReadPlan(const IniFile& profile, Plan& plan, const RunConditions& conditions,
                             MessageSink& messages);
 
-/// The window's caption for a plan file.
-[[nodiscard]] std::string WindowTitleFor(const std::filesystem::path& File);
-
 }  // namespace tarvelin

@@ -5,7 +5,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
-#include "persistence/PlanRun.h"
+#include "document/PlanRun.h"
 #include "simulation/RunTexts.h"
 #include "ui/widgets/Controls.h"
 

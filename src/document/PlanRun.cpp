@@ -1,5 +1,5 @@
 // Loading and running of a plan file.
-#include "persistence/PlanRun.h"
+#include "document/PlanRun.h"
 
 #include <utility>
 

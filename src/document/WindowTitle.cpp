@@ -1,0 +1,12 @@
+// The program's name and the file's.
+#include "document/WindowTitle.h"
+
+#include "util/Utf8.h"
+
+namespace tarvelin {
+
+std::string WindowTitleFor(const std::filesystem::path& File) {
+    return "Tarvelin  |  Kelva Aufbau-Simulator      ( " + PathToUtf8(File.filename()) + " )";
+}
+
+}  // namespace tarvelin
