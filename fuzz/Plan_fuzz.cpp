@@ -4,7 +4,7 @@
 
 #include "FuzzInput.h"
 #include "PlanLaws.h"
-#include "console/RunReport.h"
+#include "export/RunReport.h"
 #include "persistence/PlanFile.h"
 #include "simulation/DueAlarms.h"
 

@@ -4,7 +4,7 @@
 #include <tuple>
 
 #include "TestSupport.h"
-#include "console/SearchReport.h"
+#include "export/SearchReport.h"
 
 namespace tarvelin {
 namespace {

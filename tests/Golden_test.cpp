@@ -2,7 +2,7 @@
 #include <nlohmann/json.hpp>
 
 #include "TestSupport.h"
-#include "console/RunReport.h"
+#include "export/RunReport.h"
 #include "plan/Rules.h"
 
 namespace tarvelin {

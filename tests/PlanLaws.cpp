@@ -10,7 +10,7 @@
 #include <sstream>
 #include <vector>
 
-#include "console/RunReport.h"
+#include "export/RunReport.h"
 #include "model/Cost.h"
 #include "model/ItemTable.h"
 #include "model/Transitions.h"

@@ -1,7 +1,7 @@
 // What the help page has beyond the library's own.
 #include "console/HelpPage.h"
 
-#include "console/TextTable.h"
+#include "export/TextTable.h"
 #include "model/ItemTable.h"
 
 namespace tarvelin {

@@ -10,7 +10,7 @@
 #endif
 
 #include "console/ExitCode.h"
-#include "console/SearchReport.h"
+#include "export/SearchReport.h"
 #include "persistence/PlanFile.h"
 #include "simulation/RunTexts.h"
 #include "util/NumberText.h"

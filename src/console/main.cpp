@@ -23,13 +23,13 @@
 #include <span>
 #endif
 
-#include "console/ComparisonReport.h"
 #include "console/ExitCode.h"
 #include "console/HelpPage.h"
-#include "console/RunReport.h"
 #include "console/SearchCommand.h"
+#include "export/Calendar.h"
+#include "export/ComparisonReport.h"
+#include "export/RunReport.h"
 #include "persistence/AtomicWrite.h"
-#include "persistence/Calendar.h"
 #include "persistence/PlanFile.h"
 #include "simulation/RunTexts.h"
 #include "util/Utf8.h"

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "simulation/ComparisonTexts.h"
+#include "export/ComparisonTexts.h"
 #include "ui/widgets/ListView.h"
 #include "ui/widgets/TableModel.h"
 

@@ -11,9 +11,10 @@
 #include <chrono>
 #include <utility>
 
+#include "export/Calendar.h"
+#include "export/Timetable.h"
 #include "model/ItemTable.h"
 #include "persistence/AtomicWrite.h"
-#include "persistence/Calendar.h"
 #include "simulation/DueAlarms.h"
 #include "ui/services/SvgImage.h"
 #include "ui/widgets/Appearance.h"
@@ -21,7 +22,6 @@
 #include "ui/widgets/ItemDisplay.h"
 #include "ui/widgets/Pictures.h"
 #include "ui/workbench/TimelinePicture.h"
-#include "ui/workbench/Timetable.h"
 #include "ui/workbench/WindowPlace.h"
 
 namespace tarvelin {

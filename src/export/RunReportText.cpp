@@ -1,10 +1,10 @@
 // Timetable and figures as aligned text and as CSV.
-#include "console/RunReport.h"
+#include "export/RunReport.h"
 
 #include <functional>
 #include <vector>
 
-#include "console/TextTable.h"
+#include "export/TextTable.h"
 #include "simulation/RunTexts.h"
 
 namespace tarvelin {

@@ -1,5 +1,5 @@
 // Entries and lines of a calendar file.
-#include "persistence/Calendar.h"
+#include "export/Calendar.h"
 
 #include <algorithm>
 #include <functional>

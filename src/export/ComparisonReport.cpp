@@ -1,10 +1,10 @@
 // Prints the comparison of two plans.
-#include "console/ComparisonReport.h"
+#include "export/ComparisonReport.h"
 
 #include <nlohmann/json.hpp>
 
-#include "console/TextTable.h"
-#include "simulation/ComparisonTexts.h"
+#include "export/ComparisonTexts.h"
+#include "export/TextTable.h"
 #include "simulation/RunTexts.h"
 
 namespace tarvelin {

@@ -1,5 +1,5 @@
 // The rows and their two formats.
-#include "ui/workbench/Timetable.h"
+#include "export/Timetable.h"
 
 #include <array>
 #include <vector>

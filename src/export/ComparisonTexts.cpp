@@ -1,5 +1,5 @@
 // A comparison as rows of four texts.
-#include "simulation/ComparisonTexts.h"
+#include "export/ComparisonTexts.h"
 
 #include "simulation/RunTexts.h"
 #include "util/NumberText.h"

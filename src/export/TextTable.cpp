@@ -1,5 +1,5 @@
 // Aligns the columns of a table.
-#include "console/TextTable.h"
+#include "export/TextTable.h"
 
 #include <algorithm>
 

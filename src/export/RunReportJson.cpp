@@ -1,5 +1,5 @@
 // The JSON of a plan and its result.
-#include "console/RunReport.h"
+#include "export/RunReport.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,11 +1,11 @@
 // Prints the result of a search.
-#include "console/SearchReport.h"
+#include "export/SearchReport.h"
 
 #include <cstdlib>
 #include <nlohmann/json.hpp>
 
-#include "console/RunReport.h"
-#include "console/TextTable.h"
+#include "export/RunReport.h"
+#include "export/TextTable.h"
 #include "search/SearchTexts.h"
 #include "util/Nuetzliches.h"
 #include "util/NumberText.h"
