@@ -14,9 +14,9 @@
 #include "MainWindowFixture.h"
 #include "document/PlanRun.h"
 #include "simulation/RunTexts.h"
+#include "simulation/StatusTexts.h"
 #include "ui/services/SvgImage.h"
 #include "ui/widgets/ItemPicture.h"
-#include "ui/workbench/StatusTexts.h"
 
 namespace tarvelin {
 namespace {

@@ -10,9 +10,9 @@
 #include <algorithm>
 
 #include "simulation/RunTexts.h"
+#include "simulation/StatusTexts.h"
 #include "ui/widgets/Controls.h"
 #include "ui/widgets/ItemPicture.h"
-#include "ui/workbench/StatusTexts.h"
 
 namespace tarvelin {
 

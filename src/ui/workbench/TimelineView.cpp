@@ -10,8 +10,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "simulation/StatusTexts.h"
 #include "ui/widgets/Controls.h"
-#include "ui/workbench/StatusTexts.h"
 
 namespace tarvelin {
 

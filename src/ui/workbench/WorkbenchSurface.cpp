@@ -8,8 +8,8 @@
 
 #include "simulation/ResultTexts.h"
 #include "simulation/RunTexts.h"
+#include "simulation/StatusTexts.h"
 #include "ui/widgets/Controls.h"
-#include "ui/workbench/StatusTexts.h"
 
 namespace tarvelin {
 

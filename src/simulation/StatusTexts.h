@@ -1,4 +1,4 @@
-// Texts of the workbench about a run.
+// Texts that say how a run stands at a moment.
 #pragma once
 
 #include <cstddef>

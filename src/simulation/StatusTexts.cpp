@@ -1,5 +1,5 @@
 // Puts together the texts.
-#include "ui/workbench/StatusTexts.h"
+#include "simulation/StatusTexts.h"
 
 #include <algorithm>
 #include <iterator>
