@@ -16,10 +16,8 @@ constexpr std::size_t kMaxSize = 60;
 
 void Print(const PlanRun& document) {
     std::ostringstream stream;
-    WriteText(stream, document);
-    WriteCsvHeader(stream);
-    WriteCsvRows(stream, document);
-    stream << JsonText(document) << RefreshWeekday(document.plan.parameters).hint
+    stream << RunText(document) << RunCsv(document) << RunJson(document)
+           << RefreshWeekday(document.plan.parameters).hint
            << PointsWithStockText(document.run.state);
     for (const auto& entry : document.run.LV_Bauzeiten) {
         stream << DueStarts(document.run.LV_Bauzeiten, entry.start, "0")

@@ -23,7 +23,7 @@ class Golden : public testing::TestWithParam<std::string> {};
 
 TEST_P(Golden, MatchesFieldByField) {
     const auto file = std::filesystem::path(TARVELIN_GOLDEN) / (GetParam() + ".tvf");
-    const auto actual = nlohmann::json::parse(JsonText(PlanRun(file)));
+    const auto actual = nlohmann::json::parse(RunJson(PlanRun(file)));
     auto json = file;
     const auto expected = nlohmann::json::parse(ReadFileToString(json.replace_extension(".json")));
     for (const auto& difference : nlohmann::json::diff(expected, actual)) {

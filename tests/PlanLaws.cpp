@@ -7,7 +7,6 @@
 #include <map>
 #include <numeric>
 #include <random>
-#include <sstream>
 #include <vector>
 
 #include "export/RunReport.h"
@@ -244,12 +243,8 @@ std::string StateText(const BuildList& list) {
 }
 
 std::string ResultText(const Plan& plan) {
-    std::ostringstream stream;
     const PlanRun document("plan.tvf", IniFile(Bytes(plan)));
-    WriteText(stream, document);
-    WriteCsvRows(stream, document);
-    stream << JsonText(document);
-    return stream.str();
+    return RunText(document) + RunCsv(document) + RunJson(document);
 }
 
 Finding CheckSaving(const Plan& plan) {
@@ -393,14 +388,14 @@ Finding CheckTimeJump(const Plan& plan) {
 
 Finding CheckRepetition(const Plan& plan) {
     PlanRun document("plan.tvf", IniFile(Bytes(plan)));
-    const std::string once = JsonText(document);
+    const std::string once = RunJson(document);
     if (document.hasRun) {
         NullSink messages;
         document.run.ResetSimulation(ConditionsOf(document.plan));
         RunSimulation(document.plan.LV_Bauliste.Orders().All(), document.run, messages);
         document.texts.AfterRun(document.run.state);
     }
-    return JsonText(document) == once ? "" : "a second run has another result";
+    return RunJson(document) == once ? "" : "a second run has another result";
 }
 
 Finding CheckCurve(const Plan& plan) {

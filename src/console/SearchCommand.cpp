@@ -138,11 +138,7 @@ int RunSearchCommand(const SearchCommand& command, const std::atomic<bool>& stop
     if (command.outputFile && !SaveBauliste(PathFromUtf8(*command.outputFile), after)) {
         return Say(SaveErrorMessage().text, kPlanFailed);
     }
-    if (command.json) {
-        std::cout << SearchJson(report) << '\n';
-    } else {
-        WriteSearch(std::cout, report);
-    }
+    std::cout << (command.json ? SearchJson(report) + "\n" : SearchText(report));
     return kGood;
 }
 

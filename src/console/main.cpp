@@ -144,7 +144,7 @@ bool ComparePlans(const CommandLine& call) {
     if (call.json) {
         std::cout << tarvelin::ComparisonJson(a, b) << '\n';
     } else {
-        tarvelin::WriteComparison(std::cout, a, b);
+        std::cout << tarvelin::ComparisonText(a, b);
     }
     return true;
 }
@@ -156,17 +156,16 @@ bool Execute(const CommandLine& call) {
     bool allGood = true;
     bool first = true;
     if (call.csv) {
-        tarvelin::WriteCsvHeader(std::cout);
+        std::cout << tarvelin::RunCsvHeader();
     }
     for (const std::string& file : call.files) {
         const tarvelin::PlanRun planRun = RunFile(file);
         if (call.json) {
-            std::cout << tarvelin::JsonText(planRun, call.history) << '\n';
+            std::cout << tarvelin::RunJson(planRun, call.history) << '\n';
         } else if (call.csv) {
-            tarvelin::WriteCsvRows(std::cout, planRun);
+            std::cout << tarvelin::RunCsv(planRun);
         } else if (planRun.hasRun) {
-            std::cout << (first ? "" : "\n");
-            tarvelin::WriteText(std::cout, planRun);
+            std::cout << (first ? "" : "\n") << tarvelin::RunText(planRun);
             first = false;
         }
         allGood = allGood && planRun.hasRun;

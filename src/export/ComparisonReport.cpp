@@ -1,10 +1,9 @@
-// Prints the comparison of two plans.
+// The tables and the object of a comparison.
 #include "export/ComparisonReport.h"
 
 #include <nlohmann/json.hpp>
 
 #include "export/ComparisonTexts.h"
-#include "export/TextTable.h"
 #include "simulation/RunTexts.h"
 
 namespace tarvelin {
@@ -12,14 +11,10 @@ namespace tarvelin {
 namespace {
 
 using nlohmann::json;
-using TextRows = std::vector<std::vector<std::string>>;
-
-TextRows WithHeader(std::vector<std::string> header, const std::vector<ComparisonText>& texts) {
-    TextRows rows{std::move(header)};
-    for (const ComparisonText& text : texts) {
-        rows.emplace_back(text.begin(), text.end());
-    }
-    return rows;
+/// Under a header that names the plans.
+std::string Table(const char* first, const PlanRun& a, const PlanRun& b, TextTable rows) {
+    rows.insert(rows.begin(), {first, a.name, b.name, "Unterschied"});
+    return AlignedText(rows, {1, 2, 3});
 }
 
 json ToJson(const PlanRun& plan, const RunSummary& figures) {
@@ -42,19 +37,11 @@ json SecondsJson(const std::optional<SimTime>& moment) {
 
 }  // namespace
 
-void WriteComparison(std::ostream& stream, const PlanRun& a, const PlanRun& b) {
+std::string ComparisonText(const PlanRun& a, const PlanRun& b) {
     const Comparison comparison = Compare(a.Trace(), b.Trace());
-    constexpr const char* kDifference = "Unterschied";
-    const std::vector<std::size_t> right{1, 2, 3};
-    WriteTable(stream, WithHeader({"", a.name, b.name, kDifference}, SummaryTexts(comparison)),
-               right);
-    stream << '\n';
-    const auto orders = OrderDifferences(comparison);
-    if (orders.empty()) {
-        stream << "Alle Aufträge beginnen zur selben Zeit.\n";
-        return;
-    }
-    WriteTable(stream, WithHeader({"Auftrag", a.name, b.name, kDifference}, orders), right);
+    return Table("", a, b, SummaryTexts(comparison)) + "\n" +
+           (comparison.differences.empty() ? "Alle Aufträge beginnen zur selben Zeit.\n"
+                                           : Table("Auftrag", a, b, OrderDifferences(comparison)));
 }
 
 std::string ComparisonJson(const PlanRun& a, const PlanRun& b) {

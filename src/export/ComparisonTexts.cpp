@@ -1,4 +1,4 @@
-// A comparison as rows of four texts.
+// The rows of the two tables.
 #include "export/ComparisonTexts.h"
 
 #include "simulation/RunTexts.h"
@@ -8,27 +8,26 @@ namespace tarvelin {
 
 namespace {
 
-ComparisonText TimeText(std::string name, Long a, Long b) {
+TextRow TimeText(std::string name, Long a, Long b) {
     return {std::move(name), TimeSpanText(a), TimeSpanText(b),
             SignedTimeSpanText(LongSum(b, -std::int64_t{a}))};
 }
 
-ComparisonText NumberText(std::string name, double a, double b, int decimals) {
+TextRow NumberText(std::string name, double a, double b, int decimals) {
     const auto text = [decimals](double value) { return DecimalText(value, decimals); };
     return {std::move(name), text(a), text(b), (b > a ? "+" : "") + text(b - a)};
 }
 
 }  // namespace
 
-std::vector<ComparisonText> SummaryTexts(const Comparison& comparison) {
+TextTable SummaryTexts(const Comparison& comparison) {
     const RunSummary& a = comparison.a;
     const RunSummary& b = comparison.b;
     constexpr double kResourcesPerPoint = 1000;
     constexpr int kDecimals = 3;
-    std::vector<ComparisonText> rows{
-        TimeText("Dauer", a.duration, b.duration),
-        NumberText("Punkte", a.VerbauteRessourcen / kResourcesPerPoint,
-                   b.VerbauteRessourcen / kResourcesPerPoint, kDecimals)};
+    TextTable rows{TimeText("Dauer", a.duration, b.duration),
+                   NumberText("Punkte", a.VerbauteRessourcen / kResourcesPerPoint,
+                              b.VerbauteRessourcen / kResourcesPerPoint, kDecimals)};
     for (const Resource resource : kResources) {
         rows.push_back(NumberText(std::string(kResourceNames[resource]),
                                   static_cast<double>(a.stock[resource].WholePart()),
@@ -42,9 +41,9 @@ std::vector<ComparisonText> SummaryTexts(const Comparison& comparison) {
     return rows;
 }
 
-std::vector<ComparisonText> OrderDifferences(const Comparison& comparison) {
-    std::vector<ComparisonText> rows;
-    const auto text = [](const std::optional<SimTime>& moment) {
+TextTable OrderDifferences(const Comparison& comparison) {
+    TextTable rows;
+    const auto text = [](const std::optional<SimTime>& moment) -> std::string {
         return moment ? TimeSpanText(moment->Seconds()) : "fehlt";
     };
     for (const ComparisonRow& row : comparison.differences) {

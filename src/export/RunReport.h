@@ -1,7 +1,6 @@
 // A plan and its result as text, CSV and JSON.
 #pragma once
 
-#include <ostream>
 #include <string>
 
 #include "document/PlanRun.h"
@@ -10,15 +9,16 @@ namespace tarvelin {
 
 /// The timetable with the reason of each delay, then duration, stocks, energy and points. Only if
 /// `hasRun`.
-void WriteText(std::ostream& stream, const PlanRun& planRun);
+[[nodiscard]] std::string RunText(const PlanRun& planRun);
 
-/// With a byte-order mark, by which spreadsheets recognize UTF-8.
-void WriteCsvHeader(std::ostream& stream);
+/// The names of the columns of `RunCsv`, after a byte-order mark, by which spreadsheets recognize
+/// UTF-8.
+[[nodiscard]] std::string RunCsvHeader();
 /// The rows of the timetable; the first column is the plan's file name.
-void WriteCsvRows(std::ostream& stream, const PlanRun& planRun);
+[[nodiscard]] std::string RunCsv(const PlanRun& planRun);
 
 /// One object with the plan and its result; with `withHistory` also the history of the stocks and
 /// the orders with the reasons of their delays, under "Verlauf".
-[[nodiscard]] std::string JsonText(const PlanRun& planRun, bool withHistory = false);
+[[nodiscard]] std::string RunJson(const PlanRun& planRun, bool withHistory = false);
 
 }  // namespace tarvelin

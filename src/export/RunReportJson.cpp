@@ -125,7 +125,7 @@ json HistoryOf(const RunTrace& trace) {
 
 }  // namespace
 
-std::string JsonText(const PlanRun& planRun, bool withHistory) {
+std::string RunJson(const PlanRun& planRun, bool withHistory) {
     const BuildList& list = planRun.plan.LV_Bauliste;
     json object{{"Meldungen", MessagesJson(planRun)},
                 {"Geladen", planRun.loaded},

@@ -1,4 +1,4 @@
-// Prints the result of a search.
+// The lines and the object of a result.
 #include "export/SearchReport.h"
 
 #include <cstdlib>
@@ -7,7 +7,6 @@
 #include "export/RunReport.h"
 #include "export/TextTable.h"
 #include "search/SearchTexts.h"
-#include "util/Nuetzliches.h"
 #include "util/NumberText.h"
 
 namespace tarvelin {
@@ -15,10 +14,6 @@ namespace tarvelin {
 namespace {
 
 using nlohmann::json;
-
-std::string DurationText(Long seconds) {
-    return FormatDuration(seconds, "s", "dd(0)hh:mm:ss", "d");
-}
 
 json ToJson(const Solution& solution, const GameState& state) {
     json rates = json::array();
@@ -43,9 +38,9 @@ std::string GainText(Long gain) {
     return (gain < 0 ? "-" : "") + DurationText(std::abs(gain));
 }
 
-void WriteRow(std::ostream& stream, const std::string& name, const std::string& text) {
+std::string Line(const std::string& name, const std::string& text) {
     constexpr std::size_t kWidth = 13;
-    stream << Padded(name + ":", kWidth, false) << text << '\n';
+    return Padded(name + ":", kWidth, false) + text + "\n";
 }
 
 std::string Percent(Long gain, Long from) {
@@ -55,36 +50,35 @@ std::string Percent(Long gain, Long from) {
 
 }  // namespace
 
-void WriteSearch(std::ostream& stream, const SearchReport& report) {
+std::string SearchText(const SearchReport& report) {
     const Solution& after = *report.result.best;
     const auto& before = report.task.before;
-    WriteRow(stream, "Vorher",
-             before ? SolutionText(*before) : "der Plan endet nie oder verfehlt das Ziel");
-    WriteRow(stream, "Nachher", SolutionText(after));
+    std::string text = Line(
+        "Vorher", before ? SolutionText(*before) : "der Plan endet nie oder verfehlt das Ziel");
+    text += Line("Nachher", SolutionText(after));
     if (before) {
         const Long gain = before->score.duration - after.score.duration;
-        WriteRow(stream, "Gewinn",
-                 GainText(gain) + " (" + Percent(gain, before->score.duration) + ")");
+        text += Line("Gewinn", GainText(gain) + " (" + Percent(gain, before->score.duration) + ")");
     }
     const OrderList& oldOrders = report.before.plan.LV_Bauliste.Orders();
     const OrderList& newOrders = report.after.plan.LV_Bauliste.Orders();
-    for (const auto& [name, text] : {std::pair("Kommt dazu", SurplusInWords(newOrders, oldOrders)),
-                                     std::pair("Entfällt", SurplusInWords(oldOrders, newOrders))}) {
-        if (!text.empty()) {
-            WriteRow(stream, name, text);
+    for (const auto& [name, items] :
+         {std::pair("Kommt dazu", SurplusInWords(newOrders, oldOrders)),
+          std::pair("Entfällt", SurplusInWords(oldOrders, newOrders))}) {
+        if (!items.empty()) {
+            text += Line(name, items);
         }
     }
     if (report.before.hasRun) {
-        WriteRow(stream, "Je Stunde", RatesText(report.before.run.state) + " (vorher)");
+        text += Line("Je Stunde", RatesText(report.before.run.state) + " (vorher)");
     }
-    WriteRow(stream, "Je Stunde", RatesText(report.after.run.state) + " (nachher)");
+    text += Line("Je Stunde", RatesText(report.after.run.state) + " (nachher)");
     if (const auto& pause = report.task.pause) {
-        WriteRow(stream, "Pause", pause->Startzeit + " bis " + pause->Endzeit);
+        text += Line("Pause", pause->Startzeit + " bis " + pause->Endzeit);
     }
-    WriteRow(stream, "Versuche",
-             std::to_string(report.result.tries) + "   Saat: " + std::to_string(report.seed));
-    stream << '\n';
-    WriteText(stream, report.after);
+    text += Line("Versuche",
+                 std::to_string(report.result.tries) + "   Saat: " + std::to_string(report.seed));
+    return text + "\n" + RunText(report.after);
 }
 
 std::string SearchJson(const SearchReport& report) {

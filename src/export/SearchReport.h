@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <ostream>
 #include <string>
 
 #include "document/PlanRun.h"
@@ -21,7 +20,7 @@ struct SearchReport {
 };
 
 /// Before, after, gain, sittings, what came and went, rates, and the new timetable.
-void WriteSearch(std::ostream& stream, const SearchReport& report);
+[[nodiscard]] std::string SearchText(const SearchReport& report);
 
 [[nodiscard]] std::string SearchJson(const SearchReport& report);
 

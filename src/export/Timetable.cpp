@@ -1,9 +1,7 @@
-// The rows and their two formats.
+// The columns of the timetable.
 #include "export/Timetable.h"
 
-#include <array>
-#include <vector>
-
+#include "export/TextTable.h"
 #include "simulation/RunTexts.h"
 #include "util/DateTime.h"
 
@@ -11,41 +9,25 @@ namespace tarvelin {
 
 namespace {
 
-using TextRow = std::array<std::string, 5>;
-
-std::vector<TextRow> Rows(const RunTrace& trace) {
-    std::vector<TextRow> rows{{"Nr.", "Auftrag", "Start", "Fertig", "Grund"}};
+TextTable Timetable(const RunTrace& trace) {
+    TextTable table{{"Nr.", "Auftrag", "Start", "Fertig", "Grund"}};
     for (const StartEvent& start : trace.starts) {
-        rows.push_back({std::to_string(start.row + 1), OrderText(start),
-                        DateTimeText(trace.conditions.WallClock(start.start)),
-                        DateTimeText(trace.conditions.WallClock(start.finish)),
-                        DelayText(trace, start.row)});
+        table.push_back({std::to_string(start.row + 1), OrderText(start),
+                         DateTimeText(trace.conditions.WallClock(start.start)),
+                         DateTimeText(trace.conditions.WallClock(start.finish)),
+                         DelayText(trace, start.row)});
     }
-    return rows;
-}
-
-/// None of the texts contains a character that needs escaping.
-std::string Joined(const std::vector<TextRow>& rows, const char* beforeRow, const char* beforeCell,
-                   const char* between, const char* afterRow) {
-    std::string text;
-    for (const TextRow& row : rows) {
-        text += beforeRow;
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            text += (i == 0 ? "" : between) + (beforeCell + row[i]);
-        }
-        text += afterRow;
-    }
-    return text;
+    return table;
 }
 
 }  // namespace
 
 std::string TimetableTsv(const RunTrace& trace) {
-    return Joined(Rows(trace), "", "", "\t", "\n");
+    return TsvText(Timetable(trace));
 }
 
 std::string TimetableHtml(const RunTrace& trace) {
-    return "<table>" + Joined(Rows(trace), "<tr>", "<td>", "</td>", "</td></tr>") + "</table>";
+    return HtmlText(Timetable(trace));
 }
 
 }  // namespace tarvelin

@@ -17,7 +17,11 @@ std::string ToPoints(double resources) {
 }  // namespace
 
 std::string DurationText(const GameState& state) {
-    return FormatDuration(state.secsgone.Seconds(), "s", "dd(0)hh:mm:ss", "d");
+    return DurationText(state.secsgone.Seconds());
+}
+
+std::string DurationText(Long seconds) {
+    return FormatDuration(seconds, "s", "dd(0)hh:mm:ss", "d");
 }
 
 std::string PointsText(const GameState& state) {

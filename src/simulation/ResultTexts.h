@@ -9,6 +9,7 @@ namespace tarvelin {
 
 /// "01 Tage 01:01:01": the clock of a run.
 [[nodiscard]] std::string DurationText(const GameState& state);
+[[nodiscard]] std::string DurationText(Long seconds);
 /// "75,3": a point is a thousand units of resources spent.
 [[nodiscard]] std::string PointsText(const GameState& state);
 /// The same with the unspent stocks.

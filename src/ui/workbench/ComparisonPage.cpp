@@ -89,8 +89,8 @@ void ComparisonPage::SetOther(std::optional<RunTrace> other, const QString& name
 
 void ComparisonPage::ShowOwnRun() {
     const auto& own = m_document.Trace();
-    std::vector<ComparisonText> summaries;
-    std::vector<ComparisonText> orders;
+    TextTable summaries;
+    TextTable orders;
     if (own && m_other) {
         const Comparison comparison = tarvelin::Compare(*m_other, *own);
         summaries = SummaryTexts(comparison);

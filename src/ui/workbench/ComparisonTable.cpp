@@ -22,7 +22,7 @@ ComparisonTable::ComparisonTable(const QString& name, const QString& accessibleN
     setTextElideMode(Qt::ElideRight);
 }
 
-void ComparisonTable::ShowRows(std::vector<ComparisonText> rows) {
+void ComparisonTable::ShowRows(TextTable rows) {
     m_rows = std::move(rows);
     m_model->Refresh();
 }

@@ -1,9 +1,8 @@
 // A table of what differs between two runs.
 #pragma once
 
-#include <vector>
 
-#include "export/ComparisonTexts.h"
+#include "export/TextTable.h"
 #include "ui/widgets/ListView.h"
 #include "ui/widgets/TableModel.h"
 
@@ -17,10 +16,10 @@ class ComparisonTable : public ListView {
     ComparisonTable(const QString& name, const QString& accessibleName, const QString& first,
                     QWidget* parent);
 
-    void ShowRows(std::vector<ComparisonText> rows);
+    void ShowRows(TextTable rows);
 
   private:
-    std::vector<ComparisonText> m_rows;
+    TextTable m_rows;
     TableModel* m_model;
 };
 
