@@ -1,9 +1,8 @@
 // The tables and the object of a comparison.
 #include "export/ComparisonReport.h"
 
-#include <nlohmann/json.hpp>
-
 #include "export/ComparisonTexts.h"
+#include "export/ReadableJson.h"
 #include "simulation/RunTexts.h"
 
 namespace tarvelin {
@@ -18,17 +17,15 @@ std::string Table(const char* first, const PlanRun& a, const PlanRun& b, TextTab
 }
 
 json ToJson(const PlanRun& plan, const RunSummary& figures) {
-    return {{"Plan", plan.name},
-            {"Sekunden", figures.duration},
-            {"VerbauteRessourcen", figures.VerbauteRessourcen},
-            {"Metall", FourDecimalsText(figures.stock[Resource::Metall])},
-            {"Kristall", FourDecimalsText(figures.stock[Resource::Kristall])},
-            {"Deuterium", FourDecimalsText(figures.stock[Resource::Deuterium])},
-            {"Sitzungen", figures.sittings},
-            {"Leerlauf",
-             {{"Bauschleife", figures.idle[Queue::Building]},
-              {"Forschungsschleife", figures.idle[Queue::Research]},
-              {"Werftschleife", figures.idle[Queue::Shipyard]}}}};
+    json object{{"Plan", plan.name},
+                {"Sekunden", figures.duration},
+                {"VerbauteRessourcen", figures.VerbauteRessourcen},
+                {"Sitzungen", figures.sittings}};
+    AddResources(object, figures.stock);
+    for (const Queue queue : {Queue::Building, Queue::Research, Queue::Shipyard}) {
+        object["Leerlauf"][std::string(QueueName(queue))] = figures.idle[queue];
+    }
+    return object;
 }
 
 json SecondsJson(const std::optional<SimTime>& moment) {
@@ -56,10 +53,9 @@ std::string ComparisonJson(const PlanRun& a, const PlanRun& b) {
                                {"B", SecondsJson(row.b)},
                                {"Unterschied", difference ? json(*difference) : json()}});
     }
-    return json{{"A", ToJson(a, comparison.a)},
-                {"B", ToJson(b, comparison.b)},
-                {"Unterschiede", differences}}
-        .dump(1);
+    return ReadableJson({{"A", ToJson(a, comparison.a)},
+                         {"B", ToJson(b, comparison.b)},
+                         {"Unterschiede", differences}});
 }
 
 }  // namespace tarvelin

@@ -1,8 +1,7 @@
 // The JSON of a plan and its result.
 #include "export/RunReport.h"
 
-#include <nlohmann/json.hpp>
-
+#include "export/ReadableJson.h"
 #include "model/ItemTable.h"
 #include "simulation/RunTexts.h"
 
@@ -61,17 +60,19 @@ json ScheduleJson(const Schedule& schedule) {
     return list;
 }
 
+/// Stocks, rates and energy of a state or of a point of its history.
+template <class Economy>
+void AppendEconomy(json& object, const Economy& economy) {
+    AddResources(object, economy.stock);
+    AddResources(object, economy.ProStunde, "ProStunde");
+    object["EnergieProduktion"] = economy.EnergieProduktion;
+    object["EnergieVerbrauch"] = economy.EnergieVerbrauch;
+}
+
 void AppendState(json& object, const GameState& state, const RunConditions& conditions) {
+    AppendEconomy(object, state);
     object["secsgone"] = state.secsgone.Seconds();
-    object["Metall"] = FourDecimalsText(state.stock[Resource::Metall]);
-    object["Kristall"] = FourDecimalsText(state.stock[Resource::Kristall]);
-    object["Deuterium"] = FourDecimalsText(state.stock[Resource::Deuterium]);
     object["ProdFaktor"] = FourDecimalsText(state.ProdFaktor);
-    object["MetallProStunde"] = FourDecimalsText(state.ProStunde[Resource::Metall]);
-    object["KristallProStunde"] = FourDecimalsText(state.ProStunde[Resource::Kristall]);
-    object["DeuteriumProStunde"] = FourDecimalsText(state.ProStunde[Resource::Deuterium]);
-    object["EnergieProduktion"] = state.EnergieProduktion;
-    object["EnergieVerbrauch"] = state.EnergieVerbrauch;
     object["VerbauteRessourcen"] = state.VerbauteRessourcen;
     object["Temperatur"] = conditions.Temperatur;
     object["Speedfaktor"] = conditions.Speedfaktor;
@@ -92,16 +93,10 @@ void AppendTexts(json& object, const ResultTexts& texts) {
 }
 
 json PointJson(const HistoryPoint& point, const RunConditions& conditions) {
-    return {{"Sekunde", point.time.Seconds()},
-            {"Zeitpunkt", DateTimeText(conditions.WallClock(point.time))},
-            {"Metall", FourDecimalsText(point.stock[Resource::Metall])},
-            {"Kristall", FourDecimalsText(point.stock[Resource::Kristall])},
-            {"Deuterium", FourDecimalsText(point.stock[Resource::Deuterium])},
-            {"MetallProStunde", FourDecimalsText(point.ProStunde[Resource::Metall])},
-            {"KristallProStunde", FourDecimalsText(point.ProStunde[Resource::Kristall])},
-            {"DeuteriumProStunde", FourDecimalsText(point.ProStunde[Resource::Deuterium])},
-            {"EnergieProduktion", point.EnergieProduktion},
-            {"EnergieVerbrauch", point.EnergieVerbrauch}};
+    json object{{"Sekunde", point.time.Seconds()},
+                {"Zeitpunkt", DateTimeText(conditions.WallClock(point.time))}};
+    AppendEconomy(object, point);
+    return object;
 }
 
 json HistoryOf(const RunTrace& trace) {
@@ -142,7 +137,7 @@ std::string RunJson(const PlanRun& planRun, bool withHistory) {
             object["Verlauf"] = HistoryOf(planRun.Trace());
         }
     }
-    return object.dump(1);
+    return ReadableJson(object);
 }
 
 }  // namespace tarvelin

@@ -2,8 +2,8 @@
 #include "export/SearchReport.h"
 
 #include <cstdlib>
-#include <nlohmann/json.hpp>
 
+#include "export/ReadableJson.h"
 #include "export/RunReport.h"
 #include "export/TextTable.h"
 #include "search/SearchTexts.h"
@@ -99,7 +99,7 @@ std::string SearchJson(const SearchReport& report) {
     if (const auto& pause = report.task.pause) {
         object["Pause"] = {pause->Startzeit, pause->Endzeit};
     }
-    return object.dump(1);
+    return ReadableJson(object);
 }
 
 std::string ProgressLine(const SearchProgress& progress) {
