@@ -125,11 +125,9 @@ int RunSearchCommand(const SearchCommand& command, const std::atomic<bool>& stop
         return Say("Es wurde keine Liste gefunden, die endet", kPlanFailed);
     }
     const Plan after = WithOrders(oldRun.plan, result.best->orders, planTask.pause);
-    IniFile profile("");
-    WritePlan(after, profile);
     const PlanRun newRun(
         command.outputFile ? PathToUtf8(PathFromUtf8(*command.outputFile).filename()) : oldRun.name,
-        profile);
+        after);
     const SearchReport report{.before = oldRun,
                               .task = planTask,
                               .result = result,

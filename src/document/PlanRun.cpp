@@ -1,4 +1,4 @@
-// Loading and running of a plan file.
+// Loads and runs a plan.
 #include "document/PlanRun.h"
 
 #include <utility>
@@ -23,9 +23,18 @@ PlanRun::PlanRun(std::string fileName, const std::optional<IniFile>& profile)
         return;
     }
     loaded = ReadPlan(*profile, plan, run.conditions, collector);
-    if (!loaded) {
-        return;
+    if (loaded) {
+        Run();
     }
+}
+
+PlanRun::PlanRun(std::string fileName, Plan given)
+    : name(std::move(fileName)), plan(std::move(given)), loaded(true) {
+    Run();
+}
+
+void PlanRun::Run() {
+    MessageCollector collector(messages);
     const auto conditions = ParseRunConditions(plan);
     if (const auto* const refusal = std::get_if<Message>(&conditions)) {
         collector.Show(*refusal);

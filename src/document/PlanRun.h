@@ -1,4 +1,4 @@
-// A plan file loaded and run without a window.
+// A plan run without a window.
 #pragma once
 
 #include <filesystem>
@@ -16,12 +16,12 @@
 namespace tarvelin {
 
 struct PlanRun {
-    /// The file name without folders.
+    /// The name of the plan's file, without folders.
     std::string name;
     Plan plan;
     LastRun run;
     ResultTexts texts;
-    /// The whole file could be read.
+    /// The whole plan is there.
     bool loaded = false;
     /// The inputs were valid, so that there is a result.
     bool hasRun = false;
@@ -33,6 +33,11 @@ struct PlanRun {
     explicit PlanRun(const std::filesystem::path& file);
     /// The same from the profile of a file; nothing if that couldn't be read.
     PlanRun(std::string fileName, const std::optional<IniFile>& profile);
+    /// The same for a plan that needn't be in a file.
+    PlanRun(std::string fileName, Plan given);
+
+  private:
+    void Run();
 };
 
 }  // namespace tarvelin

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "document/PlanRun.h"
+#include "export/ComparisonTexts.h"
 #include "simulation/RunTexts.h"
 #include "ui/widgets/Controls.h"
 

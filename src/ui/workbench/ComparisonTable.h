@@ -1,7 +1,6 @@
 // A table of what differs between two runs.
 #pragma once
 
-
 #include "export/TextTable.h"
 #include "ui/widgets/ListView.h"
 #include "ui/widgets/TableModel.h"
