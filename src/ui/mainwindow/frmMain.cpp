@@ -430,14 +430,18 @@ std::string frmMain::SecondsBefore() const {
 
 void frmMain::closeEvent(QCloseEvent* event) {
     if (!m_document.IsClosed()) {
-        m_Tmr_Autosave.stop();
-        m_alarms->Silence();
-        emit Closing();
-        m_environment.dialogs.CloseAll();
-        m_environment.fetcher.Abort();
+        Form_Unload();
     }
     QMainWindow::closeEvent(event);
     emit Closed();
+}
+
+void frmMain::Form_Unload() {
+    m_Tmr_Autosave.stop();
+    m_alarms->Silence();
+    emit Closing();
+    m_environment.dialogs.CloseAll();
+    m_environment.fetcher.Abort();
 }
 
 }  // namespace tarvelin

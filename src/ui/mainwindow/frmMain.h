@@ -69,6 +69,7 @@ class frmMain : public QMainWindow {
     QAction* NewMenuEntry(QWidget* menu, const char* name, const char* text);
 
     void ShowChange(const DocumentChange& change);
+    void Form_Unload();
     void WaitUntilExposed();
     void ReadSkin();
     void ShowSkin(Byte mode, const std::string& path);
