@@ -3,7 +3,6 @@
 
 #include <utility>
 
-#include "document/WindowTitle.h"
 #include "persistence/PlanFile.h"
 
 namespace tarvelin {

@@ -11,6 +11,7 @@
 
 #include "document/DocumentChange.h"
 #include "document/Prompts.h"
+#include "document/WindowTitle.h"
 #include "persistence/Autosave.h"
 #include "persistence/Configuration.h"
 #include "plan/EditHistory.h"
@@ -143,7 +144,7 @@ class Document {
     std::size_t m_steps = 0;
     /// The plan as last loaded from or saved to a file of the user's.
     std::optional<PlanSnapshot> m_saved;
-    std::string m_title = "Tarvelin  |  Kelva Aufbau-Simulator";
+    std::string m_title = kWindowTitle;
 
     LastRun m_run;
     ResultTexts m_texts;

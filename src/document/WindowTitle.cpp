@@ -6,7 +6,7 @@
 namespace tarvelin {
 
 std::string WindowTitleFor(const std::filesystem::path& File) {
-    return "Tarvelin  |  Kelva Aufbau-Simulator      ( " + PathToUtf8(File.filename()) + " )";
+    return std::string(kWindowTitle) + "      ( " + PathToUtf8(File.filename()) + " )";
 }
 
 }  // namespace tarvelin

@@ -6,6 +6,9 @@
 
 namespace tarvelin {
 
+/// Without a file.
+inline constexpr const char* kWindowTitle = "Tarvelin  |  Kelva Aufbau-Simulator";
+
 /// With the name of the plan's file, without its folders.
 [[nodiscard]] std::string WindowTitleFor(const std::filesystem::path& File);
 

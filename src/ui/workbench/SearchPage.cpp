@@ -8,8 +8,6 @@
 #include <utility>
 
 #include "search/SearchTexts.h"
-#include "simulation/RunTexts.h"
-#include "simulation/RunTrace.h"
 #include "ui/widgets/Controls.h"
 
 namespace tarvelin {
@@ -36,14 +34,6 @@ QPushButton* NewSearchButton(const char* name, const char* text, QWidget* parent
     return button;
 }
 
-OrderList ListFrom(const std::vector<Order>& orders) {
-    OrderList list;
-    for (const Order& order : orders) {
-        list.Append(order);
-    }
-    return list;
-}
-
 /// How much of a search is done, from 0 to 1.
 double ShareDone(std::uint64_t tries, std::uint64_t total) {
     return total == 0 ? 1 : static_cast<double>(tries) / static_cast<double>(total);
@@ -52,12 +42,6 @@ double ShareDone(std::uint64_t tries, std::uint64_t total) {
 int ToPercent(double share) {
     constexpr double kWhole = 100;
     return static_cast<int>(kWhole * share);
-}
-
-std::string SolutionText(const Solution& solution) {
-    return TimeSpanText(solution.score.duration) + ", " +
-           CountText(static_cast<std::size_t>(solution.score.sittings), "Sitzung", "Sitzungen") +
-           ", " + CountText(solution.orders.size(), "Zeile", "Zeilen");
 }
 
 }  // namespace
@@ -220,11 +204,7 @@ void SearchPage::ShowProgress(const SearchProgress& progress) {
     const double share = ShareDone(progress.tries, progress.totalTries);
     m_progressBar->setValue(ToPercent(share));
     m_plot->AddPoint(share, progress.bestDuration);
-    m_reportLabel->setText(
-        ToQString("Bisher: " + TimeSpanText(progress.bestDuration) + " (" +
-                  SignedTimeSpanText(-progress.gain) + ")\n" + std::to_string(progress.tries) +
-                  " von " + std::to_string(progress.totalTries) + " Versuchen, " +
-                  std::to_string(std::int64_t(progress.triesPerSecond)) + " in der Sekunde"));
+    m_reportLabel->setText(ToQString(ProgressSummary(progress)));
 }
 
 void SearchPage::ShowSearchResult(const SearchResult& result) {
@@ -232,35 +212,8 @@ void SearchPage::ShowSearchResult(const SearchResult& result) {
     m_running = false;
     m_searched->best = result.best;
     m_progressBar->setValue(ToPercent(ShareDone(result.tries, result.totalTries)));
-    m_reportLabel->setText(
-        result.best ? ToQString(ReportText() + "\nVersuche: " + std::to_string(result.tries))
-                    : QStringLiteral("Es wurde keine Liste gefunden, die endet."));
+    m_reportLabel->setText(ToQString(ResultSummary(m_searched->plan, m_searched->task, result)));
     EnableControls();
-}
-
-std::string SearchPage::ReportText() const {
-    const Solution& after = *m_searched->best;
-    const auto& before = m_searched->task.before;
-    std::string text =
-        "Vorher: " +
-        (before ? SolutionText(*before) : "der Plan endet nie oder verfehlt das Ziel") +
-        "\nNachher: " + SolutionText(after);
-    if (before) {
-        text +=
-            "\nUnterschied: " + SignedTimeSpanText(after.score.duration - before->score.duration);
-    }
-    const OrderList& oldOrders = m_searched->plan.LV_Bauliste.Orders();
-    const OrderList newOrders = ListFrom(after.orders);
-    for (const auto& [name, surplus] :
-         {std::pair("\nKommt dazu: ", SurplusInWords(newOrders, oldOrders)),
-          std::pair("\nEntfällt: ", SurplusInWords(oldOrders, newOrders))}) {
-        text += surplus.empty() ? "" : name + surplus;
-    }
-    const RunConditions& conditions = m_searched->task.task.conditions;
-    if (!oldOrders.IsEmpty()) {
-        text += "\nJe Stunde vorher: " + RatesText(TraceRun(oldOrders.All(), conditions).end);
-    }
-    return text + "\nJe Stunde nachher: " + RatesText(TraceRun(newOrders.All(), conditions).end);
 }
 
 void SearchPage::AcceptResult() {

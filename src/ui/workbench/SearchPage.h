@@ -52,7 +52,6 @@ class SearchPage : public QWidget {
     void AcceptResult();
     void ShowProgress(const SearchProgress& progress);
     void ShowSearchResult(const SearchResult& result);
-    [[nodiscard]] std::string ReportText() const;
     void EnableControls();
 
     /// The plan and task of the last search, and the solution to accept.
