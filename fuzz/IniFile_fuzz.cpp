@@ -1,5 +1,6 @@
 // Fuzzes profile files: what a write may change, and what a read gives back.
 #include <algorithm>
+#include <iterator>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -61,18 +62,11 @@ bool HasStayed(std::string_view before, std::string_view after) {
 
 /// Whether one line has changed, or one line or a section with one line has been inserted.
 bool OnlyOnePlace(const Lines& before, const Lines& after) {
-    std::size_t front = 0;
-    while (front < before.size() && front < after.size() &&
-           HasStayed(before[front], after[front])) {
-        ++front;
-    }
-    std::size_t back = 0;
-    while (back < before.size() - front && back < after.size() - front &&
-           before[before.size() - 1 - back] == after[after.size() - 1 - back]) {
-        ++back;
-    }
-    const std::size_t removed = before.size() - front - back;
-    const std::size_t inserted = after.size() - front - back;
+    const auto [oldFront, newFront] = std::ranges::mismatch(before, after, HasStayed);
+    const auto [oldBack, newBack] = std::mismatch(before.rbegin(), std::reverse_iterator(oldFront),
+                                                  after.rbegin(), std::reverse_iterator(newFront));
+    const auto removed = oldBack.base() - oldFront;
+    const auto inserted = newBack.base() - newFront;
     return removed == 0 ? inserted <= 2 : removed == 1 && inserted == 1;
 }
 
@@ -91,15 +85,6 @@ std::vector<std::pair<std::string, std::string>> Names(const Lines& lines, bool 
         }
     }
     return names;
-}
-
-std::string Lowercase(std::string_view text) {
-    std::string lowercase(text);
-    std::ranges::transform(lowercase, lowercase.begin(), [](char character) {
-        return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
-                                                    : character;
-    });
-    return lowercase;
 }
 
 bool HasMargin(std::string_view bytes) {
@@ -126,8 +111,11 @@ void CheckWriting(const std::string& file, const std::string& section, const std
 
     const IniFile before(file);
     const IniFile parsed(after);
+    IniFile written("");
+    written.WriteINI(section, key, "");
     for (const auto& [s, k] : Names(lines, Utf16Order(file).has_value())) {
-        const bool itself = Lowercase(s) == Lowercase(section) && Lowercase(k) == Lowercase(key);
+        // Upper and lower case are the same.
+        const bool itself = written.ReadINI(s, k, "-") != "-";
         Require(itself || parsed.ReadINI(s, k, "-") == before.ReadINI(s, k, "-") || HasMargin(s) ||
                     HasMargin(k),
                 "a write leaves the other keys", k);

@@ -7,6 +7,7 @@
 
 #include "ScriptedPrompts.h"
 #include "TestSupport.h"
+#include "document/PlanRun.h"
 
 namespace tarvelin {
 namespace {
@@ -292,7 +293,7 @@ TEST_F(DocumentTest, ResultsAreThoseOfTheTraceOrOfTheLastRun) {
         ASSERT_EQ(run.LV_Bauzeiten.size(), document->Trace()->starts.size());
         EXPECT_EQ(run.state, document->Trace()->end);
         EXPECT_EQ(document->Texts().LBL_Timegone, "Dauer: " + DurationText(run.state));
-        TestRun anew(document->CurrentPlan());
+        const PlanRun anew("", document->CurrentPlan());
         for (std::size_t i = 0; i < run.LV_Bauzeiten.size(); ++i) {
             EXPECT_EQ(run.LV_Bauzeiten[i].Tag(), anew.run.LV_Bauzeiten[i].Tag());
             EXPECT_EQ(run.LV_Bauzeiten[i].theText(), anew.run.LV_Bauzeiten[i].theText());

@@ -1,19 +1,19 @@
 // Tests profile files: reading, writing, replacing.
+#include <tuple>
+
 #include "TestSupport.h"
 #include "persistence/AtomicWrite.h"
+#include "util/Codepage1252.h"
 
 namespace tarvelin {
 namespace {
 
-struct ReadCase {
-    const char* what;
-    std::string bytes;
-    std::string value;
-};
+/// What a case is about, the bytes before, and what comes of them.
+using Case = std::tuple<const char*, std::string, std::string>;
 
 TEST(IniFile, ReadsAsThePlatformDoes) {
     const std::string long255(255, 'x');
-    const std::vector<ReadCase> cases{
+    const std::vector<Case> cases{
         {"einfach", "[A]\r\nK=v\r\n", "v"},
         {"LF und ohne Ende", "[A]\nK=v", "v"},
         {"CR", "[A]\rK=v\rL=w", "v"},
@@ -41,25 +41,15 @@ TEST(IniFile, ReadsAsThePlatformDoes) {
         {"leere Datei", "", "Standard"},
         {"nur Klammer", "[", "Standard"},
     };
-    for (const ReadCase& testCase : cases) {
-        EXPECT_EQ(IniFile(testCase.bytes).ReadINI("A", "K", "Standard"), testCase.value)
-            << testCase.what;
+    for (const auto& [what, bytes, value] : cases) {
+        EXPECT_EQ(IniFile(bytes).ReadINI("A", "K", "Standard"), value) << what;
     }
-    std::string umlauts;
-    for (int i = 0; i < 300; ++i) {
-        umlauts += "ä";
-    }
+    const std::string umlauts = From1252(std::string(300, '\xE4'));
     EXPECT_EQ(IniFile("").ReadINI("A", "K", umlauts), umlauts.substr(0, 510));
 }
 
-struct WriteCase {
-    const char* what;
-    std::string before;
-    std::string after;
-};
-
 TEST(IniFile, WritesAndKeepsEverythingElse) {
-    const std::vector<WriteCase> cases{
+    const std::vector<Case> cases{
         {"leer", "", "[A]\r\nK=v\r\n"},
         {"nur Marke", "\xEF\xBB\xBF", "\xEF\xBB\xBF[A]\r\nK=v\r\n"},
         {"neuer Abschnitt", "[B]\nx=1", "[B]\nx=1\r\n[A]\r\nK=v\r\n"},
@@ -71,26 +61,31 @@ TEST(IniFile, WritesAndKeepsEverythingElse) {
         {"erster von zweien", "[A]\rk=1\rK=2\r[A]\rK=3", "[A]\rk=v\r\nK=2\r[A]\rK=3"},
         {"fremde Zeilen", "Unsinn\n=\n[A\nK=\"x\"", "Unsinn\n=\n[A\nK=v\r\n"},
     };
-    for (const WriteCase& testCase : cases) {
-        IniFile profile(testCase.before);
-        EXPECT_EQ(profile.Bytes(), testCase.before) << testCase.what;
+    for (const auto& [what, before, after] : cases) {
+        IniFile profile(before);
+        EXPECT_EQ(profile.Bytes(), before) << what;
         profile.WriteINI("A", "K", "v");
-        EXPECT_EQ(profile.Bytes(), testCase.after) << testCase.what;
-        EXPECT_EQ(profile.ReadINI("a", "k", ""), "v") << testCase.what;
+        EXPECT_EQ(profile.Bytes(), after) << what;
         // Writing the key again reads back, with "?" for what the code page lacks.
         profile.WriteINI("A", "K", "ä漢");
-        EXPECT_EQ(IniFile(profile.Bytes()).ReadINI("A", "K", ""), "ä?") << testCase.what;
+        EXPECT_EQ(IniFile(profile.Bytes()).ReadINI("a", "k", ""), "ä?") << what;
     }
 }
 
-struct Utf16Case {
-    const char* what;
-    std::u16string before;
-    std::string value;
-    std::u16string after;
-};
+/// A file in UTF-16 with its byte order mark, big-endian if `highFirst`.
+std::string ToUtf16Bytes(const std::u16string& text, bool highFirst) {
+    std::string bytes;
+    for (const char16_t unit : u'\xFEFF' + text) {
+        const auto high = static_cast<char>(unit >> 8U);
+        const auto low = static_cast<char>(unit & 0xFFU);
+        bytes += {highFirst ? high : low, highFirst ? low : high};
+    }
+    return bytes;
+}
 
 TEST(IniFile, KeepsUtf16WithEveryCharacter) {
+    // What a case is about, the text before, the value of the key, and the text after.
+    using Utf16Case = std::tuple<const char*, std::u16string, std::string, std::u16string>;
     // clang-format off
     const std::vector<Utf16Case> cases{
         {"nur Marke", u"", "Standard", u"[Ä?]\r\nKö=ü?\r\n"},
@@ -103,15 +98,15 @@ TEST(IniFile, KeepsUtf16WithEveryCharacter) {
         {"neue Zeile", u"[Ä?]\n\n;漢", "Standard", u"[Ä?]\n\n;漢\r\nKö=ü?\r\n"},
     };
     // clang-format on
-    for (const Utf16Case& testCase : cases) {
+    for (const auto& [what, before, value, after] : cases) {
         for (const bool highFirst : {false, true}) {
-            SCOPED_TRACE(std::string(testCase.what) + (highFirst ? ", BE" : ", LE"));
-            const std::string before = ToUtf16Bytes(testCase.before, highFirst);
-            IniFile profile(before + "x");  // an incomplete code unit, which is dropped
-            EXPECT_EQ(profile.Bytes(), before);
-            EXPECT_EQ(profile.ReadINI("Ä漢", "kö", "Standard"), testCase.value);
+            SCOPED_TRACE(std::string(what) + (highFirst ? ", BE" : ", LE"));
+            const std::string bytes = ToUtf16Bytes(before, highFirst);
+            IniFile profile(bytes + "x");  // an incomplete code unit, which is dropped
+            EXPECT_EQ(profile.Bytes(), bytes);
+            EXPECT_EQ(profile.ReadINI("Ä漢", "kö", "Standard"), value);
             profile.WriteINI("Ä漢", "Kö", "ü漢");
-            EXPECT_EQ(profile.Bytes(), ToUtf16Bytes(testCase.after, highFirst));
+            EXPECT_EQ(profile.Bytes(), ToUtf16Bytes(after, highFirst));
             EXPECT_EQ(profile.ReadINI("Ä?", "Kö", ""), "ü?");
         }
     }
@@ -122,21 +117,20 @@ TEST(AtomicWrite, ReplacesWhollyOrNotAtAll) {
     const TempFolder folder;
     const auto file = folder / "plan.tvf";
     WriteFile(file, "alt");
-    const perms permissions = perms::owner_read | perms::owner_write | perms::group_read;
-    std::filesystem::permissions(file, permissions);
-    ASSERT_TRUE(WriteFileAtomically(file, "neu"));
-    EXPECT_EQ(ReadFileToString(file), "neu");
+    EXPECT_FALSE(WriteFileAtomically(folder / "", "x"));
     EXPECT_FALSE(WriteFileAtomically(folder / "fehlt" / "plan.tvf", "x"));
     EXPECT_FALSE(WriteFileAtomically("", "x"));
     EXPECT_EQ(folder.Entries(), 1U);
     if (kWindows) {
         return;
     }
-    EXPECT_EQ(std::filesystem::status(file).permissions(), permissions);
+    const perms permissions = perms::owner_read | perms::owner_write | perms::group_read;
+    std::filesystem::permissions(file, permissions);
     std::filesystem::create_symlink(file, folder / "zeiger");
     ASSERT_TRUE(WriteFileAtomically(folder / "zeiger", "neuer"));
     EXPECT_TRUE(std::filesystem::is_symlink(folder / "zeiger"));
     EXPECT_EQ(ReadFileToString(file), "neuer");
+    EXPECT_EQ(std::filesystem::status(file).permissions(), permissions);
     std::filesystem::permissions(file, perms::owner_read);
     // Root may write in spite of the permissions.
     const bool allowed = NativeFileSystem().IsWritable(file);

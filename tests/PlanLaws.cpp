@@ -7,8 +7,10 @@
 #include <map>
 #include <numeric>
 #include <random>
+#include <sstream>
 #include <vector>
 
+#include "document/PlanRun.h"
 #include "export/RunReport.h"
 #include "model/Cost.h"
 #include "model/ItemTable.h"
@@ -30,29 +32,40 @@ namespace {
 
 constexpr SimTime kEndOfClock(std::numeric_limits<Long>::max());
 
-class NullSink final : public MessageSink {
+/// A run played to its end, with all that it reports.
+class PlayedRun final : public RunObserver {
   public:
-    void Show(const Message& /*message*/) override {}
-    void Beep() override {}
-};
+    PlayedRun(std::span<const Order> orders, const RunConditions& conditions)
+        : PlayedRun(Simulation(orders, conditions)) {}
+    /// Goes on from where the simulation is.
+    explicit PlayedRun(Simulation simulation) : states{simulation.State()} {
+        simulation.RunToEnd(*this);
+    }
 
-/// Records all that a run reports, and the state after each of its steps.
-class EventLog final : public RunObserver {
-  public:
     void OnStart(const StartEvent& event) override {
         starts.push_back(event);
-        startEvents.push_back(states.size());
+        startSteps.push_back(states.size());
     }
     void OnNegativeStock(const GameState& /*state*/) override {
-        negativeStockEvents.push_back(states.size());
+        debtSteps.push_back(states.size());
     }
     void OnStepDone(const GameState& state) override { states.push_back(state); }
 
+    /// Whether another run ends with all that happened in this one.
+    [[nodiscard]] bool IsEndOf(const PlayedRun& other) const {
+        const auto isEnd = [](const auto& part, const auto& all) {
+            return part.size() <= all.size() &&
+                   std::equal(part.rbegin(), part.rend(), all.rbegin());
+        };
+        return isEnd(states, other.states) && isEnd(starts, other.starts);
+    }
+
+    /// The state at the beginning and after each step.
+    std::vector<GameState> states;
     std::vector<StartEvent> starts;
     /// The step of each start, and of each report of a negative stock.
-    std::vector<std::size_t> startEvents;
-    std::vector<std::size_t> negativeStockEvents;
-    std::vector<GameState> states;
+    std::vector<std::size_t> startSteps;
+    std::vector<std::size_t> debtSteps;
 };
 
 std::string Bytes(const Plan& plan) {
@@ -61,21 +74,22 @@ std::string Bytes(const Plan& plan) {
     return profile.Bytes();
 }
 
-std::array<const std::string*, 6> Inputs(const StartParameters& parameters) {
-    return {&parameters.UniStartZeitTag,     &parameters.UniStartZeitMonat,
-            &parameters.UniStartZeitJahr,    &parameters.UniStartZeitStunden,
-            &parameters.UniStartZeitMinuten, &parameters.TempMax};
+std::vector<std::string> TagsOf(const BuildList& list) {
+    std::vector<std::string> tags;
+    std::ranges::transform(list.Rows(), std::back_inserter(tags), &BuildListRow::Tag);
+    return tags;
 }
 
 bool IsSavable(const Plan& plan) {
-    const auto inputs = Inputs(plan.parameters);
-    return std::ranges::all_of(inputs, [](const auto* text) { return ComesBack(*text); }) &&
-           std::ranges::all_of(plan.LV_Schlafzeiten,
-                               [](const SleepRow& row) {
-                                   return ComesBack(row.Startzeit) && ComesBack(row.Endzeit);
-                               }) &&
-           std::ranges::all_of(plan.LV_Bauliste.Rows(),
-                               [](const BuildListRow& row) { return ComesBack(row.Tag); });
+    std::vector<std::string> texts = TagsOf(plan.LV_Bauliste);
+    const StartParameters& parameters = plan.parameters;
+    texts.insert(texts.end(), {parameters.UniStartZeitTag, parameters.UniStartZeitMonat,
+                               parameters.UniStartZeitJahr, parameters.UniStartZeitStunden,
+                               parameters.UniStartZeitMinuten, parameters.TempMax});
+    for (const SleepRow& row : plan.LV_Schlafzeiten) {
+        texts.insert(texts.end(), {row.Startzeit, row.Endzeit});
+    }
+    return std::ranges::all_of(texts, ComesBack);
 }
 
 /// The conditions of a plan's run, or default ones if its inputs are unusable.
@@ -85,84 +99,72 @@ RunConditions ConditionsOf(const Plan& plan) {
     return parsed == nullptr ? RunConditions{.Speedfaktor = 1} : *parsed;
 }
 
-/// The stock as the history predicts it, less the costs of the order that started in this step.
-PerResource<FixedPoint> StockAfterStep(const GameState& before, const GameState& after,
-                                       const StartEvent* start) {
-    const HistoryRecorder recorder(before);
-    auto stock = StockAfter(recorder.Recorded().back(), after.secsgone - before.secsgone);
-    if (start != nullptr && start->order.kind == Order::Kind::Item) {
-        const Cost& cost = CostOf(start->order.item, static_cast<Byte>(start->number - 1));
-        for (const Resource resource : kResources) {
-            stock[resource] = stock[resource] - FixedPoint::FromDouble(cost[resource]);
-        }
-    }
-    return stock;
-}
-
-Finding CheckStocks(const EventLog& log, const GameState& initial) {
+/// Each stock is what its history predicts, less the costs; debts are reported.
+Finding CheckStocks(const PlayedRun& run) {
     std::size_t next = 0;
-    for (std::size_t i = 0; i < log.states.size(); ++i) {
-        const GameState& before = i == 0 ? initial : log.states[i - 1];
-        const GameState& state = log.states[i];
-        const bool start = next < log.startEvents.size() && log.startEvents[next] == i;
-        const auto expected = StockAfterStep(before, state, start ? &log.starts[next] : nullptr);
-        next += start ? 1 : 0;
+    for (std::size_t i = 1; i < run.states.size(); ++i) {
+        const GameState& before = run.states[i - 1];
+        const GameState& state = run.states[i];
+        const HistoryRecorder history(before);
+        auto expected = StockAfter(history.Recorded().back(), state.secsgone - before.secsgone);
+        const bool starts = next < run.starts.size() && run.startSteps[next] == i;
+        if (starts && run.starts[next].order.kind == Order::Kind::Item) {
+            const StartEvent& start = run.starts[next];
+            const Cost& cost = CostOf(start.order.item, static_cast<Byte>(start.number - 1));
+            for (const Resource resource : kResources) {
+                expected[resource] = expected[resource] - FixedPoint::FromDouble(cost[resource]);
+            }
+        }
+        next += starts ? 1 : 0;
         if (expected != state.stock && state.secsgone != kEndOfClock) {
             return "a stock is wrong behind step " + std::to_string(i);
         }
-        if ((start && std::ranges::min(state.stock) < FixedPoint()) !=
-            (std::ranges::count(log.negativeStockEvents, i) == 1)) {
+        if ((starts && std::ranges::min(state.stock) < FixedPoint()) !=
+            (std::ranges::count(run.debtSteps, i) == 1)) {
             return "a debt isn't told in step " + std::to_string(i);
         }
     }
     return {};
 }
 
-/// Takes the queue from the code's first letter, independently of the run.
-Finding CheckQueues(const EventLog& log) {
+/// Each order starts in its turn, not before the previous one of its queue is done, and not later
+/// than the previous order without a cause. Takes the queue from the code's first letter.
+Finding CheckStarts(const PlayedRun& run, std::span<const Order> orders, Long klickPuffer) {
     std::map<char, SimTime> free;
-    for (const StartEvent& start : log.starts) {
+    SimTime previous = kEndOfClock;
+    for (std::size_t i = 0; i < orders.size(); ++i) {
+        const std::string row = "row " + std::to_string(i + 1);
+        if (run.starts.size() != orders.size() || run.starts[i].row != i ||
+            run.starts[i].order != orders[i]) {
+            return row + " hasn't started in its turn";
+        }
+        const StartEvent& start = run.starts[i];
         SimTime& until = free[start.order.Tag().front()];
         if (start.order.kind == Order::Kind::Item && start.start < until) {
-            return "row " + std::to_string(start.row + 1) + " starts within its queue's last one";
+            return row + " starts within its queue's last one";
         }
         until = std::max(until, start.finish);
+        if (start.delay.cause == DelayCause::None &&
+            start.start + -std::int64_t{klickPuffer} > previous) {
+            return row + " waits without a cause";
+        }
+        previous = start.start;
     }
     return {};
 }
 
+/// The final levels are the counts of the list, and the spent resources the sum of the costs.
 Finding CheckSums(const OrderList& list, const GameState& state) {
     double spent = 0;
     for (const ItemRow& row : ItemTable()) {
-        if (state.Stufe[row.item] != list.ListStufe(row.item)) {
-            return "a level is wrong";
-        }
         for (Byte level = 0; level < list.ListStufe(row.item); ++level) {
             const Cost& cost = CostOf(row.item, level);
             spent = std::accumulate(cost.begin(), cost.end(), spent);
         }
     }
-    return state.VerbauteRessourcen == HalfEvenLong(spent) ? "" : "the sum of costs is wrong";
-}
-
-/// Whether a resumed run reports and does the same as the whole one from step `step` on.
-bool GoesOnLike(const EventLog& whole, std::size_t step, const EventLog& rest) {
-    const auto starts =
-        std::ranges::lower_bound(whole.startEvents, step) - whole.startEvents.begin();
-    return std::ranges::equal(whole.states.begin() + static_cast<std::ptrdiff_t>(step),
-                              whole.states.end(), rest.states.begin(), rest.states.end()) &&
-           std::ranges::equal(whole.starts.begin() + starts, whole.starts.end(),
-                              rest.starts.begin(), rest.starts.end());
-}
-
-/// A run over the first `n` orders, up to the step that started the last of them.
-Simulation RunUntil(std::span<const Order> orders, std::size_t n, const RunConditions& conditions) {
-    Simulation simulation(orders.first(n), conditions);
-    EventLog quiet;
-    while (quiet.starts.size() < n) {
-        simulation.Step(quiet);
-    }
-    return simulation;
+    return state.Stufe == list.ListStufe() && state.VerbauteRessourcen == HalfEvenLong(spent)
+               ? ""
+               : "a level or the sum of costs is wrong";
 }
 
 /// How many rows break their rule.
@@ -214,102 +216,60 @@ ListEdit AnyRows(const BuildList& list, std::minstd_rand& random) {
     return edit;
 }
 
-/// The list that dropping the rows one by one gives.
-BuildList DroppedOneByOne(std::span<const Order> orders, const RunConditions& conditions) {
-    BuildList list;
-    for (const Order& order : orders) {
-        static_cast<void>(order.kind == Order::Kind::Item
-                              ? list.AddItem(order.item, conditions)
-                              : list.AddProduction(order.factors, conditions));
-    }
-    return list;
-}
-
-}  // namespace
-
-std::string StateText(const BuildList& list) {
-    std::string text;
-    for (const BuildListRow& row : list.Rows()) {
-        text += row.text + "|" + row.Tag + "|" + row.SubItems1 + "|" + row.SubItems2 + "|" +
-                (row.SubItems2Color == TextColor::Red ? "rot\n" : "schwarz\n");
-    }
-    for (const ItemRow& row : ItemTable()) {
-        text += std::to_string(list.Orders().ListStufe(row.item)) + " ";
-    }
-    for (const Byte factor : list.Orders().ListFaktor()) {
-        text += std::to_string(factor) + " ";
-    }
-    return text;
-}
-
-std::string ResultText(const Plan& plan) {
-    const PlanRun document("plan.tvf", IniFile(Bytes(plan)));
-    return RunText(document) + RunCsv(document) + RunJson(document);
-}
-
+/// A saved plan loads with the same codes, inputs, texts and result. Holds trivially for a plan
+/// with texts that a file can't store.
 Finding CheckSaving(const Plan& plan) {
     if (!IsSavable(plan)) {
         return {};
     }
     // The factor texts depend on the temperature, so both lists are made with the same one.
     const RunConditions conditions;
-    NullSink messages;
+    std::vector<Message> messages;
+    MessageCollector collector(messages);
     Plan before;
     Plan after;
-    if (!ReadPlan(IniFile(Bytes(plan)), before, conditions, messages) ||
-        !ReadPlan(IniFile(Bytes(before)), after, conditions, messages)) {
+    if (!ReadPlan(IniFile(Bytes(plan)), before, conditions, collector) ||
+        !ReadPlan(IniFile(Bytes(before)), after, conditions, collector)) {
         return "a saved plan can't be loaded";
     }
-    if (Bytes(after) != Bytes(plan) || after.LV_Schlafzeiten != plan.LV_Schlafzeiten) {
-        return "a saved plan comes back as\n" + Bytes(after);
-    }
-    if (StateText(after.LV_Bauliste) != StateText(before.LV_Bauliste)) {
-        return "a saved list comes back as\n" + StateText(after.LV_Bauliste);
+    if (Bytes(after) != Bytes(plan) || after.LV_Schlafzeiten != plan.LV_Schlafzeiten ||
+        StateText(after.LV_Bauliste) != StateText(before.LV_Bauliste)) {
+        return "a saved plan comes back as\n" + Bytes(after) + StateText(after.LV_Bauliste);
     }
     return ResultText(after) == ResultText(plan) ? "" : "a saved plan has another result";
 }
 
+/// After each row of the plan: adding another row and undoing it leaves the list as it was.
 Finding CheckUndo(const Plan& plan) {
     const RunConditions conditions = ConditionsOf(plan);
     BuildList list;
     for (const BuildListRow& row : plan.LV_Bauliste.Rows()) {
         const std::string before = StateText(list);
-        const auto other = static_cast<ItemId>(list.Rows().size() % ItemTable().size());
-        if (list.AddItem(other, conditions)) {
-            return "a row can't be added";
-        }
-        list.RemoveLast();
-        if (!list.AddProduction({{1, 2, 3}}, conditions)) {
+        for (const std::string_view other :
+             {ItemTable()[list.Rows().size() % kNumItems].ItemCode, std::string_view("GX:1:2:3")}) {
+            if (!list.Replay(other, conditions)) {
+                return "a row can't be added";
+            }
             list.RemoveLast();
         }
         if (StateText(list) != before) {
             return "an undo leaves\n" + StateText(list);
         }
-        if (!list.Replay(row.Tag, conditions)) {
-            return "a row can't be repeated";
-        }
+        static_cast<void>(list.Replay(row.Tag, conditions));
     }
-    return {};
+    return TagsOf(list) == TagsOf(plan.LV_Bauliste) ? "" : "a row can't be repeated";
 }
 
+/// The books of a run balance.
 Finding CheckBooks(const Plan& plan) {
     if (std::holds_alternative<Message>(ParseRunConditions(plan))) {
         return {};
     }
     const RunConditions conditions = ConditionsOf(plan);
     const OrderList& list = plan.LV_Bauliste.Orders();
-    Simulation simulation(list.All(), conditions);
-    const GameState initial = simulation.State();
-    EventLog log;
-    simulation.RunToEnd(log);
-    for (std::size_t i = 0; i < list.Size(); ++i) {
-        if (log.starts.size() != list.Size() || log.starts[i].row != i ||
-            log.starts[i].order != list.All()[i]) {
-            return "row " + std::to_string(i + 1) + " hasn't started in its turn";
-        }
-    }
-    for (const Finding& finding :
-         {CheckQueues(log), CheckStocks(log, initial), CheckSums(list, simulation.State())}) {
+    const PlayedRun run(list.All(), conditions);
+    for (const Finding& finding : {CheckStarts(run, list.All(), conditions.KlickPuffer),
+                                   CheckStocks(run), CheckSums(list, run.states.back())}) {
         if (!finding.empty()) {
             return finding;
         }
@@ -317,58 +277,40 @@ Finding CheckBooks(const Plan& plan) {
     return {};
 }
 
+/// A copy of a run that goes on with the same or other orders does the same as a run over these
+/// from the beginning, and changes nothing of what it was copied from.
 Finding CheckResuming(const Plan& plan) {
     constexpr std::size_t kTrials = 12;
     const RunConditions conditions = ConditionsOf(plan);
     const auto orders = plan.LV_Bauliste.Orders().All();
-    std::vector<Order> other(orders.begin(), orders.end());
-    Simulation simulation(orders, conditions);
-    std::vector<Simulation> copies;
-    EventLog whole;
-    while (!simulation.IsFinished()) {
-        copies.push_back(simulation);
-        simulation.Step(whole);
-    }
-    for (std::size_t step = 0; step < copies.size(); step += 1 + copies.size() / kTrials) {
-        const GameState before = copies[step].State();
-        Simulation copy = copies[step];
-        EventLog rest;
-        copy.RunToEnd(rest);
-        if (!GoesOnLike(whole, step, rest) || copy.State() != simulation.State()) {
-            return "a copy goes on otherwise from step " + std::to_string(step);
-        }
-        if (copies[step].State() != before) {
-            return "a copy has changed what it was copied from";
-        }
-    }
     for (std::size_t n = 1; n < orders.size(); n += 1 + orders.size() / kTrials) {
-        std::ranges::copy(orders, other.begin());
+        std::vector<Order> other(orders.begin(), orders.end());
         std::ranges::reverse(other.begin() + static_cast<std::ptrdiff_t>(n), other.end());
-        Simulation fresh(other, conditions);
-        EventLog fromStart;
-        fresh.RunToEnd(fromStart);
-        Simulation resumed = RunUntil(orders, n, conditions);
-        resumed.ReplaceOrders(other);
-        EventLog rest;
-        resumed.RunToEnd(rest);
-        if (!GoesOnLike(fromStart, fromStart.states.size() - rest.states.size(), rest) ||
-            rest.starts.size() != orders.size() - n) {
-            return "a run goes on otherwise behind row " + std::to_string(n);
+        Simulation simulation(orders.first(n), conditions);
+        for (PlayedRun begun{Simulation({}, conditions)}; begun.starts.size() < n;) {
+            simulation.Step(begun);
+        }
+        for (const std::span<const Order> list : {std::span<const Order>(other), orders}) {
+            Simulation copy = simulation;
+            copy.ReplaceOrders(list);
+            const PlayedRun rest(copy);
+            if (!rest.IsEndOf(PlayedRun(list, conditions)) ||
+                rest.starts.size() != orders.size() - n) {
+                return "a run goes on otherwise behind row " + std::to_string(n);
+            }
         }
     }
     return {};
 }
 
+/// Passing a time at once equals passing it in pieces, if these lose no fraction.
 Finding CheckTimeJump(const Plan& plan) {
     constexpr Long kPieces = 7;
     constexpr std::int64_t kHour = 3600;
     constexpr std::int64_t kExact = std::int64_t{1} << 40U;
     const RunConditions conditions = ConditionsOf(plan);
-    Simulation simulation(plan.LV_Bauliste.Orders().All(), conditions);
-    EventLog quiet;
-    simulation.RunToEnd(quiet);
-    GameState jumped = simulation.State();
-    GameState stepped = simulation.State();
+    GameState jumped = PlayedRun(plan.LV_Bauliste.Orders().All(), conditions).states.back();
+    GameState stepped = jumped;
     std::int64_t divisor = kHour;
     for (const FixedPoint rate : jumped.ProStunde) {
         divisor = std::gcd(divisor, rate.Raw());
@@ -386,11 +328,13 @@ Finding CheckTimeJump(const Plan& plan) {
                : "a jump is no walk of " + std::to_string(piece) + " s";
 }
 
+/// Repeating a run in the same `LastRun` gives the same result.
 Finding CheckRepetition(const Plan& plan) {
     PlanRun document("plan.tvf", IniFile(Bytes(plan)));
     const std::string once = RunJson(document);
     if (document.hasRun) {
-        NullSink messages;
+        std::vector<Message> repeated;
+        MessageCollector messages(repeated);
         document.run.ResetSimulation(ConditionsOf(document.plan));
         RunSimulation(document.plan.LV_Bauliste.Orders().All(), document.run, messages);
         document.texts.AfterRun(document.run.state);
@@ -398,47 +342,45 @@ Finding CheckRepetition(const Plan& plan) {
     return RunJson(document) == once ? "" : "a second run has another result";
 }
 
+/// The curve of a run goes forward in time, and has for each moment what the run recorded last.
 Finding CheckCurve(const Plan& plan) {
     if (plan.LV_Bauliste.Orders().IsEmpty()) {
         return {};
     }
-    const RunConditions conditions = ConditionsOf(plan);
-    const RunTrace trace = TraceRun(plan.LV_Bauliste.Orders().All(), conditions);
-    Simulation simulation(plan.LV_Bauliste.Orders().All(), conditions);
-    EventLog log;
-    log.OnStepDone(simulation.State());
-    simulation.RunToEnd(log);
-    const auto byTime = [](const HistoryPoint& a, const HistoryPoint& b) {
-        return a.time >= b.time;
-    };
-    if (std::ranges::adjacent_find(trace.curve, byTime) != trace.curve.end()) {
+    const auto orders = plan.LV_Bauliste.Orders().All();
+    const RunTrace trace = TraceRun(orders, ConditionsOf(plan));
+    const PlayedRun run(orders, trace.conditions);
+    if (!std::ranges::is_sorted(trace.curve, std::ranges::less_equal(), &HistoryPoint::time)) {
         return "the curve goes back in time";
     }
-    for (std::size_t i = 0; i < log.states.size(); ++i) {
-        const SimTime at = log.states[i].secsgone;
+    for (std::size_t i = 0; i < run.states.size(); ++i) {
+        const SimTime at = run.states[i].secsgone;
         // A click buffer can set the clock back: the last record that isn't later counts.
         std::size_t last = i;
-        for (std::size_t j = i + 1; j < log.states.size(); ++j) {
-            last = log.states[j].secsgone <= at ? j : last;
+        for (std::size_t j = i + 1; j < run.states.size(); ++j) {
+            last = run.states[j].secsgone <= at ? j : last;
         }
         const HistoryPoint& point = PointAt(trace.curve, at);
-        const GameState& state = log.states[last];
+        const GameState& state = run.states[last];
         if (point.time != state.secsgone || point.stock != state.stock ||
             point.ProStunde != state.ProStunde || point.Stufe != state.Stufe) {
             return "the curve is wrong at " + std::to_string(at.Seconds());
         }
     }
-    return trace.end == simulation.State() && trace.starts == log.starts
+    return trace.end == run.states.back() && trace.starts == run.starts
                ? ""
                : "a run that is drawn is another one";
 }
 
+/// Edits anywhere in the list: an accepted edit breaks no rule that held before, a refused one
+/// would; the list after it equals its rows dropped one by one; undo and redo give the same rows.
 Finding CheckEdits(const Plan& plan) {
     constexpr int kTrials = 25;
     const RunConditions conditions = ConditionsOf(plan);
     std::minstd_rand random(static_cast<unsigned>(plan.LV_Bauliste.Rows().size()) + 1);
     std::vector<std::vector<Order>> states{SnapshotOf(plan).orders};
-    BuildList list = DroppedOneByOne(states.front(), conditions);
+    BuildList list;
+    list.SetOrders(states.front(), conditions);
     EditHistory history;
     history.Begin({.orders = states.front()});
     for (int i = 0; i < kTrials; ++i) {
@@ -459,7 +401,11 @@ Finding CheckEdits(const Plan& plan) {
         history.Record({.orders = orders});
         list.SetOrders(orders, conditions);
         states.push_back(orders);
-        if (StateText(list) != StateText(DroppedOneByOne(orders, conditions))) {
+        BuildList anew;
+        for (const Order& order : orders) {
+            static_cast<void>(anew.Replay(order.Tag(), conditions));
+        }
+        if (StateText(list) != StateText(anew)) {
             return "an edited list isn't its rows dropped anew";
         }
     }
@@ -472,6 +418,9 @@ Finding CheckEdits(const Plan& plan) {
     return history.CanUndo() ? "there is more to take back than was done" : "";
 }
 
+/// Comparing a run with itself finds nothing; comparing two is symmetric, and lists each order that
+/// isn't started at the same moment by the earlier of its starts, with a difference if both have
+/// it.
 Finding CheckComparison(const Plan& plan) {
     if (plan.LV_Bauliste.Orders().IsEmpty()) {
         return {};
@@ -495,14 +444,44 @@ Finding CheckComparison(const Plan& plan) {
         forward.differences != backward.differences) {
         return "a comparison has no mirror";
     }
-    // Every start is listed, or equal in both runs.
     std::size_t inA = 0;
     std::size_t inB = 0;
+    SimTime earlier(0);
     for (const ComparisonRow& row : forward.differences) {
         inA += row.a ? 1U : 0U;
         inB += row.b ? 1U : 0U;
+        const SimTime first = std::min(row.a.value_or(kEndOfClock), row.b.value_or(kEndOfClock));
+        const auto difference = row.Difference();
+        if (first < earlier || row.a == row.b || difference.has_value() != (row.a && row.b) ||
+            (difference && *row.a + *difference != *row.b)) {
+            return "a row of a comparison is wrong";
+        }
+        earlier = first;
     }
+    // Every start is listed, or equal in both runs.
     return a.starts.size() - inA == b.starts.size() - inB ? "" : "a comparison loses orders";
+}
+
+}  // namespace
+
+std::string StateText(const BuildList& list) {
+    std::string text;
+    for (const BuildListRow& row : list.Rows()) {
+        text += row.text + "|" + row.Tag + "|" + row.SubItems1 + "|" + row.SubItems2 + "|" +
+                (row.SubItems2Color == TextColor::Red ? "rot\n" : "schwarz\n");
+    }
+    for (const ItemRow& row : ItemTable()) {
+        text += std::to_string(list.Orders().ListStufe(row.item)) + " ";
+    }
+    for (const Byte factor : list.Orders().ListFaktor()) {
+        text += std::to_string(factor) + " ";
+    }
+    return text;
+}
+
+std::string ResultText(const Plan& plan) {
+    const PlanRun document("plan.tvf", IniFile(Bytes(plan)));
+    return RunText(document) + RunCsv(document) + RunJson(document);
 }
 
 Finding CheckLaws(const Plan& plan) {

@@ -16,6 +16,7 @@
 #include "persistence/PlanFile.h"
 #include "simulation/ResultTexts.h"
 #include "simulation/RunSimulation.h"
+#include "simulation/RunTrace.h"
 
 namespace tarvelin {
 
@@ -25,14 +26,13 @@ inline constexpr bool kWindows = true;
 inline constexpr bool kWindows = false;
 #endif
 
-/// Records messages and counts beeps.
+/// Records messages.
 class MessageRecorder final : public MessageSink {
   public:
     void Show(const Message& message) override { texts.push_back(message.text); }
-    void Beep() override { ++beeps; }
+    void Beep() override {}
 
     std::vector<std::string> texts;
-    int beeps = 0;
 };
 
 /// A new folder that is deleted with the object. Its name has the process id, as tests run in
@@ -88,17 +88,6 @@ inline int Execute(const TempFolder& folder, const std::string& command) {
     return kWindows ? status : status >> 8;
 }
 
-/// A file in UTF-16 with its byte order mark, big-endian if `highFirst`.
-inline std::string ToUtf16Bytes(const std::u16string& text, bool highFirst) {
-    std::string bytes;
-    for (const char16_t unit : u'\xFEFF' + text) {
-        const auto high = static_cast<char>(unit >> 8U);
-        const auto low = static_cast<char>(unit & 0xFFU);
-        bytes += {highFirst ? high : low, highFirst ? low : high};
-    }
-    return bytes;
-}
-
 /// A plan that starts on 18.11.2006 12:30 without a click buffer; its rows are `Tag`s separated by
 /// blanks.
 inline Plan PlanOf(std::string_view tags, const RunConditions& conditions = {}) {
@@ -115,22 +104,10 @@ inline Plan PlanOf(std::string_view tags, const RunConditions& conditions = {}) 
     return plan;
 }
 
-/// The run of a plan, unless its inputs are unusable.
-struct TestRun {
-    LastRun run;
-    MessageRecorder messages;
-    bool succeeded = false;
-
-    explicit TestRun(const Plan& plan) {
-        const auto conditions = ParseRunConditions(plan);
-        if (const auto* const refusal = std::get_if<Message>(&conditions)) {
-            messages.Show(*refusal);
-            return;
-        }
-        run.ResetSimulation(std::get<RunConditions>(conditions));
-        RunSimulation(plan.LV_Bauliste.Orders().All(), run, messages);
-        succeeded = true;
-    }
-};
+/// The recorded run of a plan with usable inputs.
+inline RunTrace TraceRun(const Plan& plan) {
+    return TraceRun(plan.LV_Bauliste.Orders().All(),
+                    std::get<RunConditions>(ParseRunConditions(plan)));
+}
 
 }  // namespace tarvelin
