@@ -74,6 +74,28 @@ inline void CreateData(const std::filesystem::path& folder) {
     fs::remove(folder / "saves" / "basic.tvf");
 }
 
+/// The control of this name in a window.
+template <class T = QWidget>
+T& FindIn(const QWidget& window, const char* name) {
+    T* const found = window.findChild<T*>(QString::fromUtf8(name));
+    if (found == nullptr) {
+        throw std::out_of_range(name);
+    }
+    return *found;
+}
+
+inline std::string CellText(const QTreeView& list, int row, int column) {
+    return list.model()->index(row, column).data().toString().toStdString();
+}
+
+inline QRect RowRect(const QTreeView& list, int row) {
+    return list.visualRect(list.model()->index(row, 0));
+}
+
+inline bool ShowsRow(const QTreeView& list, int row) {
+    return list.viewport()->rect().contains(RowRect(list, row));
+}
+
 /// The main window on Saturday, 18 November 2006, in a folder of its own with the data of the
 /// repository except the starter plan.
 class MainWindow : public testing::Test {
@@ -86,11 +108,7 @@ class MainWindow : public testing::Test {
 
     template <class T = QWidget>
     T& Find(const char* name) {
-        T* const found = m_window.findChild<T*>(QString::fromUtf8(name));
-        if (found == nullptr) {
-            throw std::out_of_range(name);
-        }
-        return *found;
+        return FindIn<T>(m_window, name);
     }
     std::string TextOf(const char* name) {
         return Find(name).property("text").toString().toStdString();
@@ -110,18 +128,24 @@ class MainWindow : public testing::Test {
         QTest::mouseMove(&widget, widget.rect().center());
     }
     std::string Cell(const char* list, int row, int column) {
-        const auto* const model = Find<QTreeView>(list).model();
-        return model->index(row, column).data().toString().toStdString();
+        return CellText(Find<QTreeView>(list), row, column);
     }
     int RowCount(const char* list) { return Find<QTreeView>(list).model()->rowCount(); }
+    void ShowPanels() {
+        for (const char* const panel : kPanels) {
+            Find(panel).show();
+        }
+    }
+    void Drop(std::string_view picture) {
+        emit Find<BuildListView>("LV_Bauliste").DragDrop(ToQString(picture));
+    }
     /// Clears the list and drops the items with these codes, separated by blanks.
     void Load(std::string_view codes) {
         Press("Cmd_Clear");
         for (std::size_t begin = 0; begin < codes.size();) {
             const std::size_t end = std::min(codes.find(' ', begin), codes.size());
             const auto item = ItemFromCode(codes.substr(begin, end - begin));
-            emit Find<BuildListView>("LV_Bauliste")
-                .DragDrop(ToQString(ItemDisplays()[*item].pictureName));
+            Drop(ItemDisplays()[*item].pictureName);
             begin = end + 1;
         }
     }
@@ -130,6 +154,9 @@ class MainWindow : public testing::Test {
         ASSERT_TRUE(SaveBauliste(m_folder / "plan.tvf", plan));
         m_document.LoadBauliste(m_folder / "plan.tvf", true);
     }
+
+    static constexpr const char* kPanels[] = {"Fra_Einstellungen", "Fra_Special", "Fra_Skin",
+                                              "Fra_Sleep"};
 
     TempFolder m_folder;
     FakeDialogs m_dialogs;
