@@ -84,6 +84,14 @@ T& FindIn(const QWidget& window, const char* name) {
     return *found;
 }
 
+/// The one window of this name.
+inline QWidget& OnlyWindow(const char* name) {
+    QWidgetList windows = QApplication::topLevelWidgets();
+    windows.removeIf([&](const QWidget* w) { return w->objectName() != ToQString(name); });
+    EXPECT_EQ(windows.size(), 1) << name;
+    return *windows.front();
+}
+
 inline std::string CellText(const QTreeView& list, int row, int column) {
     return list.model()->index(row, column).data().toString().toStdString();
 }
@@ -142,11 +150,9 @@ class MainWindow : public testing::Test {
     /// Clears the list and drops the items with these codes, separated by blanks.
     void Load(std::string_view codes) {
         Press("Cmd_Clear");
-        for (std::size_t begin = 0; begin < codes.size();) {
-            const std::size_t end = std::min(codes.find(' ', begin), codes.size());
-            const auto item = ItemFromCode(codes.substr(begin, end - begin));
-            Drop(ItemDisplays()[*item].pictureName);
-            begin = end + 1;
+        const Plan plan = PlanOf(codes);
+        for (const Order& order : plan.LV_Bauliste.Orders().All()) {
+            Drop(ItemDisplays()[order.item].pictureName);
         }
     }
     /// Loads a plan from a file, which also runs it.
