@@ -30,10 +30,7 @@ def starts(program, plan):
     for order in orders:
         # JSON keeps a misspelt name, as programs know it; calendars are for people.
         order["Auftrag"] = order["Auftrag"].replace("Rakentenwerfer", "Raketenwerfer")
-        day, time_of_day = order["Startzeit"].split()
-        day, month, year = map(int, day.split("."))
-        order["at"] = datetime.datetime.combine(datetime.date(year, month, day),
-                                                datetime.time.fromisoformat(time_of_day))
+        order["at"] = datetime.datetime.strptime(order["Startzeit"], "%d.%m.%Y %H:%M:%S")
     return sorted(orders, key=lambda order: order["at"])
 
 
@@ -81,16 +78,13 @@ def main(program, plans):
                 assert call(program, "--ical", nothing, plan).returncode == 1
                 assert not os.path.exists(nothing)
                 continue
-            groups = expected_groups(orders)
             entries = read_entries(program, plan, file)
-            assert len(entries) == len(groups), plan
-            for entry, (at, orders) in zip(entries, groups):
+            for entry, (at, orders) in zip(entries, expected_groups(orders), strict=True):
                 check(entry, at, orders)
             uids = [entry["UID"] for entry in entries]
             assert len(set(uids)) == len(uids), plan
             # By the same ids a second import replaces the first.
-            again = read_entries(program, plan, os.path.join(folder, "again.ics"))
-            assert [entry["UID"] for entry in again] == uids
+            assert [entry["UID"] for entry in read_entries(program, plan, file)] == uids
 
 
 if __name__ == "__main__":

@@ -4,7 +4,6 @@ dialog, ends the program and kills it. Nothing may crash, hang, or leave a plan 
 
     monkey_test.py FOLDER_OF_THE_PROGRAMS SEED ACTIONS
 """
-import collections
 import contextlib
 import glob
 import os
@@ -38,7 +37,6 @@ class Monkey:
         self.environment = {"http_proxy": "http://127.0.0.1:9", "https_proxy": "http://127.0.0.1:9",
                             "no_proxy": "", "BROWSER": "true"}
         self.hands = Hands()
-        self.counter = collections.Counter()
         copy_program(programs, self.folder)
         shutil.copy(STARTER_PLAN, os.path.join(self.folder, "saves", "basic.tvf"))
         Atspi.set_timeout(15000, 15000)
@@ -52,22 +50,21 @@ class Monkey:
     def record_targets(self):
         """Finds out where the visible controls are."""
         self.targets, self.pictures, self.build_list = [], [], None
-        for top_level in self.program.top_levels():
-            self.record(top_level)
-
-    def record(self, node):
-        if node is None or not has_state(node, Atspi.StateType.SHOWING):
-            return
-        role, extents = node.get_role_name(), node.get_extents(Atspi.CoordType.SCREEN)
-        if role == "image":
-            self.pictures.append(extents)
-        elif role in CONTROLS:
-            self.targets.append(extents)
-        if node.get_name() == "Bauliste":
-            self.build_list = extents
-        # Not into the lists, which can have hundreds of cells.
-        for i in range(0 if role in ("tree", "table") else node.get_child_count()):
-            self.record(node.get_child_at_index(i))
+        nodes = self.program.top_levels()
+        while nodes:
+            node = nodes.pop()
+            if node is None or not has_state(node, Atspi.StateType.SHOWING):
+                continue
+            role, extents = node.get_role_name(), node.get_extents(Atspi.CoordType.SCREEN)
+            if role == "image":
+                self.pictures.append(extents)
+            elif role in CONTROLS:
+                self.targets.append(extents)
+            if node.get_name() == "Bauliste":
+                self.build_list = extents
+            # Not into the lists, which can have hundreds of cells.
+            if role not in ("tree", "table"):
+                nodes += [node.get_child_at_index(i) for i in range(node.get_child_count())]
 
     def point_in(self, areas):
         extents = self.dice.choice(areas)
@@ -89,9 +86,8 @@ class Monkey:
 
     def end_by_signal(self):
         """Asks the program to end, whatever is open."""
-        which = self.dice.choice([signal.SIGTERM, signal.SIGHUP, signal.SIGINT])
-        self.counter[which.name] += 1
-        self.program.process.send_signal(which)
+        self.program.process.send_signal(
+            self.dice.choice([signal.SIGTERM, signal.SIGHUP, signal.SIGINT]))
         self.program.process.wait(30)
         return ""
 
@@ -99,7 +95,6 @@ class Monkey:
         """Kills the program, at once or while it saves."""
         if self.dice.random() < 0.5:
             self.hands.do(f"key alt+F4 sleep {self.dice.uniform(0, 0.05):.3f}")
-        self.counter["SIGKILL"] += 1
         self.program.process.kill()
         self.program.process.wait()
         return ""
@@ -124,7 +119,6 @@ class Monkey:
                     wait_for(lambda node=node: node not in self.program.top_levels(),
                              "end of a box")
             elif node.get_role_name() == "dialog":
-                self.counter[node.get_name()] += 1
                 name = self.dice.choice(["monkey.tvf", "autosave.tvf", "missing.tvf"])
                 self.hands.do(f'key ctrl+a type --delay 1 "{self.folder}/saves/{name}"')
                 self.hands.do("key Return")
@@ -163,7 +157,6 @@ def main(programs, seed, actions):
         finally:
             monkey.program.process.kill()
             monkey.program.process.wait()
-    print(dict(monkey.counter))
 
 
 if __name__ == "__main__":

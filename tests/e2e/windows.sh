@@ -8,15 +8,8 @@ WINEPREFIX=$HOME/windows
 export WINEDLLOVERRIDES="winemenubuilder.exe,mscoree,mshtml="
 # screen.sh sets a platform that Windows doesn't have.
 unset QT_QPA_PLATFORM
-clean_up() {
-    /usr/lib/wine/wineserver -k || true
-    # A program that is just ending may still write something.
-    for _ in {1..50}; do
-        rm -rf "$HOME" 2>/dev/null && break
-        sleep 0.1
-    done
-}
-trap clean_up EXIT
+# screen.sh removes what is left of it.
+trap '/usr/lib/wine/wineserver -k || true' EXIT
 /usr/lib/wine/wine64 wineboot --init >/dev/null 2>&1
 # The oldest version that the toolkit supports.
 /usr/lib/wine/wine64 winecfg -v win10 >/dev/null 2>&1
