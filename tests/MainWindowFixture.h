@@ -130,11 +130,7 @@ class MainWindow : public testing::Test {
         QTest::keyClicks(&input, QString::fromUtf8(text));
     }
     /// Moves the pointer over a picture.
-    void Show(const char* picture) {
-        auto& widget = Find(picture);
-        QTest::mouseMove(&widget, QPoint(1, 1));
-        QTest::mouseMove(&widget, widget.rect().center());
-    }
+    void Show(const char* picture) { MoveMouse(Find(picture), {1, 1}); }
     std::string Cell(const char* list, int row, int column) {
         return CellText(Find<QTreeView>(list), row, column);
     }

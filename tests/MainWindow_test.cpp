@@ -13,16 +13,6 @@
 namespace tarvelin {
 namespace {
 
-TEST_F(MainWindow, GroupsStandSideBySide) {
-    int right = -1;
-    for (const char* const group : {"Frame8", "Frame3", "Frame1", "Frame9", "Frame4", "Frame6"}) {
-        EXPECT_GT(Find(group).x(), right) << group;
-        right = Find(group).geometry().right();
-    }
-    EXPECT_LT(right, Find("Fra_Rest").width());
-    EXPECT_EQ(Find("Fra_Rest").visibleRegion().boundingRect(), Find("Fra_Rest").rect());
-}
-
 TEST_F(MainWindow, SmallScreenScrollsTheSurface) {
     for (const auto& [screen, size] :
          std::vector<std::pair<QSize, QSize>>{{{858, 335}, {858, 335}},
@@ -42,6 +32,13 @@ TEST_F(MainWindow, SmallScreenScrollsTheSurface) {
 
 // Every visible widget with a text has room for it, with all panels open.
 TEST_F(MainWindow, NoWordIsCutOff) {
+    EXPECT_EQ(Find("Fra_Rest").visibleRegion().boundingRect(), Find("Fra_Rest").rect());
+    int right = -1;
+    for (const char* const group : {"Frame8", "Frame3", "Frame1", "Frame9", "Frame4", "Frame6"}) {
+        EXPECT_GT(Find(group).x(), right) << group;
+        right = Find(group).geometry().right();
+    }
+    EXPECT_LT(right, Find("Fra_Rest").width());
     Load("GD GS GR GR GW");
     m_document.RunSimulation(true);
     ShowPanels();

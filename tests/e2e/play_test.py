@@ -18,7 +18,7 @@ from compare import expected, run_plan, shown, texts
 from driver import (STARTER_PLAN, Atspi, Ear, Program, copy_program, find_window, first_window,
                     has_state, wait_for, xdotool)
 from opening import play
-from skinserver import SkinServer, color, picture
+from skinserver import SkinServer, color
 
 LABELS = ["LBL_Timegone", "LBL_Met", "LBL_Kris", "LBL_Deut", "LBL_ENergie", "LBL_Punkte"]
 
@@ -106,7 +106,7 @@ def recover(programs, folder, result):
 
 def check_web_skin(program):
     """A skin is fetched and shown."""
-    server = SkinServer(lambda path: (200, picture(path), None))
+    server = SkinServer()
     points_color = program.colors()["Punkte"]
     program.click("menu item", "Skin")
     program.click("radio button", "Web")

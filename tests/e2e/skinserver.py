@@ -14,13 +14,10 @@ def picture(path):
 
 
 class SkinServer(http.server.ThreadingHTTPServer):
-    """Answers as soon as it exists, and keeps the requested paths."""
+    """Serves pictures as soon as it exists, and keeps the requested paths."""
 
-    def __init__(self, answer):
-        """`answer` gives for a path the status, the content, and how many of its bytes are sent
-        (None: all)."""
+    def __init__(self):
         super().__init__(("127.0.0.1", 0), RequestHandler)
-        self.answer = answer
         self.paths = []
         self.address = f"http://127.0.0.1:{self.server_port}"
         threading.Thread(target=self.serve_forever, daemon=True).start()
@@ -29,11 +26,11 @@ class SkinServer(http.server.ThreadingHTTPServer):
 class RequestHandler(http.server.BaseHTTPRequestHandler):
     def do_GET(self):
         self.server.paths.append(self.path)
-        status, content, sent = self.server.answer(self.path)
-        self.send_response(status)
+        content = picture(self.path)
+        self.send_response(200)
         self.send_header("Content-Length", str(len(content)))
         self.end_headers()
-        self.wfile.write(content[:sent])
+        self.wfile.write(content)
         self.close_connection = True
 
     def log_message(self, *_):

@@ -223,7 +223,7 @@ def check_alarm(programs, folder, plan):
 
 
 def check_web_skin(window, folder):
-    server = SkinServer(lambda path: (200, picture(path), None))
+    server = SkinServer()
     window.click(SKIN)
     for position in (WEB, WEB_PATH):
         window.click(position)
