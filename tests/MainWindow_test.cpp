@@ -409,25 +409,6 @@ TEST_F(MainWindow, NewRunBeginsWithAnEmptyList) {
     EXPECT_TRUE(ShowsRow(list, 0));
 }
 
-TEST_F(MainWindow, EnterPressesAButtonEverywhere) {
-    int runs = 0;
-    for (auto* const widget : m_window.findChildren<QWidget*>()) {
-        // Each run closes the panels.
-        ShowPanels();
-        if (!widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus) ||
-            widget->inherits("QPushButton")) {
-            continue;
-        }
-        m_dialogs.texts.clear();
-        widget->setFocus();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        EXPECT_EQ(m_dialogs.texts, std::vector<std::string>{"Die Bauliste ist leer..."})
-            << widget->objectName().toStdString() << widget->metaObject()->className();
-        ++runs;
-    }
-    EXPECT_GT(runs, 40);
-}
-
 // A clicked button keeps the focus, but Enter goes to the default button.
 TEST_F(MainWindow, MousePressGivesEnterBack) {
     const auto rowsAfterEnter = [&] {
@@ -457,6 +438,7 @@ TEST_F(MainWindow, MousePressGivesEnterBack) {
     EXPECT_EQ(rowsAfterEnter(), std::pair(0, 3));
 }
 
+// And Enter presses a button from there.
 TEST_F(MainWindow, TabReachesEverythingInOrderAndEverythingHasAName) {
     ShowPanels();
     std::vector<QWidget*> reached;
@@ -480,6 +462,15 @@ TEST_F(MainWindow, TabReachesEverythingInOrderAndEverythingHasAName) {
                      !widget->parent()->inherits("QCalendarWidget") &&
                      !widget->parent()->inherits("QComboBox"))
             << widget->objectName().toStdString();
+        if (!widget->inherits("QPushButton")) {
+            m_dialogs.texts.clear();
+            widget->setFocus();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            EXPECT_EQ(m_dialogs.texts, std::vector<std::string>{"Die Bauliste ist leer..."})
+                << widget->objectName().toStdString() << widget->metaObject()->className();
+            // The run has closed them.
+            ShowPanels();
+        }
     }
     for (const auto& [first, second] :
          {std::pair("Cmd_Simulate", "ImgMetMine"), std::pair("ImgMetMine", "imgSpios"),

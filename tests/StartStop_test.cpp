@@ -1,5 +1,4 @@
 // Tests the main window from start to end: plan files, recovery, alarms, skins, menu "Info".
-#include <QBuffer>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QRadioButton>
@@ -242,16 +241,10 @@ class Skins : public MainWindow {
     }
     QColor Color(const char* picture) { return ColorOf(Find<QLabel>(picture)); }
     static std::string Picture(const QColor& color) {
-        QImage picture(2, 2, QImage::Format_RGB32);
-        picture.fill(color);
-        QByteArray bytes;
-        QBuffer buffer(&bytes);
-        buffer.open(QIODevice::WriteOnly);
-        picture.save(&buffer, "PNG");
-        return bytes.toStdString();
+        return "P3 1 1 255 " + std::to_string(color.red()) + " " + std::to_string(color.green()) +
+               " " + std::to_string(color.blue()) + "\n";
     }
     void ChooseSource(const char* option) { Find<QRadioButton>(option).click(); }
-    fs::path WebSkinFolder() { return m_folder / "img" / "skins" / "temp_webskin"; }
     /// Puts a skin below an address, each picture in a colour of its own.
     void PutOnline(const std::string& address) {
         int red = 0;
@@ -307,14 +300,15 @@ TEST_F(Skins, LocalSkinKeepsPicturesThatItLacks) {
 TEST_F(Skins, WebSkinIsFetchedFileByFile) {
     PutOnline("http://skin.example/");
     // The folder for web skins isn't created.
-    fs::rename(WebSkinFolder(), m_folder / "weg");
+    const auto folder = m_folder / "img" / "skins" / "temp_webskin";
+    fs::rename(folder, m_folder / "weg");
     ApplyWebSkin("http://skin.example/");
     EXPECT_EQ(m_dialogs.texts.size(), 1U + 24U) << "a notice, a question for each file";
     EXPECT_EQ(m_dialogs.headers.front(),
               std::pair(std::string("Fortsetzen..."), MessageIcon::Information));
     EXPECT_EQ(m_dialogs.headers.back(),
               std::pair(std::string("Download-Fehler..."), MessageIcon::Warning));
-    fs::rename(m_folder / "weg", WebSkinFolder());
+    fs::rename(m_folder / "weg", folder);
     m_fetcher.addresses.clear();
     ApplyWebSkin("http://skin.example/");
     EXPECT_EQ(m_dialogs.texts.size(), 26U);
