@@ -57,7 +57,7 @@ def check_second_window(program, autosave, file):
         window = wait_for(lambda: first_window(second.pid), "the question")
         box = Program.read_box(window)
         assert box.text.startswith("Tarvelin läuft schon."), box
-        xdotool("sleep", 0.3, "mousemove", *program.center(box.buttons[answer]), "click", 1)
+        Atspi.Action.do_action(box.buttons[answer], 0)
         if answer == "Ja":
             window_id = wait_for(lambda: find_window(f"[(] {os.path.basename(file)} [)]"),
                                  "the second window")
