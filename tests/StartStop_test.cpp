@@ -267,6 +267,8 @@ TEST_F(Skins, LocalSkinKeepsPicturesThatItLacks) {
     WriteFile(blue / "1.gif", "kein Bild");
     const QColor before = Color("ImgMetMine");
     Choose("mnuSkin");
+    const auto& skins = Find<QComboBox>("Comb_Skins");
+    EXPECT_EQ(skins.count(), 1);
     for (const auto& [option, path, list] :
          {std::tuple("Opt_Web", true, false), std::tuple("Opt_Standard", false, false),
           std::tuple("Opt_Lokal", false, true)}) {
@@ -277,9 +279,10 @@ TEST_F(Skins, LocalSkinKeepsPicturesThatItLacks) {
         EXPECT_EQ(Find("Comb_Skins").isVisible(), list) << option;
     }
     // Each opening reads the folder anew.
+    fs::create_directory(m_folder / "img" / "skins" / "rot");
     Choose("mnu_SpecialEvents");
+    EXPECT_EQ(skins.count(), 2);
     Choose("mnuSkin");
-    EXPECT_EQ(Find<QComboBox>("Comb_Skins").count(), 1);
     EXPECT_NE(Color("ImgSKW"), QColor(Qt::blue)) << "not yet applied";
     Press("Cmd_ApplySkin");
     EXPECT_EQ(Color("ImgSKW"), QColor(Qt::blue));
