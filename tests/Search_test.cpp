@@ -4,7 +4,9 @@
 #include "OptimumProof.h"
 #include "TestSupport.h"
 #include "document/PlanRun.h"
+#include "search/GoalText.h"
 #include "search/PlanTask.h"
+#include "search/Random.h"
 
 namespace tarvelin {
 namespace {
@@ -85,7 +87,7 @@ TEST(Search, KeepsItsPromises) {
         {golden("gedraengt-09"), {.moveProduction = true}},
         {golden("regelgerecht-01"), {.pinnedRanges = {{2, 4}}}},
         {golden("regelgerecht-03"), {.goal = "plan", .moveProduction = true}},
-        {golden("regelgerecht-08"), {.goal = "WKT2 FE2"}, false},
+        {golden("regelgerecht-08"), {.goal = "Transporter 2, FE2"}, false},
         {golden("schwere-laser"), {}},
         // The research comes after the deuterium mine has been turned off.
         {PlanOf("GS GM GK GD GF GX:10:10:0 FE"), {}, false},
@@ -184,11 +186,6 @@ TEST(Search, SaysWhyItCannotSearch) {
     const std::vector<std::tuple<Plan, SearchRequest, bool, const char*>> cases{
         {economy, {.goal = "plan"}, false, "Der Plan hat kein Ziel außerhalb der Wirtschaft"},
         {economy, {.goal = " "}, true, "Das Ziel ist leer"},
-        {economy, {.goal = "GW2 XY3"}, true, "\"XY3\" nennt kein Item"},
-        {economy, {.goal = "gw2"}, true, "\"gw2\" nennt kein Item"},
-        {economy, {.goal = "GW0"}, true, "\"GW0\": die Stufe oder Anzahl muss von 1 bis 254"},
-        {economy, {.goal = "GW"}, true, "\"GW\": die Stufe"},
-        {economy, {.goal = "WLJ99999999999999999999"}, true, "die Stufe oder Anzahl"},
         {economy, {.goal = "WLJ254"}, true, "mehr als 254 Zeilen"},
         {economy, {.pinnedRanges = {{3, 4}}}, true, "Feste Zeilen gehen von 1 bis 3"},
         {economy, {.pinnedRanges = {{2, 1}}}, true, "Feste Zeilen gehen von 1 bis 3"},
@@ -208,6 +205,112 @@ TEST(Search, SaysWhyItCannotSearch) {
         EXPECT_NE(refusal->text.find(text), std::string::npos) << refusal->text;
         EXPECT_NE(refusal->text, "");
     }
+}
+
+/// The goal that a text means, in codes, or the message.
+std::string Understood(const char* text) {
+    const auto parsed = ParseGoal(text);
+    const auto* const goal = std::get_if<Goal>(&parsed);
+    if (goal == nullptr) {
+        return std::get<std::string>(parsed);
+    }
+    std::string codes = goal->ofPlan ? "plan" : "";
+    for (const ItemRow& row : ItemTable()) {
+        const int level = goal->levels[row.item];
+        codes += level == 0 ? "" : std::string(row.ItemCode) + std::to_string(level) + " ";
+    }
+    return codes;
+}
+
+TEST(Goal, IsUnderstoodAsAPlayerTypesIt) {
+    const std::vector<std::pair<const char*, const char*>> cases{
+        {"GW2 FV2 WKT1", "GW2 WKT1 FV2 "},
+        {"werft 2, kl. transporter", "GW2 WKT1 "},
+        {"gw2 wkt", "GW2 WKT1 "},
+        {"transporter2werft", "GW1 WKT2 "},
+        {"kl transporter 3 leichter laser LEICHTER JÄGER 007", "WLJ7 WKT3 WLL1 "},
+        {"leichter jaeger,, verb.trieb , rakenten\t4", "WLJ1 WR4 FV1 "},
+        {"ichter jä", "WLJ1 "},
+        {"Kl. Transporter Nr: 2, MetallMine Stufe: 3", "GM3 WKT2 "},
+        {"gm3 gm2 metall", "GM3 "},
+        {"PLAN", "plan"},
+        {" Der  ganze Plan", "plan"},
+        {"GW2 XY3", "\"XY3\" nennt kein Item: erwartet wird etwa Werft 2 oder GW2"},
+        {"kl. raumschiff",
+         "\"kl\" ist nicht eindeutig: Kleiner Transporter oder Kleine "
+         "Schildkuppel?"},
+        {"werft 2, laser 3",
+         "\"laser 3\" ist nicht eindeutig: Leichter Laser, Schwerer Laser oder "
+         "Lasertechnik?"},
+        {"e",
+         "\"e\" ist nicht eindeutig: Metallmine, Kristallmine, Deuteriummine, Solarkraftwerk, "
+         "Roboterfabrik oder anderes?"},
+        {"2 werft", "\"2\": vor der Zahl fehlt ein Name, etwa Werft 2"},
+        {"werft  0", "\"werft  0\": die Stufe oder Anzahl muss von 1 bis 254 gehen"},
+        {"WLJ99999999999999999999",
+         "\"WLJ99999999999999999999\": die Stufe oder Anzahl muss von 1 bis 254 gehen"},
+        {"kuppel 2", "\"kuppel 2\": die Stufe oder Anzahl muss von 1 bis 1 gehen"},
+        {"\xff\xc3", "\"\xff\xc3\" nennt kein Item: erwartet wird etwa Werft 2 oder GW2"},
+        {", Stufe", "Das Ziel ist leer: erwartet wird etwa \"Werft 2, Kl. Transporter\" oder plan"},
+    };
+    for (const auto& [text, expected] : cases) {
+        EXPECT_EQ(Understood(text), expected) << text;
+    }
+}
+
+TEST(Goal, ComesBackFromItsText) {
+    Random random(1);
+    for (int n = 0; n < 200; ++n) {
+        Goal goal;
+        std::string words;
+        for (const ItemRow& row : ItemTable()) {
+            if (random.OneIn(3)) {
+                goal.levels[row.item] =
+                    static_cast<Byte>(1 + random.Below(HighestInGoal(row.item)));
+                const std::array<std::string_view, 5> names{
+                    row.ItemCode, row.listText, row.reportText, row.name, row.HoverName()};
+                words += std::string(names.at(random.Below(names.size()))) +
+                         std::to_string(goal.levels[row.item]) + " ";
+            }
+        }
+        if (goal != Goal()) {
+            EXPECT_EQ(std::get<Goal>(ParseGoal(GoalText(goal))), goal) << GoalText(goal);
+            EXPECT_EQ(std::get<Goal>(ParseGoal(words)), goal) << words;
+        }
+    }
+    const Goal ofPlan{.ofPlan = true};
+    EXPECT_EQ(std::get<Goal>(ParseGoal(GoalText(ofPlan))), ofPlan);
+}
+
+TEST(Goal, IsCompleted) {
+    const std::vector<std::tuple<std::string, std::size_t, std::vector<std::string>>> cases{
+        {"werft 2, KL. Tr", 9, {"Kleiner Transporter"}},
+        {"werft leichter L", 6, {"Leichter Laser"}},
+        {"fs", 0, {"Spionagetechnik", "Schildtechnik"}},
+        {"rak", 0, {"Raketenwerfer"}},
+        {"labo", 0, {"Forschungslabor"}},
+        {"d",
+         0,
+         {"der ganze Plan", "Deuteriummine", "Spionagesonde", "Kleine Schildkuppel",
+          "Schildtechnik"}},
+        {"GW der", 0, {}},
+        {"leichter jäger", 0, {}},
+        {"plan", 0, {}},
+        {"werft 2", 0, {}},
+        {"werft, ", 0, {}},
+    };
+    for (const auto& [text, begin, names] : cases) {
+        const GoalCompletions completions = CompleteGoal(text);
+        EXPECT_EQ(completions.names, names) << text;
+        EXPECT_EQ(completions.begin, begin) << text;
+    }
+}
+
+TEST(Search, ReachesAGoalFromNothing) {
+    Plan plan = PlanOf("");
+    const PlanTask task = MakeTask(plan, {.goal = "WLL1 GF2 WSS1"});
+    EXPECT_FALSE(task.before);
+    Check(plan, task, Search(task, kOneChain, kGoOn, Quiet));
 }
 
 }  // namespace

@@ -5,9 +5,8 @@
 #include <numeric>
 
 #include "plan/Rules.h"
+#include "search/GoalText.h"
 #include "simulation/Simulation.h"
-#include "util/Nuetzliches.h"
-#include "util/NumberText.h"
 
 namespace tarvelin {
 
@@ -17,65 +16,6 @@ using Levels = PerItem<Byte>;
 
 SearchRefusal WrongCall(std::string text) {
     return {.text = std::move(text), .wrongCall = true};
-}
-
-/// One word of a goal, "GW2".
-std::variant<std::pair<ItemId, Byte>, SearchRefusal> ParseGoalWord(std::string_view word) {
-    const auto digit = std::min(word.find_first_of("0123456789"), word.size());
-    const auto item = ItemFromCode(word.substr(0, digit));
-    if (!item) {
-        return WrongCall("\"" + std::string(word) +
-                         "\" nennt kein Item: erwartet wird etwa GW2 oder WKT1");
-    }
-    const auto highest =
-        std::min(std::int64_t{RowOf(*item).traits.maxCount}, std::int64_t{OrderList::kMaxSize});
-    const auto level = ParseWholeNumber(word.substr(digit), 1, highest);
-    if (!level) {
-        return WrongCall("\"" + std::string(word) + "\": die Stufe oder Anzahl muss von 1 bis " +
-                         std::to_string(highest) + " gehen");
-    }
-    return std::pair(*item, static_cast<Byte>(*level));
-}
-
-std::variant<Levels, SearchRefusal> ParseGoal(std::string_view text) {
-    Levels goal{};
-    bool empty = true;
-    while (!text.empty()) {
-        const auto end = std::min(text.find(' '), text.size());
-        const auto word = text.substr(0, end);
-        text.remove_prefix(std::min(end + 1, text.size()));
-        if (word.empty()) {
-            continue;
-        }
-        const auto parsed = ParseGoalWord(word);
-        if (const auto* const refusal = std::get_if<SearchRefusal>(&parsed)) {
-            return *refusal;
-        }
-        const auto& [item, level] = std::get<0>(parsed);
-        goal[item] = std::max(goal[item], level);
-        empty = false;
-    }
-    if (empty) {
-        return WrongCall("Das Ziel ist leer: erwartet wird etwa \"GW2 FV2 WKT1\" oder plan");
-    }
-    return goal;
-}
-
-/// The plan's own research, units and defenses.
-std::variant<Levels, SearchRefusal> GoalOfPlan(const Plan& plan) {
-    Levels goal = plan.LV_Bauliste.Orders().ListStufe();
-    for (const ItemRow& row : ItemTable()) {
-        if (row.IsEconomy()) {
-            goal[row.item] = 0;
-        }
-    }
-    if (goal == Levels{}) {
-        return SearchRefusal{
-            .text =
-                "Der Plan hat kein Ziel außerhalb der Wirtschaft: weder Forschung noch Schiffe "
-                "oder Verteidigung"};
-    }
-    return goal;
 }
 
 /// The first row that the rules of the list refuse.
@@ -211,14 +151,23 @@ std::variant<RunConditions, Message> ConditionsOf(Plan plan) {
     return ParseRunConditions(plan);
 }
 
-std::optional<SearchRefusal> SetGoal(const Plan& plan, const std::string& text, PlanTask& task) {
-    const auto goal = text == "plan" ? GoalOfPlan(plan) : ParseGoal(text);
-    if (const auto* const refusal = std::get_if<SearchRefusal>(&goal)) {
-        return *refusal;
+std::optional<SearchRefusal> SetGoal(const Plan& plan,
+                                     const std::variant<Goal, std::string>& parsed,
+                                     PlanTask& task) {
+    if (const auto* const error = std::get_if<std::string>(&parsed)) {
+        return WrongCall(*error);
+    }
+    const auto& goal = std::get<Goal>(parsed);
+    const Levels levels = goal.ofPlan ? OwnGoal(plan) : goal.levels;
+    if (levels == Levels{}) {
+        return SearchRefusal{
+            .text =
+                "Der Plan hat kein Ziel außerhalb der Wirtschaft: weder Forschung noch Schiffe "
+                "oder Verteidigung"};
     }
     SearchTask& search = task.task;
     search.kind = SearchTask::Kind::Goal;
-    search.minLevels = WithPrerequisites(std::get<Levels>(goal));
+    search.minLevels = WithPrerequisites(levels);
     AimAtGoal(search);
     if (!Reached(plan.LV_Bauliste.Orders(), search.minLevels)) {
         task.before.reset();
@@ -231,9 +180,20 @@ std::optional<SearchRefusal> SetGoal(const Plan& plan, const std::string& text, 
 
 }  // namespace
 
+PerItem<Byte> OwnGoal(const Plan& plan) {
+    Levels goal = plan.LV_Bauliste.Orders().ListStufe();
+    for (const ItemRow& row : ItemTable()) {
+        if (row.IsEconomy()) {
+            goal[row.item] = 0;
+        }
+    }
+    return goal;
+}
+
 std::variant<PlanTask, SearchRefusal> MakePlanTask(const Plan& plan, const SearchRequest& request) {
-    const bool named = request.goal && *request.goal != "plan";
-    const auto conditions = named ? ConditionsOf(plan) : ParseRunConditions(plan);
+    const auto goal = ParseGoal(request.goal.value_or("plan"));
+    const bool needsOrders = goal == decltype(goal)(Goal{.ofPlan = true});
+    const auto conditions = needsOrders ? ParseRunConditions(plan) : ConditionsOf(plan);
     if (const auto* const message = std::get_if<Message>(&conditions)) {
         return SearchRefusal{.text = message->text};
     }
@@ -252,7 +212,7 @@ std::variant<PlanTask, SearchRefusal> MakePlanTask(const Plan& plan, const Searc
         task.before = Evaluate(task.task, task.task.orders);
     }
     if (!refusal && request.goal) {
-        refusal = SetGoal(plan, *request.goal, task);
+        refusal = SetGoal(plan, goal, task);
     }
     if (refusal) {
         return *refusal;

@@ -14,8 +14,7 @@
 namespace tarvelin {
 
 struct SearchRequest {
-    /// The levels and numbers to reach, "GW2 FV2 WKT1", or "plan" for the plan's own research,
-    /// units and defenses. Nothing: find a better sequence of the plan's orders.
+    /// A text for `ParseGoal`. Nothing: find a better sequence of the plan's orders.
     std::optional<std::string> goal{};
     /// First and last row, from 1, of each range that keeps its place.
     std::vector<std::pair<std::size_t, std::size_t>> pinnedRanges{};
@@ -39,6 +38,9 @@ struct PlanTask {
     /// The sleep window that keeps orders after the head from starting before `notBefore`.
     std::optional<SleepRow> pause;
 };
+
+/// The levels of the plan's research, units and defences; all 0 if it has none.
+[[nodiscard]] PerItem<Byte> OwnGoal(const Plan& plan);
 
 [[nodiscard]] std::variant<PlanTask, SearchRefusal> MakePlanTask(const Plan& plan,
                                                                  const SearchRequest& request);
