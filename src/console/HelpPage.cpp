@@ -14,8 +14,8 @@ constexpr const char* kExamples =
     "      Der Zeitplan: wann welcher Auftrag, und warum nicht früher.\n"
     "  tarvelin-cli --suche mein-plan.tvf --nach schneller.tvf\n"
     "      Sucht eine schnellere Reihenfolge und schreibt sie in eine neue Datei.\n"
-    "  tarvelin-cli --suche mein-plan.tvf --ziel \"GW2 FV2 WKT1\"\n"
-    "      Der schnellste Weg zu Werft 2, Verbrennungstriebwerk 2 und einem Transporter.\n";
+    "  tarvelin-cli --suche mein-plan.tvf --ziel \"werft 3, kl. transporter 2\"\n"
+    "      Der schnellste Weg zu Werft 3 und zwei Transportern; GW3 WKT2 heißt dasselbe.\n";
 
 /// "  GM    Metallmine".
 std::string CodeLine(std::string_view code, std::string_view name) {
@@ -40,7 +40,9 @@ std::string HelpPage::make_option_opts(const CLI::Option* option) const {
 }
 
 std::string HelpPage::make_footer(const CLI::App* /*app*/) const {
-    std::string text = "\nCodes in Plandateien, und mit Stufe oder Anzahl für --ziel:\n";
+    std::string text =
+        "\nCodes in Plandateien. --ziel nimmt Codes und Namen, auch den Teil eines Namens,\n"
+        "und dahinter die Stufe oder Anzahl, sonst 1:\n";
     for (const ItemRow& row : ItemTable()) {
         text += CodeLine(row.ItemCode, row.name);
     }

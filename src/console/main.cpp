@@ -198,8 +198,8 @@ CLI::Option* AddSearch(CLI::App& app, tarvelin::SearchCommand& command) {
     search->type_name("PLAN")->group(group);
     const std::vector<CLI::Option*> options{
         app.add_option("--ziel", command.goal,
-                       "Sucht den schnellsten Weg zu diesem Ziel, etwa \"GW2 FV2 WKT1\"; plan: zu "
-                       "dem des Plans")
+                       "Sucht den schnellsten Weg zu diesem Ziel, etwa \"werft 3, kl. transporter "
+                       "2\"; plan: zu dem des Plans")
             ->type_name("ZIEL"),
         app.add_option("--nach", command.outputFile, "Schreibt den gefundenen Plan in diese Datei")
             ->type_name("DATEI"),
