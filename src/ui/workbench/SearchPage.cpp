@@ -1,12 +1,15 @@
 // Turns the inputs into a search and shows what it reports.
 #include "ui/workbench/SearchPage.h"
 
+#include <QCompleter>
 #include <QHBoxLayout>
+#include <QStandardItemModel>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <limits>
 #include <utility>
 
+#include "search/GoalText.h"
 #include "search/SearchTexts.h"
 #include "ui/widgets/Controls.h"
 
@@ -42,6 +45,26 @@ double ShareDone(std::uint64_t tries, std::uint64_t total) {
 int ToPercent(double share) {
     constexpr double kWhole = 100;
     return static_cast<int>(kWhole * share);
+}
+
+/// Offers the names of items while a goal is typed.
+void CompleteWhileTyped(QLineEdit* goal) {
+    constexpr int kWholeText = Qt::UserRole;
+    auto* const names = new QStandardItemModel(goal);
+    auto* const completer = new QCompleter(names, goal);
+    completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
+    completer->setCompletionRole(kWholeText);
+    goal->setCompleter(completer);
+    QObject::connect(goal, &QLineEdit::textEdited, names, [names](const QString& text) {
+        const std::string typed = text.toStdString();
+        const GoalCompletions completions = CompleteGoal(typed);
+        names->clear();
+        for (const std::string& name : completions.names) {
+            auto* const row = new QStandardItem(ToQString(name));
+            row->setData(ToQString(typed.substr(0, completions.begin) + name), kWholeText);
+            names->appendRow(row);
+        }
+    });
 }
 
 }  // namespace
@@ -90,8 +113,10 @@ void SearchPage::AddInputs(QFormLayout& form) {
     m_task->addItems(
         {QStringLiteral("andere Reihenfolge"), QStringLiteral("schnellster Weg zum Ziel")});
     m_goal->setText(QStringLiteral("plan"));
-    m_goal->setToolTip(QStringLiteral(
-        "plan: Forschung, Schiffe und Verteidigung des Plans; sonst etwa GW2 FV2 WKT1"));
+    m_goal->setToolTip(
+        QStringLiteral("plan: Forschung, Schiffe und Verteidigung des Plans; sonst etwa: werft 2, "
+                       "kl. transporter"));
+    CompleteWhileTyped(m_goal);
     constexpr double kMax = 100;
     constexpr double kUsual = 0.5;
     m_slack->setRange(0, kMax);
