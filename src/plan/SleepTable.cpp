@@ -9,23 +9,9 @@ namespace tarvelin {
 
 namespace {
 
-struct Period {
-    DateTime start;
-    DateTime end;
-};
-
 std::string MinutesText(DateTime time) {
     constexpr std::size_t kWithoutSeconds = 16;
     return DateTimeText(time).substr(0, kWithoutSeconds);
-}
-
-std::optional<Period> ParseRow(const SleepRow& row) {
-    const auto start = ParseDateTime(row.Startzeit);
-    const auto end = ParseDateTime(row.Endzeit);
-    if (!start || !end) {
-        return std::nullopt;
-    }
-    return Period{*start, *end};
 }
 
 std::optional<DateTime> ParseStart(const SleepInput& input) {
@@ -41,16 +27,18 @@ std::optional<Long> ParseDuration(const SleepInput& input) {
     return HalfEvenLong(*hours * 3600 + *minutes * 60);
 }
 
-bool Overlap(const Period& oldPeriod, const Period& newPeriod) {
+bool Overlap(const cSchlafzeit& oldWindow, const cSchlafzeit& newWindow) {
     const auto notLater = [](DateTime time, DateTime other) {
         return !cSchlafzeit::IstSpaeter(other, time);
     };
     const auto inOld = [&](DateTime time) {
-        return notLater(oldPeriod.start, time) && cSchlafzeit::IstSpaeter(time, oldPeriod.end);
+        return notLater(oldWindow.Startzeit(), time) &&
+               cSchlafzeit::IstSpaeter(time, oldWindow.Endzeit());
     };
-    const bool oldBeginsInNew = cSchlafzeit::IstSpaeter(newPeriod.start, oldPeriod.start) &&
-                                notLater(oldPeriod.end, newPeriod.end);
-    return inOld(newPeriod.start) || inOld(newPeriod.end) || oldBeginsInNew;
+    const bool oldBeginsInNew =
+        cSchlafzeit::IstSpaeter(newWindow.Startzeit(), oldWindow.Startzeit()) &&
+        notLater(oldWindow.Endzeit(), newWindow.Endzeit());
+    return inOld(newWindow.Startzeit()) || inOld(newWindow.Endzeit()) || oldBeginsInNew;
 }
 
 Message InputError(const char* text) {
@@ -68,15 +56,15 @@ std::optional<Message> AddSleepRow(const SleepInput& input, SleepTable& table) {
     if (!start) {
         return InputError("Kein gültiges Datum eingegeben...");
     }
-    const Period newPeriod{*start, *start + *duration};
+    const cSchlafzeit newWindow(*start, *start + *duration);
     const bool occupied = std::ranges::any_of(table, [&](const SleepRow& row) {
-        const auto oldPeriod = ParseRow(row);
-        return oldPeriod && Overlap(*oldPeriod, newPeriod);
+        const auto oldWindow = ParseSleepRow(row);
+        return oldWindow && Overlap(*oldWindow, newWindow);
     });
     if (occupied) {
         return InputError("Kein überschneidenden Zeiträumen eingegeben...");
     }
-    table.push_back({MinutesText(newPeriod.start), MinutesText(newPeriod.end)});
+    table.push_back(SleepRowOf(newWindow.Startzeit(), newWindow.Endzeit()));
     return std::nullopt;
 }
 
@@ -93,12 +81,25 @@ std::string SleepEndText(const SleepInput& input) {
            timeOfDay.substr(0, kWithoutSeconds);
 }
 
+SleepRow SleepRowOf(DateTime start, DateTime end) {
+    return {.Startzeit = MinutesText(start), .Endzeit = MinutesText(end)};
+}
+
+std::optional<cSchlafzeit> ParseSleepRow(const SleepRow& row) {
+    const auto start = ParseDateTime(row.Startzeit);
+    const auto end = ParseDateTime(row.Endzeit);
+    if (!start || !end) {
+        return std::nullopt;
+    }
+    return cSchlafzeit(*start, *end);
+}
+
 std::vector<cSchlafzeit> ParseSleepTable(const SleepTable& table) {
     std::vector<cSchlafzeit> sleepWindows;
     sleepWindows.reserve(table.size());
     for (const SleepRow& row : table) {
-        if (const auto period = ParseRow(row)) {
-            sleepWindows.emplace_back(period->start, period->end);
+        if (const auto window = ParseSleepRow(row)) {
+            sleepWindows.push_back(*window);
         }
     }
     return sleepWindows;

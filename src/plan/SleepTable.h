@@ -41,6 +41,12 @@ struct SleepInput {
 /// The end that `AddSleepRow` would enter, as "Sa.  18.11.2006 23:30"; "Error" for invalid inputs.
 [[nodiscard]] std::string SleepEndText(const SleepInput& input);
 
+/// The row of a window, to the minute below: "dd.mm.yyyy hh:mm".
+[[nodiscard]] SleepRow SleepRowOf(DateTime start, DateTime end);
+
+/// The window of a row; nothing if one of its texts isn't a date. It may end before it begins.
+[[nodiscard]] std::optional<cSchlafzeit> ParseSleepRow(const SleepRow& row);
+
 /// The windows of a run, without rows that aren't dates.
 [[nodiscard]] std::vector<cSchlafzeit> ParseSleepTable(const SleepTable& table);
 

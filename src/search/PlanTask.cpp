@@ -67,10 +67,6 @@ class StartTimes final : public RunObserver {
 
 constexpr std::int64_t kMinute = 60;
 
-std::string ToTheMinute(DateTime time) {
-    return DateText(time) + " " + TimeOfDayText(time).substr(0, 5);
-}
-
 /// Fixes the orders that start before `notBefore`, and adds a pause until then.
 std::optional<SearchRefusal> SetHead(const Plan& plan, DateTime notBefore, PlanTask& task) {
     RunConditions& conditions = task.task.conditions;
@@ -95,7 +91,7 @@ std::optional<SearchRefusal> SetHead(const Plan& plan, DateTime notBefore, PlanT
     if (from >= until) {
         return std::nullopt;
     }
-    task.pause = {.Startzeit = ToTheMinute(from), .Endzeit = ToTheMinute(until)};
+    task.pause = SleepRowOf(from, until);
     conditions.Schlafzeiten.insert(conditions.Schlafzeiten.begin(), {from, until});
     const auto withPause = StartTimes::Of(plan, conditions);
     if (!std::equal(starts.begin(), starts.begin() + static_cast<std::ptrdiff_t>(headSize),

@@ -133,6 +133,10 @@ std::optional<DateTime> ParseDateTime(std::string_view text) {
     return DateTime(days * kSecondsPerDay + secondOfDay);
 }
 
+DateTime StartOfDay(DateTime time) {
+    return DateTime(DayNumber(time) * kSecondsPerDay);
+}
+
 int Weekday(DateTime time) {
     const std::chrono::weekday day{kDayZero + std::chrono::days{DayNumber(time)}};
     return static_cast<int>(day.c_encoding()) + 1;

@@ -38,6 +38,9 @@ class DateTime {
 /// day or time doesn't exist.
 [[nodiscard]] std::optional<DateTime> ParseDateTime(std::string_view text);
 
+/// Midnight, when the day of a moment begins.
+[[nodiscard]] DateTime StartOfDay(DateTime time);
+
 /// Weekday from 1, Sunday, to 7, Saturday.
 [[nodiscard]] int Weekday(DateTime time);
 /// "So", "Mo" ... "Sa".
