@@ -250,10 +250,9 @@ TEST_F(WorkbenchWindow, ShowsThePlanAsAPicture) {
                           QPoint(ColumnOf(timeline, SimTime(second)), buildLane));
         EXPECT_EQ(ChosenRows(), (std::vector<std::size_t>{row}));
     }
-    // A bar has the colour of its queue.
     EXPECT_EQ(timeline.viewport()->grab().toImage().pixelColor(ColumnOf(timeline, SimTime(60)),
                                                                buildLane),
-              TimelineColors(m_workbench->palette()).bars[Queue::Building]);
+              ColorsFor(m_workbench->palette())[Color::Bar]);
     // Zooming keeps the moment below the pointer in place.
     const QPoint position(ColumnOf(timeline, SimTime(300)), 20);
     for (int i = 0; i < 8; ++i) {
@@ -319,16 +318,16 @@ TEST_F(WorkbenchWindow, IsHiddenWhenClosedAndComesBack) {
 }
 
 TEST_F(WorkbenchWindow, FollowsTheColorsOfTheDesktop) {
-    QPalette dark(Qt::white, Qt::black, Qt::gray, Qt::black, Qt::darkGray, Qt::white, Qt::white,
-                  QColor(20, 20, 20), QColor(40, 40, 40));
-    m_environment.desktopPalette = [&] { return dark; };
+    const WorkbenchColors dark(WorkbenchColors::Set::Dark);
+    m_environment.desktopPalette = [] { return QPalette(Qt::white, Qt::black); };
     Load("GM");
     QEvent change(QEvent::ThemeChange);
     QCoreApplication::sendEvent(m_workbench, &change);
     const QImage picture = Page<TimelineView>("Zeitleiste").viewport()->grab().toImage();
-    EXPECT_EQ(picture.pixelColor(picture.width() - 2, picture.height() - 2), QColor(20, 20, 20));
-    EXPECT_EQ(Page("LV_Werkbank").palette().color(QPalette::Text), QColor(Qt::white));
-    EXPECT_NE(Find("LV_Bauliste").palette().color(QPalette::Text), QColor(Qt::white));
+    EXPECT_EQ(picture.pixelColor(picture.width() - 2, picture.height() - 2),
+              dark[Color::Background]);
+    EXPECT_EQ(Page("LV_Werkbank").palette().color(QPalette::Text), dark[Color::Text]);
+    EXPECT_NE(Find("LV_Bauliste").palette().color(QPalette::Text), dark[Color::Text]);
 }
 
 // What accepting does to the plan is tested with the document.

@@ -11,6 +11,7 @@
 #include "simulation/RunTexts.h"
 #include "ui/widgets/Controls.h"
 #include "ui/workbench/TimeAxis.h"
+#include "ui/workbench/WaitLook.h"
 
 namespace tarvelin {
 
@@ -19,6 +20,8 @@ namespace {
 /// The part of a lane's height that bars take; waits are drawn below them.
 constexpr qreal kBarShare = 0.7;
 constexpr qreal kMargin = 3;
+
+constexpr PerResource<Color> kStockColors{{Color::Metall, Color::Kristall, Color::Deuterium}};
 
 /// Calls `value` with each point of a run and the time of the next one.
 template <class Value>
@@ -107,7 +110,7 @@ class TimelineGraphic::Renderer {
     qreal DrawLabel(qreal x, qreal top, const QString& text, const QColor& color) {
         const QFontMetricsF metrics(m_graphic.m_font);
         const QRectF box(x, top, metrics.horizontalAdvance(text), metrics.height());
-        QColor background = m_graphic.m_colors.background;
+        QColor background = m_graphic.m_colors[Color::Background];
         constexpr int kOpacity = 190;
         background.setAlpha(kOpacity);
         m_painter.fillRect(box, background);
@@ -118,7 +121,8 @@ class TimelineGraphic::Renderer {
 
     void DrawLanes() {
         for (const Lane& lane : kLanes) {
-            m_painter.fillRect(AcrossView(m_graphic.LaneRect(lane.queue)), m_graphic.m_colors.lane);
+            m_painter.fillRect(AcrossView(m_graphic.LaneRect(lane.queue)),
+                               m_graphic.m_colors[Color::Lane]);
         }
     }
 
@@ -127,17 +131,14 @@ class TimelineGraphic::Renderer {
         const TimeAxis axis(m_perSecond,
                             metrics.horizontalAdvance(QStringLiteral(" Mo 20.11. 00:00:00 ")));
         const QRectF bottom = m_graphic.EnergyRect();
-        QColor pale = m_graphic.m_colors.line;
-        constexpr int kPale = 70;
-        pale.setAlpha(kPale);
         const DateTime begin = m_trace.conditions.StartDate;
         axis.ForEachTick(begin, m_left / m_perSecond, m_right / m_perSecond,
                          [&](std::int64_t second, const std::string& text) {
                              const qreal x = X(static_cast<qreal>(second));
-                             m_painter.setPen(pale);
+                             m_painter.setPen(m_graphic.m_colors[Color::Line]);
                              m_painter.drawLine(QPointF(x, m_graphic.AxisHeight()),
                                                 QPointF(x, bottom.bottom()));
-                             m_painter.setPen(m_graphic.m_colors.text);
+                             m_painter.setPen(m_graphic.m_colors[Color::Text]);
                              m_painter.drawText(QPointF(x + kMargin, metrics.ascent() + kMargin),
                                                 ToQString(text));
                          });
@@ -153,7 +154,7 @@ class TimelineGraphic::Renderer {
                 m_painter.fillRect(QRectF(std::max(from, m_left), m_graphic.AxisHeight(),
                                           std::min(until, m_right) - std::max(from, m_left),
                                           bottom.bottom() - m_graphic.AxisHeight()),
-                                   m_graphic.m_colors.sleep);
+                                   m_graphic.m_colors[Color::Night]);
             }
         }
     }
@@ -166,7 +167,7 @@ class TimelineGraphic::Renderer {
             return;
         }
         const QRectF lane = m_graphic.LaneRect(start.order.queue);
-        QColor color = m_graphic.m_colors.ForDelay(start.delay);
+        QColor color = m_graphic.m_colors[StripColor(start.delay)];
         constexpr int kPale = 130;
         color.setAlpha(kPale);
         m_painter.fillRect(QRectF(from, lane.top() + kBarShare * lane.height() + 1, until - from,
@@ -181,10 +182,10 @@ class TimelineGraphic::Renderer {
         if (!InView(bar.left(), bar.right())) {
             return;
         }
-        const TimelineColors& colors = m_graphic.m_colors;
+        const WorkbenchColors& colors = m_graphic.m_colors;
         const bool chosen = m_graphic.m_chosen.contains(start.row);
-        m_painter.fillRect(bar, colors.bars[start.order.queue]);
-        m_painter.setPen(QPen(chosen ? colors.chosen : colors.line, chosen ? 2 : 1));
+        m_painter.fillRect(bar, colors[Color::Bar]);
+        m_painter.setPen(QPen(colors[chosen ? Color::Accent : Color::BarEdge], chosen ? 2 : 1));
         constexpr qreal kNarrow = 3;
         if (chosen || bar.width() > kNarrow) {
             m_painter.drawRect(bar);
@@ -206,7 +207,7 @@ class TimelineGraphic::Renderer {
         if (box.width() < metrics.horizontalAdvance(QStringLiteral("Met..."))) {
             return;
         }
-        m_painter.setPen(m_graphic.m_colors.text);
+        m_painter.setPen(m_graphic.m_colors[Color::Text]);
         m_painter.drawText(
             box, static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter),
             metrics.elidedText(ToQString(OrderText(start)), Qt::ElideRight, box.width()));
@@ -221,11 +222,10 @@ class TimelineGraphic::Renderer {
             const bool chosen = m_graphic.m_chosen.contains(start.row);
             const QRectF lane = m_graphic.LaneRect(Queue::Building);
             m_painter.setPen(
-                QPen(chosen ? m_graphic.m_colors.chosen : m_graphic.m_colors.production, 2,
-                     Qt::DashLine));
+                QPen(m_graphic.m_colors[chosen ? Color::Accent : Color::Energy], 2, Qt::DashLine));
             m_painter.drawLine(QPointF(x, lane.top()), QPointF(x, m_graphic.EnergyRect().bottom()));
             m_painter.setPen(Qt::NoPen);
-            m_painter.setBrush(m_graphic.m_colors.production);
+            m_painter.setBrush(m_graphic.m_colors[Color::Energy]);
             const qreal side = 2 * kMargin;
             m_painter.drawPolygon(
                 QPolygonF({QPointF(x - side, lane.top()), QPointF(x + side, lane.top()),
@@ -251,7 +251,7 @@ class TimelineGraphic::Renderer {
 
     /// The zero line, and the name with the range of values. Returns the right end of the text.
     qreal DrawScale(const QRectF& rect, const Range& range, const QString& name) {
-        m_painter.setPen(m_graphic.m_colors.line);
+        m_painter.setPen(m_graphic.m_colors[Color::LineStrong]);
         const qreal zero = range.Y(0, rect);
         m_painter.drawLine(QPointF(m_left, zero), QPointF(m_right, zero));
         const QString from = range.from < 0
@@ -259,7 +259,7 @@ class TimelineGraphic::Renderer {
                                  : QString();
         const QString text =
             name + from + QStringLiteral(" bis %1 ").arg(std::floor(range.to), 0, 'f', 0);
-        return DrawLabel(m_left + kMargin, rect.top(), text, m_graphic.m_colors.text);
+        return DrawLabel(m_left + kMargin, rect.top(), text, m_graphic.m_colors[Color::Text]);
     }
 
     void DrawStocks() {
@@ -282,7 +282,7 @@ class TimelineGraphic::Renderer {
             const auto stock = [resource](const HistoryPoint& historyPoint, SimTime at) {
                 return StockNumber(historyPoint, at, resource);
             };
-            const QColor& color = m_graphic.m_colors.stock[resource];
+            const QColor color = m_graphic.m_colors[kStockColors[resource]];
             if (m_graphic.m_other) {
                 QColor pale = color;
                 constexpr int kPale = 90;
@@ -297,7 +297,7 @@ class TimelineGraphic::Renderer {
             const QString end(resource == kResources.back() ? 1 : 0, QLatin1Char(' '));
             x = DrawLabel(x, rect.top(),
                           QStringLiteral("  ") + ToQString(kResourceNames[resource]) + end,
-                          m_graphic.m_colors.stock[resource]);
+                          m_graphic.m_colors[kStockColors[resource]]);
         }
     }
 
@@ -316,7 +316,7 @@ class TimelineGraphic::Renderer {
             m_painter.fillRect(
                 QRectF(X(point.time), std::min(y, zero), X(until) - X(point.time),
                        std::abs(zero - y)),
-                balance < 0 ? m_graphic.m_colors.energyDeficit : m_graphic.m_colors.energy);
+                m_graphic.m_colors[balance < 0 ? Color::Deficit : Color::EnergyCurve]);
         });
         DrawScale(rect, range, QStringLiteral("Energie"));
     }
@@ -326,7 +326,7 @@ class TimelineGraphic::Renderer {
         for (const Lane& lane : kLanes) {
             const qreal bottom = m_graphic.LaneRect(lane.queue).bottom();
             DrawLabel(m_left + kMargin, bottom - height, QString::fromUtf8(lane.name),
-                      m_graphic.m_colors.line);
+                      m_graphic.m_colors[Color::Weak]);
         }
     }
 
@@ -359,7 +359,7 @@ void TimelineGraphic::SetPictures(const PerItem<QPixmap>& pictures) {
     update();
 }
 
-void TimelineGraphic::SetAppearance(const TimelineColors& colors, const QFont& font) {
+void TimelineGraphic::SetAppearance(const WorkbenchColors& colors, const QFont& font) {
     prepareGeometryChange();
     m_colors = colors;
     m_font = font;

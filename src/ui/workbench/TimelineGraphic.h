@@ -9,7 +9,7 @@
 #include <set>
 
 #include "simulation/RunTrace.h"
-#include "ui/workbench/TimelineColors.h"
+#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 
@@ -24,14 +24,14 @@ class TimelineGraphic : public QGraphicsItem {
     /// A second run, whose stocks are drawn pale behind those of the first.
     void SetOtherRun(const std::optional<RunTrace>& other);
     void SetPictures(const PerItem<QPixmap>& pictures);
-    void SetAppearance(const TimelineColors& colors, const QFont& font);
+    void SetAppearance(const WorkbenchColors& colors, const QFont& font);
     void SetHeight(qreal height);
     void SetChosenRows(std::set<std::size_t> rows);
 
     /// The least height at which it can be read.
     [[nodiscard]] qreal MinHeight() const;
     [[nodiscard]] const std::optional<RunTrace>& Run() const { return m_trace; }
-    [[nodiscard]] const TimelineColors& Colors() const { return m_colors; }
+    [[nodiscard]] const WorkbenchColors& Colors() const { return m_colors; }
     /// Where the picture ends, in seconds since the plan's start: the end of the longer run, at
     /// least 1.
     [[nodiscard]] qreal EndSecond() const;
@@ -63,7 +63,7 @@ class TimelineGraphic : public QGraphicsItem {
     std::optional<RunTrace> m_trace;
     std::optional<RunTrace> m_other;
     PerItem<QPixmap> m_pictures;
-    TimelineColors m_colors{QPalette()};
+    WorkbenchColors m_colors;
     QFont m_font;
     qreal m_height = 0;
     std::set<std::size_t> m_chosen;

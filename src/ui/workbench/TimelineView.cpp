@@ -67,9 +67,9 @@ void TimelineView::SetOtherRun(const std::optional<RunTrace>& other) {
 }
 
 void TimelineView::SetAppearance(const QPalette& palette, const QFont& font) {
-    const TimelineColors colors(palette);
+    const WorkbenchColors colors = ColorsFor(palette);
     m_graphic->SetAppearance(colors, font);
-    setBackgroundBrush(colors.background);
+    setBackgroundBrush(colors[Color::Background]);
     setMinimumHeight(static_cast<int>(std::ceil(m_graphic->MinHeight())) +
                      horizontalScrollBar()->sizeHint().height());
     FitHeight();
@@ -279,7 +279,7 @@ void TimelineView::drawForeground(QPainter* painter, const QRectF& rect) {
     const auto next = m_now ? NextOrderText(trace, *m_now) : std::nullopt;
     if (next) {
         const auto now = static_cast<qreal>(*m_now - trace.conditions.StartDate);
-        line(now, m_graphic->Colors().now);
+        line(now, m_graphic->Colors()[Color::Now]);
         const QPoint position = mapFromScene(QPointF(now, 0));
         const QString text = QStringLiteral("jetzt: ") + ToQString(*next);
         const QFontMetrics metrics(font());
@@ -287,7 +287,7 @@ void TimelineView::drawForeground(QPainter* painter, const QRectF& rect) {
         painter->save();
         painter->resetTransform();
         painter->setFont(font());
-        painter->setPen(m_graphic->Colors().now);
+        painter->setPen(m_graphic->Colors()[Color::Now]);
         painter->drawText(
             QPoint(left ? position.x() - metrics.horizontalAdvance(text) - 4 : position.x() + 4,
                    viewport()->height() - metrics.descent() - 2),
@@ -295,12 +295,12 @@ void TimelineView::drawForeground(QPainter* painter, const QRectF& rect) {
         painter->restore();
     }
     if (m_cursor) {
-        line(*m_cursor, m_graphic->Colors().text);
+        line(*m_cursor, m_graphic->Colors()[Color::Text]);
     }
 }
 
 void TimelineView::PaintOn(QPainter& painter, const QRectF& rect) {
-    painter.fillRect(rect, m_graphic->Colors().background);
+    painter.fillRect(rect, m_graphic->Colors()[Color::Background]);
     m_scene.render(&painter, rect, mapToScene(viewport()->rect()).boundingRect(),
                    Qt::IgnoreAspectRatio);
 }

@@ -35,7 +35,7 @@ class TimelineView : public QGraphicsView {
     /// Paints the visible part into `rect`.
     void PaintOn(QPainter& painter, const QRectF& rect);
     /// For texts about a lack of energy.
-    [[nodiscard]] const QColor& DeficitColor() const { return m_graphic->Colors().energyDeficit; }
+    [[nodiscard]] QColor DeficitColor() const { return m_graphic->Colors()[Color::Deficit]; }
 
   signals:
     /// Nothing when the pointer has left, or there is no run.

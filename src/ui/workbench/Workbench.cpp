@@ -23,6 +23,7 @@
 #include "ui/widgets/Pictures.h"
 #include "ui/workbench/TimelinePicture.h"
 #include "ui/workbench/WindowPlace.h"
+#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 
@@ -33,20 +34,6 @@ constexpr QSize kInitialLines(96, 54);
 
 /// When a command can be carried out.
 enum class Needs { ChosenRow, Run, UndoStep, RedoStep };
-
-/// Sets every color explicitly, so that none comes from the program's palette.
-QPalette AsOwn(const QPalette& colors) {
-    QPalette own;
-    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        for (int role = 0; role < QPalette::NColorRoles; ++role) {
-            if (role != QPalette::NoRole) {
-                const auto name = static_cast<QPalette::ColorRole>(role);
-                own.setBrush(group, name, colors.brush(group, name));
-            }
-        }
-    }
-    return own;
-}
 
 }  // namespace
 
@@ -132,10 +119,10 @@ void Workbench::ConnectSignals() {
 }
 
 void Workbench::FollowDesktop() {
-    const QPalette colors = m_environment.desktopPalette();
-    setPalette(AsOwn(colors));
+    const QPalette palette = ColorsFor(m_environment.desktopPalette()).Palette();
+    setPalette(palette);
     setFont(DesktopFont());
-    m_surface->FollowDesktop(colors);
+    m_surface->FollowDesktop(palette);
 }
 
 bool Workbench::event(QEvent* event) {
