@@ -1,6 +1,6 @@
 #!/bin/bash
-# Draws all pictures and the sound of the program, and the icons of its package, from the sources in
-# this folder. Only the font of the donation pictures comes from the system.
+# Draws all pictures and the sound of the program, the icons of its package and those in its code, from
+# the sources in this folder. Only the font of the donation pictures comes from the system.
 set -euo pipefail
 export LC_ALL=C
 cd "$(dirname "${BASH_SOURCE[0]}")"
@@ -89,3 +89,4 @@ convert "$icons"/{16x16,24x24,32x32,48x48,64x64,128x128,256x256}/apps/tarvelin.p
     $images/icon.ico
 
 python3 sound.py ../data/mfx/alert.wav
+python3 icons.py

@@ -1,8 +1,11 @@
-// Tests how the workbench looks: the contrast of each color on the grounds that it is drawn on.
+// Tests how the workbench looks: the contrast of each color on the grounds that it is drawn on, and
+// that icons are drawn whole.
+#include <QImage>
 #include <cmath>
 #include <vector>
 
 #include "TestSupport.h"
+#include "ui/workbench/Icons.h"
 #include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
@@ -133,6 +136,46 @@ TEST(Look, EveryColorIsReadableOnItsGrounds) {
             EXPECT_GE(lowest, pairs.needs) << pairs.what;
             EXPECT_GE(std::round(lowest * 10) / 10, designed) << pairs.what << ": " << lowest;
         }
+    }
+}
+
+/// Calls `paint` for a square in the middle of an image, and looks at what it leaves: something, of
+/// `color` alone, and nothing outside the square.
+template <class PaintInto>
+void ExpectWholeIn(const QColor& color, int index, PaintInto paint) {
+    constexpr int kSide = 60;
+    constexpr QRect kSquare(kSide / 4, kSide / 4, kSide / 2, kSide / 2);
+    QImage image(kSide, kSide, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    paint(painter, kSquare);
+    painter.end();
+    int solid = 0;
+    for (int y = 0; y < kSide; ++y) {
+        for (int x = 0; x < kSide; ++x) {
+            const QColor pixel = image.pixelColor(x, y);
+            ASSERT_TRUE(pixel.alpha() == 0 || kSquare.contains(x, y))
+                << index << ": " << x << "," << y;
+            ASSERT_TRUE(pixel.alpha() < 255 || pixel == color) << index << ": " << x << "," << y;
+            solid += pixel.alpha() == 255 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(solid, 0) << index;
+}
+
+TEST(Look, IconsAreDrawnWhole) {
+    const WorkbenchColors colors(WorkbenchColors::Set::Dark);
+    for (int i = 0; i < static_cast<int>(Icon::Size); ++i) {
+        const QIcon icon = ToolIcon(static_cast<Icon>(i), colors);
+        ExpectWholeIn(colors[Color::Disabled], i, [&](QPainter& painter, const QRect& square) {
+            icon.paint(&painter, square, Qt::AlignCenter, QIcon::Disabled);
+        });
+        EXPECT_EQ(icon.pixmap(QSize(20, 20), 1.5).size(), QSize(30, 30));
+    }
+    for (int i = 0; i < static_cast<int>(Symbol::Size); ++i) {
+        ExpectWholeIn(colors[Color::Gain], i, [&](QPainter& painter, const QRect& square) {
+            PaintSymbol(painter, static_cast<Symbol>(i), square, colors[Color::Gain]);
+        });
     }
 }
 
