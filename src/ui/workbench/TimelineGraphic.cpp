@@ -167,7 +167,7 @@ class TimelineGraphic::Renderer {
             return;
         }
         const QRectF lane = m_graphic.LaneRect(start.order.queue);
-        QColor color = m_graphic.m_colors[StripColor(start.delay)];
+        QColor color = m_graphic.m_colors[LookOf(start.delay).symbolColor];
         constexpr int kPale = 130;
         color.setAlpha(kPale);
         m_painter.fillRect(QRectF(from, lane.top() + kBarShare * lane.height() + 1, until - from,
@@ -184,10 +184,12 @@ class TimelineGraphic::Renderer {
         }
         const WorkbenchColors& colors = m_graphic.m_colors;
         const bool chosen = m_graphic.m_chosen.contains(start.row);
-        m_painter.fillRect(bar, colors[Color::Bar]);
-        m_painter.setPen(QPen(colors[chosen ? Color::Accent : Color::BarEdge], chosen ? 2 : 1));
+        // Too narrow for a frame, it would be lost on the lane.
         constexpr qreal kNarrow = 3;
-        if (chosen || bar.width() > kNarrow) {
+        const bool narrow = bar.width() <= kNarrow;
+        m_painter.fillRect(bar, colors[narrow ? Color::BarEdge : Color::Bar]);
+        m_painter.setPen(QPen(colors[chosen ? Color::Accent : Color::BarEdge], chosen ? 2 : 1));
+        if (chosen || !narrow) {
             m_painter.drawRect(bar);
         }
         // The text of a bar that begins left of the view begins at the edge.

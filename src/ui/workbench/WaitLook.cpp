@@ -1,32 +1,46 @@
-// The table of the causes' colors.
+// The looks of the causes.
 #include "ui/workbench/WaitLook.h"
 
 namespace tarvelin {
 
-Color StripColor(const Delay& delay) {
+namespace {
+
+// clang-format off
+constexpr WaitLook kMetall   {Symbol::Metall,    Color::Metall,    Color::MetallTint,    Color::MetallHatch};
+constexpr WaitLook kKristall {Symbol::Kristall,  Color::Kristall,  Color::KristallTint,  Color::KristallHatch};
+constexpr WaitLook kDeuterium{Symbol::Deuterium, Color::Deuterium, Color::DeuteriumTint, Color::DeuteriumHatch};
+constexpr WaitLook kQueue    {Symbol::Queue,     Color::BarEdge,   Color::Bar,           Color::Bar};
+constexpr WaitLook kSleep    {Symbol::Sleep,     Color::NightText, Color::NightChip,     Color::NightChip};
+constexpr WaitLook kLevel    {Symbol::Level,     Color::Deficit,   Color::DeficitTint,   Color::DeficitHatch};
+constexpr WaitLook kRowBefore{Symbol::RowBefore, Color::Weak,      Color::RowTint,       Color::RowDots};
+// clang-format on
+
+}  // namespace
+
+WaitLook LookOf(const Delay& delay) {
     switch (delay.cause) {
         case DelayCause::Resource:
             switch (delay.shortage.kind) {
                 case Shortage::Kind::Kristall:
-                    return Color::KristallHatch;
+                    return kKristall;
                 case Shortage::Kind::Deuterium:
-                    return Color::DeuteriumHatch;
+                    return kDeuterium;
                 default:
-                    return Color::MetallHatch;
+                    return kMetall;
             }
         case DelayCause::Deuterium:
-            return Color::DeuteriumHatch;
+            return kDeuterium;
         case DelayCause::Queue:
         case DelayCause::FacilityUpgrade:
-            return Color::BarEdge;
+            return kQueue;
         case DelayCause::Sleep:
-            return Color::NightText;
+            return kSleep;
         case DelayCause::Level:
-            return Color::DeficitHatch;
+            return kLevel;
         case DelayCause::None:
             break;
     }
-    return Color::RowDots;
+    return kRowBefore;
 }
 
 }  // namespace tarvelin
