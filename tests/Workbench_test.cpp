@@ -1,5 +1,4 @@
-// Tests the workbench: edits, agreement with the main window, timeline, search, comparison,
-// exports.
+// Tests the workbench: edits, agreement with the main window, timeline, pages, exports.
 #include <QClipboard>
 #include <QComboBox>
 #include <QImage>
@@ -429,12 +428,6 @@ TEST_F(WorkbenchWindow, ExportsTheTimetable) {
     Find<QComboBox>("Comb_Before").setCurrentText(QStringLiteral("25"));
     const std::string calendar = SaveAs("Cmd_KalenderSpeichern", "kalender.ics");
     EXPECT_NE(calendar.find("\r\nTRIGGER:-PT25S\r\n"), std::string::npos) << calendar;
-}
-
-TEST(StatusTexts, NameTheChange) {
-    EXPECT_EQ(SignedTimeSpanText(-7985), "-02:13:05");
-    EXPECT_EQ(SignedTimeSpanText(86400 + 61), "+1 Tag 00:01:01");
-    EXPECT_EQ(SignedTimeSpanText(-3 * 86400), "-3 Tage 00:00:00");
 }
 
 }  // namespace
