@@ -312,7 +312,6 @@ TEST_F(WorkbenchWindow, IsHiddenWhenClosedAndComesBack) {
     m_window.close();
     EXPECT_TRUE(m_workbench->isHidden());
     const std::string config = ReadFileToString(m_folder / "config.cfg");
-    EXPECT_NE(config.find("[Werkbank]\r\n"), std::string::npos) << config;
     EXPECT_NE(config.find("Breite=900\r\nHoehe=700\r\n"), std::string::npos) << config;
 }
 
