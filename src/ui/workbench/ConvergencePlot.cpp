@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "ui/workbench/WorkbenchColors.h"
+
 namespace tarvelin {
 
 ConvergencePlot::ConvergencePlot(QWidget* parent) : QWidget(parent) {
@@ -45,7 +47,7 @@ void ConvergencePlot::paintEvent(QPaintEvent* /*event*/) {
         }
         line << QPointF(x, y);
     }
-    painter.setPen(QPen(palette().highlight(), 2));
+    painter.setPen(QPen(ColorsFor(palette())[Color::Accent], 2));
     painter.drawPolyline(line);
 }
 

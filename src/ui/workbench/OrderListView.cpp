@@ -13,6 +13,7 @@
 #include "simulation/StatusTexts.h"
 #include "ui/widgets/Controls.h"
 #include "ui/widgets/ItemPicture.h"
+#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 
@@ -207,7 +208,7 @@ void OrderListView::paintEvent(QPaintEvent* event) {
     const QRect slot = visualRect(m_model->index(std::min(m_target, rows - 1), 0));
     const int y = rows == 0 ? 0 : m_target < rows ? slot.top() : slot.bottom();
     QPainter painter(viewport());
-    painter.setPen(QPen(palette().highlight(), 2));
+    painter.setPen(QPen(ColorsFor(palette())[Color::Accent], 2));
     painter.drawLine(0, y, viewport()->width(), y);
 }
 
