@@ -53,16 +53,16 @@ TEST_F(StartStop, StartsAndEndsTheSession) {
         m_dialogs.answer = again;
         Restart start(m_environment);
         EXPECT_EQ(m_dialogs.texts.size(), 3U);
-        EXPECT_EQ(m_dialogs.texts.front(), "Hinweis");
         EXPECT_EQ(start.Find<QTreeView>("LV_Bauliste").model()->rowCount(), again ? 2 : 0);
         EXPECT_EQ(start.Find("Fra_Einstellungen").isVisible(), !again);
     }
-    m_environment.planArgument = m_folder / "saves" / "[*].tvf";
+    m_environment.planArgument = m_folder / "saves" / (kWindows ? "[].tvf" : "[*].tvf");
     EXPECT_TRUE(SaveBauliste(m_environment.planArgument, PlanOf("GS GM GK")));
     {
         Restart start(m_environment);
         EXPECT_EQ(start.Find<QTreeView>("LV_Bauliste").model()->rowCount(), 3);
-        EXPECT_TRUE(start.MainWindow().windowTitle().endsWith(QStringLiteral("( [*][*].tvf )")));
+        EXPECT_TRUE(start.MainWindow().windowTitle().endsWith(
+            kWindows ? QStringLiteral("( [].tvf )") : QStringLiteral("( [*][*].tvf )")));
     }
     // Closed while it starts.
     ProgramWindows program(m_environment);
