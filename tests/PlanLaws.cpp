@@ -381,6 +381,11 @@ Finding CheckEdits(const Plan& plan) {
     std::vector<std::vector<Order>> states{SnapshotOf(plan).orders};
     BuildList list;
     list.SetOrders(states.front(), conditions);
+    ListEdit harmless(list);
+    harmless.Insert(list.Rows().size(), Order::Of(kFullFactors));
+    if (harmless.Objection() && !list.Orders().IsFull()) {
+        return "an edit is refused for a row that broke its rule before";
+    }
     EditHistory history;
     history.Begin({.orders = states.front()});
     for (int i = 0; i < kTrials; ++i) {
