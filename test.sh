@@ -46,7 +46,7 @@ measure_coverage() {
     find build/coverage -name '*.gcda' -delete
     ctest --preset coverage -j "$(nproc)" -LE Screen
     gcovr --root . --gcov-ignore-parse-errors \
-        --filter 'src/(util|model|plan|simulation|search|persistence|console)/' \
+        --filter 'src/(util|model|plan|simulation|search|persistence|document|export|console)/' \
         --exclude-directories '.*/CMakeFiles/[0-9]+[.].*' build/coverage
 }
 

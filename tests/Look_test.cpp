@@ -109,8 +109,8 @@ double Luminance(const QColor& color) {
     const auto linear = [](double part) {
         return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
     };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
+    return 0.2126 * linear(double{color.redF()}) + 0.7152 * linear(double{color.greenF()}) +
+           0.0722 * linear(double{color.blueF()});
 }
 
 double Contrast(const QColor& a, const QColor& b) {
