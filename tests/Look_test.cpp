@@ -106,11 +106,12 @@ QColor Blend(const QColor& above, const QColor& below) {
 
 /// As the guidelines for accessible web content define it.
 double Luminance(const QColor& color) {
-    const auto linear = [](double part) {
+    const auto linear = [](float channel) {
+        const auto part = static_cast<double>(channel);
         return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
     };
-    return 0.2126 * linear(double{color.redF()}) + 0.7152 * linear(double{color.greenF()}) +
-           0.0722 * linear(double{color.blueF()});
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
 }
 
 double Contrast(const QColor& a, const QColor& b) {
