@@ -1,9 +1,11 @@
 // The operations on the plan, and the decisions of start and end.
 #include "document/Document.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "persistence/PlanFile.h"
+#include "util/Utf8.h"
 
 namespace tarvelin {
 
@@ -67,6 +69,7 @@ bool Document::Start(const std::optional<Message>& notice, const std::filesystem
         return false;
     }
     m_phase = Phase::Starting;
+    ReadRecentFiles();
     if (notice) {
         m_prompts.Show(*notice);
     }
@@ -112,6 +115,8 @@ bool Document::OpenFirstPlan() {
     if (firstStart && kept) {
         DeleteFile(starterPlan, m_files);
         m_saved.reset();
+        m_file.reset();
+        std::erase(m_recentFiles, starterPlan);
         m_configuration.Write({{Configuration::kFirststart, "0"}});
     }
     return recovered;
@@ -151,7 +156,12 @@ Configuration::Values Document::ConfigurationValues() const {
     if (!IsWorking()) {
         return {};
     }
-    return {{Configuration::kItemCount, std::to_string(m_plan.LV_Bauliste.Orders().Size())}};
+    Configuration::Values values{
+        {Configuration::kItemCount, std::to_string(m_plan.LV_Bauliste.Orders().Size())}};
+    for (std::size_t i = 0; i < m_recentFiles.size(); ++i) {
+        values.emplace_back(Configuration::kRecentFiles[i], PathToUtf8(m_recentFiles[i]));
+    }
+    return values;
 }
 
 void Document::Keep(const Configuration::Values& settings) {
@@ -175,7 +185,8 @@ void Document::New() {
     m_texts.AfterReset();
     ClearRows();
     SetStartDate(m_plan.parameters, m_now());
-    Note({.conditions = true});
+    m_file.reset();
+    Note({.conditions = true, .file = true});
     Record();
     Tell();
 }
@@ -215,19 +226,40 @@ bool Document::LoadBauliste(const std::optional<IniFile>& profile,
     return true;
 }
 
-void Document::SaveBauliste(const std::filesystem::path& File) {
-    if (tarvelin::SaveBauliste(File, m_plan, m_files)) {
-        RememberSaved(File);
-        Tell();
-    } else {
+bool Document::SaveBauliste(const std::filesystem::path& File) {
+    if (!tarvelin::SaveBauliste(File, m_plan, m_files)) {
         m_prompts.Show(SaveErrorMessage());
+        return false;
     }
+    RememberSaved(File);
+    Tell();
+    return true;
+}
+
+bool Document::IsModified() const {
+    return m_file ? !IsStored() : !m_plan.LV_Bauliste.Orders().IsEmpty();
 }
 
 // Files that the program itself overwrites don't count.
 void Document::RememberSaved(const std::filesystem::path& File) {
-    m_saved = m_autosave.IsOwnFile(File) ? std::nullopt : std::optional(SnapshotOf(m_plan));
+    const bool own = m_autosave.IsOwnFile(File);
+    m_saved = own ? std::nullopt : std::optional(SnapshotOf(m_plan));
+    m_file = own ? std::nullopt : std::optional(File);
+    if (!own) {
+        std::erase(m_recentFiles, File);
+        m_recentFiles.insert(m_recentFiles.begin(), File);
+        m_recentFiles.resize(std::min(m_recentFiles.size(), Configuration::kRecentFiles.size()));
+    }
     Note({.file = true});
+}
+
+void Document::ReadRecentFiles() {
+    for (const ConfigKey& key : Configuration::kRecentFiles) {
+        const std::string file = m_configuration.Read(key);
+        if (!file.empty()) {
+            m_recentFiles.push_back(PathFromUtf8(file));
+        }
+    }
 }
 
 void Document::KeepReplaced() const {

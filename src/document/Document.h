@@ -58,6 +58,14 @@ class Document {
     [[nodiscard]] const std::string& Title() const { return m_title; }
     /// Whether the plan as it stands is stored in a file of the user's.
     [[nodiscard]] bool IsStored() const { return m_saved == SnapshotOf(m_plan); }
+    /// The user's file that the plan came from or was saved to last; nothing for a new plan.
+    [[nodiscard]] const std::optional<std::filesystem::path>& File() const { return m_file; }
+    /// Whether something would be lost that is in no file of the user's.
+    [[nodiscard]] bool IsModified() const;
+    /// The files that were loaded or saved last, the latest first.
+    [[nodiscard]] const std::vector<std::filesystem::path>& RecentFiles() const {
+        return m_recentFiles;
+    }
 
     /// Begins the session: shows `notice`, then opens the plan in `planFile` if one is given, else
     /// the starter plan or, if the user wants it, the last plan. Returns whether that came back.
@@ -79,8 +87,8 @@ class Document {
     /// Loads a plan and runs it. `Silent` omits the message about an empty list. False, with a
     /// message, if the file holds no whole plan.
     bool LoadBauliste(const std::filesystem::path& File, bool Silent);
-    /// Shows a message if the file can't be written.
-    void SaveBauliste(const std::filesystem::path& File);
+    /// False, with a message, if the file can't be written.
+    bool SaveBauliste(const std::filesystem::path& File);
     /// Runs the plan. `Silent` omits the message about an empty list.
     void RunSimulation(bool Silent);
 
@@ -117,6 +125,7 @@ class Document {
     bool LoadBauliste(const std::optional<IniFile>& profile, const std::filesystem::path& File,
                       bool Silent);
     void RememberSaved(const std::filesystem::path& File);
+    void ReadRecentFiles();
     void KeepReplaced() const;
     void ClearRows();
     std::optional<Message> FinishAppend(std::optional<Message> refusal);
@@ -144,6 +153,8 @@ class Document {
     std::size_t m_steps = 0;
     /// The plan as last loaded from or saved to a file of the user's.
     std::optional<PlanSnapshot> m_saved;
+    std::optional<std::filesystem::path> m_file;
+    std::vector<std::filesystem::path> m_recentFiles;
     std::string m_title = kWindowTitle;
 
     LastRun m_run;

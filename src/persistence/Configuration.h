@@ -1,6 +1,7 @@
 // The settings that outlast a session, in `config.cfg`.
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -40,6 +41,10 @@ class Configuration {
     static constexpr ConfigKey kWorkbenchWidth    {"Werkbank",      "Breite",             ""};
     static constexpr ConfigKey kWorkbenchHeight   {"Werkbank",      "Hoehe",              ""};
     static constexpr ConfigKey kWorkbenchMaximized{"Werkbank",      "Gross",              "0"};
+    /// The plans that were opened last, the latest first.
+    static constexpr std::array<ConfigKey, 5> kRecentFiles{{
+        {"Werkbank", "Zuletzt_1", ""}, {"Werkbank", "Zuletzt_2", ""}, {"Werkbank", "Zuletzt_3", ""},
+        {"Werkbank", "Zuletzt_4", ""}, {"Werkbank", "Zuletzt_5", ""}}};
     // clang-format on
 
     using Values = std::vector<std::pair<ConfigKey, std::string>>;

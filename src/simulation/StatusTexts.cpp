@@ -50,19 +50,11 @@ std::string StatusText(const RunTrace& trace, SimTime moment) {
            LevelsText(PointAt(trace.curve, moment));
 }
 
-std::optional<std::string> NextOrderText(const RunTrace& trace, DateTime now) {
-    const RunConditions& conditions = trace.conditions;
-    if (now < conditions.StartDate || now > conditions.WallClock(trace.Duration())) {
-        return std::nullopt;
-    }
+const StartEvent* NextStart(const RunTrace& trace, DateTime now) {
     const auto next = std::ranges::find_if(trace.starts, [&](const StartEvent& start) {
-        return conditions.WallClock(start.start) >= now;
+        return trace.conditions.WallClock(start.start) >= now;
     });
-    if (next == trace.starts.end()) {
-        return "alle Aufträge sind gegeben";
-    }
-    const DateTime at = conditions.WallClock(next->start);
-    return OrderText(*next) + " um " + TimeOfDayText(at) + ", in " + TimeSpanText(at - now);
+    return next == trace.starts.end() ? nullptr : &*next;
 }
 
 std::string MessagesText(const RunTrace& trace) {

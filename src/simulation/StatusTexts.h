@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
 
 #include "simulation/RunTrace.h"
@@ -15,9 +14,8 @@ namespace tarvelin {
 /// Stocks, rates and energy at a moment, and the levels on a second line.
 [[nodiscard]] std::string StatusText(const RunTrace& trace, SimTime moment);
 
-/// The next order: its name, its time and how long until then, or that all orders are given.
-/// Nothing before the plan's start and after its end.
-[[nodiscard]] std::optional<std::string> NextOrderText(const RunTrace& trace, DateTime now);
+/// The first order that isn't due before this moment of the wall clock; nothing if all are given.
+[[nodiscard]] const StartEvent* NextStart(const RunTrace& trace, DateTime now);
 
 /// The messages of a run in at most two texts: of more than two the first, and how many more.
 [[nodiscard]] std::string MessagesText(const RunTrace& trace);

@@ -20,7 +20,7 @@ void ProgramWindows::OpenWorkbench() {
             m_document, [this] { return m_mainWindow.SecondsBefore(); }, m_environment);
         ShowSkin();
     }
-    m_workbench->Open(Configuration(m_environment.programFolder, m_environment.files));
+    m_workbench->OpenWindow(Configuration(m_environment.programFolder, m_environment.files));
 }
 
 void ProgramWindows::ShowSkin() {

@@ -170,7 +170,8 @@ void SearchPage::EnableControls() {
     m_slack->setEnabled(m_sittings->isChecked());
     m_searchButton->setEnabled(!m_running);
     m_stopButton->setEnabled(m_running);
-    m_acceptButton->setEnabled(!m_running && m_searched && m_searched->best);
+    m_acceptButton->setEnabled(HasFind());
+    emit StateChanged();
 }
 
 SearchRequest SearchPage::MakeRequest() const {

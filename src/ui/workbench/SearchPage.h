@@ -34,10 +34,17 @@ class SearchPage : public QWidget {
     SearchPage(Document& document, const Environment& environment,
                std::function<std::vector<std::size_t>()> chosen, QWidget* parent);
 
+    void StartSearch();
     /// Ends a running search; its best solution so far stays.
     void StopSearch();
+    /// Puts the find into the plan.
+    void AcceptResult();
+    [[nodiscard]] bool IsRunning() const { return m_running; }
+    [[nodiscard]] bool HasFind() const { return !m_running && m_searched && m_searched->best; }
 
   signals:
+    /// A search has begun or ended, or its find is gone.
+    void StateChanged();
     void Notice(const std::string& text);
     /// From the search's thread; `id` is that of the search.
     void ProgressReceived(int id, const SearchProgress& progress);
@@ -48,8 +55,6 @@ class SearchPage : public QWidget {
     void ConnectSignals();
     [[nodiscard]] SearchRequest MakeRequest() const;
     [[nodiscard]] SearchBudget MakeBudget() const;
-    void StartSearch();
-    void AcceptResult();
     void ShowProgress(const SearchProgress& progress);
     void ShowSearchResult(const SearchResult& result);
     void EnableControls();

@@ -276,12 +276,13 @@ void TimelineView::drawForeground(QPainter* painter, const QRectF& rect) {
         painter->drawLine(QPointF(second, rect.top()), QPointF(second, rect.bottom()));
     };
     const RunTrace& trace = *m_graphic->Run();
-    const auto next = m_now ? NextOrderText(trace, *m_now) : std::nullopt;
-    if (next) {
-        const auto now = static_cast<qreal>(*m_now - trace.conditions.StartDate);
+    const RunConditions& conditions = trace.conditions;
+    if (m_now && *m_now >= conditions.StartDate &&
+        *m_now <= conditions.WallClock(trace.Duration())) {
+        const auto now = static_cast<qreal>(*m_now - conditions.StartDate);
         line(now, m_graphic->Colors()[Color::Now]);
         const QPoint position = mapFromScene(QPointF(now, 0));
-        const QString text = QStringLiteral("jetzt: ") + ToQString(*next);
+        const QString text = QStringLiteral("jetzt ") + ToQString(TimeOfDayText(*m_now));
         const QFontMetrics metrics(font());
         const bool left = position.x() + metrics.horizontalAdvance(text) > viewport()->width();
         painter->save();

@@ -1,14 +1,16 @@
-// Life of the workbench: its commands, and how it follows the document, the clock and the desktop.
+// Life of the workbench: its actions, and how it follows the document, the clock and the desktop.
 #include "ui/workbench/Workbench.h"
 
 #include <QClipboard>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QHideEvent>
+#include <QMenuBar>
 #include <QMimeData>
-#include <QShortcut>
-#include <QVBoxLayout>
+#include <QToolBar>
+#include <algorithm>
 #include <chrono>
+#include <map>
 #include <utility>
 
 #include "export/Calendar.h"
@@ -32,34 +34,51 @@ namespace {
 /// Initial size of the window, in line heights.
 constexpr QSize kInitialLines(96, 54);
 
-/// When a command can be carried out.
-enum class Needs { ChosenRow, Run, UndoStep, RedoStep };
+/// When an action can be carried out.
+enum class Needs { Nothing, ChosenRow, Run, UndoStep, RedoStep };
+
+enum class Menu { File, Edit, View };
+
+/// Where an action stands besides its menu.
+enum Place : unsigned { kMenuOnly = 0, kToolBar = 1, kContextMenu = 2 };
 
 }  // namespace
 
-struct Workbench::Command {
+struct Workbench::ActionRow {
     const char* name;
-    const char* caption;
+    Menu menu;
+    const char* text;
     /// May be empty.
     QKeySequence key;
     Needs needs;
+    unsigned places;
     void (Workbench::*operation)();
+    /// Whether a line stands above it.
+    bool beginsGroup = false;
 };
 
-const std::vector<Workbench::Command>& Workbench::Commands() {
+const std::vector<Workbench::ActionRow>& Workbench::ActionRows() {
+    constexpr unsigned kBoth = kToolBar | kContextMenu;
     // clang-format off
-    static const std::vector<Command> commands{
-        {"Cmd_Zurueck",           "&Rückgängig",           Qt::CTRL | Qt::Key_Z,             Needs::UndoStep,  &Workbench::Undo},
-        {"Cmd_Vor",               "&Wiederholen",          Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Needs::RedoStep,  &Workbench::Redo},
-        {"Cmd_Hoch",              "&Hoch",                 Qt::ALT | Qt::Key_Up,             Needs::ChosenRow, &Workbench::MoveUp},
-        {"Cmd_Runter",            "R&unter",               Qt::ALT | Qt::Key_Down,           Needs::ChosenRow, &Workbench::MoveDown},
-        {"Cmd_Verdopple",         "&Verdoppeln",           Qt::CTRL | Qt::Key_D,             Needs::ChosenRow, &Workbench::DuplicateChosen},
-        {"Cmd_Loesche",           "&Löschen",              Qt::Key_Delete,                   Needs::ChosenRow, &Workbench::RemoveChosen},
-        {"Cmd_Kopieren",          "&Kopieren",             {},                               Needs::Run,       &Workbench::CopyTimetable},
-        {"Cmd_KalenderSpeichern", "K&alender speichern...", {},                              Needs::Run,       &Workbench::SaveCalendar},
-        {"Cmd_BildSpeichern",     "&Bild speichern...",    {},                               Needs::Run,       &Workbench::SavePicture}};
+    static const std::vector<ActionRow> rows{
+        {"Cmd_Neu",               Menu::File, "&Neu",                   Qt::CTRL | Qt::Key_N,             Needs::Nothing,   kToolBar,  &Workbench::New},
+        {"Cmd_Oeffnen",           Menu::File, "Ö&ffnen",                Qt::CTRL | Qt::Key_O,             Needs::Nothing,   kToolBar,  &Workbench::Open},
+        {"Cmd_Speichern",         Menu::File, "&Speichern",             Qt::CTRL | Qt::Key_S,             Needs::Nothing,   kToolBar,  &Workbench::Save, true},
+        {"Cmd_SpeichernUnter",    Menu::File, "Speichern &unter ...",   Qt::CTRL | Qt::SHIFT | Qt::Key_S, Needs::Nothing,   kMenuOnly, &Workbench::SaveAs},
+        {"Cmd_KalenderSpeichern", Menu::File, "&Kalender",              {},                               Needs::Run,       kToolBar,  &Workbench::SaveCalendar, true},
+        {"Cmd_BildSpeichern",     Menu::File, "Als &Bild",              {},                               Needs::Run,       kToolBar,  &Workbench::SavePicture},
+        {"Cmd_Kopieren",          Menu::File, "&Zeitplan kopieren",     {},                               Needs::Run,       kMenuOnly, &Workbench::CopyTimetable},
+        {"Cmd_Schliessen",        Menu::File, "&Werkbank schließen",    Qt::CTRL | Qt::Key_W,             Needs::Nothing,   kMenuOnly, &Workbench::CloseWindow, true},
+        {"Cmd_Zurueck",           Menu::Edit, "&Rückgängig",            Qt::CTRL | Qt::Key_Z,             Needs::UndoStep,  kToolBar,  &Workbench::Undo},
+        {"Cmd_Vor",               Menu::Edit, "&Wiederholen",           Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Needs::RedoStep,  kToolBar,  &Workbench::Redo},
+        {"Cmd_Hoch",              Menu::Edit, "&Hoch",                  Qt::ALT | Qt::Key_Up,             Needs::ChosenRow, kBoth,     &Workbench::MoveUp, true},
+        {"Cmd_Runter",            Menu::Edit, "R&unter",                Qt::ALT | Qt::Key_Down,           Needs::ChosenRow, kBoth,     &Workbench::MoveDown},
+        {"Cmd_Verdopple",         Menu::Edit, "&Verdoppeln",            Qt::CTRL | Qt::Key_D,             Needs::ChosenRow, kBoth,     &Workbench::DuplicateChosen},
+        {"Cmd_Loesche",           Menu::Edit, "&Löschen",               Qt::Key_Delete,                   Needs::ChosenRow, kBoth,     &Workbench::RemoveChosen},
+        {"Cmd_AllesWaehlen",      Menu::Edit, "&Alles wählen",          Qt::CTRL | Qt::Key_A,             Needs::Nothing,   kMenuOnly, &Workbench::ChooseAll, true},
+        {"Cmd_GanzerPlan",        Menu::View, "&Ganzer Plan",           Qt::CTRL | Qt::Key_0,             Needs::Run,       kMenuOnly, &Workbench::ShowWholePlan}};
     // clang-format on
-    return commands;
+    return rows;
 }
 
 Workbench::Workbench(Document& document, std::function<std::string()> leadTime,
@@ -67,40 +86,101 @@ Workbench::Workbench(Document& document, std::function<std::string()> leadTime,
     : m_document(document),
       m_leadTime(std::move(leadTime)),
       m_environment(environment),
-      m_surface(new WorkbenchSurface(document, environment, this)) {
+      m_surface(new WorkbenchSurface(document, environment, this)),
+      m_status(new WorkbenchStatusBar(this)) {
     setObjectName(QStringLiteral("frmWerkbank"));
-    setWindowTitle(QStringLiteral("Tarvelin  |  Werkbank"));
     setWindowIcon(LoadIconFile(environment.programFolder / "img" / "icon.ico"));
     setAttribute(Qt::WA_QuitOnClose, false);
-    auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins({});
-    layout->addWidget(m_surface);
-    AddCommands();
+    setCentralWidget(m_surface);
+    setStatusBar(m_status);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    AddActions();
     ConnectSignals();
     FollowDesktop();
+    ShowTitle();
 }
 
-void Workbench::AddCommands() {
-    for (const Command& command : Commands()) {
-        QPushButton* const button = m_surface->AddButton(QString::fromLatin1(command.name),
-                                                         QString::fromUtf8(command.caption));
-        connect(button, &QPushButton::clicked, this, command.operation);
-        if (!command.key.isEmpty()) {
-            button->setToolTip(command.key.toString(QKeySequence::NativeText));
-            connect(new QShortcut(command.key, this), &QShortcut::activated, this,
-                    command.operation);
+void Workbench::AddActions() {
+    QMenu* const file = menuBar()->addMenu(QStringLiteral("&Datei"));
+    const std::map<Menu, QMenu*> menus{
+        {Menu::File, file},
+        {Menu::Edit, menuBar()->addMenu(QStringLiteral("&Bearbeiten"))},
+        {Menu::View, menuBar()->addMenu(QStringLiteral("&Ansicht"))}};
+    QToolBar* const toolBar = addToolBar(QStringLiteral("Werkzeuge"));
+    toolBar->setObjectName(QStringLiteral("Werkzeuge"));
+    toolBar->setMovable(false);
+    toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_surface->List().setContextMenuPolicy(Qt::ActionsContextMenu);
+    for (const ActionRow& row : ActionRows()) {
+        QMenu& menu = *menus.at(row.menu);
+        if (row.beginsGroup) {
+            menu.addSeparator();
         }
-        m_buttons.push_back(button);
+        QAction* const action = menu.addAction(QString::fromUtf8(row.text));
+        action->setObjectName(QString::fromLatin1(row.name));
+        action->setShortcut(row.key);
+        connect(action, &QAction::triggered, this, row.operation);
+        if ((row.places & kToolBar) != 0) {
+            if (row.beginsGroup) {
+                toolBar->addSeparator();
+            }
+            toolBar->addAction(action);
+        }
+        if ((row.places & kContextMenu) != 0) {
+            m_surface->List().addAction(action);
+        }
+        m_actions.push_back(action);
+    }
+    AddRecentFiles(*file);
+    AddPageActions(*menus.at(Menu::View));
+}
+
+void Workbench::AddRecentFiles(QMenu& menu) {
+    auto* const recent = new QMenu(QStringLiteral("&Zuletzt geöffnet"), &menu);
+    recent->setObjectName(QStringLiteral("Zuletzt"));
+    // Behind "Öffnen".
+    menu.insertMenu(m_actions[2], recent);
+    connect(recent, &QMenu::aboutToShow, this, [this, recent] {
+        recent->clear();
+        for (const auto& file : m_document.RecentFiles()) {
+            QAction* const action = recent->addAction(
+                PathToQString(file.filename()).replace(QLatin1Char('&'), QStringLiteral("&&")));
+            action->setToolTip(PathToQString(file));
+            connect(action, &QAction::triggered, this,
+                    [this, file] { m_document.LoadBauliste(file, false); });
+        }
+        if (recent->isEmpty()) {
+            recent->addAction(QStringLiteral("noch kein Plan"))->setEnabled(false);
+        }
+    });
+    recent->setToolTipsVisible(true);
+}
+
+void Workbench::AddPageActions(QMenu& menu) {
+    menu.addSeparator();
+    QTabWidget& pages = m_surface->Pages();
+    for (int i = 0; i < pages.count(); ++i) {
+        QAction* const action = menu.addAction(pages.tabText(i));
+        action->setShortcut(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i));
+        connect(action, &QAction::triggered, this, [&pages, i] {
+            pages.setCurrentIndex(i);
+            pages.currentWidget()->setFocus();
+        });
     }
 }
 
 void Workbench::ConnectSignals() {
     m_document.Observe([this](const DocumentChange& change) {
+        if (change.conditions) {
+            m_surface->ShowConditions();
+        }
         if (change.plan) {
             ShowPlan();
         }
+        ShowTitle();
     });
-    connect(&m_surface->List(), &OrderListView::ChoiceChanged, this, &Workbench::EnableCommands);
+    connect(m_surface, &WorkbenchSurface::Notice, m_status, &WorkbenchStatusBar::ShowMessage);
+    connect(&m_surface->List(), &OrderListView::ChoiceChanged, this, &Workbench::EnableActions);
     connect(&m_surface->List(), &OrderListView::RowsDropped, this, [this](std::size_t before) {
         EditChosen([before](ListEdit& edit, const auto& rows) { edit.MoveBefore(before, rows); });
     });
@@ -129,11 +209,11 @@ bool Workbench::event(QEvent* event) {
     if (event->type() == QEvent::ThemeChange) {
         FollowDesktop();
     }
-    return QWidget::event(event);
+    return QMainWindow::event(event);
 }
 
 void Workbench::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
+    QMainWindow::showEvent(event);
     ShowPlan();
     m_timer.SetRunning(true);
     Tick();
@@ -145,10 +225,10 @@ void Workbench::hideEvent(QHideEvent* event) {
         m_timer.SetRunning(false);
         m_surface->Search().StopSearch();
     }
-    QWidget::hideEvent(event);
+    QMainWindow::hideEvent(event);
 }
 
-void Workbench::Open(const Configuration& configuration) {
+void Workbench::OpenWindow(const Configuration& configuration) {
     if (!m_wasOpen) {
         m_wasOpen = true;
         RestorePlace(*this, configuration, kInitialLines * fontMetrics().height());
@@ -168,14 +248,27 @@ void Workbench::ShowPlan() {
         return;
     }
     m_surface->ShowPlan(m_nextChosen.value_or(m_surface->List().ChosenRows()));
+    m_status->ShowFigures(m_document);
     m_nextChosen.reset();
-    EnableCommands();
+    EnableActions();
     Tick();
 }
 
-void Workbench::EnableCommands() {
+void Workbench::ShowTitle() {
+    const auto& file = m_document.File();
+    // In a window title "[*]" is a placeholder of the toolkit; doubled, it is shown.
+    const QString name = file ? PathToQString(file->filename())
+                                    .replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"))
+                              : QStringLiteral("Unbenannt");
+    setWindowTitle(name + QStringLiteral("[*] – Tarvelin Werkbank"));
+    setWindowModified(m_document.IsModified());
+}
+
+void Workbench::EnableActions() {
     const auto fulfilled = [this](Needs needs) {
         switch (needs) {
+            case Needs::Nothing:
+                return true;
             case Needs::ChosenRow:
                 return !m_surface->List().ChosenRows().empty();
             case Needs::UndoStep:
@@ -187,8 +280,8 @@ void Workbench::EnableCommands() {
         }
         return m_document.Trace().has_value();
     };
-    for (std::size_t i = 0; i < m_buttons.size(); ++i) {
-        m_buttons[i]->setEnabled(fulfilled(Commands()[i].needs));
+    for (std::size_t i = 0; i < m_actions.size(); ++i) {
+        m_actions[i]->setEnabled(fulfilled(ActionRows()[i].needs));
     }
     ShowObjections();
 }
@@ -211,7 +304,7 @@ void Workbench::ApplyEdit(const ListEdit& edit, std::vector<std::size_t> chosen)
         return;
     }
     if (const auto objection = edit.Objection()) {
-        m_surface->ShowNotice(*objection);
+        m_status->ShowMessage(*objection);
         return;
     }
     m_nextChosen = std::move(chosen);
@@ -223,6 +316,34 @@ void Workbench::EditChosen(Step step) {
     ListEdit edit(m_document.CurrentPlan().LV_Bauliste);
     step(edit, m_surface->List().ChosenRows());
     ApplyEdit(edit, edit.Affected());
+}
+
+void Workbench::Open() {
+    const auto file = m_environment.AskForFile(Dialogs::Purpose::Load);
+    if (!file.empty()) {
+        m_document.LoadBauliste(file, false);
+    }
+}
+
+void Workbench::Save() {
+    if (const auto file = m_document.File()) {
+        SaveTo(*file);
+    } else {
+        SaveAs();
+    }
+}
+
+void Workbench::SaveAs() {
+    const auto file = m_environment.AskForFile(Dialogs::Purpose::Save);
+    if (!file.empty()) {
+        SaveTo(file);
+    }
+}
+
+void Workbench::SaveTo(const std::filesystem::path& file) {
+    if (m_document.SaveBauliste(file)) {
+        m_status->ShowMessage("Gespeichert: " + PathToQString(file).toStdString());
+    }
 }
 
 void Workbench::MoveUp() {
@@ -239,6 +360,14 @@ void Workbench::RemoveChosen() {
 
 void Workbench::DuplicateChosen() {
     EditChosen([](ListEdit& edit, const auto& rows) { edit.Duplicate(rows); });
+}
+
+void Workbench::ChooseAll() {
+    m_surface->List().selectAll();
+}
+
+void Workbench::ShowWholePlan() {
+    m_surface->Timeline().ShowAll();
 }
 
 // The chosen rows stay chosen, so the next row is inserted behind this one.
@@ -265,7 +394,7 @@ void Workbench::SavePicture() {
     const auto picture =
         RenderTimeline(m_surface->Timeline(), QFileInfo(PathToQString(file)).suffix());
     if (!picture) {
-        m_surface->ShowNotice(std::string("Der Name des Bildes endet auf .png, ") +
+        m_status->ShowMessage(std::string("Der Name des Bildes endet auf .png, ") +
                               (HasSvg() ? ".svg " : "") +
                               "oder .pdf: es wurde nichts gespeichert.");
         return;
@@ -279,7 +408,7 @@ void Workbench::CopyTimetable() {
     content->setHtml(ToQString(TimetableHtml(*m_document.Trace())));
     // The clipboard owns it.
     QGuiApplication::clipboard()->setMimeData(content);
-    m_surface->ShowNotice("Der Zeitplan liegt in der Zwischenablage.");
+    m_status->ShowMessage("Der Zeitplan liegt in der Zwischenablage.");
 }
 
 void Workbench::SaveCalendar() {
@@ -292,7 +421,7 @@ void Workbench::SaveCalendar() {
 }
 
 void Workbench::SaveBytes(const std::filesystem::path& file, const std::string& bytes) {
-    m_surface->ShowNotice(
+    m_status->ShowMessage(
         WriteFileAtomically(file, bytes, m_environment.files)
             ? "Gespeichert: " + PathToQString(file).toStdString()
             : "Die Datei konnte nicht gespeichert werden: wähle einen Ordner, in dem du schreiben "

@@ -1,8 +1,9 @@
 // The workbench: a timeline of the plan and a list that can be edited anywhere.
 #pragma once
 
-#include <QPushButton>
-#include <QWidget>
+#include <QAction>
+#include <QMainWindow>
+#include <QMenu>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -13,11 +14,14 @@
 #include "plan/ListEdit.h"
 #include "ui/services/Environment.h"
 #include "ui/services/SecondTimer.h"
+#include "ui/workbench/WorkbenchStatusBar.h"
 #include "ui/workbench/WorkbenchSurface.h"
 
 namespace tarvelin {
 
-class Workbench : public QWidget {
+/// Its actions are rows of one table: menus, tool bar, shortcuts and the list's context menu come
+/// from it.
+class Workbench : public QMainWindow {
     Q_OBJECT
 
   public:
@@ -30,7 +34,7 @@ class Workbench : public QWidget {
 
     /// Opens the window or brings it to the front. The first time it takes size and place from
     /// `configuration`.
-    void Open(const Configuration& configuration);
+    void OpenWindow(const Configuration& configuration);
     /// Size and place, as the configuration keeps them; none if the window was never open.
     [[nodiscard]] Configuration::Values Settings() const;
 
@@ -40,14 +44,17 @@ class Workbench : public QWidget {
     void hideEvent(QHideEvent* event) override;
 
   private:
-    struct Command;
-    static const std::vector<Command>& Commands();
+    struct ActionRow;
+    static const std::vector<ActionRow>& ActionRows();
 
-    void AddCommands();
+    void AddActions();
+    void AddRecentFiles(QMenu& menu);
+    void AddPageActions(QMenu& menu);
     void ConnectSignals();
     void FollowDesktop();
     void ShowPlan();
-    void EnableCommands();
+    void ShowTitle();
+    void EnableActions();
     void ShowObjections();
     void Tick();
 
@@ -57,12 +64,20 @@ class Workbench : public QWidget {
     /// Applies `step` to the chosen rows, which stay chosen.
     template <class Step>
     void EditChosen(Step step);
+    void New() { m_document.New(); }
+    void Open();
+    void Save();
+    void SaveAs();
+    void SaveTo(const std::filesystem::path& file);
+    void CloseWindow() { close(); }
+    void ShowWholePlan();
     void Undo() { m_document.Undo(); }
     void Redo() { m_document.Redo(); }
     void MoveUp();
     void MoveDown();
     void RemoveChosen();
     void DuplicateChosen();
+    void ChooseAll();
     void InsertRow(const Order& order, std::size_t before);
     void SavePicture();
     void CopyTimetable();
@@ -75,8 +90,9 @@ class Workbench : public QWidget {
     std::function<std::string()> m_leadTime;
     const Environment& m_environment;
     WorkbenchSurface* m_surface;
-    /// One for each command.
-    std::vector<QPushButton*> m_buttons;
+    WorkbenchStatusBar* m_status;
+    /// One for each row of the table.
+    std::vector<QAction*> m_actions;
     /// The rows to choose once an edit is shown.
     std::optional<std::vector<std::size_t>> m_nextChosen;
     SecondTimer m_timer{QStringLiteral("Tmr_Werkbank"), this};

@@ -1,11 +1,9 @@
 // What lies in the workbench's window, and how it is arranged.
 #pragma once
 
-#include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
+#include <QScrollArea>
 #include <QTabWidget>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,7 +12,9 @@
 #include "ui/services/Environment.h"
 #include "ui/workbench/ComparisonPage.h"
 #include "ui/workbench/ItemPalette.h"
+#include "ui/workbench/NextOrderStrip.h"
 #include "ui/workbench/OrderListView.h"
+#include "ui/workbench/PlanetPage.h"
 #include "ui/workbench/SearchPage.h"
 #include "ui/workbench/TimelineView.h"
 
@@ -28,15 +28,12 @@ class WorkbenchSurface : public QWidget {
     /// Both must outlive the surface.
     WorkbenchSurface(Document& document, const Environment& environment, QWidget* parent);
 
-    /// At the right end of the row of buttons.
-    QPushButton* AddButton(const QString& name, const QString& caption);
-
     /// Shows the plan and its run anew, with these rows chosen.
     void ShowPlan(const std::vector<std::size_t>& chosen);
+    /// Shows the start parameters.
+    void ShowConditions() { m_planetPage->Refresh(); }
     /// Marks the chosen rows in the timeline, and brings the first into sight.
     void ShowChoice();
-    /// Why the last action isn't possible, or what it has done; empty for nothing.
-    void ShowNotice(const std::string& text);
     /// Marks this moment, and tells what comes next.
     void ShowNow(DateTime now);
     void SetPictures(const PerItem<QPixmap>& pictures);
@@ -47,28 +44,29 @@ class WorkbenchSurface : public QWidget {
     [[nodiscard]] ItemPalette& Palette() const { return *m_palette; }
     [[nodiscard]] SearchPage& Search() const { return *m_searchPage; }
     [[nodiscard]] TimelineView& Timeline() const { return *m_timeline; }
+    /// The pages at the right.
+    [[nodiscard]] QTabWidget& Pages() const { return *m_pages; }
+
+  signals:
+    /// Why the last action isn't possible, or what it has done; empty for nothing.
+    void Notice(const std::string& text);
 
   private:
     void Arrange();
     QWidget* NewPages();
     void ConnectSignals();
-    void SetMessageHeight();
-    void ShowFooter();
     void ShowStatusAt(std::optional<SimTime> moment);
 
     Document& m_document;
-    QHBoxLayout* m_buttons;
-    QLabel* m_messageLabel;
+    NextOrderStrip* m_strip;
     OrderListView* m_list;
     QTabWidget* m_pages;
     ItemPalette* m_palette;
     SearchPage* m_searchPage;
     ComparisonPage* m_comparisonPage;
+    PlanetPage* m_planetPage;
     TimelineView* m_timeline;
     QLabel* m_statusLabel;
-    QLabel* m_durationLabel;
-    QLabel* m_changeLabel;
-    QLabel* m_nextOrderLabel;
     std::vector<QScrollArea*> m_scrollAreas;
 };
 
