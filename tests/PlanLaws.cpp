@@ -398,7 +398,7 @@ Finding CheckEdits(const Plan& plan) {
             return "an edit is let be that breaks a rule";
         }
         if (objection && !tooLong && breaches == 0 && RuleBreaches(orders) == 0) {
-            return "an edit is refused: " + *objection;
+            return "an edit is refused: " + objection->text;
         }
         if (objection || orders == states.back()) {
             continue;

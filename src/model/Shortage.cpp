@@ -2,6 +2,7 @@
 #include "model/Shortage.h"
 
 #include <cmath>
+#include <optional>
 
 #include "model/Resource.h"
 #include "util/NumberText.h"
@@ -10,27 +11,36 @@ namespace tarvelin {
 
 namespace {
 
-std::string MissingText(double amount, Resource resource) {
-    return "Es fehlten: " + WholeText(std::floor(amount)) + " " +
-           std::string(kResourceNames[resource]);
+std::optional<Resource> ResourceOf(Shortage::Kind kind) {
+    switch (kind) {
+        case Shortage::Kind::Metall:
+            return Resource::Metall;
+        case Shortage::Kind::Kristall:
+            return Resource::Kristall;
+        case Shortage::Kind::Deuterium:
+            return Resource::Deuterium;
+        case Shortage::Kind::Unstated:
+        case Shortage::Kind::None:
+            break;
+    }
+    return std::nullopt;
 }
 
 }  // namespace
 
 std::string Shortage::Text() const {
-    switch (kind) {
-        case Kind::Unstated:
-            break;
-        case Kind::None:
-            return "Keine Verzögerung wegen der Ressourcen!";
-        case Kind::Metall:
-            return MissingText(missingAmount, Resource::Metall);
-        case Kind::Kristall:
-            return MissingText(missingAmount, Resource::Kristall);
-        case Kind::Deuterium:
-            return MissingText(missingAmount, Resource::Deuterium);
+    if (const auto resource = ResourceOf(kind)) {
+        return "Es fehlten: " + WholeText(std::floor(missingAmount)) + " " +
+               std::string(kResourceNames[*resource]);
     }
-    return "";
+    return kind == Kind::None ? "Keine Verzögerung wegen der Ressourcen!" : "";
+}
+
+std::string Shortage::AmountText() const {
+    const auto resource = ResourceOf(kind);
+    return resource ? GroupedText(std::floor(missingAmount)) + " " +
+                          std::string(kResourceNames[*resource])
+                    : "";
 }
 
 }  // namespace tarvelin

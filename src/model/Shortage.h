@@ -18,6 +18,8 @@ struct Shortage {
     /// "Keine Verzögerung wegen der Ressourcen!", or "Es fehlten: " with the amount and the
     /// resource; empty for `Unstated`.
     [[nodiscard]] std::string Text() const;
+    /// "1.067 Kristall"; empty where nothing is short.
+    [[nodiscard]] std::string AmountText() const;
 
     /// Copies field by field: copying a whole struct whose fields were just written stalls on store
     /// forwarding.

@@ -41,6 +41,8 @@ class Configuration {
     static constexpr ConfigKey kWorkbenchWidth    {"Werkbank",      "Breite",             ""};
     static constexpr ConfigKey kWorkbenchHeight   {"Werkbank",      "Hoehe",              ""};
     static constexpr ConfigKey kWorkbenchMaximized{"Werkbank",      "Gross",              "0"};
+    /// Columns of the list that aren't shown, by their captions.
+    static constexpr ConfigKey kWorkbenchHidden   {"Werkbank",      "Ausgeblendet",       ""};
     /// The plans that were opened last, the latest first.
     static constexpr std::array<ConfigKey, 5> kRecentFiles{{
         {"Werkbank", "Zuletzt_1", ""}, {"Werkbank", "Zuletzt_2", ""}, {"Werkbank", "Zuletzt_3", ""},

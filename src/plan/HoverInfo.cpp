@@ -12,19 +12,24 @@ namespace tarvelin {
 
 namespace {
 
-/// The energy that the step from `level` needs in addition, at full production.
-std::string NeedText(Resource mine, Byte level) {
-    const auto needOf = [&](int reached) {
-        return GetEnergieVerbrauch(mine, Saturate<Byte>(reached), kFullFactor);
-    };
-    return "  |  Energie: -" + WholeText(needOf(level + 1) - needOf(level));
-}
-
-std::string SupplyText(FixedPoint production) {
-    return "  |  Energie: +" + DecimalText(production);
-}
-
 std::string EnergySuffix(ItemId item, Byte level, const RunConditions& conditions) {
+    const double energy = EnergyOfStep(item, level, conditions);
+    switch (RowOf(item).traits.energyRole) {
+        case EnergyRole::None:
+            return "";
+        case EnergyRole::Mine:
+            return "  |  Energie: -" + WholeText(-energy);
+        case EnergyRole::PowerPlant:
+        case EnergyRole::Satellite:
+            break;
+    }
+    return "  |  Energie: +" + WholeText(energy);
+}
+
+}  // namespace
+
+double EnergyOfStep(ItemId item, Byte level, const RunConditions& conditions) {
+    const Byte next = Saturate<Byte>(level + 1);
     const auto production = [&](Byte count) {
         return GetProduktion(item, count, conditions.Temperatur);
     };
@@ -32,16 +37,15 @@ std::string EnergySuffix(ItemId item, Byte level, const RunConditions& condition
         case EnergyRole::None:
             break;
         case EnergyRole::Mine:
-            return NeedText(ResourceOf(item), level);
+            return GetEnergieVerbrauch(ResourceOf(item), level, kFullFactor) -
+                   GetEnergieVerbrauch(ResourceOf(item), next, kFullFactor);
         case EnergyRole::PowerPlant:
-            return SupplyText(production(Saturate<Byte>(level + 1)) - production(level));
+            return (production(next) - production(level)).ToDouble();
         case EnergyRole::Satellite:
-            return SupplyText(production(1));
+            return production(1).ToDouble();
     }
-    return "";
+    return 0;
 }
-
-}  // namespace
 
 HoverInfo HoverInfoFor(ItemId item, const OrderList& list, const RunConditions& conditions) {
     if (const auto refusal = Refusal(item, list)) {

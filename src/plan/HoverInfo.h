@@ -16,6 +16,10 @@ struct HoverInfo {
     std::string tooltip;
 };
 
+/// The energy that a step of an item from `level` brings at full production, negative if it needs
+/// some.
+[[nodiscard]] double EnergyOfStep(ItemId item, Byte level, const RunConditions& conditions);
+
 /// `conditions` are those of the last run or reset, as the satellites' energy depends on the
 /// temperature.
 [[nodiscard]] HoverInfo HoverInfoFor(ItemId item, const OrderList& list,

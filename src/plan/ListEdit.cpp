@@ -102,20 +102,22 @@ std::vector<bool> ListEdit::RowsKeepingRules() const {
     return keepsRules;
 }
 
-std::optional<std::string> ListEdit::Objection() const {
+std::optional<EditObjection> ListEdit::Objection() const {
     const std::vector<bool> keepsRules = RowsKeepingRules();
     OrderList above;
     for (const DraftRow& row : m_rows) {
         if (above.IsFull()) {
-            return ListFullMessage().text;
+            return EditObjection{.text = ListFullMessage().text};
         }
         const auto breach = RuleBreach(row.order, above);
         if (breach && !row.original) {
-            return std::string(*breach);
+            return EditObjection{.text = std::string(*breach)};
         }
         if (breach && keepsRules[*row.original]) {
             const BuildListRow& shown = m_list->Rows()[*row.original];
-            return "Zeile " + shown.text + " (" + shown.SubItems1 + "):" + std::string(*breach);
+            return EditObjection{.text = "Zeile " + shown.text + " (" + shown.SubItems1 +
+                                         "):" + std::string(*breach),
+                                 .row = row.original};
         }
         above.Append(row.order);
     }

@@ -11,6 +11,14 @@
 
 namespace tarvelin {
 
+/// Why an edit is refused.
+struct EditObjection {
+    std::string text;
+    /// The row of the list that would break its rule; nothing if it is a new one or the list is
+    /// full.
+    std::optional<std::size_t> row{};
+};
+
 /// A draft of an edit: the list that it was made from stays as it is, `Orders` are those of the
 /// list after the edit. Row numbers count from 0 in the draft as it stands; a set of them is given
 /// in ascending sequence, without duplicates.
@@ -33,7 +41,7 @@ class ListEdit {
     /// Why the edit is refused: the list would be too long, a new row isn't allowed at its place,
     /// or a row that kept its rule would break it (rows of a loaded list may have broken theirs
     /// already). Nothing if the edit is allowed.
-    [[nodiscard]] std::optional<std::string> Objection() const;
+    [[nodiscard]] std::optional<EditObjection> Objection() const;
 
     [[nodiscard]] std::vector<Order> Orders() const;
     /// Where the moved rows or the copies are now, or the row after the removed ones.

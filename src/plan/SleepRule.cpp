@@ -178,6 +178,24 @@ class Filling {
     std::size_t m_present = 0;
 };
 
+/// The rows that are long enough to be nights, by their begin.
+std::vector<cSchlafzeit> NightsIn(const SleepTable& table) {
+    constexpr std::int64_t kShortestNight = 180 * kMinute;
+    auto windows = ParseSleepTable(table);
+    std::erase_if(windows, [](const cSchlafzeit& window) {
+        return window.Endzeit() - window.Startzeit() < kShortestNight;
+    });
+    std::ranges::stable_sort(windows, {}, &cSchlafzeit::Startzeit);
+    return windows;
+}
+
+NightTimes TimesOf(const cSchlafzeit& night) {
+    const auto minuteOf = [](DateTime time) {
+        return static_cast<int>((time - StartOfDay(time)) / kMinute);
+    };
+    return {.from = minuteOf(night.Startzeit()), .to = minuteOf(night.Endzeit())};
+}
+
 /// "dd.mm.yyyy hh:mm", and seconds where there are some.
 std::string ShortText(DateTime time) {
     return time.Seconds() % kMinute == 0 ? SleepRowOf(time, time).Startzeit : DateTimeText(time);
@@ -203,18 +221,25 @@ FilledSleepTable FillWithNights(const SleepTable& table, const SleepRule& rule, 
 
 std::optional<DateTime> SleeplessFrom(const SleepTable& table, DateTime planStart,
                                       DateTime planEnd) {
-    constexpr std::int64_t kShortestNight = 180 * kMinute;
-    std::optional<DateTime> lastBegin;
-    for (const cSchlafzeit& window : ParseSleepTable(table)) {
-        if (window.Endzeit() - window.Startzeit() >= kShortestNight) {
-            lastBegin = std::max(lastBegin.value_or(window.Startzeit()), window.Startzeit());
-        }
-    }
-    if (!lastBegin) {
+    const auto nights = NightsIn(table);
+    if (nights.empty()) {
         return std::nullopt;
     }
-    const DateTime from = std::max(*lastBegin + kDay, planStart);
+    const DateTime from = std::max(nights.back().Startzeit() + kDay, planStart);
     return from < planEnd ? std::optional(from) : std::nullopt;
+}
+
+std::optional<SleepRule> RuleOf(const SleepTable& table) {
+    const auto nights = NightsIn(table);
+    if (nights.empty()) {
+        return std::nullopt;
+    }
+    SleepRule rule = SleepRule::EveryNight(TimesOf(nights.back()));
+    for (const cSchlafzeit& night : nights) {
+        const DateTime evening = night.Startzeit() + -kDay / 2;
+        rule.nights.at(static_cast<std::size_t>(Weekday(evening) - 1)) = TimesOf(night);
+    }
+    return rule;
 }
 
 SleepTable MovedByDays(const SleepTable& table, int days) {

@@ -75,6 +75,10 @@ inline constexpr std::size_t kMaxNights = 400;
 [[nodiscard]] std::optional<DateTime> SleeplessFrom(const SleepTable& table, DateTime planStart,
                                                     DateTime planEnd);
 
+/// The rule that the nights of a table follow: of each weekday the last one, where a weekday has
+/// none the last of all. Nothing for a table without nights.
+[[nodiscard]] std::optional<SleepRule> RuleOf(const SleepTable& table);
+
 /// All rows that are dates, so many days later, or earlier for a negative number; those that would
 /// leave the years 0100 to 9999 are left out.
 [[nodiscard]] SleepTable MovedByDays(const SleepTable& table, int days);

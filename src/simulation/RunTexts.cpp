@@ -22,7 +22,7 @@ std::string LevelText(const LevelRequirement& missing) {
 }
 
 /// The window whose end the order waited for, or else the one that held it back first.
-std::string SleepText(const RunTrace& trace, const StartEvent& start) {
+const cSchlafzeit* WindowOf(const RunTrace& trace, const StartEvent& start) {
     const auto& sleepWindows = trace.conditions.Schlafzeiten;
     auto wanted = std::ranges::find(sleepWindows, ReadyAt(trace, start), &cSchlafzeit::Endzeit);
     if (wanted == sleepWindows.end()) {
@@ -31,11 +31,14 @@ std::string SleepText(const RunTrace& trace, const StartEvent& start) {
             return sleepWindow.CheckifInside(sleepFree);
         });
     }
-    if (wanted == sleepWindows.end()) {
-        return "Schlafzeit";
-    }
-    return "Schlafzeit " + TimeOfDayText(wanted->Startzeit()) + " bis " +
-           TimeOfDayText(wanted->Endzeit());
+    return wanted == sleepWindows.end() ? nullptr : &*wanted;
+}
+
+std::string SleepText(const RunTrace& trace, const StartEvent& start) {
+    const cSchlafzeit* const window = WindowOf(trace, start);
+    return window == nullptr ? "Schlafzeit"
+                             : "Schlafzeit " + TimeOfDayText(window->Startzeit()) + " bis " +
+                                   TimeOfDayText(window->Endzeit());
 }
 
 /// Whether no order before the row waited for anything but clicks.
@@ -45,9 +48,9 @@ bool OnlyClicksBefore(const RunTrace& trace, std::size_t row) {
     });
 }
 
-std::string ClickText(const RunTrace& trace, std::size_t row) {
-    if (!OnlyClicksBefore(trace, row) || (trace.conditions.KlickPuffer == 0 && row > 0)) {
-        return "wartete auf Zeile " + std::to_string(row);
+std::string ClickText(const RunTrace& trace, const StartEvent& start) {
+    if (!WaitsForClick(trace, start)) {
+        return "wartete auf Zeile " + std::to_string(start.row);
     }
     return trace.conditions.KlickPuffer == 0
                ? ""
@@ -66,7 +69,7 @@ std::string DelayReasonText(const RunTrace& trace, const StartEvent& start) {
     const Delay& delay = start.delay;
     switch (delay.cause) {
         case DelayCause::None:
-            return ClickText(trace, start.row);
+            return ClickText(trace, start);
         case DelayCause::Level:
             return "Es fehlte: " + LevelText(delay.missing);
         case DelayCause::FacilityUpgrade:
@@ -93,6 +96,38 @@ std::string DelayText(const RunTrace& trace, std::size_t row) {
     }
     // Nothing was left that could have opened the gate.
     return DelayReasonText(trace, *start) + (start->gateClosed ? " (bis zuletzt)" : "");
+}
+
+bool WaitsForClick(const RunTrace& trace, const StartEvent& start) {
+    return start.delay.cause == DelayCause::None && OnlyClicksBefore(trace, start.row) &&
+           (trace.conditions.KlickPuffer > 0 || start.row == 0);
+}
+
+std::string WaitText(const RunTrace& trace, const StartEvent& start) {
+    const Delay& delay = start.delay;
+    switch (delay.cause) {
+        case DelayCause::None:
+            if (!WaitsForClick(trace, start)) {
+                return "Zeile " + std::to_string(start.row);
+            }
+            return trace.conditions.KlickPuffer == 0
+                       ? ""
+                       : "Klickpuffer " + std::to_string(trace.conditions.KlickPuffer) + " s";
+        case DelayCause::Level:
+            return LevelText(delay.missing);
+        case DelayCause::Deuterium:
+            return "Produktion von Deuterium";
+        case DelayCause::Resource:
+            return delay.shortage.AmountText();
+        case DelayCause::Sleep: {
+            const cSchlafzeit* const window = WindowOf(trace, start);
+            return window == nullptr ? "Schlaf" : "Schlaf bis " + TimeOfDayText(window->Endzeit());
+        }
+        case DelayCause::FacilityUpgrade:
+        case DelayCause::Queue:
+            break;
+    }
+    return DelayReasonText(trace, start);
 }
 
 std::string BeyondClockText() {

@@ -15,6 +15,13 @@ namespace tarvelin {
 /// click buffer.
 [[nodiscard]] std::string DelayText(const RunTrace& trace, std::size_t row);
 
+/// The same in few words, for a place beside its symbol: "1.067 Kristall", "Bauschleife bis
+/// 07:49:05", "Roboterfabrik 2", "Zeile 35", "Schlaf bis 07:00:00", "Klickpuffer 5 s".
+[[nodiscard]] std::string WaitText(const RunTrace& trace, const StartEvent& start);
+
+/// Whether nothing but clicks held back the orders up to this one.
+[[nodiscard]] bool WaitsForClick(const RunTrace& trace, const StartEvent& start);
+
 /// The warning about a plan that outlasts the clock.
 [[nodiscard]] std::string BeyondClockText();
 

@@ -131,4 +131,14 @@ std::string WholeText(double value) {
     return AllDigits(whole == 0 ? 0.0 : whole, 0);  // no "-0"
 }
 
+std::string GroupedText(double value) {
+    constexpr std::ptrdiff_t kGroup = 3;
+    std::string text = WholeText(value);
+    const std::ptrdiff_t first = text.front() == '-' ? 1 : 0;
+    for (auto end = std::ssize(text) - kGroup; end > first; end -= kGroup) {
+        text.insert(static_cast<std::size_t>(end), ".");
+    }
+    return text;
+}
+
 }  // namespace tarvelin

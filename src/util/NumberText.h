@@ -26,4 +26,7 @@ namespace tarvelin {
 /// `value` truncated towards zero, in full without an exponent.
 [[nodiscard]] std::string WholeText(double value);
 
+/// The same with a full stop between thousands: "1.067".
+[[nodiscard]] std::string GroupedText(double value);
+
 }  // namespace tarvelin

@@ -114,7 +114,7 @@ class Program:
 
     def open_workbench(self):
         xdotool("key", "alt+w", "sleep", 0.3, "key", "Return")
-        return self.other_window("Tarvelin  |  Werkbank")
+        return self.other_window("Tarvelin Werkbank")
 
     def other_window(self, title):
         """The same program, driven by another of its windows."""

@@ -1,6 +1,7 @@
 // Column widths, header and pointer events of a list.
 #include "ui/widgets/ListView.h"
 
+#include <QIcon>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QProxyStyle>
@@ -15,6 +16,7 @@ namespace tarvelin {
 namespace {
 
 constexpr int kHeaderMargin = 2;
+constexpr int kIconGap = 3;
 
 /// Removes the style's margins from cells, as narrow columns have no room for them.
 class CellStyle : public QProxyStyle {
@@ -71,9 +73,23 @@ void ListHeader::paintEvent(QPaintEvent* event) {
 }
 
 void ListHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const {
+    const auto captionData = [&](int role) {
+        return model()->headerData(logicalIndex, Qt::Horizontal, role);
+    };
+    QRect place = rect.adjusted(kHeaderMargin, 0, -kHeaderMargin, 0);
+    const bool right = (captionData(Qt::TextAlignmentRole).toInt() & Qt::AlignRight) != 0;
+    if (const auto icon = captionData(Qt::DecorationRole).value<QIcon>(); !icon.isNull()) {
+        const int side = fontMetrics().ascent();
+        const int text = fontMetrics().horizontalAdvance(ElidedAt(logicalIndex));
+        const int left =
+            right ? std::max(place.left(), place.right() - text - side - kIconGap) : place.left();
+        icon.paint(painter, QRect(left, place.center().y() - side / 2, side, side));
+        place.setLeft(left + side + kIconGap);
+    }
     painter->setPen(palette().buttonText().color());
-    painter->drawText(rect.adjusted(kHeaderMargin, 0, -kHeaderMargin, 0),
-                      static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), ElidedAt(logicalIndex));
+    painter->drawText(place,
+                      static_cast<int>((right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter),
+                      ElidedAt(logicalIndex));
 }
 
 ListView::ListView(const QString& name, const QString& accessibleName, std::vector<int> shares,

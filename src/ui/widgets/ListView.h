@@ -8,7 +8,7 @@
 namespace tarvelin {
 
 /// A header one line high. A caption that doesn't fit is elided, and its tooltip has the whole
-/// text.
+/// text. Alignment and icon of a caption are the model's.
 class ListHeader : public QHeaderView {
     Q_OBJECT
 
@@ -49,9 +49,10 @@ class ListView : public QTreeView {
     void resizeEvent(QResizeEvent* event) override;
     void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
 
-  private:
-    void DistributeColumns();
+    /// Sets the widths of the columns.
+    virtual void DistributeColumns();
 
+  private:
     std::vector<int> m_shares;
 };
 

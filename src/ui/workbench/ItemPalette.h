@@ -2,20 +2,28 @@
 #pragma once
 
 #include <QComboBox>
-#include <QGridLayout>
+#include <QLabel>
 #include <QPixmap>
+#include <QVBoxLayout>
 #include <QWidget>
-#include <array>
 #include <functional>
 #include <optional>
 #include <string>
 
 #include "model/ItemId.h"
 #include "model/Resource.h"
+#include "simulation/InsertPreview.h"
 
 namespace tarvelin {
 
 class PalettePicture;
+
+/// What an item would do at the place where the next row goes.
+struct PaletteOffer {
+    InsertPreview preview;
+    /// Why it can't go there.
+    std::optional<std::string> objection;
+};
 
 class ItemPalette : public QWidget {
     Q_OBJECT
@@ -24,24 +32,27 @@ class ItemPalette : public QWidget {
     explicit ItemPalette(QWidget* parent);
 
     void SetPictures(const PerItem<QPixmap>& pictures);
-    /// `objection` tells why an item can't be inserted now. Dims the picture and explains it.
-    void SetObjections(const std::function<std::optional<std::string>(ItemId)>& objection);
+    /// New rows go in front of row `before` of a list of `size` rows.
+    void ShowOffers(const PerItem<PaletteOffer>& offers, std::size_t before, std::size_t size);
+    /// Call it when the palette or the font has changed.
+    void FollowAppearance();
 
   signals:
     void ItemChosen(ItemId item);
     void ProductionChosen(const MineFactors& factors);
 
-  protected:
-    void changeEvent(QEvent* event) override;
-
   private:
-    void AddPictures();
-    void AddFactorInputs();
-    void FitToFont();
+    void AddPictures(QVBoxLayout& layout);
+    void AddFactorInputs(QVBoxLayout& layout);
+    void ShowDetails(std::optional<ItemId> item);
 
-    QGridLayout* m_layout;
+    QLabel* m_place;
+    QLabel* m_placeIcon;
+    QLabel* m_details;
     PerItem<PalettePicture*> m_pictures{};
-    std::array<QComboBox*, 3> m_factors{};
+    PerItem<PaletteOffer> m_offers{};
+    std::optional<ItemId> m_pointedAt;
+    PerResource<QComboBox*> m_factors{};
 };
 
 }  // namespace tarvelin

@@ -6,18 +6,14 @@
 #include "simulation/RunTexts.h"
 #include "simulation/StatusTexts.h"
 #include "ui/widgets/Controls.h"
+#include "ui/workbench/TypeSizes.h"
+#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 
 namespace {
 
 constexpr int kPicture = 32;
-
-QFont Scaled(QFont font, qreal points, bool bold) {
-    font.setPointSizeF(points);
-    font.setBold(bold);
-    return font;
-}
 
 }  // namespace
 
@@ -43,26 +39,27 @@ NextOrderStrip::NextOrderStrip(QWidget* parent)
     layout->addWidget(m_remaining, 0, 2);
     layout->addWidget(m_moment, 1, 2);
     layout->setColumnStretch(3, 1);
-    FitToFont();
+    FollowAppearance();
 }
 
-void NextOrderStrip::FitToFont() {
-    constexpr qreal kCaption = 8;
-    constexpr qreal kUsual = 9;
-    constexpr qreal kFigure = 14;
-    m_caption->setFont(Scaled(font(), kCaption, false));
+void NextOrderStrip::FollowAppearance() {
+    QPalette ground = palette();
+    ground.setColor(QPalette::Window, ColorsFor(window()->palette())[Color::Toolbar]);
+    setPalette(ground);
+    m_caption->setFont(TypeFont(font(), TypeSize::Caption));
     m_moment->setFont(m_caption->font());
-    m_name->setFont(Scaled(font(), kUsual, true));
-    m_remaining->setFont(Scaled(font(), kFigure, true));
+    m_name->setFont(TypeFont(font(), TypeSize::Usual, true));
+    m_remaining->setFont(TypeFont(font(), TypeSize::Figure, true));
     m_caption->setForegroundRole(QPalette::PlaceholderText);
     m_moment->setForegroundRole(QPalette::PlaceholderText);
     const auto reserve = [](QLabel& label, const char* longest) {
         label.setMinimumWidth(label.fontMetrics().horizontalAdvance(QString::fromUtf8(longest)));
     };
     reserve(*m_name, "Verbrennungstriebwerk 10");
-    reserve(*m_remaining, "in 12 Tage 00:00:00");
-    setFixedHeight(
-        std::max(kPicture, m_remaining->sizeHint().height() + m_moment->sizeHint().height()) + 8);
+    reserve(*m_remaining, "in 2 Tage 00:00:00");
+    constexpr int kFrame = 4;
+    setFixedHeight(2 * kFrame + std::max(kPicture, m_remaining->fontMetrics().height() +
+                                                       m_moment->fontMetrics().height()));
 }
 
 void NextOrderStrip::ShowNext(const std::optional<RunTrace>& trace, DateTime now) {

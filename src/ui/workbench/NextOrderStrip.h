@@ -20,8 +20,8 @@ class NextOrderStrip : public QWidget {
     void SetPictures(const PerItem<QPixmap>& pictures) { m_pictures = pictures; }
     /// The next order of `trace` at the moment `now`.
     void ShowNext(const std::optional<RunTrace>& trace, DateTime now);
-    /// Sizes that follow the font.
-    void FitToFont();
+    /// Call it when the palette or the font has changed.
+    void FollowAppearance();
 
   private:
     PerItem<QPixmap> m_pictures;

@@ -3,16 +3,15 @@
 
 #include <QDrag>
 #include <QDragEnterEvent>
-#include <QFontMetrics>
 #include <QItemSelection>
 #include <QMimeData>
 #include <QPainter>
 #include <algorithm>
+#include <numeric>
 
-#include "simulation/RunTexts.h"
-#include "simulation/StatusTexts.h"
-#include "ui/widgets/Controls.h"
 #include "ui/widgets/ItemPicture.h"
+#include "ui/workbench/Icons.h"
+#include "ui/workbench/WaitLook.h"
 #include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
@@ -21,100 +20,144 @@ namespace {
 
 constexpr QLatin1String kRowsMimeType("application/x-tarvelin-zeilen");
 
-enum Column { kNumber, kOrder, kStart, kFinish, kDelay, kFactor };
-
-std::string CellText(const Document& document, std::size_t row, int column) {
-    const BuildListRow& texts = document.CurrentPlan().LV_Bauliste.Rows()[row];
-    const auto& trace = document.Trace();
-    const StartEvent* const start = trace ? trace->StartOf(row) : nullptr;
-    const auto moment = [&](SimTime StartEvent::*time) {
-        return start != nullptr ? ShortDateTimeText(trace->conditions.WallClock(start->*time)) : "";
-    };
-    switch (column) {
-        case kNumber:
-            return texts.text;
-        case kOrder:
-            return texts.SubItems1;
-        case kStart:
-            return moment(&StartEvent::start);
-        case kFinish:
-            return moment(&StartEvent::finish);
-        case kDelay:
-            return trace ? DelayText(*trace, row) : "";
-        default:
-            return texts.SubItems2;
+QStringList Captions() {
+    QStringList captions;
+    for (const OrderColumnRow& column : OrderColumns()) {
+        captions.push_back(QString::fromUtf8(column.caption));
     }
+    return captions;
 }
 
-/// Fits the usual texts of the columns.
-std::vector<int> ColumnWidths() {
-    std::vector<int> widths;
-    const QFontMetrics metrics{QFont()};
-    for (const char* const text :
-         {"254 ", "Raumschiffwerft Stufe: 10 ", "Mo 20.11. 00:00:00 ", "Mo 20.11. 00:00:00 ",
-          "Schlafzeit 20:00:00 bis 08:00:00 ", "Prod % "}) {
-        widths.push_back(metrics.horizontalAdvance(QString::fromLatin1(text)));
-    }
-    return widths;
+/// A triangle at the end of the insertion line, pointing along it.
+QPolygonF Triangle(qreal x, qreal y, qreal length) {
+    const qreal half = std::abs(length) * 0.8;
+    return QPolygonF({QPointF(x, y - half), QPointF(x + length, y), QPointF(x, y + half)});
 }
 
-class DraggableRows : public TableModel {
+}  // namespace
+
+/// Rows can be dragged; captions have the symbols of their resources.
+class OrderListView::Model : public TableModel {
   public:
-    using TableModel::TableModel;
+    Model(const Document& document, OrderListView& list)
+        : TableModel(
+              Captions(),
+              {.rows = [&] { return document.CurrentPlan().LV_Bauliste.Rows().size(); },
+               .text =
+                   [&](std::size_t row, int column) {
+                       return OrderCellText(document, row, static_cast<OrderColumn>(column));
+                   },
+               .description = [&](std::size_t row) { return OrderDescription(document, row); }},
+              &list),
+          m_list(list) {}
 
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override {
         const auto flags = TableModel::flags(index);
         return index.isValid() ? flags | Qt::ItemIsDragEnabled : flags;
     }
+
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
+                                      int role) const override {
+        const OrderColumnRow& column = OrderColumns()[static_cast<std::size_t>(section)];
+        if (role == Qt::TextAlignmentRole) {
+            return static_cast<int>(column.right ? Qt::AlignRight : Qt::AlignLeft);
+        }
+        if (role == Qt::DecorationRole && column.resource) {
+            const WaitLook look = LookOf(*column.resource);
+            return SymbolIcon(look.symbol, look.symbolColor, ColorsFor(m_list.palette()));
+        }
+        return TableModel::headerData(section, orientation, role);
+    }
+
+  private:
+    const OrderListView& m_list;
 };
 
-}  // namespace
-
 OrderListView::OrderListView(const Document& document, QWidget* parent)
-    : ListView(QStringLiteral("LV_Werkbank"), QStringLiteral("Aufträge"), ColumnWidths(), parent),
+    : ListView(QStringLiteral("LV_Werkbank"), QStringLiteral("Aufträge"), {}, parent),
       m_document(document),
-      m_model(new DraggableRows(
-          {QStringLiteral("Nr."), QStringLiteral("Auftrag"), QStringLiteral("Start"),
-           QStringLiteral("Fertig"), QStringLiteral("Grund"), QStringLiteral("Prod %")},
-          Provider(), this)) {
+      m_model(new Model(document, *this)),
+      m_delegate(new OrderDelegate(document, this)) {
     setModel(m_model);
+    setItemDelegate(m_delegate);
+    setFrameShape(QFrame::NoFrame);
+    setAlternatingRowColors(true);
     setSelectionMode(ExtendedSelection);
-    setTextElideMode(Qt::ElideRight);
     setDragEnabled(true);
     setAcceptDrops(true);
-    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &OrderListView::ChoiceChanged);
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        m_insertBefore.reset();
+        viewport()->update();
+        emit ChoiceChanged();
+    });
 }
 
-TableModel::Provider OrderListView::Provider() const {
-    const Document& document = m_document;
-    return {.rows = [&document] { return document.CurrentPlan().LV_Bauliste.Rows().size(); },
-            .text = [&document](std::size_t row,
-                                int column) { return ToQString(CellText(document, row, column)); },
-            .color =
-                [this](std::size_t row, int column) {
-                    const auto& rows = m_document.CurrentPlan().LV_Bauliste.Rows();
-                    const bool red =
-                        column == kFactor && rows[row].SubItems2Color == TextColor::Red;
-                    return red ? m_deficitColor : palette().color(QPalette::Text);
-                },
-            .description =
-                [&document](std::size_t row) {
-                    // Narrow columns elide their texts.
-                    std::string text = CellText(document, row, kOrder);
-                    for (const int column : {kStart, kFinish, kDelay}) {
-                        text += "\n" + CellText(document, row, column);
-                    }
-                    return ToQString(text).trimmed();
-                }};
+void OrderListView::SetPictures(const PerItem<QPixmap>& pictures) {
+    m_delegate->SetPictures(pictures);
+    viewport()->update();
 }
 
-void OrderListView::Refresh(const std::vector<std::size_t>& chosen) {
+void OrderListView::SetMarks(const OrderMarks& marks) {
+    if (marks != m_delegate->Marks()) {
+        m_delegate->SetMarks(marks);
+        viewport()->update();
+    }
+}
+
+void OrderListView::FollowAppearance() {
+    constexpr int kHeaderFrame = 8;
+    header()->setMinimumHeight(fontMetrics().height() + kHeaderFrame);
+    DistributeColumns();
+    header()->viewport()->update();
+}
+
+void OrderListView::SetHiddenColumns(std::set<OrderColumn> hidden) {
+    m_hidden = std::move(hidden);
+    DistributeColumns();
+}
+
+// What doesn't fit: the reason is elided first, then the costs go.
+void OrderListView::DistributeColumns() {
+    const QFontMetrics metrics = fontMetrics();
+    EnumArray<OrderColumn, int> widths{};
+    for (const OrderColumnRow& column : OrderColumns()) {
+        widths[column.column] =
+            m_hidden.contains(column.column) ? 0 : OrderDelegate::WidthOf(column, metrics);
+    }
+    const auto surplus = [&] {
+        return viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
+    };
+    const OrderColumn flexible =
+        m_hidden.contains(OrderColumn::Wait) ? OrderColumn::Order : OrderColumn::Wait;
+    const int least =
+        std::min(widths[flexible],
+                 metrics.horizontalAdvance(QStringLiteral("1.000 Kristall")) + metrics.height());
+    for (const OrderColumnRow& column : OrderColumns()) {
+        if (column.resource && surplus() + widths[flexible] - least < 0) {
+            for (const OrderColumnRow& cost : OrderColumns()) {
+                widths[cost.column] = cost.resource ? 0 : widths[cost.column];
+            }
+        }
+    }
+    widths[flexible] = std::max(least, widths[flexible] + surplus());
+    for (const OrderColumnRow& column : OrderColumns()) {
+        const auto section = static_cast<int>(column.column);
+        header()->setSectionHidden(section, widths[column.column] == 0);
+        if (widths[column.column] > 0) {
+            header()->resizeSection(section, widths[column.column]);
+        }
+    }
+    updateGeometries();
+}
+
+void OrderListView::Refresh(const std::vector<std::size_t>& chosen,
+                            std::optional<std::size_t> insertBefore) {
     m_model->Refresh();
-    Choose(chosen);
+    Choose(chosen, insertBefore);
 }
 
-void OrderListView::Choose(const std::vector<std::size_t>& rows) {
+void OrderListView::Choose(const std::vector<std::size_t>& rows,
+                           std::optional<std::size_t> insertBefore) {
     QItemSelection chosen;
     QModelIndex first;
     for (const std::size_t row : rows) {
@@ -127,6 +170,8 @@ void OrderListView::Choose(const std::vector<std::size_t>& rows) {
     selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
     selectionModel()->select(chosen,
                              QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    m_insertBefore = insertBefore;
+    viewport()->update();
     if (first.isValid()) {
         scrollTo(first);
     }
@@ -139,6 +184,15 @@ std::vector<std::size_t> OrderListView::ChosenRows() const {
     }
     std::ranges::sort(rows);
     return rows;
+}
+
+std::size_t OrderListView::InsertPosition() const {
+    const std::size_t size = m_document.CurrentPlan().LV_Bauliste.Orders().Size();
+    if (m_insertBefore) {
+        return std::min(*m_insertBefore, size);
+    }
+    const auto chosen = ChosenRows();
+    return chosen.empty() ? size : chosen.front();
 }
 
 void OrderListView::startDrag(Qt::DropActions /*actions*/) {
@@ -201,15 +255,24 @@ void OrderListView::dropEvent(QDropEvent* event) {
 
 void OrderListView::paintEvent(QPaintEvent* event) {
     ListView::paintEvent(event);
-    if (m_target < 0) {
-        return;
-    }
+    PaintInsertLine();
+}
+
+void OrderListView::PaintInsertLine() {
     const int rows = m_model->rowCount();
-    const QRect slot = visualRect(m_model->index(std::min(m_target, rows - 1), 0));
-    const int y = rows == 0 ? 0 : m_target < rows ? slot.top() : slot.bottom();
+    const int before = m_target >= 0 ? m_target : static_cast<int>(InsertPosition());
+    const QRect slot = visualRect(m_model->index(std::min(before, rows - 1), 0));
+    constexpr int kWidth = 2;
+    constexpr int kTriangle = 7;
+    const int y = rows == 0 ? 1 : before < rows ? std::max(1, slot.top()) : slot.bottom();
     QPainter painter(viewport());
-    painter.setPen(QPen(ColorsFor(palette())[Color::Accent], 2));
-    painter.drawLine(0, y, viewport()->width(), y);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor accent = ColorsFor(palette())[Color::Accent];
+    painter.fillRect(0, y - 1, viewport()->width(), kWidth, accent);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(accent);
+    painter.drawPolygon(Triangle(0, y, kTriangle));
+    painter.drawPolygon(Triangle(viewport()->width(), y, -kTriangle));
 }
 
 }  // namespace tarvelin

@@ -6,23 +6,11 @@
 #include <QVBoxLayout>
 
 #include "ui/widgets/Controls.h"
+#include "ui/workbench/PageParts.h"
 
 namespace tarvelin {
 
 namespace {
-
-template <class T>
-T* NewInput(const char* name, const char* accessibleName, QWidget* parent) {
-    auto* const input = new T(parent);
-    input->setObjectName(QString::fromLatin1(name));
-    input->setAccessibleName(QString::fromUtf8(accessibleName));
-    return input;
-}
-
-QDateTime ToQDateTime(DateTime time) {
-    return QDateTime::fromString(ToQString(DateTimeText(time)),
-                                 QStringLiteral("dd.MM.yyyy hh:mm:ss"));
-}
 
 void SetStart(StartParameters& parameters, const QDateTime& start) {
     const auto text = [&](const char* format) {
@@ -66,24 +54,22 @@ void PlanetPage::Arrange() {
     temperatures->addWidget(new QLabel(QStringLiteral("°C"), this));
     m_startHint->setWordWrap(true);
     auto* const form = new QFormLayout;
-    form->setVerticalSpacing(8);
+    form->setVerticalSpacing(kControlGap);
     form->addRow(QStringLiteral("&Start:"), m_start);
     form->addRow(QString(), m_startHint);
     form->addRow(QStringLiteral("&Temperatur:"), temperatures);
     form->addRow(QStringLiteral("&Klickpuffer:"), m_klickPuffer);
     form->addRow(QString(), m_speed);
     auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(12, 12, 12, 12);
+    layout->setContentsMargins(kPageMargin, kPageMargin, kPageMargin, kPageMargin);
+    layout->setSpacing(kSectionGap);
     layout->addLayout(form);
-    auto* const hint = new QLabel(
-        QStringLiteral(
-            "Der Start ist der Moment, in dem du einsteigst. Die Temperatur steht in der "
-            "Übersicht deines Planeten; Min und Max liegen immer 40 Grad auseinander. Der "
-            "Klickpuffer ist die Zeit, die du für jeden Klick brauchst."),
-        this);
-    hint->setWordWrap(true);
-    hint->setForegroundRole(QPalette::PlaceholderText);
-    layout->addWidget(hint);
+    layout->addWidget(
+        NewHint(QStringLiteral(
+                    "Der Start ist der Moment, in dem du einsteigst. Die Temperatur steht in der "
+                    "Übersicht deines Planeten; Min und Max liegen immer 40 Grad auseinander. Der "
+                    "Klickpuffer ist die Zeit, die du für jeden Klick brauchst."),
+                this));
     layout->addStretch(1);
 }
 

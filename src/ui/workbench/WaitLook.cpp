@@ -17,6 +17,11 @@ constexpr WaitLook kRowBefore{Symbol::RowBefore, Color::Weak,      Color::RowTin
 
 }  // namespace
 
+WaitLook LookOf(Resource resource) {
+    static constexpr PerResource<WaitLook> kLooks{{kMetall, kKristall, kDeuterium}};
+    return kLooks[resource];
+}
+
 WaitLook LookOf(const Delay& delay) {
     switch (delay.cause) {
         case DelayCause::Resource:

@@ -1,6 +1,7 @@
 // How a wait looks: a symbol and colors for each cause.
 #pragma once
 
+#include "model/Resource.h"
 #include "model/Wait.h"
 #include "ui/workbench/IconPaths.h"
 #include "ui/workbench/WorkbenchColors.h"
@@ -17,6 +18,8 @@ struct WaitLook {
 
 /// No cause means that the order only waited for the row before it.
 [[nodiscard]] WaitLook LookOf(const Delay& delay);
+
+[[nodiscard]] WaitLook LookOf(Resource resource);
 
 /// The wait of a row that only the click buffer holds back.
 inline constexpr WaitLook kClickLook{Symbol::Click, Color::Weak, Color::RowTint, Color::RowTint};

@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QMainWindow>
 #include <QMenu>
+#include <QToolBar>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -11,9 +12,9 @@
 #include <vector>
 
 #include "document/Document.h"
-#include "plan/ListEdit.h"
 #include "ui/services/Environment.h"
 #include "ui/services/SecondTimer.h"
+#include "ui/workbench/RowEditor.h"
 #include "ui/workbench/WorkbenchStatusBar.h"
 #include "ui/workbench/WorkbenchSurface.h"
 
@@ -32,16 +33,17 @@ class Workbench : public QMainWindow {
 
     void SetPictures(const PerItem<QPixmap>& pictures) { m_surface->SetPictures(pictures); }
 
-    /// Opens the window or brings it to the front. The first time it takes size and place from
-    /// `configuration`.
+    /// Opens the window or brings it to the front. The first time it takes size, place and columns
+    /// from `configuration`.
     void OpenWindow(const Configuration& configuration);
-    /// Size and place, as the configuration keeps them; none if the window was never open.
+    /// What the configuration keeps of the window; nothing if it was never open.
     [[nodiscard]] Configuration::Values Settings() const;
 
   protected:
     bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     struct ActionRow;
@@ -49,52 +51,55 @@ class Workbench : public QMainWindow {
 
     void AddActions();
     void AddRecentFiles(QMenu& menu);
+    void AddColumns(QMenu& menu);
     void AddPageActions(QMenu& menu);
     void ConnectSignals();
     void FollowDesktop();
     void ShowPlan();
     void ShowTitle();
     void EnableActions();
-    void ShowObjections();
+    void ShowRequest();
+    void AcceptRequest();
+    void ShowRefusal(const QString& what, const EditObjection& objection);
     void Tick();
+    /// How many days later the plan starts than when its nights were entered.
+    [[nodiscard]] int DaysMoved() const;
+    void InsertRow(const Order& order);
 
-    /// Makes the edited rows those of the plan and chooses `chosen` afterwards, or shows why the
-    /// edit isn't allowed.
-    void ApplyEdit(const ListEdit& edit, std::vector<std::size_t> chosen);
-    /// Applies `step` to the chosen rows, which stay chosen.
-    template <class Step>
-    void EditChosen(Step step);
+    // What the actions do.
     void New() { m_document.New(); }
     void Open();
     void Save();
     void SaveAs();
     void SaveTo(const std::filesystem::path& file);
     void CloseWindow() { close(); }
-    void ShowWholePlan();
     void Undo() { m_document.Undo(); }
     void Redo() { m_document.Redo(); }
-    void MoveUp();
-    void MoveDown();
-    void RemoveChosen();
-    void DuplicateChosen();
-    void ChooseAll();
-    void InsertRow(const Order& order, std::size_t before);
+    void MoveUp() { m_editor.MoveUp(); }
+    void MoveDown() { m_editor.MoveDown(); }
+    void DuplicateChosen() { m_editor.DuplicateChosen(); }
+    void RemoveChosen() { m_editor.RemoveChosen(); }
+    void ChooseAll() { m_surface->List().selectAll(); }
+    void ShowWholePlan() { m_surface->Timeline().ShowAll(); }
+    void StartSearch();
+    void StopSearch() { m_surface->Search().StopSearch(); }
+    void AcceptFind() { m_surface->Search().AcceptResult(); }
     void SavePicture();
     void CopyTimetable();
     void SaveCalendar();
-    void SaveBytes(const std::filesystem::path& file, const std::string& bytes);
-    /// New rows go in front of the first chosen row, or to the end.
-    [[nodiscard]] std::size_t InsertPosition() const;
 
     Document& m_document;
     std::function<std::string()> m_leadTime;
     const Environment& m_environment;
     WorkbenchSurface* m_surface;
     WorkbenchStatusBar* m_status;
+    QToolBar* m_toolBar;
+    RowEditor m_editor;
     /// One for each row of the table.
     std::vector<QAction*> m_actions;
-    /// The rows to choose once an edit is shown.
-    std::optional<std::vector<std::size_t>> m_nextChosen;
+    OrderMarks m_marks;
+    /// The plan's start when its nights were entered.
+    std::optional<DateTime> m_startOfNights;
     SecondTimer m_timer{QStringLiteral("Tmr_Werkbank"), this};
     bool m_wasOpen = false;
 };

@@ -97,8 +97,8 @@ constexpr std::array kRoles{
     RoleRow{QPalette::BrightText,      Color::AccentText, Color::Disabled},
     RoleRow{QPalette::Button,          Color::Button,     Color::Window},
     RoleRow{QPalette::ButtonText,      Color::Text,       Color::Disabled},
-    RoleRow{QPalette::Highlight,       Color::Chosen,     Color::Window},
-    RoleRow{QPalette::HighlightedText, Color::Text,       Color::Disabled},
+    RoleRow{QPalette::Highlight,       Color::Accent,     Color::Window},
+    RoleRow{QPalette::HighlightedText, Color::AccentText, Color::Disabled},
     RoleRow{QPalette::Link,            Color::Accent,     Color::Disabled},
     RoleRow{QPalette::LinkVisited,     Color::Accent,     Color::Disabled},
     RoleRow{QPalette::ToolTipBase,     Color::Background, Color::Background},
@@ -126,6 +126,13 @@ QColor WorkbenchColors::operator[](Color color) const {
     constexpr float kPercent = 100;
     result.setAlphaF(static_cast<float>(dark ? row.darkOpacity : row.lightOpacity) / kPercent);
     return result;
+}
+
+QPalette WorkbenchColors::ViewPalette() const {
+    QPalette palette = Palette();
+    palette.setColor(QPalette::Highlight, (*this)[Color::Chosen]);
+    palette.setColor(QPalette::HighlightedText, (*this)[Color::Text]);
+    return palette;
 }
 
 QPalette WorkbenchColors::Palette() const {

@@ -80,6 +80,9 @@ class WorkbenchColors {
     /// Has every role in every group, so none is left to the program's palette.
     [[nodiscard]] QPalette Palette() const;
 
+    /// The same for lists and tables, whose chosen rows are pale.
+    [[nodiscard]] QPalette ViewPalette() const;
+
     friend bool operator==(const WorkbenchColors&, const WorkbenchColors&) = default;
 
   private:

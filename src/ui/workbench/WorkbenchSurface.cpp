@@ -1,9 +1,11 @@
 // Layout of the workbench, and what its labels show.
 #include "ui/workbench/WorkbenchSurface.h"
 
+#include <QAbstractItemView>
 #include <QHBoxLayout>
 #include <QSplitter>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "simulation/StatusTexts.h"
 #include "ui/widgets/Controls.h"
@@ -21,6 +23,7 @@ WorkbenchSurface::WorkbenchSurface(Document& document, const Environment& enviro
       m_searchPage(new SearchPage(
           document, environment, [this] { return m_list->ChosenRows(); }, this)),
       m_comparisonPage(new ComparisonPage(document, environment, this)),
+      m_sleepPage(new SleepPage(document, this)),
       m_planetPage(new PlanetPage(document, this)),
       m_timeline(new TimelineView(this)),
       m_statusLabel(NewLabel(QStringLiteral("LBL_Stand"), {}, this)) {
@@ -34,6 +37,7 @@ QWidget* WorkbenchSurface::NewPages() {
          {std::pair<QWidget*, QString>(m_palette, QStringLiteral("&Einfügen")),
           std::pair<QWidget*, QString>(m_searchPage, QStringLiteral("Su&che")),
           std::pair<QWidget*, QString>(m_comparisonPage, QStringLiteral("Ver&gleich")),
+          std::pair<QWidget*, QString>(m_sleepPage, QStringLiteral("Sch&laf")),
           std::pair<QWidget*, QString>(m_planetPage, QStringLiteral("&Planet"))}) {
         // A small screen has no room for the whole page.
         auto* const scrollArea = new QScrollArea(this);
@@ -55,8 +59,9 @@ void WorkbenchSurface::Arrange() {
     splitter->addWidget(m_list);
     splitter->addWidget(m_timeline);
     splitter->setChildrenCollapsible(false);
-    splitter->setStretchFactor(0, 3);
-    splitter->setStretchFactor(1, 2);
+    splitter->setHandleWidth(5);
+    splitter->setStretchFactor(0, 2);
+    splitter->setStretchFactor(1, 3);
 
     auto* const left = new QVBoxLayout;
     left->setSpacing(0);
@@ -78,35 +83,51 @@ void WorkbenchSurface::ConnectSignals() {
             [this](std::size_t row) { m_list->Choose({row}); });
     connect(m_searchPage, &SearchPage::Notice, this, &WorkbenchSurface::Notice);
     connect(m_comparisonPage, &ComparisonPage::Notice, this, &WorkbenchSurface::Notice);
+    connect(m_sleepPage, &SleepPage::Notice, this, &WorkbenchSurface::Notice);
     connect(m_comparisonPage, &ComparisonPage::OtherRunChanged, this,
             [this] { m_timeline->SetOtherRun(m_comparisonPage->OtherRun()); });
 }
 
-void WorkbenchSurface::FollowDesktop(const QPalette& colors) {
-    m_strip->FitToFont();
-    m_timeline->SetAppearance(colors, font());
-    m_list->SetDeficitColor(m_timeline->DeficitColor());
-    // Wide enough never to scroll sideways.
-    for (QScrollArea* const scrollArea : m_scrollAreas) {
-        scrollArea->setMinimumWidth(scrollArea->widget()->minimumSizeHint().width() +
-                                    style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+void WorkbenchSurface::FollowDesktop(const WorkbenchColors& colors) {
+    for (auto* const view : findChildren<QAbstractItemView*>()) {
+        view->setPalette(colors.ViewPalette());
     }
+    m_strip->FollowAppearance();
+    m_list->FollowAppearance();
+    m_palette->FollowAppearance();
+    m_timeline->SetAppearance(colors.Palette(), font());
+    // Wide enough never to scroll sideways.
+    constexpr int kUsualWidth = 384;
+    int width = kUsualWidth;
+    for (QScrollArea* const scrollArea : m_scrollAreas) {
+        width = std::max(width, scrollArea->widget()->minimumSizeHint().width() +
+                                    style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 4);
+    }
+    m_pages->setFixedWidth(width);
 }
 
 void WorkbenchSurface::SetPictures(const PerItem<QPixmap>& pictures) {
+    m_list->SetPictures(pictures);
     m_palette->SetPictures(pictures);
     m_timeline->SetPictures(pictures);
     m_strip->SetPictures(pictures);
 }
 
-void WorkbenchSurface::ShowPlan(const std::vector<std::size_t>& chosen) {
+void WorkbenchSurface::ShowPlan(const std::vector<std::size_t>& chosen,
+                                std::optional<std::size_t> insertBefore) {
     const auto& trace = m_document.Trace();
     emit Notice(trace ? MessagesText(*trace) : m_document.Obstacle());
-    m_list->Refresh(chosen);
+    m_list->Refresh(chosen, insertBefore);
+    m_sleepPage->Refresh();
     m_timeline->SetRun(trace);
     m_comparisonPage->ShowOwnRun();
     ShowChoice();
     ShowStatusAt(std::nullopt);
+}
+
+void WorkbenchSurface::ShowSearch() {
+    constexpr int kSearch = 1;
+    m_pages->setCurrentIndex(kSearch);
 }
 
 void WorkbenchSurface::ShowChoice() {

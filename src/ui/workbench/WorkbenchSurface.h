@@ -16,6 +16,7 @@
 #include "ui/workbench/OrderListView.h"
 #include "ui/workbench/PlanetPage.h"
 #include "ui/workbench/SearchPage.h"
+#include "ui/workbench/SleepPage.h"
 #include "ui/workbench/TimelineView.h"
 
 namespace tarvelin {
@@ -28,8 +29,9 @@ class WorkbenchSurface : public QWidget {
     /// Both must outlive the surface.
     WorkbenchSurface(Document& document, const Environment& environment, QWidget* parent);
 
-    /// Shows the plan and its run anew, with these rows chosen.
-    void ShowPlan(const std::vector<std::size_t>& chosen);
+    /// Shows the plan and its run anew, with these rows chosen and the next row going in front of
+    /// `insertBefore`.
+    void ShowPlan(const std::vector<std::size_t>& chosen, std::optional<std::size_t> insertBefore);
     /// Shows the start parameters.
     void ShowConditions() { m_planetPage->Refresh(); }
     /// Marks the chosen rows in the timeline, and brings the first into sight.
@@ -37,13 +39,16 @@ class WorkbenchSurface : public QWidget {
     /// Marks this moment, and tells what comes next.
     void ShowNow(DateTime now);
     void SetPictures(const PerItem<QPixmap>& pictures);
-    /// Takes over the window's colours and font.
-    void FollowDesktop(const QPalette& colors);
+    /// Takes over the window's colors and font.
+    void FollowDesktop(const WorkbenchColors& colors);
 
     [[nodiscard]] OrderListView& List() const { return *m_list; }
     [[nodiscard]] ItemPalette& Palette() const { return *m_palette; }
     [[nodiscard]] SearchPage& Search() const { return *m_searchPage; }
+    [[nodiscard]] SleepPage& Sleep() const { return *m_sleepPage; }
     [[nodiscard]] TimelineView& Timeline() const { return *m_timeline; }
+    /// Brings the page to the front.
+    void ShowSearch();
     /// The pages at the right.
     [[nodiscard]] QTabWidget& Pages() const { return *m_pages; }
 
@@ -64,6 +69,7 @@ class WorkbenchSurface : public QWidget {
     ItemPalette* m_palette;
     SearchPage* m_searchPage;
     ComparisonPage* m_comparisonPage;
+    SleepPage* m_sleepPage;
     PlanetPage* m_planetPage;
     TimelineView* m_timeline;
     QLabel* m_statusLabel;

@@ -1,0 +1,49 @@
+// Small parts that the workbench's pages share.
+#pragma once
+
+#include <QDateTime>
+#include <QLabel>
+#include <QPushButton>
+#include <QWidget>
+
+#include "util/DateTime.h"
+
+namespace tarvelin {
+
+/// Margins of a page and spaces between its parts, in pixels.
+inline constexpr int kPageMargin = 12;
+inline constexpr int kControlGap = 8;
+inline constexpr int kSectionGap = 16;
+
+/// A caption with a line to the right edge.
+[[nodiscard]] QWidget* NewSection(const QString& caption, QWidget* parent);
+
+/// A weak text of several lines.
+[[nodiscard]] QLabel* NewHint(const QString& text, QWidget* parent);
+
+/// The button for what a page is there for, in the accent's color.
+class MainButton : public QPushButton {
+    Q_OBJECT
+
+  public:
+    using QPushButton::QPushButton;
+
+  protected:
+    void changeEvent(QEvent* event) override;
+
+  private:
+    void FollowAppearance();
+};
+
+[[nodiscard]] QDateTime ToQDateTime(DateTime time);
+
+/// An input with a name for screen readers.
+template <class T>
+T* NewInput(const char* name, const char* accessibleName, QWidget* parent) {
+    auto* const input = new T(parent);
+    input->setObjectName(QString::fromLatin1(name));
+    input->setAccessibleName(QString::fromUtf8(accessibleName));
+    return input;
+}
+
+}  // namespace tarvelin
