@@ -53,7 +53,7 @@ void ComparisonPage::Arrange() {
 
 QSize ComparisonPage::minimumSizeHint() const {
     // Room for an order and three time spans of many days.
-    constexpr int kCharacters = 86;
+    constexpr int kCharacters = 40;
     return QWidget::minimumSizeHint().expandedTo(
         QSize(kCharacters * fontMetrics().averageCharWidth(), 0));
 }

@@ -46,6 +46,7 @@ FocusFrame::FocusFrame(QWidget* window) : QFocusFrame(window) {
     auto* const style = new FrameStyle;
     style->setParent(this);
     setStyle(style);
+    hide();
     connect(qApp, &QApplication::focusChanged, this,
             [this, window](QWidget* /*before*/, QWidget* focused) {
                 Follow(focused != nullptr && focused->window() == window ? focused : nullptr);

@@ -86,6 +86,8 @@ ItemPalette::ItemPalette(QWidget* parent)
     layout->setSpacing(2);
     layout->addLayout(place);
     AddPictures(*layout);
+    m_place->setTextFormat(Qt::RichText);
+    m_details->setTextFormat(Qt::RichText);
     m_details->setWordWrap(true);
     m_details->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     layout->addSpacing(kControlGap);

@@ -68,7 +68,9 @@ int OrderDelegate::WidthOf(const OrderColumnRow& column, const QFontMetrics& met
                         (column.resource ? metrics.ascent() + kGap : 0);
     const int text =
         metrics.horizontalAdvance(QString::fromUtf8(column.widest)) + LeadWidth(column.column);
-    return std::max(caption, text) + 2 * kMargin;
+    // Widths are rounded; a text that just fits is never elided.
+    constexpr int kSpare = 2;
+    return std::max(caption, text) + 2 * kMargin + kSpare;
 }
 
 QSize OrderDelegate::sizeHint(const QStyleOptionViewItem& option,

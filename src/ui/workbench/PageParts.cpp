@@ -12,10 +12,7 @@ namespace tarvelin {
 
 QWidget* NewSection(const QString& caption, QWidget* parent) {
     auto* const section = new QWidget(parent);
-    auto* const label = new QLabel(caption, section);
-    QFont font = label->font();
-    font.setBold(true);
-    label->setFont(font);
+    auto* const label = new TypeLabel(caption, TypeSize::Usual, true, section);
     auto* const line = new QFrame(section);
     line->setFrameShape(QFrame::HLine);
     line->setForegroundRole(QPalette::Mid);

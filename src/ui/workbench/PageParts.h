@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QWidget>
 
+#include "ui/workbench/TypeSizes.h"
 #include "util/DateTime.h"
 
 namespace tarvelin {
@@ -17,6 +18,22 @@ inline constexpr int kSectionGap = 16;
 
 /// A caption with a line to the right edge.
 [[nodiscard]] QWidget* NewSection(const QString& caption, QWidget* parent);
+
+/// A text of another size or weight than the window's.
+class TypeLabel : public QLabel {
+    Q_OBJECT
+
+  public:
+    TypeLabel(const QString& text, TypeSize size, bool bold, QWidget* parent)
+        : QLabel(text, parent), m_size(size), m_bold(bold) {}
+
+    /// Call it when the window's font has changed.
+    void FollowFont(const QFont& usual) { setFont(TypeFont(usual, m_size, m_bold)); }
+
+  private:
+    TypeSize m_size;
+    bool m_bold;
+};
 
 /// A weak text of several lines.
 [[nodiscard]] QLabel* NewHint(const QString& text, QWidget* parent);

@@ -57,7 +57,9 @@ void PlanetPage::Arrange() {
     form->setVerticalSpacing(kControlGap);
     form->addRow(QStringLiteral("&Start:"), m_start);
     form->addRow(QString(), m_startHint);
-    form->addRow(QStringLiteral("&Temperatur:"), temperatures);
+    auto* const label = new QLabel(QStringLiteral("&Temperatur:"), this);
+    label->setBuddy(m_tempMin);
+    form->addRow(label, temperatures);
     form->addRow(QStringLiteral("&Klickpuffer:"), m_klickPuffer);
     form->addRow(QString(), m_speed);
     auto* const layout = new QVBoxLayout(this);

@@ -100,9 +100,8 @@ SleepPage::SleepPage(Document& document, QWidget* parent)
 }
 
 void SleepPage::AddRule(QVBoxLayout& layout) {
-    auto* const heading = new QLabel(QStringLiteral("Wann schläfst du?"), this);
-    heading->setFont(TypeFont(font(), TypeSize::Heading, true));
-    layout.addWidget(heading);
+    layout.addWidget(
+        new TypeLabel(QStringLiteral("Wann schläfst du?"), TypeSize::Heading, true, this));
     layout.addWidget(
         NewHint(QStringLiteral("Die Regel schreibt Schlafzeiten vom Start des Plans bis einen Tag "
                                "nach seinem Ende. Ein Schritt zurück nimmt alles zurück."),
@@ -177,6 +176,7 @@ void SleepPage::AddEffect(QVBoxLayout& layout) {
     m_effect->setFrameStyle(QFrame::StyledPanel);
     m_effect->setAutoFillBackground(true);
     m_effect->setBackgroundRole(QPalette::Base);
+    m_effect->setTextFormat(Qt::RichText);
     m_effect->setMargin(4);
     m_effect->setWordWrap(true);
     m_effect->setMinimumHeight(kLines * fontMetrics().lineSpacing() + kSectionGap);
@@ -307,10 +307,8 @@ void SleepPage::ShowEffect() {
 }
 
 void SleepPage::Refresh() {
-    if (const auto start = ReadUniStartZeit(m_document.CurrentPlan().parameters);
-        start && m_document.CurrentPlan().LV_Schlafzeiten.empty()) {
-        const QSignalBlocker quiet(m_rowStart);
-        m_rowStart->setDateTime(ToQDateTime(*start));
+    if (const auto start = ReadUniStartZeit(m_document.CurrentPlan().parameters)) {
+        m_rowStart->setMinimumDate(ToQDateTime(*start).date());
     }
     ShowEffect();
 }

@@ -77,12 +77,30 @@ WorkbenchStatusBar::WorkbenchStatusBar(QWidget* parent)
     layout->addWidget(m_message, 1);
     layout->addWidget(m_button);
     addWidget(m_place, 1);
-    for (QLabel* const figure :
-         {m_durationCaption, m_duration, m_changeSymbol, m_change, m_sittings, m_points, m_end}) {
-        addPermanentWidget(figure);
+    AddFigure({m_durationCaption, m_duration, m_changeSymbol, m_change});
+    for (QLabel* const figure : {m_sittings, m_points, m_end}) {
+        AddFigure({figure});
     }
     setSizeGripEnabled(false);
     FollowAppearance();
+}
+
+// Behind a line.
+void WorkbenchStatusBar::AddFigure(std::initializer_list<QLabel*> parts) {
+    auto* const figure = new QWidget(this);
+    auto* const line = new QFrame(figure);
+    line->setFrameShape(QFrame::VLine);
+    line->setFrameShadow(QFrame::Plain);
+    line->setForegroundRole(QPalette::Mid);
+    auto* const layout = new QHBoxLayout(figure);
+    layout->setContentsMargins(0, 4, kGap, 4);
+    layout->setSpacing(kGap / 2);
+    layout->addWidget(line);
+    layout->addSpacing(kGap / 2);
+    for (QLabel* const part : parts) {
+        layout->addWidget(part);
+    }
+    addPermanentWidget(figure);
 }
 
 void WorkbenchStatusBar::FollowAppearance() {
@@ -170,7 +188,8 @@ void WorkbenchStatusBar::ShowFigures(const Document& document) {
     const auto& trace = document.Trace();
     const auto show = [&](QLabel& label, const std::string& text) {
         label.setText(ToQString(text));
-        label.setVisible(!text.empty());
+        QWidget* const figure = label.parentWidget();
+        (figure == m_duration->parentWidget() ? &label : figure)->setVisible(!text.empty());
     };
     m_duration->setText(trace ? ToQString(TimeSpanText(trace->Duration().Seconds()))
                               : QStringLiteral("–"));

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QStatusBar>
+#include <initializer_list>
 #include <string>
 
 #include "document/Document.h"
@@ -51,6 +52,7 @@ class WorkbenchStatusBar : public QStatusBar {
   private:
     enum class Tone { Info, Refusal, Request };
 
+    void AddFigure(std::initializer_list<QLabel*> parts);
     void Show(Tone tone, const QString& title, const QString& text);
     void ShowOrRequest();
     void Elide();

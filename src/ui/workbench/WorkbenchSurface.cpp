@@ -9,6 +9,7 @@
 
 #include "simulation/StatusTexts.h"
 #include "ui/widgets/Controls.h"
+#include "ui/workbench/PageParts.h"
 
 namespace tarvelin {
 
@@ -91,6 +92,14 @@ void WorkbenchSurface::ConnectSignals() {
 void WorkbenchSurface::FollowDesktop(const WorkbenchColors& colors) {
     for (auto* const view : findChildren<QAbstractItemView*>()) {
         view->setPalette(colors.ViewPalette());
+    }
+    for (auto* const label : findChildren<TypeLabel*>()) {
+        label->FollowFont(font());
+    }
+    QPalette pages = colors.Palette();
+    pages.setColor(QPalette::Window, colors[Color::Toolbar]);
+    for (QScrollArea* const scrollArea : m_scrollAreas) {
+        scrollArea->setPalette(pages);
     }
     m_strip->FollowAppearance();
     m_list->FollowAppearance();
