@@ -10,6 +10,7 @@
 #include <sstream>
 #include <vector>
 
+#include "document/NightProposal.h"
 #include "document/PlanRun.h"
 #include "export/RunReport.h"
 #include "model/Cost.h"
@@ -21,6 +22,7 @@
 #include "plan/Rules.h"
 #include "simulation/Comparison.h"
 #include "simulation/History.h"
+#include "simulation/InsertPreview.h"
 #include "simulation/RunSimulation.h"
 #include "simulation/RunTrace.h"
 #include "simulation/Simulation.h"
@@ -423,6 +425,43 @@ Finding CheckEdits(const Plan& plan) {
     return history.CanUndo() ? "there is more to take back than was done" : "";
 }
 
+/// An order starts at the number and takes the time that a preview of its place tells.
+Finding CheckPreviews(const Plan& plan) {
+    const RunConditions conditions = ConditionsOf(plan);
+    const auto orders = plan.LV_Bauliste.Orders().All();
+    for (const StartEvent& start : PlayedRun(orders, conditions).starts) {
+        if (start.order.kind != Order::Kind::Item || start.gateClosed ||
+            start.finish == kEndOfClock) {
+            continue;
+        }
+        const InsertPreview preview =
+            PreviewOf(start.order.item, orders.first(start.row), conditions);
+        if (preview.number != start.number ||
+            std::abs(preview.seconds - (start.finish - start.start)) > 1) {
+            return "row " + std::to_string(start.row + 1) + " isn't what its preview told";
+        }
+    }
+    return {};
+}
+
+/// A plan with the nights of a rule doesn't outlast them, and has them all.
+Finding CheckNights(const Plan& plan) {
+    const SleepRule rule = SleepRule::EveryNight({});
+    const NightProposal once = ProposeNights(plan, rule, AtOverlap::Merge);
+    if (!once.trace || once.trace->end.IsAtEndOfClock() || once.filled.added == 0 ||
+        once.filled.added + once.filled.merged + once.filled.present >= kMaxNights) {
+        return {};
+    }
+    Plan filled = plan;
+    filled.LV_Schlafzeiten = once.filled.table;
+    const RunConditions& conditions = once.trace->conditions;
+    return SleeplessFrom(once.filled.table, conditions.StartDate,
+                         conditions.WallClock(once.trace->Duration())) ||
+                   !ProposeNights(filled, rule, AtOverlap::Merge).filled.ChangesNothing()
+               ? "a plan outlasts its nights"
+               : "";
+}
+
 /// Comparing a run with itself finds nothing; comparing two is symmetric, and lists each order that
 /// isn't started at the same moment by the earlier of its starts, with a difference if both have
 /// it.
@@ -490,8 +529,9 @@ std::string ResultText(const Plan& plan) {
 }
 
 Finding CheckLaws(const Plan& plan) {
-    for (const auto law : {CheckSaving, CheckUndo, CheckBooks, CheckResuming, CheckTimeJump,
-                           CheckRepetition, CheckCurve, CheckEdits, CheckComparison}) {
+    for (const auto law :
+         {CheckSaving, CheckUndo, CheckBooks, CheckResuming, CheckTimeJump, CheckRepetition,
+          CheckCurve, CheckEdits, CheckPreviews, CheckNights, CheckComparison}) {
         if (Finding finding = law(plan); !finding.empty()) {
             return finding;
         }

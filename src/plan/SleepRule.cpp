@@ -225,7 +225,10 @@ std::optional<DateTime> SleeplessFrom(const SleepTable& table, DateTime planStar
     if (nights.empty()) {
         return std::nullopt;
     }
-    const DateTime from = std::max(nights.back().Startzeit() + kDay, planStart);
+    DateTime from = planStart;
+    for (const cSchlafzeit& night : nights) {
+        from = std::max({from, night.Startzeit() + kDay, night.Endzeit()});
+    }
     return from < planEnd ? std::optional(from) : std::nullopt;
 }
 
