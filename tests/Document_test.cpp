@@ -265,7 +265,7 @@ TEST_F(DocumentTest, TellsOncePerOperationWhatHasChanged) {
          [&] { EXPECT_TRUE(document->LoadBauliste(m_saves / "plan.tvf", false)); }},
         {"rows:1 results:0 plan", [&] { document->RemoveLast(); }},
         {"rows:1 results:1 plan", [&] { document->Clear(); }},
-        {"rows:1 results:1 conditions", [&] { document->New(); }}};
+        {"rows:1 results:1 conditions file", [&] { document->New(); }}};
     for (const auto& [change, operation] : operations) {
         told.clear();
         operation();
