@@ -388,6 +388,26 @@ TEST_F(DocumentTest, LoadsWhatIsUsableAndSaysWhatIsNot) {
     EXPECT_EQ(m_prompts.texts.back(), "Die Bauliste konnte nicht gespeichert werden...");
 }
 
+TEST_F(DocumentTest, LoadsAPlanAsANewOne) {
+    Store("vorlage.tvf", PlanOf("GS GM"));
+    const auto document = Start();
+    Add(*document, "GM");
+    document->SaveBauliste(m_saves / "meiner.tvf");
+    Add(*document, "GK");
+    ASSERT_TRUE(document->LoadBauliste(m_saves / "meiner.tvf", true));
+    ASSERT_TRUE(document->LoadAsNew(m_saves / "vorlage.tvf"));
+    EXPECT_EQ(Codes(*document), "GS GM");
+    EXPECT_EQ(document->CurrentRun().LV_Bauzeiten.size(), 2U) << "it is run";
+    EXPECT_EQ(document->Title(), Make()->Title());
+    EXPECT_FALSE(document->File() || document->IsStored());
+    EXPECT_TRUE(document->IsModified());
+    EXPECT_EQ(document->RecentFiles(), std::vector<fs::path>{m_saves / "meiner.tvf"});
+    document->Undo();
+    EXPECT_EQ(Codes(*document), "GM") << "one step";
+    EXPECT_FALSE(document->LoadAsNew(m_saves / "fehlt.tvf"));
+    EXPECT_EQ(Codes(*document), "GM");
+}
+
 TEST_F(DocumentTest, AsksBeforeAFindReplacesAnotherPlan) {
     const auto document = Start();
     Add(*document, "GM GS");

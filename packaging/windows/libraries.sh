@@ -25,10 +25,10 @@ QT_WITHOUT=(
     zstd brotli glib icu fontconfig openssl cpp_winrt direct2d directwrite3 tuiotouch evdev pkg_config
     islamiccivilcalendar jalalicalendar
     sharedmemory systemsemaphore socks5 localserver networkdiskcache topleveldomain dnslookup
-    networklistmanager textodfwriter textmarkdownreader textmarkdownwriter
+    networklistmanager textodfwriter system_textmarkdownreader textmarkdownwriter
     undocommand undostack undogroup undoview systemtrayicon wizard mdiarea lcdnumber dial fontdialog
     errormessage keysequenceedit columnview datawidgetmapper splashscreen syntaxhighlighter toolbox
-    fontcombobox textbrowser scroller)
+    fontcombobox scroller)
 
 # The exit code for sources that can't be had.
 NO_SOURCE=75

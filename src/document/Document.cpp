@@ -195,8 +195,12 @@ bool Document::LoadBauliste(const std::filesystem::path& File, bool Silent) {
     return LoadBauliste(IniFile::Load(File, m_files), File, Silent);
 }
 
+bool Document::LoadAsNew(const std::filesystem::path& File) {
+    return LoadBauliste(IniFile::Load(File, m_files), std::nullopt, true);
+}
+
 bool Document::LoadBauliste(const std::optional<IniFile>& profile,
-                            const std::filesystem::path& File, bool Silent) {
+                            const std::optional<std::filesystem::path>& File, bool Silent) {
     if (!profile) {
         m_prompts.Show(LoadErrorMessage());
         return false;
@@ -211,8 +215,10 @@ bool Document::LoadBauliste(const std::optional<IniFile>& profile,
           .conditions = true,
           .sleepTable = true,
           .showDesc = true});
-    if (loaded) {
-        RememberSaved(File);
+    if (loaded && File) {
+        RememberSaved(*File);
+    } else if (loaded) {
+        ForgetFile();
     }
     // The former plan can be restored by undo, even if the load failed.
     Record();
@@ -220,7 +226,7 @@ bool Document::LoadBauliste(const std::optional<IniFile>& profile,
         Boxes(*this).Show(errors.back());
         return false;
     }
-    m_title = WindowTitleFor(File);
+    m_title = File ? WindowTitleFor(*File) : kWindowTitle;
     Note({.title = true});
     RunSimulation(Silent);
     return true;
@@ -240,16 +246,23 @@ bool Document::IsModified() const {
     return m_file ? !IsStored() : !m_plan.LV_Bauliste.Orders().IsEmpty();
 }
 
+void Document::ForgetFile() {
+    m_saved.reset();
+    m_file.reset();
+    Note({.file = true});
+}
+
 // Files that the program itself overwrites don't count.
 void Document::RememberSaved(const std::filesystem::path& File) {
-    const bool own = m_autosave.IsOwnFile(File);
-    m_saved = own ? std::nullopt : std::optional(SnapshotOf(m_plan));
-    m_file = own ? std::nullopt : std::optional(File);
-    if (!own) {
-        std::erase(m_recentFiles, File);
-        m_recentFiles.insert(m_recentFiles.begin(), File);
-        m_recentFiles.resize(std::min(m_recentFiles.size(), Configuration::kRecentFiles.size()));
+    if (m_autosave.IsOwnFile(File)) {
+        ForgetFile();
+        return;
     }
+    m_saved = SnapshotOf(m_plan);
+    m_file = File;
+    std::erase(m_recentFiles, File);
+    m_recentFiles.insert(m_recentFiles.begin(), File);
+    m_recentFiles.resize(std::min(m_recentFiles.size(), Configuration::kRecentFiles.size()));
     Note({.file = true});
 }
 

@@ -87,6 +87,8 @@ class Document {
     /// Loads a plan and runs it. `Silent` omits the message about an empty list. False, with a
     /// message, if the file holds no whole plan.
     bool LoadBauliste(const std::filesystem::path& File, bool Silent);
+    /// Loads and runs a plan as `LoadBauliste` does, but as a new one, which has no file yet.
+    bool LoadAsNew(const std::filesystem::path& File);
     /// False, with a message, if the file can't be written.
     bool SaveBauliste(const std::filesystem::path& File);
     /// Runs the plan. `Silent` omits the message about an empty list.
@@ -122,8 +124,10 @@ class Document {
     /// Whether the last plan came back.
     bool OpenFirstPlan();
     bool RecoverPlan(const std::optional<IniFile>& last);
-    bool LoadBauliste(const std::optional<IniFile>& profile, const std::filesystem::path& File,
-                      bool Silent);
+    /// Without a file the plan is a new one.
+    bool LoadBauliste(const std::optional<IniFile>& profile,
+                      const std::optional<std::filesystem::path>& File, bool Silent);
+    void ForgetFile();
     void RememberSaved(const std::filesystem::path& File);
     void ReadRecentFiles();
     void KeepReplaced() const;
