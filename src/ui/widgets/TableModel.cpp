@@ -2,6 +2,7 @@
 #include "ui/widgets/TableModel.h"
 
 #include <QColor>
+#include <QIcon>
 #include <utility>
 
 namespace tarvelin {
@@ -44,6 +45,10 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
     }
     if (role == Qt::ForegroundRole && m_provider.color) {
         return m_provider.color(row, index.column());
+    }
+    if (role == Qt::DecorationRole && m_provider.picture) {
+        const QPixmap picture = m_provider.picture(row, index.column());
+        return picture.isNull() ? QVariant() : QVariant(QIcon(picture));
     }
     if ((role == Qt::AccessibleDescriptionRole || role == Qt::ToolTipRole) &&
         m_provider.description) {

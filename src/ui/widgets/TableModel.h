@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QPixmap>
 #include <QStringList>
 #include <functional>
 
@@ -18,6 +19,8 @@ class TableModel : public QAbstractTableModel {
         std::function<QString(std::size_t, int)> text;
         /// Of a cell. Optional.
         std::function<QColor(std::size_t, int)> color = {};
+        /// In front of a cell's text. Optional.
+        std::function<QPixmap(std::size_t, int)> picture = {};
         /// Of a row: its tooltip and accessible description. Optional.
         std::function<QString(std::size_t)> description = {};
     };

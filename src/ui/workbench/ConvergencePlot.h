@@ -1,11 +1,15 @@
-// A plot of the best duration over the course of a search.
+// A plot of the best duration over the tries of a search.
 #pragma once
 
 #include <QWidget>
+#include <cstdint>
 #include <vector>
+
+#include "util/Integers.h"
 
 namespace tarvelin {
 
+/// Longer durations stand above shorter ones, so the line falls. The scale fits the finds.
 class ConvergencePlot : public QWidget {
     Q_OBJECT
 
@@ -13,8 +17,8 @@ class ConvergencePlot : public QWidget {
     explicit ConvergencePlot(QWidget* parent);
 
     void Clear();
-    /// `share` is how much of the search is done, from 0 to 1; `duration` is in seconds.
-    void AddPoint(qreal share, qreal duration);
+    /// `duration`, in seconds, is the best after `tries` of `totalTries`.
+    void AddPoint(std::uint64_t tries, Long duration, std::uint64_t totalTries);
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -22,7 +26,14 @@ class ConvergencePlot : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    std::vector<QPointF> m_points;
+    struct Point {
+        double tries;
+        double duration;
+    };
+    class Painting;
+
+    std::vector<Point> m_points;
+    double m_total = 1;
 };
 
 }  // namespace tarvelin

@@ -13,6 +13,7 @@
 #include "ui/widgets/ItemDisplay.h"
 #include "ui/widgets/Pictures.h"
 #include "ui/workbench/FocusFrame.h"
+#include "ui/workbench/HelpTopics.h"
 #include "ui/workbench/Icons.h"
 #include "ui/workbench/PlanExports.h"
 #include "ui/workbench/WindowPlace.h"
@@ -34,7 +35,14 @@ constexpr EnumArray<Menu, const char*> kMenus{
     {"&Datei", "&Bearbeiten", "&Ansicht", "&Suche", "&Hilfe"}};
 
 /// Where an action stands besides its menu.
-enum Place : unsigned { kMenuOnly = 0, kToolBar = 1, kContextMenu = 2, kBoth = 3 };
+enum Place : unsigned {
+    kMenuOnly = 0,
+    kToolBar = 1,
+    kContextMenu = 2,
+    kBoth = kToolBar | kContextMenu,
+    /// At the right end of the tool bar.
+    kAtEnd = kToolBar | 4
+};
 
 }  // namespace
 
@@ -74,7 +82,8 @@ const std::vector<Workbench::ActionRow>& Workbench::ActionRows() {
         {"Cmd_GanzerPlan",        Menu::View,   "&Ganzer Plan",         Icon::WholePlan, Qt::CTRL | Qt::Key_0,             Needs::Run,       kMenuOnly, &Workbench::ShowWholePlan},
         {"Cmd_SucheBeginnen",     Menu::Search, "&Suchen",              Icon::Search,    Qt::CTRL | Qt::Key_F,             Needs::NoSearch,  kMenuOnly, &Workbench::StartSearch},
         {"Cmd_SucheAnhalten",     Menu::Search, "&Anhalten",            {},              {},                               Needs::Search,    kMenuOnly, &Workbench::StopSearch},
-        {"Cmd_FundUebernehmen",   Menu::Search, "Fund ü&bernehmen",     {},              {},                               Needs::Find,      kMenuOnly, &Workbench::AcceptFind, true}};
+        {"Cmd_FundUebernehmen",   Menu::Search, "Fund ü&bernehmen",     {},              {},                               Needs::Find,      kMenuOnly, &Workbench::AcceptFind, true},
+        {"Cmd_Anleitung",         Menu::Help,   "&Hilfe",               Icon::Help,      Qt::Key_F1,                       Needs::Nothing,   kAtEnd,    &Workbench::OpenGuide}};
     // clang-format on
     return rows;
 }
@@ -87,6 +96,7 @@ Workbench::Workbench(Document& document, std::function<std::string()> leadTime,
       m_surface(new WorkbenchSurface(document, environment, this)),
       m_status(new WorkbenchStatusBar(this)),
       m_toolBar(addToolBar(QStringLiteral("Werkzeuge"))),
+      m_guide(new HelpWindow(this)),
       m_editor(document, m_surface->List()) {
     setObjectName(QStringLiteral("frmWerkbank"));
     setWindowIcon(LoadIconFile(environment.programFolder / "img" / "icon.ico"));
@@ -98,6 +108,8 @@ Workbench::Workbench(Document& document, std::function<std::string()> leadTime,
     new FocusFrame(this);
     AddActions();
     ConnectSignals();
+    m_startOfNights = ReadUniStartZeit(m_document.CurrentPlan().parameters);
+    m_surface->Sleep().TakeRuleFromPlan();
     FollowDesktop();
     ShowTitle();
 }
@@ -123,6 +135,11 @@ void Workbench::AddActions() {
         if ((row.places & kToolBar) != 0) {
             if (row.beginsGroup) {
                 m_toolBar->addSeparator();
+            }
+            if (row.places == kAtEnd) {
+                auto* const space = new QWidget(m_toolBar);
+                space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+                m_toolBar->addWidget(space);
             }
             m_toolBar->addAction(action);
         }
@@ -193,10 +210,7 @@ void Workbench::AddPageActions(QMenu& menu) {
     for (int i = 0; i < pages.count(); ++i) {
         QAction* const action = menu.addAction(pages.tabText(i));
         action->setShortcut(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i));
-        connect(action, &QAction::triggered, this, [&pages, i] {
-            pages.setCurrentIndex(i);
-            pages.currentWidget()->setFocus();
-        });
+        connect(action, &QAction::triggered, m_surface, [this, i] { m_surface->ShowPage(i); });
     }
 }
 
@@ -251,6 +265,7 @@ void Workbench::FollowDesktop() {
     m_toolBar->setIconSize(QSize(kIconSide, kIconSide));
     m_surface->FollowDesktop(colors);
     m_status->FollowAppearance();
+    m_guide->SetAppearance(colors.Palette(), font());
 }
 
 bool Workbench::event(QEvent* event) {
@@ -271,6 +286,7 @@ void Workbench::hideEvent(QHideEvent* event) {
     // Not when the window is minimized.
     if (!event->spontaneous()) {
         m_timer.SetRunning(false);
+        m_guide->hide();
         m_surface->Search().StopSearch();
     }
     QMainWindow::hideEvent(event);
@@ -458,8 +474,13 @@ void Workbench::SaveTo(const std::filesystem::path& file) {
     }
 }
 
+void Workbench::OpenGuide() {
+    const QWidget* const focused = focusWidget();
+    m_guide->OpenAt(HelpTopicFor(focused != nullptr ? focused : m_surface->CurrentPage()));
+}
+
 void Workbench::StartSearch() {
-    m_surface->ShowSearch();
+    m_surface->ShowPage(WorkbenchSurface::kSearchPage);
     m_surface->Search().StartSearch();
 }
 

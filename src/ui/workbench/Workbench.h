@@ -14,6 +14,7 @@
 #include "document/Document.h"
 #include "ui/services/Environment.h"
 #include "ui/services/SecondTimer.h"
+#include "ui/workbench/HelpWindow.h"
 #include "ui/workbench/RowEditor.h"
 #include "ui/workbench/WorkbenchStatusBar.h"
 #include "ui/workbench/WorkbenchSurface.h"
@@ -81,6 +82,7 @@ class Workbench : public QMainWindow {
     void RemoveChosen() { m_editor.RemoveChosen(); }
     void ChooseAll() { m_surface->List().selectAll(); }
     void ShowWholePlan() { m_surface->Timeline().ShowAll(); }
+    void OpenGuide();
     void StartSearch();
     void StopSearch() { m_surface->Search().StopSearch(); }
     void AcceptFind() { m_surface->Search().AcceptResult(); }
@@ -94,6 +96,7 @@ class Workbench : public QMainWindow {
     WorkbenchSurface* m_surface;
     WorkbenchStatusBar* m_status;
     QToolBar* m_toolBar;
+    HelpWindow* m_guide;
     RowEditor m_editor;
     /// One for each row of the table.
     std::vector<QAction*> m_actions;

@@ -134,9 +134,19 @@ void WorkbenchSurface::ShowPlan(const std::vector<std::size_t>& chosen,
     ShowStatusAt(std::nullopt);
 }
 
-void WorkbenchSurface::ShowSearch() {
-    constexpr int kSearch = 1;
-    m_pages->setCurrentIndex(kSearch);
+const QWidget* WorkbenchSurface::CurrentPage() const {
+    return m_scrollAreas[static_cast<std::size_t>(m_pages->currentIndex())]->widget();
+}
+
+void WorkbenchSurface::ShowPage(int index) {
+    m_pages->setCurrentIndex(index);
+    for (auto* const control : CurrentPage()->findChildren<QWidget*>()) {
+        if (control->isVisible() && control->isEnabled() &&
+            (control->focusPolicy() & Qt::TabFocus) != 0) {
+            control->setFocus(Qt::TabFocusReason);
+            return;
+        }
+    }
 }
 
 void WorkbenchSurface::ShowChoice() {

@@ -47,8 +47,10 @@ class WorkbenchSurface : public QWidget {
     [[nodiscard]] SearchPage& Search() const { return *m_searchPage; }
     [[nodiscard]] SleepPage& Sleep() const { return *m_sleepPage; }
     [[nodiscard]] TimelineView& Timeline() const { return *m_timeline; }
-    /// Brings the page to the front.
-    void ShowSearch();
+    /// Brings a page to the front, with the focus in it.
+    void ShowPage(int index);
+    static constexpr int kSearchPage = 1;
+    [[nodiscard]] const QWidget* CurrentPage() const;
     /// The pages at the right.
     [[nodiscard]] QTabWidget& Pages() const { return *m_pages; }
 

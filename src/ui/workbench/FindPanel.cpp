@@ -1,0 +1,254 @@
+// Layout and texts of the panel.
+#include "ui/workbench/FindPanel.h"
+
+#include <QHBoxLayout>
+#include <algorithm>
+#include <cstdlib>
+
+#include "simulation/RunTexts.h"
+#include "ui/widgets/Controls.h"
+#include "ui/workbench/Icons.h"
+#include "ui/workbench/WaitLook.h"
+#include "util/NumberText.h"
+
+namespace tarvelin {
+
+namespace {
+
+constexpr std::size_t kShownRows = 10;
+constexpr int kPicture = 18;
+constexpr int kSymbol = 12;
+enum Column { kNumber, kNow, kFind };
+
+QString Changed(const QString& before, const QString& after) {
+    return QStringLiteral("%1 → <b>%2</b>").arg(before, after);
+}
+
+QPixmap SymbolPixmap(const QWidget& widget, Symbol symbol, Color color, int side) {
+    return SymbolIcon(symbol, color, ColorsFor(widget.palette()))
+        .pixmap(QSize(side, side), widget.devicePixelRatioF());
+}
+
+}  // namespace
+
+FindPanel::FindPanel(QWidget* parent)
+    : QWidget(parent),
+      m_gainSymbol(new QLabel(this)),
+      m_gain(new TypeLabel({}, TypeSize::Figure, true, this)),
+      m_details(new QWidget(this)),
+      m_durations(NewLabel(QStringLiteral("LBL_Funddauer"), {}, m_details)),
+      m_sittings(NewLabel(QStringLiteral("LBL_Fundsitzungen"), {}, m_details)),
+      m_fewer(new ItemCounts(QStringLiteral("Fällt weg"), m_details)),
+      m_more(new ItemCounts(QStringLiteral("Kommt dazu"), m_details)),
+      m_verdict(NewLabel(QStringLiteral("LBL_Fundertrag"), {}, m_details)),
+      m_rows(new TableModel(
+          {QStringLiteral("Nr."), QStringLiteral("jetzt"), QStringLiteral("im Fund")},
+          {.rows = [this] { return std::min(kShownRows, m_find.rows.size()); },
+           .text =
+               [this](std::size_t row, int column) {
+                   if (column == kNumber) {
+                       return QString::number(m_find.rows[row].row + 1);
+                   }
+                   const auto& side = SideOf(row, column);
+                   return side ? ToQString(side->text) : QString();
+               },
+           .picture =
+               [this](std::size_t row, int column) {
+                   const auto& side = SideOf(row, column);
+                   return column != kNumber && side && side->order.kind == Order::Kind::Item
+                              ? m_pictures[side->order.item]
+                              : QPixmap();
+               }},
+          this)),
+      m_table(new ListView(QStringLiteral("LV_Fund"), QStringLiteral("Was der Fund ändert"),
+                           {3, 12, 12}, m_details)),
+      m_compareButton(new QPushButton(QStringLiteral("&Mit Fund vergleichen"), m_details)),
+      m_acceptButton(new MainButton(QStringLiteral("Über&nehmen"), m_details)) {
+    m_gain->setObjectName(QStringLiteral("LBL_Gewinn"));
+    auto* const details = new QVBoxLayout(m_details);
+    details->setContentsMargins({});
+    details->setSpacing(4);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(4);
+    AddGain(*layout);
+    layout->addWidget(m_details);
+    auto* const figures = new QHBoxLayout;
+    for (QLabel* const label : {m_durations, m_sittings, m_verdict}) {
+        label->setTextFormat(Qt::RichText);
+    }
+    figures->addWidget(m_durations, 1);
+    figures->addWidget(m_sittings);
+    details->addLayout(figures);
+    details->addWidget(m_fewer);
+    details->addWidget(m_more);
+    AddRates(*details);
+    AddTable(*details);
+    AddButtons(*details);
+    m_details->hide();
+}
+
+void FindPanel::AddGain(QVBoxLayout& layout) {
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(4);
+    row->addWidget(m_gainSymbol);
+    row->addWidget(m_gain, 1);
+    m_gain->setWordWrap(true);
+    layout.addLayout(row);
+}
+
+void FindPanel::AddRates(QVBoxLayout& layout) {
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(4);
+    QLabel* const caption = NewHint(QStringLiteral("Je Stunde"), m_details);
+    caption->setWordWrap(false);
+    row->addWidget(caption);
+    for (const Resource resource : kResources) {
+        m_rateSymbols[resource] = new QLabel(m_details);
+        m_rates[resource] = new QLabel(m_details);
+        m_rates[resource]->setTextFormat(Qt::RichText);
+        row->addWidget(m_rateSymbols[resource]);
+        row->addWidget(m_rates[resource]);
+    }
+    row->addStretch(1);
+    row->addWidget(m_verdict);
+    layout.addLayout(row);
+}
+
+void FindPanel::AddTable(QVBoxLayout& layout) {
+    QLabel* const caption = NewHint(QStringLiteral("Die ersten Zeilen, die anders sind"), m_details);
+    layout.addWidget(caption);
+    m_table->setModel(m_rows);
+    m_table->setIconSize(QSize(kPicture, kPicture));
+    m_table->setTextElideMode(Qt::ElideRight);
+    m_table->setAlternatingRowColors(true);
+    m_table->setFocusPolicy(Qt::TabFocus);
+    layout.addWidget(m_table);
+}
+
+void FindPanel::AddButtons(QVBoxLayout& layout) {
+    m_compareButton->setObjectName(QStringLiteral("Cmd_MitFund"));
+    m_compareButton->setToolTip(
+        QStringLiteral("Zeigt unter Vergleich, was im Fund früher und später kommt"));
+    m_acceptButton->setObjectName(QStringLiteral("Cmd_Uebernehmen"));
+    m_acceptButton->setToolTip(
+        QStringLiteral("Setzt den Fund in den Plan; ein Schritt zurück nimmt ihn zurück"));
+    connect(m_compareButton, &QPushButton::clicked, this, &FindPanel::CompareWanted);
+    connect(m_acceptButton, &QPushButton::clicked, this, &FindPanel::AcceptWanted);
+    auto* const row = new QHBoxLayout;
+    row->setSpacing(kControlGap);
+    row->addWidget(m_compareButton, 1);
+    row->addWidget(m_acceptButton, 1);
+    layout.addLayout(row);
+}
+
+const std::optional<ListedOrder>& FindPanel::SideOf(std::size_t row, int column) const {
+    const DifferentRow& different = m_find.rows[row];
+    return column == kNow ? different.now : different.find;
+}
+
+void FindPanel::SetPictures(const PerItem<QPixmap>& pictures) {
+    m_pictures = pictures;
+    m_fewer->SetPictures(pictures);
+    m_more->SetPictures(pictures);
+    m_rows->Refresh();
+}
+
+void FindPanel::FollowAppearance() {
+    for (const Resource resource : kResources) {
+        const WaitLook look = LookOf(resource);
+        m_rateSymbols[resource]->setPixmap(
+            SymbolPixmap(*this, look.symbol, look.symbolColor, kSymbol));
+    }
+    // All rows that it may have, so nothing below moves.
+    constexpr int kFrame = 2;
+    const int row = std::max(kPicture, fontMetrics().height()) + 2 * kFrame;
+    m_table->setFixedHeight(m_table->header()->sizeHint().height() +
+                            static_cast<int>(kShownRows) * row + 2 * kFrame);
+    ShowGain();
+    ShowRates();
+}
+
+void FindPanel::ShowNothing(const QString& why) {
+    m_find = {};
+    m_details->hide();
+    m_gainSymbol->hide();
+    m_gain->setText(why);
+    m_rows->Refresh();
+}
+
+void FindPanel::ShowFind(const FindSummary& find) {
+    m_find = find;
+    ShowGain();
+    ShowRates();
+    const auto& before = find.before;
+    const QString duration = ToQString(TimeSpanText(find.after.duration));
+    const QString sittings = QString::number(find.after.sittings);
+    m_durations->setText(
+        before ? Changed(ToQString(TimeSpanText(before->duration)), duration)
+               : QStringLiteral("Der Plan endet nie oder verfehlt das Ziel → <b>%1</b>")
+                     .arg(duration));
+    m_sittings->setText(QStringLiteral("Sitzungen ") +
+                        (before ? Changed(QString::number(before->sittings), sittings)
+                                : QStringLiteral("<b>%1</b>").arg(sittings)));
+    PerItem<int> fewer{};
+    std::ranges::transform(find.more, fewer.begin(), std::negate<>());
+    m_fewer->ShowCounts(fewer);
+    m_more->ShowCounts(find.more);
+    m_rows->Refresh();
+    m_compareButton->setEnabled(find.DiffersFromPlan());
+    m_acceptButton->setEnabled(find.DiffersFromPlan());
+    m_details->show();
+}
+
+void FindPanel::ShowGain() {
+    const auto gain = m_find.Gain();
+    const bool faster = gain.value_or(1) > 0;
+    const bool equal = gain == 0;
+    const Color color = equal ? Color::Weak : faster ? Color::Gain : Color::Deficit;
+    m_gainSymbol->setVisible(m_find.DiffersFromPlan() && !equal);
+    m_gainSymbol->setPixmap(
+        SymbolPixmap(*this, faster ? Symbol::Falls : Symbol::Rises, color, kSymbol));
+    if (!m_find.DiffersFromPlan()) {
+        m_gain->setText(m_find.after.duration == 0
+                            ? QString()
+                            : QStringLiteral("Die Suche kennt keine schnellere Liste."));
+    } else if (!gain) {
+        m_gain->setText(QStringLiteral("Eine Liste, die das Ziel erreicht"));
+    } else if (equal) {
+        m_gain->setText(QStringLiteral("gleich schnell"));
+    } else {
+        m_gain->setText(ToQString(TimeSpanText(std::abs(*gain))) +
+                        (faster ? QStringLiteral(" schneller") : QStringLiteral(" langsamer")));
+    }
+    QPalette own = palette();
+    own.setColor(QPalette::WindowText,
+                 ColorsFor(palette())[m_find.DiffersFromPlan() ? color : Color::Text]);
+    m_gain->setPalette(own);
+}
+
+void FindPanel::ShowRates() {
+    const WorkbenchColors colors = ColorsFor(palette());
+    const auto colored = [&](Color color, const QString& text) {
+        return QStringLiteral("<span style='color:%1'>%2</span>").arg(colors[color].name(), text);
+    };
+    std::int64_t sum = 0;
+    for (const Resource resource : kResources) {
+        const std::int64_t rate = m_find.after.rates[resource];
+        const std::int64_t change = m_find.before ? rate - m_find.before->rates[resource] : 0;
+        sum += change;
+        QString text = ToQString(GroupedText(static_cast<double>(rate)));
+        if (change != 0) {
+            text += QStringLiteral(" ") +
+                    colored(change > 0 ? Color::Gain : Color::Deficit,
+                            (change > 0 ? QStringLiteral("▴") : QStringLiteral("▾")) +
+                                ToQString(GroupedText(static_cast<double>(std::abs(change)))));
+        }
+        m_rates[resource]->setText(text);
+    }
+    m_verdict->setText(sum == 0  ? QString()
+                       : sum > 0 ? colored(Color::Gain, QStringLiteral("stärker"))
+                                 : colored(Color::Deficit, QStringLiteral("schwächer")));
+}
+
+}  // namespace tarvelin
