@@ -1,35 +1,19 @@
 // Turns the inputs into a search and shows what it reports.
 #include "ui/workbench/SearchPage.h"
 
-#include <QCompleter>
 #include <QHBoxLayout>
-#include <QStandardItemModel>
-#include <QVBoxLayout>
-#include <algorithm>
-#include <limits>
 #include <utility>
 
-#include "search/GoalText.h"
-#include "search/SearchTexts.h"
+#include "search/FindSummary.h"
+#include "simulation/RunTexts.h"
 #include "ui/widgets/Controls.h"
+#include "ui/workbench/Icons.h"
+#include "ui/workbench/PageParts.h"
+#include "util/NumberText.h"
 
 namespace tarvelin {
 
 namespace {
-
-template <class T>
-T* NewInput(const char* name, const char* accessibleName, QWidget* parent) {
-    auto* const input = new T(parent);
-    input->setObjectName(QString::fromLatin1(name));
-    input->setAccessibleName(QString::fromUtf8(accessibleName));
-    return input;
-}
-
-QCheckBox* NewCheckBox(const char* name, const char* text, QWidget* parent) {
-    auto* const checkBox = new QCheckBox(QString::fromUtf8(text), parent);
-    checkBox->setObjectName(QString::fromLatin1(name));
-    return checkBox;
-}
 
 QPushButton* NewSearchButton(const char* name, const char* text, QWidget* parent) {
     auto* const button = new QPushButton(QString::fromUtf8(text), parent);
@@ -37,34 +21,11 @@ QPushButton* NewSearchButton(const char* name, const char* text, QWidget* parent
     return button;
 }
 
-/// How much of a search is done, from 0 to 1.
-double ShareDone(std::uint64_t tries, std::uint64_t total) {
-    return total == 0 ? 1 : static_cast<double>(tries) / static_cast<double>(total);
-}
-
-int ToPercent(double share) {
-    constexpr double kWhole = 100;
-    return static_cast<int>(kWhole * share);
-}
-
-/// Offers the names of items while a goal is typed.
-void CompleteWhileTyped(QLineEdit* goal) {
-    constexpr int kWholeText = Qt::UserRole;
-    auto* const names = new QStandardItemModel(goal);
-    auto* const completer = new QCompleter(names, goal);
-    completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
-    completer->setCompletionRole(kWholeText);
-    goal->setCompleter(completer);
-    QObject::connect(goal, &QLineEdit::textEdited, names, [names](const QString& text) {
-        const std::string typed = text.toStdString();
-        const GoalCompletions completions = CompleteGoal(typed);
-        names->clear();
-        for (const std::string& name : completions.names) {
-            auto* const row = new QStandardItem(ToQString(name));
-            row->setData(ToQString(typed.substr(0, completions.begin) + name), kWholeText);
-            names->appendRow(row);
-        }
-    });
+std::optional<RunTrace> RunOf(const Plan& plan, const PlanTask& task, const Solution& find) {
+    const Plan found = WithOrders(plan, find.orders, task.pause);
+    const auto conditions = ParseRunConditions(found);
+    const auto* const parsed = std::get_if<RunConditions>(&conditions);
+    return parsed == nullptr ? std::nullopt : std::optional(TraceRun(find.orders, *parsed));
 }
 
 }  // namespace
@@ -73,79 +34,60 @@ SearchPage::SearchPage(Document& document, const Environment& environment,
                        std::function<std::vector<std::size_t>()> chosen, QWidget* parent)
     : QWidget(parent),
       m_document(document),
-      m_environment(environment),
-      m_chosen(std::move(chosen)),
       m_task(NewInput<QComboBox>("Comb_Suchaufgabe", "Aufgabe der Suche", this)),
-      m_goal(NewInput<QLineEdit>("txt_Suchziel", "Ziel der Suche", this)),
-      m_pinned(NewCheckBox("Chk_Fest", "Gewählte Zeilen bleiben &fest", this)),
-      m_free(NewCheckBox("Chk_Frei", "Produktionszeilen wandern &mit", this)),
-      m_fromNow(NewCheckBox("Chk_AbJetzt", "Ab &jetzt: was begonnen hat, bleibt", this)),
-      m_sittings(NewCheckBox("Chk_Sitzungen", "Weniger Sit&zungen, länger um", this)),
-      m_slack(NewInput<QDoubleSpinBox>("Spin_Nachlass", "Prozent länger", this)),
-      m_tries(NewInput<QSpinBox>("Spin_Versuche", "Zahl der Versuche", this)),
+      m_goal(new GoalPicker(this)),
+      m_options(new SearchOptions(document, std::move(chosen), environment.now, this)),
       m_searchButton(NewSearchButton("Cmd_Suchen", "&Suchen", this)),
       m_stopButton(NewSearchButton("Cmd_Anhalten", "Anhal&ten", this)),
-      m_acceptButton(NewSearchButton("Cmd_Uebernehmen", "Über&nehmen", this)),
+      m_triesLabel(NewHint({}, this)),
       m_progressBar(NewInput<QProgressBar>("Suchbalken", "Fortschritt der Suche", this)),
       m_plot(new ConvergencePlot(this)),
-      m_reportLabel(NewLabel(QStringLiteral("LBL_Suche"), {}, this)) {
+      m_stateLabel(NewLabel(QStringLiteral("LBL_Suche"), {}, this)),
+      m_find(new FindPanel(this)) {
     setObjectName(QStringLiteral("Suchfeld"));
-    m_reportLabel->setWordWrap(true);
-    m_reportLabel->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    m_reportLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    auto* const form = new QFormLayout;
-    AddInputs(*form);
-    auto* const buttons = new QHBoxLayout;
-    for (QPushButton* const button : {m_searchButton, m_stopButton, m_acceptButton}) {
-        buttons->addWidget(button);
-    }
-    auto* const layout = new QVBoxLayout(this);
-    layout->addLayout(form);
-    layout->addLayout(buttons);
-    layout->addWidget(m_progressBar);
-    layout->addWidget(m_plot);
-    layout->addWidget(m_reportLabel, 1);
+    m_task->addItems(
+        {QStringLiteral("andere Reihenfolge"), QStringLiteral("schnellster Weg zu diesem Ziel")});
+    m_task->setItemData(0, QStringLiteral("Dieselben Aufträge, umgestellt"), Qt::ToolTipRole);
+    m_task->setItemData(1, QStringLiteral("Andere Minen und Anlagen, dasselbe Ziel"),
+                        Qt::ToolTipRole);
+    Arrange();
     ConnectSignals();
     EnableControls();
 }
 
-void SearchPage::AddInputs(QFormLayout& form) {
-    m_task->addItems(
-        {QStringLiteral("andere Reihenfolge"), QStringLiteral("schnellster Weg zum Ziel")});
-    m_goal->setText(QStringLiteral("plan"));
-    m_goal->setToolTip(
-        QStringLiteral("plan: Forschung, Schiffe und Verteidigung des Plans; sonst etwa: werft 2, "
-                       "kl. transporter"));
-    CompleteWhileTyped(m_goal);
-    constexpr double kMax = 100;
-    constexpr double kUsual = 0.5;
-    m_slack->setRange(0, kMax);
-    m_slack->setSingleStep(kUsual);
-    m_slack->setValue(kUsual);
-    m_slack->setSuffix(QStringLiteral(" %"));
-    m_tries->setRange(1, std::numeric_limits<int>::max());
-    m_tries->setSingleStep(static_cast<int>(SearchBudget::kDefaultTries));
-    m_tries->setValue(static_cast<int>(SearchBudget::kDefaultTries));
-    m_tries->setGroupSeparatorShown(true);
-    auto* const sittings = new QHBoxLayout;
-    sittings->addWidget(m_sittings);
-    sittings->addWidget(m_slack);
-    form.setVerticalSpacing(2);
-    form.addRow(m_task);
-    form.addRow(QStringLiteral("Ziel:"), m_goal);
-    form.addRow(m_pinned);
-    form.addRow(m_free);
-    form.addRow(m_fromNow);
-    form.addRow(sittings);
-    form.addRow(QStringLiteral("Versuche:"), m_tries);
+void SearchPage::Arrange() {
+    constexpr int kSlim = 4;
+    m_progressBar->setFixedHeight(kSlim);
+    m_progressBar->setTextVisible(false);
+    m_triesLabel->setWordWrap(false);
+    m_triesLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_triesLabel->setObjectName(QStringLiteral("LBL_Versuche"));
+    m_stateLabel->setWordWrap(true);
+    auto* const buttons = new QHBoxLayout;
+    buttons->setSpacing(kControlGap);
+    buttons->addWidget(m_searchButton);
+    buttons->addWidget(m_stopButton);
+    buttons->addWidget(m_triesLabel, 1);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kPageMargin, kPageMargin, kPageMargin, kPageMargin);
+    layout->setSpacing(kControlGap);
+    layout->addWidget(m_task);
+    layout->addWidget(m_goal);
+    layout->addWidget(m_options);
+    layout->addLayout(buttons);
+    layout->addWidget(m_progressBar);
+    layout->addWidget(m_plot);
+    layout->addWidget(m_stateLabel);
+    layout->addWidget(m_find, 1);
+    layout->addStretch(0);
 }
 
 void SearchPage::ConnectSignals() {
     connect(m_task, &QComboBox::currentIndexChanged, this, &SearchPage::EnableControls);
-    connect(m_sittings, &QCheckBox::toggled, this, &SearchPage::EnableControls);
     connect(m_searchButton, &QPushButton::clicked, this, &SearchPage::StartSearch);
     connect(m_stopButton, &QPushButton::clicked, this, &SearchPage::StopSearch);
-    connect(m_acceptButton, &QPushButton::clicked, this, &SearchPage::AcceptResult);
+    connect(m_find, &FindPanel::AcceptWanted, this, &SearchPage::AcceptFind);
+    connect(m_find, &FindPanel::CompareWanted, this, &SearchPage::CompareFind);
     // Emitted on the search's thread. Reports of an earlier search are dropped.
     connect(
         this, &SearchPage::ProgressReceived, this,
@@ -165,55 +107,49 @@ void SearchPage::ConnectSignals() {
         Qt::QueuedConnection);
 }
 
+void SearchPage::SetPictures(const PerItem<QPixmap>& pictures) {
+    m_goal->SetPictures(pictures);
+    m_find->SetPictures(pictures);
+}
+
+void SearchPage::FollowAppearance() {
+    constexpr int kIcon = 16;
+    m_searchButton->setIcon(ToolIcon(Icon::Search, ColorsFor(palette())));
+    m_searchButton->setIconSize(QSize(kIcon, kIcon));
+    m_find->FollowAppearance();
+}
+
 void SearchPage::EnableControls() {
-    m_goal->setEnabled(m_task->currentIndex() == 1);
-    m_slack->setEnabled(m_sittings->isChecked());
+    m_goal->setVisible(HasGoal());
     m_searchButton->setEnabled(!m_running);
     m_stopButton->setEnabled(m_running);
-    m_acceptButton->setEnabled(HasFind());
     emit StateChanged();
 }
 
-SearchRequest SearchPage::MakeRequest() const {
-    SearchRequest request{.moveProduction = m_free->isChecked()};
-    if (m_task->currentIndex() == 1) {
-        request.goal = m_goal->text().trimmed().toStdString();
-    }
-    if (m_pinned->isChecked()) {
-        for (const std::size_t row : m_chosen()) {
-            request.pinnedRanges.emplace_back(row + 1, row + 1);
-        }
-    }
-    if (m_fromNow->isChecked()) {
-        request.notBefore = m_environment.now();
-    }
-    return request;
-}
-
-SearchBudget SearchPage::MakeBudget() const {
-    // Leave one core for the windows.
-    const unsigned cores = std::thread::hardware_concurrency();
-    return {.tries = static_cast<std::uint64_t>(m_tries->value()),
-            .threads = std::max(2U, cores) - 1,
-            .slackPercent = m_sittings->isChecked() ? m_slack->value() : 0};
-}
-
 void SearchPage::StartSearch() {
-    const auto task = MakePlanTask(m_document.CurrentPlan(), MakeRequest());
+    SearchRequest request = m_options->Request();
+    if (HasGoal()) {
+        request.goal = m_goal->Text();
+    }
+    const auto task = MakePlanTask(m_document.CurrentPlan(), request);
     if (const auto* const refusal = std::get_if<SearchRefusal>(&task)) {
         emit Notice(refusal->text);
         return;
     }
     emit Notice("");
     m_searched = {.plan = m_document.CurrentPlan(), .task = std::get<PlanTask>(task), .best = {}};
+    m_findTrace.reset();
+    m_find->Clear();
     m_plot->Clear();
+    m_stateLabel->clear();
+    m_triesLabel->clear();
     m_progressBar->setValue(0);
-    m_reportLabel->clear();
+    m_elapsed.start();
     m_running = true;
     EnableControls();
     const int id = ++m_id;
     m_search = std::make_unique<BackgroundSearch>(
-        m_searched->task, MakeBudget(),
+        m_searched->task, m_options->Budget(),
         BackgroundSearch::Listener{
             .onProgress =
                 [this, id](const SearchProgress& progress) { emit ProgressReceived(id, progress); },
@@ -226,28 +162,72 @@ void SearchPage::StopSearch() {
     }
 }
 
+void SearchPage::ShowTries(std::uint64_t tries, std::uint64_t total) {
+    constexpr double kMillisecond = 1e-3;
+    constexpr double kWhole = 100;
+    m_progressBar->setValue(
+        total == 0 ? 0
+                   : static_cast<int>(kWhole * static_cast<double>(tries) /
+                                      static_cast<double>(total)));
+    m_triesLabel->setText(
+        QStringLiteral("%1 Versuche in %2 s")
+            .arg(ToQString(GroupedText(static_cast<double>(tries))),
+                 ToQString(DecimalText(static_cast<double>(m_elapsed.elapsed()) * kMillisecond,
+                                       1))));
+}
+
 void SearchPage::ShowProgress(const SearchProgress& progress) {
-    const double share = ShareDone(progress.tries, progress.totalTries);
-    m_progressBar->setValue(ToPercent(share));
-    m_plot->AddPoint(share, progress.bestDuration);
-    m_reportLabel->setText(ToQString(ProgressSummary(progress)));
+    ShowTries(progress.tries, progress.totalTries);
+    m_plot->AddPoint(progress.tries, progress.bestDuration, progress.totalTries);
+    m_stateLabel->setText(
+        QStringLiteral("Bisher %1").arg(ToQString(TimeSpanText(progress.bestDuration))));
 }
 
 void SearchPage::ShowSearchResult(const SearchResult& result) {
     m_search.reset();
     m_running = false;
     m_searched->best = result.best;
-    m_progressBar->setValue(ToPercent(ShareDone(result.tries, result.totalTries)));
-    m_reportLabel->setText(ToQString(ResultSummary(m_searched->plan, m_searched->task, result)));
+    ShowTries(result.tries, result.totalTries);
+    m_stateLabel->clear();
+    if (!result.best) {
+        m_find->ShowNothing(QStringLiteral("Es wurde keine Liste gefunden, die endet."));
+    } else {
+        m_plot->AddPoint(result.tries, result.best->score.duration, result.totalTries);
+        const FindSummary summary =
+            SummaryOf(m_searched->plan, m_searched->task, *result.best);
+        m_find->Show(summary);
+        if (summary.DiffersFromPlan()) {
+            m_findTrace = RunOf(m_searched->plan, m_searched->task, *result.best);
+            emit Notice("Der Fund ist noch nicht im Plan.");
+        }
+    }
     EnableControls();
 }
 
-void SearchPage::AcceptResult() {
-    if (m_document.Adopt(m_searched->best->orders, m_searched->task.pause,
-                         SnapshotOf(m_searched->plan))) {
-        m_searched.reset();
-        EnableControls();
+void SearchPage::CompareFind() {
+    emit FindToCompare(*m_findTrace);
+}
+
+void SearchPage::ForgetFind() {
+    m_searched.reset();
+    m_findTrace.reset();
+    m_find->Clear();
+    EnableControls();
+}
+
+void SearchPage::AcceptFind() {
+    const auto before = m_document.Trace();
+    const Long duration = m_searched->best->score.duration;
+    emit BeforeTakeOver();
+    if (!m_document.Adopt(m_searched->best->orders, m_searched->task.pause,
+                          SnapshotOf(m_searched->plan))) {
+        return;
     }
+    ForgetFind();
+    const Long gain = before ? before->Duration().Seconds() - duration : 0;
+    emit Notice((gain > 0 ? "Fund übernommen: " + TimeSpanText(gain) + " schneller. "
+                          : "Fund übernommen. ") +
+                "Der Plan davor steht unter Vergleich als \"gemerkt\".");
 }
 
 }  // namespace tarvelin

@@ -1,15 +1,12 @@
 // The page that searches for better plans.
 #pragma once
 
-#include <QCheckBox>
 #include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QFormLayout>
+#include <QElapsedTimer>
 #include <QLabel>
-#include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QSpinBox>
+#include <QVBoxLayout>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -19,8 +16,12 @@
 
 #include "document/Document.h"
 #include "search/BackgroundSearch.h"
+#include "simulation/RunTrace.h"
 #include "ui/services/Environment.h"
 #include "ui/workbench/ConvergencePlot.h"
+#include "ui/workbench/FindPanel.h"
+#include "ui/workbench/GoalPicker.h"
+#include "ui/workbench/SearchOptions.h"
 
 namespace tarvelin {
 
@@ -34,29 +35,40 @@ class SearchPage : public QWidget {
     SearchPage(Document& document, const Environment& environment,
                std::function<std::vector<std::size_t>()> chosen, QWidget* parent);
 
+    void SetPictures(const PerItem<QPixmap>& pictures);
+    /// Call it when the palette or the font has changed.
+    void FollowAppearance();
+    /// Call it when the plan, the chosen rows or the minute have changed.
+    void ShowEffects() { m_options->ShowEffects(); }
+
     void StartSearch();
     /// Ends a running search; its best solution so far stays.
     void StopSearch();
     /// Puts the find into the plan.
-    void AcceptResult();
+    void AcceptFind();
+    void CompareFind();
     [[nodiscard]] bool IsRunning() const { return m_running; }
-    [[nodiscard]] bool HasFind() const { return !m_running && m_searched && m_searched->best; }
+    [[nodiscard]] bool HasFind() const { return !m_running && m_findTrace.has_value(); }
 
   signals:
+    void Notice(const std::string& text);
     /// A search has begun or ended, or its find is gone.
     void StateChanged();
-    void Notice(const std::string& text);
+    void FindToCompare(const RunTrace& find);
+    /// The plan is about to be replaced by the find.
+    void BeforeTakeOver();
     /// From the search's thread; `id` is that of the search.
     void ProgressReceived(int id, const SearchProgress& progress);
     void ResultReceived(int id, const SearchResult& result);
 
   private:
-    void AddInputs(QFormLayout& form);
+    void Arrange();
     void ConnectSignals();
-    [[nodiscard]] SearchRequest MakeRequest() const;
-    [[nodiscard]] SearchBudget MakeBudget() const;
+    [[nodiscard]] bool HasGoal() const { return m_task->currentIndex() == 1; }
     void ShowProgress(const SearchProgress& progress);
     void ShowSearchResult(const SearchResult& result);
+    void ShowTries(std::uint64_t tries, std::uint64_t total);
+    void ForgetFind();
     void EnableControls();
 
     /// The plan and task of the last search, and the solution to accept.
@@ -67,24 +79,20 @@ class SearchPage : public QWidget {
     };
 
     Document& m_document;
-    const Environment& m_environment;
-    std::function<std::vector<std::size_t>()> m_chosen;
-
     QComboBox* m_task;
-    QLineEdit* m_goal;
-    QCheckBox* m_pinned;
-    QCheckBox* m_free;
-    QCheckBox* m_fromNow;
-    QCheckBox* m_sittings;
-    QDoubleSpinBox* m_slack;
-    QSpinBox* m_tries;
+    GoalPicker* m_goal;
+    SearchOptions* m_options;
     QPushButton* m_searchButton;
     QPushButton* m_stopButton;
-    QPushButton* m_acceptButton;
+    QLabel* m_triesLabel;
     QProgressBar* m_progressBar;
     ConvergencePlot* m_plot;
-    QLabel* m_reportLabel;
+    QLabel* m_stateLabel;
+    FindPanel* m_find;
     std::optional<Searched> m_searched;
+    /// The run of the find, if there is one that differs from the plan.
+    std::optional<RunTrace> m_findTrace;
+    QElapsedTimer m_elapsed;
     /// The id of the last search.
     int m_id = 0;
     bool m_running = false;
