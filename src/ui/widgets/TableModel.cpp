@@ -26,6 +26,11 @@ void TableModel::Refresh() {
     }
 }
 
+void TableModel::SetHeader(int column, const QString& caption) {
+    m_headers[column] = caption;
+    emit headerDataChanged(Qt::Horizontal, column, column);
+}
+
 int TableModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : m_rows;
 }

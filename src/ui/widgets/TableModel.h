@@ -28,6 +28,7 @@ class TableModel : public QAbstractTableModel {
     TableModel(QStringList headers, Provider provider, QObject* parent);
 
     void Refresh();
+    void SetHeader(int column, const QString& caption);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;

@@ -3,12 +3,14 @@
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "document/PlanRun.h"
 #include "export/ComparisonTexts.h"
 #include "simulation/RunTexts.h"
 #include "ui/widgets/Controls.h"
+#include "ui/workbench/PageParts.h"
 
 namespace tarvelin {
 
@@ -35,6 +37,11 @@ ComparisonPage::ComparisonPage(const Document& document, const Environment& envi
     connect(m_rememberButton, &QPushButton::clicked, this, &ComparisonPage::Remember);
     connect(m_fileButton, &QPushButton::clicked, this, &ComparisonPage::LoadOther);
     connect(m_clearButton, &QPushButton::clicked, this, &ComparisonPage::ClearOther);
+    const auto findRow = [this](const QModelIndex& index) {
+        FindRow(static_cast<std::size_t>(index.row()));
+    };
+    connect(m_orderTable, &QAbstractItemView::clicked, this, findRow);
+    connect(m_orderTable, &QAbstractItemView::activated, this, findRow);
     Arrange();
     ShowOwnRun();
 }
@@ -44,22 +51,20 @@ void ComparisonPage::Arrange() {
     for (QPushButton* const button : {m_rememberButton, m_fileButton, m_clearButton}) {
         buttons->addWidget(button);
     }
+    buttons->setSpacing(kControlGap);
     auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kPageMargin, kPageMargin, kPageMargin, kPageMargin);
+    layout->setSpacing(kControlGap);
     layout->addLayout(buttons);
+    m_nameLabel->setWordWrap(true);
     layout->addWidget(m_nameLabel);
     layout->addWidget(m_summaryTable, 2);
     layout->addWidget(m_orderTable, 3);
 }
 
-QSize ComparisonPage::minimumSizeHint() const {
-    // Room for an order and three time spans of many days.
-    constexpr int kCharacters = 40;
-    return QWidget::minimumSizeHint().expandedTo(
-        QSize(kCharacters * fontMetrics().averageCharWidth(), 0));
-}
-
 void ComparisonPage::Remember() {
-    SetOther(m_document.Trace(), QStringLiteral("Verglichen mit dem gemerkten Plan"));
+    CompareWith(m_document.Trace(), QStringLiteral("Verglichen mit dem gemerkten Plan"),
+                QStringLiteral("gemerkt"));
 }
 
 void ComparisonPage::LoadOther() {
@@ -74,18 +79,36 @@ void ComparisonPage::LoadOther() {
         return;
     }
     emit Notice(other.run.state.IsAtEndOfClock() ? BeyondClockText() : "");
-    SetOther(other.Trace(), QStringLiteral("Verglichen mit ") + ToQString(other.name));
+    CompareWith(other.Trace(), QStringLiteral("Verglichen mit ") + ToQString(other.name),
+                QStringLiteral("Datei"));
 }
 
 void ComparisonPage::ClearOther() {
-    SetOther(std::nullopt, {});
+    CompareWith(std::nullopt, {}, QStringLiteral("gemerkt"));
 }
 
-void ComparisonPage::SetOther(std::optional<RunTrace> other, const QString& name) {
+void ComparisonPage::CompareWith(std::optional<RunTrace> other, const QString& name,
+                                 const QString& column) {
     m_other = std::move(other);
+    for (ComparisonTable* const table : {m_summaryTable, m_orderTable}) {
+        table->SetOtherCaption(column);
+    }
     m_nameLabel->setText(name);
     ShowOwnRun();
     emit OtherRunChanged();
+}
+
+void ComparisonPage::FindRow(std::size_t difference) {
+    const ComparisonRow& wanted = m_differences[difference];
+    const auto& starts = m_document.Trace()->starts;
+    const auto start = std::ranges::find_if(starts, [&](const StartEvent& event) {
+        return event.order == wanted.order && wanted.b == event.start;
+    });
+    if (start == starts.end()) {
+        emit Notice("Diesen Auftrag hat der Plan jetzt nicht.");
+    } else {
+        emit RowWanted(start->row);
+    }
 }
 
 void ComparisonPage::ShowOwnRun() {
@@ -93,9 +116,10 @@ void ComparisonPage::ShowOwnRun() {
     TextTable summaries;
     TextTable orders;
     if (own && m_other) {
-        const Comparison comparison = tarvelin::Compare(*m_other, *own);
+        Comparison comparison = tarvelin::Compare(*m_other, *own);
         summaries = SummaryTexts(comparison);
         orders = OrderDifferences(comparison);
+        m_differences = std::move(comparison.differences);
     }
     m_summaryTable->ShowRows(std::move(summaries));
     m_orderTable->ShowRows(std::move(orders));

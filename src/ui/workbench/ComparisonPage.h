@@ -6,8 +6,10 @@
 #include <QWidget>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "document/Document.h"
+#include "simulation/Comparison.h"
 #include "ui/services/Environment.h"
 #include "ui/workbench/ComparisonTable.h"
 
@@ -25,22 +27,28 @@ class ComparisonPage : public QWidget {
     /// What the plan is compared with, if anything.
     [[nodiscard]] const std::optional<RunTrace>& OtherRun() const { return m_other; }
 
-    [[nodiscard]] QSize minimumSizeHint() const override;
+    /// Compares with the plan as it is now.
+    void Remember();
+    /// `name` says what it is, `column` in a word.
+    void CompareWith(std::optional<RunTrace> other, const QString& name, const QString& column);
 
   signals:
     void OtherRunChanged();
     void Notice(const std::string& text);
+    /// A row of the plan as it is now was pointed at, from 0.
+    void RowWanted(std::size_t row);
 
   private:
     void Arrange();
-    void Remember();
     void LoadOther();
     void ClearOther();
-    void SetOther(std::optional<RunTrace> other, const QString& name);
+    void FindRow(std::size_t difference);
 
     const Document& m_document;
     const Environment& m_environment;
     std::optional<RunTrace> m_other;
+    /// What the table of orders shows.
+    std::vector<ComparisonRow> m_differences;
     QPushButton* m_rememberButton;
     QPushButton* m_fileButton;
     QPushButton* m_clearButton;

@@ -16,6 +16,8 @@ class ComparisonTable : public ListView {
                     QWidget* parent);
 
     void ShowRows(TextTable rows);
+    /// The caption of the column of the other plan; "jetzt" stands beside it.
+    void SetOtherCaption(const QString& caption);
 
   private:
     TextTable m_rows;

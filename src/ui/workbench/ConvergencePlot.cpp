@@ -40,8 +40,9 @@ class ConvergencePlot::Painting {
         painter.setFont(TypeFont(plot.font(), TypeSize::Caption));
         const QFontMetrics metrics = painter.fontMetrics();
         const int scale = metrics.horizontalAdvance(QStringLiteral("00 T 00:00:00 ")) + kMargin;
-        m_rect = QRectF(plot.rect()).adjusted(2 * kMargin, metrics.height() / 2.0 + kMargin,
-                                              -scale, -metrics.height() - kMargin);
+        m_rect = QRectF(plot.rect())
+                     .adjusted(2 * kMargin, metrics.height() / 2.0 + kMargin, -scale,
+                               -metrics.height() - kMargin);
     }
 
     void DrawScales() {
@@ -52,9 +53,9 @@ class ConvergencePlot::Painting {
         const std::int64_t step = RoundStep(total, kTryLabels);
         for (std::int64_t tries = 0; tries <= total; tries += step) {
             const QString text = ToQString(GroupedText(static_cast<double>(tries)));
-            const double x = std::clamp(XOf(static_cast<double>(tries)) -
-                                            metrics.horizontalAdvance(text) / 2.0,
-                                        0.0, m_plot.width() - 1.0 * metrics.horizontalAdvance(text));
+            const double x =
+                std::clamp(XOf(static_cast<double>(tries)) - metrics.horizontalAdvance(text) / 2.0,
+                           0.0, m_plot.width() - 1.0 * metrics.horizontalAdvance(text));
             m_painter.drawText(QPointF(x, m_plot.height() - metrics.descent() - 1), text);
         }
         constexpr int kDurationLabels = 2;
@@ -102,9 +103,9 @@ class ConvergencePlot::Painting {
     }
     void DrawLabel(double y, const QString& text) {
         const QFontMetrics metrics = m_painter.fontMetrics();
-        m_painter.drawText(QPointF(m_rect.right() + 2 * kMargin,
-                                   y + (metrics.ascent() - metrics.descent()) / 2.0),
-                           text);
+        m_painter.drawText(
+            QPointF(m_rect.right() + 2 * kMargin, y + (metrics.ascent() - metrics.descent()) / 2.0),
+            text);
     }
 
     const ConvergencePlot& m_plot;

@@ -116,7 +116,8 @@ void FindPanel::AddRates(QVBoxLayout& layout) {
 }
 
 void FindPanel::AddTable(QVBoxLayout& layout) {
-    QLabel* const caption = NewHint(QStringLiteral("Die ersten Zeilen, die anders sind"), m_details);
+    QLabel* const caption =
+        NewHint(QStringLiteral("Die ersten Zeilen, die anders sind"), m_details);
     layout.addWidget(caption);
     m_table->setModel(m_rows);
     m_table->setIconSize(QSize(kPicture, kPicture));

@@ -152,8 +152,8 @@ GoalPicker::GoalPicker(QWidget* parent)
 void GoalPicker::AddPictures(QGridLayout& grid) {
     int column = 0;
     for (std::size_t group = 0; group < ItemGroups().size(); ++group) {
-        auto* const caption = new TypeLabel(QString::fromUtf8(kCaptions.at(group)),
-                                            TypeSize::Caption, false, this);
+        auto* const caption =
+            new TypeLabel(QString::fromUtf8(kCaptions.at(group)), TypeSize::Caption, false, this);
         caption->setForegroundRole(QPalette::PlaceholderText);
         const auto& items = ItemGroups()[group].items;
         const int perRow = (static_cast<int>(items.size()) + kRows - 1) / kRows;

@@ -60,7 +60,8 @@ int ItemCounts::Arrange(int width, Place place) const {
             left = first;
             top += kLine;
         }
-        place(text, row.item, QRect(left + advance, top + (kLine - kPicture) / 2, kPicture, kPicture));
+        place(text, row.item,
+              QRect(left + advance, top + (kLine - kPicture) / 2, kPicture, kPicture));
         left += advance + kPicture + kGap;
     }
     return top + kLine;

@@ -85,8 +85,7 @@ SearchOptions::SearchOptions(const Document& document,
                                 "neue Plan eine Pause in den Schlafzeiten.");
     m_sittingsEffect = AddOption(*details, {m_sittings, m_slack},
                                  "Was du binnen zehn Minuten anstößt, zählt als eine Sitzung.");
-    AddOption(*details, {m_tries},
-              "Wie viele Listen die Suche durchspielt.")
+    AddOption(*details, {m_tries}, "Wie viele Listen die Suche durchspielt.")
         ->setText(QStringLiteral("Je mehr, desto gründlicher; zehnmal so viele dauern zehnmal so "
                                  "lang."));
     auto* const head = new QHBoxLayout;
@@ -194,9 +193,9 @@ QString SearchOptions::FromNowEffect() const {
     if (begun == std::ssize(trace->starts)) {
         return QStringLiteral("Alles hat schon begonnen: zu suchen gibt es nichts.");
     }
-    return begun == 1 ? QStringLiteral("1 Auftrag hat begonnen und bleibt, wie er ist.")
-                      : QStringLiteral("%1 Aufträge haben begonnen und bleiben, wie sie sind.")
-                            .arg(begun);
+    return begun == 1
+               ? QStringLiteral("1 Auftrag hat begonnen und bleibt, wie er ist.")
+               : QStringLiteral("%1 Aufträge haben begonnen und bleiben, wie sie sind.").arg(begun);
 }
 
 QString SearchOptions::SittingsEffect() const {

@@ -139,7 +139,7 @@ void SearchPage::StartSearch() {
     emit Notice("");
     m_searched = {.plan = m_document.CurrentPlan(), .task = std::get<PlanTask>(task), .best = {}};
     m_findTrace.reset();
-    m_find->Clear();
+    m_find->ShowNothing({});
     m_plot->Clear();
     m_stateLabel->clear();
     m_triesLabel->clear();
@@ -165,15 +165,14 @@ void SearchPage::StopSearch() {
 void SearchPage::ShowTries(std::uint64_t tries, std::uint64_t total) {
     constexpr double kMillisecond = 1e-3;
     constexpr double kWhole = 100;
-    m_progressBar->setValue(
-        total == 0 ? 0
-                   : static_cast<int>(kWhole * static_cast<double>(tries) /
-                                      static_cast<double>(total)));
+    m_progressBar->setValue(total == 0 ? 0
+                                       : static_cast<int>(kWhole * static_cast<double>(tries) /
+                                                          static_cast<double>(total)));
     m_triesLabel->setText(
         QStringLiteral("%1 Versuche in %2 s")
             .arg(ToQString(GroupedText(static_cast<double>(tries))),
-                 ToQString(DecimalText(static_cast<double>(m_elapsed.elapsed()) * kMillisecond,
-                                       1))));
+                 ToQString(
+                     DecimalText(static_cast<double>(m_elapsed.elapsed()) * kMillisecond, 1))));
 }
 
 void SearchPage::ShowProgress(const SearchProgress& progress) {
@@ -193,9 +192,8 @@ void SearchPage::ShowSearchResult(const SearchResult& result) {
         m_find->ShowNothing(QStringLiteral("Es wurde keine Liste gefunden, die endet."));
     } else {
         m_plot->AddPoint(result.tries, result.best->score.duration, result.totalTries);
-        const FindSummary summary =
-            SummaryOf(m_searched->plan, m_searched->task, *result.best);
-        m_find->Show(summary);
+        const FindSummary summary = SummaryOf(m_searched->plan, m_searched->task, *result.best);
+        m_find->ShowFind(summary);
         if (summary.DiffersFromPlan()) {
             m_findTrace = RunOf(m_searched->plan, m_searched->task, *result.best);
             emit Notice("Der Fund ist noch nicht im Plan.");
@@ -211,7 +209,7 @@ void SearchPage::CompareFind() {
 void SearchPage::ForgetFind() {
     m_searched.reset();
     m_findTrace.reset();
-    m_find->Clear();
+    m_find->ShowNothing({});
     EnableControls();
 }
 

@@ -85,7 +85,7 @@ class Workbench : public QMainWindow {
     void OpenGuide();
     void StartSearch();
     void StopSearch() { m_surface->Search().StopSearch(); }
-    void AcceptFind() { m_surface->Search().AcceptResult(); }
+    void AcceptFind() { m_surface->Search().AcceptFind(); }
     void SavePicture();
     void CopyTimetable();
     void SaveCalendar();

@@ -85,6 +85,14 @@ void WorkbenchSurface::ConnectSignals() {
     connect(m_searchPage, &SearchPage::Notice, this, &WorkbenchSurface::Notice);
     connect(m_comparisonPage, &ComparisonPage::Notice, this, &WorkbenchSurface::Notice);
     connect(m_sleepPage, &SleepPage::Notice, this, &WorkbenchSurface::Notice);
+    connect(m_comparisonPage, &ComparisonPage::RowWanted, this,
+            [this](std::size_t row) { m_list->Choose({row}); });
+    connect(m_searchPage, &SearchPage::BeforeTakeOver, m_comparisonPage, &ComparisonPage::Remember);
+    connect(m_searchPage, &SearchPage::FindToCompare, this, [this](const RunTrace& find) {
+        m_comparisonPage->CompareWith(find, QStringLiteral("Verglichen mit dem Fund der Suche"),
+                                      QStringLiteral("Fund"));
+        ShowPage(kComparisonPage);
+    });
     connect(m_comparisonPage, &ComparisonPage::OtherRunChanged, this,
             [this] { m_timeline->SetOtherRun(m_comparisonPage->OtherRun()); });
 }
@@ -104,6 +112,7 @@ void WorkbenchSurface::FollowDesktop(const WorkbenchColors& colors) {
     m_strip->FollowAppearance();
     m_list->FollowAppearance();
     m_palette->FollowAppearance();
+    m_searchPage->FollowAppearance();
     m_timeline->SetAppearance(colors.Palette(), font());
     // Wide enough never to scroll sideways.
     constexpr int kUsualWidth = 384;
@@ -118,6 +127,7 @@ void WorkbenchSurface::FollowDesktop(const WorkbenchColors& colors) {
 void WorkbenchSurface::SetPictures(const PerItem<QPixmap>& pictures) {
     m_list->SetPictures(pictures);
     m_palette->SetPictures(pictures);
+    m_searchPage->SetPictures(pictures);
     m_timeline->SetPictures(pictures);
     m_strip->SetPictures(pictures);
 }
@@ -150,6 +160,7 @@ void WorkbenchSurface::ShowPage(int index) {
 }
 
 void WorkbenchSurface::ShowChoice() {
+    m_searchPage->ShowEffects();
     const auto chosen = m_list->ChosenRows();
     m_timeline->SetChosenRows({chosen.begin(), chosen.end()});
     if (!chosen.empty()) {

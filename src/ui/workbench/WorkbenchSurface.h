@@ -50,6 +50,7 @@ class WorkbenchSurface : public QWidget {
     /// Brings a page to the front, with the focus in it.
     void ShowPage(int index);
     static constexpr int kSearchPage = 1;
+    static constexpr int kComparisonPage = 2;
     [[nodiscard]] const QWidget* CurrentPage() const;
     /// The pages at the right.
     [[nodiscard]] QTabWidget& Pages() const { return *m_pages; }
