@@ -62,7 +62,6 @@ void SearchPage::Arrange() {
     m_triesLabel->setWordWrap(false);
     m_triesLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_triesLabel->setObjectName(QStringLiteral("LBL_Versuche"));
-    m_stateLabel->setWordWrap(true);
     auto* const buttons = new QHBoxLayout;
     buttons->setSpacing(kControlGap);
     buttons->addWidget(m_searchButton);
@@ -78,8 +77,9 @@ void SearchPage::Arrange() {
     layout->addWidget(m_progressBar);
     layout->addWidget(m_plot);
     layout->addWidget(m_stateLabel);
-    layout->addWidget(m_find, 1);
-    layout->addStretch(0);
+    layout->addWidget(m_find);
+    layout->addStretch(1);
+    m_stateLabel->hide();
 }
 
 void SearchPage::ConnectSignals() {
@@ -142,6 +142,7 @@ void SearchPage::StartSearch() {
     m_find->ShowNothing({});
     m_plot->Clear();
     m_stateLabel->clear();
+    m_stateLabel->show();
     m_triesLabel->clear();
     m_progressBar->setValue(0);
     m_elapsed.start();
@@ -187,7 +188,7 @@ void SearchPage::ShowSearchResult(const SearchResult& result) {
     m_running = false;
     m_searched->best = result.best;
     ShowTries(result.tries, result.totalTries);
-    m_stateLabel->clear();
+    m_stateLabel->hide();
     if (!result.best) {
         m_find->ShowNothing(QStringLiteral("Es wurde keine Liste gefunden, die endet."));
     } else {
