@@ -157,9 +157,9 @@ same "the user has the data folder and nothing else" "$(printf '%s\n' \
     .local .local/share .local/share/Tarvelin .local/share/Tarvelin/config.cfg \
     .local/share/Tarvelin/saves .local/share/Tarvelin/saves/autosave.tvf)" \
     "$(cd "$home" && find . -mindepth 1 -path '*/Tarvelin/img' -prune -o -path '*/Tarvelin/mfx' \
-        -prune -o -printf '%P\n' | LC_ALL=C sort)"
+        -prune -o -path '*/Tarvelin/openings' -prune -o -printf '%P\n' | LC_ALL=C sort)"
 data=$home/.local/share/Tarvelin
-for folder in img mfx; do
+for folder in img mfx openings; do
     quiet "$folder was copied to the user" diff -r "$share/tarvelin/$folder" "$data/$folder"
 done
 

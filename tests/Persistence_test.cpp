@@ -129,12 +129,14 @@ TEST(FileSystem, ListsSubfolders) {
 
 /// Makes a folder with the least of a program's data.
 void CreateData(const std::filesystem::path& folder) {
-    for (const char* const subfolder : {"img/skins/temp_webskin/images", "mfx", "saves"}) {
+    for (const char* const subfolder :
+         {"img/skins/temp_webskin/images", "mfx", "saves", "openings"}) {
         std::filesystem::create_directories(folder / subfolder);
     }
     WriteFile(folder / "img" / "icon.ico", "icon");
     WriteFile(folder / "mfx" / "alert.wav", "ton");
     WriteFile(folder / "saves" / "basic.tvf", "plan");
+    WriteFile(folder / "openings" / "klassisch.tvf", "plan");
 }
 
 TEST(ProgramFolder, IsBesideTheProgramIfItIsWritable) {
@@ -151,6 +153,7 @@ TEST(ProgramFolder, InstalledProgramCopiesItsFilesToTheUser) {
     const auto user = folder / "nutzer" / "Tarvelin";
     EXPECT_EQ(ResolveProgramFolder(folder / "bin", user).path, user);
     EXPECT_EQ(ReadFileToString(user / "saves" / "basic.tvf"), "plan");
+    EXPECT_EQ(ReadFileToString(user / "openings" / "klassisch.tvf"), "plan");
     EXPECT_TRUE(std::filesystem::is_directory(user / "img/skins/temp_webskin/images"));
 
     // Files of the user's own stay and missing ones are restored, but for the starter plan.

@@ -43,11 +43,12 @@ bool AddMissingFolder(const fs::path& from, const fs::path& target) {
 bool SetUp(const fs::path& source, const fs::path& folder) {
     const bool pictures = AddMissingFolder(source / "img", folder / "img");
     const bool sounds = AddMissingFolder(source / "mfx", folder / "mfx");
+    const bool openings = AddMissingFolder(source / "openings", folder / "openings");
     const bool plans = NativeFileSystem().CreateFolders(folder / "saves");
     const fs::path starterPlan = fs::path("saves") / "basic.tvf";
     const bool plan = FileExists(folder / "config.cfg") || !FileExists(source / starterPlan) ||
                       CopyMissing(source / starterPlan, folder / starterPlan);
-    return pictures && sounds && plans && plan;
+    return pictures && sounds && openings && plans && plan;
 }
 
 bool HasPlans(const fs::path& folder) {

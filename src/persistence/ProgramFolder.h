@@ -8,7 +8,7 @@
 
 namespace tarvelin {
 
-/// The folder of `config.cfg`, `saves`, `img` and `mfx` for this start.
+/// The folder of `config.cfg`, `saves`, `img`, `mfx` and `openings` for this start.
 struct ProgramFolder {
     std::filesystem::path path;
     /// Whether plans and settings can be kept there. If not, nothing in it may be changed.

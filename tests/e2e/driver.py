@@ -62,7 +62,8 @@ Box = collections.namedtuple("Box", "title text buttons")
 def copy_program(programs, folder):
     """Copies the program's folder as nobody has used it yet, without the starter plan."""
     shutil.copytree(programs, folder,
-                    ignore=shutil.ignore_patterns("config.cfg", "*.tvf", "*bench"))
+                    ignore=shutil.ignore_patterns("config.cfg", "saves", "*bench"))
+    os.mkdir(os.path.join(folder, "saves"))
 
 
 def has_state(node, state):

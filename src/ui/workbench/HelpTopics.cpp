@@ -1,7 +1,6 @@
 // The table of the topics.
 #include "ui/workbench/HelpTopics.h"
 
-#include <algorithm>
 #include <array>
 
 namespace tarvelin {
@@ -29,11 +28,10 @@ std::span<const HelpTopic> HelpTopics() {
 
 QString HelpTopicFor(const QWidget* focused) {
     for (const QWidget* widget = focused; widget != nullptr; widget = widget->parentWidget()) {
-        const auto topic = std::ranges::find_if(kTopics, [&](const HelpTopic& row) {
-            return widget->objectName() == QLatin1String(row.widget);
-        });
-        if (topic != kTopics.end()) {
-            return QString::fromUtf8(topic->heading);
+        for (const HelpTopic& topic : kTopics) {
+            if (widget->objectName() == QLatin1String(topic.widget)) {
+                return QString::fromUtf8(topic.heading);
+            }
         }
     }
     return QString::fromUtf8(kTopics.back().heading);

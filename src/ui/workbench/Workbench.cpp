@@ -235,12 +235,15 @@ void Workbench::ConnectSignals() {
     connect(&m_editor, &RowEditor::Refused, this, &Workbench::ShowRefusal);
     connect(&m_surface->List(), &OrderListView::ChoiceChanged, this, &Workbench::EnableActions);
     connect(&m_surface->Search(), &SearchPage::StateChanged, this, &Workbench::EnableActions);
-    connect(&m_surface->List(), &OrderListView::PictureDropped, this,
-            [this](const QString& picture, std::size_t before) {
-                if (const auto item = ItemFromPicture(picture.toStdString())) {
-                    m_editor.InsertRow(Order::Of(*item), before);
-                }
-            });
+    connect(&m_surface->List(), &OrderListView::PictureDropped, this, &Workbench::InsertPicture);
+    StartPage& start = m_surface->Start();
+    connect(&start, &StartPage::PictureDropped, this,
+            [this](const QString& picture) { InsertPicture(picture, 0); });
+    connect(&start, &StartPage::OpenWanted, this, &Workbench::Open);
+    connect(&start, &StartPage::FileChosen, this,
+            [this](const std::filesystem::path& file) { m_document.LoadBauliste(file, false); });
+    connect(&start, &StartPage::OpeningChosen, this,
+            [this](const std::filesystem::path& file) { m_document.LoadAsNew(file); });
     connect(&m_surface->Palette(), &ItemPalette::ItemChosen, this,
             [this](ItemId item) { InsertRow(Order::Of(item)); });
     connect(&m_surface->Palette(), &ItemPalette::ProductionChosen, this,
@@ -444,6 +447,12 @@ void Workbench::Tick() {
 
 void Workbench::InsertRow(const Order& order) {
     m_editor.InsertRow(order, m_surface->List().InsertPosition());
+}
+
+void Workbench::InsertPicture(const QString& picture, std::size_t before) {
+    if (const auto item = ItemFromPicture(picture.toStdString())) {
+        m_editor.InsertRow(Order::Of(*item), before);
+    }
 }
 
 void Workbench::Open() {

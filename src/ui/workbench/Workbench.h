@@ -66,6 +66,7 @@ class Workbench : public QMainWindow {
     /// How many days later the plan starts than when its nights were entered.
     [[nodiscard]] int DaysMoved() const;
     void InsertRow(const Order& order);
+    void InsertPicture(const QString& picture, std::size_t before);
 
     // What the actions do.
     void New() { m_document.New(); }

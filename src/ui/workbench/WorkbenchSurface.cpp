@@ -27,6 +27,8 @@ WorkbenchSurface::WorkbenchSurface(Document& document, const Environment& enviro
       m_sleepPage(new SleepPage(document, this)),
       m_planetPage(new PlanetPage(document, this)),
       m_timeline(new TimelineView(this)),
+      m_startPage(new StartPage(document, environment.programFolder / "openings", this)),
+      m_stack(new QStackedWidget(this)),
       m_statusLabel(NewLabel(QStringLiteral("LBL_Stand"), {}, this)) {
     Arrange();
     ConnectSignals();
@@ -64,11 +66,19 @@ void WorkbenchSurface::Arrange() {
     splitter->setStretchFactor(0, 2);
     splitter->setStretchFactor(1, 3);
 
+    auto* const plan = new QWidget(m_stack);
+    auto* const planLayout = new QVBoxLayout(plan);
+    planLayout->setContentsMargins({});
+    planLayout->setSpacing(0);
+    planLayout->addWidget(splitter, 1);
+    planLayout->addWidget(m_statusLabel);
+    m_stack->addWidget(plan);
+    m_stack->addWidget(m_startPage);
+
     auto* const left = new QVBoxLayout;
     left->setSpacing(0);
     left->addWidget(m_strip);
-    left->addWidget(splitter, 1);
-    left->addWidget(m_statusLabel);
+    left->addWidget(m_stack, 1);
 
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
@@ -130,12 +140,16 @@ void WorkbenchSurface::SetPictures(const PerItem<QPixmap>& pictures) {
     m_searchPage->SetPictures(pictures);
     m_timeline->SetPictures(pictures);
     m_strip->SetPictures(pictures);
+    m_startPage->SetPictures(pictures);
 }
 
 void WorkbenchSurface::ShowPlan(const std::vector<std::size_t>& chosen,
                                 std::optional<std::size_t> insertBefore) {
     const auto& trace = m_document.Trace();
     emit Notice(trace ? MessagesText(*trace) : m_document.Obstacle());
+    const bool isEmpty = m_document.CurrentPlan().LV_Bauliste.Orders().IsEmpty();
+    m_startPage->Refresh();
+    m_stack->setCurrentIndex(isEmpty ? 1 : 0);
     m_list->Refresh(chosen, insertBefore);
     m_sleepPage->Refresh();
     m_timeline->SetRun(trace);

@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QScrollArea>
+#include <QStackedWidget>
 #include <QTabWidget>
 #include <optional>
 #include <string>
@@ -17,6 +18,7 @@
 #include "ui/workbench/PlanetPage.h"
 #include "ui/workbench/SearchPage.h"
 #include "ui/workbench/SleepPage.h"
+#include "ui/workbench/StartPage.h"
 #include "ui/workbench/TimelineView.h"
 
 namespace tarvelin {
@@ -46,6 +48,7 @@ class WorkbenchSurface : public QWidget {
     [[nodiscard]] ItemPalette& Palette() const { return *m_palette; }
     [[nodiscard]] SearchPage& Search() const { return *m_searchPage; }
     [[nodiscard]] SleepPage& Sleep() const { return *m_sleepPage; }
+    [[nodiscard]] StartPage& Start() const { return *m_startPage; }
     [[nodiscard]] TimelineView& Timeline() const { return *m_timeline; }
     /// Brings a page to the front, with the focus in it.
     void ShowPage(int index);
@@ -75,6 +78,9 @@ class WorkbenchSurface : public QWidget {
     SleepPage* m_sleepPage;
     PlanetPage* m_planetPage;
     TimelineView* m_timeline;
+    StartPage* m_startPage;
+    /// The list and the timeline, or how to begin.
+    QStackedWidget* m_stack;
     QLabel* m_statusLabel;
     std::vector<QScrollArea*> m_scrollAreas;
 };
