@@ -83,8 +83,9 @@ FindPanel::FindPanel(QWidget* parent)
     details->addWidget(m_fewer);
     details->addWidget(m_more);
     AddRates(*details);
-    AddTable(*details);
+    // In sight even where the table isn't.
     AddButtons(*details);
+    AddTable(*details);
     m_details->hide();
 }
 

@@ -12,8 +12,8 @@
 
 #include "model/ItemTable.h"
 #include "ui/widgets/Controls.h"
-#include "ui/workbench/ItemGroups.h"
 #include "ui/workbench/PageParts.h"
+#include "ui/workbench/PaletteGroups.h"
 #include "ui/workbench/TypeSizes.h"
 #include "ui/workbench/WorkbenchColors.h"
 
@@ -151,11 +151,11 @@ GoalPicker::GoalPicker(QWidget* parent)
 
 void GoalPicker::AddPictures(QGridLayout& grid) {
     int column = 0;
-    for (std::size_t group = 0; group < ItemGroups().size(); ++group) {
+    for (std::size_t group = 0; group < PaletteGroups().size(); ++group) {
         auto* const caption =
             new TypeLabel(QString::fromUtf8(kCaptions.at(group)), TypeSize::Caption, false, this);
         caption->setForegroundRole(QPalette::PlaceholderText);
-        const auto& items = ItemGroups()[group].items;
+        const auto& items = PaletteGroups()[group].items;
         const int perRow = (static_cast<int>(items.size()) + kRows - 1) / kRows;
         grid.addWidget(caption, 0, column, 1, perRow);
         int index = 0;

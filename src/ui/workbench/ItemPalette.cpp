@@ -11,8 +11,8 @@
 #include "ui/widgets/Controls.h"
 #include "ui/widgets/ItemDisplay.h"
 #include "ui/workbench/Icons.h"
-#include "ui/workbench/ItemGroups.h"
 #include "ui/workbench/PageParts.h"
+#include "ui/workbench/PaletteGroups.h"
 #include "ui/workbench/PalettePicture.h"
 #include "ui/workbench/WaitLook.h"
 #include "util/NumberText.h"
@@ -99,7 +99,7 @@ ItemPalette::ItemPalette(QWidget* parent)
 }
 
 void ItemPalette::AddPictures(QVBoxLayout& layout) {
-    for (const ItemGroup& group : ItemGroups()) {
+    for (const PaletteGroup& group : PaletteGroups()) {
         layout.addSpacing(kControlGap);
         layout.addWidget(NewSection(QString::fromUtf8(group.caption), this));
         auto* const grid = new QGridLayout;

@@ -8,12 +8,12 @@
 
 namespace tarvelin {
 
-struct ItemGroup {
+struct PaletteGroup {
     const char* caption;
     std::span<const ItemId> items;
 };
 
-[[nodiscard]] const std::array<ItemGroup, 4>& ItemGroups();
+[[nodiscard]] const std::array<PaletteGroup, 4>& PaletteGroups();
 
 /// The two lines, with a line feed between them.
 [[nodiscard]] const char* TwoLineName(ItemId item);

@@ -1,5 +1,5 @@
 // The tables of groups and names.
-#include "ui/workbench/ItemGroups.h"
+#include "ui/workbench/PaletteGroups.h"
 
 namespace tarvelin {
 
@@ -12,10 +12,10 @@ constexpr std::array kResearch{ENTech, VerbTech, LaserTech, SpioTech, SchTech};
 constexpr std::array kShips{Solsats, LJs, KTs, Spios};
 constexpr std::array kDefences{Rakws, lLasers, sLasers, klSchK};
 
-constexpr std::array<ItemGroup, 4> kGroups{{{"Gebäude", kBuildings},
-                                            {"Forschung", kResearch},
-                                            {"Raumschiffe", kShips},
-                                            {"Verteidigung", kDefences}}};
+constexpr std::array<PaletteGroup, 4> kGroups{{{"Gebäude", kBuildings},
+                                               {"Forschung", kResearch},
+                                               {"Raumschiffe", kShips},
+                                               {"Verteidigung", kDefences}}};
 static_assert(kBuildings.size() + kResearch.size() + kShips.size() + kDefences.size() == kNumItems);
 
 struct NameRow {
@@ -52,7 +52,7 @@ static_assert(CoversEveryItem(kNames));
 
 }  // namespace
 
-const std::array<ItemGroup, 4>& ItemGroups() {
+const std::array<PaletteGroup, 4>& PaletteGroups() {
     return kGroups;
 }
 
