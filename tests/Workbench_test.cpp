@@ -1,9 +1,13 @@
 // Tests the workbench: edits, agreement with the main window, timeline, pages, exports.
+#include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDateTimeEdit>
 #include <QImage>
+#include <QMenu>
 #include <QMimeData>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QSpinBox>
 #include <random>
 
@@ -186,6 +190,133 @@ TEST_F(WorkbenchWindow, RunsAfterEachEditInBothWindows) {
     EXPECT_NE(Message().find("\nNegative Ressourcen"), std::string::npos);
 }
 
+TEST_F(WorkbenchWindow, KnowsItsFile) {
+    EXPECT_EQ(m_workbench->windowTitle(), QStringLiteral("Unbenannt[*] – Tarvelin Werkbank"));
+    Click("ImgMetMine");
+    EXPECT_TRUE(m_workbench->isWindowModified());
+    m_dialogs.file = "a[*].tvf";
+    Key(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_FALSE(m_workbench->isWindowModified());
+    EXPECT_EQ(m_workbench->windowTitle(), QStringLiteral("a[*][*].tvf[*] – Tarvelin Werkbank"));
+    // From now on nobody is asked, except by the other key.
+    m_dialogs.file = "b.tvf";
+    Click("ImgSKW");
+    EXPECT_TRUE(m_workbench->isWindowModified());
+    Key(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_NE(ReadFileToString(m_folder / "saves" / "a[*].tvf").find("GS"), std::string::npos);
+    EXPECT_FALSE(std::filesystem::exists(m_folder / "saves" / "b.tvf"));
+    Key(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(std::filesystem::exists(m_folder / "saves" / "b.tvf"));
+    Key(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(Tags(), "");
+    EXPECT_FALSE(m_document.File());
+    Key(Qt::Key_O, Qt::ControlModifier);
+    EXPECT_EQ(Tags(), "GM GS");
+    auto& recent = Page<QMenu>("Zuletzt");
+    emit recent.aboutToShow();
+    ASSERT_EQ(recent.actions().size(), 2);
+    EXPECT_EQ(recent.actions()[0]->text(), QStringLiteral("b.tvf"));
+    recent.actions()[1]->trigger();
+    EXPECT_EQ(m_document.File()->filename(), "a[*].tvf");
+    Click("Cmd_Schliessen");
+    m_window.close();
+    EXPECT_NE(ReadFileToString(m_folder / "config.cfg").find("a[*].tvf"), std::string::npos);
+}
+
+TEST_F(WorkbenchWindow, ShowsWhereRowsGoAndWhichIsRefused) {
+    Load("GS GM GD GR GR GW");
+    ChooseRows({1});
+    Click("ImgKrisMine");
+    Click("ImgMetMine");
+    EXPECT_EQ(Tags(), "GS GK GM GM GD GR GR GW") << "one behind the other";
+    EXPECT_EQ(ChosenRows(), (std::vector<std::size_t>{2})) << "the new one";
+    EXPECT_EQ(Says("LBL_Einfuegeort"), "Ein Klick fügt vor <b>Zeile 4</b> ein, Ziehen irgendwo");
+    MoveMouse(Page("ImgMetMine"), {1, 1});
+    QEnterEvent enter({1, 1}, {1, 1}, {1, 1});
+    QCoreApplication::sendEvent(&Page("ImgMetMine"), &enter);
+    EXPECT_EQ(Says("LBL_Palettenbild"),
+              "<b>Metallmine 2</b>: 90 Metall, 22 Kristall, 00:02:41<br>braucht 13 Energie mehr");
+    const auto& list = Page<OrderListView>("LV_Werkbank");
+    const auto& delegate = dynamic_cast<const OrderDelegate&>(*list.itemDelegate());
+    ChooseRows({5});
+    Key(Qt::Key_Delete);
+    EXPECT_EQ(delegate.Marks().refused, 7U);
+    EXPECT_EQ(Says("LBL_Meldungstitel"), "Nicht gelöscht.");
+    EXPECT_EQ(delegate.Marks().next, 0U);
+    ChooseRows({2});
+    Key(Qt::Key_Delete);
+    EXPECT_FALSE(delegate.Marks().refused);
+    // Hidden columns outlast the session.
+    Page<OrderListView>("LV_Werkbank").SetHiddenColumns({OrderColumn::Metall, OrderColumn::Wait});
+    EXPECT_TRUE(list.header()->isSectionHidden(static_cast<int>(OrderColumn::Wait)));
+    m_window.close();
+    const std::string config = ReadFileToString(m_folder / "config.cfg");
+    EXPECT_NE(config.find("Ausgeblendet=Metall,Wartete auf"), std::string::npos) << config;
+}
+
+TEST_F(WorkbenchWindow, EntersNightsByRule) {
+    Plan plan = PlanOf("GS GM GM GM GM");
+    plan.parameters.UniStartZeitStunden = "18";
+    Load(plan);
+    EXPECT_EQ(Says("LBL_Meldungstitel"), "") << "without any night nothing is asked";
+    Click("Chk_AlleNaechte");
+    Page<QTimeEdit>("Zeit_Von_6").setTime(QTime(1, 0));
+    EXPECT_FALSE(Page<QCheckBox>("Chk_AlleNaechte").isChecked());
+    EXPECT_TRUE(Says("LBL_Schlafwirkung").starts_with("2 Nächte: 2 kommen dazu."))
+        << Says("LBL_Schlafwirkung");
+    Click("Cmd_NaechteEintragen");
+    EXPECT_EQ(Texts("LV_Naechte"),
+              "So 19.11. 01:00|So 19.11. 07:00|06:00||So 19.11. 23:00|Mo 20.11. 07:00|08:00||");
+    EXPECT_FALSE(Page("Cmd_NaechteEintragen").isEnabled());
+    // One night, and the plan goes on behind it.
+    Page<QTreeView>("LV_Naechte")
+        .setCurrentIndex(Page<QTreeView>("LV_Naechte").model()->index(1, 0));
+    Click("Cmd_SchlafzeileWeg");
+    std::vector<Order> longer(40, Order::Of(ItemId::MetMine));
+    m_document.Edit(longer);
+    EXPECT_EQ(Says("LBL_Meldungstitel"), "Ab Mo 20.11. 01:00 ohne Schlaf:");
+    const std::size_t before = m_document.CurrentPlan().LV_Schlafzeiten.size();
+    Click("Cmd_Hinweis");
+    EXPECT_GT(m_document.CurrentPlan().LV_Schlafzeiten.size(), before + 3);
+    EXPECT_EQ(Says("LBL_Meldungstitel"), "");
+    UndoEdit();
+    EXPECT_EQ(m_document.CurrentPlan().LV_Schlafzeiten.size(), before);
+    // The start moves, and offers to take the nights along.
+    UndoEdit();
+    auto& start = Page<QDateTimeEdit>("Planet_Start");
+    start.setDateTime(start.dateTime().addDays(7));
+    EXPECT_EQ(TextOf("txt_UniStartZeitTag"), "25");
+    EXPECT_EQ(Says("LBL_Meldungstitel"), "Der Start liegt 7 Tage später.");
+    Click("Cmd_Hinweis");
+    EXPECT_EQ(Cell("LV_Schlafzeiten", 0, 0), "26.11.2006 01:00");
+    EXPECT_EQ(Says("LBL_Meldungstitel"), "");
+    // What the classic window sets, the page shows.
+    Type("txt_TempMax", "40");
+    EXPECT_EQ(Page<QLineEdit>("Planet_TempMin").text(), QStringLiteral("0"));
+}
+
+TEST_F(WorkbenchWindow, BeginsWithAnOpening) {
+    QWidget& list = Page("LV_Werkbank");
+    EXPECT_FALSE(list.isVisible());
+    for (auto* const button : m_workbench->findChildren<QPushButton*>()) {
+        if (button->text() == QStringLiteral("Öffnen")) {
+            button->click();
+            break;
+        }
+    }
+    EXPECT_TRUE(list.isVisible());
+    EXPECT_EQ(Says("LBL_Dauer"), "4 Tage 04:40:16");
+    EXPECT_FALSE(m_document.File());
+    Key(Qt::Key_F1);
+    QWidget& guide = OnlyWindow("frmAnleitung");
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&guide));
+    guide.close();
+    m_workbench->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(m_workbench));
+    UndoEdit();
+    EXPECT_FALSE(list.isVisible());
+}
+
 using Monkey = WorkbenchWindow;
 
 // Clicks, types, drops and edits at random. Nothing may crash, and both windows show the plan.
@@ -357,12 +488,13 @@ TEST_F(WorkbenchWindow, SearchesAndAcceptsAsOneStep) {
         Page<QSpinBox>("Spin_Versuche").setValue(tries);
         Click("Cmd_Suchen");
     };
+    constexpr int kLong = 300'000;
     const auto wait = [this] {
-        constexpr int kLong = 300'000;
         ASSERT_TRUE(QTest::qWaitFor([this] { return Page("Cmd_Suchen").isEnabled(); }, kLong));
     };
     const auto waitForAFind = [this] {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return Says("LBL_Suche").starts_with("Bisher 3"); }));
+        ASSERT_TRUE(
+            QTest::qWaitFor([this] { return Says("LBL_Suche").starts_with("Bisher 3"); }, kLong));
     };
     // Pinned rows and started orders stay; undo also removes the pause that the search added.
     ChooseRows({40});
@@ -424,6 +556,9 @@ TEST_F(WorkbenchWindow, ComparesWithARememberedRunAndWithFiles) {
     EXPECT_EQ(Texts("LV_Unterschiede"),
               "Kristallmine 1|fehlt|00:02:47||Metallmine 1|00:02:47|00:04:42|+00:01:55|"
               "Metallmine 2|00:04:46|00:06:41|+00:01:55|");
+    auto& differences = Page<QTreeView>("LV_Unterschiede");
+    emit differences.clicked(differences.model()->index(1, 0));
+    EXPECT_EQ(ChosenRows(), (std::vector<std::size_t>{2}));
     // A plan with another start date: both runs are measured from their own start.
     Plan other = PlanOf("GM GM");
     other.parameters.UniStartZeitTag = "1";

@@ -96,7 +96,6 @@ Workbench::Workbench(Document& document, std::function<std::string()> leadTime,
       m_surface(new WorkbenchSurface(document, environment, this)),
       m_status(new WorkbenchStatusBar(this)),
       m_toolBar(addToolBar(QStringLiteral("Werkzeuge"))),
-      m_guide(new HelpWindow(this)),
       m_editor(document, m_surface->List()) {
     setObjectName(QStringLiteral("frmWerkbank"));
     setWindowIcon(LoadIconFile(environment.programFolder / "img" / "icon.ico"));
@@ -268,7 +267,9 @@ void Workbench::FollowDesktop() {
     m_toolBar->setIconSize(QSize(kIconSide, kIconSide));
     m_surface->FollowDesktop(colors);
     m_status->FollowAppearance();
-    m_guide->SetAppearance(colors.Palette(), font());
+    if (m_guide != nullptr) {
+        m_guide->SetAppearance(colors.Palette(), font());
+    }
 }
 
 bool Workbench::event(QEvent* event) {
@@ -289,7 +290,9 @@ void Workbench::hideEvent(QHideEvent* event) {
     // Not when the window is minimized.
     if (!event->spontaneous()) {
         m_timer.SetRunning(false);
-        m_guide->hide();
+        if (m_guide != nullptr) {
+            m_guide->hide();
+        }
         m_surface->Search().StopSearch();
     }
     QMainWindow::hideEvent(event);
@@ -484,6 +487,10 @@ void Workbench::SaveTo(const std::filesystem::path& file) {
 }
 
 void Workbench::OpenGuide() {
+    if (m_guide == nullptr) {
+        m_guide = new HelpWindow(this);
+        m_guide->SetAppearance(palette(), font());
+    }
     const QWidget* const focused = focusWidget();
     m_guide->OpenAt(HelpTopicFor(focused != nullptr ? focused : m_surface->CurrentPage()));
 }

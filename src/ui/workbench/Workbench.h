@@ -97,7 +97,8 @@ class Workbench : public QMainWindow {
     WorkbenchSurface* m_surface;
     WorkbenchStatusBar* m_status;
     QToolBar* m_toolBar;
-    HelpWindow* m_guide;
+    /// Created at first use.
+    HelpWindow* m_guide = nullptr;
     RowEditor m_editor;
     /// One for each row of the table.
     std::vector<QAction*> m_actions;
