@@ -8,7 +8,7 @@
 
 #include "ui/widgets/Controls.h"
 #include "ui/widgets/ItemPicture.h"
-#include "ui/workbench/StartTexts.h"
+#include "ui/workbench/PageParts.h"
 #include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
@@ -29,14 +29,14 @@ DropZone::DropZone(QWidget* parent)
     setObjectName(QStringLiteral("Ablage"));
     setAccessibleName(QStringLiteral("Zieh ein Bild hierher"));
     setAcceptDrops(true);
-    auto* const plus = NewStartText(QStringLiteral("+"), TextSize::Title, this);
+    auto* const plus = NewTypeLabel(QStringLiteral("+"), TypeSize::Figure, true, this);
     plus->setForegroundRole(QPalette::Link);
     auto* const what =
-        NewStartText(QStringLiteral("Zieh ein Bild hierher"), TextSize::Heading, this);
-    auto* const how = NewStartText(
+        NewTypeLabel(QStringLiteral("Zieh ein Bild hierher"), TypeSize::Heading, true, this);
+    auto* const how = NewTypeLabel(
         QStringLiteral("oder klick rechts auf eines. Metallmine und Solarkraftwerk sind ein guter "
                        "Anfang; ein Schloss heißt: geht noch nicht."),
-        TextSize::Usual, this);
+        TypeSize::Usual, false, this);
     auto* const texts = new QVBoxLayout;
     texts->setSpacing(kSpacing);
     texts->addStretch(1);

@@ -10,8 +10,8 @@
 #include "simulation/Comparison.h"
 #include "simulation/RunTexts.h"
 #include "ui/widgets/Controls.h"
+#include "ui/workbench/PageParts.h"
 #include "ui/workbench/RunMiniature.h"
-#include "ui/workbench/StartTexts.h"
 #include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
@@ -37,11 +37,6 @@ class OpeningCard::Highlights final : public QWidget {
             const ItemId item = opening.highlights[i];
             m_items[i] = {item, {}, QString::number(end.GetStufe(item))};
         }
-        constexpr qreal kCaption = 8;
-        QFont caption;
-        caption.setPointSizeF(kCaption);
-        caption.setBold(true);
-        setFont(caption);
         const auto count = static_cast<int>(m_items.size());
         setFixedSize(count * kPicture + (count - 1) * kPictureGap + 2, kPicture + 2);
     }
@@ -58,12 +53,14 @@ class OpeningCard::Highlights final : public QWidget {
         const WorkbenchColors colors = ColorsFor(palette());
         QPainter painter(this);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.setFont(TypeFont(font(), TypeSize::Caption, true));
+        const QFontMetrics metrics = painter.fontMetrics();
         int x = 0;
         for (const Highlight& highlight : m_items) {
             painter.drawPixmap(QRect(x, 0, kPicture, kPicture), highlight.picture);
-            const int width = fontMetrics().horizontalAdvance(highlight.number) + kPictureGap;
-            const QRect badge(x + kPicture + 2 - width, kPicture + 2 - fontMetrics().height(),
-                              width, fontMetrics().height());
+            const int width = metrics.horizontalAdvance(highlight.number) + kPictureGap;
+            const QRect badge(x + kPicture + 2 - width, kPicture + 2 - metrics.height(), width,
+                              metrics.height());
             painter.fillRect(badge, colors[Color::Badge]);
             painter.setPen(colors[Color::BadgeText]);
             painter.drawText(badge, Qt::AlignCenter, highlight.number);
@@ -140,16 +137,15 @@ OpeningCard::OpeningCard(const Opening& opening, const RunTrace& trace, Long sec
 
 void OpeningCard::Arrange(const Opening& opening, const RunTrace& trace, Long seconds) {
     const RunSummary summary = RunSummary::Of(trace);
-    auto* const description = NewStartText(ToQString(opening.description), TextSize::Usual, this);
+    auto* const description =
+        NewTypeLabel(ToQString(opening.description), TypeSize::Usual, false, this);
     description->setAlignment(Qt::AlignTop);
-    // Two lines, so that cards beside each other have their figures at one height.
-    description->setMinimumHeight(2 * description->fontMetrics().height());
     auto* const duration =
-        NewStartText(ToQString(TimeSpanText(summary.duration)), TextSize::Bold, this);
+        NewTypeLabel(ToQString(TimeSpanText(summary.duration)), TypeSize::Usual, true, this);
     duration->setWordWrap(false);
-    auto* const counts = NewStartText(
+    auto* const counts = NewTypeLabel(
         QStringLiteral("%1 Zeilen   %2 Sitzungen").arg(trace.starts.size()).arg(summary.sittings),
-        TextSize::Usual, this);
+        TypeSize::Usual, false, this);
     counts->setForegroundRole(QPalette::PlaceholderText);
     auto* const figures = new QHBoxLayout;
     figures->setSpacing(kMargin);
@@ -161,14 +157,16 @@ void OpeningCard::Arrange(const Opening& opening, const RunTrace& trace, Long se
     layout->setVerticalSpacing(kSpacing);
     auto* const texts = new QVBoxLayout;
     texts->setSpacing(kSpacing / 2);
-    texts->addWidget(NewStartText(ToQString(opening.title), TextSize::Bold, this));
-    texts->addWidget(description);
+    texts->addWidget(NewTypeLabel(ToQString(opening.title), TypeSize::Usual, true, this));
+    texts->addWidget(description, 1);
     layout->addLayout(texts, 0, 0);
     layout->addWidget(m_highlights, 0, 1, 1, 2, Qt::AlignRight | Qt::AlignTop);
     layout->addLayout(figures, 1, 0, 1, 3);
     layout->addWidget(new RunMiniature(trace, seconds, this), 2, 0, 1, 2);
     layout->addWidget(m_button, 2, 2);
     layout->setColumnStretch(0, 1);
+    // Cards beside each other have their figures at one height.
+    layout->setRowStretch(0, 1);
 }
 
 void OpeningCard::SetPictures(const PerItem<QPixmap>& pictures) {

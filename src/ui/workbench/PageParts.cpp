@@ -41,6 +41,13 @@ void MainButton::FollowAppearance() {
     }
 }
 
+TypeLabel* NewTypeLabel(const QString& text, TypeSize size, bool bold, QWidget* parent) {
+    auto* const label = new TypeLabel(text, size, bold, parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
 QDateTime ToQDateTime(DateTime time) {
     return QDateTime::fromString(ToQString(DateTimeText(time)),
                                  QStringLiteral("dd.MM.yyyy hh:mm:ss"));

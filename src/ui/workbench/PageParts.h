@@ -35,6 +35,10 @@ class TypeLabel : public QLabel {
     bool m_bold;
 };
 
+/// One that wraps.
+[[nodiscard]] TypeLabel* NewTypeLabel(const QString& text, TypeSize size, bool bold,
+                                      QWidget* parent);
+
 /// A weak text of several lines.
 [[nodiscard]] QLabel* NewHint(const QString& text, QWidget* parent);
 

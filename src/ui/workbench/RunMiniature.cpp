@@ -7,6 +7,7 @@
 
 #include "model/ItemTable.h"
 #include "ui/widgets/Controls.h"
+#include "ui/workbench/TypeSizes.h"
 #include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
@@ -26,15 +27,12 @@ constexpr Long kDay = 24 * 60 * 60;
 
 RunMiniature::RunMiniature(RunTrace trace, Long seconds, QWidget* parent)
     : QWidget(parent), m_trace(std::move(trace)), m_seconds(std::max<Long>(seconds, 1)) {
-    constexpr qreal kCaption = 8;
-    QFont caption;
-    caption.setPointSizeF(kCaption);
-    setFont(caption);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
 QSize RunMiniature::sizeHint() const {
-    return {kWidth, std::max(kLowest, fontMetrics().height() + kLanes * kLane + kGap)};
+    const QFontMetrics metrics(TypeFont(font(), TypeSize::Caption));
+    return {kWidth, std::max(kLowest, metrics.height() + kLanes * kLane + kGap)};
 }
 
 qreal RunMiniature::X(Long seconds) const {
@@ -44,6 +42,7 @@ qreal RunMiniature::X(Long seconds) const {
 void RunMiniature::paintEvent(QPaintEvent* /*event*/) {
     const WorkbenchColors colors = ColorsFor(palette());
     QPainter painter(this);
+    painter.setFont(TypeFont(font(), TypeSize::Caption));
     painter.fillRect(rect(), colors[Color::Lane]);
     PaintNights(painter);
     PaintDays(painter);
@@ -71,7 +70,8 @@ void RunMiniature::PaintDays(QPainter& painter) const {
         const qreal x = X(day - begin);
         painter.fillRect(QRectF(x, 0, 1, height()), colors[Color::LineStrong]);
         painter.setPen(colors[Color::Weak]);
-        painter.drawText(QPointF(x + kGap, fontMetrics().ascent()), ToQString(WeekdayShort(day)));
+        painter.drawText(QPointF(x + kGap, painter.fontMetrics().ascent()),
+                         ToQString(WeekdayShort(day)));
     }
 }
 

@@ -1,6 +1,7 @@
 // Layout of the start page, its cards and links.
 #include "ui/workbench/StartPage.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -10,7 +11,7 @@
 #include "ui/widgets/Controls.h"
 #include "ui/workbench/DropZone.h"
 #include "ui/workbench/OpeningCard.h"
-#include "ui/workbench/StartTexts.h"
+#include "ui/workbench/PageParts.h"
 #include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
@@ -21,7 +22,6 @@ namespace {
 constexpr int kMargin = 24;
 constexpr int kCardGap = 12;
 constexpr int kSpacing = 4;
-constexpr int kSectionGap = 16;
 /// From here on there are two cards side by side.
 constexpr int kTwoColumns = 700;
 
@@ -47,14 +47,9 @@ class LinkButton final : public QPushButton {
 
   protected:
     void paintEvent(QPaintEvent* /*event*/) override {
-        const QColor accent = ColorsFor(palette())[Color::Accent];
         QPainter painter(this);
-        painter.setPen(accent);
+        painter.setPen(ColorsFor(palette())[Color::Accent]);
         painter.drawText(rect(), Qt::AlignCenter, text());
-        if (hasFocus()) {
-            painter.setPen(QPen(accent, 2));
-            painter.drawRect(rect().adjusted(1, 1, -1, -1));
-        }
     }
 };
 
@@ -74,35 +69,35 @@ StartPage::StartPage(const Document& document, const std::filesystem::path& open
     connect(m_dropZone, &DropZone::Dropped, this, &StartPage::PictureDropped);
     AddCards(openings);
     Arrange();
-    Refresh();
+    FollowFont();
 }
 
 void StartPage::Arrange() {
     auto* const content = new QWidget;
     content->setBackgroundRole(QPalette::Base);
-    auto* const explanation = NewStartText(
+    auto* const explanation = NewTypeLabel(
         QStringLiteral("Du legst fest, was du baust und in welcher Reihenfolge. Tarvelin rechnet "
                        "aus, wann jeder Auftrag geht, und warum nicht früher."),
-        TextSize::Usual, content);
+        TypeSize::Usual, false, content);
     explanation->setForegroundRole(QPalette::PlaceholderText);
     auto* const layout = new QVBoxLayout(content);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     layout->setSpacing(kSpacing);
     layout->addWidget(
-        NewStartText(QStringLiteral("Noch ist der Plan leer"), TextSize::Title, content));
+        NewTypeLabel(QStringLiteral("Noch ist der Plan leer"), TypeSize::Figure, true, content));
     layout->addWidget(explanation);
     layout->addSpacing(kSpacing);
     layout->addWidget(m_dropZone);
     layout->addSpacing(kSectionGap);
-    layout->addWidget(NewStartText(QStringLiteral("Oder fang mit einer Eröffnung an"),
-                                   TextSize::Heading, content));
+    layout->addWidget(NewTypeLabel(QStringLiteral("Oder fang mit einer Eröffnung an"),
+                                   TypeSize::Heading, true, content));
     layout->addSpacing(kSpacing);
     layout->addLayout(m_cardLayout);
     layout->addSpacing(kSectionGap - kSpacing);
     layout->addLayout(m_linkLayout);
     layout->addStretch(1);
     m_cardLayout->setSpacing(kCardGap);
-    auto* const recent = NewStartText(QStringLiteral("Zuletzt"), TextSize::Bold, content);
+    auto* const recent = NewTypeLabel(QStringLiteral("Zuletzt"), TypeSize::Usual, true, content);
     recent->setWordWrap(false);
     m_linkLayout->setSpacing(2 * kSpacing);
     m_linkLayout->addWidget(recent);
@@ -187,6 +182,21 @@ void StartPage::Refresh() {
 void StartPage::resizeEvent(QResizeEvent* event) {
     QScrollArea::resizeEvent(event);
     PlaceCards(viewport()->width() < kTwoColumns ? 1 : 2);
+}
+
+void StartPage::changeEvent(QEvent* event) {
+    QScrollArea::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        FollowFont();
+    }
+}
+
+void StartPage::FollowFont() {
+    for (TypeLabel* const label : findChildren<TypeLabel*>()) {
+        label->FollowFont(font());
+    }
+    // Their widths depend on it.
+    Refresh();
 }
 
 }  // namespace tarvelin

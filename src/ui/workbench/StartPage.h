@@ -38,11 +38,13 @@ class StartPage : public QScrollArea {
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     void Arrange();
     void AddCards(const std::filesystem::path& openings);
     void PlaceCards(int columns);
+    void FollowFont();
 
     const Document& m_document;
     DropZone* m_dropZone;
