@@ -1,9 +1,7 @@
-// Texts for the result of a search.
+// Counts what two lists differ by.
 #include "search/SearchTexts.h"
 
 #include "model/ItemTable.h"
-#include "simulation/RunTexts.h"
-#include "simulation/RunTrace.h"
 
 namespace tarvelin {
 
@@ -20,25 +18,6 @@ std::string Joined(const OrderList& more, const OrderList& fewer, const char* be
         }
     }
     return all;
-}
-
-std::string SolutionText(const Solution& solution) {
-    return TimeSpanText(solution.score.duration) + ", " +
-           CountText(static_cast<std::size_t>(solution.score.sittings), "Sitzung", "Sitzungen") +
-           ", " + CountText(solution.orders.size(), "Zeile", "Zeilen");
-}
-
-OrderList ListFrom(const std::vector<Order>& orders) {
-    OrderList list;
-    for (const Order& order : orders) {
-        list.Append(order);
-    }
-    return list;
-}
-
-/// The rates at the end of a run; empty without orders.
-std::string RatesLine(const char* name, const OrderList& list, const RunConditions& conditions) {
-    return list.IsEmpty() ? "" : name + RatesText(TraceRun(list.All(), conditions).end);
 }
 
 }  // namespace
@@ -66,38 +45,6 @@ std::string RatesText(const GameState& state) {
                 std::to_string(state.ProStunde[resource].WholePart());
     }
     return text;
-}
-
-std::string ProgressSummary(const SearchProgress& progress) {
-    return "Bisher: " + TimeSpanText(progress.bestDuration) + " (" +
-           SignedTimeSpanText(-progress.gain) + ")\n" + std::to_string(progress.tries) + " von " +
-           std::to_string(progress.totalTries) + " Versuchen, " +
-           std::to_string(std::int64_t(progress.triesPerSecond)) + " in der Sekunde";
-}
-
-std::string ResultSummary(const Plan& plan, const PlanTask& task, const SearchResult& result) {
-    if (!result.best) {
-        return "Es wurde keine Liste gefunden, die endet.";
-    }
-    const Solution& after = *result.best;
-    std::string text =
-        "Vorher: " +
-        (task.before ? SolutionText(*task.before) : "der Plan endet nie oder verfehlt das Ziel") +
-        "\nNachher: " + SolutionText(after);
-    if (task.before) {
-        text += "\nUnterschied: " +
-                SignedTimeSpanText(after.score.duration - task.before->score.duration);
-    }
-    const OrderList& oldOrders = plan.LV_Bauliste.Orders();
-    const OrderList newOrders = ListFrom(after.orders);
-    for (const auto& [name, surplus] :
-         {std::pair("\nKommt dazu: ", SurplusInWords(newOrders, oldOrders)),
-          std::pair("\nEntfällt: ", SurplusInWords(oldOrders, newOrders))}) {
-        text += surplus.empty() ? "" : name + surplus;
-    }
-    return text + RatesLine("\nJe Stunde vorher: ", oldOrders, task.task.conditions) +
-           RatesLine("\nJe Stunde nachher: ", newOrders, task.task.conditions) +
-           "\nVersuche: " + std::to_string(result.tries);
 }
 
 }  // namespace tarvelin

@@ -1,4 +1,4 @@
-// Texts for the result of a search.
+// Texts for the orders, rates and numbers of a plan or a find.
 #pragma once
 
 #include <cstddef>
@@ -6,7 +6,6 @@
 
 #include "model/GameState.h"
 #include "plan/OrderList.h"
-#include "search/PlanTask.h"
 
 namespace tarvelin {
 
@@ -21,13 +20,5 @@ namespace tarvelin {
 
 /// "Metall 120, Kristall 60, Deuterium 20", in whole units per hour.
 [[nodiscard]] std::string RatesText(const GameState& state);
-
-/// The best duration so far and the speed, in two lines.
-[[nodiscard]] std::string ProgressSummary(const SearchProgress& progress);
-
-/// `plan`, for which the task was made, beside the solution: durations, orders that come and go,
-/// rates at the end; a line each.
-[[nodiscard]] std::string ResultSummary(const Plan& plan, const PlanTask& task,
-                                        const SearchResult& result);
 
 }  // namespace tarvelin

@@ -74,6 +74,11 @@ void GoalPicture::ShowNumber(int number) {
     update();
 }
 
+void GoalPicture::SetPale(bool pale) {
+    m_pale = pale;
+    update();
+}
+
 void GoalPicture::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::RightButton) {
         emit NumberWanted(-1);
@@ -96,9 +101,8 @@ void GoalPicture::paintEvent(QPaintEvent* /*event*/) {
     const WorkbenchColors colors = ColorsFor(palette());
     const QRect place((width() - kPicture) / 2, (height() - kPicture) / 2, kPicture, kPicture);
     constexpr qreal kPale = 0.4;
-    painter.setOpacity(isEnabled() ? 1 : kPale);
+    painter.setOpacity(m_pale ? kPale : 1);
     painter.drawPixmap(place, m_picture);
-    painter.setOpacity(1);
     if (m_number > 0 || hasFocus() || underMouse()) {
         const qreal pen = m_number > 0 || hasFocus() ? 2 : 1;
         painter.setPen(
@@ -141,12 +145,10 @@ GoalPicker::GoalPicker(QWidget* parent)
     layout->addWidget(m_hint);
     CompleteWhileTyped(m_text);
     connect(m_text, &QLineEdit::textChanged, this, &GoalPicker::FollowText);
-    connect(m_ofPlan, &QCheckBox::clicked, this, [this](bool checked) {
-        Goal goal = m_goal;
-        goal.ofPlan = checked;
-        SetGoal(goal);
-    });
-    SetGoal({.ofPlan = true});
+    connect(m_ofPlan, &QCheckBox::clicked, this,
+            [this](bool checked) { m_text->setText(ToQString(GoalText({.ofPlan = checked}))); });
+    FollowAppearance();
+    m_text->setText(ToQString(GoalText({.ofPlan = true})));
 }
 
 void GoalPicker::AddPictures(QGridLayout& grid) {
@@ -183,40 +185,48 @@ std::string GoalPicker::Text() const {
     return m_text->text().trimmed().toStdString();
 }
 
-void GoalPicker::Change(ItemId item, int change) {
-    Goal goal = m_goal;
-    goal.ofPlan = false;
-    goal.levels[item] =
-        static_cast<Byte>(std::clamp(goal.levels[item] + change, 0, int{HighestInGoal(item)}));
-    SetGoal(goal);
+void GoalPicker::FollowAppearance() {
+    // Two lines for every message, whatever was typed, so nothing moves.
+    constexpr int kLines = 2;
+    m_hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_hint->setAlignment(Qt::AlignTop);
+    m_hint->setFixedHeight(kLines * m_hint->fontMetrics().lineSpacing());
+    QPalette own = palette();
+    own.setColor(QPalette::PlaceholderText,
+                 ColorsFor(palette())[m_isWrong ? Color::Deficit : Color::Weak]);
+    m_hint->setPalette(own);
 }
 
-void GoalPicker::SetGoal(const Goal& goal) {
-    m_text->setText(ToQString(GoalText(goal)));
-    // The text of a goal without levels is empty, which names none.
-    m_goal = goal;
-    FollowText();
+void GoalPicker::Change(ItemId item, int change) {
+    Goal goal{.levels = m_goal.levels};
+    goal.levels[item] =
+        static_cast<Byte>(std::clamp(goal.levels[item] + change, 0, int{HighestInGoal(item)}));
+    if (goal.levels != m_goal.levels) {
+        m_text->setText(ToQString(GoalText(goal)));
+    }
 }
 
 void GoalPicker::FollowText() {
     const auto parsed = ParseGoal(Text());
     const auto* const goal = std::get_if<Goal>(&parsed);
-    if (goal != nullptr) {
-        m_goal = *goal;
+    m_isWrong = goal == nullptr && !Text().empty();
+    if (!m_isWrong) {
+        m_goal = goal != nullptr ? *goal : Goal();
     }
-    const bool shown = goal != nullptr || Text().empty();
+    // The plan's own goal takes the place of all levels.
+    m_goal.levels = m_goal.ofPlan ? PerItem<Byte>() : m_goal.levels;
     for (std::size_t i = 0; i < m_pictures.size(); ++i) {
-        m_pictures[i]->ShowNumber(goal != nullptr && !goal->ofPlan ? goal->levels[i] : 0);
+        m_pictures[i]->ShowNumber(m_goal.levels[i]);
+        m_pictures[i]->SetPale(m_isWrong);
     }
     const QSignalBlocker quiet(m_ofPlan);
-    m_ofPlan->setChecked(goal != nullptr && goal->ofPlan);
-    m_hint->setText(shown ? QStringLiteral("Klick +1, Rechtsklick −1. Oder schreib, etwa: werft "
-                                           "2, wkt2")
-                          : ToQString(std::get<std::string>(parsed)));
-    QPalette own = palette();
-    own.setColor(QPalette::PlaceholderText,
-                 ColorsFor(window()->palette())[shown ? Color::Weak : Color::Deficit]);
-    m_hint->setPalette(own);
+    m_ofPlan->setChecked(m_goal.ofPlan);
+    const QString message = m_isWrong ? ToQString(std::get<std::string>(parsed)) : QString();
+    m_hint->setText(m_isWrong ? message
+                              : QStringLiteral("Klick +1, Rechtsklick −1. Oder schreib, etwa: "
+                                               "werft 2, wkt2"));
+    m_hint->setToolTip(message);
+    FollowAppearance();
     emit Changed();
 }
 

@@ -25,6 +25,8 @@ class GoalPicture : public QAbstractButton {
 
     void SetPicture(const QPixmap& picture);
     void ShowNumber(int number);
+    /// The number is that of the last goal, as the text names none.
+    void SetPale(bool pale);
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -41,6 +43,7 @@ class GoalPicture : public QAbstractButton {
     ItemId m_item;
     QPixmap m_picture;
     int m_number = 0;
+    bool m_pale = false;
 };
 
 class GoalPicker : public QWidget {
@@ -50,6 +53,8 @@ class GoalPicker : public QWidget {
     explicit GoalPicker(QWidget* parent);
 
     void SetPictures(const PerItem<QPixmap>& pictures);
+    /// Call it when the palette or the font has changed.
+    void FollowAppearance();
     /// The text as it was typed, for a search to parse.
     [[nodiscard]] std::string Text() const;
 
@@ -59,7 +64,6 @@ class GoalPicker : public QWidget {
   private:
     void AddPictures(QGridLayout& grid);
     void Change(ItemId item, int change);
-    void SetGoal(const Goal& goal);
     /// Shows in the pictures what the text says, or why it says nothing.
     void FollowText();
 
@@ -67,8 +71,9 @@ class GoalPicker : public QWidget {
     QCheckBox* m_ofPlan;
     QLineEdit* m_text;
     QLabel* m_hint;
-    /// The last goal that the text has named.
+    /// The last goal that the text has named; nothing of every item for an empty text.
     Goal m_goal;
+    bool m_isWrong = false;
 };
 
 }  // namespace tarvelin

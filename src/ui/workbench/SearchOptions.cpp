@@ -27,6 +27,11 @@ QCheckBox* NewCheckBox(const char* name, const char* text, QWidget* parent) {
     return checkBox;
 }
 
+std::ptrdiff_t ProductionRows(const Document& document) {
+    const auto orders = document.CurrentPlan().LV_Bauliste.Orders().All();
+    return std::ranges::count(orders, Order::Kind::Production, &Order::kind);
+}
+
 QString RowsText(const std::vector<std::size_t>& rows) {
     constexpr std::size_t kNamed = 8;
     QStringList numbers;
@@ -60,7 +65,7 @@ SearchOptions::SearchOptions(const Document& document,
     m_fold->setCheckable(true);
     m_fold->setAutoRaise(true);
     m_fold->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_summary->setWordWrap(false);
+    m_details->setObjectName(QStringLiteral("Details_Wuensche"));
     m_slack->setRange(0, kPercent);
     m_slack->setSingleStep(kUsualSlack);
     m_slack->setValue(kUsualSlack);
@@ -91,6 +96,7 @@ SearchOptions::SearchOptions(const Document& document,
     auto* const head = new QHBoxLayout;
     head->addWidget(m_fold);
     head->addWidget(m_summary, 1);
+    head->addStretch();
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addLayout(head);
@@ -123,6 +129,7 @@ QLabel* SearchOptions::AddOption(QVBoxLayout& layout, std::initializer_list<QWid
 void SearchOptions::Unfold(bool open) {
     m_fold->setArrowType(open ? Qt::DownArrow : Qt::RightArrow);
     m_details->setVisible(open);
+    m_summary->setVisible(!open);
     ShowEffects();
 }
 
@@ -169,8 +176,7 @@ QString SearchOptions::PinnedEffect() const {
 }
 
 QString SearchOptions::ProductionEffect() const {
-    const auto orders = m_document.CurrentPlan().LV_Bauliste.Orders().All();
-    const auto count = std::ranges::count(orders, Order::Kind::Production, &Order::kind);
+    const auto count = ProductionRows(m_document);
     if (count == 0) {
         return QStringLiteral("Dieser Plan hat keine.");
     }
@@ -208,17 +214,21 @@ QString SearchOptions::SittingsEffect() const {
         sittings.Add(start.start);
     }
     const auto slack = HalfEvenLong(trace->Duration().Seconds() * m_slack->value() / kPercent);
-    return QStringLiteral("%1 Sitzungen jetzt; der schnellste Plan darf %2 länger dauern.")
-        .arg(sittings.count)
-        .arg(ToQString(TimeSpanText(slack)));
+    return QStringLiteral("%1 jetzt; der schnellste Plan darf %2 länger dauern.")
+        .arg(ToQString(CountText(static_cast<std::size_t>(sittings.count), "Sitzung", "Sitzungen")),
+             ToQString(TimeSpanText(slack)));
 }
 
 QString SearchOptions::Summary() const {
     QString text = ToQString(GroupedText(m_tries->value())) + QStringLiteral(" Versuche");
     for (const auto& [option, words] :
-         {std::pair(m_pinned, "gewählte Zeilen fest"), std::pair(m_free, "Produktion wandert"),
-          std::pair(m_fromNow, "ab jetzt"), std::pair(m_sittings, "weniger Sitzungen")}) {
+         {std::pair(m_pinned, "gewählte Zeilen fest"),
+          std::pair(m_free, "Produktionszeilen wandern"), std::pair(m_fromNow, "ab jetzt"),
+          std::pair(m_sittings, "weniger Sitzungen")}) {
         text += option->isChecked() ? QStringLiteral(", ") + QString::fromUtf8(words) : QString();
+    }
+    if (!m_free->isChecked() && ProductionRows(m_document) > 0) {
+        text += QStringLiteral(", Produktionszeilen bleiben");
     }
     return text;
 }

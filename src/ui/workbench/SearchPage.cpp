@@ -39,7 +39,7 @@ SearchPage::SearchPage(Document& document, const Environment& environment,
       m_options(new SearchOptions(document, std::move(chosen), environment.now, this)),
       m_searchButton(NewSearchButton("Cmd_Suchen", "&Suchen", this)),
       m_stopButton(NewSearchButton("Cmd_Anhalten", "Anhal&ten", this)),
-      m_triesLabel(NewHint({}, this)),
+      m_triesLabel(new TypeLabel({}, TypeSize::Caption, false, this)),
       m_progressBar(NewInput<QProgressBar>("Suchbalken", "Fortschritt der Suche", this)),
       m_plot(new ConvergencePlot(this)),
       m_stateLabel(NewLabel(QStringLiteral("LBL_Suche"), {}, this)),
@@ -59,7 +59,8 @@ void SearchPage::Arrange() {
     constexpr int kSlim = 4;
     m_progressBar->setFixedHeight(kSlim);
     m_progressBar->setTextVisible(false);
-    m_triesLabel->setWordWrap(false);
+    m_triesLabel->setForegroundRole(QPalette::PlaceholderText);
+    m_triesLabel->setWordWrap(true);
     m_triesLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_triesLabel->setObjectName(QStringLiteral("LBL_Versuche"));
     auto* const buttons = new QHBoxLayout;
@@ -116,6 +117,7 @@ void SearchPage::FollowAppearance() {
     constexpr int kIcon = 16;
     m_searchButton->setIcon(ToolIcon(Icon::Search, ColorsFor(palette())));
     m_searchButton->setIconSize(QSize(kIcon, kIcon));
+    m_goal->FollowAppearance();
     m_find->FollowAppearance();
 }
 
@@ -217,16 +219,19 @@ void SearchPage::ForgetFind() {
 void SearchPage::AcceptFind() {
     const auto before = m_document.Trace();
     const Long duration = m_searched->best->score.duration;
-    emit BeforeTakeOver();
     if (!m_document.Adopt(m_searched->best->orders, m_searched->task.pause,
                           SnapshotOf(m_searched->plan))) {
         return;
     }
     ForgetFind();
     const Long gain = before ? before->Duration().Seconds() - duration : 0;
-    emit Notice((gain > 0 ? "Fund übernommen: " + TimeSpanText(gain) + " schneller. "
-                          : "Fund übernommen. ") +
-                "Der Plan davor steht unter Vergleich als \"gemerkt\".");
+    std::string text = "Fund übernommen";
+    text += gain > 0 ? ": " + TimeSpanText(gain) + " schneller." : ".";
+    if (before) {
+        text += " Der Plan davor steht unter Vergleich als \"gemerkt\".";
+        emit TakenOver(*before);
+    }
+    emit Notice(text);
 }
 
 }  // namespace tarvelin

@@ -49,14 +49,17 @@ class SearchPage : public QWidget {
     void CompareFind();
     [[nodiscard]] bool IsRunning() const { return m_running; }
     [[nodiscard]] bool HasFind() const { return !m_running && m_findTrace.has_value(); }
+    /// The run of the find, if there is one that differs from the plan. `StateChanged` tells when
+    /// it comes or goes.
+    [[nodiscard]] const std::optional<RunTrace>& FindTrace() const { return m_findTrace; }
 
   signals:
     void Notice(const std::string& text);
     /// A search has begun or ended, or its find is gone.
     void StateChanged();
     void FindToCompare(const RunTrace& find);
-    /// The plan is about to be replaced by the find.
-    void BeforeTakeOver();
+    /// The find has taken the place of the plan, whose run was `before`.
+    void TakenOver(const RunTrace& before);
     /// From the search's thread; `id` is that of the search.
     void ProgressReceived(int id, const SearchProgress& progress);
     void ResultReceived(int id, const SearchResult& result);
@@ -84,13 +87,12 @@ class SearchPage : public QWidget {
     SearchOptions* m_options;
     QPushButton* m_searchButton;
     QPushButton* m_stopButton;
-    QLabel* m_triesLabel;
+    TypeLabel* m_triesLabel;
     QProgressBar* m_progressBar;
     ConvergencePlot* m_plot;
     QLabel* m_stateLabel;
     FindPanel* m_find;
     std::optional<Searched> m_searched;
-    /// The run of the find, if there is one that differs from the plan.
     std::optional<RunTrace> m_findTrace;
     QElapsedTimer m_elapsed;
     /// The id of the last search.

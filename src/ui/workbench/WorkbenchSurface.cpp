@@ -97,7 +97,11 @@ void WorkbenchSurface::ConnectSignals() {
     connect(m_sleepPage, &SleepPage::Notice, this, &WorkbenchSurface::Notice);
     connect(m_comparisonPage, &ComparisonPage::RowWanted, this,
             [this](std::size_t row) { m_list->Choose({row}); });
-    connect(m_searchPage, &SearchPage::BeforeTakeOver, m_comparisonPage, &ComparisonPage::Remember);
+    connect(m_searchPage, &SearchPage::TakenOver, this, [this](const RunTrace& before) {
+        m_comparisonPage->CompareWith(before,
+                                      QStringLiteral("Verglichen mit dem Plan vor dem Fund"),
+                                      QStringLiteral("gemerkt"));
+    });
     connect(m_searchPage, &SearchPage::FindToCompare, this, [this](const RunTrace& find) {
         m_comparisonPage->CompareWith(find, QStringLiteral("Verglichen mit dem Fund der Suche"),
                                       QStringLiteral("Fund"));
