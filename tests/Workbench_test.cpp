@@ -262,18 +262,21 @@ TEST_F(WorkbenchWindow, EntersNightsByRule) {
     Click("Chk_AlleNaechte");
     Page<QTimeEdit>("Zeit_Von_6").setTime(QTime(1, 0));
     EXPECT_FALSE(Page<QCheckBox>("Chk_AlleNaechte").isChecked());
-    EXPECT_TRUE(Says("LBL_Schlafwirkung").starts_with("2 Nächte: 2 kommen dazu."))
+    EXPECT_TRUE(Says("LBL_Schlafwirkung")
+                    .starts_with("1 Nacht: 1 kommt dazu.<br>Ende <b>Sa 18.11. 19:23:15</b>"))
         << Says("LBL_Schlafwirkung");
     Click("Cmd_NaechteEintragen");
-    EXPECT_EQ(Texts("LV_Naechte"),
-              "So 19.11. 01:00|So 19.11. 07:00|06:00||So 19.11. 23:00|Mo 20.11. 07:00|08:00||");
+    EXPECT_EQ(Texts("LV_Naechte"), "So 19.11. 01:00|So 19.11. 07:00|06:00||");
     EXPECT_FALSE(Page("Cmd_NaechteEintragen").isEnabled());
-    // One night, and the plan goes on behind it.
-    Page<QTreeView>("LV_Naechte")
-        .setCurrentIndex(Page<QTreeView>("LV_Naechte").model()->index(1, 0));
+    // A row of the player's own, which can go again.
+    Click("Cmd_SchlafzeileNeu");
+    EXPECT_EQ(m_document.CurrentPlan().LV_Schlafzeiten.size(), 2U);
+    auto& table = Page<QTreeView>("LV_Naechte");
+    table.setCurrentIndex(table.model()->index(1, 0));
     Click("Cmd_SchlafzeileWeg");
-    std::vector<Order> longer(40, Order::Of(ItemId::MetMine));
-    m_document.Edit(longer);
+    EXPECT_EQ(m_document.CurrentPlan().LV_Schlafzeiten.size(), 1U);
+    // The plan goes on behind its night.
+    m_document.Edit(std::vector<Order>(13, Order::Of(ItemId::MetMine)));
     EXPECT_EQ(Says("LBL_Meldungstitel"), "Ab Mo 20.11. 01:00 ohne Schlaf:");
     const std::size_t before = m_document.CurrentPlan().LV_Schlafzeiten.size();
     Click("Cmd_Hinweis");
@@ -505,7 +508,7 @@ TEST_F(WorkbenchWindow, SearchesAndAcceptsAsOneStep) {
     wait();
     const std::string durations = Says("LBL_Funddauer");
     Click("Cmd_FundUebernehmen");
-    EXPECT_EQ(Says("LBL_Vergleich"), "Verglichen mit dem gemerkten Plan");
+    EXPECT_EQ(Says("LBL_Vergleich"), "Verglichen mit dem Plan vor dem Fund");
     EXPECT_EQ(m_document.CurrentPlan().LV_Bauliste.Rows()[40].Tag,
               starter.plan.LV_Bauliste.Rows()[40].Tag);
     EXPECT_EQ(Cell("LV_Schlafzeiten", 0, 0), "03.12.2026 10:30");
