@@ -218,6 +218,8 @@ TEST_F(WorkbenchWindow, KnowsItsFile) {
     EXPECT_EQ(recent.actions()[0]->text(), QStringLiteral("b.tvf"));
     recent.actions()[1]->trigger();
     EXPECT_EQ(m_document.File()->filename(), "a[*].tvf");
+    UndoEdit();
+    EXPECT_FALSE(m_document.File()) << "the plan that comes back isn't written over this file";
     Click("Cmd_Schliessen");
     m_window.close();
     EXPECT_NE(ReadFileToString(m_folder / "config.cfg").find("a[*].tvf"), std::string::npos);

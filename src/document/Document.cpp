@@ -223,12 +223,14 @@ bool Document::LoadBauliste(const std::optional<IniFile>& profile,
     // The former plan can be restored by undo, even if the load failed.
     Record();
     if (!loaded) {
+        m_file.reset();
         Boxes(*this).Show(errors.back());
         return false;
     }
     m_title = File ? WindowTitleFor(*File) : kWindowTitle;
     Note({.title = true});
     RunSimulation(Silent);
+    m_loadStep = m_history.StepCount();
     return true;
 }
 
@@ -238,6 +240,7 @@ bool Document::SaveBauliste(const std::filesystem::path& File) {
         return false;
     }
     RememberSaved(File);
+    m_loadStep = 0;
     Tell();
     return true;
 }
@@ -399,9 +402,16 @@ bool Document::Adopt(std::span<const Order> orders, const std::optional<SleepRow
 }
 
 void Document::Undo() {
-    if (CanUndo()) {
-        SetPlan(m_history.Undo());
+    if (!CanUndo()) {
+        return;
     }
+    const PlanSnapshot& snapshot = m_history.Undo();
+    if (m_history.StepCount() < m_loadStep) {
+        // What comes back was never in the file that was loaded over it.
+        m_file.reset();
+        Note({.file = true});
+    }
+    SetPlan(snapshot);
 }
 
 void Document::Redo() {

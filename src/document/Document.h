@@ -158,6 +158,8 @@ class Document {
     /// The plan as last loaded from or saved to a file of the user's.
     std::optional<PlanSnapshot> m_saved;
     std::optional<std::filesystem::path> m_file;
+    /// The history's step count when it was loaded; 0 if it was saved since.
+    std::size_t m_loadStep = 0;
     std::vector<std::filesystem::path> m_recentFiles;
     std::string m_title = kWindowTitle;
 

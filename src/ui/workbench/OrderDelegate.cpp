@@ -96,7 +96,11 @@ void OrderDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                     .right = OrderColumns()[column].right,
                     .colors = colors};
     painter->save();
-    if (column == OrderColumn::Number && (option.state & QStyle::State_Selected) != 0) {
+    const bool isChosen = (option.state & QStyle::State_Selected) != 0;
+    if ((option.state & QStyle::State_MouseOver) != 0 && !isChosen) {
+        painter->fillRect(option.rect, colors[Color::Hover]);
+    }
+    if (column == OrderColumn::Number && isChosen) {
         painter->fillRect(QRect(option.rect.topLeft(), QSize(kBar, option.rect.height())),
                           colors[Color::Accent]);
     }

@@ -82,7 +82,8 @@ const std::vector<Workbench::ActionRow>& Workbench::ActionRows() {
         {"Cmd_GanzerPlan",        Menu::View,   "&Ganzer Plan",         Icon::WholePlan, Qt::CTRL | Qt::Key_0,             Needs::Run,       kMenuOnly, &Workbench::ShowWholePlan},
         {"Cmd_SucheBeginnen",     Menu::Search, "&Suchen",              Icon::Search,    Qt::CTRL | Qt::Key_F,             Needs::NoSearch,  kMenuOnly, &Workbench::StartSearch},
         {"Cmd_SucheAnhalten",     Menu::Search, "&Anhalten",            {},              {},                               Needs::Search,    kMenuOnly, &Workbench::StopSearch},
-        {"Cmd_FundUebernehmen",   Menu::Search, "Fund ü&bernehmen",     {},              {},                               Needs::Find,      kMenuOnly, &Workbench::AcceptFind, true},
+        {"Cmd_FundVergleichen",   Menu::Search, "&Mit Fund vergleichen", {},             {},                               Needs::Find,      kMenuOnly, &Workbench::CompareFind, true},
+        {"Cmd_FundUebernehmen",   Menu::Search, "Fund ü&bernehmen",     {},              {},                               Needs::Find,      kMenuOnly, &Workbench::AcceptFind},
         {"Cmd_Anleitung",         Menu::Help,   "&Hilfe",               Icon::Help,      Qt::Key_F1,                       Needs::Nothing,   kAtEnd,    &Workbench::OpenGuide}};
     // clang-format on
     return rows;

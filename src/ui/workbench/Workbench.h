@@ -86,6 +86,7 @@ class Workbench : public QMainWindow {
     void OpenGuide();
     void StartSearch();
     void StopSearch() { m_surface->Search().StopSearch(); }
+    void CompareFind() { m_surface->Search().CompareFind(); }
     void AcceptFind() { m_surface->Search().AcceptFind(); }
     void SavePicture();
     void CopyTimetable();

@@ -150,8 +150,10 @@ void WorkbenchSurface::SetPictures(const PerItem<QPixmap>& pictures) {
 void WorkbenchSurface::ShowPlan(const std::vector<std::size_t>& chosen,
                                 std::optional<std::size_t> insertBefore) {
     const auto& trace = m_document.Trace();
-    emit Notice(trace ? MessagesText(*trace) : m_document.Obstacle());
     const bool isEmpty = m_document.CurrentPlan().LV_Bauliste.Orders().IsEmpty();
+    emit Notice(trace     ? MessagesText(*trace)
+                : isEmpty ? "F1 öffnet die Anleitung an dieser Stelle."
+                          : m_document.Obstacle());
     m_startPage->Refresh();
     m_stack->setCurrentIndex(isEmpty ? 1 : 0);
     m_list->Refresh(chosen, insertBefore);
