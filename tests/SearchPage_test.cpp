@@ -57,12 +57,13 @@ TEST_F(SearchingPage, KeepsPicturesAndTextOfTheGoalInStep) {
     // No wrong text makes anything move.
     const auto places = [this] {
         QCoreApplication::processEvents();
-        return std::pair(Part("Cmd_Suchen").pos(), m_page.minimumSizeHint().width());
+        return std::pair(Part("Cmd_Suchen").pos(), m_page.minimumSizeHint());
     };
     const auto before = places();
     const auto hint = [this] { return Part<QLabel>("LBL_Ziel").palette().placeholderText(); };
     EXPECT_EQ(hint().color(), WorkbenchColors(WorkbenchColors::Set::Light)[Color::Weak]);
-    for (const char* const wrong : {"XX1", "laser", "Metallmine 300, das gibt es aber gar nicht"}) {
+    const std::string longWord(100, 'X');
+    for (const char* const wrong : {"XX1", "laser", longWord.c_str()}) {
         text.setText(QString::fromUtf8(wrong));
         EXPECT_EQ(places(), before) << wrong;
         EXPECT_EQ(hint().color(), WorkbenchColors(WorkbenchColors::Set::Light)[Color::Deficit])
