@@ -1,6 +1,6 @@
 // Tests the parts of the search page that show what was found.
-#include <gtest/gtest.h>
-
+#include "MainWindowFixture.h"
+#include "ui/workbench/FindPanel.h"
 #include "ui/workbench/PlotTicks.h"
 
 namespace tarvelin {
@@ -25,6 +25,53 @@ TEST(PlotTicks, AreFewRoundAndInTheRange) {
                 }
             }
         }
+    }
+}
+
+FindSummary Find(std::optional<Long> before, Long after) {
+    FindSummary find;
+    find.after = {.duration = after, .sittings = 24, .rates = {{12312, 204, 9990}}};
+    if (before) {
+        find.before = {.duration = *before, .sittings = 38, .rates = {{568, 204, 84}}};
+    }
+    find.rows = {{.row = 2,
+                  .now = ListedOrder{Order::Of(ItemId::KTs), "Kleiner Transporter 12"},
+                  .find = std::nullopt}};
+    return find;
+}
+
+TEST(FindPanel, SaysWhatIsGained) {
+    constexpr Long kLong = 360'016;
+    constexpr Long kShort = 225'096;
+    FindSummary same = Find(kLong, kLong);
+    same.rows.clear();
+    struct Case {
+        FindSummary find;
+        const char* gain;
+        Color color;
+    };
+    FindPanel panel(nullptr);
+    const WorkbenchColors colors = ColorsFor(panel.palette());
+    for (const auto& [find, gain, color] :
+         {Case{Find(kLong, kShort), "1 Tag 13:28:40 schneller", Color::Gain},
+          Case{Find(kShort, kLong), "1 Tag 13:28:40 langsamer", Color::Deficit},
+          Case{Find(kLong, kLong), "gleich schnell", Color::Weak},
+          Case{Find({}, kLong), "Eine Liste, die das Ziel erreicht", Color::Gain},
+          Case{same, "Die Suche kennt keine schnellere Liste.", Color::Text}}) {
+        panel.ShowFind(find);
+        panel.FollowAppearance();
+        const auto& label = FindIn<QLabel>(panel, "LBL_Gewinn");
+        EXPECT_EQ(label.text().toStdString(), gain);
+        EXPECT_EQ(label.palette().color(QPalette::WindowText), colors[color]) << gain;
+        EXPECT_LE(panel.minimumSizeHint().width(), 350) << gain;
+        for (const char* const button : {"Cmd_MitFund", "Cmd_Uebernehmen"}) {
+            EXPECT_EQ(FindIn(panel, button).isEnabled(), find.DiffersFromPlan()) << gain;
+        }
+        // Why there is none is neither good nor bad, and stays when the colors change.
+        panel.ShowNothing(QStringLiteral("nichts"));
+        panel.FollowAppearance();
+        EXPECT_EQ(label.text().toStdString(), "nichts");
+        EXPECT_EQ(label.palette().color(QPalette::WindowText), colors[Color::Text]) << gain;
     }
 }
 
