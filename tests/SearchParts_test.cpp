@@ -1,5 +1,6 @@
-// Tests the parts of the search page that show what was found.
+// Tests the parts of the search page that show what was found, and how plans are compared.
 #include "MainWindowFixture.h"
+#include "ui/workbench/ComparisonPage.h"
 #include "ui/workbench/FindPanel.h"
 #include "ui/workbench/PlotTicks.h"
 
@@ -73,6 +74,45 @@ TEST(FindPanel, SaysWhatIsGained) {
         EXPECT_EQ(label.text().toStdString(), "nichts");
         EXPECT_EQ(label.palette().color(QPalette::WindowText), colors[Color::Text]) << gain;
     }
+}
+
+using Comparing = MainWindow;
+
+TEST_F(Comparing, FindsTheRowOfAnOrder) {
+    Load("GS GM GM");
+    ComparisonPage page(m_document, m_environment, nullptr);
+    std::vector<std::string> said;
+    QObject::connect(&page, &ComparisonPage::Notice,
+                     [&](const std::string& text) { said.push_back(text); });
+    QObject::connect(&page, &ComparisonPage::RowWanted,
+                     [&](std::size_t row) { said.push_back(std::to_string(row)); });
+    page.CompareWith(TraceRun(PlanOf("GM GK")), QStringLiteral("der Fund"), QStringLiteral("Fund"));
+    page.resize(384, 600);
+    page.show();
+    EXPECT_LE(page.minimumSizeHint().width(), 384);
+    auto& table = FindIn<QTreeView>(page, "LV_Unterschiede");
+    EXPECT_EQ(table.model()->headerData(1, Qt::Horizontal).toString(), QStringLiteral("Fund"));
+    std::map<std::string, std::string> answers;
+    for (int row = 0; row < table.model()->rowCount(); ++row) {
+        said.clear();
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, RowRect(table, row).center());
+        const auto clicked = std::exchange(said, {});
+        QTest::keyClick(&table, Qt::Key_Return);
+        EXPECT_EQ(said, clicked) << row;
+        for (const std::string& text : said) {
+            answers[CellText(table, row, 0)] += text + "|";
+        }
+    }
+    // A row that is found also takes back the notice of one that wasn't.
+    EXPECT_EQ(answers, (std::map<std::string, std::string>{
+                           {"Kristallmine 1", "Diesen Auftrag hat der Plan jetzt nicht.|"},
+                           {"Metallmine 1", "|1|"},
+                           {"Metallmine 2", "|2|"},
+                           {"Solarkraftwerk 1", "|0|"}}));
+    // Without a run there is nothing to remember.
+    Press("Cmd_Clear");
+    page.Remember();
+    EXPECT_EQ(FindIn<QLabel>(page, "LBL_Vergleich").text().toStdString(), "der Fund");
 }
 
 }  // namespace
