@@ -63,6 +63,9 @@ void ComparisonPage::Arrange() {
 }
 
 void ComparisonPage::Remember() {
+    if (!m_document.Trace()) {
+        return;
+    }
     CompareWith(m_document.Trace(), QStringLiteral("Verglichen mit dem gemerkten Plan"),
                 QStringLiteral("gemerkt"));
 }
@@ -107,6 +110,7 @@ void ComparisonPage::FindRow(std::size_t difference) {
     if (start == starts.end()) {
         emit Notice("Diesen Auftrag hat der Plan jetzt nicht.");
     } else {
+        emit Notice("");
         emit RowWanted(start->row);
     }
 }

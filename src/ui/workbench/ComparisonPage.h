@@ -27,7 +27,7 @@ class ComparisonPage : public QWidget {
     /// What the plan is compared with, if anything.
     [[nodiscard]] const std::optional<RunTrace>& OtherRun() const { return m_other; }
 
-    /// Compares with the plan as it is now.
+    /// Compares with the plan as it is now. Does nothing if that has no run.
     void Remember();
     /// `name` says what it is, `column` in a word.
     void CompareWith(std::optional<RunTrace> other, const QString& name, const QString& column);

@@ -20,6 +20,10 @@ class ComparisonTable : public ListView {
     void SetOtherCaption(const QString& caption);
 
   private:
+    [[nodiscard]] QString TextAt(std::size_t row, int column) const;
+    /// "Metallmine 2: gemerkt 00:02:47, jetzt 00:04:42, Unterschied +00:01:55".
+    [[nodiscard]] QString InFull(std::size_t row) const;
+
     TextTable m_rows;
     TableModel* m_model;
 };

@@ -3,9 +3,11 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 #include "simulation/RunTexts.h"
 #include "ui/widgets/Controls.h"
+#include "ui/workbench/PageParts.h"
 #include "ui/workbench/PlotTicks.h"
 #include "ui/workbench/TypeSizes.h"
 #include "ui/workbench/WorkbenchColors.h"
@@ -19,11 +21,13 @@ constexpr int kMargin = 4;
 
 /// "2 T 16:00", or with the seconds.
 QString SpanText(double seconds, bool whole) {
-    QString text = ToQString(TimeSpanText(static_cast<Long>(seconds)));
-    text.replace(QStringLiteral(" Tage "), QStringLiteral(" T "))
-        .replace(QStringLiteral(" Tag "), QStringLiteral(" T "));
+    const QString text = WithShortDays(ToQString(TimeSpanText(static_cast<Long>(seconds))));
     constexpr int kSeconds = 3;
     return whole ? text : text.chopped(kSeconds);
+}
+
+QString NumberText(std::int64_t number) {
+    return ToQString(GroupedText(static_cast<double>(number)));
 }
 
 }  // namespace
@@ -32,46 +36,50 @@ QString SpanText(double seconds, bool whole) {
 class ConvergencePlot::Painting {
   public:
     Painting(const ConvergencePlot& plot, QPainter& painter)
-        : m_plot(plot),
-          m_painter(painter),
-          m_colors(ColorsFor(plot.palette())),
-          m_bottom(plot.m_points.back().duration),
-          m_top(std::max(plot.m_points.front().duration, m_bottom + 1)) {
+        : m_plot(plot), m_painter(painter), m_colors(ColorsFor(plot.palette())) {
+        // A list with fewer sittings may end later than the fastest.
+        const auto [fastest, slowest] = std::ranges::minmax(
+            plot.m_points, {}, [](const Point& point) { return point.duration; });
+        m_bottom = fastest.duration;
+        m_top = std::max(slowest.duration, m_bottom + 1);
         painter.setFont(TypeFont(plot.font(), TypeSize::Caption));
         const QFontMetrics metrics = painter.fontMetrics();
-        const int scale = metrics.horizontalAdvance(QStringLiteral("00 T 00:00:00 ")) + kMargin;
+        const QFontMetrics bold(TypeFont(plot.font(), TypeSize::Caption, true));
+        const int scale = bold.horizontalAdvance(SpanText(m_top, true)) + 3 * kMargin;
         m_rect = QRectF(plot.rect())
                      .adjusted(2 * kMargin, metrics.height() / 2.0 + kMargin, -scale,
                                -metrics.height() - kMargin);
     }
 
-    void DrawScales() {
+    void DrawTries() {
         const QFontMetrics metrics = m_painter.fontMetrics();
-        constexpr int kTryLabels = 4;
-        const auto total = static_cast<std::int64_t>(m_plot.m_total);
         m_painter.setPen(m_colors[Color::Weak]);
-        const std::int64_t step = RoundStep(total, kTryLabels);
-        for (std::int64_t tries = 0; tries <= total; tries += step) {
-            const QString text = ToQString(GroupedText(static_cast<double>(tries)));
-            const double x =
-                std::clamp(XOf(static_cast<double>(tries)) - metrics.horizontalAdvance(text) / 2.0,
-                           0.0, m_plot.width() - 1.0 * metrics.horizontalAdvance(text));
+        const auto total = static_cast<std::int64_t>(m_plot.m_total);
+        const int widest = metrics.horizontalAdvance(NumberText(total) + QStringLiteral("  "));
+        const int count = std::max(1, static_cast<int>(m_rect.width()) / widest);
+        for (const std::int64_t tries : Ticks(0, total, RoundStep(total, count))) {
+            const QString text = NumberText(tries);
+            const int advance = metrics.horizontalAdvance(text);
+            const double x = std::clamp(XOf(static_cast<double>(tries)) - advance / 2.0, 0.0,
+                                        m_plot.width() - 1.0 * advance);
             m_painter.drawText(QPointF(x, m_plot.height() - metrics.descent() - 1), text);
         }
-        constexpr int kDurationLabels = 2;
-        constexpr int kHour = 3600;
-        const auto hours = static_cast<std::int64_t>((m_top - m_bottom) / kHour) + 1;
-        const double hourStep = static_cast<double>(kHour * RoundStep(hours, kDurationLabels));
-        for (double duration = std::ceil(m_bottom / hourStep) * hourStep; duration <= m_top;
-             duration += hourStep) {
+    }
+
+    void DrawDurations() {
+        const QFontMetrics metrics = m_painter.fontMetrics();
+        const auto first = static_cast<std::int64_t>(m_bottom);
+        const auto last = static_cast<std::int64_t>(m_top);
+        constexpr int kCount = 2;
+        for (const std::int64_t tick : Ticks(first, last, RoundTimeStep(last - first, kCount))) {
+            const auto duration = static_cast<double>(tick);
             const double y = YOf(duration);
-            if (std::abs(y - YOf(m_bottom)) < metrics.height()) {
-                continue;
-            }
             m_painter.setPen(m_colors[Color::Line]);
             m_painter.drawLine(QPointF(m_rect.left(), y), QPointF(m_rect.right(), y));
-            m_painter.setPen(m_colors[Color::Weak]);
-            DrawLabel(y, SpanText(duration, false));
+            if (std::abs(y - YOf(m_plot.m_points.back().duration)) >= metrics.height()) {
+                m_painter.setPen(m_colors[Color::Weak]);
+                DrawLabel(y, SpanText(duration, false));
+            }
         }
     }
 
@@ -91,7 +99,7 @@ class ConvergencePlot::Painting {
         constexpr qreal kDot = 3;
         m_painter.drawEllipse(line.back(), kDot, kDot);
         m_painter.setFont(TypeFont(m_plot.font(), TypeSize::Caption, true));
-        DrawLabel(line.back().y(), SpanText(m_bottom, true));
+        DrawLabel(line.back().y(), SpanText(m_plot.m_points.back().duration, true));
     }
 
   private:
@@ -111,8 +119,8 @@ class ConvergencePlot::Painting {
     const ConvergencePlot& m_plot;
     QPainter& m_painter;
     WorkbenchColors m_colors;
-    double m_bottom;
-    double m_top;
+    double m_bottom = 0;
+    double m_top = 0;
     QRectF m_rect;
 };
 
@@ -146,7 +154,8 @@ void ConvergencePlot::paintEvent(QPaintEvent* /*event*/) {
     painter.fillRect(rect(), palette().base());
     if (!m_points.empty()) {
         Painting painting(*this, painter);
-        painting.DrawScales();
+        painting.DrawTries();
+        painting.DrawDurations();
         painting.DrawLine();
     }
 }

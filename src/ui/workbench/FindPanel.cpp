@@ -41,6 +41,7 @@ FindPanel::FindPanel(QWidget* parent)
       m_fewer(new ItemCounts(QStringLiteral("Fällt weg"), m_details)),
       m_more(new ItemCounts(QStringLiteral("Kommt dazu"), m_details)),
       m_verdict(NewLabel(QStringLiteral("LBL_Fundertrag"), {}, m_details)),
+      m_caption(NewHint(QStringLiteral("Die ersten Zeilen, die anders sind"), m_details)),
       m_rows(new TableModel(
           {QStringLiteral("Nr."), QStringLiteral("jetzt"), QStringLiteral("im Fund")},
           {.rows = [this] { return std::min(kShownRows, m_find.rows.size()); },
@@ -86,7 +87,8 @@ FindPanel::FindPanel(QWidget* parent)
     // In sight even where the table isn't.
     AddButtons(*details);
     AddTable(*details);
-    m_details->hide();
+    m_durations->setWordWrap(true);
+    ShowNothing({});
 }
 
 void FindPanel::AddGain(QVBoxLayout& layout) {
@@ -99,27 +101,24 @@ void FindPanel::AddGain(QVBoxLayout& layout) {
 }
 
 void FindPanel::AddRates(QVBoxLayout& layout) {
+    auto* const head = new QHBoxLayout;
+    head->addWidget(NewHint(QStringLiteral("Je Stunde"), m_details), 1);
+    head->addWidget(m_verdict);
+    layout.addLayout(head);
     auto* const row = new QHBoxLayout;
     row->setSpacing(4);
-    QLabel* const caption = NewHint(QStringLiteral("Je Stunde"), m_details);
-    caption->setWordWrap(false);
-    row->addWidget(caption);
     for (const Resource resource : kResources) {
         m_rateSymbols[resource] = new QLabel(m_details);
         m_rates[resource] = new QLabel(m_details);
         m_rates[resource]->setTextFormat(Qt::RichText);
         row->addWidget(m_rateSymbols[resource]);
-        row->addWidget(m_rates[resource]);
+        row->addWidget(m_rates[resource], 1);
     }
-    row->addStretch(1);
-    row->addWidget(m_verdict);
     layout.addLayout(row);
 }
 
 void FindPanel::AddTable(QVBoxLayout& layout) {
-    QLabel* const caption =
-        NewHint(QStringLiteral("Die ersten Zeilen, die anders sind"), m_details);
-    layout.addWidget(caption);
+    layout.addWidget(m_caption);
     m_table->setModel(m_rows);
     m_table->setIconSize(QSize(kPicture, kPicture));
     m_table->setTextElideMode(Qt::ElideRight);
@@ -162,34 +161,36 @@ void FindPanel::FollowAppearance() {
         m_rateSymbols[resource]->setPixmap(
             SymbolPixmap(*this, look.symbol, look.symbolColor, kSymbol));
     }
-    // All rows that it may have, so nothing below moves.
-    constexpr int kFrame = 2;
-    const int row = std::max(kPicture, fontMetrics().height()) + 2 * kFrame;
-    m_table->setFixedHeight(m_table->header()->sizeHint().height() +
-                            static_cast<int>(kShownRows) * row + 2 * kFrame);
+    FitTable();
     ShowGain();
     ShowRates();
 }
 
 void FindPanel::ShowNothing(const QString& why) {
     m_find = {};
+    m_why = why;
     m_details->hide();
-    m_gainSymbol->hide();
-    m_gain->setText(why);
+    EnableButtons();
+    ShowGain();
     m_rows->Refresh();
+}
+
+void FindPanel::EnableButtons() {
+    m_compareButton->setEnabled(m_find.DiffersFromPlan());
+    m_acceptButton->setEnabled(m_find.DiffersFromPlan());
 }
 
 void FindPanel::ShowFind(const FindSummary& find) {
     m_find = find;
+    m_why = QStringLiteral("Die Suche kennt keine schnellere Liste.");
     ShowGain();
     ShowRates();
     const auto& before = find.before;
     const QString duration = ToQString(TimeSpanText(find.after.duration));
     const QString sittings = QString::number(find.after.sittings);
     m_durations->setText(
-        before ? Changed(ToQString(TimeSpanText(before->duration)), duration)
-               : QStringLiteral("Der Plan endet nie oder verfehlt das Ziel → <b>%1</b>")
-                     .arg(duration));
+        Changed(before ? ToQString(TimeSpanText(before->duration)) : QStringLiteral("bisher nie"),
+                duration));
     m_sittings->setText(QStringLiteral("Sitzungen ") +
                         (before ? Changed(QString::number(before->sittings), sittings)
                                 : QStringLiteral("<b>%1</b>").arg(sittings)));
@@ -198,35 +199,51 @@ void FindPanel::ShowFind(const FindSummary& find) {
     m_fewer->ShowCounts(fewer);
     m_more->ShowCounts(find.more);
     m_rows->Refresh();
-    m_compareButton->setEnabled(find.DiffersFromPlan());
-    m_acceptButton->setEnabled(find.DiffersFromPlan());
+    EnableButtons();
+    for (QWidget* const part : std::initializer_list<QWidget*>{m_caption, m_table}) {
+        part->setVisible(find.DiffersFromPlan());
+    }
+    FitTable();
     m_details->show();
+}
+
+void FindPanel::FitTable() {
+    if (m_find.DiffersFromPlan()) {
+        // All rows that it may have, so nothing below moves.
+        constexpr int kFrames = 4;
+        m_table->setFixedHeight(m_table->header()->sizeHint().height() +
+                                static_cast<int>(kShownRows) * m_table->sizeHintForRow(0) +
+                                kFrames);
+    }
 }
 
 void FindPanel::ShowGain() {
     const auto gain = m_find.Gain();
-    const bool faster = gain.value_or(1) > 0;
-    const bool equal = gain == 0;
-    const Color color = equal ? Color::Weak : faster ? Color::Gain : Color::Deficit;
-    m_gainSymbol->setVisible(m_find.DiffersFromPlan() && !equal);
-    m_gainSymbol->setPixmap(
-        SymbolPixmap(*this, faster ? Symbol::Falls : Symbol::Rises, color, kSymbol));
     if (!m_find.DiffersFromPlan()) {
-        m_gain->setText(m_find.after.duration == 0
-                            ? QString()
-                            : QStringLiteral("Die Suche kennt keine schnellere Liste."));
+        Headline(m_why, Color::Text, {});
     } else if (!gain) {
-        m_gain->setText(QStringLiteral("Eine Liste, die das Ziel erreicht"));
-    } else if (equal) {
-        m_gain->setText(QStringLiteral("gleich schnell"));
+        Headline(QStringLiteral("Eine Liste, die das Ziel erreicht"), Color::Gain, {});
+    } else if (*gain == 0) {
+        Headline(QStringLiteral("gleich schnell"), Color::Weak, {});
     } else {
-        m_gain->setText(ToQString(TimeSpanText(std::abs(*gain))) +
-                        (faster ? QStringLiteral(" schneller") : QStringLiteral(" langsamer")));
+        const QString span = ToQString(TimeSpanText(std::abs(*gain)));
+        if (*gain > 0) {
+            Headline(span + QStringLiteral(" schneller"), Color::Gain, Symbol::Falls);
+        } else {
+            Headline(span + QStringLiteral(" langsamer"), Color::Deficit, Symbol::Rises);
+        }
     }
+}
+
+void FindPanel::Headline(const QString& text, Color color, std::optional<Symbol> symbol) {
+    m_gain->setText(text);
     QPalette own = palette();
-    own.setColor(QPalette::WindowText,
-                 ColorsFor(palette())[m_find.DiffersFromPlan() ? color : Color::Text]);
+    own.setColor(QPalette::WindowText, ColorsFor(palette())[color]);
     m_gain->setPalette(own);
+    m_gainSymbol->setVisible(symbol.has_value());
+    if (symbol) {
+        m_gainSymbol->setPixmap(SymbolPixmap(*this, *symbol, color, kSymbol));
+    }
 }
 
 void FindPanel::ShowRates() {
@@ -239,13 +256,20 @@ void FindPanel::ShowRates() {
         const std::int64_t rate = m_find.after.rates[resource];
         const std::int64_t change = m_find.before ? rate - m_find.before->rates[resource] : 0;
         sum += change;
-        QString text = ToQString(GroupedText(static_cast<double>(rate)));
+        const auto grouped = [](std::int64_t number) {
+            return ToQString(GroupedText(static_cast<double>(number)));
+        };
+        const QString difference = grouped(std::abs(change));
+        QString text = grouped(rate);
+        QString spoken = ToQString(kResourceNames[resource]) + QStringLiteral(" ") + text;
         if (change != 0) {
             text += QStringLiteral(" ") +
                     colored(change > 0 ? Color::Gain : Color::Deficit,
-                            (change > 0 ? QStringLiteral("▴") : QStringLiteral("▾")) +
-                                ToQString(GroupedText(static_cast<double>(std::abs(change)))));
+                            (change > 0 ? QStringLiteral("▴") : QStringLiteral("▾")) + difference);
+            spoken += QStringLiteral(", %1 %2").arg(
+                difference, change > 0 ? QStringLiteral("mehr") : QStringLiteral("weniger"));
         }
+        m_rates[resource]->setAccessibleName(spoken);
         m_rates[resource]->setText(text);
     }
     m_verdict->setText(sum == 0  ? QString()

@@ -10,8 +10,10 @@
 #include "search/FindSummary.h"
 #include "ui/widgets/ListView.h"
 #include "ui/widgets/TableModel.h"
+#include "ui/workbench/IconPaths.h"
 #include "ui/workbench/ItemCounts.h"
 #include "ui/workbench/PageParts.h"
+#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 
@@ -39,11 +41,16 @@ class FindPanel : public QWidget {
     void AddTable(QVBoxLayout& layout);
     void AddButtons(QVBoxLayout& layout);
     void ShowGain();
+    void EnableButtons();
+    void FitTable();
+    void Headline(const QString& text, Color color, std::optional<Symbol> symbol);
     void ShowRates();
     /// One side of a row of the table, if it has one.
     [[nodiscard]] const std::optional<ListedOrder>& SideOf(std::size_t row, int column) const;
 
     FindSummary m_find;
+    /// What stands in place of the gain if there is nothing to take over.
+    QString m_why;
     PerItem<QPixmap> m_pictures;
     QLabel* m_gainSymbol;
     TypeLabel* m_gain;
@@ -55,6 +62,7 @@ class FindPanel : public QWidget {
     PerResource<QLabel*> m_rateSymbols{};
     PerResource<QLabel*> m_rates{};
     QLabel* m_verdict;
+    QLabel* m_caption;
     TableModel* m_rows;
     ListView* m_table;
     QPushButton* m_compareButton;

@@ -53,6 +53,11 @@ QDateTime ToQDateTime(DateTime time) {
                                  QStringLiteral("dd.MM.yyyy hh:mm:ss"));
 }
 
+QString WithShortDays(QString text) {
+    return text.replace(QStringLiteral(" Tage "), QStringLiteral(" T "))
+        .replace(QStringLiteral(" Tag "), QStringLiteral(" T "));
+}
+
 QLabel* NewHint(const QString& text, QWidget* parent) {
     auto* const label = new QLabel(text, parent);
     label->setWordWrap(true);

@@ -58,6 +58,9 @@ class MainButton : public QPushButton {
 
 [[nodiscard]] QDateTime ToQDateTime(DateTime time);
 
+/// "2 T 16:00:00" for "2 Tage 16:00:00", where there is little room.
+[[nodiscard]] QString WithShortDays(QString text);
+
 /// An input with a name for screen readers.
 template <class T>
 T* NewInput(const char* name, const char* accessibleName, QWidget* parent) {
