@@ -1,6 +1,7 @@
 #!/usr/bin/python3
-"""A player at the workbench: opens it, drags a row, reads both windows, saves a picture, compares the
-plan with a file, undoes the drag.
+"""A player's first evening at the workbench: he drags a row, reads both windows, saves a picture,
+compares with a file, searches by pictures and names, looks at the find and takes it over, sleeps by
+rule, begins anew with an opening, and asks for help.
 
     workbench_test.py FOLDER_OF_THE_PROGRAMS
 """
@@ -13,8 +14,11 @@ from compare import texts
 from driver import STARTER_PLAN, Program, copy_program, wait_for, xdotool
 
 
+COLUMNS = 10
+
+
 def orders(workbench):
-    return texts(workbench, "Aufträge", 6)
+    return texts(workbench, "Aufträge", COLUMNS)
 
 
 def expect_agreement(program, workbench):
@@ -23,17 +27,19 @@ def expect_agreement(program, workbench):
         workbench_rows = orders(workbench)
         window_rows = texts(program, "Bauliste", 3)
         schedule = texts(program, "Optimale Bauzeiten", 3)
-        return ([[row[0], row[1], row[5]] for row in workbench_rows] == window_rows
+        duration = workbench.label_text("Dauer des Plans")
+        return ([[row[0], row[9]] for row in workbench_rows]
+                == [[row[0], row[2]] for row in window_rows]
                 and sorted(row[2].split()[-1] for row in workbench_rows)
                 == sorted(row[1] for row in schedule)
-                and program.find("label", workbench.label_text("Dauer des Plans"))
+                and program.find("label", f"Dauer: 0{duration}")
                 and workbench_rows)
     return [row[1] for row in wait_for(agreed_rows, "two windows that agree")]
 
 
 def drag_row(workbench, row, target):
     """Drags a row in front of another."""
-    cells = workbench.rows("Aufträge", 6)
+    cells = workbench.rows("Aufträge", COLUMNS)
     x, y = workbench.center(cells[row][1], 0.2)
     to_x, to_y = workbench.center(cells[target][1], 0.2)
     xdotool("mousemove", x, y, "mousedown", 1, "sleep", 0.1, "mousemove", x, y + 9, "sleep", 0.1,
@@ -41,22 +47,87 @@ def drag_row(workbench, row, target):
 
 
 def check_picture(workbench, file):
-    workbench.click("push button", "Bild speichern...")
+    workbench.click("push button", "Als Bild")
     workbench.choose_file(file)
-    assert wait_for(lambda: workbench.label_text("Meldung"), "a message") == f"Gespeichert: {file}"
+    message(workbench, f"Gespeichert: {file}")
     with open(file, "rb") as stream:
         assert stream.read().startswith(b"\x89PNG")
 
 
+def message(workbench, begin):
+    """Waits for a message that begins like this."""
+    return wait_for(lambda: (text := workbench.label_text("Meldung") or "").startswith(begin)
+                    and text, f"the message {begin!r}")
+
+
 def compare_with_file(workbench, file):
-    xdotool("key", "alt+g")
+    xdotool("key", "ctrl+3")
     workbench.click("push button", "Mit Datei...")
     workbench.choose_file(file)
-    change = workbench.label_text("Änderung der Dauer")
+    slower = workbench.label_text("Änderung der Dauer")
     summary = wait_for(lambda: texts(workbench, "Kennzahlen im Vergleich", 4), "a comparison")
-    assert summary[0][0] == "Dauer" and summary[0][3] == change, (summary, change)
+    assert summary[0][0] == "Dauer", summary
+    assert slower == summary[0][3].strip("+") + " langsamer", (slower, summary[0])
     differences = texts(workbench, "Aufträge zu anderer Zeit", 4)
     assert differences and all(row[3][0] in "+-" for row in differences), differences
+
+
+def search(workbench):
+    """Clicks a goal together, types another, looks at the find, compares it, takes it over."""
+    xdotool("key", "ctrl+2", "sleep", 0.3, "key", "Down")
+    # The palette has pictures of the same names.
+    workbench.click("push button", "Raumschiffwerft", 1)
+    wait_for(lambda: workbench.text("Ziel der Suche") == "Raumschiffwerft 1", "the goal as text")
+    workbench.click("text", "Ziel der Suche")
+    xdotool("key", "ctrl+a", "type", "werft 2, kl. transporter 2")
+    xdotool("key", "Escape")
+    workbench.find("push button", "Kleiner Transporter, Ziel: 2")
+    workbench.click("push button", "Suchen")
+    message(workbench, "Der Fund ist noch nicht im Plan.")
+    find = texts(workbench, "Was der Fund ändert", 3)
+    assert len(find) == 10 and all(row[1] != row[2] for row in find), find
+    workbench.click("push button", "Mit Fund vergleichen")
+    wait_for(lambda: any(node.get_name() == "Verglichen mit dem Fund der Suche"
+                         for node in workbench.with_role("label")), "the comparison")
+    before = workbench.label_text("Dauer des Plans")
+    faster = texts(workbench, "Kennzahlen im Vergleich", 4)[0][1]
+    xdotool("key", "ctrl+2", "sleep", 0.3)
+    workbench.click("push button", "Übernehmen")
+    wait_for(lambda: workbench.label_text("Dauer des Plans") == faster, "the plan that was found")
+    message(workbench, "Fund übernommen: ")
+    assert texts(workbench, "Kennzahlen im Vergleich", 4)[0][1:3] == [before, faster]
+
+
+def sleep_by_rule(workbench):
+    """Goes to bed an hour later than the plan's nights say."""
+    xdotool("key", "ctrl+4", "sleep", 0.3)
+    before = texts(workbench, "Schlafzeiten des Plans", 4)
+    workbench.click("spin button", "Mo auf Di, von", share=0.2)
+    xdotool("key", "ctrl+a", "type", "22:00")
+    workbench.click("radio button", "ersetzen")
+    wait_for(lambda: "+ neu" in {row[3] for row in texts(workbench, "Schlafzeiten des Plans", 4)},
+             "the nights to come")
+    workbench.click("push button", "Nächte eintragen")
+    wait_for(lambda: {row[3] for row in texts(workbench, "Schlafzeiten des Plans", 4)} == {""},
+             "nights that are there")
+    nights = texts(workbench, "Schlafzeiten des Plans", 4)
+    assert all(row[0].endswith(" 22:00") for row in nights), nights
+    xdotool("key", "ctrl+z")
+    wait_for(lambda: [row[:3] for row in texts(workbench, "Schlafzeiten des Plans", 4)
+                      if row[3] == ""] == [row[:3] for row in before if row[3] == ""],
+             "one step back")
+
+
+def opening_and_guide(program, workbench):
+    """A new plan begins with an opening, and F1 helps."""
+    xdotool("key", "ctrl+n")
+    wait_for(lambda: not texts(program, "Bauliste", 3), "an empty plan")
+    workbench.click("push button", "Öffnen", 2)
+    wait_for(lambda: len(orders(workbench)) > 30, "an opening")
+    xdotool("key", "F1")
+    guide = workbench.other_window("Anleitung")
+    assert guide.find("text", "In der Anleitung suchen")
+    xdotool("key", "Escape")
 
 
 def main(programs):
@@ -78,7 +149,10 @@ def main(programs):
         wait_for(lambda: orders(workbench)[0][1] == before[0], "the undo")
         assert expect_agreement(program, workbench) == before
         assert workbench.label_text("Dauer des Plans") == duration
-        xdotool("key", "alt+F4")
+        search(workbench)
+        sleep_by_rule(workbench)
+        opening_and_guide(program, workbench)
+        xdotool("windowactivate", "--sync", workbench.window_id, "key", "alt+F4")
         assert program.quit() == 0
         with open(os.path.join(folder, "config.cfg"), encoding="cp1252") as file:
             assert "[Werkbank]" in file.read()

@@ -62,6 +62,7 @@ WorkbenchStatusBar::WorkbenchStatusBar(QWidget* parent)
       m_points(NewLabel(QStringLiteral("LBL_Planpunkte"), {}, this)),
       m_end(NewLabel(QStringLiteral("LBL_Ende"), {}, this)) {
     m_message->setAccessibleDescription(QStringLiteral("Meldung"));
+    m_duration->setAccessibleDescription(QStringLiteral("Dauer des Plans"));
     m_change->setAccessibleDescription(QStringLiteral("Änderung der Dauer"));
     // However long a message is, the window doesn't follow it.
     m_message->setMinimumWidth(1);
