@@ -38,10 +38,10 @@ class ConvergencePlot::Painting {
     Painting(const ConvergencePlot& plot, QPainter& painter)
         : m_plot(plot), m_painter(painter), m_colors(ColorsFor(plot.palette())) {
         // A list with fewer sittings may end later than the fastest.
-        const auto [fastest, slowest] = std::ranges::minmax(
-            plot.m_points, {}, [](const Point& point) { return point.duration; });
-        m_bottom = fastest.duration;
-        m_top = std::max(slowest.duration, m_bottom + 1);
+        const auto [fastest, slowest] =
+            std::ranges::minmax_element(plot.m_points, {}, &Point::duration);
+        m_bottom = fastest->duration;
+        m_top = std::max(slowest->duration, m_bottom + 1);
         painter.setFont(TypeFont(plot.font(), TypeSize::Caption));
         const QFontMetrics metrics = painter.fontMetrics();
         const QFontMetrics bold(TypeFont(plot.font(), TypeSize::Caption, true));
