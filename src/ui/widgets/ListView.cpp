@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QProxyStyle>
 #include <QResizeEvent>
+#include <QStyledItemDelegate>
 #include <QToolTip>
 #include <algorithm>
 #include <numeric>
@@ -27,6 +28,19 @@ class CellStyle : public QProxyStyle {
         return metric == PM_FocusFrameHMargin ? 0
                                               : QProxyStyle::pixelMetric(metric, option, widget);
     }
+};
+
+class HighRows : public QStyledItemDelegate {
+  public:
+    HighRows(int height, QObject* parent) : QStyledItemDelegate(parent), m_height(height) {}
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index).expandedTo({0, m_height});
+    }
+
+  private:
+    int m_height;
 };
 
 }  // namespace
@@ -117,6 +131,10 @@ ListView::ListView(const QString& name, const QString& accessibleName, std::vect
 void ListView::setModel(QAbstractItemModel* model) {
     QTreeView::setModel(model);
     DistributeColumns();
+}
+
+void ListView::SetRowHeight(int height) {
+    setItemDelegate(new HighRows(height, this));
 }
 
 void ListView::mouseMoveEvent(QMouseEvent* event) {

@@ -37,6 +37,8 @@ class ListView : public QTreeView {
              QWidget* parent);
 
     void setModel(QAbstractItemModel* model) override;
+    /// Rows are at least this high, in pixels.
+    void SetRowHeight(int height);
 
   signals:
     /// The pointer has moved over this row. The index is invalid beside the rows and when the

@@ -21,6 +21,8 @@ ComparisonTable::ComparisonTable(const QString& name, const QString& accessibleN
                          this)) {
     setModel(m_model);
     setTextElideMode(Qt::ElideRight);
+    setAlternatingRowColors(true);
+    SetRowHeight(kTableRow);
 }
 
 QString ComparisonTable::TextAt(std::size_t row, int column) const {

@@ -15,6 +15,8 @@ namespace tarvelin {
 inline constexpr int kPageMargin = 12;
 inline constexpr int kControlGap = 8;
 inline constexpr int kSectionGap = 16;
+/// Height of the rows of a table.
+inline constexpr int kTableRow = 20;
 
 /// A caption with a line to the right edge.
 [[nodiscard]] QWidget* NewSection(const QString& caption, QWidget* parent);

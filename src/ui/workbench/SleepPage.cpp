@@ -202,9 +202,10 @@ void SleepPage::AddTable(QVBoxLayout& layout) {
     m_table->setModel(m_rows);
     m_table->setTextElideMode(Qt::ElideRight);
     m_table->setAlternatingRowColors(true);
+    m_table->SetRowHeight(kTableRow);
     m_table->setSelectionMode(QAbstractItemView::ExtendedSelection);
     constexpr int kRows = 5;
-    m_table->setMinimumHeight((kRows + 1) * (fontMetrics().height() + 4));
+    m_table->setMinimumHeight((kRows + 1) * kTableRow);
     layout.addWidget(m_table, 1);
     AddRowInputs(layout);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
