@@ -15,6 +15,7 @@
 #include "ui/workbench/FocusFrame.h"
 #include "ui/workbench/HelpTopics.h"
 #include "ui/workbench/Icons.h"
+#include "ui/workbench/PlainStyle.h"
 #include "ui/workbench/PlanExports.h"
 #include "ui/workbench/WindowPlace.h"
 #include "ui/workbench/WorkbenchColors.h"
@@ -104,8 +105,9 @@ Workbench::Workbench(Document& document, std::function<std::string()> leadTime,
     setCentralWidget(m_surface);
     setStatusBar(m_status);
     setContextMenuPolicy(Qt::NoContextMenu);
-    // The window owns it.
+    // The window owns both.
     new FocusFrame(this);
+    (new PlainStyle(this))->ApplyTo(*this);
     AddActions();
     ConnectSignals();
     m_startOfNights = ReadUniStartZeit(m_document.CurrentPlan().parameters);
