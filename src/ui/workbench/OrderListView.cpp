@@ -7,6 +7,7 @@
 #include <QMimeData>
 #include <QPainter>
 #include <algorithm>
+#include <array>
 #include <numeric>
 
 #include "ui/widgets/ItemPicture.h"
@@ -19,6 +20,13 @@ namespace tarvelin {
 namespace {
 
 constexpr QLatin1String kRowsMimeType("application/x-tarvelin-zeilen");
+
+/// What goes where there is no room, group by group.
+const std::array<std::vector<OrderColumn>, 4> kDropped{
+    {{OrderColumn::Metall, OrderColumn::Kristall, OrderColumn::Deuterium},
+     {OrderColumn::BuildTime},
+     {OrderColumn::Factor},
+     {OrderColumn::Finish}}};
 
 QStringList Captions() {
     QStringList captions;
@@ -116,7 +124,7 @@ void OrderListView::SetHiddenColumns(std::set<OrderColumn> hidden) {
     DistributeColumns();
 }
 
-// What doesn't fit: the reason is elided first, then the costs go.
+// What doesn't fit: the reason is elided first, then columns go, the costs before all others.
 void OrderListView::DistributeColumns() {
     const QFontMetrics metrics = fontMetrics();
     EnumArray<OrderColumn, int> widths{};
@@ -132,10 +140,10 @@ void OrderListView::DistributeColumns() {
     const int least =
         std::min(widths[flexible],
                  metrics.horizontalAdvance(QStringLiteral("1.000 Kristall")) + metrics.height());
-    for (const OrderColumnRow& column : OrderColumns()) {
-        if (column.resource && surplus() + widths[flexible] - least < 0) {
-            for (const OrderColumnRow& cost : OrderColumns()) {
-                widths[cost.column] = cost.resource ? 0 : widths[cost.column];
+    for (const auto& group : kDropped) {
+        if (surplus() + widths[flexible] - least < 0) {
+            for (const OrderColumn column : group) {
+                widths[column] = 0;
             }
         }
     }

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "simulation/StatusTexts.h"
+#include "ui/widgets/Appearance.h"
 #include "ui/widgets/Controls.h"
 #include "ui/workbench/PageParts.h"
 
@@ -57,6 +58,9 @@ QWidget* WorkbenchSurface::NewPages() {
 void WorkbenchSurface::Arrange() {
     m_statusLabel->setWordWrap(true);
     m_statusLabel->setAccessibleDescription(QStringLiteral("Stand am Zeiger"));
+    // A fixed height, so that nothing moves.
+    constexpr int kLines = 2;
+    m_statusLabel->setFixedHeight(kLines * QFontMetrics(DesktopFont()).lineSpacing() + 2);
     m_statusLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* const splitter = new QSplitter(Qt::Vertical, this);
     splitter->addWidget(m_list);
@@ -192,6 +196,7 @@ void WorkbenchSurface::ShowStatusAt(std::optional<SimTime> moment) {
     const auto& trace = m_document.Trace();
     m_statusLabel->setText(trace && moment ? ToQString(StatusText(*trace, *moment))
                                            : QStringLiteral("\n"));
+    m_statusLabel->setToolTip(m_statusLabel->text().trimmed());
     m_timeline->setAccessibleDescription(m_statusLabel->text());
 }
 
