@@ -37,29 +37,40 @@ def capture(program, pictures):
 
 
 def capture_workbench(program, pictures):
-    """The starter plan, before and after a search."""
+    """The starter plan, its nights, before and after a search; and an empty plan."""
     workbench = program.open_workbench()
+    xdotool("windowsize", workbench.window_id, 1280, 772, "sleep", 1)
 
     def picture(name):
-        workbench.screenshot(os.path.join(pictures, name + ".png"), "Tarvelin  |  Werkbank")
+        xdotool("sleep", 0.5)
+        workbench.screenshot(os.path.join(pictures, name + ".png"), "Tarvelin Werkbank")
 
-    row = workbench.rows("Aufträge", 6)[23]
+    row = workbench.rows("Aufträge", 10)[6]
     xdotool("mousemove", *workbench.center(row[1], 0.2), "click", 1, "sleep", 0.5)
-    timeline = workbench.find("filler", "Zeitleiste")
-    xdotool("mousemove", *workbench.center(timeline, 0.45), "sleep", 0.5)
+    xdotool("mousemove", *workbench.center(workbench.find("push button", "Deuteriummine"), 0.5))
     picture("workbench")
-    xdotool("key", "alt+g")
-    workbench.click("push button", "Merken")
-    xdotool("key", "alt+c")
+    xdotool("key", "ctrl+4", "sleep", 0.3)
+    workbench.click("check box", "Alle Nächte gleich")
+    workbench.click("radio button", "zusammenlegen")
+    for night in ("Fr auf Sa", "Sa auf So"):
+        workbench.click("spin button", night + ", bis", share=0.2)
+        xdotool("key", "Up", "key", "Up")
+    picture("workbench-sleep")
+    xdotool("key", "ctrl+2", "sleep", 0.3, "key", "Down", "sleep", 0.3)
+    workbench.click("text", "Ziel der Suche")
+    xdotool("key", "ctrl+a", "type", "werft 2, kl. transporter 2")
+    xdotool("key", "Escape")
     workbench.click("push button", "Suchen")
-    wait_for(lambda: any("Nachher" in node.get_name() for node in workbench.with_role("label")),
+    wait_for(lambda: workbench.label_text("Meldung") == "Der Fund ist noch nicht im Plan.",
              "a plan", 120)
     picture("workbench-search")
     before = workbench.label_text("Dauer des Plans")
     workbench.click("push button", "Übernehmen")
     wait_for(lambda: workbench.label_text("Dauer des Plans") != before, "the plan that was found")
-    xdotool("key", "alt+g", "sleep", 0.5)
+    xdotool("key", "ctrl+3")
     picture("workbench-comparison")
+    xdotool("key", "ctrl+1", "sleep", 0.2, "key", "ctrl+n")
+    picture("workbench-start")
 
 
 with tempfile.TemporaryDirectory() as folder:
