@@ -63,6 +63,15 @@ std::string NightsText(const FilledSleepTable& filled) {
     return text + ".";
 }
 
+/// New rows stand at the end.
+QString ChangeText(const FilledSleepTable& filled, std::size_t row) {
+    if (std::ranges::count(filled.changedRows, row) == 0) {
+        return {};
+    }
+    return row + filled.added >= filled.table.size() ? QStringLiteral("+ neu")
+                                                     : QStringLiteral("länger");
+}
+
 }  // namespace
 
 SleepPage::SleepPage(Document& document, QWidget* parent)
@@ -340,9 +349,7 @@ QString SleepPage::CellText(std::size_t row, int column) const {
                        ? ToQString(TimeSpanText(window->Endzeit() - window->Startzeit())).chopped(3)
                        : QStringLiteral("?");
         default:
-            return std::ranges::count(m_proposal.filled.changedRows, row) > 0
-                       ? QStringLiteral("+ neu")
-                       : QString();
+            return ChangeText(m_proposal.filled, row);
     }
 }
 
