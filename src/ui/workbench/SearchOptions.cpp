@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "search/SearchTexts.h"
+#include "simulation/Comparison.h"
 #include "simulation/RunTexts.h"
-#include "simulation/Sittings.h"
 #include "ui/widgets/Controls.h"
 #include "ui/workbench/PageParts.h"
 #include "util/NumberText.h"
@@ -209,13 +209,10 @@ QString SearchOptions::SittingsEffect() const {
     if (!trace) {
         return {};
     }
-    SittingCounter sittings;
-    for (const StartEvent& start : trace->starts) {
-        sittings.Add(start.start);
-    }
     const auto slack = HalfEvenLong(trace->Duration().Seconds() * m_slack->value() / kPercent);
     return QStringLiteral("%1 jetzt; der schnellste Plan darf %2 länger dauern.")
-        .arg(ToQString(CountText(static_cast<std::size_t>(sittings.count), "Sitzung", "Sitzungen")),
+        .arg(ToQString(CountText(static_cast<std::size_t>(RunSummary::Of(*trace).sittings),
+                                 "Sitzung", "Sitzungen")),
              ToQString(TimeSpanText(slack)));
 }
 

@@ -54,6 +54,7 @@ class Workbench : public QMainWindow {
     void AddRecentFiles(QMenu& menu);
     void AddColumns(QMenu& menu);
     void AddPageActions(QMenu& menu);
+    void ShowIcons(const WorkbenchColors& colors);
     void ConnectSignals();
     void FollowDesktop();
     void ShowPlan();

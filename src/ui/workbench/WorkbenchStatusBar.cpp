@@ -5,9 +5,9 @@
 #include <QHBoxLayout>
 
 #include "search/SearchTexts.h"
+#include "simulation/Comparison.h"
 #include "simulation/ResultTexts.h"
 #include "simulation/RunTexts.h"
-#include "simulation/Sittings.h"
 #include "simulation/StatusTexts.h"
 #include "ui/widgets/Controls.h"
 #include "ui/workbench/Icons.h"
@@ -18,14 +18,6 @@ namespace {
 
 constexpr int kSymbol = 14;
 constexpr int kGap = 8;
-
-int SittingsOf(const RunTrace& trace) {
-    SittingCounter counter;
-    for (const StartEvent& start : trace.starts) {
-        counter.Add(start.start);
-    }
-    return counter.count;
-}
 
 void SetSymbol(QLabel& label, std::optional<Symbol> symbol, Color color) {
     label.setPixmap(symbol ? SymbolIcon(*symbol, color, ColorsFor(label.window()->palette()))
@@ -209,9 +201,9 @@ void WorkbenchStatusBar::ShowFigures(const Document& document) {
         seconds == 0 ? std::nullopt : std::optional(seconds < 0 ? Symbol::Falls : Symbol::Rises),
         color);
     m_changeSymbol->setVisible(seconds != 0);
-    show(*m_sittings,
-         trace ? CountText(static_cast<std::size_t>(SittingsOf(*trace)), "Sitzung", "Sitzungen")
-               : "");
+    show(*m_sittings, trace ? CountText(static_cast<std::size_t>(RunSummary::Of(*trace).sittings),
+                                        "Sitzung", "Sitzungen")
+                            : "");
     show(*m_points, trace ? PointsText(trace->end) + " Punkte" : "");
     const auto start = ReadUniStartZeit(document.CurrentPlan().parameters);
     show(*m_end, trace ? "Ende " + ShortDateTimeText(trace->conditions.WallClock(trace->Duration()))
