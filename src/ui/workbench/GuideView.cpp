@@ -199,8 +199,11 @@ QTextCharFormat GuideView::Styled(QTextCharFormat format, int headingLevel) cons
 }
 
 std::size_t GuideView::HeadingInSight() const {
-    const int first = cursorForPosition(QPoint(0, 2 * kMargin)).position();
-    const auto below = std::ranges::upper_bound(m_headings, first, {}, &Heading::position);
+    const auto below = std::ranges::find_if(m_headings, [this](const Heading& heading) {
+        QTextCursor cursor(document());
+        cursor.setPosition(heading.position);
+        return cursorRect(cursor).top() > 2 * kMargin;
+    });
     return static_cast<std::size_t>(std::max<std::ptrdiff_t>(below - m_headings.begin(), 1) - 1);
 }
 
