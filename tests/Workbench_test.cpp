@@ -194,16 +194,16 @@ TEST_F(WorkbenchWindow, KnowsItsFile) {
     EXPECT_EQ(m_workbench->windowTitle(), QStringLiteral("Unbenannt[*] – Tarvelin Werkbank"));
     Click("ImgMetMine");
     EXPECT_TRUE(m_workbench->isWindowModified());
-    m_dialogs.file = "a[*].tvf";
+    m_dialogs.file = "a&b.tvf";
     Key(Qt::Key_S, Qt::ControlModifier);
     EXPECT_FALSE(m_workbench->isWindowModified());
-    EXPECT_EQ(m_workbench->windowTitle(), QStringLiteral("a[*][*].tvf[*] – Tarvelin Werkbank"));
+    EXPECT_EQ(m_workbench->windowTitle(), QStringLiteral("a&b.tvf[*] – Tarvelin Werkbank"));
     // From now on nobody is asked, except by the other key.
     m_dialogs.file = "b.tvf";
     Click("ImgSKW");
     EXPECT_TRUE(m_workbench->isWindowModified());
     Key(Qt::Key_S, Qt::ControlModifier);
-    EXPECT_NE(ReadFileToString(m_folder / "saves" / "a[*].tvf").find("GS"), std::string::npos);
+    EXPECT_NE(ReadFileToString(m_folder / "saves" / "a&b.tvf").find("GS"), std::string::npos);
     EXPECT_FALSE(std::filesystem::exists(m_folder / "saves" / "b.tvf"));
     Key(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(std::filesystem::exists(m_folder / "saves" / "b.tvf"));
@@ -217,12 +217,12 @@ TEST_F(WorkbenchWindow, KnowsItsFile) {
     ASSERT_EQ(recent.actions().size(), 2);
     EXPECT_EQ(recent.actions()[0]->text(), QStringLiteral("b.tvf"));
     recent.actions()[1]->trigger();
-    EXPECT_EQ(m_document.File()->filename(), "a[*].tvf");
+    EXPECT_EQ(m_document.File()->filename(), "a&b.tvf");
     UndoEdit();
     EXPECT_FALSE(m_document.File()) << "the plan that comes back isn't written over this file";
     Click("Cmd_Schliessen");
     m_window.close();
-    EXPECT_NE(ReadFileToString(m_folder / "config.cfg").find("a[*].tvf"), std::string::npos);
+    EXPECT_NE(ReadFileToString(m_folder / "config.cfg").find("a&b.tvf"), std::string::npos);
 }
 
 TEST_F(WorkbenchWindow, ShowsWhereRowsGoAndWhichIsRefused) {
