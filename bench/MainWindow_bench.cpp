@@ -167,8 +167,8 @@ void RowMoved(benchmark::State& state) {
     for (auto _ : state) {
         up = !up;
         workbench
-            .findChild<QPushButton*>(up ? QStringLiteral("Cmd_Hoch") : QStringLiteral("Cmd_Runter"))
-            ->click();
+            .findChild<QAction*>(up ? QStringLiteral("Cmd_Hoch") : QStringLiteral("Cmd_Runter"))
+            ->trigger();
         workbench.grab();
     }
 }

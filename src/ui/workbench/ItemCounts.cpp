@@ -3,6 +3,7 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 #include "model/ItemTable.h"
 #include "ui/widgets/Controls.h"
@@ -18,8 +19,8 @@ constexpr int kGap = 6;
 
 }  // namespace
 
-ItemCounts::ItemCounts(const QString& caption, QWidget* parent)
-    : QWidget(parent), m_caption(caption) {
+ItemCounts::ItemCounts(QString caption, QWidget* parent)
+    : QWidget(parent), m_caption(std::move(caption)) {
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);

@@ -13,7 +13,7 @@ class ItemCounts : public QWidget {
     Q_OBJECT
 
   public:
-    ItemCounts(const QString& caption, QWidget* parent);
+    ItemCounts(QString caption, QWidget* parent);
 
     void SetPictures(const PerItem<QPixmap>& pictures);
     /// Items with 0 are left out; without any it says "nichts".
