@@ -70,8 +70,8 @@ inline constexpr std::size_t kMaxNights = 400;
                                               AtOverlap atOverlap);
 
 /// From when on a plan that has nights is played without sleep: a day after its last night began
-/// or, if that is later, when it ended; not before the plan's start. Nothing if it ends earlier or has no nights; rows of less than three
-/// hours are pauses, not nights.
+/// or, if that is later, when it ended; not before the plan's start. Nothing if it ends earlier or
+/// has no nights; rows of less than three hours are pauses, not nights.
 [[nodiscard]] std::optional<DateTime> SleeplessFrom(const SleepTable& table, DateTime planStart,
                                                     DateTime planEnd);
 
