@@ -241,7 +241,7 @@ def check_web_skin(window, folder):
 def check_workbench(window, folder, pictures):
     window.press("alt+w")
     xdotool("key", "Return")
-    wait_for(lambda: find_window("Tarvelin  .  Werkbank"), "the workbench")
+    wait_for(lambda: find_window("Tarvelin Werkbank"), "the workbench")
     time.sleep(1.5)
     window.screenshot(os.path.join(pictures, "workbench.png"))
     window.quit()
