@@ -59,7 +59,7 @@ void NextOrderStrip::FollowAppearance() {
     reserve(*m_remaining, "in 2 Tage 00:00:00");
     constexpr int kFrame = 4;
     setFixedHeight(2 * kFrame + std::max(kPicture, m_remaining->fontMetrics().height() +
-                                                       m_moment->fontMetrics().height()));
+                                                       m_name->fontMetrics().height()));
 }
 
 void NextOrderStrip::ShowNext(const std::optional<RunTrace>& trace, DateTime now) {
