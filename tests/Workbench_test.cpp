@@ -295,6 +295,10 @@ TEST_F(WorkbenchWindow, EntersNightsByRule) {
     Click("Cmd_Hinweis");
     EXPECT_EQ(Cell("LV_Schlafzeiten", 0, 0), "26.11.2006 01:00");
     EXPECT_EQ(Says("LBL_Meldungstitel"), "");
+    UndoEdit();
+    EXPECT_EQ(Says("LBL_Meldungstitel"), "Der Start liegt 7 Tage später.");
+    UndoEdit();
+    EXPECT_EQ(Says("LBL_Meldungstitel"), "") << "start and nights are as they were";
     // What the classic window sets, the page shows.
     Type("txt_TempMax", "40");
     EXPECT_EQ(Page<QLineEdit>("Planet_TempMin").text(), QStringLiteral("0"));

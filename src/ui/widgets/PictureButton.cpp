@@ -22,18 +22,10 @@ void PictureButton::SetPicture(const QPixmap& picture) {
     }
 }
 
-void PictureButton::SetDimmed(bool dimmed) {
-    m_dimmed = dimmed;
-    update();
-}
-
 void PictureButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    constexpr qreal kPale = 0.3;
-    painter.setOpacity(m_dimmed ? kPale : 1);
     painter.drawPixmap(rect(), m_picture);
-    painter.setOpacity(1);
     if (hasFocus()) {
         painter.setPen(palette().highlight().color());
         painter.drawRect(rect().adjusted(0, 0, -1, -1));

@@ -15,15 +15,11 @@ class PictureButton : public QAbstractButton {
     /// Scales it to the size of the button. A null picture is ignored.
     void SetPicture(const QPixmap& picture);
 
-    /// A dimmed button can still be pressed.
-    void SetDimmed(bool dimmed);
-
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
     QPixmap m_picture;
-    bool m_dimmed = false;
 };
 
 }  // namespace tarvelin

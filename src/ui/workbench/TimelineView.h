@@ -34,8 +34,6 @@ class TimelineView : public QGraphicsView {
     void ShowAll();
     /// Paints the visible part into `rect`.
     void PaintOn(QPainter& painter, const QRectF& rect);
-    /// For texts about a lack of energy.
-    [[nodiscard]] QColor DeficitColor() const { return m_graphic->Colors()[Color::Deficit]; }
 
   signals:
     /// Nothing when the pointer has left, or there is no run.

@@ -45,7 +45,7 @@ Workbench::Workbench(Document& document, std::function<std::string()> leadTime,
     (new PlainStyle(this))->ApplyTo(*this);
     AddActions();
     ConnectSignals();
-    m_startOfNights = ReadUniStartZeit(m_document.CurrentPlan().parameters);
+    RememberNights();
     m_surface->Sleep().TakeRuleFromPlan();
     FollowDesktop();
     ShowTitle();
@@ -53,9 +53,10 @@ Workbench::Workbench(Document& document, std::function<std::string()> leadTime,
 
 void Workbench::ConnectSignals() {
     m_document.Observe([this](const DocumentChange& change) {
-        if (change.sleepTable || change.rows == DocumentChange::Rows::Replaced) {
-            m_startOfNights = ReadUniStartZeit(m_document.CurrentPlan().parameters);
+        if (change.rows == DocumentChange::Rows::Replaced) {
+            m_startsOfNights.clear();
         }
+        RememberNights();
         if (change.conditions) {
             m_surface->ShowConditions();
         }
@@ -186,13 +187,26 @@ void Workbench::ShowTitle() {
     setWindowModified(m_document.IsModified());
 }
 
+void Workbench::RememberNights() {
+    const Plan& plan = m_document.CurrentPlan();
+    const auto start = ReadUniStartZeit(plan.parameters);
+    if (start && !plan.LV_Schlafzeiten.empty() &&
+        std::ranges::count(m_startsOfNights, plan.LV_Schlafzeiten,
+                           &std::pair<SleepTable, DateTime>::first) == 0) {
+        m_startsOfNights.emplace_back(plan.LV_Schlafzeiten, *start);
+    }
+}
+
 int Workbench::DaysMoved() const {
-    const auto start = ReadUniStartZeit(m_document.CurrentPlan().parameters);
-    if (!start || !m_startOfNights || m_document.CurrentPlan().LV_Schlafzeiten.empty()) {
+    const Plan& plan = m_document.CurrentPlan();
+    const auto start = ReadUniStartZeit(plan.parameters);
+    const auto entered = std::ranges::find(m_startsOfNights, plan.LV_Schlafzeiten,
+                                           &std::pair<SleepTable, DateTime>::first);
+    if (!start || entered == m_startsOfNights.end()) {
         return 0;
     }
     constexpr Long kDay = 86400;
-    return (StartOfDay(*start) - StartOfDay(*m_startOfNights)) / kDay;
+    return (StartOfDay(*start) - StartOfDay(entered->second)) / kDay;
 }
 
 // The nights that a plan lacks, and those that it would take along.

@@ -9,6 +9,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "document/Document.h"
@@ -64,6 +65,7 @@ class Workbench : public QMainWindow {
     void AcceptRequest();
     void ShowRefusal(const QString& what, const EditObjection& objection);
     void Tick();
+    void RememberNights();
     /// How many days later the plan starts than when its nights were entered.
     [[nodiscard]] int DaysMoved() const;
     void InsertRow(const Order& order);
@@ -105,8 +107,9 @@ class Workbench : public QMainWindow {
     /// One for each row of the table.
     std::vector<QAction*> m_actions;
     OrderMarks m_marks;
-    /// The plan's start when its nights were entered.
-    std::optional<DateTime> m_startOfNights;
+    /// Sleep tables that the plan has had, each with the start that it was entered for. Undo brings
+    /// back both.
+    std::vector<std::pair<SleepTable, DateTime>> m_startsOfNights;
     SecondTimer m_timer{QStringLiteral("Tmr_Werkbank"), this};
     bool m_wasOpen = false;
 };

@@ -72,7 +72,7 @@ const std::vector<Workbench::ActionRow>& Workbench::ActionRows() {
         {"Cmd_SucheAnhalten",     Menu::Search, "&Anhalten",            {},              {},                               Needs::Search,    kMenuOnly, &Workbench::StopSearch},
         {"Cmd_FundVergleichen",   Menu::Search, "&Mit Fund vergleichen", {},             {},                               Needs::Find,      kMenuOnly, &Workbench::CompareFind, true},
         {"Cmd_FundUebernehmen",   Menu::Search, "Fund ü&bernehmen",     {},              {},                               Needs::Find,      kMenuOnly, &Workbench::AcceptFind},
-        {"Cmd_Anleitung",         Menu::Help,   "&Hilfe",               Icon::Help,      Qt::Key_F1,                       Needs::Nothing,   kAtEnd,    &Workbench::OpenGuide}};
+        {"Cmd_Anleitung",         Menu::Help,   "&Anleitung",           Icon::Help,      Qt::Key_F1,                       Needs::Nothing,   kAtEnd,    &Workbench::OpenGuide}};
     // clang-format on
     return rows;
 }
@@ -103,6 +103,7 @@ void Workbench::AddActions() {
                 auto* const space = new QWidget(m_toolBar);
                 space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
                 m_toolBar->addWidget(space);
+                action->setIconText(QStringLiteral("Hilfe"));
             }
             m_toolBar->addAction(action);
         }
