@@ -203,6 +203,9 @@ void WorkbenchSurface::ShowStatusAt(std::optional<SimTime> moment) {
 void WorkbenchSurface::ShowNow(DateTime now) {
     m_timeline->SetNow(now);
     m_strip->ShowNext(m_document.Trace(), now);
+    if (m_searchPage->isVisible()) {
+        m_searchPage->ShowEffects();
+    }
 }
 
 }  // namespace tarvelin
