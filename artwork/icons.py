@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Writes the workbench's icons into the code: from the drawings in icons/ it makes
-src/ui/workbench/IconPaths.cpp, so that the program needs no reader of SVG. --check only compares.
+src/ui/look/IconPaths.cpp, so that the program needs no reader of SVG. --check only compares.
 
 A drawing has paths (absolute M, L, H, V, C, Q, A, Z), circles and rectangles, either filled or
 stroked, in the color of texts or of what acts. A file's name is that of its enumerator."""
@@ -12,7 +12,7 @@ import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
-TARGET = HERE.parent / "src/ui/workbench/IconPaths.cpp"
+TARGET = HERE.parent / "src/ui/look/IconPaths.cpp"
 INKS = {"#1b2128": "Text", "#1560b8": "Accent"}
 KINDS = {"tools": "Icon", "symbols": "Symbol"}
 CIRCLE = "M{l} {y}A{r} {r} 0 1 1 {h} {y}A{r} {r} 0 1 1 {l} {y}Z"
@@ -20,7 +20,7 @@ RECTANGLE = ("M{a} {t}H{b}A{r} {r} 0 0 1 {e} {c}V{d}A{r} {r} 0 0 1 {b} {f}"
              "H{a}A{r} {r} 0 0 1 {l} {d}V{c}A{r} {r} 0 0 1 {a} {t}Z")
 HEAD = """\
 // Shapes of the icons. Made by artwork/icons.py from artwork/icons.
-#include "ui/workbench/IconPaths.h"
+#include "ui/look/IconPaths.h"
 
 #include <array>
 

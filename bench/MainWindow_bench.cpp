@@ -13,7 +13,7 @@
 #include "ui/widgets/Controls.h"
 #include "ui/widgets/ItemDisplay.h"
 #include "ui/workbench/OrderListView.h"
-#include "ui/workbench/TimelineView.h"
+#include "ui/timeline/TimelineView.h"
 
 namespace tarvelin {
 namespace {
@@ -138,17 +138,18 @@ void TimelinePainted(benchmark::State& state) {
     ShowFully(window);
     Fill(window);
     auto& timeline = *WorkbenchOf(window).findChild<TimelineView*>();
-    const QPointF position(timeline.viewport()->rect().center());
+    const QPointF position(timeline.rect().center());
     for (std::int64_t i = 0; i < state.range(0); ++i) {
         QWheelEvent wheel(position, position, {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(timeline.viewport(), &wheel);
+        QCoreApplication::sendEvent(&timeline, &wheel);
     }
-    QImage picture(timeline.viewport()->size(), QImage::Format_RGB32);
+    QImage picture(timeline.size(), QImage::Format_RGB32);
+    auto* const bar = timeline.findChild<QScrollBar*>();
     int step = 1;
     for (auto _ : state) {
         step = -step;
-        timeline.horizontalScrollBar()->setValue(timeline.horizontalScrollBar()->value() + step);
-        timeline.viewport()->render(&picture);
+        bar->setValue(bar->value() + step);
+        timeline.render(&picture);
     }
 }
 BENCHMARK(TimelinePainted)->Arg(0)->Arg(5)->Arg(20)->Unit(benchmark::kMillisecond);

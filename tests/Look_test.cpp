@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "TestSupport.h"
-#include "ui/workbench/Icons.h"
-#include "ui/workbench/WorkbenchColors.h"
+#include "ui/look/Icons.h"
+#include "ui/look/WorkbenchColors.h"
 
 namespace tarvelin {
 namespace {

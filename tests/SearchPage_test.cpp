@@ -5,8 +5,8 @@
 #include <QToolButton>
 
 #include "MainWindowFixture.h"
+#include "ui/look/WorkbenchColors.h"
 #include "ui/workbench/SearchPage.h"
-#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 namespace {

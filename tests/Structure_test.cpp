@@ -29,7 +29,9 @@ const Graph kRooms{
     {"ui/widgets", {"plan"}},
     {"ui/services", {"ui/widgets", "document"}},
     {"ui/mainwindow", {"ui/services"}},
-    {"ui/workbench", {"ui/services", "export"}},
+    {"ui/look", {"ui/services"}},
+    {"ui/timeline", {"ui/look"}},
+    {"ui/workbench", {"ui/timeline", "export"}},
     {"ui", {"ui/mainwindow", "ui/workbench"}},
 };
 /// Headers of libraries, by the beginning of their names, and the rooms that may include them.

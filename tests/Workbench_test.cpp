@@ -61,9 +61,9 @@ class WorkbenchWindow : public MainWindow {
         }
         return text;
     }
-    /// Where a moment stands in the viewport.
+    /// Where a moment stands in the timeline.
     static int ColumnOf(const TimelineView& timeline, SimTime moment) {
-        return timeline.mapFromScene(QPointF(moment.Seconds(), 0)).x();
+        return static_cast<int>(std::lround(timeline.Scale().X(moment)));
     }
     std::vector<std::size_t> ChosenRows() {
         return Page<OrderListView>("LV_Werkbank").ChosenRows();
@@ -403,43 +403,54 @@ TEST_F(WorkbenchWindow, ShowsThePlanAsAPicture) {
     EXPECT_EQ(Says("LBL_Naechster"), "Solarkraftwerk 1");
     EXPECT_EQ(Says("LBL_Restzeit"), "in 00:01:56");
     EXPECT_EQ(Says("LBL_Naechstzeit"), "Sa 18.11. 12:34:56");
-    const int buildLane = 2 * timeline.fontMetrics().height();
-    for (const auto& [second, row] : {std::pair(180, 1U), std::pair(350, 2U)}) {
-        QTest::mouseClick(timeline.viewport(), Qt::LeftButton, {},
-                          QPoint(ColumnOf(timeline, SimTime(second)), buildLane));
-        EXPECT_EQ(ChosenRows(), (std::vector<std::size_t>{row}));
-    }
-    EXPECT_EQ(timeline.viewport()->grab().toImage().pixelColor(ColumnOf(timeline, SimTime(60)),
-                                                               buildLane),
-              ColorsFor(m_workbench->palette())[Color::Bar]);
+    const TimelineRows rows = timeline.Rows();
+    const int bars = static_cast<int>(rows.lanes[0].top() + rows.barTop + rows.bar / 2);
+    const auto click = [&](int column, double y) {
+        QTest::mouseClick(&timeline, Qt::LeftButton, {}, QPoint(column, static_cast<int>(y)));
+    };
+    click(ColumnOf(timeline, SimTime(180)), bars);
+    EXPECT_EQ(ChosenRows(), (std::vector<std::size_t>{1})) << "a bar";
+    click(ColumnOf(timeline, SimTime(296)) + 4, rows.lanes[0].top() + rows.pictureTop + 4);
+    EXPECT_EQ(ChosenRows(), (std::vector<std::size_t>{2})) << "a picture";
+    click(ColumnOf(timeline, SimTime(400)), rows.waits.center().y());
+    EXPECT_EQ(ChosenRows(), (std::vector<std::size_t>{3})) << "a wait";
     // Zooming keeps the moment below the pointer in place.
-    const QPoint position(ColumnOf(timeline, SimTime(305)), 20);
+    const QPoint position(ColumnOf(timeline, SimTime(305)), 50);
     for (int i = 0; i < 8; ++i) {
-        QWheelEvent wheel(position, timeline.viewport()->mapToGlobal(position), {}, {0, 120}, {},
-                          {}, Qt::NoScrollPhase, false);
-        const qreal below = timeline.mapToScene(position).x();
-        QCoreApplication::sendEvent(timeline.viewport(), &wheel);
-        EXPECT_NEAR(timeline.mapFromScene(QPointF(below, 0)).x(), position.x(), 1);
+        QWheelEvent wheel(position, timeline.mapToGlobal(position), {}, {0, 120}, {}, {},
+                          Qt::NoScrollPhase, false);
+        const double below = timeline.Scale().SecondAt(position.x());
+        QCoreApplication::sendEvent(&timeline, &wheel);
+        EXPECT_NEAR(timeline.Scale().X(below), position.x(), 1);
     }
-    EXPECT_GT(ColumnOf(timeline, SimTime(310)) - ColumnOf(timeline, SimTime(300)), 20);
-    MoveMouse(*timeline.viewport(), position);
-    EXPECT_EQ(Says("LBL_Stand").substr(0, 17), "Sa 18.11. 12:35:0");
-    EXPECT_NE(Says("LBL_Stand").find("/h)   Kristall: "), std::string::npos);
-    EXPECT_NE(Says("LBL_Stand").find("Metallmine 2"), std::string::npos);
+    EXPECT_GT(ColumnOf(timeline, SimTime(310)) - ColumnOf(timeline, SimTime(300)), 15);
+    MoveMouse(timeline, position);
+    EXPECT_EQ(timeline.accessibleDescription().left(17).toStdString(), "Sa 18.11. 12:35:0");
+    EXPECT_TRUE(timeline.accessibleDescription().contains(QStringLiteral("Metallmine 2")));
     ChooseRows({4});
     const int start = ColumnOf(timeline, SimTime(533));
-    EXPECT_TRUE(start >= 0 && start < timeline.viewport()->width()) << "brought to sight";
-    QTest::mouseDClick(timeline.viewport(), Qt::LeftButton, {}, position);
-    EXPECT_EQ(ColumnOf(timeline, SimTime()), 0);
-    // Ctrl+Left and Ctrl+Right go from start to start, Enter chooses the row.
+    EXPECT_TRUE(start >= 0 && start < timeline.width()) << "brought to sight";
+    QTest::mouseDClick(&timeline, Qt::LeftButton, {}, position);
+    EXPECT_EQ(timeline.Scale().first, 0);
+    // The arrows go from order to order, End and Home to the last and the first.
     timeline.setFocus();
-    for (const auto key :
-         {Qt::Key_Left, Qt::Key_Left, Qt::Key_Left, Qt::Key_Right, Qt::Key_Right}) {
-        QTest::keyClick(&timeline, key, Qt::ControlModifier);
-    }
-    QTest::keyClick(&timeline, Qt::Key_Return);
-    EXPECT_EQ(ChosenRows(), (std::vector<std::size_t>{2}));
+    const auto press = [&](Qt::Key key, std::size_t row) {
+        QTest::keyClick(&timeline, key);
+        EXPECT_EQ(ChosenRows(), (std::vector<std::size_t>{row}));
+    };
+    press(Qt::Key_Left, 3);
+    press(Qt::Key_Left, 2);
     EXPECT_EQ(timeline.accessibleDescription().left(18).toStdString(), "Sa 18.11. 12:34:56");
+    press(Qt::Key_Home, 0);
+    press(Qt::Key_End, 4);
+    // Ctrl moves the cursor alone, plus zooms at it, Enter chooses what starts there or next.
+    press(Qt::Key_Home, 0);
+    QTest::keyClick(&timeline, Qt::Key_Right, Qt::ControlModifier);
+    const double before = timeline.Scale().perSecond;
+    QTest::keyClick(&timeline, Qt::Key_Plus);
+    EXPECT_GT(timeline.Scale().perSecond, before);
+    EXPECT_EQ(ChosenRows(), (std::vector<std::size_t>{0}));
+    press(Qt::Key_Return, 1);
     m_now = *ParseDateTime("19.11.2006 12:33:00");
     EXPECT_TRUE(QTest::qWaitFor([&] { return Says("LBL_Restzeit").empty(); })) << "all is built";
 }
@@ -451,10 +462,18 @@ TEST_F(WorkbenchWindow, SavesThePicture) {
     EXPECT_EQ(save("bild.SVG").find("Metallmine 2") != std::string::npos, HasSvg())
         << "words stay words";
     const QImage png = QImage::fromData(QByteArray::fromStdString(save("bild.png")));
+    EXPECT_EQ(png.width(), 2400) << "always as wide, and twice as sharp";
+    EXPECT_EQ(png.pixelColor(2, 2), QColor(Qt::white));
+    // What is in sight is saved as it is.
     auto& timeline = Page<TimelineView>("Zeitleiste");
-    EXPECT_EQ(png.size(), 2 * timeline.viewport()->size());
-    const QPoint bar(ColumnOf(timeline, SimTime(60)), 2 * timeline.fontMetrics().height());
-    EXPECT_EQ(png.pixelColor(2 * bar), timeline.viewport()->grab().toImage().pixelColor(bar));
+    const QImage section = QImage::fromData(
+        QByteArray::fromStdString(SaveAs("Cmd_AusschnittSpeichern", "ausschnitt.png")));
+    EXPECT_EQ(section.size(), 2 * timeline.size());
+    const QRectF lane = timeline.Rows().lanes[0];
+    const QPoint bar(ColumnOf(timeline, SimTime(60)),
+                     static_cast<int>(lane.top() + timeline.Rows().barTop + 4));
+    EXPECT_EQ(section.pixelColor(2 * bar), ColorsFor(m_workbench->palette())[Color::Bar]);
+    EXPECT_EQ(timeline.grab().toImage().pixelColor(bar), section.pixelColor(2 * bar));
     EXPECT_EQ(save("bild.txt"), "");
     EXPECT_NE(Message().find("oder .pdf"), std::string::npos);
     EXPECT_EQ(save("fehlt/bild.png"), "");
@@ -481,9 +500,8 @@ TEST_F(WorkbenchWindow, FollowsTheColorsOfTheDesktop) {
     Load("GM");
     QEvent change(QEvent::ThemeChange);
     QCoreApplication::sendEvent(m_workbench, &change);
-    const QImage picture = Page<TimelineView>("Zeitleiste").viewport()->grab().toImage();
-    EXPECT_EQ(picture.pixelColor(picture.width() - 2, picture.height() - 2),
-              dark[Color::Background]);
+    const QImage picture = Page<TimelineView>("Zeitleiste").grab().toImage();
+    EXPECT_EQ(picture.pixelColor(picture.width() - 2, picture.height() - 2), dark[Color::Window]);
     EXPECT_EQ(Page("LV_Werkbank").palette().color(QPalette::Text), dark[Color::Text]);
     EXPECT_NE(Find("LV_Bauliste").palette().color(QPalette::Text), dark[Color::Text]);
 }

@@ -40,11 +40,16 @@ NightProposal ProposeNights(const Plan& plan, const SleepRule& rule, AtOverlap a
     return proposal;
 }
 
-std::set<std::size_t> RowsInNewNights(const RunTrace& trace, const FilledSleepTable& filled) {
+std::vector<cSchlafzeit> NewNights(const FilledSleepTable& filled) {
     std::vector<cSchlafzeit> nights;
     for (const std::size_t row : filled.changedRows) {
         nights.push_back(ParseSleepRow(filled.table[row]).value_or(cSchlafzeit()));
     }
+    return nights;
+}
+
+std::set<std::size_t> RowsInNewNights(const RunTrace& trace, const FilledSleepTable& filled) {
+    const auto nights = NewNights(filled);
     std::set<std::size_t> rows;
     for (const StartEvent& start : trace.starts) {
         const DateTime moment = trace.conditions.WallClock(start.start);

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <set>
+#include <vector>
 
 #include "plan/Plan.h"
 #include "plan/SleepRule.h"
@@ -20,6 +21,9 @@ struct NightProposal {
 /// end that it has with them.
 [[nodiscard]] NightProposal ProposeNights(const Plan& plan, const SleepRule& rule,
                                           AtOverlap atOverlap);
+
+/// The windows that are new or longer in `filled`.
+[[nodiscard]] std::vector<cSchlafzeit> NewNights(const FilledSleepTable& filled);
 
 /// The rows of `trace` that start in a window that is new in `filled`.
 [[nodiscard]] std::set<std::size_t> RowsInNewNights(const RunTrace& trace,

@@ -2,34 +2,28 @@
 #include "model/Shortage.h"
 
 #include <cmath>
-#include <optional>
 
-#include "model/Resource.h"
 #include "util/NumberText.h"
 
 namespace tarvelin {
 
-namespace {
-
-std::optional<Resource> ResourceOf(Shortage::Kind kind) {
+std::optional<Resource> Shortage::ShortResource() const {
     switch (kind) {
-        case Shortage::Kind::Metall:
+        case Kind::Metall:
             return Resource::Metall;
-        case Shortage::Kind::Kristall:
+        case Kind::Kristall:
             return Resource::Kristall;
-        case Shortage::Kind::Deuterium:
+        case Kind::Deuterium:
             return Resource::Deuterium;
-        case Shortage::Kind::Unstated:
-        case Shortage::Kind::None:
+        case Kind::Unstated:
+        case Kind::None:
             break;
     }
     return std::nullopt;
 }
 
-}  // namespace
-
 std::string Shortage::Text() const {
-    if (const auto resource = ResourceOf(kind)) {
+    if (const auto resource = ShortResource()) {
         return "Es fehlten: " + WholeText(std::floor(missingAmount)) + " " +
                std::string(kResourceNames[*resource]);
     }
@@ -37,7 +31,7 @@ std::string Shortage::Text() const {
 }
 
 std::string Shortage::AmountText() const {
-    const auto resource = ResourceOf(kind);
+    const auto resource = ShortResource();
     return resource ? GroupedText(std::floor(missingAmount)) + " " +
                           std::string(kResourceNames[*resource])
                     : "";

@@ -2,7 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
+
+#include "model/Resource.h"
 
 namespace tarvelin {
 
@@ -15,6 +18,8 @@ struct Shortage {
     /// The missing amount plus 1.
     double missingAmount = 0;
 
+    /// Nothing where none is short.
+    [[nodiscard]] std::optional<Resource> ShortResource() const;
     /// "Keine Verzögerung wegen der Ressourcen!", or "Es fehlten: " with the amount and the
     /// resource; empty for `Unstated`.
     [[nodiscard]] std::string Text() const;

@@ -11,6 +11,7 @@ void HistoryRecorder::OnStepDone(const GameState& state) {
                         .ProStunde = state.ProStunde,
                         .EnergieProduktion = state.EnergieProduktion,
                         .EnergieVerbrauch = state.EnergieVerbrauch,
+                        .ProdFaktor = state.ProdFaktor,
                         .Stufe = state.Stufe});
 }
 

@@ -16,6 +16,8 @@ struct HistoryPoint {
     PerResource<FixedPoint> ProStunde{};
     Long EnergieProduktion = 0;
     Long EnergieVerbrauch = 0;
+    /// Share of the mines' energy need that is met, at most 1.
+    FixedPoint ProdFaktor;
     PerItem<Byte> Stufe{};
 };
 

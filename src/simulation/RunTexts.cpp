@@ -130,6 +130,48 @@ std::string WaitText(const RunTrace& trace, const StartEvent& start) {
     return DelayReasonText(trace, start);
 }
 
+std::string WaitCauseText(const RunTrace& trace, const StartEvent& start) {
+    switch (start.delay.cause) {
+        case DelayCause::None:
+            return WaitsForClick(trace, start) ? "Klick" : "Zeile " + std::to_string(start.row);
+        case DelayCause::Resource:
+            return std::string(
+                kResourceNames[start.delay.shortage.ShortResource().value_or(Resource::Metall)]);
+        case DelayCause::Queue:
+        case DelayCause::FacilityUpgrade:
+            return std::string(QueueName(start.delay.queue));
+        case DelayCause::Sleep:
+            return "Schlaf";
+        case DelayCause::Level:
+        case DelayCause::Deuterium:
+            break;
+    }
+    return WaitText(trace, start);
+}
+
+std::string BriefWaitText(const RunTrace& trace, const StartEvent& start) {
+    switch (start.delay.cause) {
+        case DelayCause::Resource: {
+            const std::string amount = start.delay.shortage.AmountText();
+            return amount.substr(0, amount.find(' '));
+        }
+        case DelayCause::Queue:
+        case DelayCause::FacilityUpgrade:
+            return "Schleife";
+        case DelayCause::Sleep: {
+            const cSchlafzeit* const window = WindowOf(trace, start);
+            if (window == nullptr) {
+                break;
+            }
+            const std::string end = TimeOfDayText(window->Endzeit());
+            return "bis " + end.substr(0, end.rfind(':'));
+        }
+        default:
+            break;
+    }
+    return WaitCauseText(trace, start);
+}
+
 std::string BeyondClockText() {
     return "Der Plan dauert länger, als die Uhr zeigen kann: was später als " +
            TimeSpanText(SimTime::Last().Seconds()) + " käme, steht bei diesem Zeitpunkt.";

@@ -19,6 +19,14 @@ namespace tarvelin {
 /// 07:49:05", "Roboterfabrik 2", "Zeile 35", "Schlaf bis 07:00:00", "Klickpuffer 5 s".
 [[nodiscard]] std::string WaitText(const RunTrace& trace, const StartEvent& start);
 
+/// What it waits for, without how much or until when: "Kristall", "Bauschleife", "Roboterfabrik 2",
+/// "Zeile 35", "Schlaf", "Klick".
+[[nodiscard]] std::string WaitCauseText(const RunTrace& trace, const StartEvent& start);
+
+/// What stands beside a symbol in a narrow table: "1.067", "Schleife", "Roboterfabrik 2", "Zeile
+/// 35", "bis 07:00", "Klick".
+[[nodiscard]] std::string BriefWaitText(const RunTrace& trace, const StartEvent& start);
+
 /// Whether nothing but clicks held back the orders up to this one.
 [[nodiscard]] bool WaitsForClick(const RunTrace& trace, const StartEvent& start);
 

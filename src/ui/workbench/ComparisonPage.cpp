@@ -93,6 +93,7 @@ void ComparisonPage::ClearOther() {
 void ComparisonPage::CompareWith(std::optional<RunTrace> other, const QString& name,
                                  const QString& column) {
     m_other = std::move(other);
+    m_otherName = column;
     for (ComparisonTable* const table : {m_summaryTable, m_orderTable}) {
         table->SetOtherCaption(column);
     }

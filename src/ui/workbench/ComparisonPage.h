@@ -26,6 +26,8 @@ class ComparisonPage : public QWidget {
     void ShowOwnRun();
     /// What the plan is compared with, if anything.
     [[nodiscard]] const std::optional<RunTrace>& OtherRun() const { return m_other; }
+    /// What it is, in a word.
+    [[nodiscard]] const QString& OtherName() const { return m_otherName; }
 
     /// Compares with the plan as it is now. Does nothing if that has no run.
     void Remember();
@@ -47,6 +49,7 @@ class ComparisonPage : public QWidget {
     const Document& m_document;
     const Environment& m_environment;
     std::optional<RunTrace> m_other;
+    QString m_otherName;
     /// What the table of orders shows.
     std::vector<ComparisonRow> m_differences;
     QPushButton* m_rememberButton;

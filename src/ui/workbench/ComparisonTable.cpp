@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "ui/look/ShortDays.h"
 #include "ui/widgets/Controls.h"
 #include "ui/workbench/PageParts.h"
 

@@ -6,11 +6,11 @@
 #include <cmath>
 
 #include "simulation/RunTexts.h"
+#include "ui/look/ShortDays.h"
+#include "ui/look/TypeSizes.h"
+#include "ui/look/WorkbenchColors.h"
 #include "ui/widgets/Controls.h"
-#include "ui/workbench/PageParts.h"
 #include "ui/workbench/PlotTicks.h"
-#include "ui/workbench/TypeSizes.h"
-#include "ui/workbench/WorkbenchColors.h"
 #include "util/NumberText.h"
 
 namespace tarvelin {

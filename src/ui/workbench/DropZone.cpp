@@ -6,10 +6,10 @@
 #include <QMimeData>
 #include <QPainter>
 
+#include "ui/look/WorkbenchColors.h"
 #include "ui/widgets/Controls.h"
 #include "ui/widgets/ItemPicture.h"
 #include "ui/workbench/PageParts.h"
-#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 

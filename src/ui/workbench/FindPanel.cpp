@@ -6,9 +6,9 @@
 #include <cstdlib>
 
 #include "simulation/RunTexts.h"
+#include "ui/look/Icons.h"
+#include "ui/look/WaitLook.h"
 #include "ui/widgets/Controls.h"
-#include "ui/workbench/Icons.h"
-#include "ui/workbench/WaitLook.h"
 #include "util/NumberText.h"
 
 namespace tarvelin {

@@ -8,12 +8,12 @@
 #include <QWidget>
 
 #include "search/FindSummary.h"
+#include "ui/look/IconPaths.h"
+#include "ui/look/WorkbenchColors.h"
 #include "ui/widgets/ListView.h"
 #include "ui/widgets/TableModel.h"
-#include "ui/workbench/IconPaths.h"
 #include "ui/workbench/ItemCounts.h"
 #include "ui/workbench/PageParts.h"
-#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 

@@ -11,7 +11,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "ui/workbench/WorkbenchColors.h"
+#include "ui/look/WorkbenchColors.h"
 
 namespace tarvelin {
 

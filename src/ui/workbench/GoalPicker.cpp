@@ -11,11 +11,11 @@
 #include <algorithm>
 
 #include "model/ItemTable.h"
+#include "ui/look/TypeSizes.h"
+#include "ui/look/WorkbenchColors.h"
 #include "ui/widgets/Controls.h"
 #include "ui/workbench/PageParts.h"
 #include "ui/workbench/PaletteGroups.h"
-#include "ui/workbench/TypeSizes.h"
-#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 

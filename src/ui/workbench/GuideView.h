@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "ui/workbench/WorkbenchColors.h"
+#include "ui/look/WorkbenchColors.h"
 
 namespace tarvelin {
 

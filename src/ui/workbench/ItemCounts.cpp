@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "model/ItemTable.h"
+#include "ui/look/WorkbenchColors.h"
 #include "ui/widgets/Controls.h"
-#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 

@@ -8,13 +8,13 @@
 
 #include "model/ItemTable.h"
 #include "simulation/RunTexts.h"
+#include "ui/look/Icons.h"
+#include "ui/look/WaitLook.h"
 #include "ui/widgets/Controls.h"
 #include "ui/widgets/ItemDisplay.h"
-#include "ui/workbench/Icons.h"
 #include "ui/workbench/PageParts.h"
 #include "ui/workbench/PaletteGroups.h"
 #include "ui/workbench/PalettePicture.h"
-#include "ui/workbench/WaitLook.h"
 #include "util/NumberText.h"
 
 namespace tarvelin {

@@ -5,9 +5,9 @@
 
 #include "simulation/RunTexts.h"
 #include "simulation/StatusTexts.h"
+#include "ui/look/TypeSizes.h"
+#include "ui/look/WorkbenchColors.h"
 #include "ui/widgets/Controls.h"
-#include "ui/workbench/TypeSizes.h"
-#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 

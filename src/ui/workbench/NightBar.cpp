@@ -4,8 +4,8 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "ui/workbench/Icons.h"
-#include "ui/workbench/WorkbenchColors.h"
+#include "ui/look/Icons.h"
+#include "ui/look/WorkbenchColors.h"
 
 namespace tarvelin {
 

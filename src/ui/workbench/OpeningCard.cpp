@@ -9,10 +9,10 @@
 
 #include "simulation/Comparison.h"
 #include "simulation/RunTexts.h"
+#include "ui/look/WorkbenchColors.h"
 #include "ui/widgets/Controls.h"
 #include "ui/workbench/PageParts.h"
 #include "ui/workbench/RunMiniature.h"
-#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 

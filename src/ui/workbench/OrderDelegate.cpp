@@ -6,8 +6,8 @@
 #include <algorithm>
 
 #include "simulation/RunTexts.h"
-#include "ui/workbench/Icons.h"
-#include "ui/workbench/WaitLook.h"
+#include "ui/look/Icons.h"
+#include "ui/look/WaitLook.h"
 
 namespace tarvelin {
 
@@ -163,7 +163,7 @@ void OrderDelegate::PaintWait(const Cell& cell, std::size_t row) const {
     const auto& trace = m_document.Trace();
     const StartEvent* const start = trace ? trace->StartOf(row) : nullptr;
     if (start != nullptr && !cell.text.isEmpty()) {
-        const WaitLook look = WaitsForClick(*trace, *start) ? kClickLook : LookOf(start->delay);
+        const WaitLook look = LookOf(*trace, *start);
         PaintSymbol(cell.painter, look.symbol, cell.Lead(kSymbol), cell.colors[look.symbolColor]);
     }
     cell.DrawText(LeadWidth(OrderColumn::Wait), Color::Text);

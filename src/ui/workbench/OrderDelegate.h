@@ -7,9 +7,9 @@
 #include <set>
 
 #include "document/Document.h"
-#include "ui/workbench/IconPaths.h"
+#include "ui/look/IconPaths.h"
+#include "ui/look/WorkbenchColors.h"
 #include "ui/workbench/OrderColumns.h"
-#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 

@@ -10,10 +10,10 @@
 #include <array>
 #include <numeric>
 
+#include "ui/look/Icons.h"
+#include "ui/look/WaitLook.h"
+#include "ui/look/WorkbenchColors.h"
 #include "ui/widgets/ItemPicture.h"
-#include "ui/workbench/Icons.h"
-#include "ui/workbench/WaitLook.h"
-#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 

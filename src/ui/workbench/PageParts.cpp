@@ -5,8 +5,8 @@
 #include <QFrame>
 #include <QHBoxLayout>
 
+#include "ui/look/WorkbenchColors.h"
 #include "ui/widgets/Controls.h"
-#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 
@@ -51,11 +51,6 @@ TypeLabel* NewTypeLabel(const QString& text, TypeSize size, bool bold, QWidget* 
 QDateTime ToQDateTime(DateTime time) {
     return QDateTime::fromString(ToQString(DateTimeText(time)),
                                  QStringLiteral("dd.MM.yyyy hh:mm:ss"));
-}
-
-QString WithShortDays(QString text) {
-    return text.replace(QStringLiteral(" Tage "), QStringLiteral(" T "))
-        .replace(QStringLiteral(" Tag "), QStringLiteral(" T "));
 }
 
 QLabel* NewHint(const QString& text, QWidget* parent) {

@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <QWidget>
 
-#include "ui/workbench/TypeSizes.h"
+#include "ui/look/TypeSizes.h"
 #include "util/DateTime.h"
 
 namespace tarvelin {
@@ -59,9 +59,6 @@ class MainButton : public QPushButton {
 };
 
 [[nodiscard]] QDateTime ToQDateTime(DateTime time);
-
-/// "2 T 16:00:00" for "2 Tage 16:00:00", where there is little room.
-[[nodiscard]] QString WithShortDays(QString text);
 
 /// An input with a name for screen readers.
 template <class T>

@@ -7,10 +7,10 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "ui/look/Icons.h"
+#include "ui/look/TypeSizes.h"
+#include "ui/look/WorkbenchColors.h"
 #include "ui/widgets/ItemPicture.h"
-#include "ui/workbench/Icons.h"
-#include "ui/workbench/TypeSizes.h"
-#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 

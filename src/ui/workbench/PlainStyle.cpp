@@ -10,7 +10,7 @@
 #include <QRadioButton>
 #include <QStyleOption>
 
-#include "ui/workbench/WorkbenchColors.h"
+#include "ui/look/WorkbenchColors.h"
 
 namespace tarvelin {
 

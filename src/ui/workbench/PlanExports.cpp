@@ -11,8 +11,8 @@
 #include "export/Timetable.h"
 #include "persistence/AtomicWrite.h"
 #include "ui/services/SvgImage.h"
+#include "ui/timeline/TimelinePicture.h"
 #include "ui/widgets/Controls.h"
-#include "ui/workbench/TimelinePicture.h"
 
 namespace tarvelin {
 
@@ -24,6 +24,19 @@ std::string SaveBytes(const std::filesystem::path& file, const std::string& byte
                ? "Gespeichert: " + PathToQString(file).toStdString()
                : "Die Datei konnte nicht gespeichert werden: wähle einen Ordner, in dem du "
                  "schreiben kannst.";
+}
+
+/// Asks for the file, whose suffix says the format.
+std::string SavePictureOf(const QSize& size, const Environment& environment,
+                          const std::function<void(QPainter&)>& draw) {
+    const auto file = environment.AskForFile(Dialogs::Purpose::Picture);
+    if (file.empty()) {
+        return "";
+    }
+    const auto picture = RenderPicture(size, QFileInfo(PathToQString(file)).suffix(), draw);
+    return picture ? SaveBytes(file, picture->toStdString(), environment.files)
+                   : std::string("Der Name des Bildes endet auf .png, ") +
+                         (HasSvg() ? ".svg " : "") + "oder .pdf: es wurde nichts gespeichert.";
 }
 
 }  // namespace
@@ -48,15 +61,16 @@ std::string SaveCalendar(const RunTrace& trace, std::optional<Long> leadTime,
     return SaveBytes(file, CalendarText(trace, leadTime, createdAt), environment.files);
 }
 
-std::string SavePicture(TimelineView& timeline, const Environment& environment) {
-    const auto file = environment.AskForFile(Dialogs::Purpose::Picture);
-    if (file.empty()) {
-        return "";
-    }
-    const auto picture = RenderTimeline(timeline, QFileInfo(PathToQString(file)).suffix());
-    return picture ? SaveBytes(file, picture->toStdString(), environment.files)
-                   : std::string("Der Name des Bildes endet auf .png, ") +
-                         (HasSvg() ? ".svg " : "") + "oder .pdf: es wurde nichts gespeichert.";
+std::string SavePoster(const RunTrace& trace, const PlanPoster::Parts& parts,
+                       const Environment& environment) {
+    const PlanPoster poster(trace, parts);
+    return SavePictureOf(poster.Size(), environment,
+                         [&](QPainter& painter) { poster.Paint(painter); });
+}
+
+std::string SaveSection(TimelineView& timeline, const Environment& environment) {
+    return SavePictureOf(timeline.size(), environment,
+                         [&](QPainter& painter) { timeline.PaintSection(painter); });
 }
 
 }  // namespace tarvelin

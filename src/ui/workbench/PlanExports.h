@@ -1,4 +1,4 @@
-// What the workbench hands out: the timetable, the calendar, the picture of the timeline.
+// What the workbench hands out: the timetable, the calendar, pictures.
 #pragma once
 
 #include <optional>
@@ -6,7 +6,8 @@
 
 #include "simulation/RunTrace.h"
 #include "ui/services/Environment.h"
-#include "ui/workbench/TimelineView.h"
+#include "ui/timeline/PlanPoster.h"
+#include "ui/timeline/TimelineView.h"
 
 namespace tarvelin {
 
@@ -15,7 +16,10 @@ namespace tarvelin {
 /// `leadTime` is how many seconds before a start the calendar reminds; it doesn't without one.
 [[nodiscard]] std::string SaveCalendar(const RunTrace& trace, std::optional<Long> leadTime,
                                        const Environment& environment);
+/// The poster of a plan, which has a name if it has a file.
+[[nodiscard]] std::string SavePoster(const RunTrace& trace, const PlanPoster::Parts& parts,
+                                     const Environment& environment);
 /// Of what the timeline shows.
-[[nodiscard]] std::string SavePicture(TimelineView& timeline, const Environment& environment);
+[[nodiscard]] std::string SaveSection(TimelineView& timeline, const Environment& environment);
 
 }  // namespace tarvelin

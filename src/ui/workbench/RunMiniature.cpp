@@ -6,9 +6,9 @@
 #include <utility>
 
 #include "model/ItemTable.h"
+#include "ui/look/TypeSizes.h"
+#include "ui/look/WorkbenchColors.h"
 #include "ui/widgets/Controls.h"
-#include "ui/workbench/TypeSizes.h"
-#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 

@@ -6,8 +6,8 @@
 
 #include "search/FindSummary.h"
 #include "simulation/RunTexts.h"
+#include "ui/look/Icons.h"
 #include "ui/widgets/Controls.h"
-#include "ui/workbench/Icons.h"
 #include "ui/workbench/PageParts.h"
 #include "util/NumberText.h"
 

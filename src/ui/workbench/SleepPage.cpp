@@ -10,10 +10,10 @@
 #include "search/SearchTexts.h"
 #include "simulation/RunTexts.h"
 #include "simulation/StatusTexts.h"
+#include "ui/look/TypeSizes.h"
+#include "ui/look/WorkbenchColors.h"
 #include "ui/widgets/Controls.h"
 #include "ui/workbench/PageParts.h"
-#include "ui/workbench/TypeSizes.h"
-#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 
@@ -314,6 +314,7 @@ void SleepPage::ShowEffect() {
     m_effect->setText(text);
     m_enterButton->setEnabled(!m_proposal.filled.ChangesNothing());
     m_rows->Refresh();
+    emit ProposalChanged();
 }
 
 void SleepPage::Refresh() {

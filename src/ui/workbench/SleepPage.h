@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 #include <QWidget>
 #include <array>
+#include <vector>
 
 #include "document/Document.h"
 #include "document/NightProposal.h"
@@ -32,10 +33,15 @@ class SleepPage : public QWidget {
     /// Takes the rule from the plan's nights, if it has some.
     void TakeRuleFromPlan();
     [[nodiscard]] SleepRule Rule() const;
+    /// The nights that the page shows and the plan doesn't have.
+    [[nodiscard]] std::vector<cSchlafzeit> ProposedNights() const {
+        return NewNights(m_proposal.filled);
+    }
     /// Enters the nights that the page shows.
     void EnterNights();
 
   signals:
+    void ProposalChanged();
     void Notice(const std::string& text);
 
   private:

@@ -8,11 +8,11 @@
 #include <algorithm>
 
 #include "document/PlanRun.h"
+#include "ui/look/WorkbenchColors.h"
 #include "ui/widgets/Controls.h"
 #include "ui/workbench/DropZone.h"
 #include "ui/workbench/OpeningCard.h"
 #include "ui/workbench/PageParts.h"
-#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "simulation/StatusTexts.h"
+#include "ui/look/WorkbenchColors.h"
 #include "ui/widgets/Appearance.h"
 #include "ui/widgets/Controls.h"
 #include "ui/widgets/ItemDisplay.h"
@@ -14,7 +15,6 @@
 #include "ui/workbench/FocusFrame.h"
 #include "ui/workbench/PlainStyle.h"
 #include "ui/workbench/WindowPlace.h"
-#include "ui/workbench/WorkbenchColors.h"
 
 namespace tarvelin {
 
@@ -238,7 +238,7 @@ void Workbench::ShowRequest() {
             .button = QStringLiteral("Nächte verschieben")};
     }
     m_status->ShowRequest(request);
-    m_surface->List().SetMarks(m_marks);
+    m_surface->ShowMarks(m_marks);
 }
 
 void Workbench::AcceptRequest() {
@@ -254,7 +254,7 @@ void Workbench::AcceptRequest() {
 void Workbench::ShowRefusal(const QString& what, const EditObjection& objection) {
     m_status->ShowRefusal(what, objection.text);
     m_marks.refused = objection.row;
-    m_surface->List().SetMarks(m_marks);
+    m_surface->ShowMarks(m_marks);
 }
 
 void Workbench::Tick() {
@@ -263,7 +263,7 @@ void Workbench::Tick() {
     const auto& trace = m_document.Trace();
     const StartEvent* const next = trace ? NextStart(*trace, now) : nullptr;
     m_marks.next = next == nullptr ? std::nullopt : std::optional(next->row);
-    m_surface->List().SetMarks(m_marks);
+    m_surface->ShowMarks(m_marks);
 }
 
 void Workbench::InsertRow(const Order& order) {

@@ -91,7 +91,8 @@ class Workbench : public QMainWindow {
     void StopSearch() { m_surface->Search().StopSearch(); }
     void CompareFind() { m_surface->Search().CompareFind(); }
     void AcceptFind() { m_surface->Search().AcceptFind(); }
-    void SavePicture();
+    void SavePoster();
+    void SaveSection();
     void CopyTimetable();
     void SaveCalendar();
 

@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "simulation/DueAlarms.h"
+#include "ui/look/Icons.h"
 #include "ui/widgets/Controls.h"
 #include "ui/workbench/HelpTopics.h"
-#include "ui/workbench/Icons.h"
 #include "ui/workbench/PlanExports.h"
 #include "ui/workbench/Workbench.h"
 
@@ -64,7 +64,8 @@ const std::vector<Workbench::ActionRow>& Workbench::ActionRows() {
         {"Cmd_Loesche",           Menu::Edit,   "&Löschen",             Icon::Delete,    Qt::Key_Delete,                   Needs::ChosenRow, kBoth,     &Workbench::RemoveChosen},
         {"Cmd_AllesWaehlen",      Menu::Edit,   "&Alles wählen",        {},              Qt::CTRL | Qt::Key_A,             Needs::Nothing,   kMenuOnly, &Workbench::ChooseAll, true},
         {"Cmd_KalenderSpeichern", Menu::File,   "&Kalender",            Icon::Calendar,  {},                               Needs::Run,       kToolBar,  &Workbench::SaveCalendar, true},
-        {"Cmd_BildSpeichern",     Menu::File,   "Als &Bild",            Icon::Picture,   {},                               Needs::Run,       kToolBar,  &Workbench::SavePicture},
+        {"Cmd_BildSpeichern",     Menu::File,   "Als &Bild ...",        Icon::Picture,   {},                               Needs::Run,       kToolBar,  &Workbench::SavePoster},
+        {"Cmd_AusschnittSpeichern", Menu::File, "&Ausschnitt als Bild ...", {},          {},                               Needs::Run,       kMenuOnly, &Workbench::SaveSection},
         {"Cmd_Kopieren",          Menu::File,   "&Zeitplan kopieren",   {},              Qt::CTRL | Qt::SHIFT | Qt::Key_C, Needs::Run,       kMenuOnly, &Workbench::CopyTimetable},
         {"Cmd_Schliessen",        Menu::File,   "&Werkbank schließen",  {},              Qt::CTRL | Qt::Key_W,             Needs::Nothing,   kMenuOnly, &Workbench::CloseWindow, true},
         {"Cmd_GanzerPlan",        Menu::View,   "&Ganzer Plan",         Icon::WholePlan, Qt::CTRL | Qt::Key_0,             Needs::Run,       kMenuOnly, &Workbench::ShowWholePlan},
@@ -258,8 +259,17 @@ void Workbench::StartSearch() {
     m_surface->Search().StartSearch();
 }
 
-void Workbench::SavePicture() {
-    m_status->ShowMessage(tarvelin::SavePicture(m_surface->Timeline(), m_environment));
+void Workbench::SavePoster() {
+    const auto& file = m_document.File();
+    const PlanPoster::Parts parts{.planName = file ? PathToQString(file->stem()) : QString(),
+                                  .icon = windowIcon().pixmap(QSize(256, 256)),
+                                  .pictures = m_surface->Timeline().Pictures(),
+                                  .font = font()};
+    m_status->ShowMessage(tarvelin::SavePoster(*m_document.Trace(), parts, m_environment));
+}
+
+void Workbench::SaveSection() {
+    m_status->ShowMessage(tarvelin::SaveSection(m_surface->Timeline(), m_environment));
 }
 
 void Workbench::CopyTimetable() {

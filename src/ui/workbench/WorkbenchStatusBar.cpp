@@ -9,8 +9,8 @@
 #include "simulation/ResultTexts.h"
 #include "simulation/RunTexts.h"
 #include "simulation/StatusTexts.h"
+#include "ui/look/Icons.h"
 #include "ui/widgets/Controls.h"
-#include "ui/workbench/Icons.h"
 
 namespace tarvelin {
 

@@ -9,8 +9,8 @@
 #include <string>
 
 #include "document/Document.h"
-#include "ui/workbench/IconPaths.h"
-#include "ui/workbench/WorkbenchColors.h"
+#include "ui/look/IconPaths.h"
+#include "ui/look/WorkbenchColors.h"
 
 namespace tarvelin {
 

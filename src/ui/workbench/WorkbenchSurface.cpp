@@ -8,11 +8,18 @@
 #include <algorithm>
 
 #include "simulation/StatusTexts.h"
-#include "ui/widgets/Appearance.h"
 #include "ui/widgets/Controls.h"
 #include "ui/workbench/PageParts.h"
 
 namespace tarvelin {
+
+namespace {
+
+QString FindName() {
+    return QStringLiteral("Fund");
+}
+
+}  // namespace
 
 WorkbenchSurface::WorkbenchSurface(Document& document, const Environment& environment,
                                    QWidget* parent)
@@ -29,8 +36,7 @@ WorkbenchSurface::WorkbenchSurface(Document& document, const Environment& enviro
       m_planetPage(new PlanetPage(document, this)),
       m_timeline(new TimelineView(this)),
       m_startPage(new StartPage(document, environment.programFolder / "openings", this)),
-      m_stack(new QStackedWidget(this)),
-      m_statusLabel(NewLabel(QStringLiteral("LBL_Stand"), {}, this)) {
+      m_stack(new QStackedWidget(this)) {
     Arrange();
     ConnectSignals();
 }
@@ -56,12 +62,6 @@ QWidget* WorkbenchSurface::NewPages() {
 }
 
 void WorkbenchSurface::Arrange() {
-    m_statusLabel->setWordWrap(true);
-    m_statusLabel->setAccessibleDescription(QStringLiteral("Stand am Zeiger"));
-    // A fixed height, so that nothing moves.
-    constexpr int kLines = 2;
-    m_statusLabel->setFixedHeight(kLines * QFontMetrics(DesktopFont()).lineSpacing() + 2);
-    m_statusLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* const splitter = new QSplitter(Qt::Vertical, this);
     splitter->addWidget(m_list);
     splitter->addWidget(m_timeline);
@@ -70,13 +70,7 @@ void WorkbenchSurface::Arrange() {
     splitter->setStretchFactor(0, 2);
     splitter->setStretchFactor(1, 3);
 
-    auto* const plan = new QWidget(m_stack);
-    auto* const planLayout = new QVBoxLayout(plan);
-    planLayout->setContentsMargins({});
-    planLayout->setSpacing(0);
-    planLayout->addWidget(splitter, 1);
-    planLayout->addWidget(m_statusLabel);
-    m_stack->addWidget(plan);
+    m_stack->addWidget(splitter);
     m_stack->addWidget(m_startPage);
 
     auto* const left = new QVBoxLayout;
@@ -93,7 +87,7 @@ void WorkbenchSurface::Arrange() {
 
 void WorkbenchSurface::ConnectSignals() {
     connect(m_list, &OrderListView::ChoiceChanged, this, &WorkbenchSurface::ShowChoice);
-    connect(m_timeline, &TimelineView::CursorMoved, this, &WorkbenchSurface::ShowStatusAt);
+    connect(m_timeline, &TimelineView::CursorMoved, this, &WorkbenchSurface::DescribeMoment);
     connect(m_timeline, &TimelineView::RowChosen, this,
             [this](std::size_t row) { m_list->Choose({row}); });
     connect(m_searchPage, &SearchPage::Notice, this, &WorkbenchSurface::Notice);
@@ -108,11 +102,14 @@ void WorkbenchSurface::ConnectSignals() {
     });
     connect(m_searchPage, &SearchPage::FindToCompare, this, [this](const RunTrace& find) {
         m_comparisonPage->CompareWith(find, QStringLiteral("Verglichen mit dem Fund der Suche"),
-                                      QStringLiteral("Fund"));
+                                      FindName());
         ShowPage(kComparisonPage);
     });
     connect(m_comparisonPage, &ComparisonPage::OtherRunChanged, this,
-            [this] { m_timeline->SetOtherRun(m_comparisonPage->OtherRun()); });
+            &WorkbenchSurface::ShowOtherRuns);
+    connect(m_searchPage, &SearchPage::StateChanged, this, &WorkbenchSurface::ShowOtherRuns);
+    connect(m_sleepPage, &SleepPage::ProposalChanged, this, &WorkbenchSurface::ShowProposedNights);
+    connect(m_pages, &QTabWidget::currentChanged, this, &WorkbenchSurface::ShowProposedNights);
 }
 
 void WorkbenchSurface::FollowDesktop(const WorkbenchColors& colors) {
@@ -165,7 +162,6 @@ void WorkbenchSurface::ShowPlan(const std::vector<std::size_t>& chosen,
     m_timeline->SetRun(trace);
     m_comparisonPage->ShowOwnRun();
     ShowChoice();
-    ShowStatusAt(std::nullopt);
 }
 
 const QWidget* WorkbenchSurface::CurrentPage() const {
@@ -192,12 +188,40 @@ void WorkbenchSurface::ShowChoice() {
     }
 }
 
-void WorkbenchSurface::ShowStatusAt(std::optional<SimTime> moment) {
+void WorkbenchSurface::ShowMarks(const OrderMarks& marks) {
+    m_list->SetMarks(marks);
+    m_timeline->SetMarks(marks.next, marks.refused);
+}
+
+void WorkbenchSurface::DescribeMoment(std::optional<SimTime> moment) {
     const auto& trace = m_document.Trace();
-    m_statusLabel->setText(trace && moment ? ToQString(StatusText(*trace, *moment))
-                                           : QStringLiteral("\n"));
-    m_statusLabel->setToolTip(m_statusLabel->text().trimmed());
-    m_timeline->setAccessibleDescription(m_statusLabel->text());
+    m_timeline->setAccessibleDescription(trace && moment ? ToQString(StatusText(*trace, *moment))
+                                                         : QString());
+}
+
+void WorkbenchSurface::ShowOtherRuns() {
+    std::vector<DashedRun> others;
+    const bool isFind = m_comparisonPage->OtherName() == FindName();
+    if (const auto& other = m_comparisonPage->OtherRun()) {
+        others.push_back({.run = *other,
+                          .name = m_comparisonPage->OtherName(),
+                          .color = isFind ? Color::Gain : Color::Weak});
+    }
+    if (const auto& find = m_searchPage->FindTrace(); find && (others.empty() || !isFind)) {
+        others.push_back({.run = *find, .name = FindName(), .color = Color::Gain});
+    }
+    m_timeline->SetOtherRuns(std::move(others));
+}
+
+// While the page is open its nights, else those that the plan misses.
+void WorkbenchSurface::ShowProposedNights() {
+    const auto& trace = m_document.Trace();
+    const bool misses = trace && SleeplessFrom(m_document.CurrentPlan().LV_Schlafzeiten,
+                                               trace->conditions.StartDate,
+                                               trace->conditions.WallClock(trace->Duration()));
+    m_timeline->SetProposedNights(misses || CurrentPage() == m_sleepPage
+                                      ? m_sleepPage->ProposedNights()
+                                      : std::vector<cSchlafzeit>());
 }
 
 void WorkbenchSurface::ShowNow(DateTime now) {

@@ -1,7 +1,6 @@
 // What lies in the workbench's window, and how it is arranged.
 #pragma once
 
-#include <QLabel>
 #include <QScrollArea>
 #include <QStackedWidget>
 #include <QTabWidget>
@@ -11,6 +10,7 @@
 
 #include "document/Document.h"
 #include "ui/services/Environment.h"
+#include "ui/timeline/TimelineView.h"
 #include "ui/workbench/ComparisonPage.h"
 #include "ui/workbench/ItemPalette.h"
 #include "ui/workbench/NextOrderStrip.h"
@@ -19,7 +19,6 @@
 #include "ui/workbench/SearchPage.h"
 #include "ui/workbench/SleepPage.h"
 #include "ui/workbench/StartPage.h"
-#include "ui/workbench/TimelineView.h"
 
 namespace tarvelin {
 
@@ -38,6 +37,8 @@ class WorkbenchSurface : public QWidget {
     void ShowConditions() { m_planetPage->Refresh(); }
     /// Marks the chosen rows in the timeline, and brings the first into sight.
     void ShowChoice();
+    /// Marks rows in list and timeline.
+    void ShowMarks(const OrderMarks& marks);
     /// Marks this moment, and tells what comes next.
     void ShowNow(DateTime now);
     void SetPictures(const PerItem<QPixmap>& pictures);
@@ -66,7 +67,10 @@ class WorkbenchSurface : public QWidget {
     void Arrange();
     QWidget* NewPages();
     void ConnectSignals();
-    void ShowStatusAt(std::optional<SimTime> moment);
+    /// Tells screen readers what goes on at a moment.
+    void DescribeMoment(std::optional<SimTime> moment);
+    void ShowOtherRuns();
+    void ShowProposedNights();
 
     Document& m_document;
     NextOrderStrip* m_strip;
@@ -81,7 +85,6 @@ class WorkbenchSurface : public QWidget {
     StartPage* m_startPage;
     /// The list and the timeline, or how to begin.
     QStackedWidget* m_stack;
-    QLabel* m_statusLabel;
     std::vector<QScrollArea*> m_scrollAreas;
 };
 

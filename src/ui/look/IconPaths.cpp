@@ -1,5 +1,5 @@
 // Shapes of the icons. Made by artwork/icons.py from artwork/icons.
-#include "ui/workbench/IconPaths.h"
+#include "ui/look/IconPaths.h"
 
 #include <array>
 

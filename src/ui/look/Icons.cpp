@@ -1,5 +1,5 @@
 // Paints shapes, and gives them to the toolkit as icons.
-#include "ui/workbench/Icons.h"
+#include "ui/look/Icons.h"
 
 #include <QIconEngine>
 #include <QPainterPath>

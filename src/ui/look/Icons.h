@@ -4,8 +4,8 @@
 #include <QIcon>
 #include <QPainter>
 
-#include "ui/workbench/IconPaths.h"
-#include "ui/workbench/WorkbenchColors.h"
+#include "ui/look/IconPaths.h"
+#include "ui/look/WorkbenchColors.h"
 
 namespace tarvelin {
 

@@ -1,10 +1,9 @@
 // Renders PNG, PDF and SVG.
-#include "ui/workbench/TimelinePicture.h"
+#include "ui/timeline/TimelinePicture.h"
 
 #include <QBuffer>
 #include <QImage>
 #include <QPageSize>
-#include <QPainter>
 #include <QPdfWriter>
 
 #include "ui/services/SvgImage.h"
@@ -13,14 +12,16 @@ namespace tarvelin {
 
 namespace {
 
-QByteArray ToPng(TimelineView& timeline, const QSize& size) {
+using Draw = std::function<void(QPainter&)>;
+
+QByteArray ToPng(const QSize& size, const Draw& draw) {
     // Sharp on screens of scale 2, too.
     constexpr int kSharpness = 2;
     QImage picture(size * kSharpness, QImage::Format_RGB32);
     QPainter painter(&picture);
     painter.scale(kSharpness, kSharpness);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    timeline.PaintOn(painter, QRectF(QPointF(), size));
+    draw(painter);
     painter.end();
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -29,7 +30,7 @@ QByteArray ToPng(TimelineView& timeline, const QSize& size) {
     return bytes;
 }
 
-QByteArray ToPdf(TimelineView& timeline, const QSize& size) {
+QByteArray ToPdf(const QSize& size, const Draw& draw) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -41,25 +42,24 @@ QByteArray ToPdf(TimelineView& timeline, const QSize& size) {
     writer.setPageMargins(QMarginsF());
     writer.setPageSize(QPageSize(size, {}, QPageSize::ExactMatch));
     QPainter painter(&writer);
-    timeline.PaintOn(painter, QRectF(QPointF(), size));
+    draw(painter);
     painter.end();
     return bytes;
 }
 
 }  // namespace
 
-std::optional<QByteArray> RenderTimeline(TimelineView& timeline, const QString& suffix) {
-    const QSize size = timeline.viewport()->size();
+std::optional<QByteArray> RenderPicture(const QSize& size, const QString& suffix,
+                                        const Draw& draw) {
     const QString format = suffix.toLower();
     if (format == QStringLiteral("png")) {
-        return ToPng(timeline, size);
+        return ToPng(size, draw);
     }
     if (format == QStringLiteral("pdf")) {
-        return ToPdf(timeline, size);
+        return ToPdf(size, draw);
     }
     if (format == QStringLiteral("svg") && HasSvg()) {
-        return ToSvg(
-            size, [&](QPainter& painter) { timeline.PaintOn(painter, QRectF(QPointF(), size)); });
+        return ToSvg(size, draw);
     }
     return std::nullopt;
 }

@@ -1,5 +1,5 @@
 // The table of the colors, and the table of the palette's roles.
-#include "ui/workbench/WorkbenchColors.h"
+#include "ui/look/WorkbenchColors.h"
 
 #include <QtGlobal>
 #include <algorithm>

@@ -1,0 +1,160 @@
+// Lays out the parts of a timeline.
+#include "ui/timeline/TimelineLayout.h"
+
+#include <algorithm>
+#include <ranges>
+
+#include "simulation/RunTexts.h"
+#include "ui/widgets/Controls.h"
+
+namespace tarvelin {
+
+namespace {
+
+/// Below that bars and pictures bear no words.
+constexpr double kNamesFromPerHour = 9;
+/// More chosen rows than these are a selection of much, not of single orders; their pictures are
+/// framed, and don't push all others away.
+constexpr std::size_t kMostChosenApart = 12;
+
+}  // namespace
+
+TimelineLayout::TimelineLayout(const TimelineContent& content, const TimelineRows& rows,
+                               const TimeScale& scale, const TextWidth& widthOf)
+    : m_content(content),
+      m_rows(rows),
+      m_scale(scale),
+      m_waits(WaitPieces(*content.run, scale, widthOf)) {
+    const RunConditions& conditions = content.run->conditions;
+    LayOutLines(widthOf);
+    m_days = DayLabels(conditions.StartDate, scale, widthOf);
+    m_nights = NightBands(conditions.Schlafzeiten, conditions.StartDate, scale, widthOf);
+    PerResource<QRectF> fields;
+    for (const Resource resource : kResources) {
+        fields[resource] = rows.PlotPart(rows.stocks[resource]);
+    }
+    m_stocks = StockFieldsOf(content, fields, scale, rows.line, widthOf);
+    m_energy = EnergyFieldOf(*content.run, rows.PlotPart(rows.energy), scale, rows.line, widthOf);
+    m_proposedNights = NightBands(content.proposedNights, conditions.StartDate, scale, widthOf);
+    for (std::size_t i = 0; i < m_lanes.size(); ++i) {
+        LayOutLane(i, widthOf);
+    }
+    for (const StartEvent& start : content.run->starts) {
+        if (start.order.kind == Order::Kind::Production) {
+            m_productions.push_back(&start);
+        }
+    }
+}
+
+void TimelineLayout::LayOutLines(const TextWidth& widthOf) {
+    const RunTrace& run = *m_content.run;
+    std::vector<ChipLine> chips;
+    const auto add = [&](OverLine::Kind kind, double second, Color color, const QString& text) {
+        m_lines.push_back({.kind = kind, .x = m_scale.X(second), .color = color, .chip = {}});
+        chips.push_back({.x = m_lines.back().x, .text = text});
+    };
+    if (m_content.now && *m_content.now >= run.conditions.StartDate &&
+        *m_content.now <= run.conditions.WallClock(run.Duration())) {
+        add(OverLine::Kind::Now, *m_content.now - run.conditions.StartDate, Color::Now,
+            QStringLiteral("jetzt ") + ToQString(TimeOfDayText(*m_content.now)));
+    }
+    if (!run.starts.empty()) {
+        add(OverLine::Kind::End, run.Duration().Seconds(), Color::Text, QStringLiteral("Ende"));
+    }
+    for (const DashedRun& other : m_content.others) {
+        add(OverLine::Kind::OtherEnd, other.run.Duration().Seconds(), other.color,
+            other.color == Color::Gain ? QStringLiteral("Ende mit ") + other.name
+                                       : QStringLiteral("Ende ") + other.name);
+    }
+    const auto placed = PlaceChips(chips, m_scale, widthOf);
+    for (std::size_t i = 0; i < placed.size(); ++i) {
+        m_lines[i].chip = placed[i];
+    }
+}
+
+void TimelineLayout::LayOutLane(std::size_t index, const TextWidth& widthOf) {
+    LaneLayout& lane = m_lanes[index];
+    lane.rect = m_rows.lanes[index];
+    const RunTrace& run = *m_content.run;
+    const bool hasNames = m_content.names && m_scale.PerHour() >= kNamesFromPerHour;
+    const bool chosenApart = m_content.chosenRows.size() <= kMostChosenApart;
+    constexpr double kWidestWords = 300;
+    for (const StartEvent& start : run.starts) {
+        if (start.order.kind != Order::Kind::Item || start.order.queue != kLaneQueues[index]) {
+            continue;
+        }
+        LaneOrder order{.row = start.row,
+                        .start = m_scale.X(start.start),
+                        .finish = m_scale.X(start.finish),
+                        .apart = (chosenApart && m_content.chosenRows.contains(start.row)) ||
+                                 m_content.nextRow == start.row ||
+                                 m_content.refusedRow == start.row,
+                        .name = {},
+                        .moment = {}};
+        if (hasNames && m_scale.Shows(order.start - kWidestWords, order.finish + kWidestWords)) {
+            order.name = ToQString(OrderText(start));
+            order.moment = ToQString(TimeOfDayText(run.conditions.WallClock(start.start)));
+        }
+        lane.orders.push_back(std::move(order));
+        lane.starts.push_back(&start);
+    }
+    if (m_rows.picture > 0) {
+        lane.marks = MarksOf(lane.orders, m_rows.picture);
+    }
+    if (hasNames) {
+        LaneRoom room{.left = m_scale.left, .right = m_scale.right, .lines = {}};
+        for (const OverLine& line : m_lines) {
+            room.lines.push_back(line.x);
+        }
+        lane.texts = TextsOf(lane.orders, lane.marks, room, widthOf);
+    }
+}
+
+QRectF TimelineLayout::PictureOf(const LaneLayout& lane, const LaneMark& mark) const {
+    return {mark.left, lane.rect.top() + m_rows.pictureTop, m_rows.picture, m_rows.picture};
+}
+
+QRectF TimelineLayout::BarOf(const LaneLayout& lane, const LaneOrder& order) const {
+    constexpr double kNarrowest = 2;
+    return {order.start, lane.rect.top() + m_rows.barTop,
+            std::max(kNarrowest, order.finish - order.start), m_rows.bar};
+}
+
+std::optional<std::size_t> TimelineLayout::RowAt(const QPointF& position) const {
+    constexpr double kBeside = 3;
+    const auto isAt = [&](const QRectF& rect) {
+        return rect.adjusted(-kBeside, 0, kBeside, 0).contains(position);
+    };
+    for (const LaneLayout& lane : m_lanes) {
+        if (!lane.rect.contains(position)) {
+            continue;
+        }
+        for (const LaneMark& mark : std::views::reverse(lane.marks)) {
+            QRectF picture = PictureOf(lane, mark);
+            picture.setRight(mark.right);
+            if (picture.contains(position)) {
+                return lane.orders[mark.first].row;
+            }
+        }
+        for (const LaneOrder& order : std::views::reverse(lane.orders)) {
+            if (isAt(BarOf(lane, order))) {
+                return order.row;
+            }
+        }
+    }
+    for (const WaitPiece& piece : m_waits) {
+        if (isAt(QRectF(piece.from, m_rows.waits.top(), piece.until - piece.from,
+                        m_rows.waits.height()))) {
+            return piece.row;
+        }
+    }
+    for (const StartEvent* const start : m_productions) {
+        const QRectF content = m_rows.Content();
+        if (isAt(QRectF(m_scale.X(start->start), content.top(), 0, content.height()))) {
+            return start->row;
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace tarvelin

@@ -1,0 +1,90 @@
+// Where everything of a timeline lies: what the painter paints and what the pointer finds.
+#pragma once
+
+#include <QRectF>
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+#include "ui/timeline/AxisLabels.h"
+#include "ui/timeline/FieldCurves.h"
+#include "ui/timeline/LaneMarks.h"
+#include "ui/timeline/TimeScale.h"
+#include "ui/timeline/TimelineContent.h"
+#include "ui/timeline/TimelineRows.h"
+#include "ui/timeline/WaitPieces.h"
+
+namespace tarvelin {
+
+struct LaneLayout {
+    QRectF rect;
+    std::vector<LaneOrder> orders;
+    /// Which start of the run each order is.
+    std::vector<const StartEvent*> starts;
+    std::vector<LaneMark> marks;
+    std::vector<LaneText> texts;
+};
+
+/// A line over all rows.
+struct OverLine {
+    enum class Kind { Now, End, OtherEnd };
+
+    Kind kind = Kind::End;
+    double x = 0;
+    Color color = Color::Text;
+    /// Nothing where there is no room for it.
+    std::optional<PlacedText> chip;
+};
+
+/// Of one width, zoom and place in the plan. The content must outlive it.
+class TimelineLayout {
+  public:
+    /// The content must have a run.
+    TimelineLayout(const TimelineContent& content, const TimelineRows& rows, const TimeScale& scale,
+                   const TextWidth& widthOf);
+
+    [[nodiscard]] const TimelineRows& Rows() const { return m_rows; }
+    [[nodiscard]] const TimeScale& Scale() const { return m_scale; }
+    [[nodiscard]] const std::array<LaneLayout, kLaneQueues.size()>& Lanes() const {
+        return m_lanes;
+    }
+    [[nodiscard]] const std::vector<WaitPiece>& Waits() const { return m_waits; }
+    [[nodiscard]] const std::vector<OverLine>& Lines() const { return m_lines; }
+    /// Production rows, by their starts.
+    [[nodiscard]] const std::vector<const StartEvent*>& Productions() const {
+        return m_productions;
+    }
+    [[nodiscard]] const std::vector<PlacedText>& Days() const { return m_days; }
+    [[nodiscard]] const std::vector<NightBand>& Nights() const { return m_nights; }
+    [[nodiscard]] const std::vector<NightBand>& ProposedNights() const { return m_proposedNights; }
+
+    [[nodiscard]] const PerResource<StockField>& Stocks() const { return m_stocks; }
+    [[nodiscard]] const EnergyField& Energy() const { return m_energy; }
+
+    [[nodiscard]] QRectF PictureOf(const LaneLayout& lane, const LaneMark& mark) const;
+    /// At least 2 wide.
+    [[nodiscard]] QRectF BarOf(const LaneLayout& lane, const LaneOrder& order) const;
+
+    /// The row whose picture, bar or wait is at a point, or 3 pixels beside it.
+    [[nodiscard]] std::optional<std::size_t> RowAt(const QPointF& position) const;
+
+  private:
+    void LayOutLines(const TextWidth& widthOf);
+    void LayOutLane(std::size_t index, const TextWidth& widthOf);
+
+    const TimelineContent& m_content;
+    TimelineRows m_rows;
+    TimeScale m_scale;
+    std::array<LaneLayout, kLaneQueues.size()> m_lanes;
+    std::vector<WaitPiece> m_waits;
+    std::vector<OverLine> m_lines;
+    std::vector<const StartEvent*> m_productions;
+    std::vector<PlacedText> m_days;
+    std::vector<NightBand> m_nights;
+    std::vector<NightBand> m_proposedNights;
+    PerResource<StockField> m_stocks;
+    EnergyField m_energy;
+};
+
+}  // namespace tarvelin

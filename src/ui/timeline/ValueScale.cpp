@@ -1,0 +1,63 @@
+// Ranges and round values.
+#include "ui/timeline/ValueScale.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tarvelin {
+
+namespace {
+
+constexpr double kBeyond = 0.04;
+
+/// The multiples of a step that lie on the scale, without 0.
+std::vector<double> Multiples(const ValueScale& scale, double step, std::size_t most) {
+    std::vector<double> values;
+    for (double count = std::ceil(scale.from / step); count * step <= scale.to; ++count) {
+        if (count != 0) {
+            values.push_back(count * step);
+        }
+        if (values.size() > most) {
+            break;
+        }
+    }
+    return values;
+}
+
+}  // namespace
+
+ValueScale ValueScale::FromZero(double lowest, double highest) {
+    const double from = std::min(0.0, lowest * (1 + kBeyond));
+    return {.from = from, .to = std::max(from + 1, std::max(0.0, highest) * (1 + kBeyond))};
+}
+
+ValueScale ValueScale::Fitting(double lowest, double highest) {
+    constexpr double kShare = 0.6;
+    if (lowest <= kShare * highest || highest <= lowest) {
+        return FromZero(lowest, highest);
+    }
+    const double beyond = std::max(1.0, kBeyond * (highest - lowest));
+    return {.from = lowest - beyond, .to = highest + beyond};
+}
+
+std::vector<double> ValueScale::Figures(double height, double line) const {
+    constexpr std::size_t kMost = 2;
+    constexpr double kTen = 10;
+    const double begin = std::max(1.0, std::pow(kTen, std::floor(std::log10((to - from) / kTen))));
+    for (double power = begin; power <= kTen * (to - from); power *= kTen) {
+        for (const double factor : {1.0, 2.0, 2.5, 5.0}) {
+            const double step = factor * power;
+            if (step != std::floor(step)) {
+                continue;
+            }
+            const auto values = Multiples(*this, step, kMost);
+            const bool isApart = values.size() < 2 || height * step / (to - from) >= line;
+            if (!values.empty() && values.size() <= kMost && isApart) {
+                return values;
+            }
+        }
+    }
+    return {};
+}
+
+}  // namespace tarvelin
