@@ -167,7 +167,10 @@ Finding CheckAxis(const TimelineLayout& layout, const View& view) {
     std::vector<PlacedText> hours = HourLabels(begin, view.scale, chips, view.widthOf);
     hours.insert(hours.end(), chips.begin(), chips.end());
     std::vector<PlacedText> nights;
-    for (const NightBand& night : layout.Nights()) {
+    std::vector<NightBand> bands = layout.Nights();
+    std::ranges::copy_if(layout.ProposedNights(), std::back_inserter(bands),
+                         [](const NightBand& night) { return !night.label.isEmpty(); });
+    for (const NightBand& night : bands) {
         nights.push_back({.left = night.from, .width = night.until - night.from, .text = {}});
         if (view.widthOf(night.label) > night.until - night.from) {
             return "a night is narrower than its label";
@@ -195,19 +198,27 @@ Finding CheckWaits(const TimelineLayout& layout, const View& view) {
         [](const WaitPiece& piece) { return piece.until; });
 }
 
-template <class Field>
-Finding CheckScale(const Field& field, double line) {
-    if (field.rect.isEmpty()) {
-        return "";
-    }
-    double below = field.rect.bottom() + line;
-    for (const double figure : field.figures) {
-        if (field.Y(figure) > below - line + 1e-6 || field.Y(figure) < field.rect.top()) {
-            return "figures don't grow, touch or leave the field";
+/// From the top of the timeline to its foot, so from the greatest figure of a field to its least.
+Finding CheckFigures(const TimelineLayout& layout, const View& view) {
+    double last = 0;
+    const auto check = [&](const auto& field) {
+        double below = field.rect.bottom();
+        double highest = below;
+        for (const double figure : field.figures) {
+            if (field.Y(figure) > below - view.rows.line + 4 ||
+                field.Y(figure) < field.rect.top()) {
+                return false;
+            }
+            below = field.Y(figure) - 4;
+            highest = std::min(highest, field.Y(figure));
         }
-        below = field.Y(figure);
-    }
-    return field.figures.size() > 2 ? "too many figures" : "";
+        const bool isApart = field.figures.empty() || highest - last >= view.rows.line;
+        last = field.figures.empty() ? last : field.Y(field.figures.front());
+        return isApart && field.figures.size() <= 2;
+    };
+    return std::ranges::all_of(layout.Stocks(), check) && check(layout.Energy())
+               ? ""
+               : "figures don't grow, touch or leave their field";
 }
 
 Finding CheckFields(const TimelineLayout& layout, const View& view) {
@@ -216,10 +227,9 @@ Finding CheckFields(const TimelineLayout& layout, const View& view) {
         std::ranges::transform(all, std::back_inserter(placed), &FieldText::text);
         return placed;
     };
-    std::vector<Finding> findings{CheckScale(layout.Energy(), view.rows.line),
+    std::vector<Finding> findings{CheckFigures(layout, view),
                                   TextsApart("factors", texts(layout.Energy().factors), view)};
     for (const StockField& field : layout.Stocks()) {
-        findings.push_back(CheckScale(field, view.rows.line));
         findings.push_back(TextsApart("rates", texts(field.rates), view));
         for (const QPointF& point : field.curve) {
             if (!field.rect.adjusted(-1, -1, 1, 1).contains(point)) {

@@ -88,14 +88,17 @@ std::optional<std::int64_t> HourStep(double perSecond, double labelWidth) {
     return std::nullopt;
 }
 
-std::int64_t DayStep(double perSecond, double dateWidth) {
-    const auto fits = [&](std::int64_t days) {
-        return static_cast<double>(days * kDay) * perSecond >= dateWidth + 2 * kGap;
-    };
-    std::int64_t step = fits(1) ? 1 : fits(2) ? 2 : 7;
+std::int64_t DayStep(double perSecond, const TextWidth& widthOf) {
+    const double shortDate = widthOf(QStringLiteral("00.00.")) + 2 * kGap;
+    const double date = widthOf(QStringLiteral("00.00.0000")) + 2 * kGap;
+    const double day = static_cast<double>(kDay) * perSecond;
+    if (day >= shortDate) {
+        return 1;
+    }
+    std::int64_t step = 2 * day >= date ? 2 : 7;
     // The clock ends before that.
     constexpr std::int64_t kLongest = 100'000;
-    while (step > 2 && step < kLongest && !fits(step)) {
+    while (step > 2 && step < kLongest && static_cast<double>(step) * day < date) {
         step *= 2;
     }
     return step;
@@ -113,7 +116,7 @@ std::vector<std::int64_t> GridSeconds(DateTime begin, const TimeScale& scale, st
 
 std::vector<PlacedText> DayLabels(DateTime begin, const TimeScale& scale,
                                   const TextWidth& widthOf) {
-    const std::int64_t step = DayStep(scale.perSecond, widthOf(QStringLiteral("00.00.")));
+    const std::int64_t step = DayStep(scale.perSecond, widthOf);
     const auto x = [&](DateTime time) {
         return scale.X(static_cast<double>(time.Seconds() - begin.Seconds()));
     };

@@ -89,18 +89,20 @@ class CardLayout {
     CardLayout(const TimelineCanvas& canvas, const std::vector<CardLine>& lines)
         : m_canvas(canvas), m_line(std::max(kLine, canvas.Line() + 1)) {
         for (const CardLine& line : lines) {
-            const double sign = line.symbol ? kSymbolSide + kGap : 0;
-            m_words = std::max(m_words, line.words.isEmpty() && line.figure.isEmpty()
-                                            ? 0
-                                            : sign + canvas.WidthOf(line.caption) + kGap);
+            const double caption = canvas.WidthOf(line.caption) + 2 * kGap;
+            if (!line.words.isEmpty()) {
+                m_words = std::max(m_words, caption);
+            } else if (!line.figure.isEmpty()) {
+                m_figures = std::max(m_figures, kSymbolSide + kGap + caption);
+            }
             m_figure = std::max(m_figure, canvas.BoldWidthOf(line.figure));
         }
         m_width = kWidth;
         for (const CardLine& line : lines) {
             const double right = line.right.isEmpty() ? 0 : canvas.WidthOf(line.right) + 2 * kGap;
-            const double middle = line.figure.isEmpty() ? canvas.WidthOf(line.words) : m_figure;
-            const bool isTitle = line.words.isEmpty() && line.figure.isEmpty();
-            const double left = isTitle ? canvas.BoldWidthOf(line.caption) : m_words + middle;
+            const double left = !line.words.isEmpty()    ? m_words + canvas.WidthOf(line.words)
+                                : !line.figure.isEmpty() ? m_figures + m_figure
+                                                         : canvas.BoldWidthOf(line.caption);
             m_width = std::max(m_width, 2 * kMargin + left + right);
         }
         m_height = m_line * static_cast<double>(lines.size()) + 2 * kMargin - 2;
@@ -123,7 +125,7 @@ class CardLayout {
                               line.symbol ? Color::Text : Color::Weak);
             }
             m_canvas.Text(left + m_words, top, m_line, line.words, Color::Text);
-            m_canvas.BoldText(left + m_words + m_figure - m_canvas.BoldWidthOf(line.figure), top,
+            m_canvas.BoldText(left + m_figures + m_figure - m_canvas.BoldWidthOf(line.figure), top,
                               m_line, line.figure, Color::Text);
             m_canvas.RightText(card.right() - kMargin, top, m_line, line.right, line.rightColor);
             top += m_line;
@@ -135,7 +137,9 @@ class CardLayout {
 
     const TimelineCanvas& m_canvas;
     double m_line;
+    /// Where words and figures begin, and how wide the widest figure is.
     double m_words = 0;
+    double m_figures = 0;
     double m_figure = 0;
     double m_width = 0;
     double m_height = 0;

@@ -36,6 +36,14 @@ TimelineLayout::TimelineLayout(const TimelineContent& content, const TimelineRow
     m_stocks = StockFieldsOf(content, fields, scale, rows.line, widthOf);
     m_energy = EnergyFieldOf(*content.run, rows.PlotPart(rows.energy), scale, rows.line, widthOf);
     m_proposedNights = NightBands(content.proposedNights, conditions.StartDate, scale, widthOf);
+    // Where a night of the plan is, its label stands.
+    for (NightBand& proposed : m_proposedNights) {
+        if (std::ranges::any_of(m_nights, [&](const NightBand& night) {
+                return night.from < proposed.until && proposed.from < night.until;
+            })) {
+            proposed.label.clear();
+        }
+    }
     for (std::size_t i = 0; i < m_lanes.size(); ++i) {
         LayOutLane(i, widthOf);
     }

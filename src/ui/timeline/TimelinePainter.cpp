@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "simulation/MomentState.h"
 #include "ui/timeline/HatchLines.h"
@@ -32,6 +33,20 @@ QString MonthText(DateTime day) {
     const QStringList parts = ToQString(DateText(day)).split(QLatin1Char('.'));
     return QString::fromUtf8(kMonths.at(static_cast<std::size_t>(parts[1].toInt() - 1))) +
            QLatin1Char(' ') + parts[2];
+}
+
+/// "2.500", "2,5 Mio.".
+QString FigureText(double value) {
+    struct Unit {
+        double size;
+        const char* name;
+    };
+    for (const Unit& unit : {Unit{1e12, " Bio."}, Unit{1e9, " Mrd."}, Unit{1e6, " Mio."}}) {
+        if (std::abs(value) >= unit.size) {
+            return ToQString(DecimalText(value / unit.size, 1) + unit.name);
+        }
+    }
+    return ToQString(GroupedText(value));
 }
 
 }  // namespace
@@ -112,12 +127,12 @@ void TimelinePainter::PaintGrid() const {
         }
     };
     constexpr std::int64_t kDay = 86400;
-    const double label = m_canvas.WidthOf(QStringLiteral("00:00"));
+    const TextWidth widthOf = [&](const QString& text) { return m_canvas.WidthOf(text); };
+    const double label = widthOf(QStringLiteral("00:00"));
     if (const auto step = HourStep(m_scale.perSecond, label); step && *step < kDay) {
         lines(*step, Color::Line);
     }
-    lines(kDay * DayStep(m_scale.perSecond, m_canvas.WidthOf(QStringLiteral("00.00."))),
-          Color::LineStrong);
+    lines(kDay * DayStep(m_scale.perSecond, widthOf), Color::LineStrong);
     for (const Resource resource : kResources) {
         const StockField& field = m_layout.Stocks()[resource];
         for (const double figure : field.figures) {
@@ -513,11 +528,8 @@ void TimelinePainter::PaintFigures(const QRectF& field, const ValueScale& scale,
                                    const std::vector<double>& figures) const {
     const double line = m_canvas.Line();
     for (const double figure : figures) {
-        const double y = field.top() + scale.Down(figure, field.height());
-        const double top =
-            std::clamp(y - line / 2, field.top(), std::max(field.top(), field.bottom() - line));
-        m_canvas.Text(m_rows.plot.right() + kGap, top, line, ToQString(GroupedText(figure)),
-                      Color::Weak);
+        const double top = field.top() + scale.Down(figure, field.height()) - line / 2;
+        m_canvas.Text(m_rows.plot.right() + kGap, top, line, FigureText(figure), Color::Weak);
     }
 }
 

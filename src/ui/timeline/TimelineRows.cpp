@@ -86,6 +86,9 @@ Heights Share(const TimelineSpace& space) {
         heights.lane = kMargin + heights.bar + kMargin;
         heights.field = small;
         heights.energy = small;
+        const double left = space.rect.height() - WholeHeight(heights, space);
+        heights.field += std::max(0.0, left / kFields);
+        heights.energy = heights.field;
     }
     return heights;
 }

@@ -9,11 +9,13 @@ namespace tarvelin {
 namespace {
 
 constexpr double kBeyond = 0.04;
+/// In pixels.
+constexpr double kBetweenFields = 4;
 
-/// The multiples of a step that lie on the scale, without 0.
-std::vector<double> Multiples(const ValueScale& scale, double step, std::size_t most) {
+/// The multiples of a step from `lowest` to `highest`, without 0; one more than `most` at the most.
+std::vector<double> Multiples(double lowest, double highest, double step, std::size_t most) {
     std::vector<double> values;
-    for (double count = std::ceil(scale.from / step); count * step <= scale.to; ++count) {
+    for (double count = std::ceil(lowest / step); count * step <= highest; ++count) {
         if (count != 0) {
             values.push_back(count * step);
         }
@@ -43,6 +45,7 @@ ValueScale ValueScale::Fitting(double lowest, double highest) {
 std::vector<double> ValueScale::Figures(double height, double line) const {
     constexpr std::size_t kMost = 2;
     constexpr double kTen = 10;
+    const double lowest = from + (to - from) * (line - kBetweenFields) / height;
     const double begin = std::max(1.0, std::pow(kTen, std::floor(std::log10((to - from) / kTen))));
     for (double power = begin; power <= kTen * (to - from); power *= kTen) {
         for (const double factor : {1.0, 2.0, 2.5, 5.0}) {
@@ -50,7 +53,7 @@ std::vector<double> ValueScale::Figures(double height, double line) const {
             if (step != std::floor(step)) {
                 continue;
             }
-            const auto values = Multiples(*this, step, kMost);
+            const auto values = Multiples(lowest, to, step, kMost);
             const bool isApart = values.size() < 2 || height * step / (to - from) >= line;
             if (!values.empty() && values.size() <= kMost && isApart) {
                 return values;

@@ -67,8 +67,11 @@ void WorkbenchSurface::Arrange() {
     splitter->addWidget(m_timeline);
     splitter->setChildrenCollapsible(false);
     splitter->setHandleWidth(5);
-    splitter->setStretchFactor(0, 2);
-    splitter->setStretchFactor(1, 3);
+    // What both need at the least window; more height is shared.
+    constexpr int kList = 250;
+    splitter->setSizes({kList, m_timeline->sizeHint().height()});
+    splitter->setStretchFactor(0, 1);
+    splitter->setStretchFactor(1, 1);
 
     m_stack->addWidget(splitter);
     m_stack->addWidget(m_startPage);
