@@ -1,7 +1,7 @@
 #!/usr/bin/python3
-"""A player's first evening at the workbench: he drags a row, reads both windows, saves a picture,
-compares with a file, searches by pictures and names, looks at the find and takes it over, sleeps by
-rule, begins anew with an opening, and asks for help.
+"""A player's first evening at the workbench: he drags a row, reads both windows, walks through the
+timeline, saves pictures, compares with a file, searches by pictures and names, looks at the find and
+takes it over, sleeps by rule, begins anew with an opening, and asks for help.
 
     workbench_test.py FOLDER_OF_THE_PROGRAMS
 """
@@ -46,12 +46,43 @@ def drag_row(workbench, row, target):
             "mousemove", to_x, to_y, "mousemove", to_x, to_y - 5, "sleep", 0.1, "mouseup", 1)
 
 
-def check_picture(workbench, file):
-    workbench.click("push button", "Als Bild")
-    workbench.choose_file(file)
-    message(workbench, f"Gespeichert: {file}")
+def png_width(file):
     with open(file, "rb") as stream:
-        assert stream.read().startswith(b"\x89PNG")
+        head = stream.read(24)
+    assert head.startswith(b"\x89PNG"), head
+    return int.from_bytes(head[16:20], "big")
+
+
+def check_pictures(workbench, folder):
+    """The poster has its own width, the section that of the timeline, both doubled."""
+    poster, section = (os.path.join(folder, name) for name in ("poster.png", "section.png"))
+    workbench.click("push button", "Als Bild")
+    workbench.choose_file(poster)
+    message(workbench, f"Gespeichert: {poster}")
+    assert png_width(poster) == 2400, png_width(poster)
+    xdotool("key", "alt+d", "sleep", 0.3, "key", "a")
+    workbench.choose_file(section)
+    message(workbench, f"Gespeichert: {section}")
+    assert png_width(section) == 2 * timeline(workbench).get_extents(0).width, png_width(section)
+
+
+def timeline(workbench):
+    return workbench.find("filler", "Zeitleiste")
+
+
+def walk_timeline(workbench):
+    """Zooms at the pointer, goes from order to order by keys, shows the whole plan again."""
+    node = timeline(workbench)
+    starts = [row[2] for row in orders(workbench)]
+
+    def at(row):
+        wait_for(lambda: node.get_description().startswith(starts[row]), f"the order {row + 1}")
+    xdotool("mousemove", *workbench.center(node), *["click", 4] * 6, "click", 1)
+    for key, row in (("Home", 0), ("Right", 1), ("Right", 2), ("Left", 1), ("End", -1)):
+        xdotool("key", key)
+        at(row)
+    xdotool("key", "0", "mousemove", 5, 5)
+    wait_for(lambda: not node.get_description(), "a timeline without a cursor")
 
 
 def message(workbench, begin):
@@ -144,7 +175,8 @@ def main(programs):
         wait_for(lambda: orders(workbench)[0][1] == before[1], "a row that was moved")
         after = expect_agreement(program, workbench)
         assert after == [before[1], before[0], *before[2:]], after
-        check_picture(workbench, os.path.join(temp, "picture.png"))
+        walk_timeline(workbench)
+        check_pictures(workbench, temp)
         compare_with_file(workbench, STARTER_PLAN)
         xdotool("key", "ctrl+z")
         wait_for(lambda: orders(workbench)[0][1] == before[0], "the undo")
