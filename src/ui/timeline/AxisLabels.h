@@ -17,8 +17,8 @@ namespace tarvelin {
 /// that gives a label room; nothing if a day gives none.
 [[nodiscard]] std::optional<std::int64_t> HourStep(double perSecond, double labelWidth);
 
-/// Days between two midnights that are marked, so that their dates have room: 1, 2, 7, 14, 28 and so
-/// on, doubled. From 2 days on a date needs its year.
+/// Days between two midnights that are marked, so that their dates have room: 1, 2, 7, 14, 28 and
+/// so on, doubled. From 2 days on a date needs its year.
 [[nodiscard]] std::int64_t DayStep(double perSecond, const TextWidth& widthOf);
 
 /// The multiples of `step` in sight, in seconds since `begin`.

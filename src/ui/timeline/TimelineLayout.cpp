@@ -2,7 +2,6 @@
 #include "ui/timeline/TimelineLayout.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include "simulation/RunTexts.h"
 #include "ui/widgets/Controls.h"
@@ -16,6 +15,12 @@ constexpr double kNamesFromPerHour = 9;
 /// More chosen rows than these are a selection of much, not of single orders; their pictures are
 /// framed, and don't push all others away.
 constexpr std::size_t kMostChosenApart = 12;
+
+/// Or 3 pixels beside it.
+bool IsAt(const QPointF& position, const QRectF& rect) {
+    constexpr double kBeside = 3;
+    return rect.adjusted(-kBeside, 0, kBeside, 0).contains(position);
+}
 
 }  // namespace
 
@@ -128,37 +133,40 @@ QRectF TimelineLayout::BarOf(const LaneLayout& lane, const LaneOrder& order) con
             std::max(kNarrowest, order.finish - order.start), m_rows.bar};
 }
 
+std::optional<std::size_t> TimelineLayout::RowInLane(const LaneLayout& lane,
+                                                     const QPointF& position) const {
+    // What is painted last lies on top.
+    const auto mark =
+        std::find_if(lane.marks.rbegin(), lane.marks.rend(), [&](const LaneMark& candidate) {
+            QRectF picture = PictureOf(lane, candidate);
+            picture.setRight(candidate.right);
+            return picture.contains(position);
+        });
+    if (mark != lane.marks.rend()) {
+        return lane.orders[mark->first].row;
+    }
+    const auto order = std::find_if(
+        lane.orders.rbegin(), lane.orders.rend(),
+        [&](const LaneOrder& candidate) { return IsAt(position, BarOf(lane, candidate)); });
+    return order == lane.orders.rend() ? std::nullopt : std::optional(order->row);
+}
+
 std::optional<std::size_t> TimelineLayout::RowAt(const QPointF& position) const {
-    constexpr double kBeside = 3;
-    const auto isAt = [&](const QRectF& rect) {
-        return rect.adjusted(-kBeside, 0, kBeside, 0).contains(position);
-    };
     for (const LaneLayout& lane : m_lanes) {
-        if (!lane.rect.contains(position)) {
-            continue;
-        }
-        for (const LaneMark& mark : std::views::reverse(lane.marks)) {
-            QRectF picture = PictureOf(lane, mark);
-            picture.setRight(mark.right);
-            if (picture.contains(position)) {
-                return lane.orders[mark.first].row;
-            }
-        }
-        for (const LaneOrder& order : std::views::reverse(lane.orders)) {
-            if (isAt(BarOf(lane, order))) {
-                return order.row;
-            }
+        if (const auto row =
+                lane.rect.contains(position) ? RowInLane(lane, position) : std::nullopt) {
+            return row;
         }
     }
     for (const WaitPiece& piece : m_waits) {
-        if (isAt(QRectF(piece.from, m_rows.waits.top(), piece.until - piece.from,
-                        m_rows.waits.height()))) {
+        if (IsAt(position, QRectF(piece.from, m_rows.waits.top(), piece.until - piece.from,
+                                  m_rows.waits.height()))) {
             return piece.row;
         }
     }
+    const QRectF content = m_rows.Content();
     for (const StartEvent* const start : m_productions) {
-        const QRectF content = m_rows.Content();
-        if (isAt(QRectF(m_scale.X(start->start), content.top(), 0, content.height()))) {
+        if (IsAt(position, QRectF(m_scale.X(start->start), content.top(), 0, content.height()))) {
             return start->row;
         }
     }

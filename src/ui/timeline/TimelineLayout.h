@@ -71,6 +71,8 @@ class TimelineLayout {
 
   private:
     void LayOutLines(const TextWidth& widthOf);
+    [[nodiscard]] std::optional<std::size_t> RowInLane(const LaneLayout& lane,
+                                                       const QPointF& position) const;
     void LayOutLane(std::size_t index, const TextWidth& widthOf);
 
     const TimelineContent& m_content;

@@ -20,8 +20,8 @@ struct ValueScale {
         return height * (to - value) / (to - from);
     }
     /// At most two values at lines, growing: neighbouring multiples of the smallest of 1, 2, 2.5 or
-    /// 5 times a power of ten that leaves `line` pixels, the height of a text, between them. None is
-    /// 0, or so low that its text would reach into the field below.
+    /// 5 times a power of ten that leaves `line` pixels, the height of a text, between them. None
+    /// is 0, or so low that its text would reach into the field below.
     [[nodiscard]] std::vector<double> Figures(double height, double line) const;
 };
 
