@@ -5,6 +5,7 @@
 """
 import os
 import shutil
+import subprocess
 import sys
 import tempfile
 
@@ -34,6 +35,27 @@ def capture(program, pictures):
         xdotool("sleep", 0.3, "key", letter)
         picture(name, title)
         xdotool("key", "alt+F4", "sleep", 0.3)
+
+
+def capture_timeline(workbench, pictures):
+    """An evening of the plan, and the poster."""
+    xdotool("key", "ctrl+1")
+    x, y = workbench.center(workbench.find("filler", "Zeitleiste"), 0.72)
+    xdotool("mousemove", x, y, *["click", 4] * 9, "sleep", 0.5)
+    section = os.path.join(pictures, "workbench-timeline.png")
+    workbench.screenshot(section, "Tarvelin Werkbank")
+    node = workbench.find("filler", "Zeitleiste").get_extents(1)
+    subprocess.run(["convert", section, "-crop",
+                    f"{node.width}x{node.height}+{node.x}+{node.y}", "+repage", section], check=True)
+    xdotool("key", "0")
+    with tempfile.TemporaryDirectory() as temp:
+        poster = os.path.join(temp, "poster.png")
+        workbench.click("push button", "Als Bild")
+        workbench.choose_file(poster)
+        wait_for(lambda: (workbench.label_text("Meldung") or "").startswith("Gespeichert"),
+                 "a poster")
+        subprocess.run(["convert", poster, "-resize", "50%", "+dither", "-colors", "256", "-strip",
+                        "PNG8:" + os.path.join(pictures, "poster.png")], check=True)
 
 
 def capture_workbench(program, pictures):
@@ -69,6 +91,7 @@ def capture_workbench(program, pictures):
     wait_for(lambda: workbench.label_text("Dauer des Plans") != before, "the plan that was found")
     xdotool("key", "ctrl+3")
     picture("workbench-comparison")
+    capture_timeline(workbench, pictures)
     xdotool("key", "ctrl+1", "sleep", 0.2, "key", "ctrl+n")
     picture("workbench-start")
 

@@ -72,13 +72,16 @@ TEST(Run, DropsUnknownOrders) {
 }
 
 TEST(Run, SaysWhatHeldAnOrderBack) {
-    const auto texts = [](const char* tags, int buffer = 0, const char* sleepEnd = nullptr) {
+    const auto run = [](const char* tags, int buffer, const char* sleepEnd) {
         Plan plan = PlanOf(tags);
         plan.parameters.KlickPuffer = buffer;
         if (sleepEnd != nullptr) {
             plan.LV_Schlafzeiten = {{"18.11.2006 12:31", sleepEnd}};
         }
-        const RunTrace trace = TraceRun(plan);
+        return TraceRun(plan);
+    };
+    const auto texts = [&](const char* tags, int buffer = 0, const char* sleepEnd = nullptr) {
+        const RunTrace trace = run(tags, buffer, sleepEnd);
         std::vector<std::string> delays;
         for (std::size_t i = 0; i < trace.starts.size(); ++i) {
             delays.push_back(DelayText(trace, i));
@@ -98,6 +101,27 @@ TEST(Run, SaysWhatHeldAnOrderBack) {
     // The row before starts when the shipyard is done, one second before its queue is free.
     EXPECT_EQ(texts("GS GD GM GM GM GM GR GW WR GX:9:9:9").back(), "Bauschleife bis 13:58:24");
     EXPECT_EQ(texts("GS GD GM GM GM GM GR GW GW WR").back(), "Werftschleife: Ausbau");
+
+    // In few words, as a cause, and beside a symbol.
+    const auto words = [&](const char* tags, int buffer = 0, const char* sleepEnd = nullptr) {
+        const RunTrace trace = run(tags, buffer, sleepEnd);
+        std::vector<std::string> all;
+        for (const StartEvent& start : trace.starts) {
+            all.push_back(WaitText(trace, start) + "|" + WaitCauseText(trace, start) + "|" +
+                          BriefWaitText(trace, start));
+        }
+        return all;
+    };
+    EXPECT_EQ(words("GX:9:9:9 GM GM GX:1:1:1 GM", 5, "18.11.2006 20:00"),
+              (Texts{"Klickpuffer 5 s|Klick|Klick", "Klickpuffer 5 s|Klick|Klick",
+                     "Schlaf bis 20:00:00|Schlaf|bis 20:00",
+                     "Bauschleife bis 20:02:52|Bauschleife|Schleife", "Zeile 4|Zeile 4|Zeile 4"}));
+    EXPECT_EQ(words("GM GM GM GM GM GM GM GM GM").back(), "1.527 Metall|Metall|1.527");
+    EXPECT_EQ(words("GS GR GF").back(),
+              "Produktion von Deuterium|Produktion von Deuterium|"
+              "Produktion von Deuterium");
+    EXPECT_EQ(words("GS GD GM GM GM GM GR GW GW WR").back(),
+              "Werftschleife: Ausbau|Werftschleife|Schleife");
 }
 
 TEST(Wait, OfOneSecondHasACause) {

@@ -279,6 +279,37 @@ TEST(Timeline, LawsOfTheLayoutHoldForRandomPlans) {
     }
 }
 
+/// The two columns of a picture, without the plot between them.
+std::vector<QImage> ColumnsOf(const View& view, bool withPlot) {
+    QImage image(static_cast<int>(view.rows.legend.width()),
+                 static_cast<int>(view.rows.plot.height()), QImage::Format_RGB32);
+    image.fill(view.look.colors[Color::Window]);
+    QPainter painter(&image);
+    const TimelineCanvas canvas(painter, view.look);
+    const TimelineLayout layout = view.Layout();
+    const TimelinePainter timeline(canvas, view.content, layout);
+    if (withPlot) {
+        timeline.PaintPlot();
+    }
+    timeline.PaintColumns(SimTime());
+    painter.end();
+    const int left = static_cast<int>(std::floor(view.rows.plot.left()));
+    const int right = static_cast<int>(std::ceil(view.rows.plot.right()));
+    return {image.copy(0, 0, left, image.height()),
+            image.copy(right, 0, image.width() - right, image.height())};
+}
+
+TEST(Timeline, NothingReachesIntoTheColumns) {
+    for (unsigned seed = 0; seed < 8; ++seed) {
+        const TimelineContent content = ContentOf(PlanGenerator(seed).Next());
+        std::mt19937 random(seed);
+        for (int i = 0; i < 4; ++i) {
+            const View view(content, random);
+            EXPECT_EQ(ColumnsOf(view, true), ColumnsOf(view, false)) << "seed " << seed;
+        }
+    }
+}
+
 TEST(Timeline, NeighboursShareAPictureUntilThereIsRoom) {
     const auto marks = [](std::vector<LaneOrder> orders) {
         std::string text;

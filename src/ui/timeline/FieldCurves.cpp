@@ -111,10 +111,11 @@ std::optional<FieldText> PlaceClear(const QRectF& rect, double line, const Place
         last = point;
     }
     if (highest - rect.top() >= line + 1) {
-        return FieldText{text, rect.top() + 1};
+        return FieldText{.text = text, .top = rect.top() + 1};
     }
-    return rect.bottom() - lowest >= line ? std::optional(FieldText{text, rect.bottom() - line})
-                                          : std::nullopt;
+    return rect.bottom() - lowest >= line
+               ? std::optional(FieldText{text, rect.bottom() - line, true})
+               : std::nullopt;
 }
 
 /// Texts along a field: each stretch of one value has one, if it fits.
@@ -178,7 +179,7 @@ void AddFactors(EnergyField& field, const RunTrace& run, const TimeScale& scale,
     });
     texts.End(scale.X(run.Duration()));
     for (const PlacedText& text : texts.Texts()) {
-        field.factors.push_back({text, field.rect.bottom() - line});
+        field.factors.push_back({.text = text, .top = field.rect.bottom() - line});
     }
 }
 

@@ -17,6 +17,8 @@ struct FieldText {
     PlacedText text;
     /// In pixels.
     double top = 0;
+    /// Whether it stands below the curve.
+    bool below = false;
 };
 
 /// A field that isn't there has an empty rectangle and nothing else.

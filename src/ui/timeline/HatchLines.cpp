@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace tarvelin {
 
@@ -12,18 +13,36 @@ constexpr double kApart = 6;
 constexpr double kClose = 3;
 constexpr double kDots = 4;
 
+/// The places `anchor`, `anchor` + `apart` and so on that lie from `from` to `until`, the last left
+/// out.
+std::vector<double> Places(double anchor, double apart, double from, double until) {
+    const double first = anchor + std::ceil((from - anchor) / apart) * apart;
+    const auto count = static_cast<std::size_t>(std::max(0.0, std::ceil((until - first) / apart)));
+    std::vector<double> places(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        places[i] = first + static_cast<double>(i) * apart;
+    }
+    return places;
+}
+
 /// Lines at 45 degrees; `direction` is 1 for rising ones, -1 for falling ones.
 void AddSlanted(QList<QLineF>& lines, const QRectF& rect, double anchor, int direction) {
     const double height = rect.height();
-    // Where a line crosses the foot of a rising one, or the top of a falling one.
-    const double first = anchor + std::ceil((rect.left() - height - anchor) / kApart) * kApart;
-    for (double at = first; at < rect.right(); at += kApart) {
+    const double begin = direction > 0 ? rect.bottom() : rect.top();
+    for (const double at : Places(anchor, kApart, rect.left() - height, rect.right())) {
         const double from = std::max(0.0, rect.left() - at);
         const double until = std::min(height, rect.right() - at);
         if (from < until) {
-            const double begin = direction > 0 ? rect.bottom() : rect.top();
             lines << QLineF(at + from, begin - direction * from, at + until,
                             begin - direction * until);
+        }
+    }
+}
+
+void AddDots(QList<QLineF>& lines, const QRectF& rect, double anchor) {
+    for (const double x : Places(anchor, kDots, rect.left(), rect.right() - 1)) {
+        for (const double y : Places(rect.top() + kDots / 2, kDots, rect.top(), rect.bottom())) {
+            lines << QLineF(x, y, x + 1, y);
         }
     }
 }
@@ -46,26 +65,19 @@ QList<QLineF> HatchLines(Hatching hatching, const QRectF& rect, double anchor) {
             AddSlanted(lines, rect, anchor, -1);
             break;
         case Hatching::Level:
-            for (double y = rect.top() + kClose / 2; y < rect.bottom(); y += kClose) {
+            for (const double y :
+                 Places(rect.top() + kClose / 2, kClose, rect.top(), rect.bottom())) {
                 lines << QLineF(rect.left(), y, rect.right(), y);
             }
             break;
-        case Hatching::Upright: {
-            const double first = anchor + std::ceil((rect.left() - anchor) / kClose) * kClose;
-            for (double x = first; x < rect.right(); x += kClose) {
+        case Hatching::Upright:
+            for (const double x : Places(anchor, kClose, rect.left(), rect.right())) {
                 lines << QLineF(x, rect.top(), x, rect.bottom());
             }
             break;
-        }
-        case Hatching::Dots: {
-            const double first = anchor + std::ceil((rect.left() - anchor) / kDots) * kDots;
-            for (double x = first; x + 1 < rect.right(); x += kDots) {
-                for (double y = rect.top() + kDots / 2; y < rect.bottom(); y += kDots) {
-                    lines << QLineF(x, y, x + 1, y);
-                }
-            }
+        case Hatching::Dots:
+            AddDots(lines, rect, anchor);
             break;
-        }
     }
     return lines;
 }

@@ -90,11 +90,9 @@ void TimelinePainter::PaintGrounds() const {
                       Color::Background);
     }
     m_canvas.Fill(m_rows.PlotPart(m_rows.waits), Color::Lane);
-    constexpr PerResource<Color> kTints{
-        {Color::MetallTint, Color::KristallTint, Color::DeuteriumTint}};
     for (const Resource resource : kResources) {
         const StockField& field = m_layout.Stocks()[resource];
-        PaintTint(field.rect, field.curve, field.Y(0), kTints[resource]);
+        PaintTint(field.rect, field.curve, field.Y(0), LookOf(resource).ground);
     }
     const EnergyField& energy = m_layout.Energy();
     if (energy.scale.BeginsAtZero()) {
@@ -312,21 +310,25 @@ void TimelinePainter::PaintWaits() const {
 }
 
 void TimelinePainter::PaintStocks() const {
-    constexpr PerResource<Color> kColors{{Color::Metall, Color::Kristall, Color::Deuterium}};
     QPainter& painter = m_canvas.Painter();
     for (const Resource resource : kResources) {
+        const WaitLook look = LookOf(resource);
         const StockField& field = m_layout.Stocks()[resource];
         painter.setRenderHint(QPainter::Antialiasing);
         for (const QPolygonF& other : field.others) {
-            painter.setPen(DashedPen(m_canvas[kColors[resource]]));
+            painter.setPen(DashedPen(m_canvas[look.symbolColor]));
             painter.drawPolyline(other);
         }
-        painter.setPen(QPen(m_canvas[kColors[resource]], kCurve));
+        painter.setPen(QPen(m_canvas[look.symbolColor], kCurve));
         painter.drawPolyline(field.curve);
         painter.setRenderHint(QPainter::Antialiasing, false);
         for (const FieldText& rate : field.rates) {
+            // Below the band of a night it would be hard to read.
+            m_canvas.Fill(
+                QRectF(rate.text.left - 1, rate.top, rate.text.width + 2, m_canvas.Line()),
+                rate.below ? look.ground : Color::Background);
             m_canvas.Text(rate.text.left, rate.top, m_canvas.Line(), rate.text.text,
-                          kColors[resource]);
+                          look.symbolColor);
         }
     }
 }

@@ -46,14 +46,16 @@ std::vector<double> ValueScale::Figures(double height, double line) const {
     constexpr std::size_t kMost = 2;
     constexpr double kTen = 10;
     const double lowest = from + (to - from) * (line - kBetweenFields) / height;
-    const double begin = std::max(1.0, std::pow(kTen, std::floor(std::log10((to - from) / kTen))));
-    for (double power = begin; power <= kTen * (to - from); power *= kTen) {
+    // From a tenth of the range on a step has few multiples; no figure has decimals.
+    const int magnitude = static_cast<int>(std::floor(std::log10(to - from)));
+    for (int exponent = std::max(0, magnitude - 1); exponent <= magnitude + 1; ++exponent) {
+        const double power = std::pow(kTen, exponent);
         for (const double factor : {1.0, 2.0, 2.5, 5.0}) {
             const double step = factor * power;
             if (step != std::floor(step)) {
                 continue;
             }
-            const auto values = Multiples(lowest, to, step, kMost);
+            auto values = Multiples(lowest, to, step, kMost);
             const bool isApart = values.size() < 2 || height * step / (to - from) >= line;
             if (!values.empty() && values.size() <= kMost && isApart) {
                 return values;
