@@ -38,9 +38,9 @@ def capture(program, pictures):
 
 
 def capture_timeline(workbench, pictures):
-    """An evening of the plan, and the poster."""
+    """A morning of the plan, and the poster."""
     xdotool("key", "ctrl+1")
-    x, y = workbench.center(workbench.find("filler", "Zeitleiste"), 0.72)
+    x, y = workbench.center(workbench.find("filler", "Zeitleiste"), 0.42)
     xdotool("mousemove", x, y, *["click", 4] * 9, "sleep", 0.5)
     section = os.path.join(pictures, "workbench-timeline.png")
     workbench.screenshot(section, "Tarvelin Werkbank")
@@ -54,7 +54,7 @@ def capture_timeline(workbench, pictures):
         workbench.choose_file(poster)
         wait_for(lambda: (workbench.label_text("Meldung") or "").startswith("Gespeichert"),
                  "a poster")
-        subprocess.run(["convert", poster, "-resize", "50%", "+dither", "-colors", "256", "-strip",
+        subprocess.run(["convert", poster, "+dither", "-colors", "256", "-strip",
                         "PNG8:" + os.path.join(pictures, "poster.png")], check=True)
 
 

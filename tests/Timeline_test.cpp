@@ -50,16 +50,15 @@ struct View {
         scale.first = std::max(0.0, content.EndSecond() * upTo(100) / 100 - page / scale.perSecond);
     }
 
-    [[nodiscard]] TimelineLayout Layout() const { return {content, rows, scale, widthOf}; }
+    [[nodiscard]] TimelineLayout Layout() const { return {content, rows, scale, widths}; }
 
     const TimelineContent& content;
     TimelineLook look{
         .colors = WorkbenchColors(), .font = TimelineLook::CaptionFont(QFont()), .pictures = {}};
     TimelineRows rows;
     TimeScale scale;
-    TextWidth widthOf = [metrics = QFontMetricsF(look.font)](const QString& text) {
-        return metrics.horizontalAdvance(text);
-    };
+    TextWidths widths = WidthsOf(look.font);
+    TextWidth widthOf = widths.usual;
 };
 
 /// The first of several things that share a row and aren't apart, or not inside the plot.
@@ -166,6 +165,11 @@ Finding CheckAxis(const TimelineLayout& layout, const View& view) {
     }
     std::vector<PlacedText> hours = HourLabels(begin, view.scale, chips, view.widthOf);
     hours.insert(hours.end(), chips.begin(), chips.end());
+    for (const PlacedText& day : layout.Days()) {
+        if (day.width != view.widths.bold(day.text)) {
+            return "a day isn't as wide as its text";
+        }
+    }
     std::vector<PlacedText> nights;
     std::vector<NightBand> bands = layout.Nights();
     std::ranges::copy_if(layout.ProposedNights(), std::back_inserter(bands),

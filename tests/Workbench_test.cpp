@@ -462,7 +462,7 @@ TEST_F(WorkbenchWindow, SavesThePicture) {
     EXPECT_EQ(save("bild.SVG").find("Metallmine 2") != std::string::npos, HasSvg())
         << "words stay words";
     const QImage png = QImage::fromData(QByteArray::fromStdString(save("bild.png")));
-    EXPECT_EQ(png.width(), 2400) << "always as wide, and twice as sharp";
+    EXPECT_EQ(png.width(), 1200) << "always as wide";
     EXPECT_EQ(png.pixelColor(2, 2), QColor(Qt::white));
     // What is in sight is saved as it is.
     auto& timeline = Page<TimelineView>("Zeitleiste");

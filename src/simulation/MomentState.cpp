@@ -64,8 +64,7 @@ std::string FactorText(const HistoryPoint& point) {
 }
 
 std::string RateText(FixedPoint perHour) {
-    const std::string text = GroupedText(perHour.ToDouble());
-    return (text.starts_with('-') ? "" : "+") + text + "/h";
+    return (perHour.WholePart() < 0 ? "" : "+") + GroupedText(perHour.ToDouble()) + "/h";
 }
 
 }  // namespace tarvelin

@@ -30,7 +30,7 @@ struct MomentState {
 /// "Faktor 0,95"; empty where the mines have all their energy.
 [[nodiscard]] std::string FactorText(const HistoryPoint& point);
 
-/// "+509/h", rounded towards zero.
+/// "+509/h", "−12/h"; truncated towards zero.
 [[nodiscard]] std::string RateText(FixedPoint perHour);
 
 }  // namespace tarvelin

@@ -133,12 +133,12 @@ std::string WholeText(double value) {
 
 std::string GroupedText(double value) {
     constexpr std::ptrdiff_t kGroup = 3;
-    std::string text = WholeText(value);
-    const std::ptrdiff_t first = text.front() == '-' ? 1 : 0;
-    for (auto end = std::ssize(text) - kGroup; end > first; end -= kGroup) {
+    std::string text = WholeText(std::abs(value));
+    for (auto end = std::ssize(text) - kGroup; end > 0; end -= kGroup) {
         text.insert(static_cast<std::size_t>(end), ".");
     }
-    return text;
+    // What is truncated to 0 has no sign.
+    return value <= -1 ? "−" + text : text;
 }
 
 }  // namespace tarvelin

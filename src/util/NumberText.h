@@ -26,7 +26,7 @@ namespace tarvelin {
 /// `value` truncated towards zero, in full without an exponent.
 [[nodiscard]] std::string WholeText(double value);
 
-/// The same with a full stop between thousands: "1.067".
+/// The same to be read: with a full stop between thousands and a real minus sign: "−1.067".
 [[nodiscard]] std::string GroupedText(double value);
 
 }  // namespace tarvelin

@@ -54,12 +54,12 @@ def png_width(file):
 
 
 def check_pictures(workbench, folder):
-    """The poster has its own width, the section that of the timeline, both doubled."""
+    """The poster has its own width, the section that of the timeline, doubled."""
     poster, section = (os.path.join(folder, name) for name in ("poster.png", "section.png"))
     workbench.click("push button", "Als Bild")
     workbench.choose_file(poster)
     message(workbench, f"Gespeichert: {poster}")
-    assert png_width(poster) == 2400, png_width(poster)
+    assert png_width(poster) == 1200, png_width(poster)
     xdotool("key", "alt+d", "sleep", 0.3, "key", "a")
     workbench.choose_file(section)
     message(workbench, f"Gespeichert: {section}")

@@ -16,6 +16,9 @@ QByteArray ToSvg(const QSize& size, const std::function<void(QPainter&)>& draw) 
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
     generator.setTitle(QStringLiteral("Tarvelin"));
+    // A pixel is that of a web page.
+    constexpr int kDotsPerInch = 96;
+    generator.setResolution(kDotsPerInch);
     generator.setSize(size);
     generator.setViewBox(QRect(QPoint(), size));
     QPainter painter(&generator);

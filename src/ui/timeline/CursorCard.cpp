@@ -159,12 +159,15 @@ std::vector<CardLine> CardLines(const RunTrace& run, SimTime moment) {
 }
 
 void PaintCard(const TimelineCanvas& canvas, const std::vector<CardLine>& lines, double x,
-               const QRectF& plot) {
+               const QRectF& plot, const QRectF& bounds) {
     const CardLayout layout(canvas, lines);
     const QSizeF size = layout.Size();
     const bool isRight = plot.right() - x >= x - plot.left();
     const double left = isRight ? x + kBesideCursor : x - kBesideCursor - size.width();
-    const QRectF card(QPointF(left, std::max(plot.top(), plot.bottom() - size.height())), size);
+    const double last = std::max(bounds.left(), bounds.right() - size.width());
+    const QRectF card(QPointF(std::clamp(left, bounds.left(), last),
+                              std::max(bounds.top(), plot.bottom() - size.height())),
+                      size);
     canvas.Fill(card, Color::Background);
     canvas.Frame(card, Color::Text);
     layout.Paint(lines, card);

@@ -29,8 +29,9 @@ struct CardLine {
 /// stocks with their rates, energy as supply and need with the factor.
 [[nodiscard]] std::vector<CardLine> CardLines(const RunTrace& run, SimTime moment);
 
-/// 12 pixels beside `x`, on the side with more room; its foot stands on the plot's.
+/// 12 pixels beside `x`, on the side with more room; its foot stands on the plot's. Never outside
+/// of `bounds`.
 void PaintCard(const TimelineCanvas& canvas, const std::vector<CardLine>& lines, double x,
-               const QRectF& plot);
+               const QRectF& plot, const QRectF& bounds);
 
 }  // namespace tarvelin

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 #include <optional>
 #include <utility>
 
@@ -97,24 +98,56 @@ void ToPixels(QPolygonF& curve, const Field& field) {
     }
 }
 
-/// Places a text at the top or the foot of a field, where no point of a curve comes near.
-std::optional<FieldText> PlaceClear(const QRectF& rect, double line, const PlacedText& text,
-                                    const QPolygonF& curve) {
-    double highest = rect.bottom();
-    double lowest = rect.top();
-    QPointF last = curve.isEmpty() ? QPointF() : curve.front();
-    for (const QPointF& point : curve) {
-        if (point.x() >= text.left && last.x() <= text.Right()) {
-            highest = std::min({highest, last.y(), point.y()});
-            lowest = std::max({lowest, last.y(), point.y()});
+/// The highest and the lowest place of curves along a text, in pixels from the top.
+struct Reach {
+    double highest;
+    double lowest;
+};
+
+Reach ReachAlong(const PlacedText& text, const QRectF& rect,
+                 std::initializer_list<const QPolygonF*> curves) {
+    Reach reach{rect.bottom(), rect.top()};
+    for (const QPolygonF* const curve : curves) {
+        QPointF last = curve->isEmpty() ? QPointF() : curve->front();
+        for (const QPointF& point : *curve) {
+            if (point.x() >= text.left && last.x() <= text.Right()) {
+                reach.highest = std::min({reach.highest, last.y(), point.y()});
+                reach.lowest = std::max({reach.lowest, last.y(), point.y()});
+            }
+            last = point;
         }
-        last = point;
     }
-    if (highest - rect.top() >= line + 1) {
-        return FieldText{.text = text, .top = rect.top() + 1};
+    return reach;
+}
+
+/// At the top of a field, else at its foot, where the curve leaves room.
+std::optional<FieldText> PlaceRate(const StockField& field, double line, const PlacedText& text) {
+    const Reach reach = ReachAlong(text, field.rect, {&field.curve});
+    if (reach.highest - field.rect.top() > line) {
+        return FieldText{.text = text, .top = field.rect.top() + 1};
     }
-    return rect.bottom() - lowest >= line
-               ? std::optional(FieldText{text, rect.bottom() - line, true})
+    return field.rect.bottom() - reach.lowest >= line
+               ? std::optional(
+                     FieldText{.text = text, .top = field.rect.bottom() - line, .below = true})
+               : std::nullopt;
+}
+
+/// At the foot of the field, else where energy lacks, else at the top.
+std::optional<FieldText> PlaceFactor(const EnergyField& field, double line,
+                                     const PlacedText& text) {
+    const Reach reach = ReachAlong(text, field.rect, {&field.supply, &field.need});
+    if (field.rect.bottom() - reach.lowest >= line) {
+        return FieldText{.text = text, .top = field.rect.bottom() - line};
+    }
+    const auto deficit = std::ranges::find_if(field.deficits, [&](const QRectF& candidate) {
+        return candidate.left() <= text.left && text.Right() <= candidate.right() &&
+               candidate.height() > line;
+    });
+    if (deficit != field.deficits.end()) {
+        return FieldText{.text = text, .top = deficit->center().y() - line / 2};
+    }
+    return reach.highest - field.rect.top() > line
+               ? std::optional(FieldText{.text = text, .top = field.rect.top()})
                : std::nullopt;
 }
 
@@ -161,7 +194,7 @@ void AddRates(StockField& field, const RunTrace& run, Resource resource, const T
     });
     texts.End(scale.X(run.Duration()));
     for (const PlacedText& text : texts.Texts()) {
-        if (const auto clear = PlaceClear(field.rect, line, text, field.curve)) {
+        if (const auto clear = PlaceRate(field, line, text)) {
             field.rates.push_back(*clear);
         }
     }
@@ -179,7 +212,9 @@ void AddFactors(EnergyField& field, const RunTrace& run, const TimeScale& scale,
     });
     texts.End(scale.X(run.Duration()));
     for (const PlacedText& text : texts.Texts()) {
-        field.factors.push_back({.text = text, .top = field.rect.bottom() - line});
+        if (const auto clear = PlaceFactor(field, line, text)) {
+            field.factors.push_back(*clear);
+        }
     }
 }
 

@@ -18,7 +18,7 @@ std::optional<double> FirstPlace(double from, double until, double width,
                                  const std::vector<double>& lines) {
     double left = from;
     for (const double line : lines) {
-        if (line > left && line < until && left + width + kGap > line) {
+        if (line > left - kGap && line < until && left + width + kGap > line) {
             left = line + kGap;
         }
     }

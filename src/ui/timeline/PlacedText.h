@@ -9,6 +9,12 @@ namespace tarvelin {
 /// How wide a text is, in pixels.
 using TextWidth = std::function<double(const QString&)>;
 
+/// The same for the usual texts and for bold ones.
+struct TextWidths {
+    TextWidth usual;
+    TextWidth bold;
+};
+
 struct PlacedText {
     double left = 0;
     double width = 0;

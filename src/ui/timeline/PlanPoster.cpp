@@ -42,11 +42,11 @@ constexpr double kHead = 22;
 constexpr double kRow = 22;
 constexpr int kRowPicture = 18;
 /// From a column's left edge.
-constexpr double kNumberRight = 22;
-constexpr double kPictureLeft = 26;
-constexpr double kNameLeft = 47;
-constexpr double kStartRight = 294;
-constexpr double kWaitLeft = 300;
+constexpr double kNumberRight = 21;
+constexpr double kPictureLeft = 24;
+constexpr double kNameLeft = 45;
+constexpr double kStartRight = 296;
+constexpr double kWaitLeft = 301;
 
 constexpr int kLevelPicture = 40;
 constexpr double kLevelApart = 48;
@@ -169,8 +169,7 @@ void PlanPoster::PaintTimeline(const TimelineCanvas& canvas) const {
         .right = m_timeline.plot.right(),
         .first = 0,
         .perSecond = (m_timeline.plot.width() - kBehindEnd) / m_content.EndSecond()};
-    const TimelineLayout layout(m_content, m_timeline, scale,
-                                [&](const QString& text) { return canvas.WidthOf(text); });
+    const TimelineLayout layout(m_content, m_timeline, scale, WidthsOf(canvas.Look().font));
     const TimelinePainter timeline(canvas, m_content, layout);
     timeline.PaintPlot();
     timeline.PaintColumns(std::nullopt, Color::Background);
@@ -182,7 +181,7 @@ void PlanPoster::PaintLegendLine(const TimelineCanvas& canvas) const {
                       m_timeline.plot.width(), kLegend);
     const QString caption = QStringLiteral("Wartet auf:");
     canvas.Text(line.left(), line.top(), line.height(), caption, Color::Weak);
-    static_cast<void>(PaintLegend(canvas, LegendOf(m_content),
+    static_cast<void>(PaintLegend(canvas, LegendOf(m_content, QStringLiteral("baut")),
                                   line.adjusted(canvas.WidthOf(caption) + 2 * kGap, 0, 0, 0)));
 }
 
@@ -216,7 +215,6 @@ void PlanPoster::PaintTableHead(const TimelineCanvas& canvas, double left) const
     caption.RightText(left + kStartRight, top, kHead, QStringLiteral("Start"), Color::Weak);
     caption.Text(left + kWaitLeft, top, kHead, QStringLiteral("Wartete auf"), Color::Weak);
     canvas.Fill(QRectF(left, top + kHead - 1, kColumn, 1), Color::LineStrong);
-    canvas.Painter().setFont(canvas.Look().font);
 }
 
 void PlanPoster::PaintRow(const TimelineCanvas& canvas, const PosterRow& row, const QRectF& place,
@@ -235,15 +233,15 @@ void PlanPoster::PaintRow(const TimelineCanvas& canvas, const PosterRow& row, co
     }
     const QFontMetricsF metrics(canvas.Look().font);
     const QString& start = withDay ? row.start : row.timeOfDay;
-    const double nameRoom = kStartRight - kNameLeft - metrics.horizontalAdvance(start) - 2 * kGap;
-    canvas.Text(left + kNameLeft, top, kRow, metrics.elidedText(row.name, Qt::ElideRight, nameRoom),
-                Color::Text);
+    const double nameRoom = kStartRight - kNameLeft - metrics.horizontalAdvance(start) - kGap;
+    canvas.Text(left + kNameLeft, top, kRow,
+                metrics.elidedText(row.name, Qt::ElideMiddle, nameRoom), Color::Text);
     canvas.RightText(left + kStartRight, top, kRow, start, Color::Text);
     if (!row.wait.isEmpty()) {
         canvas.Sign(left + kWaitLeft, top, kRow, row.waitSymbol, row.waitColor);
         const double waitLeft = kWaitLeft + kSymbolSide + kGap;
         canvas.Text(left + waitLeft, top, kRow,
-                    metrics.elidedText(row.wait, Qt::ElideRight, kColumn - waitLeft), Color::Text);
+                    metrics.elidedText(row.wait, Qt::ElideMiddle, kColumn - waitLeft), Color::Text);
     }
 }
 

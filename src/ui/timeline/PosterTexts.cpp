@@ -34,11 +34,9 @@ QString SleepText(const std::vector<cSchlafzeit>& windows) {
                  WithoutSeconds(TimeOfDayText(window.Endzeit())));
     };
     const QString first = text(windows.front());
-    return std::ranges::all_of(windows,
-                               [&](const cSchlafzeit& window) { return text(window) == first; })
-               ? first
-           : windows.size() == 1 ? first
-                                 : QStringLiteral("%1 Schlafzeiten").arg(windows.size());
+    const bool alike = std::ranges::all_of(
+        windows, [&](const cSchlafzeit& window) { return text(window) == first; });
+    return alike ? first : QStringLiteral("%1 Schlafzeiten").arg(windows.size());
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 
 namespace tarvelin {
 
-/// The line of another run.
+/// The line of another run, of the energy that is needed, of a production row.
 [[nodiscard]] inline QPen DashedPen(const QColor& color) {
     constexpr double kWidth = 1.2;
     constexpr double kDash = 3;
@@ -20,14 +20,30 @@ namespace tarvelin {
     return pen;
 }
 
+[[nodiscard]] inline QFont BoldOf(QFont font) {
+    font.setBold(true);
+    return font;
+}
+
+/// How wide the texts of a font are.
+[[nodiscard]] inline TextWidths WidthsOf(const QFont& font) {
+    const auto of = [](const QFont& some) {
+        return [metrics = QFontMetricsF(some)](const QString& text) {
+            return metrics.horizontalAdvance(text);
+        };
+    };
+    return {of(font), of(BoldOf(font))};
+}
+
 class TimelineCanvas {
   public:
     /// All three must outlive the canvas.
     TimelineCanvas(QPainter& painter, const TimelineLook& look)
-        : m_painter(painter), m_look(look), m_metrics(look.font), m_bold(look.font) {
-        m_bold.setBold(true);
-        painter.setFont(look.font);
-    }
+        : m_painter(painter),
+          m_look(look),
+          m_bold(BoldOf(look.font)),
+          m_metrics(look.font),
+          m_boldMetrics(m_bold) {}
 
     [[nodiscard]] QPainter& Painter() const { return m_painter; }
     [[nodiscard]] const TimelineLook& Look() const { return m_look; }
@@ -37,7 +53,7 @@ class TimelineCanvas {
         return m_metrics.horizontalAdvance(text);
     }
     [[nodiscard]] double BoldWidthOf(const QString& text) const {
-        return QFontMetricsF(m_bold).horizontalAdvance(text);
+        return m_boldMetrics.horizontalAdvance(text);
     }
 
     void Fill(const QRectF& rect, Color color) const {
@@ -45,13 +61,10 @@ class TimelineCanvas {
     }
     /// In the middle of a row's height.
     void Text(double left, double top, double height, const QString& text, Color color) const {
-        m_painter.setPen(m_look.colors[color]);
-        m_painter.drawText(QPointF(left, Baseline(top, height)), text);
+        DrawText(m_look.font, left, Baseline(top, height), text, color);
     }
     void BoldText(double left, double top, double height, const QString& text, Color color) const {
-        m_painter.setFont(m_bold);
-        Text(left, top, height, text, color);
-        m_painter.setFont(m_look.font);
+        DrawText(m_bold, left, Baseline(top, height), text, color);
     }
     /// Ends at `right`.
     void RightText(double right, double top, double height, const QString& text,
@@ -64,7 +77,7 @@ class TimelineCanvas {
                     QRectF(left, top + (height - kSymbolSide) / 2, kSymbolSide, kSymbolSide),
                     m_look.colors[color]);
     }
-    /// A frame of one pixel inside of `rect`.
+    /// A frame inside of `rect`.
     void Frame(const QRectF& rect, Color color, double width = 1,
                Qt::PenStyle style = Qt::SolidLine) const {
         QPen pen(m_look.colors[color], width, style);
@@ -76,14 +89,21 @@ class TimelineCanvas {
     }
 
   private:
+    void DrawText(const QFont& font, double left, double baseline, const QString& text,
+                  Color color) const {
+        m_painter.setFont(font);
+        m_painter.setPen(m_look.colors[color]);
+        m_painter.drawText(QPointF(left, baseline), text);
+    }
     [[nodiscard]] double Baseline(double top, double height) const {
         return top + (height + m_metrics.ascent() - m_metrics.descent()) / 2;
     }
 
     QPainter& m_painter;
     const TimelineLook& m_look;
-    QFontMetricsF m_metrics;
     QFont m_bold;
+    QFontMetricsF m_metrics;
+    QFontMetricsF m_boldMetrics;
 };
 
 }  // namespace tarvelin

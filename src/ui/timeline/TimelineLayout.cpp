@@ -25,14 +25,16 @@ bool IsAt(const QPointF& position, const QRectF& rect) {
 }  // namespace
 
 TimelineLayout::TimelineLayout(const TimelineContent& content, const TimelineRows& rows,
-                               const TimeScale& scale, const TextWidth& widthOf)
+                               const TimeScale& scale, const TextWidths& widths)
     : m_content(content),
       m_rows(rows),
       m_scale(scale),
-      m_waits(WaitPieces(*content.run, scale, widthOf)) {
+      m_waits(WaitPieces(*content.run, scale, widths.usual)),
+      m_daysApart(DayStep(scale.perSecond, widths.bold)) {
+    const TextWidth& widthOf = widths.usual;
     const RunConditions& conditions = content.run->conditions;
     LayOutLines(widthOf);
-    m_days = DayLabels(conditions.StartDate, scale, widthOf);
+    m_days = DayLabels(conditions.StartDate, scale, widths.bold);
     m_nights = NightBands(conditions.Schlafzeiten, conditions.StartDate, scale, widthOf);
     PerResource<QRectF> fields;
     for (const Resource resource : kResources) {
@@ -152,6 +154,9 @@ std::optional<std::size_t> TimelineLayout::RowInLane(const LaneLayout& lane,
 }
 
 std::optional<std::size_t> TimelineLayout::RowAt(const QPointF& position) const {
+    if (!m_rows.plot.contains(position)) {
+        return std::nullopt;
+    }
     for (const LaneLayout& lane : m_lanes) {
         if (const auto row =
                 lane.rect.contains(position) ? RowInLane(lane, position) : std::nullopt) {

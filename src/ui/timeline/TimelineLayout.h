@@ -4,6 +4,7 @@
 #include <QRectF>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -42,7 +43,7 @@ class TimelineLayout {
   public:
     /// The content must have a run.
     TimelineLayout(const TimelineContent& content, const TimelineRows& rows, const TimeScale& scale,
-                   const TextWidth& widthOf);
+                   const TextWidths& widths);
 
     [[nodiscard]] const TimelineRows& Rows() const { return m_rows; }
     [[nodiscard]] const TimeScale& Scale() const { return m_scale; }
@@ -55,7 +56,10 @@ class TimelineLayout {
     [[nodiscard]] const std::vector<const StartEvent*>& Productions() const {
         return m_productions;
     }
+    /// In bold type.
     [[nodiscard]] const std::vector<PlacedText>& Days() const { return m_days; }
+    /// Between the midnights that are marked.
+    [[nodiscard]] std::int64_t DaysApart() const { return m_daysApart; }
     [[nodiscard]] const std::vector<NightBand>& Nights() const { return m_nights; }
     [[nodiscard]] const std::vector<NightBand>& ProposedNights() const { return m_proposedNights; }
 
@@ -66,7 +70,8 @@ class TimelineLayout {
     /// At least 2 wide.
     [[nodiscard]] QRectF BarOf(const LaneLayout& lane, const LaneOrder& order) const;
 
-    /// The row whose picture, bar or wait is at a point, or 3 pixels beside it.
+    /// The row whose picture is at a point, or else whose bar, wait or mark, or one that is at most
+    /// 3 pixels beside it. Nothing in the columns.
     [[nodiscard]] std::optional<std::size_t> RowAt(const QPointF& position) const;
 
   private:
@@ -83,6 +88,7 @@ class TimelineLayout {
     std::vector<OverLine> m_lines;
     std::vector<const StartEvent*> m_productions;
     std::vector<PlacedText> m_days;
+    std::int64_t m_daysApart;
     std::vector<NightBand> m_nights;
     std::vector<NightBand> m_proposedNights;
     PerResource<StockField> m_stocks;

@@ -2,7 +2,9 @@
 #include "ui/timeline/TimelineLegend.h"
 
 #include <algorithm>
+#include <set>
 
+#include "simulation/RunTexts.h"
 #include "ui/timeline/HatchLines.h"
 
 namespace tarvelin {
@@ -13,6 +15,7 @@ constexpr double kSwatchWidth = 26;
 constexpr double kSwatchHeight = 12;
 constexpr double kGap = 4;
 constexpr double kBetween = 10;
+constexpr double kBetweenGroups = 10;
 
 void PaintSwatch(const TimelineCanvas& canvas, const LegendEntry& entry, const QRectF& swatch) {
     QPainter& painter = canvas.Painter();
@@ -47,18 +50,23 @@ void PaintSwatch(const TimelineCanvas& canvas, const LegendEntry& entry, const Q
 
 }  // namespace
 
-std::vector<LegendEntry> LegendOf(const TimelineContent& content) {
-    std::vector<LegendEntry> entries;
+std::vector<LegendEntry> LegendOf(const TimelineContent& content, const QString& barText) {
     const RunTrace& run = *content.run;
+    std::set<Symbol> waits;
+    for (const StartEvent& start : run.starts) {
+        if (!WaitText(run, start).empty()) {
+            waits.insert(LookOf(run, start).symbol);
+        }
+    }
+    std::vector<LegendEntry> entries;
     for (const WaitLook& look : WaitLooks()) {
-        if (std::ranges::any_of(
-                run.starts, [&](const StartEvent& start) { return LookOf(run, start) == look; })) {
+        if (waits.contains(look.symbol)) {
             entries.push_back({.sign = LegendEntry::Sign::Wait,
                                .look = look,
                                .text = QString::fromUtf8(look.name)});
         }
     }
-    entries.push_back({.sign = LegendEntry::Sign::Bar, .text = QStringLiteral("geplant")});
+    entries.push_back({.sign = LegendEntry::Sign::Bar, .text = barText});
     if (std::ranges::any_of(run.curve, [](const HistoryPoint& point) {
             return point.EnergieProduktion < point.EnergieVerbrauch;
         })) {
@@ -74,26 +82,31 @@ std::vector<LegendEntry> LegendOf(const TimelineContent& content) {
 
 double PaintLegend(const TimelineCanvas& canvas, const std::vector<LegendEntry>& entries,
                    const QRectF& rect) {
+    const auto widthOf = [&](const LegendEntry& entry, bool words) {
+        return kSwatchWidth + (words ? kGap + canvas.WidthOf(entry.text) : 0);
+    };
+    double whole = kBetweenGroups;
+    for (const LegendEntry& entry : entries) {
+        whole += widthOf(entry, true) + kBetween;
+    }
+    const bool words = whole <= rect.width();
     double x = rect.left();
     for (std::size_t i = 0; i < entries.size(); ++i) {
         const LegendEntry& entry = entries[i];
         // Reasons and signs are two groups.
-        const bool isNewGroup = i > 0 && entry.sign != LegendEntry::Sign::Wait &&
-                                entries[i - 1].sign == LegendEntry::Sign::Wait;
-        const double left = x + (isNewGroup ? kBetween : 0);
-        const double width = canvas.WidthOf(entry.text);
-        if (left + kSwatchWidth + kGap + width > rect.right()) {
-            break;
-        }
-        if (isNewGroup) {
+        if (i > 0 && entry.sign != LegendEntry::Sign::Wait &&
+            entries[i - 1].sign == LegendEntry::Sign::Wait) {
             canvas.Fill(QRectF(x, rect.center().y() - kSwatchHeight / 2, 1, kSwatchHeight),
                         Color::LineStrong);
+            x += kBetweenGroups;
         }
-        PaintSwatch(
-            canvas, entry,
-            QRectF(left, rect.center().y() - kSwatchHeight / 2, kSwatchWidth, kSwatchHeight));
-        canvas.Text(left + kSwatchWidth + kGap, rect.top(), rect.height(), entry.text, Color::Text);
-        x = left + kSwatchWidth + kGap + width + kBetween;
+        PaintSwatch(canvas, entry,
+                    QRectF(x, rect.center().y() - kSwatchHeight / 2, kSwatchWidth, kSwatchHeight));
+        if (words) {
+            canvas.Text(x + kSwatchWidth + kGap, rect.top(), rect.height(), entry.text,
+                        Color::Text);
+        }
+        x += widthOf(entry, words) + kBetween;
     }
     return x;
 }

@@ -20,9 +20,11 @@ struct LegendEntry {
 };
 
 /// The reasons that the rows of the run waited for, then everything else that there is.
-[[nodiscard]] std::vector<LegendEntry> LegendOf(const TimelineContent& content);
+/// `barText` says what a bar is.
+[[nodiscard]] std::vector<LegendEntry> LegendOf(const TimelineContent& content,
+                                                const QString& barText);
 
-/// Paints what has room between two places, and returns where it ends.
+/// Paints the entries, without words if they have no room, and returns where they end.
 double PaintLegend(const TimelineCanvas& canvas, const std::vector<LegendEntry>& entries,
                    const QRectF& rect);
 

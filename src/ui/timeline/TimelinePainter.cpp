@@ -43,7 +43,8 @@ QString FigureText(double value) {
     };
     for (const Unit& unit : {Unit{1e12, " Bio."}, Unit{1e9, " Mrd."}, Unit{1e6, " Mio."}}) {
         if (std::abs(value) >= unit.size) {
-            return ToQString(DecimalText(value / unit.size, 1) + unit.name);
+            return QString::fromUtf8(value < 0 ? "−" : "") +
+                   ToQString(DecimalText(std::abs(value) / unit.size, 1) + unit.name);
         }
     }
     return ToQString(GroupedText(value));
@@ -125,12 +126,11 @@ void TimelinePainter::PaintGrid() const {
         }
     };
     constexpr std::int64_t kDay = 86400;
-    const TextWidth widthOf = [&](const QString& text) { return m_canvas.WidthOf(text); };
-    const double label = widthOf(QStringLiteral("00:00"));
+    const double label = m_canvas.WidthOf(QStringLiteral("00:00"));
     if (const auto step = HourStep(m_scale.perSecond, label); step && *step < kDay) {
         lines(*step, Color::Line);
     }
-    lines(kDay * DayStep(m_scale.perSecond, widthOf), Color::LineStrong);
+    lines(kDay * m_layout.DaysApart(), Color::LineStrong);
     for (const Resource resource : kResources) {
         const StockField& field = m_layout.Stocks()[resource];
         for (const double figure : field.figures) {
@@ -183,6 +183,7 @@ void TimelinePainter::PaintLane(const LaneLayout& lane) const {
 }
 
 void TimelinePainter::PaintBars(const LaneLayout& lane) const {
+    std::vector<QRectF> chosen;
     for (const LaneOrder& order : lane.orders) {
         QRectF bar = m_layout.BarOf(lane, order);
         if (!m_scale.Shows(bar.left(), bar.right())) {
@@ -193,11 +194,16 @@ void TimelinePainter::PaintBars(const LaneLayout& lane) const {
         bar.setRight(std::min(bar.right(), m_scale.right + kNarrowBar));
         const bool isNarrow = order.finish - order.start < kNarrowBar;
         m_canvas.Fill(bar, isNarrow ? Color::BarEdge : Color::Bar);
-        if (m_content.chosenRows.contains(order.row)) {
-            m_canvas.Frame(bar.adjusted(-1, -1, 1, 1), Color::Accent, 2);
-        } else if (!isNarrow) {
+        if (!isNarrow) {
             m_canvas.Frame(bar, Color::BarEdge);
         }
+        if (m_content.chosenRows.contains(order.row)) {
+            chosen.push_back(bar.adjusted(-1, -1, 1, 1));
+        }
+    }
+    // Over their neighbours.
+    for (const QRectF& bar : chosen) {
+        m_canvas.Frame(bar, Color::Accent, 2);
     }
 }
 
@@ -475,6 +481,13 @@ void TimelinePainter::PaintColumns(std::optional<SimTime> moment, Color ground) 
     m_canvas.Fill(QRectF(plot.left() - 1, m_rows.nights.top(), 1,
                          m_rows.Content().bottom() - m_rows.nights.top()),
                   Color::LineStrong);
+    PaintRowNames();
+    PaintFieldNames(moment);
+}
+
+void TimelinePainter::PaintRowNames() const {
+    const double left = m_rows.days.left();
+    const double top = m_rows.days.top();
     const double name = left + kNameMargin;
     const RunTrace& run = *m_content.run;
     m_canvas.Text(name, top, m_rows.days.height(),
@@ -486,12 +499,16 @@ void TimelinePainter::PaintColumns(std::optional<SimTime> moment, Color ground) 
                   QStringLiteral("Schlaf"), Color::Text);
     for (std::size_t i = 0; i < kLaneNames.size(); ++i) {
         const QRectF& lane = m_rows.lanes[i];
-        m_canvas.Fill(QRectF(left, lane.bottom() - 1, plot.left() - left, 1), Color::Line);
+        m_canvas.Fill(QRectF(left, lane.bottom() - 1, m_rows.plot.left() - left, 1), Color::Line);
         m_canvas.Text(name, lane.top(), lane.height(), QString::fromUtf8(kLaneNames[i]),
                       Color::Text);
     }
     m_canvas.Text(name, m_rows.waits.top(), m_rows.waits.height(), QString::fromUtf8(kWaitsName),
                   Color::Text);
+}
+
+void TimelinePainter::PaintFieldNames(std::optional<SimTime> moment) const {
+    const RunTrace& run = *m_content.run;
     const std::optional<HistoryPoint> point =
         moment ? std::optional(PointAt(run.curve, *moment)) : std::nullopt;
     for (const Resource resource : kResources) {

@@ -47,6 +47,8 @@ class TimelinePainter {
     void PaintProductions() const;
     void PaintLines() const;
     void PaintCursor(SimTime cursor, const PlacedText& chip) const;
+    void PaintRowNames() const;
+    void PaintFieldNames(std::optional<SimTime> moment) const;
     void PaintFieldName(const QRectF& field, Symbol symbol, Color color, const QString& name,
                         const QString& below, Color belowColor) const;
     void PaintFigures(const QRectF& field, const ValueScale& scale,

@@ -14,12 +14,10 @@ namespace {
 
 using Draw = std::function<void(QPainter&)>;
 
-QByteArray ToPng(const QSize& size, const Draw& draw) {
-    // Sharp on screens of scale 2, too.
-    constexpr int kSharpness = 2;
-    QImage picture(size * kSharpness, QImage::Format_RGB32);
+QByteArray ToPng(const QSize& size, int sharpness, const Draw& draw) {
+    QImage picture(size * sharpness, QImage::Format_RGB32);
     QPainter painter(&picture);
-    painter.scale(kSharpness, kSharpness);
+    painter.scale(sharpness, sharpness);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     draw(painter);
     painter.end();
@@ -49,11 +47,11 @@ QByteArray ToPdf(const QSize& size, const Draw& draw) {
 
 }  // namespace
 
-std::optional<QByteArray> RenderPicture(const QSize& size, const QString& suffix,
+std::optional<QByteArray> RenderPicture(const QSize& size, int sharpness, const QString& suffix,
                                         const Draw& draw) {
     const QString format = suffix.toLower();
     if (format == QStringLiteral("png")) {
-        return ToPng(size, draw);
+        return ToPng(size, sharpness, draw);
     }
     if (format == QStringLiteral("pdf")) {
         return ToPdf(size, draw);

@@ -33,7 +33,6 @@ struct Heights {
     double energy = 0;
 };
 
-/// `spare` is what all rows at their usual heights leave over; negative if they don't fit.
 Heights Usual(const TimelineSpace& space) {
     const double band = std::max(kPicture, 2 * space.line);
     const double bar = std::max(kBar, space.line);
@@ -74,9 +73,7 @@ Heights Share(const TimelineSpace& space) {
         const double lane = heights.lane;
         Grow(heights.lane, kLargeLane, kLanes, spare);
         heights.bar = std::max(heights.bar, std::min(kLargeBar, heights.bar + heights.lane - lane));
-        more = spare / kFields;
-        heights.field += more;
-        heights.energy += more;
+        heights.field += spare / (kFields - 1);
         return heights;
     }
     const double small = std::max(kSmallField, space.line + 4);

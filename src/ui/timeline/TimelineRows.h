@@ -25,8 +25,8 @@ struct TimelineSpace {
     bool scrollBar = true;
 };
 
-/// All rectangles are empty where there is no room for the row. They have the whole width, the
-/// columns included, but for the plot.
+/// A rectangle is empty where there is no room for its row. Rows have the whole width, the columns
+/// included; only plot and scroll bar lie between them.
 struct TimelineRows {
     QRectF plot;
     QRectF legend;

@@ -8,6 +8,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "ui/look/Icons.h"
@@ -30,6 +31,7 @@ constexpr double kZoomStep = 1.25;
 constexpr double kBehindEnd = 40;
 constexpr int kPictureSide = 24;
 constexpr int kButton = 24;
+constexpr std::ptrdiff_t kLastOrder = std::numeric_limits<std::ptrdiff_t>::max();
 
 QString SpanInSight(double seconds) {
     constexpr double kMinute = 60;
@@ -48,10 +50,9 @@ QString SpanInSight(double seconds) {
 
 }  // namespace
 
-/// Keeps the visible part, unless all was visible.
 template <class Action>
 void TimelineView::ChangeKeepingView(Action action) {
-    const bool everything = ShowsAll();
+    const bool everything = m_showsAll;
     action();
     if (everything) {
         ShowAll();
@@ -73,8 +74,8 @@ TimelineView::TimelineView(QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     connect(m_scrollBar, &QScrollBar::valueChanged, this,
             [this](int value) { Show(static_cast<double>(value) / m_perSecond, m_perSecond); });
-    connect(m_minus, &QToolButton::clicked, this, [this] { ZoomAtCursor(1 / kZoomStep); });
-    connect(m_plus, &QToolButton::clicked, this, [this] { ZoomAtCursor(kZoomStep); });
+    connect(m_minus, &QToolButton::clicked, this, [this] { Zoom(1 / kZoomStep, Middle()); });
+    connect(m_plus, &QToolButton::clicked, this, [this] { Zoom(kZoomStep, Middle()); });
     connect(m_whole, &QToolButton::clicked, this, &TimelineView::ShowAll);
 }
 
@@ -90,9 +91,7 @@ QToolButton* TimelineView::NewButton(const char* name, const QString& hint) {
 
 void TimelineView::SetRun(const std::optional<RunTrace>& trace) {
     ChangeKeepingView([&] { m_content.run = trace; });
-    if (m_cursor) {
-        MoveCursor(m_cursor);
-    }
+    MoveCursor(m_cursor);
 }
 
 void TimelineView::SetOtherRuns(std::vector<DashedRun> others) {
@@ -141,7 +140,7 @@ void TimelineView::SetNow(DateTime now) {
 
 void TimelineView::BringIntoView(std::size_t row) {
     const StartEvent* const start = m_content.run ? m_content.run->StartOf(row) : nullptr;
-    if (start == nullptr) {
+    if (start == nullptr || m_keepsPlace) {
         return;
     }
     const TimeScale scale = Scale();
@@ -163,18 +162,15 @@ TimeScale TimelineView::Scale() const {
 }
 
 TimelineLayout TimelineView::Layout() const {
-    const QFontMetricsF metrics(m_look.font);
-    return {m_content, Rows(), Scale(),
-            [&](const QString& text) { return metrics.horizontalAdvance(text); }};
+    return {m_content, Rows(), Scale(), WidthsOf(m_look.font)};
+}
+
+double TimelineView::Middle() const {
+    return Rows().plot.center().x();
 }
 
 double TimelineView::MinScale() const {
     return std::max(1.0, Rows().plot.width() - kBehindEnd) / m_content.EndSecond();
-}
-
-bool TimelineView::ShowsAll() const {
-    constexpr double kRoughly = 1.0001;
-    return m_perSecond <= MinScale() * kRoughly || !m_content.run;
 }
 
 void TimelineView::ShowAll() {
@@ -182,9 +178,15 @@ void TimelineView::ShowAll() {
 }
 
 void TimelineView::Show(double first, double perSecond) {
+    update();
+    if (!m_content.run) {
+        // Zoom and place stay for the next one.
+        return;
+    }
     const double end = m_content.EndSecond();
     const double largest = std::max(MinScale(), std::min(kMaxScale, kMaxWidth / end));
     m_perSecond = std::clamp(perSecond, MinScale(), largest);
+    m_showsAll = m_perSecond <= MinScale();
     const double page = Rows().plot.width();
     const double beyond = std::max(0.0, end * m_perSecond + kBehindEnd - page);
     m_first = std::clamp(first * m_perSecond, 0.0, beyond) / m_perSecond;
@@ -194,7 +196,6 @@ void TimelineView::Show(double first, double perSecond) {
     constexpr int kStep = 40;
     m_scrollBar->setSingleStep(kStep);
     m_scrollBar->setValue(static_cast<int>(std::lround(m_first * m_perSecond)));
-    update();
 }
 
 void TimelineView::Zoom(double factor, double x) {
@@ -206,10 +207,7 @@ void TimelineView::Zoom(double factor, double x) {
 }
 
 void TimelineView::ZoomAtCursor(double factor) {
-    const TimeScale scale = Scale();
-    const double middle = (scale.left + scale.right) / 2;
-    const double x = m_cursor ? scale.X(*m_cursor) : middle;
-    Zoom(factor, scale.Shows(x, x) ? x : middle);
+    Zoom(factor, CursorInSight() ? Scale().X(*m_cursor) : Middle());
 }
 
 void TimelineView::wheelEvent(QWheelEvent* event) {
@@ -243,19 +241,26 @@ void TimelineView::mouseMoveEvent(QMouseEvent* event) {
     }
     const TimeScale scale = Scale();
     const double x = event->position().x();
-    MoveCursor(scale.Shows(x, x) ? std::optional(scale.SecondAt(x)) : std::nullopt);
+    const double end = m_content.run ? scale.X(m_content.run->Duration()) : 0;
+    MoveCursor(scale.Shows(x, x) && x <= end + 1 ? std::optional(scale.SecondAt(x)) : std::nullopt);
 }
 
 void TimelineView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && !m_dragging && m_content.run) {
         if (const auto row = Layout().RowAt(event->position())) {
+            // What was pointed at stays where it is.
+            m_keepsPlace = true;
             emit RowChosen(*row);
+            m_keepsPlace = false;
         }
     }
     m_dragging = false;
 }
 
-void TimelineView::mouseDoubleClickEvent(QMouseEvent* /*event*/) {
+void TimelineView::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
     ShowAll();
     // The release that follows must not choose a row.
     m_dragging = true;
@@ -274,15 +279,16 @@ void TimelineView::keyPressEvent(QKeyEvent* event) {
             if (withControl) {
                 constexpr double kStep = 10;
                 MoveCursor(m_cursor.value_or(m_first) + direction * kStep / m_perSecond);
+                ShowCursor();
             } else {
-                GoToOrder(direction);
+                GoToOrder(OrderBeside(direction));
             }
             break;
         case Qt::Key_Home:
-            GoToOrder(-static_cast<int>(kMaxWidth));
+            GoToOrder(0);
             break;
         case Qt::Key_End:
-            GoToOrder(static_cast<int>(kMaxWidth));
+            GoToOrder(kLastOrder);
             break;
         case Qt::Key_Plus:
             ZoomAtCursor(kZoomStep);
@@ -302,26 +308,34 @@ void TimelineView::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-// From the chosen row, or else from the cursor.
-void TimelineView::GoToOrder(int step) {
+// From the chosen rows, or else from the cursor.
+std::ptrdiff_t TimelineView::OrderBeside(int direction) const {
+    if (!m_content.run) {
+        return 0;
+    }
+    const auto& starts = m_content.run->starts;
+    std::ptrdiff_t behind = 0;
+    if (!m_content.chosenRows.empty()) {
+        const std::size_t row =
+            direction > 0 ? *m_content.chosenRows.rbegin() + 1 : *m_content.chosenRows.begin();
+        behind = std::ranges::lower_bound(starts, row, {}, &StartEvent::row) - starts.begin();
+    } else {
+        const double second = m_cursor.value_or(direction > 0 ? m_first : Scale().Last());
+        behind =
+            std::ranges::find_if(
+                starts, [&](const StartEvent& start) { return start.start.Seconds() >= second; }) -
+            starts.begin();
+    }
+    return direction > 0 ? behind : behind - 1;
+}
+
+void TimelineView::GoToOrder(std::ptrdiff_t order) {
     if (!m_content.run || m_content.run->starts.empty()) {
         return;
     }
     const auto& starts = m_content.run->starts;
-    const auto last = std::ssize(starts) - 1;
-    std::ptrdiff_t target = step > 0 ? 0 : last;
-    if (!m_content.chosenRows.empty()) {
-        const auto here =
-            std::ranges::lower_bound(starts, *m_content.chosenRows.begin(), {}, &StartEvent::row);
-        target = here - starts.begin() + step;
-    } else if (m_cursor) {
-        const auto behind = std::ranges::lower_bound(
-            starts, *m_cursor, {},
-            [](const StartEvent& start) { return static_cast<double>(start.start.Seconds()); });
-        target = behind - starts.begin() + (step > 0 ? step - 1 : step);
-    }
-    const StartEvent start =
-        starts[static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(target, 0, last))];
+    const StartEvent start = starts[static_cast<std::size_t>(
+        std::clamp<std::ptrdiff_t>(order, 0, std::ssize(starts) - 1))];
     emit RowChosen(start.row);
     BringIntoView(start.row);
     MoveCursor(start.start.Seconds());
@@ -341,19 +355,22 @@ void TimelineView::ChooseAtCursor() {
 }
 
 void TimelineView::MoveCursor(std::optional<double> second) {
-    if (second) {
-        const double end = m_content.run ? m_content.run->Duration().Seconds() : 0;
-        second = std::clamp(*second, 0.0, end);
-        const TimeScale scale = Scale();
-        if (const double x = scale.X(*second); !scale.Shows(x, x)) {
-            Show(*second - (x < scale.left ? 0 : (scale.right - scale.left) / m_perSecond),
-                 m_perSecond);
-        }
+    if (second && m_content.run) {
+        m_cursor = std::clamp<double>(*second, 0, m_content.run->Duration().Seconds());
+    } else {
+        m_cursor.reset();
     }
-    m_cursor = m_content.run ? second : std::nullopt;
     update();
     emit CursorMoved(m_cursor ? std::optional(SimTime(static_cast<Long>(std::floor(*m_cursor))))
                               : std::nullopt);
+}
+
+void TimelineView::ShowCursor() {
+    const TimeScale scale = Scale();
+    if (m_cursor && !CursorInSight()) {
+        const bool isLeft = *m_cursor < scale.first;
+        Show(isLeft ? *m_cursor : *m_cursor - (scale.Last() - scale.first), m_perSecond);
+    }
 }
 
 void TimelineView::PlaceControls() {
@@ -369,18 +386,7 @@ void TimelineView::PlaceControls() {
 
 void TimelineView::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    // Whether all was visible before the change.
-    const double change = event->size().width() - event->oldSize().width();
-    const double before = std::max(1.0, Rows().plot.width() - change - kBehindEnd);
-    constexpr double kRoughly = 1.0001;
-    const bool everything = event->oldSize().width() <= 0 || !m_content.run ||
-                            m_perSecond * m_content.EndSecond() <= before * kRoughly;
-    PlaceControls();
-    if (everything) {
-        ShowAll();
-    } else {
-        Show(m_first, m_perSecond);
-    }
+    ChangeKeepingView([this] { PlaceControls(); });
 }
 
 QSize TimelineView::minimumSizeHint() const {
@@ -416,22 +422,33 @@ void TimelineView::PaintOn(QPainter& painter, bool withCursor) {
     const TimelineLayout layout = Layout();
     const TimelinePainter timeline(canvas, m_content, layout);
     timeline.PaintPlot();
-    const RunTrace& run = *m_content.run;
-    const auto cursor = withCursor && m_cursor
-                            ? std::optional(SimTime(static_cast<Long>(std::floor(*m_cursor))))
-                            : std::nullopt;
-    const bool isRunning = m_content.now && *m_content.now >= run.conditions.StartDate &&
-                           *m_content.now <= run.conditions.WallClock(run.Duration());
-    timeline.PaintColumns(cursor ? cursor
-                          : isRunning
-                              ? std::optional(SimTime(*m_content.now - run.conditions.StartDate))
-                              : std::nullopt);
+    const auto cursor = withCursor ? CursorInSight() : std::nullopt;
+    timeline.PaintColumns(cursor ? cursor : PresentMoment());
     PaintTop(canvas, layout.Rows());
     timeline.PaintHours(cursor);
     if (cursor) {
-        PaintCard(canvas, CardLines(run, *cursor), layout.Scale().X(*cursor),
-                  layout.Rows().Content());
+        PaintCard(canvas, CardLines(*m_content.run, *cursor), layout.Scale().X(*cursor),
+                  layout.Rows().Content(), QRectF(rect()));
     }
+}
+
+std::optional<SimTime> TimelineView::CursorInSight() const {
+    if (!m_cursor) {
+        return std::nullopt;
+    }
+    const TimeScale scale = Scale();
+    const double x = scale.X(*m_cursor);
+    return scale.Shows(x - 1, x + 1)
+               ? std::optional(SimTime(static_cast<Long>(std::floor(*m_cursor))))
+               : std::nullopt;
+}
+
+std::optional<SimTime> TimelineView::PresentMoment() const {
+    const RunTrace& run = *m_content.run;
+    return m_content.now && *m_content.now >= run.conditions.StartDate &&
+                   *m_content.now <= run.conditions.WallClock(run.Duration())
+               ? std::optional(SimTime(*m_content.now - run.conditions.StartDate))
+               : std::nullopt;
 }
 
 void TimelineView::PaintTop(const TimelineCanvas& canvas, const TimelineRows& rows) const {
@@ -439,10 +456,10 @@ void TimelineView::PaintTop(const TimelineCanvas& canvas, const TimelineRows& ro
     constexpr double kMargin = 8;
     const double right = m_minus->geometry().left() - kMargin;
     const double end =
-        PaintLegend(canvas, LegendOf(m_content),
+        PaintLegend(canvas, LegendOf(m_content, QStringLiteral("geplant")),
                     QRectF(kMargin, rows.legend.top(), right - kMargin, rows.legend.height()));
     const QString span = SpanInSight(rows.plot.width() / m_perSecond);
-    if (!ShowsAll() && right - canvas.WidthOf(span) > end) {
+    if (!m_showsAll && right - canvas.WidthOf(span) > end) {
         canvas.RightText(right, rows.legend.top(), rows.legend.height(), span, Color::Weak);
     }
 }

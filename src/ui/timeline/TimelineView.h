@@ -69,18 +69,30 @@ class TimelineView : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    /// Keeps the visible part, unless all was visible.
     template <class Action>
     void ChangeKeepingView(Action action);
     QToolButton* NewButton(const char* name, const QString& hint);
     /// The zoom at which all is visible.
     [[nodiscard]] double MinScale() const;
-    [[nodiscard]] bool ShowsAll() const;
     /// Both are brought into their limits.
     void Show(double first, double perSecond);
     void Zoom(double factor, double x);
+    /// Or in the middle, if the cursor isn't in sight.
     void ZoomAtCursor(double factor);
+    /// Of the plot, in pixels.
+    [[nodiscard]] double Middle() const;
     void MoveCursor(std::optional<double> second);
-    void GoToOrder(int step);
+    [[nodiscard]] std::optional<SimTime> CursorInSight() const;
+    /// Now, if the plan is being played.
+    [[nodiscard]] std::optional<SimTime> PresentMoment() const;
+    /// The order before or after what is chosen, counted in the sequence of the starts; may be
+    /// beyond them.
+    [[nodiscard]] std::ptrdiff_t OrderBeside(int direction) const;
+    /// Chooses an order; beyond the last it is the last.
+    void GoToOrder(std::ptrdiff_t order);
+    /// Moves to the cursor, if it isn't in sight.
+    void ShowCursor();
     void ChooseAtCursor();
     void PlaceControls();
     void PaintOn(QPainter& painter, bool withCursor);
@@ -95,6 +107,8 @@ class TimelineView : public QWidget {
     QPoint m_pressed;
     QPoint m_lastPosition;
     bool m_dragging = false;
+    bool m_showsAll = true;
+    bool m_keepsPlace = false;
     QScrollBar* m_scrollBar;
     QToolButton* m_minus;
     QToolButton* m_plus;

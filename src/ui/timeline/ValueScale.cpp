@@ -35,10 +35,10 @@ ValueScale ValueScale::FromZero(double lowest, double highest) {
 
 ValueScale ValueScale::Fitting(double lowest, double highest) {
     constexpr double kShare = 0.6;
-    if (lowest <= kShare * highest || highest <= lowest) {
+    if (lowest <= kShare * highest) {
         return FromZero(lowest, highest);
     }
-    const double beyond = std::max(1.0, kBeyond * (highest - lowest));
+    const double beyond = std::max(1.0, kBeyond * (highest > lowest ? highest - lowest : highest));
     return {.from = lowest - beyond, .to = highest + beyond};
 }
 

@@ -14,7 +14,6 @@ namespace {
 /// What a text and a symbol need beside their own width.
 constexpr double kBesideText = 24;
 constexpr double kForSymbol = 14;
-constexpr double kShortestText = 12;
 
 /// From the longest to the shortest.
 QStringList WaitTexts(const RunTrace& trace, const StartEvent& start) {
@@ -27,7 +26,7 @@ QStringList WaitTexts(const RunTrace& trace, const StartEvent& start) {
         case DelayCause::Deuterium:
             return {wait + QStringLiteral(" für ") + ToQString(OrderText(start)), wait};
         default:
-            return {wait};
+            return {wait, ToQString(BriefWaitText(trace, start))};
     }
 }
 
@@ -49,7 +48,7 @@ std::vector<WaitPiece> WaitPieces(const RunTrace& trace, const TimeScale& scale,
                             .text = {}};
             const double width = piece.until - piece.from;
             piece.symbol = width >= kForSymbol;
-            if (width >= kBesideText + kShortestText) {
+            if (width > kBesideText) {
                 for (const QString& text : WaitTexts(trace, start)) {
                     if (piece.text.isEmpty() && widthOf(text) + kBesideText <= width) {
                         piece.text = text;
@@ -58,7 +57,8 @@ std::vector<WaitPiece> WaitPieces(const RunTrace& trace, const TimeScale& scale,
             }
             pieces.push_back(std::move(piece));
         }
-        from = until;
+        // The clock can step back by a click buffer.
+        from = std::max(from, until);
     }
     return pieces;
 }

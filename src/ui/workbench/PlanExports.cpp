@@ -27,13 +27,14 @@ std::string SaveBytes(const std::filesystem::path& file, const std::string& byte
 }
 
 /// Asks for the file, whose suffix says the format.
-std::string SavePictureOf(const QSize& size, const Environment& environment,
+std::string SavePictureOf(const QSize& size, int sharpness, const Environment& environment,
                           const std::function<void(QPainter&)>& draw) {
     const auto file = environment.AskForFile(Dialogs::Purpose::Picture);
     if (file.empty()) {
         return "";
     }
-    const auto picture = RenderPicture(size, QFileInfo(PathToQString(file)).suffix(), draw);
+    const auto picture =
+        RenderPicture(size, sharpness, QFileInfo(PathToQString(file)).suffix(), draw);
     return picture ? SaveBytes(file, picture->toStdString(), environment.files)
                    : std::string("Der Name des Bildes endet auf .png, ") +
                          (HasSvg() ? ".svg " : "") + "oder .pdf: es wurde nichts gespeichert.";
@@ -64,12 +65,13 @@ std::string SaveCalendar(const RunTrace& trace, std::optional<Long> leadTime,
 std::string SavePoster(const RunTrace& trace, const PlanPoster::Parts& parts,
                        const Environment& environment) {
     const PlanPoster poster(trace, parts);
-    return SavePictureOf(poster.Size(), environment,
+    return SavePictureOf(poster.Size(), 1, environment,
                          [&](QPainter& painter) { poster.Paint(painter); });
 }
 
 std::string SaveSection(TimelineView& timeline, const Environment& environment) {
-    return SavePictureOf(timeline.size(), environment,
+    // Sharp on screens of scale 2, too.
+    return SavePictureOf(timeline.size(), 2, environment,
                          [&](QPainter& painter) { timeline.PaintSection(painter); });
 }
 
