@@ -235,7 +235,11 @@ Finding CheckFields(const TimelineLayout& layout, const View& view) {
                                   TextsApart("factors", texts(layout.Energy().factors), view)};
     for (const StockField& field : layout.Stocks()) {
         findings.push_back(TextsApart("rates", texts(field.rates), view));
-        for (const QPointF& point : field.curve) {
+        QPolygonF points = field.curve;
+        for (const QPolygonF& other : field.others) {
+            points += other;
+        }
+        for (const QPointF& point : points) {
             if (!field.rect.adjusted(-1, -1, 1, 1).contains(point)) {
                 findings.push_back("a curve leaves its field at " + std::to_string(point.x()) +
                                    ", " + std::to_string(point.y() - field.rect.top()));
@@ -261,16 +265,25 @@ Finding CheckRows(const TimelineRows& rows) {
 }
 
 TEST(Timeline, LawsOfTheLayoutHoldForRandomPlans) {
-    for (unsigned seed = 0; seed < 60; ++seed) {
-        TimelineContent content = ContentOf(PlanGenerator(seed).Next());
+    for (unsigned seed = 0; seed < 400; ++seed) {
+        const Plan plan = PlanGenerator(seed).Next();
+        const Plan otherPlan = PlanGenerator(seed + 1).Next();
+        if (plan.LV_Bauliste.Rows().empty() || otherPlan.LV_Bauliste.Rows().empty()) {
+            continue;
+        }
+        TimelineContent content = ContentOf(plan);
         std::mt19937 random(seed);
         const auto anyRow = [&] { return random() % content.run->starts.size(); };
         content.chosenRows = {anyRow(), anyRow()};
         content.nextRow = anyRow();
         content.now = content.run->conditions.StartDate +
                       static_cast<std::int64_t>(content.run->Duration().Seconds() / 3);
-        content.others = {
-            {.run = TraceRun(PlanGenerator(seed + 1).Next()), .name = QStringLiteral("Fund")}};
+        const DateTime start = content.run->conditions.StartDate;
+        content.proposedNights = {{start + 40000, start + 70000}};
+        for (const cSchlafzeit& night : content.run->conditions.Schlafzeiten) {
+            content.proposedNights.emplace_back(night.Startzeit() + -7200, night.Endzeit());
+        }
+        content.others = {{.run = TraceRun(otherPlan), .name = QStringLiteral("Fund")}};
         for (int i = 0; i < 10; ++i) {
             const View view(content, random);
             const TimelineLayout layout = view.Layout();
@@ -374,6 +387,10 @@ TEST(Timeline, CardTellsWhatGoesOn) {
               "Mi 02.12. 01:00:00 nach 07:00|Baut nichts|Wartet Metallmine 5|"
               "auf Schlaf, bis 07:00:05|Metall 437 +195/h|Kristall 379 +58/h|"
               "Deuterium 0 +0/h|Energie 117 von 82|");
+    EXPECT_EQ(CardText(run, SimTime(2 * 86400)),
+              "Do 03.12. 18:00:00 nach 2 T 00:00|Baut nichts|Wartet Solarkraftwerk 9|"
+              "auf 246 Metall, bis 18:32:31|Metall 1.676 +455/h|Kristall 2.106 +244/h|"
+              "Deuterium 465 +48/h|Energie 342 von 500 Faktor 0,68|");
     EXPECT_EQ(CardText(run, run.Duration()),
               "Sa 05.12. 22:40:16 nach 4 T 04:40|Baut nichts|Wartet nichts|"
               "Metall 6.260 +568/h|Kristall 5.455 +457/h|Deuterium 66 +84/h|"

@@ -441,6 +441,7 @@ TEST_F(WorkbenchWindow, ShowsThePlanAsAPicture) {
     press(Qt::Key_Left, 3);
     press(Qt::Key_Left, 2);
     EXPECT_EQ(timeline.accessibleDescription().left(18).toStdString(), "Sa 18.11. 12:34:56");
+    press(Qt::Key_Right, 3);
     press(Qt::Key_Home, 0);
     press(Qt::Key_End, 4);
     // Ctrl moves the cursor alone, plus zooms at it, Enter chooses what starts there or next.

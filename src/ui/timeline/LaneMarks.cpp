@@ -52,11 +52,7 @@ class LaneWriter {
             const double until = i + 1 < m_marks.size()
                                      ? std::min(m_room.right, m_marks[i + 1].left - kGap)
                                      : m_room.right;
-            WriteBeside(mark, occupied, until);
-            occupied = std::max(occupied, mark.right);
-            if (!m_texts.empty() && m_texts.back().place != LaneText::Place::Bar) {
-                occupied = std::max(occupied, m_texts.back().text.Right());
-            }
+            occupied = std::max({occupied, mark.right, WriteBeside(mark, occupied, until)});
         }
         return std::move(m_texts);
     }
@@ -78,7 +74,8 @@ class LaneWriter {
         }
     }
 
-    void WriteBeside(const LaneMark& mark, double occupied, double until) {
+    /// Returns where the words end; the room's left edge for none.
+    double WriteBeside(const LaneMark& mark, double occupied, double until) {
         const LaneOrder& order = m_orders[mark.first];
         const double from = mark.right + kGap;
         const double moment = m_widthOf(order.moment);
@@ -92,18 +89,20 @@ class LaneWriter {
             if (fitsRight(width)) {
                 Add(from, name, order.name, LaneText::Place::UpperLine);
                 Add(from, moment, order.moment, LaneText::Place::LowerLine);
-                return;
+                return from + width;
             }
             const double right = mark.left - kGap;
             if (right - width >= occupied + kGap && IsFree(right - width, right, m_room.lines)) {
                 Add(right - name, name, order.name, LaneText::Place::UpperLine);
                 Add(right - moment, moment, order.moment, LaneText::Place::LowerLine);
-                return;
+                return right;
             }
         }
-        if (fitsRight(moment)) {
-            Add(from, moment, order.moment, LaneText::Place::Middle);
+        if (!fitsRight(moment)) {
+            return m_room.left;
         }
+        Add(from, moment, order.moment, LaneText::Place::Middle);
+        return from + moment;
     }
 
     void Add(double left, double width, const QString& text, LaneText::Place place) {

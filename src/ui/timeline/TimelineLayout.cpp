@@ -95,9 +95,14 @@ void TimelineLayout::LayOutLane(std::size_t index, const TextWidth& widthOf) {
     const bool chosenApart = m_content.chosenRows.size() <= kMostChosenApart;
     constexpr double kWidestWords = 300;
     for (const StartEvent& start : run.starts) {
-        if (start.order.kind != Order::Kind::Item || start.order.queue != kLaneQueues[index]) {
-            continue;
+        if (start.order.kind == Order::Kind::Item && start.order.queue == kLaneQueues[index]) {
+            lane.starts.push_back(&start);
         }
+    }
+    // Through a closed gate an order can start before the row above it.
+    std::ranges::stable_sort(lane.starts, {}, &StartEvent::start);
+    for (const StartEvent* const event : lane.starts) {
+        const StartEvent& start = *event;
         LaneOrder order{.row = start.row,
                         .start = m_scale.X(start.start),
                         .finish = m_scale.X(start.finish),
@@ -111,7 +116,6 @@ void TimelineLayout::LayOutLane(std::size_t index, const TextWidth& widthOf) {
             order.moment = ToQString(TimeOfDayText(run.conditions.WallClock(start.start)));
         }
         lane.orders.push_back(std::move(order));
-        lane.starts.push_back(&start);
     }
     if (m_rows.picture > 0) {
         lane.marks = MarksOf(lane.orders, m_rows.picture);
