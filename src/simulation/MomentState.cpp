@@ -63,6 +63,11 @@ std::string FactorText(const HistoryPoint& point) {
                        kDecimals);
 }
 
+std::string EnergyText(const HistoryPoint& point) {
+    return GroupedText(static_cast<double>(point.EnergieProduktion)) + " von " +
+           GroupedText(static_cast<double>(point.EnergieVerbrauch));
+}
+
 std::string RateText(FixedPoint perHour) {
     return (perHour.WholePart() < 0 ? "" : "+") + GroupedText(perHour.ToDouble()) + "/h";
 }

@@ -30,6 +30,9 @@ struct MomentState {
 /// "Faktor 0,95"; empty where the mines have all their energy.
 [[nodiscard]] std::string FactorText(const HistoryPoint& point);
 
+/// "518 von 544": supply and need.
+[[nodiscard]] std::string EnergyText(const HistoryPoint& point);
+
 /// "+509/h", "−12/h"; truncated towards zero.
 [[nodiscard]] std::string RateText(FixedPoint perHour);
 

@@ -71,12 +71,8 @@ void AddFigures(std::vector<CardLine>& lines, const MomentState& state) {
                          .symbol = look.symbol,
                          .symbolColor = look.symbolColor});
     }
-    const auto number = [](Long value) {
-        return ToQString(GroupedText(static_cast<double>(value)));
-    };
     lines.push_back({.caption = QStringLiteral("Energie"),
-                     .figure = number(state.point.EnergieProduktion) + QStringLiteral(" von ") +
-                               number(state.point.EnergieVerbrauch),
+                     .figure = ToQString(EnergyText(state.point)),
                      .right = ToQString(FactorText(state.point)),
                      .rightColor = Color::Deficit,
                      .symbol = Symbol::Energy,

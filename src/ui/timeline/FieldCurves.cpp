@@ -91,7 +91,6 @@ struct Range {
 };
 
 /// From values to pixels.
-template <class Field>
 void ToPixels(QPolygonF& curve, const Field& field) {
     for (QPointF& point : curve) {
         point.setY(field.Y(point.y()));
@@ -275,7 +274,8 @@ PerResource<StockField> StockFieldsOf(const TimelineContent& content,
 
 EnergyField EnergyFieldOf(const RunTrace& run, const QRectF& rect, const TimeScale& scale,
                           double line, const TextWidth& widthOf) {
-    EnergyField field{.rect = rect};
+    EnergyField field;
+    field.rect = rect;
     if (rect.isEmpty()) {
         return field;
     }

@@ -22,36 +22,33 @@ struct FieldText {
 };
 
 /// A field that isn't there has an empty rectangle and nothing else.
-struct StockField {
+struct Field {
     QRectF rect;
-    ValueScale scale{};
-    std::vector<double> figures{};
-    /// Cut to the plot.
-    QPolygonF curve{};
-    /// Of the content's other runs.
-    std::vector<QPolygonF> others{};
-    /// "+509/h" where a rate begins, where an hour is wide enough and the curve leaves room.
-    std::vector<FieldText> rates{};
+    ValueScale scale;
+    /// Of the scale.
+    std::vector<double> figures;
 
     [[nodiscard]] double Y(double value) const {
         return rect.top() + scale.Down(value, rect.height());
     }
 };
 
-struct EnergyField {
-    QRectF rect;
-    ValueScale scale{};
-    std::vector<double> figures{};
-    QPolygonF supply{};
-    QPolygonF need{};
-    /// Between the two where supply falls short.
-    std::vector<QRectF> deficits{};
-    /// "Faktor 0,88", once for each stretch of the same factor that has room for it.
-    std::vector<FieldText> factors{};
+struct StockField : Field {
+    /// Cut to the plot.
+    QPolygonF curve;
+    /// Of the content's other runs.
+    std::vector<QPolygonF> others;
+    /// "+509/h" where a rate begins, where an hour is wide enough and the curve leaves room.
+    std::vector<FieldText> rates;
+};
 
-    [[nodiscard]] double Y(double value) const {
-        return rect.top() + scale.Down(value, rect.height());
-    }
+struct EnergyField : Field {
+    QPolygonF supply;
+    QPolygonF need;
+    /// Between the two where supply falls short.
+    std::vector<QRectF> deficits;
+    /// "Faktor 0,88", once for each stretch of the same factor that has room for it.
+    std::vector<FieldText> factors;
 };
 
 /// `line` is the height of a text.

@@ -11,8 +11,8 @@
 
 namespace tarvelin {
 
-/// `anchor` is the place from which the lines are counted. They lie 6 pixels apart, level and
-/// upright ones 3; dots 4.
+/// `anchor` is the place from which lines that aren't level are counted. They lie 6 pixels apart,
+/// level and upright ones 3; dots 4.
 [[nodiscard]] QList<QLineF> HatchLines(Hatching hatching, const QRectF& rect, double anchor);
 
 void PaintHatching(QPainter& painter, Hatching hatching, const QRectF& rect, double anchor,

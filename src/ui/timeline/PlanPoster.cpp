@@ -31,9 +31,8 @@ constexpr int kTitle = 27;
 constexpr double kIcon = 56;
 constexpr double kTimelineTop = 100;
 constexpr double kTimelineHeight = 392;
-/// For the chip of the end.
-constexpr double kBehindEnd = 40;
 constexpr double kLegend = 36;
+constexpr double kTableTop = kTimelineTop + kTimelineHeight + kLegend;
 
 constexpr std::size_t kColumns = 3;
 constexpr double kBetweenColumns = 20;
@@ -56,14 +55,14 @@ constexpr double kEndLine = 18;
 constexpr double kFoot = 28;
 constexpr double kStocksLeft = 770;
 
-/// Pictures keep their sharpness on a picture of twice the size.
+/// Pictures have more pixels than the poster, for formats that are scaled and printed.
 constexpr int kSharpness = 2;
 
 }  // namespace
 
 PlanPoster::PlanPoster(const RunTrace& run, const Parts& parts)
     : m_parts(parts),
-      m_small(ScaledPictures(parts.pictures, kSharpness * 24)),
+      m_small(ScaledPictures(parts.pictures, kSharpness * kLanePicture)),
       m_large(ScaledPictures(parts.pictures, kSharpness * kLevelPicture)),
       m_rows(PosterRows(run)) {
     m_content.run = run;
@@ -87,12 +86,8 @@ std::size_t PlanPoster::RowsPerColumn() const {
     return std::max<std::size_t>(1, (m_rows.size() + kColumns - 1) / kColumns);
 }
 
-double PlanPoster::TableTop() const {
-    return kTimelineTop + kTimelineHeight + kLegend;
-}
-
 double PlanPoster::EndTop() const {
-    return TableTop() + kHead + kRow * static_cast<double>(RowsPerColumn()) + kMargin;
+    return kTableTop + kHead + kRow * static_cast<double>(RowsPerColumn()) + kMargin;
 }
 
 std::vector<ItemId> PlanPoster::LevelsReached() const {
@@ -164,11 +159,10 @@ void PlanPoster::PaintHead(const TimelineCanvas& canvas) const {
 }
 
 void PlanPoster::PaintTimeline(const TimelineCanvas& canvas) const {
-    const TimeScale scale{
-        .left = m_timeline.plot.left(),
-        .right = m_timeline.plot.right(),
-        .first = 0,
-        .perSecond = (m_timeline.plot.width() - kBehindEnd) / m_content.EndSecond()};
+    const TimeScale scale{.left = m_timeline.plot.left(),
+                          .right = m_timeline.plot.right(),
+                          .first = 0,
+                          .perSecond = WholePlanScale(m_content, m_timeline)};
     const TimelineLayout layout(m_content, m_timeline, scale, WidthsOf(canvas.Look().font));
     const TimelinePainter timeline(canvas, m_content, layout);
     timeline.PaintPlot();
@@ -193,7 +187,7 @@ void PlanPoster::PaintTable(const TimelineCanvas& canvas) const {
         PaintTableHead(canvas, left);
         for (std::size_t i = 0; i < perColumn && column * perColumn + i < m_rows.size(); ++i) {
             const PosterRow& row = m_rows[column * perColumn + i];
-            const QRectF place(left, TableTop() + kHead + kRow * static_cast<double>(i), kColumn,
+            const QRectF place(left, kTableTop + kHead + kRow * static_cast<double>(i), kColumn,
                                kRow);
             if (i % 2 == 1) {
                 canvas.Fill(place, Color::Alternate);
@@ -209,7 +203,7 @@ void PlanPoster::PaintTable(const TimelineCanvas& canvas) const {
 void PlanPoster::PaintTableHead(const TimelineCanvas& canvas, double left) const {
     const TimelineLook look = LookWith(kCaption);
     const TimelineCanvas caption(canvas.Painter(), look);
-    const double top = TableTop();
+    const double top = kTableTop;
     caption.RightText(left + kNumberRight, top, kHead, QStringLiteral("Nr."), Color::Weak);
     caption.Text(left + kNameLeft, top, kHead, QStringLiteral("Auftrag"), Color::Weak);
     caption.RightText(left + kStartRight, top, kHead, QStringLiteral("Start"), Color::Weak);
@@ -271,9 +265,10 @@ void PlanPoster::PaintEnd(const TimelineCanvas& canvas) const {
 void PlanPoster::PaintLevels(const TimelineCanvas& canvas, double top) const {
     const auto items = LevelsReached();
     for (std::size_t i = 0; i < items.size(); ++i) {
+        const std::size_t line = i / kLevelsInLine;
         const QRectF place(kMargin + kLevelApart * static_cast<double>(i % kLevelsInLine),
-                           top + kLevelApart * static_cast<double>(i / kLevelsInLine),
-                           kLevelPicture, kLevelPicture);
+                           top + kLevelApart * static_cast<double>(line), kLevelPicture,
+                           kLevelPicture);
         const QPixmap& picture = m_large[items[i]];
         canvas.Painter().drawPixmap(place, picture, QRectF(picture.rect()));
         const QString level = QString::number(m_content.run->end.GetStufe(items[i]));
@@ -306,16 +301,10 @@ void PlanPoster::PaintStocks(const TimelineCanvas& canvas, double top) const {
                          ToQString(RateText(point.ProStunde[resource])), Color::Weak);
         line += kEndLine;
     }
-    const auto number = [](Long value) {
-        return ToQString(GroupedText(static_cast<double>(value)));
-    };
     const double left = kStocksLeft + kEnergy;
     canvas.Sign(left, top, kEndLine, Symbol::Energy, Color::Energy);
     canvas.Text(left + kName, top, kEndLine, QStringLiteral("Energie"), Color::Text);
-    canvas.BoldText(
-        kStocksLeft + kValue, top, kEndLine,
-        number(point.EnergieProduktion) + QStringLiteral(" von ") + number(point.EnergieVerbrauch),
-        Color::Text);
+    canvas.BoldText(kStocksLeft + kValue, top, kEndLine, ToQString(EnergyText(point)), Color::Text);
     // "Faktor" and its value are two words here.
     const QStringList factor = ToQString(FactorText(point)).split(QLatin1Char(' '));
     if (factor.size() == 2) {

@@ -45,13 +45,12 @@ class PlanPoster {
     void PaintStocks(const TimelineCanvas& canvas, double top) const;
     [[nodiscard]] TimelineLook LookWith(int pixels, bool bold = false) const;
     [[nodiscard]] std::size_t RowsPerColumn() const;
-    [[nodiscard]] double TableTop() const;
     [[nodiscard]] double EndTop() const;
     [[nodiscard]] std::vector<ItemId> LevelsReached() const;
 
     TimelineContent m_content;
     Parts m_parts;
-    /// In twice the size of a lane's, for the table, and of those at the end.
+    /// For timeline and table, and for the levels at the end.
     PerItem<QPixmap> m_small;
     PerItem<QPixmap> m_large;
     std::vector<PosterRow> m_rows;

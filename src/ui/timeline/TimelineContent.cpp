@@ -9,6 +9,13 @@
 
 namespace tarvelin {
 
+std::optional<SimTime> TimelineContent::Present() const {
+    return run && now && *now >= run->conditions.StartDate &&
+                   *now <= run->conditions.WallClock(run->Duration())
+               ? std::optional(SimTime(*now - run->conditions.StartDate))
+               : std::nullopt;
+}
+
 double TimelineContent::EndSecond() const {
     double end = 1;
     const auto include = [&](double second) { end = std::max(end, second); };

@@ -39,6 +39,8 @@ struct TimelineContent {
     /// Whether orders bear their names and moments where there is room.
     bool names = true;
 
+    /// Now, if the plan is being played.
+    [[nodiscard]] std::optional<SimTime> Present() const;
     /// Where the picture ends, in seconds since the plan's start: the end of the longest run, or of
     /// the last proposed night into which the plan falls; at least 1.
     [[nodiscard]] double EndSecond() const;

@@ -24,6 +24,12 @@ bool IsAt(const QPointF& position, const QRectF& rect) {
 
 }  // namespace
 
+double WholePlanScale(const TimelineContent& content, const TimelineRows& rows) {
+    // For the chip of the end.
+    constexpr double kBehindEnd = 40;
+    return std::max(1.0, rows.plot.width() - kBehindEnd) / content.EndSecond();
+}
+
 TimelineLayout::TimelineLayout(const TimelineContent& content, const TimelineRows& rows,
                                const TimeScale& scale, const TextWidths& widths)
     : m_content(content),
@@ -68,9 +74,8 @@ void TimelineLayout::LayOutLines(const TextWidth& widthOf) {
         m_lines.push_back({.kind = kind, .x = m_scale.X(second), .color = color, .chip = {}});
         chips.push_back({.x = m_lines.back().x, .text = text});
     };
-    if (m_content.now && *m_content.now >= run.conditions.StartDate &&
-        *m_content.now <= run.conditions.WallClock(run.Duration())) {
-        add(OverLine::Kind::Now, *m_content.now - run.conditions.StartDate, Color::Now,
+    if (const auto present = m_content.Present()) {
+        add(OverLine::Kind::Now, present->Seconds(), Color::Now,
             QStringLiteral("jetzt ") + ToQString(TimeOfDayText(*m_content.now)));
     }
     if (!run.starts.empty()) {

@@ -38,6 +38,9 @@ struct OverLine {
     std::optional<PlacedText> chip;
 };
 
+/// In pixels per second: the whole content is in the plot, with the chip at its end.
+[[nodiscard]] double WholePlanScale(const TimelineContent& content, const TimelineRows& rows);
+
 /// Of one width, zoom and place in the plan. The content must outlive it.
 class TimelineLayout {
   public:

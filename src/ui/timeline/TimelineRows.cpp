@@ -9,7 +9,7 @@ namespace {
 
 constexpr double kLegend = 28;
 constexpr double kAxisRow = 16;
-constexpr double kPicture = 24;
+constexpr double kPicture = kLanePicture;
 constexpr double kMargin = 3;
 constexpr double kBelowPicture = 2;
 constexpr double kBar = 14;

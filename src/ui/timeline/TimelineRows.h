@@ -12,6 +12,9 @@ namespace tarvelin {
 /// The lanes from top to bottom.
 inline constexpr std::array kLaneQueues{Queue::Building, Queue::Research, Queue::Shipyard};
 
+/// The side of a lane's pictures, in pixels.
+inline constexpr int kLanePicture = 24;
+
 /// What the rows depend on, in pixels.
 struct TimelineSpace {
     QRectF rect;

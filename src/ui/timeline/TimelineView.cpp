@@ -27,9 +27,6 @@ constexpr double kMaxScale = 20;
 /// Keeps the whole width within the range of a scroll bar.
 constexpr double kMaxWidth = 1e9;
 constexpr double kZoomStep = 1.25;
-/// For the chip of the end.
-constexpr double kBehindEnd = 40;
-constexpr int kPictureSide = 24;
 constexpr int kButton = 24;
 constexpr std::ptrdiff_t kLastOrder = std::numeric_limits<std::ptrdiff_t>::max();
 
@@ -106,7 +103,7 @@ void TimelineView::SetPictures(const PerItem<QPixmap>& pictures) {
     m_pictures = pictures;
     // Sharp at this screen's scale.
     m_look.pictures =
-        ScaledPictures(pictures, static_cast<int>(std::ceil(kPictureSide * devicePixelRatioF())));
+        ScaledPictures(pictures, static_cast<int>(std::ceil(kLanePicture * devicePixelRatioF())));
     update();
 }
 
@@ -145,7 +142,7 @@ void TimelineView::BringIntoView(std::size_t row) {
     }
     const TimeScale scale = Scale();
     const double x = scale.X(start->start);
-    if (x < scale.left || x + kPictureSide > scale.right) {
+    if (x < scale.left || x + kLanePicture > scale.right) {
         constexpr double kThird = 3;
         Show(start->start.Seconds() - (scale.right - scale.left) / kThird / m_perSecond,
              m_perSecond);
@@ -170,7 +167,7 @@ double TimelineView::Middle() const {
 }
 
 double TimelineView::MinScale() const {
-    return std::max(1.0, Rows().plot.width() - kBehindEnd) / m_content.EndSecond();
+    return WholePlanScale(m_content, Rows());
 }
 
 void TimelineView::ShowAll() {
@@ -188,7 +185,9 @@ void TimelineView::Show(double first, double perSecond) {
     m_perSecond = std::clamp(perSecond, MinScale(), largest);
     m_showsAll = m_perSecond <= MinScale();
     const double page = Rows().plot.width();
-    const double beyond = std::max(0.0, end * m_perSecond + kBehindEnd - page);
+    // As far behind the end as if all were in sight.
+    const double behind = page - WholePlanScale(m_content, Rows()) * end;
+    const double beyond = std::max(0.0, end * m_perSecond + behind - page);
     m_first = std::clamp(first * m_perSecond, 0.0, beyond) / m_perSecond;
     const QSignalBlocker noEcho(m_scrollBar);
     m_scrollBar->setRange(0, static_cast<int>(std::lround(beyond)));
@@ -423,7 +422,7 @@ void TimelineView::PaintOn(QPainter& painter, bool withCursor) {
     const TimelinePainter timeline(canvas, m_content, layout);
     timeline.PaintPlot();
     const auto cursor = withCursor ? CursorInSight() : std::nullopt;
-    timeline.PaintColumns(cursor ? cursor : PresentMoment());
+    timeline.PaintColumns(cursor ? cursor : m_content.Present());
     PaintTop(canvas, layout.Rows());
     timeline.PaintHours(cursor);
     if (cursor) {
@@ -440,14 +439,6 @@ std::optional<SimTime> TimelineView::CursorInSight() const {
     const double x = scale.X(*m_cursor);
     return scale.Shows(x - 1, x + 1)
                ? std::optional(SimTime(static_cast<Long>(std::floor(*m_cursor))))
-               : std::nullopt;
-}
-
-std::optional<SimTime> TimelineView::PresentMoment() const {
-    const RunTrace& run = *m_content.run;
-    return m_content.now && *m_content.now >= run.conditions.StartDate &&
-                   *m_content.now <= run.conditions.WallClock(run.Duration())
-               ? std::optional(SimTime(*m_content.now - run.conditions.StartDate))
                : std::nullopt;
 }
 

@@ -84,8 +84,6 @@ class TimelineView : public QWidget {
     [[nodiscard]] double Middle() const;
     void MoveCursor(std::optional<double> second);
     [[nodiscard]] std::optional<SimTime> CursorInSight() const;
-    /// Now, if the plan is being played.
-    [[nodiscard]] std::optional<SimTime> PresentMoment() const;
     /// The order before or after what is chosen, counted in the sequence of the starts; may be
     /// beyond them.
     [[nodiscard]] std::ptrdiff_t OrderBeside(int direction) const;
