@@ -90,6 +90,15 @@ Heights Share(const TimelineSpace& space) {
     return heights;
 }
 
+/// A lane that is too low for a picture has its bar alone.
+void SetLaneParts(const Heights& heights, TimelineRows& rows) {
+    const bool pictures = heights.lane >= kMargin + kPicture + heights.bar;
+    rows.bar = heights.bar;
+    rows.barTop = heights.lane - kMargin - heights.bar;
+    rows.picture = pictures ? kPicture : 0;
+    rows.pictureTop = pictures ? rows.barTop - kBelowPicture - kPicture : rows.barTop;
+}
+
 }  // namespace
 
 QRectF TimelineRows::PlotPart(const QRectF& row) const {
@@ -120,11 +129,7 @@ TimelineRows TimelineRows::In(const TimelineSpace& space) {
     rows.hours = next(axisRow);
     rows.nights = next(axisRow);
     std::ranges::generate(rows.lanes, [&] { return next(heights.lane); });
-    const bool pictures = heights.lane >= kMargin + kPicture + heights.bar;
-    rows.bar = heights.bar;
-    rows.barTop = heights.lane - kMargin - heights.bar;
-    rows.picture = pictures ? kPicture : 0;
-    rows.pictureTop = pictures ? rows.barTop - kBelowPicture - kPicture : rows.barTop;
+    SetLaneParts(heights, rows);
     top += kAboveWaits;
     rows.waits = next(std::max(kWaits, space.line + 4));
     const double foot = space.rect.bottom() - (space.scrollBar ? kScrollBar + kAboveField : 0.0);
