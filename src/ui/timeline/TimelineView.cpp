@@ -238,10 +238,13 @@ void TimelineView::mouseMoveEvent(QMouseEvent* event) {
             m_lastPosition = event->pos();
         }
     }
+    // From the dates down, up to the end of the plan.
     const TimeScale scale = Scale();
-    const double x = event->position().x();
+    const QPointF at = event->position();
     const double end = m_content.run ? scale.X(m_content.run->Duration()) : 0;
-    MoveCursor(scale.Shows(x, x) && x <= end + 1 ? std::optional(scale.SecondAt(x)) : std::nullopt);
+    const bool isOverPlan = at.y() >= Rows().days.top() && scale.Shows(at.x(), at.x());
+    MoveCursor(isOverPlan && at.x() <= end + 1 ? std::optional(scale.SecondAt(at.x()))
+                                               : std::nullopt);
 }
 
 void TimelineView::mouseReleaseEvent(QMouseEvent* event) {
