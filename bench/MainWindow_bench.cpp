@@ -9,11 +9,11 @@
 
 #include "ui/ProgramWindows.h"
 #include "ui/mainwindow/BuildListView.h"
+#include "ui/timeline/TimelineView.h"
 #include "ui/widgets/Appearance.h"
 #include "ui/widgets/Controls.h"
 #include "ui/widgets/ItemDisplay.h"
 #include "ui/workbench/OrderListView.h"
-#include "ui/timeline/TimelineView.h"
 
 namespace tarvelin {
 namespace {

@@ -44,9 +44,11 @@ def capture_timeline(workbench, pictures):
     xdotool("mousemove", x, y, *["click", 4] * 9, "sleep", 0.5)
     section = os.path.join(pictures, "workbench-timeline.png")
     workbench.screenshot(section, "Tarvelin Werkbank")
-    node = workbench.find("filler", "Zeitleiste").get_extents(1)
+    node = workbench.find("filler", "Zeitleiste")
+    place, size = node.get_extents(1), node.get_extents(0)
     subprocess.run(["convert", section, "-crop",
-                    f"{node.width}x{node.height}+{node.x}+{node.y}", "+repage", section], check=True)
+                    f"{size.width}x{size.height}+{place.x}+{place.y}", "+repage", section],
+                   check=True)
     xdotool("key", "0")
     with tempfile.TemporaryDirectory() as temp:
         poster = os.path.join(temp, "poster.png")
