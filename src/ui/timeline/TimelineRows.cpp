@@ -76,13 +76,14 @@ Heights Share(const TimelineSpace& space) {
         heights.field += spare / (kFields - 1);
         return heights;
     }
-    const double small = std::max(kSmallField, space.line + 4);
-    heights.field = std::max(small, heights.field + spare / kFields);
+    // Pictures are worth more than high fields, as long as a line of text has room.
+    const double least = space.line + 1;
+    heights.field = std::max(least, heights.field + spare / kFields);
     heights.energy = heights.field;
     if (WholeHeight(heights, space) > space.rect.height()) {
         heights.lane = kMargin + heights.bar + kMargin;
-        heights.field = small;
-        heights.energy = small;
+        heights.field = std::max(kSmallField, space.line + 4);
+        heights.energy = heights.field;
         const double left = space.rect.height() - WholeHeight(heights, space);
         heights.field += std::max(0.0, left / kFields);
         heights.energy = heights.field;
