@@ -418,7 +418,6 @@ TEST(Timeline, PosterSaysWhatTheRunSays) {
     const RunTrace run = StarterRun();
     const PlanPoster poster(
         run, {.planName = QStringLiteral("Probe"), .icon = {}, .pictures = {}, .font = {}});
-    EXPECT_EQ(poster.Size().width(), 1200);
     std::vector<std::string> words =
         WordsOf(ToSvg(poster.Size(), [&](QPainter& painter) { poster.Paint(painter); }));
     const auto take = [&](const std::string& word) {

@@ -163,8 +163,7 @@ std::string BriefWaitText(const RunTrace& trace, const StartEvent& start) {
             if (window == nullptr) {
                 break;
             }
-            const std::string end = TimeOfDayText(window->Endzeit());
-            return "bis " + end.substr(0, end.rfind(':'));
+            return "bis " + ShortTimeOfDayText(window->Endzeit());
         }
         default:
             break;

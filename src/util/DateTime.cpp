@@ -162,6 +162,11 @@ std::string TimeOfDayText(DateTime time) {
     return text;
 }
 
+std::string ShortTimeOfDayText(DateTime time) {
+    const std::string text = TimeOfDayText(time);
+    return text.substr(0, text.rfind(':'));
+}
+
 std::string DateTimeText(DateTime time) {
     std::string text;
     AppendDate(text, time);

@@ -52,6 +52,8 @@ class DateTime {
 [[nodiscard]] std::string DateText(DateTime time);
 /// "12:30:00".
 [[nodiscard]] std::string TimeOfDayText(DateTime time);
+/// "12:30".
+[[nodiscard]] std::string ShortTimeOfDayText(DateTime time);
 /// "18.11.2006 12:30:00".
 [[nodiscard]] std::string DateTimeText(DateTime time);
 

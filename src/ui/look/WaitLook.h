@@ -24,12 +24,11 @@ struct WaitLook {
     Color ground;
     /// Of the lines on the ground.
     Color hatch;
-
-    friend bool operator==(const WaitLook&, const WaitLook&) = default;
 };
 
+/// Of what an order waited for.
 [[nodiscard]] WaitLook LookOf(const RunTrace& trace, const StartEvent& start);
-
+/// Of a wait for a resource.
 [[nodiscard]] WaitLook LookOf(Resource resource);
 
 /// All that there are, in the sequence of a legend.

@@ -41,8 +41,7 @@ QStringList DayTexts(DateTime day, bool isEachDay) {
 }
 
 QString ShortTime(DateTime time) {
-    const std::string text = TimeOfDayText(time);
-    return ToQString(text.substr(0, text.rfind(':')));
+    return ToQString(ShortTimeOfDayText(time));
 }
 
 QStringList NightTexts(DateTime from, DateTime until) {

@@ -15,8 +15,8 @@ namespace tarvelin {
 
 namespace {
 
-QString WithoutSeconds(const std::string& time) {
-    return ToQString(time.substr(0, time.rfind(':')));
+QString ShortTime(DateTime time) {
+    return ToQString(ShortTimeOfDayText(time));
 }
 
 QString Degrees(int temperature) {
@@ -30,8 +30,7 @@ QString SleepText(const std::vector<cSchlafzeit>& windows) {
     }
     const auto text = [](const cSchlafzeit& window) {
         return QStringLiteral("Schlaf %1 bis %2")
-            .arg(WithoutSeconds(TimeOfDayText(window.Startzeit())),
-                 WithoutSeconds(TimeOfDayText(window.Endzeit())));
+            .arg(ShortTime(window.Startzeit()), ShortTime(window.Endzeit()));
     };
     const QString first = text(windows.front());
     const bool alike = std::ranges::all_of(
@@ -70,8 +69,7 @@ QString PosterSubtitle(const RunConditions& conditions) {
     return QStringList{
         QStringLiteral("Start %1 %2 %3")
             .arg(ToQString(WeekdayShort(conditions.StartDate)),
-                 ToQString(DateText(conditions.StartDate)),
-                 WithoutSeconds(TimeOfDayText(conditions.StartDate))),
+                 ToQString(DateText(conditions.StartDate)), ShortTime(conditions.StartDate)),
         QStringLiteral("Planet %1 bis %2 °C")
             .arg(Degrees(conditions.Temperatur - kSpan), Degrees(conditions.Temperatur)),
         QStringLiteral("Geschwindigkeit ×%1").arg(conditions.Speedfaktor),
@@ -81,9 +79,10 @@ QString PosterSubtitle(const RunConditions& conditions) {
 }
 
 std::vector<PosterFigure> PosterFigures(const RunTrace& run) {
-    const auto end = ShortDateTimeText(run.conditions.WallClock(run.Duration()));
+    const std::string end = ShortDateTimeText(run.conditions.WallClock(run.Duration()));
+    constexpr int kSeconds = 3;
     return {{QStringLiteral("Dauer"), ToQString(TimeSpanText(run.Duration().Seconds()))},
-            {QStringLiteral("Ende"), WithoutSeconds(end)},
+            {QStringLiteral("Ende"), ToQString(end).chopped(kSeconds)},
             {QStringLiteral("Sitzungen"), QString::number(RunSummary::Of(run).sittings)},
             {QStringLiteral("Punkte"), ToQString(PointsText(run.end))}};
 }
